@@ -1,0 +1,9 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The libraries that Debian 12 provides. Each is included by exactly one folder of src/.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg Network)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(vips REQUIRED IMPORTED_TARGET vips-cpp>=8.14)
+pkg_check_modules(heif REQUIRED IMPORTED_TARGET libheif>=1.15)
+pkg_check_modules(exiv2 REQUIRED IMPORTED_TARGET exiv2>=0.27)
+pkg_check_modules(lcms2 REQUIRED IMPORTED_TARGET lcms2>=2.14)
+pkg_check_modules(sqlite3 REQUIRED IMPORTED_TARGET sqlite3>=3.40)

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace brenvaldo::controls {
+
+/// What an open panel asks for.
+struct OpenPanel
+{
+    QString message;
+    QString prompt;
+    bool choosesFiles = true;
+    bool choosesDirectories = false;
+    bool allowsMultipleSelection = false;
+    bool canCreateDirectories = false;
+    QStringList allowedTypes; ///< extensions; empty allows every file
+    QString startFolder; ///< empty: where the panel stood last
+};
+
+/// What a save panel asks for.
+struct SavePanel
+{
+    QString message;
+    QString suggestedName;
+    QStringList allowedTypes;
+    bool allowsOtherTypes = true;
+    QString startFolder;
+};
+
+/// Asks the user for files; a window shows panels, a script answers from its queue.
+class FileChooser
+{
+public:
+    FileChooser() = default;
+    FileChooser(const FileChooser&) = delete;
+    FileChooser& operator=(const FileChooser&) = delete;
+    FileChooser(FileChooser&&) = delete;
+    FileChooser& operator=(FileChooser&&) = delete;
+    virtual ~FileChooser() = default;
+
+    /// The chosen paths; nothing when the panel was not answered with OK.
+    [[nodiscard]] virtual std::optional<QStringList> open(const OpenPanel& panel) = 0;
+    [[nodiscard]] virtual std::optional<QString> save(const SavePanel& panel) = 0;
+};
+
+} // namespace brenvaldo::controls

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "control.h"
+
+namespace brenvaldo::controls {
+
+/// A number between two ends, chosen by dragging.
+class Slider : public Control
+{
+public:
+    Slider(const QString& name, double minimum, double maximum, double value);
+
+    [[nodiscard]] double minimum() const { return m_minimum; }
+    [[nodiscard]] double maximum() const { return m_maximum; }
+    [[nodiscard]] double doubleValue() const { return m_value; }
+    /// Values beyond an end become that end.
+    void setDoubleValue(double value);
+
+private:
+    double m_minimum;
+    double m_maximum;
+    double m_value;
+};
+
+/// The bar of a run: hidden while nothing runs.
+class ProgressIndicator : public Control
+{
+public:
+    explicit ProgressIndicator(const QString& name);
+
+    [[nodiscard]] double minimum() const { return 0; }
+    [[nodiscard]] double maximum() const { return m_maximum; }
+    [[nodiscard]] double doubleValue() const { return m_value; }
+    [[nodiscard]] bool isAnimating() const { return m_animating; }
+
+    void setMaximum(double maximum);
+    void setDoubleValue(double value);
+    /// The value stops at the maximum.
+    void incrementBy(double step);
+    void startAnimation();
+    void stopAnimation();
+
+private:
+    double m_maximum = 100;
+    double m_value = 0;
+    bool m_animating = false;
+};
+
+} // namespace brenvaldo::controls

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "panels.h"
+
+#include <algorithm>
+
+namespace brenvaldo::panels {
+
+Panels::Panels()
+{
+    for (controls::Control* control : window.all())
+        add(*control);
+    add(vwShowPreview);
+    add(vwApplyOn);
+    add(vwFileType);
+    add(vwMainDestination);
+    add(vwResizePhotos);
+    add(vwResizePhotos.pubResizeType);
+    add(vwResizePhotos.dvVCUiScaleMaxView);
+    add(vwResizePhotos.dvVCUiScaleFixView);
+}
+
+void Panels::add(const PanelView& view)
+{
+    m_views.append(&view);
+    for (controls::Control* control : view.controls())
+        add(*control);
+}
+
+void Panels::add(controls::Control& control)
+{
+    m_controls.append(&control);
+    m_controlsByName.insert(control.name(), &control);
+    for (const QString& alias : control.aliases())
+        m_controlsByName.insert(alias, &control);
+}
+
+controls::Control* Panels::control(const QString& name) const
+{
+    return m_controlsByName.value(name);
+}
+
+const PanelView* Panels::view(const QString& name) const
+{
+    const auto found = std::find_if(m_views.begin(), m_views.end(), [&](const PanelView* view) {
+        return view->name() == name;
+    });
+    return found == m_views.end() ? nullptr : *found;
+}
+
+bool Panels::isShown(const PanelView& view) const
+{
+    for (const controls::Control* control : m_controls) {
+        const auto* holder = dynamic_cast<const controls::Holder*>(control);
+        if (!holder || !holder->views().contains(view.name()))
+            continue;
+        const auto around
+            = std::find_if(m_views.begin(), m_views.end(), [&](const PanelView* other) {
+                  return other->controls().contains(control);
+              });
+        return around == m_views.end() || isShown(**around);
+    }
+    return false;
+}
+
+} // namespace brenvaldo::panels

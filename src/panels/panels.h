@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "output_panels.h"
+#include "resize_panel.h"
+#include "window_controls.h"
+
+#include <QHash>
+
+namespace brenvaldo::panels {
+
+/// Every control of the program, each exactly once, in the panel that shows it.
+class Panels
+{
+public:
+    Panels();
+
+    WindowControls window;
+    ShowPreviewPanel vwShowPreview;
+    ApplyOnPanel vwApplyOn;
+    FileTypePanel vwFileType;
+    MainDestinationPanel vwMainDestination;
+    ResizePanel vwResizePhotos;
+
+    /// The control of that name or alias; null when there is none.
+    [[nodiscard]] controls::Control* control(const QString& name) const;
+
+    /// The panel view of that name; null when there is none.
+    [[nodiscard]] const PanelView* view(const QString& name) const;
+
+    [[nodiscard]] const QList<controls::Control*>& controls() const { return m_controls; }
+    [[nodiscard]] const QList<const PanelView*>& views() const { return m_views; }
+
+    /// True while the view stands in a holder, and all views around it do.
+    [[nodiscard]] bool isShown(const PanelView& view) const;
+
+private:
+    void add(const PanelView& view);
+    void add(controls::Control& control);
+
+    QList<controls::Control*> m_controls;
+    QList<const PanelView*> m_views;
+    QHash<QString, controls::Control*> m_controlsByName;
+};
+
+} // namespace brenvaldo::panels

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "log.h"
+
+#include <cstdio>
+#include <mutex>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+struct Log
+{
+    std::mutex mutex;
+    LogSink sink;
+};
+
+Log& sharedLog()
+{
+    static Log log;
+    return log;
+}
+
+} // namespace
+
+void log(const QString& line)
+{
+    Log& shared = sharedLog();
+    const std::scoped_lock lock(shared.mutex);
+    if (shared.sink) {
+        shared.sink(line);
+        return;
+    }
+    const QByteArray text = line.toUtf8() + '\n';
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stderr);
+}
+
+void setLogSink(LogSink sink)
+{
+    Log& shared = sharedLog();
+    const std::scoped_lock lock(shared.mutex);
+    shared.sink = std::move(sink);
+}
+
+} // namespace brenvaldo::platform

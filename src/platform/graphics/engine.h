@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace brenvaldo::platform {
+
+/// Starts the pixel engine for the life of the process; one object stands first in each `main`.
+///
+/// The operation cache is off, unsafe decoders are blocked, and the engine's messages go to the
+/// log.
+class Engine
+{
+public:
+    Engine();
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+    Engine(Engine&&) = delete;
+    Engine& operator=(Engine&&) = delete;
+    ~Engine();
+};
+
+/// Number of threads that one picture is evaluated with.
+[[nodiscard]] int engineThreads();
+
+} // namespace brenvaldo::platform

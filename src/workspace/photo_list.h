@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <platform/foundation/signal.h>
+#include <platform/graphics/geometry.h>
+
+#include <QList>
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+
+namespace brenvaldo::workspace {
+
+/// The picture of an entry: what the grid draws. It is rendered by the grid when it is needed.
+struct ListPicture
+{
+    enum class Kind { Photo, Document };
+
+    Kind kind = Kind::Photo;
+    QString path;
+    /// Pixel size to scale to; not set: the full picture. Invalid when the photo can't be read.
+    std::optional<platform::PixelSize> scaledTo;
+
+    friend bool operator==(const ListPicture&, const ListPicture&) = default;
+};
+
+/// One entry of the photo list.
+struct cCollectionViewItem
+{
+    QString myPhotoName = QStringLiteral("pictureName");
+    QUrl myPhotoURL; ///< unset on entries added by dropping
+    QString myPhotoDescription
+        = QStringLiteral("Fantastisch"); ///< the file's path: the entry's identity
+    QString myPhotoOrientation; ///< "L", "P" or "S"
+    int myPhotoSelect = 1; ///< 1: takes part in a run
+    ListPicture myPhoto;
+    QString myPhotoPxSize; ///< "4000x3000px | 2.10MB"
+    QString myNewName; ///< name from a dry run of renaming
+    int myRenameSelect = 0; ///< 1: a file that is no photo
+};
+
+/// The ordered list of photos and the index that is selected (only the first of a selection
+/// counts).
+///
+/// Once sorted, the list keeps its order: a new entry falls into its sorted place.
+class PhotoList
+{
+public:
+    enum class Order { Ascending, Descending };
+
+    [[nodiscard]] const QList<cCollectionViewItem>& entries() const { return m_entries; }
+    [[nodiscard]] int count() const { return static_cast<int>(m_entries.size()); }
+    [[nodiscard]] bool isEmpty() const { return m_entries.isEmpty(); }
+
+    void append(const cCollectionViewItem& entry);
+    void insert(int index, const cCollectionViewItem& entry);
+    void removeAt(int index);
+    void replaceAt(int index, const cCollectionViewItem& entry);
+    void move(int from, int to);
+    void sortByName(Order order);
+
+    [[nodiscard]] std::optional<int> selectedIndex() const { return m_selected; }
+    /// An index outside of the list selects nothing.
+    void select(std::optional<int> index);
+    /// The first selected entry; null without a selection.
+    [[nodiscard]] const cCollectionViewItem* selectedEntry() const;
+
+    platform::Signal<> entriesChanged;
+    platform::Signal<> selectionChanged;
+
+private:
+    QList<cCollectionViewItem> m_entries;
+    std::optional<int> m_selected;
+    std::optional<Order> m_order;
+};
+
+} // namespace brenvaldo::workspace

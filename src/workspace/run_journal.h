@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <platform/foundation/signal.h>
+
+#include <QDateTime>
+#include <QList>
+#include <QString>
+
+namespace brenvaldo::workspace {
+
+/// What a run did with one photo.
+struct RunRecord
+{
+    QDateTime time;
+    QString function; ///< function id
+    QString source; ///< path of the photo
+    QString target; ///< path of the file that was to be written; empty when there is none
+    QString word; ///< result word
+};
+
+/// Keeps what each run did, for as long as the process lives: the place to look up silent failures.
+class RunJournal
+{
+public:
+    void add(const RunRecord& record);
+    void clear();
+    [[nodiscard]] const QList<RunRecord>& records() const { return m_records; }
+
+    /// One TAB-separated line a record, oldest first.
+    [[nodiscard]] QString asText() const;
+
+    platform::Signal<const RunRecord&> recorded;
+
+private:
+    QList<RunRecord> m_records;
+};
+
+} // namespace brenvaldo::workspace
