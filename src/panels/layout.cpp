@@ -14,16 +14,27 @@ struct ControlGatherer
     void operator()(const Row& row) const
     {
         for (const Field& field : row.fields)
-            found.append(field.control);
+            add(field.control);
     }
     void operator()(const Heading&) const { }
     void operator()(const Note&) const { }
-    void operator()(const HolderPlace& place) const { found.append(place.holder); }
+    void operator()(const HolderPlace& place) const { add(place.holder); }
+    void operator()(const Table& table) const
+    {
+        add(table.table);
+        add(table.rows);
+    }
     void operator()(const Pages& pages) const
     {
-        found.append(pages.tabs);
+        add(pages.tabs);
         for (const Layout& page : pages.pages)
             gatherControls(page, found);
+    }
+
+    void add(controls::Control* control) const
+    {
+        if (!found.contains(control))
+            found.append(control);
     }
 };
 

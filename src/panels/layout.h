@@ -54,6 +54,22 @@ struct HolderPlace
     controls::Holder* holder = nullptr;
 };
 
+/// A column of a table: a field of its rows, under a title.
+struct TableColumn
+{
+    QString key;
+    QString title;
+};
+
+/// A table of the rows of an array controller; rows with a field "depth" are shown as a tree.
+struct Table
+{
+    controls::TableView* table = nullptr;
+    controls::ArrayController* rows = nullptr;
+    QList<TableColumn> columns = {};
+    QString accessibleName = {};
+};
+
 struct LayoutItem;
 using Layout = std::vector<LayoutItem>;
 
@@ -66,7 +82,7 @@ struct Pages
 
 struct LayoutItem
 {
-    std::variant<Row, Heading, Note, HolderPlace, Pages> item;
+    std::variant<Row, Heading, Note, HolderPlace, Table, Pages> item;
 };
 
 /// A view that a holder can take: its name and what stands in it.
@@ -83,7 +99,8 @@ public:
     [[nodiscard]] const QString& name() const { return m_name; }
     [[nodiscard]] const Layout& layout() const { return m_layout; }
 
-    /// All controls that stand in the layout, tab views and holders among them, in reading order.
+    /// All controls that stand in the layout, tab views, holders and the rows of
+    /// tables among them, in reading order and each once.
     [[nodiscard]] QList<controls::Control*> controls() const;
 
 protected:
