@@ -70,6 +70,8 @@ public:
     platform::Signal<> selectionChanged;
 
 private:
+    [[nodiscard]] int placeFor(const cCollectionViewItem& entry, int wanted) const;
+
     QList<cCollectionViewItem> m_entries;
     std::optional<int> m_selected;
     std::optional<Order> m_order;

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "photo_list.h"
+#include "run_journal.h"
+
+#include <controls/action_registry.h>
+#include <controls/file_chooser.h>
+#include <panels/panels.h>
+#include <platform/foundation/notification_center.h>
+#include <platform/foundation/user_defaults.h>
+#include <platform/storage/desktop.h>
+
+#include <memory>
+
+namespace brenvaldo::workspace {
+
+/// What a program gives to the workspace: a window asks and shows, a script answers and prints.
+struct Surroundings
+{
+    controls::FileChooser& chooser;
+    platform::Desktop& desktop;
+    platform::UserDefaults& defaults;
+};
+
+/// The whole program below its window: panels, actions, photo list, journal, and the controllers
+/// that work on them, wired together.
+class Workspace
+{
+public:
+    explicit Workspace(const Surroundings& surroundings);
+    Workspace(const Workspace&) = delete;
+    Workspace& operator=(const Workspace&) = delete;
+    Workspace(Workspace&&) = delete;
+    Workspace& operator=(Workspace&&) = delete;
+    ~Workspace();
+
+    [[nodiscard]] panels::Panels& panels();
+    [[nodiscard]] controls::ActionRegistry& actions();
+    [[nodiscard]] PhotoList& photos();
+    [[nodiscard]] RunJournal& journal();
+    [[nodiscard]] platform::NotificationCenter& notifications();
+
+    /// Brings the program to its first state; once, before the window shows.
+    void start();
+
+    /// Adds the files at `paths` to the photo list; those that come before `start` wait for its
+    /// end.
+    void openFiles(const QStringList& paths);
+
+    /// Empties the folder of temporary files; the program ends after it.
+    void lastWindowClosed();
+
+    /// The preview area at full pixel size, the overlay drawn over the photo; nothing while both
+    /// views are empty.
+    [[nodiscard]] std::optional<platform::Image> composedPreview() const;
+
+    /// The rows behind a table of that name; null when there is no such table.
+    [[nodiscard]] controls::ArrayController* rowsOf(const QString& tableName);
+
+    /// A message to the user: title and text, sent after the sheet shows them.
+    platform::Signal<const QString&, const QString&> alertShown;
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace brenvaldo::workspace
