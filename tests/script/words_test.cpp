@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <script/words.h>
+
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using brenvaldo::script::wordsOfLine;
+
+namespace {
+
+struct Line
+{
+    const char* name;
+    QByteArray text;
+    QStringList words;
+};
+
+void PrintTo(const Line& line, std::ostream* out) { *out << line.name; }
+
+struct FaultyLine
+{
+    const char* name;
+    QByteArray text;
+    QString fault;
+};
+
+void PrintTo(const FaultyLine& line, std::ostream* out) { *out << line.name; }
+
+constexpr auto nameOfRow = [](const auto& row) { return std::string(row.param.name); };
+
+} // namespace
+
+class WordsOfLine : public testing::TestWithParam<Line>
+{
+};
+
+TEST_P(WordsOfLine, ArePartedAsTheTableTells)
+{
+    const auto found = wordsOfLine(GetParam().text);
+
+    EXPECT_EQ(found.words, GetParam().words);
+    EXPECT_EQ(found.fault, QString());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    WordsOfLine,
+    testing::Values(
+        Line{"Empty", "", {}},
+        Line{"BlanksOnly", " \t ", {}},
+        Line{"OneWord", "photos", {u"photos"_qs}},
+        Line{"BlanksAndTabs", "  set \t tfSize   12 ", {u"set"_qs, u"tfSize"_qs, u"12"_qs}},
+        Line{"CarriageReturnAtTheEnd", "photos\r", {u"photos"_qs}},
+        Line{"QuotedBlanks", "set tf \"a  b\"", {u"set"_qs, u"tf"_qs, u"a  b"_qs}},
+        Line{"EmptyQuotes", "set tf \"\"", {u"set"_qs, u"tf"_qs, QString()}},
+        Line{"AllEscapes", R"("\"\\\n\r\t")", {u"\"\\\n\r\t"_qs}},
+        Line{"CommentLine", "# set tf 1", {}},
+        Line{"CommentAfterWords", "select 1 # the second", {u"select"_qs, u"1"_qs}},
+        Line{"CommentAfterQuotes", "open \"a\" #b", {u"open"_qs, u"a"_qs}},
+        Line{"NumberSignInsideAWord", "open a#1.jpg", {u"open"_qs, u"a#1.jpg"_qs}},
+        Line{
+            "NumberSignInQuotes",
+            "set tf \"# no comment\"",
+            {u"set"_qs, u"tf"_qs, u"# no comment"_qs}},
+        Line{"QuoteInsideABareWord", "set tf 24\"", {u"set"_qs, u"tf"_qs, u"24\""_qs}},
+        Line{"BackslashInABareWord", "set tf a\\nb", {u"set"_qs, u"tf"_qs, u"a\\nb"_qs}},
+        Line{"Umlauts", "set tf \xC3\x84pfel", {u"set"_qs, u"tf"_qs, u"\u00C4pfel"_qs}},
+        Line{"ByteOrderMark", "\xEF\xBB\xBFphotos", {u"photos"_qs}}
+    ),
+    nameOfRow
+);
+
+class FaultOfLine : public testing::TestWithParam<FaultyLine>
+{
+};
+
+TEST_P(FaultOfLine, IsNamed)
+{
+    const auto found = wordsOfLine(GetParam().text);
+
+    EXPECT_EQ(found.fault, GetParam().fault);
+    EXPECT_TRUE(found.words.isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    FaultOfLine,
+    testing::Values(
+        FaultyLine{"OpenQuote", "set tf \"a", u"a quote is not closed"_qs},
+        FaultyLine{"QuoteClosedByAnEscape", R"(set tf "a\")", u"a quote is not closed"_qs},
+        FaultyLine{"BackslashAtTheEnd", "\"a\\", u"a quote is not closed"_qs},
+        FaultyLine{"UnknownEscape", R"("\x")", u"unknown escape \\x"_qs},
+        FaultyLine{"WordsGluedToQuotes", "\"a\"b", u"a blank is missing after a quoted word"_qs},
+        FaultyLine{"InvalidUtf8", "set tf \xFF", u"the line is not UTF-8"_qs}
+    ),
+    nameOfRow
+);
