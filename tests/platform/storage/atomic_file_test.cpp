@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/storage/atomic_file.h>
+
+#include <support/faults.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+using namespace brenvaldo::platform;
+using brenvaldo::test::FullDisk;
+using brenvaldo::test::TemporaryFolder;
+using brenvaldo::test::WithoutPrivileges;
+
+namespace {
+
+QStringList allEntries(const TemporaryFolder& folder)
+{
+    return QDir(folder.path())
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+struct stat statusOf(const QString& path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        qFatal("no such file");
+    return status;
+}
+
+void setMode(const QString& path, mode_t mode)
+{
+    if (::chmod(QFile::encodeName(path).constData(), mode) != 0)
+        qFatal("the mode can't be set");
+}
+
+} // namespace
+
+TEST(AtomicFile, AppearsWholeAtItsPlace)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.path(u"photo.jpg"_qs);
+
+    EXPECT_TRUE(writeFileAtomically(path, "pixels"));
+
+    EXPECT_EQ(TemporaryFolder::read(path), "pixels");
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+}
+
+TEST(AtomicFile, ReplacesWhatStandsThere)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(u"photo.jpg"_qs, "the old and longer contents");
+
+    EXPECT_TRUE(writeFileAtomically(path, "new"));
+
+    EXPECT_EQ(TemporaryFolder::read(path), "new");
+}
+
+TEST(AtomicFile, WritesToAHiddenFileOfTheTargetsFolder)
+{
+    const TemporaryFolder folder;
+    const AtomicFile file(folder.path(u"photo.jpg"_qs));
+
+    ASSERT_TRUE(file.isValid());
+    const QFileInfo temporary(file.temporaryPath());
+    EXPECT_EQ(temporary.path() + u'/', folder.path());
+    EXPECT_TRUE(temporary.fileName().startsWith(u'.'));
+}
+
+TEST(AtomicFile, LeavesNothingWithoutACommit)
+{
+    const TemporaryFolder folder;
+    {
+        const AtomicFile file(folder.path(u"photo.jpg"_qs));
+        ASSERT_EQ(allEntries(folder).size(), 1);
+    }
+
+    EXPECT_EQ(allEntries(folder), QStringList());
+}
+
+TEST(AtomicFile, CommitsOnce)
+{
+    const TemporaryFolder folder;
+    AtomicFile file(folder.path(u"photo.jpg"_qs));
+
+    EXPECT_TRUE(file.commit());
+    EXPECT_FALSE(file.commit());
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+}
+
+TEST(AtomicFile, KeepsModeAndOwnerOfTheTarget)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(u"photo.jpg"_qs, "old");
+    setMode(path, 0604);
+    const bool superuser = ::geteuid() == 0;
+    if (superuser) {
+        ASSERT_EQ(::chown(QFile::encodeName(path).constData(), 1234, 2345), 0);
+    }
+
+    ASSERT_TRUE(writeFileAtomically(path, "new"));
+
+    const struct stat status = statusOf(path);
+    EXPECT_EQ(status.st_mode & 07777U, 0604U);
+    EXPECT_EQ(status.st_uid, superuser ? 1234 : ::geteuid());
+    EXPECT_EQ(status.st_gid, superuser ? 2345 : ::getegid());
+}
+
+TEST(AtomicFile, FollowsTheUsersMaskWhenItIsNew)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.path(u"photo.jpg"_qs);
+    const mode_t before = ::umask(027);
+
+    const bool written = writeFileAtomically(path, "new");
+    ::umask(before);
+
+    EXPECT_TRUE(written);
+    EXPECT_EQ(statusOf(path).st_mode & 07777U, 0640U);
+}
+
+TEST(AtomicFile, WritesThroughALink)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(u"photo.jpg"_qs, "old");
+    const QString link = folder.path(u"link.jpg"_qs);
+    ASSERT_TRUE(QFile::link(path, link));
+
+    EXPECT_TRUE(writeFileAtomically(link, "new"));
+
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(TemporaryFolder::read(path), "new");
+}
+
+TEST(AtomicFile, TakesTheLongestNames)
+{
+    const TemporaryFolder folder;
+    const QString ascii(255, u'n');
+    const QString accents = QString(127, u'é') + u'n';
+
+    EXPECT_TRUE(writeFileAtomically(folder.path(ascii), "a"));
+    EXPECT_TRUE(writeFileAtomically(folder.path(accents), "b"));
+
+    EXPECT_EQ(allEntries(folder).size(), 2);
+    EXPECT_EQ(TemporaryFolder::read(folder.path(accents)), "b");
+}
+
+TEST(AtomicFile, FailsForANameThatIsTooLong)
+{
+    const TemporaryFolder folder;
+
+    EXPECT_FALSE(writeFileAtomically(folder.path(QString(256, u'n')), "a"));
+
+    EXPECT_EQ(allEntries(folder), QStringList());
+}
+
+TEST(AtomicFile, FailsWithoutItsFolder)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.path(u"missing/photo.jpg"_qs);
+
+    EXPECT_FALSE(AtomicFile(path).isValid());
+    EXPECT_FALSE(writeFileAtomically(path, "a"));
+    EXPECT_EQ(allEntries(folder), QStringList());
+}
+
+TEST(AtomicFile, FailsWhereAFolderStands)
+{
+    const TemporaryFolder folder;
+    QDir().mkpath(folder.path(u"target"_qs));
+
+    EXPECT_FALSE(writeFileAtomically(folder.path(u"target"_qs), "a"));
+
+    EXPECT_EQ(allEntries(folder), QStringList{u"target"_qs});
+    EXPECT_TRUE(QFileInfo(folder.path(u"target"_qs)).isDir());
+}
+
+TEST(AtomicFile, FailsInAReadOnlyFolder)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(u"photo.jpg"_qs, "old");
+    setMode(folder.path(), 0555);
+    {
+        const WithoutPrivileges user;
+        EXPECT_FALSE(AtomicFile(path).isValid());
+        EXPECT_FALSE(writeFileAtomically(path, "new"));
+    }
+    setMode(folder.path(), 0755);
+
+    EXPECT_EQ(TemporaryFolder::read(path), "old");
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+}
+
+TEST(AtomicFile, LeavesTheOldFileOnAFullDisk)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(u"photo.jpg"_qs, "old");
+    {
+        const FullDisk disk(4096);
+        EXPECT_FALSE(writeFileAtomically(path, QByteArray(100000, 'x')));
+    }
+
+    EXPECT_EQ(TemporaryFolder::read(path), "old");
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+}
