@@ -51,6 +51,12 @@ void Sheet::close()
     changed();
 }
 
+TableView::TableView(const QString& name, const ArrayController& content)
+    : Control(name)
+    , m_content(content)
+{
+}
+
 void TableView::selectRow(int row)
 {
     if (m_selectedRow == row)

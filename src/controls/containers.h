@@ -54,19 +54,6 @@ private:
     bool m_open = false;
 };
 
-/// A table of which one row is selected (-1: none).
-class TableView : public Control
-{
-public:
-    using Control::Control;
-
-    [[nodiscard]] int selectedRow() const { return m_selectedRow; }
-    void selectRow(int row);
-
-private:
-    int m_selectedRow = -1;
-};
-
 /// The rows behind a table, each a list of fields in the order of `columns`.
 class ArrayController : public Control
 {
@@ -86,6 +73,23 @@ public:
 private:
     QStringList m_columns;
     QList<QStringList> m_rows;
+};
+
+/// A table that shows the rows of an array controller; one of them is selected (-1: none).
+class TableView : public Control
+{
+public:
+    TableView(const QString& name, const ArrayController& content);
+
+    /// Where the rows come from.
+    [[nodiscard]] const ArrayController& content() const { return m_content; }
+
+    [[nodiscard]] int selectedRow() const { return m_selectedRow; }
+    void selectRow(int row);
+
+private:
+    const ArrayController& m_content;
+    int m_selectedRow = -1;
 };
 
 } // namespace brenvaldo::controls
