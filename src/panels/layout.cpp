@@ -46,6 +46,14 @@ void gatherControls(const Layout& layout, QList<controls::Control*>& found)
 
 } // namespace
 
+Layout joined(std::initializer_list<Layout> parts)
+{
+    Layout all;
+    for (const Layout& part : parts)
+        all.insert(all.end(), part.begin(), part.end());
+    return all;
+}
+
 PanelView::PanelView(QString name)
     : m_name(std::move(name))
 {

@@ -8,6 +8,7 @@
 #include <QList>
 #include <QString>
 
+#include <initializer_list>
 #include <variant>
 #include <vector>
 
@@ -84,6 +85,9 @@ struct LayoutItem
 {
     std::variant<Row, Heading, Note, HolderPlace, Table, Pages> item;
 };
+
+/// The parts one below the other.
+[[nodiscard]] Layout joined(std::initializer_list<Layout> parts);
 
 /// A view that a holder can take: its name and what stands in it.
 class PanelView

@@ -17,6 +17,9 @@ Panels::Panels()
     add(vwResizePhotos.pubResizeType);
     add(vwResizePhotos.dvVCUiScaleMaxView);
     add(vwResizePhotos.dvVCUiScaleFixView);
+    add(vwWatermark);
+    add(vwWatermark.tvFileName);
+    add(vwWatermark.cActionsTWMArrayController);
 }
 
 void Panels::add(const PanelView& view)

@@ -3,6 +3,7 @@
 
 #include "output_panels.h"
 #include "resize_panel.h"
+#include "watermark_panel.h"
 #include "window_controls.h"
 
 #include <QHash>
@@ -21,6 +22,7 @@ public:
     FileTypePanel vwFileType;
     MainDestinationPanel vwMainDestination;
     ResizePanel vwResizePhotos;
+    WatermarkPanel vwWatermark;
 
     /// The control of that name or alias; null when there is none.
     [[nodiscard]] controls::Control* control(const QString& name) const;

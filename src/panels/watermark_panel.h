@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "image_watermark_controls.h"
+#include "text_watermark_controls.h"
+
+namespace brenvaldo::panels {
+
+/// Watermarks: a tab for text and a tab for an image.
+struct WatermarkPanel : PanelView, TextWatermarkControls, ImageWatermarkControls
+{
+    WatermarkPanel();
+
+    controls::TabView tbvWatermarkType;
+};
+
+} // namespace brenvaldo::panels
