@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "output_tail.h"
+#include "result_word.h"
+
+#include <platform/graphics/image.h>
+#include <platform/graphics/metadata_blocks.h>
+
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+
+namespace brenvaldo::imaging {
+
+/// What a writer gets.
+struct PictureToSave
+{
+    QString destination; ///< path without extension; `hSaveToNewImageFile` takes the whole path
+    QString typeIdentifier;
+    std::optional<platform::Image> image; ///< without a picture the writing fails
+    const platform::MetadataBlocks* properties = nullptr; ///< metadata of the source; may be null
+    QString compressionLevel = {}; ///< ignored by `hSaveToNewImageFile`
+};
+
+/// The image operations: access to photos, sizes and resolutions, the writers, and the operations
+/// on single photos.
+///
+/// Sizes and coordinates are pixels, angles degrees counter-clockwise. An object lives for a run or
+/// a preview; what it keeps from photo to photo is told at the operations.
+class DVImageHandling
+{
+public:
+    /// Opens a photo upright, its orientation applied; nothing when it can't be read.
+    [[nodiscard]] static std::optional<platform::Image> hNSURLtoCIImage(const QUrl& url);
+
+    /// Opens the stored pixels of a photo, its orientation not applied; nothing when it can't be
+    /// read.
+    [[nodiscard]] static std::optional<platform::Image> hStringToCGImageRef(const QString& path);
+
+    /// The picture at one pixel a point, 72 dots per inch.
+    [[nodiscard]] static platform::Image imageFromCGImageRef(const platform::Image& image);
+
+    /// The pixels of a picture, whatever its size in points.
+    [[nodiscard]] static platform::Image nsImageToCGImageRef(const platform::Image& image);
+
+    /// The picture evaluated once and for all, its pixels in memory; nothing when it is damaged.
+    [[nodiscard]] static std::optional<platform::Image>
+    ciimageFromNSImage(const platform::Image& image);
+
+    /// Upright size of the photo at `path`; 0 by 0 when it can't be read.
+    [[nodiscard]] static platform::PixelSize hGetImgPixelSize(const QString& path);
+
+    /// Size of a picture in hand; 0 by 0 for none.
+    [[nodiscard]] static platform::PixelSize
+    hGetCIImgPixelSize(const std::optional<platform::Image>& image);
+
+    /// Upright size as text: "4000px x 3000px (w x h)".
+    [[nodiscard]] static QString hGetPixelSize(const QString& path);
+
+    /// Reads the dots per inch, rounded up, into `currentDPI()`; NaN for an unreadable photo.
+    double hGetImgResolution(const QString& path);
+    double hGetNSImgResolution(const platform::Image& image);
+
+    /// The last resolution read; 0 before the first.
+    [[nodiscard]] double currentDPI() const { return m_currentDPI; }
+
+    /// The same pixels at a size in points of whole numbers; a resolution that is not above 0
+    /// changes nothing.
+    ///
+    /// The picture's resolution follows from its width; the height in points is that of
+    /// `pointsAtResolution`.
+    [[nodiscard]] static platform::Image
+    convertImageResolution(const platform::Image& image, double dotsPerInch);
+
+    /// A byte count for people: "1.50MB". Above 1024 TB the look-up of a unit fails with a range
+    /// error.
+    [[nodiscard]] static QString hNSFileSizeToHumanNotification(double bytes);
+
+    /// Writer of the batch operations. Replaces an existing file without a question; a failure
+    /// leaves what stood there.
+    static ResultWord hSaveToNewImageFileX(const PictureToSave& picture);
+
+    /// Writer of the watermark runs: as `hSaveToNewImageFileX`, but HEIC is an unknown type.
+    static ResultWord hSaveToNewImageFileMPR(const PictureToSave& picture);
+
+    /// Writer of the quick edits and of the gallery: takes the whole path and the platform's
+    /// default quality.
+    static ResultWord hSaveToNewImageFile(const PictureToSave& picture);
+
+    struct PixelTexts
+    {
+        QString width;
+        QString height;
+    };
+
+    /// Puts the texts in the places of "<[IMGW]>" and "<[IMGH]>"; all other tokens stay.
+    [[nodiscard]] static QString
+    hFileNamePrePostFixConstruct(const QString& nameTemplate, const PixelTexts& texts);
+
+    /// Resizes a photo by one number, the maximum mode; `maximumType` is an index of
+    /// `pubScaleMaxType`.
+    ///
+    /// A size that nothing can be drawn at (a value of 0, an unreadable photo) writes nothing and
+    /// answers "OK".
+    ResultWord hScalePhotosPercentage(
+        const SourceAndBase& photo, int value, int maximumType, const OutputTail& tail
+    );
+
+    /// Resizes a photo to `box`, the fixed mode; with an `aspectState` of 1 the photo covers the
+    /// box and the excess is cut off, otherwise it is stretched.
+    ///
+    /// A size that nothing can be drawn at writes nothing and answers the word of the photo before.
+    ResultWord hScalePhotosWidthAndHeight(
+        const SourceAndBase& photo, platform::PixelSize box, int aspectState, const OutputTail& tail
+    );
+
+    /// The picture at `factor` (0.5 is half) of its size in points, at one pixel a point; nothing
+    /// when no pixel is left. A negative factor also turns it upside down.
+    [[nodiscard]] static std::optional<platform::Image>
+    hScalePictureBase(const platform::Image& image, float factor);
+
+    /// Turns the photo at `path` by `angle` degrees and writes it under its name into `folder`,
+    /// which ends in "/" and may be the photo's own.
+    ///
+    /// Works on stored pixels. Free corners are transparent where the photo has alpha. Nothing when
+    /// the photo can't be read.
+    std::optional<ResultWord>
+    hRotatePicture(const QString& path, const QString& folder, float angle);
+
+    /// Mirrors the photo left to right, otherwise as `hRotatePicture`; "Not Supported" for
+    /// Photoshop and PDF files.
+    std::optional<ResultWord> hFlipHorizontalPicture(const QString& path, const QString& folder);
+
+    /// Mirrors the photo top to bottom.
+    std::optional<ResultWord> hFlipVerticalPicture(const QString& path, const QString& folder);
+
+    /// The picture turned by `angle` degrees on a transparent canvas that just holds it, at one
+    /// pixel a point; nothing when no pixel is left.
+    [[nodiscard]] static std::optional<platform::Image>
+    hRotatePictureBase(const platform::Image& image, float angle);
+
+    /// The result word of the last save; "Failed" before the first.
+    [[nodiscard]] ResultWord storeResult() const { return m_storeResult; }
+
+private:
+    std::optional<ResultWord>
+    flipPicture(const QString& path, const QString& folder, platform::Image::Axis axis);
+
+    double m_currentDPI = 0;
+    ResultWord m_storeResult = ResultWord::Failed;
+};
+
+} // namespace brenvaldo::imaging
