@@ -14,27 +14,17 @@ struct ControlGatherer
     void operator()(const Row& row) const
     {
         for (const Field& field : row.fields)
-            add(field.control);
+            found.append(field.control);
     }
     void operator()(const Heading&) const { }
     void operator()(const Note&) const { }
-    void operator()(const HolderPlace& place) const { add(place.holder); }
-    void operator()(const Table& table) const
-    {
-        add(table.table);
-        add(table.rows);
-    }
+    void operator()(const HolderPlace& place) const { found.append(place.holder); }
+    void operator()(const Table& table) const { found.append(table.table); }
     void operator()(const Pages& pages) const
     {
-        add(pages.tabs);
+        found.append(pages.tabs);
         for (const Layout& page : pages.pages)
             gatherControls(page, found);
-    }
-
-    void add(controls::Control* control) const
-    {
-        if (!found.contains(control))
-            found.append(control);
     }
 };
 

@@ -62,11 +62,10 @@ struct TableColumn
     QString title;
 };
 
-/// A table of the rows of an array controller; rows with a field "depth" are shown as a tree.
+/// A table as wide as the panel; rows with a field "depth" are shown as a tree.
 struct Table
 {
     controls::TableView* table = nullptr;
-    controls::ArrayController* rows = nullptr;
     QList<TableColumn> columns = {};
     QString accessibleName = {};
 };
@@ -103,8 +102,7 @@ public:
     [[nodiscard]] const QString& name() const { return m_name; }
     [[nodiscard]] const Layout& layout() const { return m_layout; }
 
-    /// All controls that stand in the layout, tab views, holders and the rows of
-    /// tables among them, in reading order and each once.
+    /// All controls that stand in the layout, tab views and holders among them, in reading order.
     [[nodiscard]] QList<controls::Control*> controls() const;
 
 protected:

@@ -31,8 +31,6 @@ void Panels::add(const PanelView& view)
 
 void Panels::add(controls::Control& control)
 {
-    if (m_controls.contains(&control))
-        return;
     m_controls.append(&control);
     m_controlsByName.insert(control.name(), &control);
     for (const QString& alias : control.aliases())

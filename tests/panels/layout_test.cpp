@@ -29,24 +29,3 @@ TEST(Panels, ShowAViewOnlyWhenAllViewsAroundItAreShown)
     EXPECT_TRUE(panels.isShown(inner));
     EXPECT_FALSE(panels.isShown(panels.vwResizePhotos.dvVCUiScaleFixView));
 }
-
-TEST(PanelView, NamesTheRowsOfATableOnceHoweverManyTablesShowThem)
-{
-    struct TwoTables : panels::PanelView
-    {
-        TwoTables()
-            : PanelView(QStringLiteral("vwTwoTables"))
-        {
-            setLayout(
-                {{panels::Table{.table = &first, .rows = &rows}},
-                 {panels::Table{.table = &second, .rows = &rows}}}
-            );
-        }
-        controls::TableView first{QStringLiteral("first")};
-        controls::TableView second{QStringLiteral("second")};
-        controls::ArrayController rows{QStringLiteral("rows"), {QStringLiteral("name")}};
-    } view;
-
-    const QList<controls::Control*> expected{&view.first, &view.rows, &view.second};
-    EXPECT_EQ(view.controls(), expected);
-}
