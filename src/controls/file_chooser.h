@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -8,27 +9,39 @@
 
 namespace brenvaldo::controls {
 
+class Control;
+
+/// A text field or pop-up that a panel shows below its files; the user's choice is its value when
+/// the panel has been answered.
+struct Accessory
+{
+    QString label;
+    Control* control = nullptr;
+};
+
 /// What an open panel asks for.
 struct OpenPanel
 {
-    QString message;
-    QString prompt;
+    QString message = {};
+    QString prompt = {};
     bool choosesFiles = true;
     bool choosesDirectories = false;
     bool allowsMultipleSelection = false;
     bool canCreateDirectories = false;
-    QStringList allowedTypes; ///< extensions; empty allows every file
-    QString startFolder; ///< empty: where the panel stood last
+    QStringList allowedTypes = {}; ///< extensions; empty allows every file
+    QString startFolder = {}; ///< empty: where the panel stood last
+    QList<Accessory> accessories = {};
 };
 
 /// What a save panel asks for.
 struct SavePanel
 {
-    QString message;
-    QString suggestedName;
-    QStringList allowedTypes;
+    QString message = {};
+    QString suggestedName = {};
+    QStringList allowedTypes = {}; ///< extensions; they may change when an accessory does
     bool allowsOtherTypes = true;
-    QString startFolder;
+    QString startFolder = {};
+    QList<Accessory> accessories = {};
 };
 
 /// Asks the user for files; a window shows panels, a script answers from its queue.
