@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "archive_reader.h"
+
+namespace brenvaldo::platform {
+
+std::uint8_t ArchiveReader::byte() { return static_cast<std::uint8_t>(text(1).front()); }
+
+std::string ArchiveReader::text(std::uint64_t length)
+{
+    refuseUnless(length <= static_cast<std::uint64_t>(m_data.size()));
+    const auto count = static_cast<qsizetype>(length);
+    const std::string taken(m_data.data(), static_cast<std::size_t>(count));
+    m_data = m_data.sliced(count);
+    return taken;
+}
+
+std::uint64_t ArchiveReader::number(std::uint64_t size, ByteOrder order)
+{
+    refuseUnless(size >= 1 && size <= 8);
+    std::uint64_t value = 0;
+    for (std::uint64_t index = 0; index < size; ++index) {
+        const std::uint64_t next = byte();
+        value
+            = order == ByteOrder::BigEndian ? (value << 8U) | next : value | (next << (8U * index));
+    }
+    return value;
+}
+
+} // namespace brenvaldo::platform
