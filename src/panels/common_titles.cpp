@@ -18,6 +18,16 @@ QStringList positionGridTitles()
     };
 }
 
+QStringList gradientAngleTitles()
+{
+    return {u"0\u00b0"_qs, u"90\u00b0"_qs, u"180\u00b0"_qs, u"270\u00b0"_qs};
+}
+
+QStringList frameBlendTitles()
+{
+    return {u"Normal"_qs, u"Darken"_qs, u"Lighten"_qs, u"Multiply"_qs, u"Overlay"_qs, u"Colour"_qs};
+}
+
 QString endEditingAction()
 {
     return QStringLiteral("cCollectionViewController.controlTextDidEndEditing");

@@ -9,6 +9,12 @@ namespace brenvaldo::panels {
 /// Names of the nine anchors of a position grid, row by row from the top left.
 [[nodiscard]] QStringList positionGridTitles();
 
+/// Directions of a gradient, by 90 degrees.
+[[nodiscard]] QStringList gradientAngleTitles();
+
+/// Blend modes of frames and borders.
+[[nodiscard]] QStringList frameBlendTitles();
+
 /// The action of a text field that selects the function its tag stands for.
 [[nodiscard]] QString endEditingAction();
 

@@ -20,6 +20,45 @@ Panels::Panels()
     add(vwWatermark);
     add(vwWatermark.tvFileName);
     add(vwWatermark.cActionsTWMArrayController);
+    addEditPanels();
+    addFilterViews();
+    addFileManagementPanels();
+    add(vwHtmlExport);
+}
+
+void Panels::addEditPanels()
+{
+    add(vwAddTint);
+    add(vwFraming);
+    add(vwRoundings);
+    add(vwProfileConversion);
+    add(vwCopyFaces);
+    add(vwRotatePhotos);
+    add(vwFilterPhotos);
+    add(vwCropPhotos);
+    add(vwCropPhotos.dvVCUiCropWxHView);
+    add(vwCropPhotos.dvVCUiCropMinusView);
+    add(vwCropPhotos.dvVCUiCropPositionView);
+}
+
+void Panels::addFilterViews()
+{
+    add(vwFilterPhotos.vwFiltersScreenView);
+    add(vwFilterPhotos.vwFiltersGaussianView);
+    add(vwFilterPhotos.vwFiltersMonochromeView);
+    add(vwFilterPhotos.vwFiltersPosterizeView);
+    add(vwFilterPhotos.vwFiltersSepiaView);
+    add(vwFilterPhotos.vwFiltersUnsharpView);
+}
+
+void Panels::addFileManagementPanels()
+{
+    add(vwFileManagementSorting);
+    add(vwFileManagementSorting.theApplePhotosData);
+    add(vwFileManagementEXIF);
+    add(vwFileManagementRename);
+    add(vwFileManagementConvert);
+    add(vwQRBarCode);
 }
 
 void Panels::add(const PanelView& view)

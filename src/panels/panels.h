@@ -1,8 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "code_panel.h"
+#include "crop_panel.h"
+#include "exif_panel.h"
+#include "filter_panel.h"
+#include "framing_panel.h"
+#include "gallery_panel.h"
+#include "note_panel.h"
 #include "output_panels.h"
+#include "profile_panel.h"
+#include "rename_panel.h"
 #include "resize_panel.h"
+#include "rotate_panel.h"
+#include "roundings_panel.h"
+#include "sorting_panel.h"
+#include "tint_panel.h"
 #include "watermark_panel.h"
 #include "window_controls.h"
 
@@ -23,6 +36,23 @@ public:
     MainDestinationPanel vwMainDestination;
     ResizePanel vwResizePhotos;
     WatermarkPanel vwWatermark;
+    TintPanel vwAddTint;
+    FramingPanel vwFraming;
+    RoundingsPanel vwRoundings;
+    ProfilePanel vwProfileConversion;
+    NotePanel vwCopyFaces{u"vwCopyFaces"_qs, u"Cutting out faces comes with a later version."_qs};
+    RotatePanel vwRotatePhotos;
+    FilterPanel vwFilterPhotos;
+    CropPanel vwCropPhotos;
+    SortingPanel vwFileManagementSorting;
+    ExifPanel vwFileManagementEXIF;
+    RenamePanel vwFileManagementRename;
+    NotePanel vwFileManagementConvert{
+        u"vwFileManagementConvert"_qs,
+        u"Each ticked photo is written anew as the file type below, with its metadata where the "
+        u"type can hold it."_qs};
+    CodePanel vwQRBarCode;
+    GalleryPanel vwHtmlExport;
 
     /// The control of that name or alias; null when there is none.
     [[nodiscard]] controls::Control* control(const QString& name) const;
@@ -37,6 +67,9 @@ public:
     [[nodiscard]] bool isShown(const PanelView& view) const;
 
 private:
+    void addEditPanels();
+    void addFilterViews();
+    void addFileManagementPanels();
     void add(const PanelView& view);
     void add(controls::Control& control);
 

@@ -65,6 +65,9 @@ WindowControls::WindowControls()
     , wwAlertWindow(QStringLiteral("wwAlertWindow"))
     , tfHTMLAlertTitle(QStringLiteral("tfHTMLAlertTitle"))
     , tfHTMLAlertInfo(QStringLiteral("tfHTMLAlertInfo"))
+    , wwPreferencesWindow(QStringLiteral("wwPreferencesWindow"))
+    , tfLibraryFilePath(QStringLiteral("tfLibraryFilePath"))
+    , tfOriginalPictureStrRef(QStringLiteral("tfOriginalPictureStrRef"))
 {
     pubEditPhoto.addAction(QStringLiteral("cGUIcontrols.hChooseMainEditFunction"));
     pubFileManagementSelect.addAction(
@@ -98,6 +101,9 @@ QList<controls::Control*> WindowControls::all()
         &wwAlertWindow,
         &tfHTMLAlertTitle,
         &tfHTMLAlertInfo,
+        &wwPreferencesWindow,
+        &tfLibraryFilePath,
+        &tfOriginalPictureStrRef,
     };
 }
 

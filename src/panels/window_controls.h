@@ -42,6 +42,11 @@ struct WindowControls
     controls::TextField tfHTMLAlertTitle;
     controls::TextField tfHTMLAlertInfo;
 
+    controls::Sheet wwPreferencesWindow;
+    controls::TextField tfLibraryFilePath; ///< folder of the support files
+
+    controls::TextField tfOriginalPictureStrRef; ///< path of the photo that is printed
+
     [[nodiscard]] QList<controls::Control*> all();
 };
 

@@ -7,14 +7,16 @@
 
 using namespace brenvaldo;
 
-TEST(Panels, HoldEveryControlOnce)
+TEST(Panels, HoldEveryControlOnceAndGiveNoNameTwice)
 {
     const panels::Panels panels;
 
     QSet<QString> names;
     for (const controls::Control* control : panels.controls()) {
-        EXPECT_FALSE(names.contains(control->name())) << control->name().toStdString();
-        names.insert(control->name());
+        for (const QString& name : control->aliases() + QStringList{control->name()}) {
+            EXPECT_FALSE(names.contains(name)) << name.toStdString();
+            names.insert(name);
+        }
     }
 }
 

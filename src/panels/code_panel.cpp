@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "code_panel.h"
+
+#include "common_rows.h"
+
+namespace brenvaldo::panels {
+
+CodePanel::CodePanel()
+    : PanelView(u"vwQRBarCode"_qs)
+    , pubCodeType(u"pubCodeType"_qs, {u"QR code"_qs, u"Code 128"_qs})
+    , tfQRtext(u"tfQRtext"_qs)
+    , tfQRDestination(u"tfQRDestination"_qs)
+    , tfQRName(u"tfQRName"_qs)
+    , tfQRSize(u"tfQRSize"_qs)
+{
+    setLayout({
+        {Row{.label = u"Code"_qs, .fields = {{.control = &pubCodeType}}}},
+        {textRow(u"Text"_qs, tfQRtext)},
+        {textRow(u"Folder"_qs, tfQRDestination)},
+        {textRow(u"File name"_qs, tfQRName)},
+        {textRow(u"Size"_qs, tfQRSize, u"px"_qs)},
+        {Note{u"QR and bar codes come with a later version."_qs}},
+    });
+}
+
+} // namespace brenvaldo::panels

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "field_roles.h"
+
+#include "common_titles.h"
+
+namespace brenvaldo::panels {
+
+void makeFunctionField(controls::TextField& field, int tag)
+{
+    field.setTag(tag);
+    field.addAction(endEditingAction());
+}
+
+void makeHexField(controls::TextField& field, int tag)
+{
+    field.setTag(tag);
+    field.addAction(QStringLiteral("cColorWellHandling.controlTextDidEndEditing"));
+}
+
+} // namespace brenvaldo::panels

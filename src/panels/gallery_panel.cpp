@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "gallery_panel.h"
+
+#include "common_rows.h"
+
+namespace brenvaldo::panels {
+
+GalleryPanel::GalleryPanel()
+    : PanelView(u"vwHtmlExport"_qs)
+    , pubPhotoGalleryModel(
+          u"pubPhotoGalleryModel"_qs,
+          {u"Table, light"_qs, u"Table, dark"_qs, u"Grid"_qs, u"Table, large photos"_qs}
+      )
+    , tfHTMLfileName(u"tfHTMLfileName"_qs)
+{
+    pubPhotoGalleryModel.addAlias(u"pubTemplateChoice"_qs);
+    pubPhotoGalleryModel.addAction(u"cGUIcontrols.hChooseHTMLExportTemplate"_qs);
+    tfHTMLfileName.addAlias(u"tfHtmlFileName"_qs);
+    setLayout({
+        {Row{.label = u"Template"_qs, .fields = {{.control = &pubPhotoGalleryModel}}}},
+        {textRow(u"Page name"_qs, tfHTMLfileName)},
+        {Note{u"Web galleries come with a later version."_qs}},
+    });
+}
+
+} // namespace brenvaldo::panels

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "profile_panel.h"
+
+namespace brenvaldo::panels {
+
+ProfilePanel::ProfilePanel()
+    : PanelView(u"vwProfileConversion"_qs)
+    , pubInstalledICCProfiles(u"pubInstalledICCProfiles"_qs, {})
+    , pubCPCRenderIntent(
+          u"pubCPCRenderIntent"_qs,
+          {u"perceptual"_qs, u"relative"_qs, u"absolute"_qs, u"saturation"_qs}
+      )
+{
+    pubInstalledICCProfiles.addAction(u"cGUIcontrols.hCtPSelectICCProfileCallPreview"_qs);
+    pubCPCRenderIntent.addAction(u"cGUIcontrols.hCtPRenderIntentCallPreview"_qs);
+    setLayout({
+        {Row{.label = u"Profile"_qs, .fields = {{.control = &pubInstalledICCProfiles}}}},
+        {Row{.label = u"Intent"_qs, .fields = {{.control = &pubCPCRenderIntent}}}},
+        {Note{u"Colour profile conversion comes with a later version."_qs}},
+    });
+}
+
+} // namespace brenvaldo::panels

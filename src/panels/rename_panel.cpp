@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "rename_panel.h"
+
+#include "common_rows.h"
+
+namespace brenvaldo::panels {
+
+RenamePanel::RenamePanel()
+    : PanelView(u"vwFileManagementRename"_qs)
+    , tfPrefixToAdd(u"tfPrefixToAdd"_qs)
+    , cbxPrefixMetaData(u"cbxPrefixMetaData"_qs, {})
+    , tfPostfixToAdd(u"tfPostfixToAdd"_qs)
+    , cbxPostfixMetaData(u"cbxPostfixMetaData"_qs, {})
+{
+    setLayout({
+        {Heading{u"Before the name"_qs}},
+        {textRow(u"Text"_qs, tfPrefixToAdd)},
+        {Row{.label = u"Property"_qs, .fields = {{.control = &cbxPrefixMetaData}}}},
+        {Heading{u"Behind the name"_qs}},
+        {textRow(u"Text"_qs, tfPostfixToAdd)},
+        {Row{.label = u"Property"_qs, .fields = {{.control = &cbxPostfixMetaData}}}},
+        {Note{u"Renaming comes with a later version."_qs}},
+    });
+}
+
+} // namespace brenvaldo::panels

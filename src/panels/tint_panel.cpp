@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tint_panel.h"
+
+#include "common_rows.h"
+#include "common_titles.h"
+#include "field_roles.h"
+
+namespace brenvaldo::panels {
+
+TintPanel::TintPanel()
+    : PanelView(u"vwAddTint"_qs)
+    , cwAddTint(u"cwAddTint"_qs)
+    , tfAddTintHexValue(u"tfAddTintHexValue"_qs, u"000000"_qs)
+    , tfAddTintOpacity(u"tfAddTintOpacity"_qs, u"50"_qs)
+    , pubAddTintRenderMethod(
+          u"pubAddTintRenderMethod"_qs,
+          {u"Normal"_qs, u"Darker"_qs, u"Lighter"_qs, u"Multiply"_qs, u"Overlay"_qs, u"Colour"_qs}
+      )
+    , cbAddTintDuoTone(u"cbAddTintDuoTone"_qs, u"Black and white photo below"_qs)
+    , cbAddTintGradient(u"cbAddTintGradient"_qs, u"Fade out"_qs)
+    , pubAddTintAngle(u"pubAddTintAngle"_qs, gradientAngleTitles())
+    , tbvFrameType(
+          u"tbvFrameType"_qs,
+          {{.identifier = u"1"_qs, .label = u"W x H"_qs},
+           {.identifier = u"2"_qs, .label = u"%"_qs},
+           {.identifier = u"3"_qs, .label = u"px"_qs}}
+      )
+    , cbAddTintOrigSize(u"cbAddTintOrigSize"_qs, u"The whole photo"_qs, 1)
+    , tfAddTintWidth(u"tfAddTintWidth"_qs)
+    , tfAddTintHeight(u"tfAddTintHeight"_qs)
+    , tfAddTintPercentage(u"tfAddTintPercentage"_qs)
+    , pubAddTintPercentageOrient(
+          u"pubAddTintPercentageOrient"_qs,
+          {u"Of the width, full height"_qs,
+           u"Of the height, full width"_qs,
+           u"Of the width, same border"_qs,
+           u"Of the height, same border"_qs,
+           u"Of width and height"_qs}
+      )
+    , tfAddTintPixels(u"tfAddTintPixels"_qs)
+    , scAddTintPosition(
+          u"scAddTintPosition"_qs,
+          positionGridTitles(),
+          4,
+          controls::SegmentedControl::Look::PositionGrid
+      )
+    , tfAddTintPosX(u"tfAddTintPosX"_qs)
+    , tfAddTintPosY(u"tfAddTintPosY"_qs)
+{
+    giveRoles();
+    setLayout(joined({
+        colourRows(),
+        {{Heading{u"Size"_qs}}, {sizePages()}},
+        {{Heading{u"Place"_qs}},
+         {Row{.label = u"Position"_qs, .fields = {{.control = &scAddTintPosition}}}},
+         {offsetRow(tfAddTintPosX, tfAddTintPosY, u"To the right, and up."_qs)},
+         {Note{u"Tinting comes with a later version."_qs}}},
+    }));
+}
+
+void TintPanel::giveRoles()
+{
+    cwAddTint.addAlias(u"ascNSColorWellAddTint"_qs);
+    cwAddTint.addAction(u"cGUIcontrols.hAddTintColorWell"_qs);
+    makeHexField(tfAddTintHexValue, 7);
+    pubAddTintRenderMethod.addAction(u"cGUIcontrols.hAddTintRenderMethod"_qs);
+    cbAddTintDuoTone.addAction(u"cGUIcontrols.hAddTintDuoTone"_qs);
+    cbAddTintGradient.addAction(u"cGUIcontrols.hAddTintGradient"_qs);
+    pubAddTintAngle.addAction(u"cGUIcontrols.hAddTintAngle"_qs);
+    pubAddTintAngle.setEnabled(false);
+    cbAddTintOrigSize.addAction(u"cGUIcontrols.hAddTintActivePhotoSize"_qs);
+    tfAddTintWidth.setEnabled(false);
+    tfAddTintHeight.setEnabled(false);
+    pubAddTintPercentageOrient.addAction(u"cGUIcontrols.hAddTintPercWidth"_qs);
+    scAddTintPosition.addAction(u"cGUIcontrols.hAddTintPosition"_qs);
+    makeFunctionField(tfAddTintOpacity, 400);
+    makeFunctionField(tfAddTintWidth, 401);
+    makeFunctionField(tfAddTintHeight, 402);
+    makeFunctionField(tfAddTintPercentage, 403);
+    makeFunctionField(tfAddTintPixels, 404);
+    makeFunctionField(tfAddTintPosX, 405);
+    makeFunctionField(tfAddTintPosY, 406);
+}
+
+Layout TintPanel::colourRows()
+{
+    return {
+        {colourRow(u"Colour"_qs, cwAddTint, tfAddTintHexValue)},
+        {Row{.label = u"Opacity"_qs, .fields = {{.control = &tfAddTintOpacity, .unit = u"%"_qs}}}},
+        {Row{.label = u"Blend"_qs, .fields = {{.control = &pubAddTintRenderMethod}}}},
+        {Row{.fields = {{.control = &cbAddTintDuoTone}}}},
+        {Row{
+            .fields
+            = {{.control = &cbAddTintGradient},
+               {.control = &pubAddTintAngle, .accessibleName = u"Direction of the fade"_qs}}}},
+    };
+}
+
+Pages TintPanel::sizePages()
+{
+    return {
+        .tabs = &tbvFrameType,
+        .pages = {
+            {{Row{.fields = {{.control = &cbAddTintOrigSize}}}},
+             {Row{
+                 .label = u"Width"_qs, .fields = {{.control = &tfAddTintWidth, .unit = u"px"_qs}}}},
+             {Row{
+                 .label = u"Height"_qs,
+                 .fields = {{.control = &tfAddTintHeight, .unit = u"px"_qs}}}}},
+            {{Row{
+                 .label = u"Part"_qs,
+                 .fields = {{.control = &tfAddTintPercentage, .unit = u"%"_qs}}}},
+             {Row{
+                 .fields
+                 = {{.control = &pubAddTintPercentageOrient,
+                     .accessibleName = u"What the percentage counts"_qs}}}}},
+            {{Row{
+                .label = u"Left free"_qs,
+                .fields = {{.control = &tfAddTintPixels, .unit = u"px"_qs}}}}},
+        }};
+}
+
+} // namespace brenvaldo::panels
