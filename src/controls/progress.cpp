@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "progress.h"
+
+#include <platform/foundation/run_loop.h>
+
+namespace brenvaldo::controls {
+
+namespace {
+
+void pump(std::chrono::microseconds atMost)
+{
+    if (atMost.count() > 0)
+        platform::pumpEvents(atMost);
+}
+
+} // namespace
+
+Progress::Progress(ProgressIndicator& bar, const BarRhythm& rhythm)
+    : m_bar(bar)
+    , m_rhythm(rhythm)
+{
+}
+
+void Progress::hInitialisePB()
+{
+    m_bar.setMaximum(m_rhythm.maximum);
+    m_bar.setHidden(false);
+    m_bar.startAnimation();
+    m_bar.setDoubleValue(0);
+}
+
+void Progress::hProgressPB(double step)
+{
+    pump(m_rhythm.pauseBefore);
+    m_bar.incrementBy(step);
+    pump(m_rhythm.pauseAfter);
+}
+
+void Progress::hStopPB()
+{
+    m_bar.setHidden(true);
+    m_bar.stopAnimation();
+    m_bar.setDoubleValue(0);
+}
+
+} // namespace brenvaldo::controls

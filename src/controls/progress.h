@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "range_controls.h"
+
+#include <chrono>
+
+namespace brenvaldo::controls {
+
+/// How a bar counts, and how long the event loop may take at each step: at most, it is no sleep.
+struct BarRhythm
+{
+    double maximum = 100;
+    std::chrono::microseconds pauseBefore{0};
+    std::chrono::microseconds pauseAfter{0};
+};
+
+inline constexpr BarRhythm guiControlsBar{
+    1000, std::chrono::milliseconds(10), std::chrono::milliseconds(10)};
+inline constexpr BarRhythm watermarkBar{
+    1000, std::chrono::milliseconds(10), std::chrono::milliseconds(10)};
+inline constexpr BarRhythm responsiveDesignBar{
+    100, std::chrono::milliseconds(10), std::chrono::milliseconds(10)};
+inline constexpr BarRhythm collectionViewBar{
+    100, std::chrono::milliseconds(1), std::chrono::milliseconds(1)};
+inline constexpr BarRhythm imageHandlingBar{
+    100, std::chrono::milliseconds(1), std::chrono::milliseconds(0)};
+
+/// Drives a bar through a run: shown at 0, up by a step a photo, hidden at the end.
+class Progress
+{
+public:
+    Progress(ProgressIndicator& bar, const BarRhythm& rhythm);
+
+    void hInitialisePB();
+    /// Lets waiting events through, adds `step`, and lets events through again.
+    void hProgressPB(double step);
+    void hStopPB();
+
+private:
+    ProgressIndicator& m_bar;
+    BarRhythm m_rhythm;
+};
+
+} // namespace brenvaldo::controls
