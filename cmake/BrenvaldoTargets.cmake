@@ -63,7 +63,11 @@ function(brenvaldo_program folder)
   brenvaldo_check_layers("${folder}" "${arg_DEPENDS}")
 endfunction()
 
+# A folder that holds a library and a program is checked once.
 function(brenvaldo_check_layers folder depends)
+  if(TEST layers.${folder})
+    return()
+  endif()
   string(REPLACE ";" "," allowed "${depends}")
   add_test(NAME layers.${folder}
            COMMAND ${CMAKE_COMMAND} -DFOLDER=${folder} -DALLOWED=${allowed}

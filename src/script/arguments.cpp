@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "arguments.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace brenvaldo::script {
+
+namespace {
+
+bool isDigit(QChar character) { return character >= u'0' && character <= u'9'; }
+
+} // namespace
+
+std::optional<int> indexBelow(int count, const QString& word)
+{
+    if (!std::all_of(word.cbegin(), word.cend(), isDigit))
+        return std::nullopt;
+    bool isNumber = false;
+    const int index = word.toInt(&isNumber);
+    if (!isNumber || index >= count)
+        return std::nullopt;
+    return index;
+}
+
+std::optional<int> flag(const QString& word)
+{
+    if (word == u"0")
+        return 0;
+    if (word == u"1")
+        return 1;
+    return std::nullopt;
+}
+
+std::optional<int> itemOf(const QStringList& titles, const QString& word)
+{
+    if (const auto index = indexBelow(static_cast<int>(titles.size()), word))
+        return index;
+    auto position = titles.indexOf(word);
+    if (position < 0 && word.startsWith(u'='))
+        position = titles.indexOf(word.mid(1));
+    if (position < 0)
+        return std::nullopt;
+    return static_cast<int>(position);
+}
+
+QString absolutePath(const QString& word) { return QDir::cleanPath(QDir().absoluteFilePath(word)); }
+
+} // namespace brenvaldo::script

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "command_table.h"
+#include "control_values.h"
+
+namespace brenvaldo::script {
+
+namespace {
+
+QString unknownControl(const QString& name)
+{
+    return QStringLiteral("unknown control \"%1\"").arg(name);
+}
+
+class SetCommand : public Command
+{
+public:
+    using Command::Command;
+
+    [[nodiscard]] Misunderstanding run(const QStringList& arguments) const override
+    {
+        controls::Control* control = workspace().panels().control(arguments.at(0));
+        if (!control)
+            return unknownControl(arguments.at(0));
+        return giveValue(*control, arguments.at(1), controls::UserInput(workspace().actions()));
+    }
+};
+
+class ShowCommand : public Command
+{
+public:
+    using Command::Command;
+
+    [[nodiscard]] Misunderstanding run(const QStringList& arguments) const override
+    {
+        for (const QString& name : arguments) {
+            const controls::Control* control = workspace().panels().control(name);
+            if (!control)
+                return unknownControl(name);
+            print(QStringLiteral("value"), QStringList{name} + valueFields(*control));
+        }
+        return std::nullopt;
+    }
+};
+
+class StateCommand : public Command
+{
+public:
+    using Command::Command;
+
+    [[nodiscard]] Misunderstanding run(const QStringList& arguments) const override
+    {
+        for (const QString& name : arguments) {
+            const auto state = stateOf(name);
+            if (!state)
+                return unknownControl(name);
+            print(
+                QStringLiteral("state"),
+                {name,
+                 state->isEnabled ? QStringLiteral("enabled") : QStringLiteral("disabled"),
+                 state->isShown ? QStringLiteral("shown") : QStringLiteral("hidden")}
+            );
+        }
+        return std::nullopt;
+    }
+
+private:
+    struct State
+    {
+        bool isEnabled = true;
+        bool isShown = true;
+    };
+
+    [[nodiscard]] std::optional<State> stateOf(const QString& name) const
+    {
+        const panels::Panels& panels = workspace().panels();
+        if (const controls::Control* control = panels.control(name))
+            return State{.isEnabled = control->isEnabled(), .isShown = !control->isHidden()};
+        if (const panels::PanelView* view = panels.view(name))
+            return State{.isShown = panels.isShown(*view)};
+        return std::nullopt;
+    }
+};
+
+} // namespace
+
+void addControlCommands(CommandTable& table, const ScriptContext& context)
+{
+    table.add(
+        QStringLiteral("set"),
+        {.usage = QStringLiteral("NAME VALUE"), .least = 2, .most = 2},
+        std::make_unique<SetCommand>(context)
+    );
+    table.add(
+        QStringLiteral("show"),
+        {.usage = QStringLiteral("NAME..."), .least = 1, .most = CommandTable::Words::Unlimited},
+        std::make_unique<ShowCommand>(context)
+    );
+    table.add(
+        QStringLiteral("state"),
+        {.usage = QStringLiteral("NAME..."), .least = 1, .most = CommandTable::Words::Unlimited},
+        std::make_unique<StateCommand>(context)
+    );
+}
+
+} // namespace brenvaldo::script

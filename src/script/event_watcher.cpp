@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "event_watcher.h"
+
+namespace brenvaldo::script {
+
+EventWatcher::EventWatcher(workspace::Workspace& workspace, const EventPrinter& printer)
+    : m_printer(printer)
+    , m_alertWindow(workspace.panels().window.wwAlertWindow)
+{
+    m_subscriptions.push_back(
+        workspace.alertShown.connect([this](const QString& title, const QString& text) {
+            m_printer.print(QStringLiteral("alert"), {title, text});
+        })
+    );
+    m_subscriptions.push_back(
+        workspace.journal().recorded.connect([this](const workspace::RunRecord& record) {
+            m_printer.print(QStringLiteral("result"), {record.source, record.word});
+        })
+    );
+    m_subscriptions.push_back(workspace.actions().exceptionRaised.connect(
+        [this](const platform::Exception& exception) { report(exception); }
+    ));
+    for (const controls::Control* control : workspace.panels().controls()) {
+        if (const auto* sheet = dynamic_cast<const controls::Sheet*>(control))
+            watch(*sheet);
+    }
+}
+
+void EventWatcher::report(const platform::Exception& exception) const
+{
+    m_printer.print(QStringLiteral("exception"), {exception.kind(), exception.reason()});
+}
+
+void EventWatcher::watch(const controls::Sheet& sheet)
+{
+    if (sheet.isOpen())
+        m_openSheets.insert(&sheet);
+    m_subscriptions.push_back(sheet.changed.connect([this, &sheet] { reportChange(sheet); }));
+}
+
+void EventWatcher::reportChange(const controls::Sheet& sheet)
+{
+    const bool wasOpen = m_openSheets.contains(&sheet);
+    if (sheet.isOpen() == wasOpen)
+        return;
+    if (wasOpen) {
+        m_openSheets.erase(&sheet);
+        m_printer.print(QStringLiteral("sheet"), {sheet.name(), QStringLiteral("closed")});
+        return;
+    }
+    m_openSheets.insert(&sheet);
+    // The opening of the alert window is told by the alert itself.
+    if (&sheet != &m_alertWindow)
+        m_printer.print(QStringLiteral("sheet"), {sheet.name(), QStringLiteral("opened")});
+}
+
+} // namespace brenvaldo::script

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "script_program.h"
+
+#include <platform/graphics/engine.h>
+
+#include <QFile>
+#include <QGuiApplication>
+
+#include <iostream>
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const brenvaldo::platform::Engine engine;
+    // Every argument is the name of a script, none an option of the toolkit.
+    int applicationArguments = 1;
+    const QGuiApplication application(applicationArguments, argv);
+
+    QStringList files;
+    for (int index = 1; index < argc; ++index)
+        files.append(QFile::decodeName(argv[index]));
+    return brenvaldo::script::runScripts(
+        files, {.in = std::cin, .out = std::cout, .errors = std::cerr}
+    );
+}

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <script/arguments.h>
+
+#include <support/text_printing.h>
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+using namespace brenvaldo::script;
+
+namespace {
+
+struct Index
+{
+    const char* name;
+    QString word;
+    std::optional<int> index;
+};
+
+void PrintTo(const Index& row, std::ostream* out) { *out << row.name; }
+
+constexpr auto nameOfRow = [](const auto& row) { return std::string(row.param.name); };
+
+} // namespace
+
+class IndexBelowTen : public testing::TestWithParam<Index>
+{
+};
+
+TEST_P(IndexBelowTen, IsReadFromDigitsAlone)
+{
+    EXPECT_EQ(indexBelow(10, GetParam().word), GetParam().index);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    IndexBelowTen,
+    testing::Values(
+        Index{"First", u"0"_qs, 0},
+        Index{"Last", u"9"_qs, 9},
+        Index{"BehindTheLast", u"10"_qs, std::nullopt},
+        Index{"Negative", u"-1"_qs, std::nullopt},
+        Index{"Signed", u"+1"_qs, std::nullopt},
+        Index{"Empty", QString(), std::nullopt},
+        Index{"DigitsAndLetters", u"1a"_qs, std::nullopt},
+        Index{"TooLargeForANumber", u"99999999999"_qs, std::nullopt}
+    ),
+    nameOfRow
+);
+
+class ItemOfQualities : public testing::TestWithParam<Index>
+{
+};
+
+TEST_P(ItemOfQualities, IsAnIndexBeforeItIsATitle)
+{
+    const QStringList qualities{u"1"_qs, u"2"_qs, u"9"_qs, u"best"_qs, u"=worst"_qs};
+
+    EXPECT_EQ(itemOf(qualities, GetParam().word), GetParam().index);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    ItemOfQualities,
+    testing::Values(
+        Index{"IndexThatIsATitleToo", u"1"_qs, 1},
+        Index{"TitleThatIsNoIndex", u"9"_qs, 2},
+        Index{"TitleAfterAnEqualsSign", u"=1"_qs, 0},
+        Index{"Title", u"best"_qs, 3},
+        Index{"TitleInAnotherCase", u"Best"_qs, std::nullopt},
+        Index{"TitleThatBeginsWithAnEqualsSign", u"=worst"_qs, 4},
+        Index{"UnknownTitle", u"good"_qs, std::nullopt},
+        Index{"Empty", QString(), std::nullopt}
+    ),
+    nameOfRow
+);
+
+TEST(Flag, IsZeroOrOne)
+{
+    EXPECT_EQ(flag(u"0"_qs), 0);
+    EXPECT_EQ(flag(u"1"_qs), 1);
+    EXPECT_EQ(flag(u"2"_qs), std::nullopt);
+    EXPECT_EQ(flag(u"on"_qs), std::nullopt);
+}
+
+TEST(AbsolutePath, StartsAtTheCurrentFolder)
+{
+    EXPECT_EQ(absolutePath(u"a b.jpg"_qs), QDir::currentPath() + u"/a b.jpg"_qs);
+    EXPECT_EQ(absolutePath(u"/photos/"_qs), u"/photos"_qs);
+    EXPECT_EQ(absolutePath(u"/photos/../a"_qs), u"/a"_qs);
+}
