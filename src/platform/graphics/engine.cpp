@@ -26,7 +26,10 @@ Engine::Engine()
     // own.
     vips_operation_block_set("VipsForeignLoadMagick", TRUE);
     g_log_set_handler(
-        "VIPS", static_cast<GLogLevelFlags>(G_LOG_LEVEL_MASK), logEngineMessage, nullptr
+        "VIPS",
+        static_cast<GLogLevelFlags>(G_LOG_LEVEL_ERROR | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING),
+        logEngineMessage,
+        nullptr
     );
 }
 

@@ -23,6 +23,19 @@ struct ImageHeader
     double dotsPerInch = 72;
 };
 
+enum class SourceAccess {
+    OnePass, ///< streamed from top to bottom; each picture can be evaluated once
+    Random ///< decoded to memory when first needed
+};
+
+struct SourceRequest
+{
+    SourceAccess access = SourceAccess::OnePass;
+    /// The decoder may halve the picture as long as it stays at least this large; not set: full
+    /// size.
+    std::optional<PixelSize> atLeast = {};
+};
+
 /// Opens the photos of a file without decoding them.
 ///
 /// Files that are empty, of no image type, or of an absurd size (more than 2^30 pixels, or 2^28 in
@@ -38,18 +51,8 @@ public:
     [[nodiscard]] const QString& path() const;
     [[nodiscard]] const ImageHeader& header() const;
 
-    enum class Access {
-        OnePass, ///< streamed from top to bottom; each picture can be evaluated once
-        Random ///< decoded to memory when first needed
-    };
-
-    struct Request
-    {
-        Access access = Access::OnePass;
-        /// The decoder may halve the picture as long as it stays at least this large; not set: full
-        /// size.
-        std::optional<PixelSize> atLeast;
-    };
+    using Access = SourceAccess;
+    using Request = SourceRequest;
 
     /// The stored pixels; the orientation is not applied.
     [[nodiscard]] std::optional<Image> image(const Request& request = {}) const;

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "encoders.h"
+
+#include "color_profile.h"
+#include "sample_conversion.h"
+
+#include <QFile>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+constexpr double millimetresPerInch = 25.4;
+
+/// The pixels with the profile and the resolution where the engine's encoders look for them.
+vips::VImage labelled(const ImageNode& node)
+{
+    const double pixelsPerMillimetre = node.dotsPerInch / millimetresPerInch;
+    const vips::VImage pixels = node.pixels.copy(
+        vips::VImage::option()->set("xres", pixelsPerMillimetre)->set("yres", pixelsPerMillimetre)
+    );
+    if (!node.iccProfile.isEmpty())
+        vips_image_set_blob_copy(
+            pixels.get_image(),
+            VIPS_META_ICC_NAME,
+            node.iccProfile.constData(),
+            static_cast<std::size_t>(node.iccProfile.size())
+        );
+    return pixels;
+}
+
+} // namespace
+
+ImageNode fittedTo(const ImageNode& node, const FormatLimits& limits)
+{
+    ImageNode fitted = node;
+    if (limits.alpha == AlphaSupport::Flattens)
+        fitted = flattenedOnWhite(fitted);
+    const bool isInk = fitted.colorModel == ColorModel::Cmyk;
+    if (limits.colors == ColorSupport::Srgb
+        || (limits.colors == ColorSupport::SrgbInsteadOfCmyk && isInk))
+        fitted = convertedToSrgb(fitted);
+    if (limits.depth == DepthSupport::EightBits)
+        fitted = withBytes(fitted);
+    return fitted;
+}
+
+void encodePng(const ImageNode& node, const QString& path)
+{
+    const ImageNode fitted = fittedTo(node, {.colors = ColorSupport::SrgbInsteadOfCmyk});
+    labelled(fitted).pngsave(
+        QFile::encodeName(path).constData(),
+        vips::VImage::option()
+            ->set("compression", 1)
+            ->set("filter", VIPS_FOREIGN_PNG_FILTER_SUB)
+            ->set("bitdepth", fitted.pixels.format() == VIPS_FORMAT_USHORT ? 16 : 8)
+    );
+}
+
+void encodeTiff(const ImageNode& node, const QString& path)
+{
+    labelled(node).tiffsave(
+        QFile::encodeName(path).constData(),
+        vips::VImage::option()
+            ->set("compression", VIPS_FOREIGN_TIFF_COMPRESSION_LZW)
+            ->set("predictor", VIPS_FOREIGN_TIFF_PREDICTOR_HORIZONTAL)
+            ->set("resunit", VIPS_FOREIGN_TIFF_RESUNIT_INCH)
+    );
+}
+
+} // namespace brenvaldo::platform

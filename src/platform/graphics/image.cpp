@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "image.h"
+
+#include "deferred_pixels.h"
+#include "image_node.h"
+
+#include <platform/foundation/log.h>
+
+#include <algorithm>
+
+namespace brenvaldo::platform {
+
+Image::Image(std::shared_ptr<const ImageNode> node)
+    : m_node(std::move(node))
+{
+}
+
+int Image::width() const { return m_node->pixels.width(); }
+
+int Image::height() const { return m_node->pixels.height(); }
+
+int Image::bitsPerComponent() const
+{
+    return static_cast<int>(vips_format_sizeof(m_node->pixels.format())) * 8;
+}
+
+ColorModel Image::colorModel() const { return m_node->colorModel; }
+
+bool Image::hasAlpha() const { return m_node->hasAlpha; }
+
+const QByteArray& Image::iccProfile() const { return m_node->iccProfile; }
+
+double Image::dotsPerInch() const { return m_node->dotsPerInch; }
+
+Image Image::withDotsPerInch(double dotsPerInch) const
+{
+    ImageNode node = *m_node;
+    node.dotsPerInch = dotsPerInch;
+    return makeImage(std::move(node));
+}
+
+std::optional<Image> Image::croppedTo(const PixelRect& rect) const
+{
+    const int left = std::max(rect.x, 0);
+    const int top = std::max(rect.y, 0);
+    const int right = static_cast<int>(std::min<qint64>(qint64{rect.x} + rect.width, width()));
+    const int bottom = static_cast<int>(std::min<qint64>(qint64{rect.y} + rect.height, height()));
+    if (left >= right || top >= bottom)
+        return std::nullopt;
+    return makeImage(
+        m_node->withPixels(m_node->pixels.extract_area(left, top, right - left, bottom - top))
+    );
+}
+
+Image Image::turned(QuarterTurn turn) const
+{
+    const VipsAngle angle = turn == QuarterTurn::Clockwise ? VIPS_ANGLE_D90
+        : turn == QuarterTurn::Half                        ? VIPS_ANGLE_D180
+                                                           : VIPS_ANGLE_D270;
+    return makeImage(m_node->withPixels(randomAccess(m_node->pixels).rot(angle)));
+}
+
+Image Image::flipped(Axis axis) const
+{
+    const vips::VImage& pixels = m_node->pixels;
+    return makeImage(m_node->withPixels(
+        axis == Axis::Horizontal ? pixels.flip(VIPS_DIRECTION_HORIZONTAL)
+                                 : randomAccess(pixels).flip(VIPS_DIRECTION_VERTICAL)
+    ));
+}
+
+std::optional<Image> Image::copiedToMemory() const
+{
+    try {
+        return makeImage(m_node->withPixels(m_node->pixels.copy_memory()));
+    } catch (const vips::VError&) {
+        log(QStringLiteral("Failed to compute the pixels of an image: ") + takeEngineError());
+        return std::nullopt;
+    }
+}
+
+} // namespace brenvaldo::platform

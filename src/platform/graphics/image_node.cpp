@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "image_node.h"
+
+#include "color_profile.h"
+#include "deferred_pixels.h"
+
+#include <cmath>
+#include <cstring>
+#include <vector>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+constexpr double millimetresPerInch = 25.4;
+constexpr double defaultDotsPerInch = 72;
+
+/// Profile of decoded pixels; empty without one.
+QByteArray embeddedProfile(const vips::VImage& decoded)
+{
+    if (decoded.get_typeof(VIPS_META_ICC_NAME) == 0)
+        return {};
+    std::size_t size = 0;
+    const void* bytes = decoded.get_blob(VIPS_META_ICC_NAME, &size);
+    return {static_cast<const char*>(bytes), static_cast<qsizetype>(size)};
+}
+
+double statedDotsPerInch(const vips::VImage& decoded)
+{
+    // One pixel a millimetre is what the engine reports when a file states nothing.
+    const double pixelsPerMillimetre = decoded.xres();
+    if (!std::isfinite(pixelsPerMillimetre) || pixelsPerMillimetre <= 0 || pixelsPerMillimetre == 1)
+        return defaultDotsPerInch;
+    constexpr double precision = 1e4; // the way through millimetres leaves noise behind
+    return std::round(pixelsPerMillimetre * millimetresPerInch * precision) / precision;
+}
+
+bool isLab(VipsInterpretation interpretation)
+{
+    return interpretation == VIPS_INTERPRETATION_LAB || interpretation == VIPS_INTERPRETATION_LABQ
+        || interpretation == VIPS_INTERPRETATION_LABS;
+}
+
+vips::VImage withIntegerSamples(const vips::VImage& decoded)
+{
+    switch (decoded.format()) {
+    case VIPS_FORMAT_UCHAR:
+    case VIPS_FORMAT_USHORT:
+        return decoded;
+    case VIPS_FORMAT_UINT:
+        return (decoded >> 16).cast(VIPS_FORMAT_USHORT);
+    case VIPS_FORMAT_FLOAT:
+    case VIPS_FORMAT_DOUBLE:
+        return decoded.linear(65535.0, 0.5).cast(VIPS_FORMAT_USHORT);
+    default:
+        return decoded.cast(VIPS_FORMAT_USHORT);
+    }
+}
+
+ColorModel modelOf(const vips::VImage& decoded)
+{
+    if (decoded.interpretation() == VIPS_INTERPRETATION_CMYK && decoded.bands() >= 4)
+        return ColorModel::Cmyk;
+    return decoded.bands() >= 3 ? ColorModel::Rgb : ColorModel::Gray;
+}
+
+void* collectName(VipsImage* /*image*/, const char* name, GValue* /*value*/, void* names)
+{
+    static_cast<std::vector<std::string>*>(names)->emplace_back(name);
+    return nullptr;
+}
+
+/// A copy without metadata; what the engine itself needs to know stays.
+vips::VImage bare(const vips::VImage& pixels, VipsInterpretation interpretation)
+{
+    const vips::VImage copy = pixels.copy(vips::VImage::option()
+                                              ->set("interpretation", interpretation)
+                                              ->set("xres", 1.0)
+                                              ->set("yres", 1.0));
+    std::vector<std::string> names;
+    vips_image_map(copy.get_image(), collectName, &names);
+    for (const std::string& name : names) {
+        if (name != VIPS_META_SEQUENTIAL)
+            vips_image_remove(copy.get_image(), name.c_str());
+    }
+    return copy;
+}
+
+} // namespace
+
+Image makeImage(ImageNode node)
+{
+    return Image(std::make_shared<const ImageNode>(std::move(node)));
+}
+
+VipsInterpretation interpretationOf(ColorModel model, VipsBandFormat format)
+{
+    const bool isDeep = format == VIPS_FORMAT_USHORT;
+    switch (model) {
+    case ColorModel::Gray:
+        return isDeep ? VIPS_INTERPRETATION_GREY16 : VIPS_INTERPRETATION_B_W;
+    case ColorModel::Cmyk:
+        return VIPS_INTERPRETATION_CMYK;
+    case ColorModel::Rgb:
+    case ColorModel::Lab:
+        return isDeep ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB;
+    }
+    return VIPS_INTERPRETATION_ERROR;
+}
+
+ImageNode nodeOfDecodedPixels(const vips::VImage& decoded)
+{
+    const bool wasLab = isLab(decoded.interpretation());
+    vips::VImage pixels = wasLab ? decoded.colourspace(VIPS_INTERPRETATION_sRGB) : decoded;
+    pixels = withIntegerSamples(pixels);
+
+    ImageNode node;
+    node.colorModel = modelOf(pixels);
+    const int bands = colorBands(node.colorModel);
+    node.hasAlpha = pixels.bands() > bands;
+    const int keptBands = bands + (node.hasAlpha ? 1 : 0);
+    if (pixels.bands() > keptBands)
+        pixels = pixels.extract_band(0, vips::VImage::option()->set("n", keptBands));
+    node.pixels = bare(pixels, interpretationOf(node.colorModel, pixels.format()));
+    if (!wasLab)
+        node.iccProfile = usableProfile(embeddedProfile(decoded), node.colorModel);
+    node.dotsPerInch = statedDotsPerInch(decoded);
+    return node;
+}
+
+bool isSequential(const vips::VImage& pixels)
+{
+    return vips_image_is_sequential(pixels.get_image()) != FALSE;
+}
+
+QString takeEngineError()
+{
+    const QString text = QString::fromUtf8(vips_error_buffer()).simplified();
+    vips_error_clear();
+    return text;
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "image_source.h"
+
+#include "deferred_pixels.h"
+#include "photo_decoder.h"
+#include "type_identifier.h"
+
+#include <platform/foundation/log.h>
+
+#include <functional>
+
+namespace brenvaldo::platform {
+
+struct ImageSource::State
+{
+    QString path;
+    std::unique_ptr<const PhotoDecoder> decoder;
+};
+
+namespace {
+
+void logFault(const QString& path)
+{
+    log(QStringLiteral("Failed to read image %1: %2").arg(path, takeEngineError()));
+}
+
+std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)
+{
+    const QString type = typeIdentifierOfContents(path);
+    if (isStreamedType(type))
+        return openStreamedPhoto(path, type);
+    return nullptr;
+}
+
+/// The largest factor that leaves a picture of `full` size at least as large as `atLeast`.
+int largestShrink(
+    const PhotoDecoder& decoder, PixelSize full, const std::optional<PixelSize>& atLeast
+)
+{
+    if (!atLeast)
+        return 1;
+    int best = 1;
+    for (const int factor : decoder.shrinkFactors()) {
+        // A decoder that shrinks rounds the sides up.
+        const int width = (full.width + factor - 1) / factor;
+        const int height = (full.height + factor - 1) / factor;
+        if (width >= atLeast->width && height >= atLeast->height)
+            best = factor;
+    }
+    return best;
+}
+
+std::optional<Image>
+decoded(const QString& path, ImageSource::Access access, const std::function<ImageNode()>& pixels)
+{
+    try {
+        const ImageNode node = pixels();
+        if (access == ImageSource::Access::OnePass)
+            return makeImage(node);
+        return makeImage(node.withPixels(randomAccess(node.pixels)));
+    } catch (const vips::VError&) {
+        logFault(path);
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+ImageSource::ImageSource(std::shared_ptr<const State> state)
+    : m_state(std::move(state))
+{
+}
+
+std::optional<ImageSource> ImageSource::open(const QString& path)
+{
+    vips_error_clear();
+    try {
+        auto decoder = openDecoder(path);
+        if (!decoder)
+            return std::nullopt;
+        return ImageSource(std::make_shared<const State>(State{path, std::move(decoder)}));
+    } catch (const vips::VError& error) {
+        vips_error("open", "%s", error.what());
+        logFault(path);
+        return std::nullopt;
+    }
+}
+
+const QString& ImageSource::path() const { return m_state->path; }
+
+const ImageHeader& ImageSource::header() const { return m_state->decoder->header(); }
+
+std::optional<Image> ImageSource::image(const Request& request) const
+{
+    const PhotoDecoder& decoder = *m_state->decoder;
+    const int shrink = largestShrink(decoder, header().storedSize, request.atLeast);
+    return decoded(path(), request.access, [&] { return decoder.storedPixels(shrink); });
+}
+
+std::optional<Image> ImageSource::uprightImage(const Request& request) const
+{
+    const PhotoDecoder& decoder = *m_state->decoder;
+    const int shrink = largestShrink(decoder, header().uprightSize, request.atLeast);
+    return decoded(path(), request.access, [&] { return decoder.uprightPixels(shrink); });
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "image_node.h"
+#include "image_source.h"
+
+#include <memory>
+
+namespace brenvaldo::platform {
+
+/// One way to read photos; knows the header of its file.
+class PhotoDecoder
+{
+public:
+    PhotoDecoder() = default;
+    PhotoDecoder(const PhotoDecoder&) = delete;
+    PhotoDecoder& operator=(const PhotoDecoder&) = delete;
+    PhotoDecoder(PhotoDecoder&&) = delete;
+    PhotoDecoder& operator=(PhotoDecoder&&) = delete;
+    virtual ~PhotoDecoder() = default;
+
+    [[nodiscard]] virtual const ImageHeader& header() const = 0;
+
+    /// Factors by which decoding can shrink a picture, the largest one last.
+    [[nodiscard]] virtual std::vector<int> shrinkFactors() const { return {1}; }
+
+    /// The stored pixels, shrunk by one of `shrinkFactors`. Throws `vips::VError`.
+    [[nodiscard]] virtual ImageNode storedPixels(int shrink) const = 0;
+
+    /// The upright pixels. Throws `vips::VError`.
+    [[nodiscard]] virtual ImageNode uprightPixels(int shrink) const;
+};
+
+/// Opens a file whose contents are of the type `typeIdentifier`; throws `vips::VError` when its
+/// header can't be read.
+[[nodiscard]] std::unique_ptr<PhotoDecoder>
+openStreamedPhoto(const QString& path, const QString& typeIdentifier);
+
+/// True when photos of this type are read by `openStreamedPhoto`.
+[[nodiscard]] bool isStreamedType(const QString& typeIdentifier);
+
+/// Stored pixels turned and flipped as an orientation from 1 to 8 asks for.
+[[nodiscard]] vips::VImage turnedUpright(const vips::VImage& stored, int orientation);
+
+/// Width and height of a picture of `stored` size once it stands upright.
+[[nodiscard]] PixelSize uprightSize(PixelSize stored, int orientation);
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "photo_decoder.h"
+
+#include <QFile>
+
+#include <array>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+struct StreamedType
+{
+    const char* typeIdentifier;
+    const char* loader;
+};
+
+constexpr std::array streamedTypes = {
+    StreamedType{"public.jpeg", "jpegload"},
+    StreamedType{"public.png", "pngload"},
+    StreamedType{"public.tiff", "tiffload"},
+    StreamedType{"com.compuserve.gif", "gifload"},
+    StreamedType{"public.jp2", "jp2kload"},
+    StreamedType{"org.webmproject.webp", "webpload"},
+    StreamedType{"public.jpeg-xl", "jxlload"},
+    StreamedType{"public.pbm", "ppmload"},
+};
+
+const StreamedType* streamedType(const QString& typeIdentifier)
+{
+    for (const StreamedType& type : streamedTypes) {
+        if (typeIdentifier == QLatin1String(type.typeIdentifier))
+            return &type;
+    }
+    return nullptr;
+}
+
+vips::VImage load(const char* loader, const QString& path, int shrink)
+{
+    vips::VImage out;
+    vips::VOption* options = vips::VImage::option()
+                                 ->set("filename", QFile::encodeName(path).constData())
+                                 ->set("out", &out)
+                                 ->set("access", VIPS_ACCESS_SEQUENTIAL)
+                                 ->set("fail_on", VIPS_FAIL_ON_TRUNCATED);
+    if (shrink > 1)
+        options->set("shrink", shrink);
+    vips::VImage::call(loader, options);
+    return out;
+}
+
+int integerField(const vips::VImage& decoded, const char* name, int fallback)
+{
+    return decoded.get_typeof(name) == G_TYPE_INT ? decoded.get_int(name) : fallback;
+}
+
+int statedOrientation(const vips::VImage& decoded)
+{
+    const int orientation = integerField(decoded, VIPS_META_ORIENTATION, 1);
+    return orientation >= 1 && orientation <= 8 ? orientation : 1;
+}
+
+/// Refuses pictures that would take absurd amounts of time and memory.
+void checkSize(const vips::VImage& decoded, bool isJpeg)
+{
+    constexpr qint64 mostPixels = qint64{1} << 30;
+    constexpr qint64 mostProgressivePixels = qint64{1} << 28; // all coefficients stay in memory
+    constexpr int mostBands = 64;
+    const bool isProgressive = isJpeg
+        && (integerField(decoded, "interlaced", 0) != 0
+            || integerField(decoded, "jpeg-multiscan", 0) != 0);
+    const qint64 pixels = qint64{decoded.width()} * decoded.height();
+    if (pixels > (isProgressive ? mostProgressivePixels : mostPixels)
+        || decoded.bands() > mostBands)
+        throw vips::VError("the picture is too large");
+}
+
+/// A file that is decoded from top to bottom while its pixels are used.
+class StreamedPhoto : public PhotoDecoder
+{
+public:
+    StreamedPhoto(QString path, const StreamedType& type)
+        : m_path(std::move(path))
+        , m_loader(type.loader)
+        , m_isJpeg(QLatin1String(type.loader) == QLatin1String("jpegload"))
+    {
+        const vips::VImage decoded = load(m_loader, m_path, 1);
+        checkSize(decoded, m_isJpeg);
+        const ImageNode node = nodeOfDecodedPixels(decoded);
+        m_header.storedSize = {decoded.width(), decoded.height()};
+        m_header.orientation = statedOrientation(decoded);
+        m_header.uprightSize = uprightSize(m_header.storedSize, m_header.orientation);
+        m_header.typeIdentifier = QLatin1String(type.typeIdentifier);
+        m_header.bitsPerComponent = static_cast<int>(vips_format_sizeof(decoded.format())) * 8;
+        const bool isLab = decoded.interpretation() == VIPS_INTERPRETATION_LAB
+            || decoded.interpretation() == VIPS_INTERPRETATION_LABS;
+        m_header.colorModel = isLab ? ColorModel::Lab : node.colorModel;
+        m_header.hasAlpha = node.hasAlpha;
+        m_header.dotsPerInch = node.dotsPerInch;
+    }
+
+    [[nodiscard]] const ImageHeader& header() const override { return m_header; }
+
+    [[nodiscard]] std::vector<int> shrinkFactors() const override
+    {
+        return m_isJpeg ? std::vector{1, 2, 4, 8} : std::vector{1};
+    }
+
+    [[nodiscard]] ImageNode storedPixels(int shrink) const override
+    {
+        return nodeOfDecodedPixels(load(m_loader, m_path, shrink));
+    }
+
+private:
+    QString m_path;
+    const char* m_loader;
+    bool m_isJpeg;
+    ImageHeader m_header;
+};
+
+} // namespace
+
+bool isStreamedType(const QString& typeIdentifier)
+{
+    return streamedType(typeIdentifier) != nullptr;
+}
+
+std::unique_ptr<PhotoDecoder> openStreamedPhoto(const QString& path, const QString& typeIdentifier)
+{
+    return std::make_unique<StreamedPhoto>(path, *streamedType(typeIdentifier));
+}
+
+} // namespace brenvaldo::platform
