@@ -2,9 +2,9 @@
 #include "numbers.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 
 namespace brenvaldo::platform {
@@ -44,11 +44,6 @@ Integer leadingInteger(const QString& text)
     return value == lowest ? highest : static_cast<Integer>(-value);
 }
 
-bool mayStandInNumber(QChar character)
-{
-    return isAsciiDigit(character) || QStringLiteral("+-.eE").contains(character);
-}
-
 int hexDigitValue(QChar character)
 {
     const char16_t unit = character.unicode();
@@ -69,18 +64,13 @@ std::int64_t integerValue(const QString& text) { return leadingInteger<std::int6
 
 double doubleValue(const QString& text)
 {
+    static const QRegularExpression number(
+        QStringLiteral("^[+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?")
+    );
     const qsizetype begin = skipWhiteSpace(text, 0);
-    qsizetype end = begin;
-    while (end < text.size() && mayStandInNumber(text.at(end)))
-        ++end;
-    const QString run = text.mid(begin, end - begin);
-    for (qsizetype length = run.size(); length > 0; --length) {
-        bool complete = false;
-        const double value = QLocale::c().toDouble(run.left(length), &complete);
-        if (complete || std::isinf(value))
-            return value;
-    }
-    return 0;
+    const QRegularExpressionMatch match = number.match(QStringView(text).mid(begin));
+    // Overflow gives an infinity, which Qt calls a failure.
+    return QLocale::c().toDouble(match.capturedView());
 }
 
 float floatValue(const QString& text) { return static_cast<float>(doubleValue(text)); }
