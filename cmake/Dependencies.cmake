@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # The libraries that Debian 12 provides. Each is included by exactly one folder of src/.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg Network)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Widgets Svg Network)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(vips REQUIRED IMPORTED_TARGET vips-cpp>=8.14)
 pkg_check_modules(heif REQUIRED IMPORTED_TARGET libheif>=1.15)

@@ -1,14 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QtGlobal>
+#include <QFile>
+#include <QString>
 
 #include <csignal>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace brenvaldo::test {
+
+inline void setMode(const QString& path, mode_t mode)
+{
+    if (::chmod(QFile::encodeName(path).constData(), mode) != 0)
+        qFatal("the mode can't be set");
+}
 
 /// For its life the process has no rights of the superuser, so that permissions count as they do
 /// for a user. Folders of the test must be open to others (`chmod 755`) to be reached at all.

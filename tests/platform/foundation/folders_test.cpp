@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/foundation/folders.h>
 
+#include <support/environment.h>
 #include <support/text_printing.h>
 
 #include <QDir>
@@ -8,36 +9,7 @@
 #include <gtest/gtest.h>
 
 using namespace brenvaldo::platform;
-
-namespace {
-
-/// Gives an environment variable a value, and its old one back.
-class Environment
-{
-public:
-    Environment(const char* name, const QByteArray& value)
-        : m_name(name)
-        , m_before(qgetenv(name))
-    {
-        set(value);
-    }
-    Environment(const Environment&) = delete;
-    Environment& operator=(const Environment&) = delete;
-    Environment(Environment&&) = delete;
-    Environment& operator=(Environment&&) = delete;
-    ~Environment() { set(m_before); }
-
-private:
-    void set(const QByteArray& value) const
-    {
-        value.isNull() ? qunsetenv(m_name) : qputenv(m_name, value);
-    }
-
-    const char* m_name;
-    QByteArray m_before;
-};
-
-} // namespace
+using brenvaldo::test::Environment;
 
 TEST(Folders, FollowTheBaseDirectories)
 {

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/foundation/user_defaults.h>
 
+#include <support/environment.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
 
 #include <gtest/gtest.h>
 
 using brenvaldo::platform::UserDefaults;
+using brenvaldo::test::Environment;
 using brenvaldo::test::TemporaryFolder;
 
 TEST(UserDefaults, AnswerNothingForAKeyThatWasNeverSet)
@@ -63,13 +65,11 @@ TEST(UserDefaults, ForgetARemovedKey)
 TEST(UserDefaults, LiveInTheConfigurationFolder)
 {
     const TemporaryFolder folder;
-    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
-    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
+    const Environment configuration("XDG_CONFIG_HOME", folder.path().toUtf8());
     {
         UserDefaults defaults;
         defaults.set(u"key"_qs, u"value"_qs);
     }
-    before.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
 
     EXPECT_TRUE(TemporaryFolder::read(folder.path(u"Brenvaldo.conf"_qs)).contains("key=value"));
 }

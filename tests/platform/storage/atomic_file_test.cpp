@@ -14,6 +14,7 @@
 
 using namespace brenvaldo::platform;
 using brenvaldo::test::FullDisk;
+using brenvaldo::test::setMode;
 using brenvaldo::test::TemporaryFolder;
 using brenvaldo::test::WithoutPrivileges;
 
@@ -31,12 +32,6 @@ struct stat statusOf(const QString& path)
     if (::stat(QFile::encodeName(path).constData(), &status) != 0)
         qFatal("no such file");
     return status;
-}
-
-void setMode(const QString& path, mode_t mode)
-{
-    if (::chmod(QFile::encodeName(path).constData(), mode) != 0)
-        qFatal("the mode can't be set");
 }
 
 } // namespace

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "file_system.h"
+
+namespace brenvaldo::platform {
+
+/// Copies one plain file whole or not at all, with its dates, mode and extended attributes. The
+/// target must be free.
+[[nodiscard]] bool copyPlainFile(const SourceAndTarget& paths);
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "file_system.h"
+
+#include "file_copy.h"
+
+#include <platform/foundation/paths.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+std::filesystem::path nativePath(const QString& path)
+{
+    return {QFile::encodeName(path).toStdString()};
+}
+
+/// True when a name is taken, by a broken link as well.
+bool isTaken(const QString& path)
+{
+    struct stat status = {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+}
+
+bool standsInside(const QString& path, const QString& folder)
+{
+    const QString inner = QFileInfo(QFileInfo(path).absolutePath()).canonicalFilePath() + u'/';
+    return inner.startsWith(QFileInfo(folder).canonicalFilePath() + u'/');
+}
+
+bool copyLink(const SourceAndTarget& paths)
+{
+    std::error_code error;
+    std::filesystem::copy_symlink(nativePath(paths.source), nativePath(paths.target), error);
+    return !error;
+}
+
+bool copyToFreePlace(const SourceAndTarget& paths);
+
+bool copyFolderContents(const SourceAndTarget& paths)
+{
+    for (const FolderEntry& entry : folderEntries(paths.source, HiddenFiles::Included)) {
+        const QString target = appendingPathComponent(paths.target, entry.name);
+        if (!copyToFreePlace({.source = entry.path, .target = target}))
+            return false;
+    }
+    return true;
+}
+
+void copyFolderModeAndDates(const SourceAndTarget& paths)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(paths.source).constData(), &status) != 0)
+        return;
+    const QByteArray target = QFile::encodeName(paths.target);
+    ::chmod(target.constData(), status.st_mode & 0777U);
+    const timespec dates[] = {status.st_atim, status.st_mtim};
+    ::utimensat(AT_FDCWD, target.constData(), dates, 0);
+}
+
+bool copyFolder(const SourceAndTarget& paths)
+{
+    if (standsInside(paths.target, paths.source) || !QFileInfo(paths.source).isReadable()
+        || !QDir().mkdir(paths.target))
+        return false;
+    if (!copyFolderContents(paths)) {
+        removeItem(paths.target);
+        return false;
+    }
+    copyFolderModeAndDates(paths);
+    return true;
+}
+
+bool copyToFreePlace(const SourceAndTarget& paths)
+{
+    const QFileInfo source(paths.source);
+    if (source.isSymLink())
+        return copyLink(paths);
+    return source.isDir() ? copyFolder(paths) : copyPlainFile(paths);
+}
+
+QDateTime dateOf(const statx_timestamp& stamp)
+{
+    return QDateTime::fromMSecsSinceEpoch(stamp.tv_sec * 1000 + stamp.tv_nsec / 1'000'000);
+}
+
+void appendTree(const QString& folder, QList<FolderEntry>& tree)
+{
+    for (const FolderEntry& entry : folderEntries(folder)) {
+        tree += entry;
+        if (entry.isFolder)
+            appendTree(entry.path, tree);
+    }
+}
+
+} // namespace
+
+bool fileExists(const QString& path) { return QFileInfo::exists(path); }
+
+bool isFolder(const QString& path) { return QFileInfo(path).isDir(); }
+
+bool createFolder(const QString& path) { return !path.isEmpty() && QDir().mkpath(path); }
+
+bool copyItem(const SourceAndTarget& paths)
+{
+    if (paths.target.isEmpty() || isTaken(paths.target))
+        return false;
+    return copyToFreePlace(paths);
+}
+
+bool moveItem(const SourceAndTarget& paths)
+{
+    if (paths.target.isEmpty() || isTaken(paths.target))
+        return false;
+    std::error_code error;
+    std::filesystem::rename(nativePath(paths.source), nativePath(paths.target), error);
+    if (error != std::errc::cross_device_link)
+        return !error;
+    return copyToFreePlace(paths) && removeItem(paths.source);
+}
+
+bool createSymbolicLink(const SourceAndTarget& paths)
+{
+    std::error_code error;
+    std::filesystem::create_symlink(nativePath(paths.source), nativePath(paths.target), error);
+    return !error;
+}
+
+bool removeItem(const QString& path)
+{
+    // A trailing slash would lead through a link to the folder behind it.
+    const QString item = appendingPathComponent(path, {});
+    if (!isTaken(item))
+        return false;
+    std::error_code error;
+    std::filesystem::remove_all(nativePath(item), error);
+    return !error;
+}
+
+std::optional<FileAttributes> fileAttributes(const QString& path)
+{
+    struct statx status = {};
+    constexpr unsigned wanted = STATX_SIZE | STATX_MTIME | STATX_BTIME;
+    const QByteArray name = QFile::encodeName(path);
+    if (::statx(AT_FDCWD, name.constData(), AT_SYMLINK_NOFOLLOW, wanted, &status) != 0)
+        return std::nullopt;
+    const bool hasBirth = (status.stx_mask & STATX_BTIME) != 0;
+    return FileAttributes{
+        .size = static_cast<std::int64_t>(status.stx_size),
+        .creationDate = dateOf(hasBirth ? status.stx_btime : status.stx_mtime),
+        .modificationDate = dateOf(status.stx_mtime),
+    };
+}
+
+QList<FolderEntry> folderEntries(const QString& folder, HiddenFiles hidden)
+{
+    if (folder.isEmpty())
+        return {};
+    QDir::Filters filters = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
+    if (hidden == HiddenFiles::Included)
+        filters |= QDir::Hidden;
+    QList<FolderEntry> entries;
+    for (const QFileInfo& file : QDir(folder).entryInfoList(filters, QDir::Name)) {
+        entries
+            += {.path = appendingPathComponent(folder, file.fileName()),
+                .name = file.fileName(),
+                .isFolder = file.isDir() && !file.isSymLink()};
+    }
+    return entries;
+}
+
+QList<FolderEntry> folderTree(const QString& folder)
+{
+    QList<FolderEntry> tree;
+    appendTree(folder, tree);
+    return tree;
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,349 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/storage/file_system.h>
+
+#include <support/faults.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <gtest/gtest.h>
+
+#include <sys/xattr.h>
+
+using namespace brenvaldo::platform;
+using namespace brenvaldo::test;
+
+namespace {
+
+QStringList allEntries(const QString& folder)
+{
+    return QDir(folder).entryList(
+        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name
+    );
+}
+
+QStringList relativePaths(const QList<FolderEntry>& entries, const TemporaryFolder& folder)
+{
+    QStringList paths;
+    for (const FolderEntry& entry : entries)
+        paths += entry.path.mid(folder.path().size());
+    return paths;
+}
+
+/// A folder "tree" with a file, a hidden file, a link, and a sub-folder with a file.
+QString makeTree(const TemporaryFolder& folder)
+{
+    createFolder(folder.path(u"tree/inner"_qs));
+    static_cast<void>(folder.write(u"tree/a.txt"_qs, "a"));
+    static_cast<void>(folder.write(u"tree/.hidden"_qs, "h"));
+    static_cast<void>(folder.write(u"tree/inner/b.txt"_qs, "b"));
+    QFile::link(u"a.txt"_qs, folder.path(u"tree/link"_qs));
+    return folder.path(u"tree"_qs);
+}
+
+} // namespace
+
+TEST(FileExists, LooksThroughLinks)
+{
+    const TemporaryFolder folder;
+    const QString file = folder.write(u"a"_qs, "");
+    QFile::link(file, folder.path(u"good"_qs));
+    QFile::link(folder.path(u"missing"_qs), folder.path(u"broken"_qs));
+
+    EXPECT_TRUE(fileExists(file));
+    EXPECT_TRUE(fileExists(folder.path()));
+    EXPECT_TRUE(fileExists(folder.path(u"good"_qs)));
+    EXPECT_FALSE(fileExists(folder.path(u"broken"_qs)));
+    EXPECT_FALSE(fileExists(folder.path(u"missing"_qs)));
+    EXPECT_FALSE(fileExists(u""_qs));
+}
+
+TEST(CreateFolder, MakesTheFoldersAroundIt)
+{
+    const TemporaryFolder folder;
+
+    EXPECT_TRUE(createFolder(folder.path(u"a/b/c"_qs)));
+    EXPECT_TRUE(createFolder(folder.path(u"a/b/c"_qs)));
+
+    EXPECT_TRUE(isFolder(folder.path(u"a/b/c"_qs)));
+}
+
+TEST(CreateFolder, FailsBelowAFileAndWithoutAName)
+{
+    const TemporaryFolder folder;
+    const QString file = folder.write(u"file"_qs, "");
+
+    EXPECT_FALSE(createFolder(file + u"/inner"_qs));
+    EXPECT_FALSE(createFolder(u""_qs));
+    EXPECT_FALSE(isFolder(file));
+}
+
+TEST(CopyItem, CopiesAFileWithItsDatesModeAndAttributes)
+{
+    const TemporaryFolder folder;
+    const QString source = folder.write(u"été.jpg"_qs, "pixels");
+    const QString target = folder.path(u"ñ.jpg"_qs);
+    const QDateTime date({2020, 2, 3}, {4, 5, 6});
+    {
+        QFile file(source);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        file.setFileTime(date, QFileDevice::FileModificationTime);
+    }
+    setMode(source, 0640);
+    ASSERT_EQ(::setxattr(QFile::encodeName(source).constData(), "user.label", "6", 1, 0), 0);
+
+    EXPECT_TRUE(copyItem({.source = source, .target = target}));
+
+    EXPECT_EQ(TemporaryFolder::read(target), "pixels");
+    EXPECT_EQ(fileAttributes(target)->modificationDate, date);
+    EXPECT_EQ(QFile::permissions(target), QFile::permissions(source));
+    char label = 0;
+    EXPECT_EQ(::getxattr(QFile::encodeName(target).constData(), "user.label", &label, 1), 1);
+    EXPECT_EQ(label, '6');
+}
+
+TEST(CopyItem, CopiesLargeFilesWhole)
+{
+    const TemporaryFolder folder;
+    QByteArray contents(40'000'000, 'x');
+    contents[39'999'999] = 'y';
+    const QString source = folder.write(u"large"_qs, contents);
+    const QString target = folder.path(u"copy"_qs);
+
+    EXPECT_TRUE(copyItem({.source = source, .target = target}));
+
+    EXPECT_TRUE(TemporaryFolder::read(target) == contents);
+}
+
+TEST(CopyItem, CopiesAFolderWithAllItHolds)
+{
+    const TemporaryFolder folder;
+    const QString tree = makeTree(folder);
+
+    EXPECT_TRUE(copyItem({.source = tree, .target = folder.path(u"copy"_qs)}));
+
+    EXPECT_EQ(allEntries(folder.path(u"copy"_qs)), allEntries(tree));
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy/inner/b.txt"_qs)), "b");
+    EXPECT_TRUE(QFileInfo(folder.path(u"copy/link"_qs)).isSymLink());
+}
+
+TEST(CopyItem, CopiesALinkAsALink)
+{
+    const TemporaryFolder folder;
+    QFile::link(u"nowhere"_qs, folder.path(u"link"_qs));
+
+    EXPECT_TRUE(copyItem({.source = folder.path(u"link"_qs), .target = folder.path(u"copy"_qs)}));
+
+    EXPECT_TRUE(QFileInfo(folder.path(u"copy"_qs)).isSymLink());
+}
+
+TEST(CopyItem, ReplacesNothing)
+{
+    const TemporaryFolder folder;
+    const QString source = folder.write(u"source"_qs, "new");
+    const QString target = folder.write(u"target"_qs, "old");
+    QFile::link(u"nowhere"_qs, folder.path(u"broken"_qs));
+
+    EXPECT_FALSE(copyItem({.source = source, .target = target}));
+    EXPECT_FALSE(copyItem({.source = source, .target = source}));
+    EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"broken"_qs)}));
+    EXPECT_FALSE(copyItem({.source = source, .target = folder.path()}));
+
+    EXPECT_EQ(TemporaryFolder::read(target), "old");
+    EXPECT_EQ(TemporaryFolder::read(source), "new");
+}
+
+TEST(CopyItem, FailsForAMissingSourceOrFolder)
+{
+    const TemporaryFolder folder;
+    const QString source = folder.write(u"source"_qs, "new");
+
+    EXPECT_FALSE(copyItem({.source = folder.path(u"missing"_qs), .target = folder.path(u"copy"_qs)})
+    );
+    EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"missing/copy"_qs)}));
+    EXPECT_FALSE(copyItem({.source = source, .target = u""_qs}));
+
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"source"_qs});
+}
+
+TEST(CopyItem, RefusesToCopyAFolderIntoItself)
+{
+    const TemporaryFolder folder;
+    const QString tree = makeTree(folder);
+
+    EXPECT_FALSE(copyItem({.source = tree, .target = tree + u"/inner/copy"_qs}));
+
+    EXPECT_EQ(allEntries(tree + u"/inner"_qs), QStringList{u"b.txt"_qs});
+}
+
+TEST(CopyItem, LeavesNothingOfAFileOnAFullDisk)
+{
+    const TemporaryFolder folder;
+    const QString source = folder.write(u"source"_qs, QByteArray(100000, 'x'));
+    {
+        const FullDisk disk(4096);
+        EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"copy"_qs)}));
+    }
+
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"source"_qs});
+    EXPECT_EQ(TemporaryFolder::read(source).size(), 100000);
+}
+
+TEST(CopyItem, LeavesNothingOfAFolderOnAFullDisk)
+{
+    const TemporaryFolder folder;
+    const QString tree = makeTree(folder);
+    static_cast<void>(folder.write(u"tree/z"_qs, QByteArray(100000, 'x')));
+    {
+        const FullDisk disk(4096);
+        EXPECT_FALSE(copyItem({.source = tree, .target = folder.path(u"copy"_qs)}));
+    }
+
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"tree"_qs});
+}
+
+TEST(CopyItem, FailsInAReadOnlyFolder)
+{
+    const TemporaryFolder folder;
+    const QString source = folder.write(u"source"_qs, "a");
+    const QString target = folder.path(u"locked/copy"_qs);
+    createFolder(folder.path(u"locked"_qs));
+    setMode(folder.path(u"locked"_qs), 0555);
+    setMode(folder.path(), 0755);
+    {
+        const WithoutPrivileges user;
+        EXPECT_FALSE(copyItem({.source = source, .target = target}));
+        EXPECT_FALSE(moveItem({.source = source, .target = target}));
+    }
+
+    EXPECT_EQ(allEntries(folder.path(u"locked"_qs)), QStringList());
+    EXPECT_EQ(TemporaryFolder::read(source), "a");
+}
+
+TEST(MoveItem, MovesFilesAndFolders)
+{
+    const TemporaryFolder folder;
+    const QString source = folder.write(u"source"_qs, "a");
+    const QString tree = makeTree(folder);
+
+    EXPECT_TRUE(moveItem({.source = source, .target = folder.path(u"moved"_qs)}));
+    EXPECT_TRUE(moveItem({.source = tree, .target = folder.path(u"moved tree"_qs)}));
+
+    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"moved"_qs, u"moved tree"_qs}));
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"moved tree/inner/b.txt"_qs)), "b");
+}
+
+TEST(MoveItem, CrossesVolumes)
+{
+    const TemporaryFolder folder;
+    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
+    const QString tree = makeTree(folder);
+    const QString target = shared.filePath(u"moved"_qs);
+
+    EXPECT_TRUE(moveItem({.source = tree, .target = target}));
+
+    EXPECT_FALSE(fileExists(tree));
+    EXPECT_EQ(TemporaryFolder::read(target + u"/inner/b.txt"_qs), "b");
+}
+
+TEST(MoveItem, ReplacesNothing)
+{
+    const TemporaryFolder folder;
+    const QString source = folder.write(u"source"_qs, "new");
+    const QString target = folder.write(u"target"_qs, "old");
+
+    EXPECT_FALSE(moveItem({.source = source, .target = target}));
+    EXPECT_FALSE(moveItem({.source = source, .target = source}));
+    EXPECT_FALSE(moveItem({.source = folder.path(u"missing"_qs), .target = folder.path(u"x"_qs)}));
+
+    EXPECT_EQ(TemporaryFolder::read(target), "old");
+    EXPECT_EQ(TemporaryFolder::read(source), "new");
+}
+
+TEST(CreateSymbolicLink, NeedsNoSourceButAFreeTarget)
+{
+    const TemporaryFolder folder;
+    const QString target = folder.path(u"link"_qs);
+
+    EXPECT_TRUE(createSymbolicLink({.source = u"/nowhere"_qs, .target = target}));
+    EXPECT_FALSE(createSymbolicLink({.source = u"/nowhere"_qs, .target = target}));
+
+    EXPECT_EQ(QFileInfo(target).symLinkTarget(), u"/nowhere"_qs);
+}
+
+TEST(RemoveItem, RemovesAFolderWithItsContents)
+{
+    const TemporaryFolder folder;
+
+    EXPECT_TRUE(removeItem(makeTree(folder)));
+    EXPECT_FALSE(removeItem(folder.path(u"tree"_qs)));
+
+    EXPECT_EQ(allEntries(folder.path()), QStringList());
+}
+
+TEST(RemoveItem, LeavesWhatALinkLeadsTo)
+{
+    const TemporaryFolder folder;
+    const QString tree = makeTree(folder);
+    const QString link = folder.path(u"link"_qs);
+    QFile::link(tree, link);
+
+    EXPECT_TRUE(removeItem(link + u'/'));
+
+    EXPECT_FALSE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(allEntries(tree).size(), 4);
+}
+
+TEST(FileAttributes, TellSizeAndDates)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(u"a"_qs, "12345");
+    const QDateTime now = QDateTime::currentDateTime();
+
+    const auto attributes = fileAttributes(path);
+
+    ASSERT_TRUE(attributes);
+    EXPECT_EQ(attributes->size, 5);
+    EXPECT_LT(qAbs(attributes->creationDate.secsTo(now)), 60);
+    EXPECT_LT(qAbs(attributes->modificationDate.secsTo(now)), 60);
+    EXPECT_EQ(fileAttributes(folder.path(u"missing"_qs)), std::nullopt);
+}
+
+TEST(FolderEntries, LeaveHiddenFilesOut)
+{
+    const TemporaryFolder folder;
+    const QString tree = makeTree(folder);
+
+    EXPECT_EQ(
+        relativePaths(folderEntries(tree), folder),
+        (QStringList{u"tree/a.txt"_qs, u"tree/inner"_qs, u"tree/link"_qs})
+    );
+    EXPECT_EQ(folderEntries(tree, HiddenFiles::Included).size(), 4);
+    EXPECT_TRUE(folderEntries(folder.path(u"missing"_qs)).isEmpty());
+    EXPECT_TRUE(folderEntries(u""_qs).isEmpty());
+}
+
+TEST(FolderTree, GoesDownAllLevelsPastHiddenFolders)
+{
+    const TemporaryFolder folder;
+    const QString tree = makeTree(folder);
+    createFolder(tree + u"/.hidden folder"_qs);
+    static_cast<void>(folder.write(u"tree/.hidden folder/c"_qs, "c"));
+    QFile::link(tree, folder.path(u"tree/loop"_qs));
+
+    const QList<FolderEntry> entries = folderTree(tree);
+
+    EXPECT_EQ(
+        relativePaths(entries, folder),
+        (QStringList{
+            u"tree/a.txt"_qs,
+            u"tree/inner"_qs,
+            u"tree/inner/b.txt"_qs,
+            u"tree/link"_qs,
+            u"tree/loop"_qs})
+    );
+    EXPECT_TRUE(entries.at(1).isFolder);
+    EXPECT_FALSE(entries.at(4).isFolder);
+}
