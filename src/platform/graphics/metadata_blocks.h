@@ -19,6 +19,9 @@ struct MetadataBlocks
 
     /// Further application segments of a JPEG, whole: marker, length and contents.
     QList<QByteArray> jpegSegments;
+
+    /// Textual chunks of a PNG other than those the blocks above were taken from, whole.
+    QList<QByteArray> pngTextChunks;
 };
 
 } // namespace brenvaldo::platform

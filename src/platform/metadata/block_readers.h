@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <platform/graphics/metadata_blocks.h>
+
+#include <QByteArrayView>
+
+/// \file
+/// The metadata blocks of one container each, from the bytes of the whole file.
+///
+/// The bytes may be damaged or hostile: what can't be read is left out, nothing is read beyond the
+/// end, and the work is bounded by the size of the file.
+
+namespace brenvaldo::platform {
+
+[[nodiscard]] MetadataBlocks readJpegBlocks(QByteArrayView file);
+[[nodiscard]] MetadataBlocks readPngBlocks(QByteArrayView file);
+/// TIFF and BigTIFF: the tags of the first directory that do not describe its pixels, with the
+/// directories of EXIF and GPS below it, as an EXIF block of their own.
+[[nodiscard]] MetadataBlocks readTiffBlocks(QByteArrayView file);
+/// HEIC, HEIF and AVIF.
+[[nodiscard]] MetadataBlocks readHeifBlocks(QByteArrayView file);
+[[nodiscard]] MetadataBlocks readJpeg2000Blocks(QByteArrayView file);
+[[nodiscard]] MetadataBlocks readWebpBlocks(QByteArrayView file);
+[[nodiscard]] MetadataBlocks readGifBlocks(QByteArrayView file);
+[[nodiscard]] MetadataBlocks readPsdBlocks(QByteArrayView file);
+
+} // namespace brenvaldo::platform

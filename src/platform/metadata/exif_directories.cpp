@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "exif_directories.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+constexpr std::uint64_t headerLength = 8;
+constexpr std::uint64_t longestGap = 32768;
+
+/// First and last tag of each group.
+constexpr std::array<std::pair<std::uint16_t, std::uint16_t>, 18> storageTags{
+    {{254, 259}, // kind, size, depth, compression
+     {262, 266}, // photometric interpretation, thresholds, fill order
+     {273, 273}, // strip offsets
+     {277, 281}, // samples, rows, strip lengths, smallest and largest sample
+     {284, 284}, // planes
+     {288, 293}, // free space, grey response, fax options
+     {317, 317}, // predictor
+     {320, 328}, // palette, halftone, tiles
+     {330, 330}, // further directories
+     {332, 332}, // inks
+     {334, 334},
+     {338, 347}, // extra samples, sample format, JPEG tables
+     {512, 521}, // old JPEG
+     {tiff::Xmp, tiff::Xmp},
+     {tiff::Iptc, tiff::Iptc},
+     {tiff::PhotoshopResources, tiff::PhotoshopResources},
+     {tiff::IccProfile, tiff::IccProfile},
+     {tiff::PhotoshopLayers, tiff::PhotoshopLayers}}};
+
+TiffDirectory withoutStorageTags(const TiffDirectory& directory)
+{
+    TiffDirectory result;
+    std::copy_if(
+        directory.begin(),
+        directory.end(),
+        std::back_inserter(result),
+        [](const TiffField& field) { return !describesStorage(field.tag); }
+    );
+    return result;
+}
+
+TiffDirectory without(TiffDirectory directory, std::initializer_list<std::uint16_t> tags)
+{
+    directory.removeIf([&](const TiffField& field) {
+        return std::find(tags.begin(), tags.end(), field.tag) != tags.end();
+    });
+    return directory;
+}
+
+void swapFields(TiffDirectory& directory)
+{
+    for (TiffField& field : directory) {
+        if (field.type != tiff::Undefined)
+            field = swapped(field);
+    }
+}
+
+QByteArray serialized(const TiffDirectory& directory, std::uint64_t offset, ByteOrder order)
+{
+    return directory.isEmpty() ? QByteArray() : serializedDirectory(directory, offset, order);
+}
+
+/// Adds the fields that point from one directory to another, with no offsets yet.
+ExifDirectories withPointers(ExifDirectories parts)
+{
+    if (!parts.interoperability.isEmpty())
+        parts.exif.append(longField(tiff::InteroperabilityDirectory, 0, parts.order));
+    if (!parts.exif.isEmpty())
+        parts.image.append(longField(tiff::ExifDirectory, 0, parts.order));
+    if (!parts.gps.isEmpty())
+        parts.image.append(longField(tiff::GpsDirectory, 0, parts.order));
+    return parts;
+}
+
+void setPointer(TiffDirectory& directory, std::uint16_t tag, std::uint64_t offset, ByteOrder order)
+{
+    for (TiffField& field : directory) {
+        if (field.tag == tag)
+            field = longField(tag, offset, order);
+    }
+}
+
+/// Where the directories behind the first one stand, and where the last one ends.
+struct Layout
+{
+    std::uint64_t gps = 0;
+    std::uint64_t interoperability = 0;
+    std::uint64_t exif = 0;
+    std::uint64_t end = 0;
+};
+
+/// The length of a directory does not depend on its offset.
+Layout layoutOf(const ExifDirectories& parts)
+{
+    const auto lengthOf = [&parts](const TiffDirectory& directory) {
+        return static_cast<std::uint64_t>(serialized(directory, 0, parts.order).size());
+    };
+    Layout layout;
+    layout.gps = headerLength + lengthOf(parts.image);
+    layout.interoperability = layout.gps + lengthOf(parts.gps);
+    layout.exif = layout.interoperability + lengthOf(parts.interoperability);
+    layout.end = layout.exif + lengthOf(parts.exif);
+    return layout;
+}
+
+/// The maker note when it does not stand in its entry itself; null otherwise.
+TiffField* longMakerNote(TiffDirectory& exif)
+{
+    const auto found = std::find_if(exif.begin(), exif.end(), [](const TiffField& field) {
+        return field.tag == tiff::MakerNote && field.value.size() > 4;
+    });
+    return found == exif.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+bool describesStorage(std::uint16_t tag)
+{
+    return std::any_of(storageTags.begin(), storageTags.end(), [tag](const auto& range) {
+        return tag >= range.first && tag <= range.second;
+    });
+}
+
+ExifDirectories exifDirectoriesOf(const TiffFile& file)
+{
+    const TiffDirectory image = file.firstDirectory();
+    const TiffDirectory exif = file.subDirectory(image, tiff::ExifDirectory);
+    return {
+        .order = file.order(),
+        .image = without(withoutStorageTags(image), {tiff::ExifDirectory, tiff::GpsDirectory}),
+        .exif = without(exif, {tiff::InteroperabilityDirectory}),
+        .gps = file.subDirectory(image, tiff::GpsDirectory),
+        .interoperability = file.subDirectory(exif, tiff::InteroperabilityDirectory)};
+}
+
+ExifDirectories inOrder(const ExifDirectories& directories, ByteOrder order)
+{
+    ExifDirectories result = directories;
+    result.order = order;
+    if (order == directories.order)
+        return result;
+    for (TiffDirectory* directory :
+         {&result.image, &result.exif, &result.gps, &result.interoperability})
+        swapFields(*directory);
+    return result;
+}
+
+QByteArray serializedExif(const ExifDirectories& directories)
+{
+    if (directories.image.isEmpty() && directories.exif.isEmpty() && directories.gps.isEmpty())
+        return {};
+    const ByteOrder order = directories.order;
+    ExifDirectories parts = withPointers(directories);
+    TiffField* makerNote = longMakerNote(parts.exif);
+    if (makerNote)
+        makerNote->isPlaced = true;
+    const Layout layout = layoutOf(parts);
+    setPointer(parts.image, tiff::GpsDirectory, layout.gps, order);
+    setPointer(parts.image, tiff::ExifDirectory, layout.exif, order);
+    setPointer(parts.exif, tiff::InteroperabilityDirectory, layout.interoperability, order);
+    std::uint64_t makerNoteOffset = layout.end;
+    if (makerNote) {
+        const bool isInReach = makerNote->valueOffset >= layout.end
+            && makerNote->valueOffset - layout.end <= longestGap;
+        makerNoteOffset = isInReach ? makerNote->valueOffset : layout.end;
+        makerNote->valueOffset = makerNoteOffset;
+    }
+
+    QByteArray block = tiffHeader(order, headerLength);
+    block += serialized(parts.image, headerLength, order);
+    block += serialized(parts.gps, layout.gps, order);
+    block += serialized(parts.interoperability, layout.interoperability, order);
+    block += serialized(parts.exif, layout.exif, order);
+    block.resize(static_cast<qsizetype>(makerNoteOffset), '\0');
+    if (makerNote)
+        block += makerNote->value;
+    return block;
+}
+
+} // namespace brenvaldo::platform

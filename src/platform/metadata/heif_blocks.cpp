@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "block_readers.h"
+#include "bytes.h"
+#include "iso_boxes.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+using ItemId = std::uint64_t;
+
+std::uint64_t numberAt(QByteArrayView bytes, std::uint64_t offset, int width)
+{
+    return unsignedAt(bytes, offset, width, ByteOrder::Big).value_or(0);
+}
+
+/// What the item information tells about a piece of metadata.
+struct Item
+{
+    ItemId id = 0;
+    QByteArray type; ///< "Exif", or the content type of a "mime" item
+};
+
+std::optional<Item> itemOf(QByteArrayView info)
+{
+    const std::uint64_t version = numberAt(info, 0, 1);
+    if (version < 2 || version > 3)
+        return std::nullopt;
+    const int idWidth = version == 2 ? 2 : 4;
+    const auto typeOffset = static_cast<std::uint64_t>(4 + idWidth + 2);
+    const auto type = sliceOf(info, typeOffset, 4);
+    if (!type)
+        return std::nullopt;
+    Item item{.id = numberAt(info, 4, idWidth), .type = type->toByteArray()};
+    if (item.type != "mime")
+        return item;
+    const QByteArrayView name = tailOf(info, typeOffset + 4);
+    const qsizetype nameEnd = name.indexOf('\0');
+    const QByteArrayView contentType = nameEnd < 0 ? QByteArrayView() : name.sliced(nameEnd + 1);
+    const qsizetype end = contentType.indexOf('\0');
+    item.type = (end < 0 ? contentType : contentType.first(end)).toByteArray();
+    return item;
+}
+
+QList<Item> itemsOf(QByteArrayView information)
+{
+    const int countWidth = numberAt(information, 0, 1) == 0 ? 2 : 4;
+    QList<Item> items;
+    for (const IsoBox& box :
+         isoBoxes(tailOf(information, static_cast<std::uint64_t>(4 + countWidth)))) {
+        if (box.type != QByteArrayView("infe"))
+            continue;
+        if (const auto item = itemOf(box.payload))
+            items.append(*item);
+    }
+    return items;
+}
+
+/// The items that describe item `primary`.
+QList<ItemId> descriptionsOf(QByteArrayView references, ItemId primary)
+{
+    const int idWidth = numberAt(references, 0, 1) == 0 ? 2 : 4;
+    const auto step = static_cast<std::uint64_t>(idWidth);
+    QList<ItemId> ids;
+    for (const IsoBox& box : isoBoxes(tailOf(references, 4))) {
+        if (box.type != QByteArrayView("cdsc"))
+            continue;
+        const std::uint64_t count = numberAt(box.payload, step, 2);
+        for (std::uint64_t i = 0; i < count; ++i) {
+            if (unsignedAt(box.payload, step + 2 + i * step, idWidth, ByteOrder::Big) == primary)
+                ids.append(numberAt(box.payload, 0, idWidth));
+        }
+    }
+    return ids;
+}
+
+/// Reads the item location box, entry by entry.
+class Locations
+{
+public:
+    Locations(QByteArrayView file, QByteArrayView meta, QByteArrayView locations)
+        : m_file(file)
+        , m_itemData(isoBox(isoBoxes(tailOf(meta, 4)), "idat"))
+        , m_box(locations)
+        , m_version(numberAt(locations, 0, 1))
+    {
+        m_offsetWidth = static_cast<int>(numberAt(m_box, 4, 1) >> 4U);
+        m_lengthWidth = static_cast<int>(numberAt(m_box, 4, 1) & 15U);
+        m_baseWidth = static_cast<int>(numberAt(m_box, 5, 1) >> 4U);
+        m_indexWidth = m_version == 0 ? 0 : static_cast<int>(numberAt(m_box, 5, 1) & 15U);
+    }
+
+    /// The bytes of item `wanted`; empty when they do not stand in this file.
+    QByteArray dataOf(ItemId wanted)
+    {
+        const bool isSane = m_offsetWidth <= 8 && m_lengthWidth <= 8 && m_baseWidth <= 8
+            && m_indexWidth <= 8 && m_version <= 2;
+        if (!isSane)
+            return {};
+        m_place = 6;
+        const std::uint64_t count = take(m_version < 2 ? 2 : 4);
+        for (std::uint64_t i = 0; i < count && m_place < size(); ++i) {
+            const ItemId id = take(m_version < 2 ? 2 : 4);
+            const std::uint64_t method = m_version == 0 ? 0 : take(2) & 15U;
+            const std::uint64_t dataReference = take(2);
+            const std::uint64_t base = take(m_baseWidth);
+            const std::uint64_t extents = take(2);
+            if (id == wanted)
+                return dataReference == 0 && method <= 1 ? extentsFrom(method, base, extents)
+                                                         : QByteArray();
+            m_place += extents
+                * static_cast<std::uint64_t>(m_indexWidth + m_offsetWidth + m_lengthWidth);
+        }
+        return {};
+    }
+
+private:
+    [[nodiscard]] std::uint64_t size() const { return static_cast<std::uint64_t>(m_box.size()); }
+
+    std::uint64_t take(int width)
+    {
+        const std::uint64_t value = numberAt(m_box, m_place, width);
+        m_place += static_cast<std::uint64_t>(width);
+        return value;
+    }
+
+    QByteArray extentsFrom(std::uint64_t method, std::uint64_t base, std::uint64_t count)
+    {
+        const QByteArrayView place = method == 0 ? m_file : m_itemData;
+        QByteArray data;
+        for (std::uint64_t i = 0; i < count && m_place < size(); ++i) {
+            take(m_indexWidth);
+            const std::uint64_t offset = base + take(m_offsetWidth);
+            const std::uint64_t length = take(m_lengthWidth);
+            const auto extent = m_lengthWidth == 0 || length == 0
+                ? std::optional(tailOf(place, offset))
+                : sliceOf(place, offset, length);
+            // More than the whole file can only come from extents that overlap.
+            if (!extent || data.size() + extent->size() > m_file.size())
+                return {};
+            data.append(*extent);
+        }
+        return data;
+    }
+
+    QByteArrayView m_file;
+    QByteArrayView m_itemData;
+    QByteArrayView m_box;
+    std::uint64_t m_version = 0;
+    std::uint64_t m_place = 0;
+    int m_offsetWidth = 0;
+    int m_lengthWidth = 0;
+    int m_baseWidth = 0;
+    int m_indexWidth = 0;
+};
+
+/// The EXIF block behind the offset that stands in front of it.
+QByteArray exifOf(const QByteArray& data)
+{
+    const auto offset = unsignedAt(data, 0, 4, ByteOrder::Big);
+    return offset ? tailOf(data, 4 + *offset).toByteArray() : QByteArray();
+}
+
+/// Sorts the items that describe the primary picture to the front.
+void putFirst(QList<Item>& items, const QList<ItemId>& ids)
+{
+    std::stable_partition(items.begin(), items.end(), [&ids](const Item& item) {
+        return ids.contains(item.id);
+    });
+}
+
+} // namespace
+
+MetadataBlocks readHeifBlocks(QByteArrayView file)
+{
+    MetadataBlocks blocks;
+    const QByteArrayView meta = isoBox(isoBoxes(file), "meta");
+    const QList<IsoBox> boxes = isoBoxes(tailOf(meta, 4));
+    const QByteArrayView primaryBox = isoBox(boxes, "pitm");
+    const ItemId primary = numberAt(primaryBox, 4, numberAt(primaryBox, 0, 1) == 0 ? 2 : 4);
+    QList<Item> items = itemsOf(isoBox(boxes, "iinf"));
+    putFirst(items, descriptionsOf(isoBox(boxes, "iref"), primary));
+
+    Locations locations(file, meta, isoBox(boxes, "iloc"));
+    for (const Item& item : items) {
+        if (item.type == "Exif" && blocks.exif.isEmpty())
+            blocks.exif = exifOf(locations.dataOf(item.id));
+        else if (item.type == "application/rdf+xml" && blocks.xmp.isEmpty())
+            blocks.xmp = locations.dataOf(item.id);
+    }
+    return blocks;
+}
+
+} // namespace brenvaldo::platform

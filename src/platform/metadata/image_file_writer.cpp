@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "image_file_writer.h"
+
+#include "block_splicers.h"
+#include "mapped_file.h"
+#include "xmp_packet.h"
+
+#include <platform/storage/atomic_file.h>
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+using Splicer = std::optional<QByteArrayList> (*)(QByteArrayView, const MetadataBlocks&);
+
+/// Null for the formats that take no metadata, or take it from their encoder.
+Splicer splicerFor(FileFormat format)
+{
+    switch (format) {
+    case FileFormat::Jpeg:
+        return splicedJpeg;
+    case FileFormat::Png:
+        return splicedPng;
+    case FileFormat::Tiff:
+        return splicedTiff;
+    case FileFormat::Bmp:
+    case FileFormat::Gif:
+    case FileFormat::Jpeg2000:
+    case FileFormat::Heic:
+    case FileFormat::Pdf:
+        return nullptr;
+    }
+    return nullptr;
+}
+
+bool writePieces(const QByteArrayList& pieces, const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate)
+        && std::all_of(
+               pieces.begin(),
+               pieces.end(),
+               [&file](const QByteArray& piece) { return file.write(piece) == piece.size(); }
+        )
+        && file.flush();
+}
+
+bool encodeWithBlocks(const Image& image, const ImageFileRequest& request, const QString& path)
+{
+    EncodeOptions options{.lossyQuality = request.lossyQuality, .blocks = nullptr};
+    MetadataBlocks blocks;
+    if (request.metadata && request.format == FileFormat::Heic) {
+        blocks.exif = request.metadata->exif;
+        blocks.xmp = completeXmp(*request.metadata);
+        options.blocks = &blocks;
+    }
+    return encode(image, request.format, options, path);
+}
+
+bool encodeAndSplice(
+    const Image& image, const ImageFileRequest& request, Splicer splicer, const QString& path
+)
+{
+    const AtomicFile encoded(path);
+    const EncodeOptions options{.lossyQuality = request.lossyQuality, .blocks = nullptr};
+    if (!encoded.isValid() || !encode(image, request.format, options, encoded.temporaryPath()))
+        return false;
+    const MappedFile file(encoded.temporaryPath());
+    const auto pieces = splicer(file.bytes(), *request.metadata);
+    return pieces && writePieces(*pieces, path);
+}
+
+} // namespace
+
+bool writeImageFile(const Image& image, const ImageFileRequest& request, const QString& path)
+{
+    AtomicFile target(path);
+    if (!target.isValid())
+        return false;
+    const Splicer splicer = request.metadata ? splicerFor(request.format) : nullptr;
+    const bool isWritten = splicer
+        ? encodeAndSplice(image, request, splicer, target.temporaryPath())
+        : encodeWithBlocks(image, request, target.temporaryPath());
+    return isWritten && target.commit();
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArrayView>
+#include <QList>
+
+namespace brenvaldo::platform {
+
+/// A box of the ISO base media format: views into the file.
+struct IsoBox
+{
+    QByteArrayView type; ///< four letters
+    QByteArrayView payload;
+};
+
+/// The boxes that stand side by side in `bytes`, up to the first that is damaged.
+[[nodiscard]] QList<IsoBox> isoBoxes(QByteArrayView bytes);
+
+/// The payload of the first box of that type; empty when there is none.
+[[nodiscard]] QByteArrayView isoBox(const QList<IsoBox>& boxes, QByteArrayView type);
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "block_splicers.h"
+#include "jpeg_segments.h"
+#include "photoshop_resources.h"
+#include "xmp_packet.h"
+
+namespace brenvaldo::platform {
+
+namespace {
+
+/// `data` in as many segments as it takes, each with `header` in front.
+QByteArrayList segmentsOf(std::uint8_t marker, QByteArrayView header, const QByteArray& data)
+{
+    const qsizetype room = jpeg::longestPayload - header.size();
+    QByteArrayList segments;
+    for (qsizetype offset = 0; offset < data.size(); offset += room)
+        segments.append(jpegSegment(marker, header.toByteArray() + data.mid(offset, room)));
+    return segments;
+}
+
+QByteArrayList metadataSegments(const MetadataBlocks& blocks)
+{
+    QByteArrayList segments = segmentsOf(jpeg::app1, jpeg::exifHeader, blocks.exif);
+    segments += xmpSegments(blocks.xmp);
+    segments += segmentsOf(
+        jpeg::app13, jpeg::photoshopHeader, photoshopBlockWithIptc(blocks.photoshop, blocks.iptc)
+    );
+    segments += blocks.jpegSegments;
+    segments += segmentsOf(jpeg::comment, {}, blocks.comment);
+    return segments;
+}
+
+QByteArray viewed(QByteArrayView bytes)
+{
+    return QByteArray::fromRawData(bytes.data(), bytes.size());
+}
+
+} // namespace
+
+std::optional<QByteArrayList> splicedJpeg(QByteArrayView encoded, const MetadataBlocks& blocks)
+{
+    const auto header = readJpegHeader(encoded);
+    if (!header || header->segments.isEmpty())
+        return std::nullopt;
+
+    // JFIF stands right behind the start; everything else of the encoder follows the metadata.
+    const bool hasJfif = header->segments.first().marker == jpeg::app0;
+    qsizetype place = 2;
+    if (hasJfif)
+        place = header->segments.first().whole.end() - encoded.begin();
+    return QByteArrayList{viewed(encoded.first(place))} + metadataSegments(blocks)
+        + QByteArrayList{viewed(encoded.sliced(place))};
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArrayView>
+#include <QFile>
+#include <QString>
+
+namespace brenvaldo::platform {
+
+/// The bytes of a file, without reading what nobody looks at.
+class MappedFile
+{
+public:
+    explicit MappedFile(const QString& path)
+        : m_file(path)
+    {
+        if (m_file.open(QIODevice::ReadOnly) && m_file.size() > 0)
+            m_start = m_file.map(0, m_file.size());
+    }
+
+    /// Valid as long as this object; empty when the file can't be read.
+    [[nodiscard]] QByteArrayView bytes() const
+    {
+        return m_start ? QByteArrayView(m_start, m_file.size()) : QByteArrayView();
+    }
+
+private:
+    QFile m_file;
+    const uchar* m_start = nullptr;
+};
+
+} // namespace brenvaldo::platform

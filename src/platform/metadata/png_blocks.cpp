@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "block_readers.h"
+#include "jpeg_segments.h"
+#include "photoshop_resources.h"
+#include "png_chunks.h"
+
+#include <QString>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+constexpr QByteArrayView profilePrefix("Raw profile type ");
+
+QByteArray withoutExifHeader(const QByteArray& data)
+{
+    return data.startsWith(jpeg::exifHeader) ? data.sliced(jpeg::exifHeader.size()) : data;
+}
+
+void fill(QByteArray& block, const QByteArray& data)
+{
+    if (block.isEmpty())
+        block = data;
+}
+
+/// The profiles that some programs write as hexadecimal text.
+void takeProfile(const QByteArray& type, const QByteArray& data, MetadataBlocks& blocks)
+{
+    if (type == "exif" || (type == "APP1" && data.startsWith(jpeg::exifHeader)))
+        fill(blocks.exif, withoutExifHeader(data));
+    else if (type == "APP1" && data.startsWith(jpeg::xmpHeader))
+        fill(blocks.xmp, data.sliced(jpeg::xmpHeader.size()));
+    else if (type == "xmp")
+        fill(blocks.xmp, data);
+    else if ((type == "iptc" || type == "8bim") && !photoshopResources(data).isEmpty())
+        fill(blocks.photoshop, data);
+    else if (type == "iptc")
+        fill(blocks.iptc, data);
+}
+
+void takeText(const PngChunk& chunk, const PngText& text, MetadataBlocks& blocks)
+{
+    if (text.keyword == "XML:com.adobe.xmp") {
+        fill(blocks.xmp, text.text);
+        return;
+    }
+    if (text.keyword.startsWith(profilePrefix)) {
+        takeProfile(text.keyword.sliced(profilePrefix.size()), rawProfileData(text.text), blocks);
+        return;
+    }
+    if (text.keyword == "Comment")
+        fill(blocks.comment, text.isUtf8 ? text.text : QString::fromLatin1(text.text).toUtf8());
+    blocks.pngTextChunks.append(chunk.whole.toByteArray());
+}
+
+} // namespace
+
+MetadataBlocks readPngBlocks(QByteArrayView file)
+{
+    MetadataBlocks blocks;
+    const auto chunks = readPngChunks(file);
+    if (!chunks)
+        return blocks;
+    for (const PngChunk& chunk : *chunks) {
+        if (chunk.type == QByteArrayView("eXIf"))
+            blocks.exif = withoutExifHeader(chunk.data.toByteArray());
+        else if (const auto text = pngText(chunk))
+            takeText(chunk, *text, blocks);
+    }
+    if (blocks.iptc.isEmpty())
+        blocks.iptc = photoshopResourceData(blocks.photoshop, PhotoshopResourceId::Iptc);
+    return blocks;
+}
+
+} // namespace brenvaldo::platform

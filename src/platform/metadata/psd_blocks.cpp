@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "block_readers.h"
+#include "bytes.h"
+#include "photoshop_resources.h"
+
+namespace brenvaldo::platform {
+
+namespace {
+
+constexpr std::uint64_t headerLength = 26;
+
+bool standsInBlockOfItsOwn(const PhotoshopResource& resource)
+{
+    return resource.id == static_cast<std::uint16_t>(PhotoshopResourceId::Exif)
+        || resource.id == static_cast<std::uint16_t>(PhotoshopResourceId::Xmp)
+        || resource.id == static_cast<std::uint16_t>(PhotoshopResourceId::IccProfile);
+}
+
+} // namespace
+
+MetadataBlocks readPsdBlocks(QByteArrayView file)
+{
+    MetadataBlocks blocks;
+    const auto colourLength = unsignedAt(file, headerLength, 4, ByteOrder::Big);
+    if (!colourLength)
+        return blocks;
+    const std::uint64_t offset = headerLength + 4 + *colourLength;
+    const auto length = unsignedAt(file, offset, 4, ByteOrder::Big);
+    const auto resources = sliceOf(file, offset + 4, length.value_or(0));
+    if (!resources)
+        return blocks;
+
+    for (const PhotoshopResource& resource : photoshopResources(*resources)) {
+        if (!standsInBlockOfItsOwn(resource))
+            blocks.photoshop.append(resource.whole);
+    }
+    blocks.exif = photoshopResourceData(*resources, PhotoshopResourceId::Exif);
+    blocks.xmp = photoshopResourceData(*resources, PhotoshopResourceId::Xmp);
+    blocks.iptc = photoshopResourceData(*resources, PhotoshopResourceId::Iptc);
+    return blocks;
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "block_splicers.h"
+#include "exif_directories.h"
+#include "photoshop_resources.h"
+#include "xmp_packet.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+constexpr std::uint64_t headerLength = 8;
+constexpr std::uint64_t alignment = 16;
+
+std::uint64_t roundedUp(std::uint64_t value, std::uint64_t unit)
+{
+    return (value + unit - 1) / unit * unit;
+}
+
+/// True when the pixels read the same in either byte order.
+bool hasByteSamples(const TiffDirectory& directory, ByteOrder order)
+{
+    constexpr std::uint64_t bitsOfByte = 8;
+    const TiffField* bits = fieldOf(directory, tiff::BitsPerSample);
+    if (!bits)
+        return true;
+    const QList<std::uint64_t> values = unsignedValues(*bits, order);
+    return std::all_of(values.begin(), values.end(), [](std::uint64_t value) {
+        return value <= bitsOfByte;
+    });
+}
+
+/// The block in the byte order that the file will have.
+QByteArray exifFor(const TiffFile& target, const TiffDirectory& pixels, const QByteArray& exif)
+{
+    const auto source = TiffFile::open(exif);
+    if (!source || source->isBig())
+        return {};
+    if (source->order() == target.order() || hasByteSamples(pixels, target.order()))
+        return exif;
+    return serializedExif(inOrder(exifDirectoriesOf(*source), target.order()));
+}
+
+/// How the encoded file is changed when its pixels move by `shift` bytes.
+struct Move
+{
+    std::uint64_t shift = 0;
+    ByteOrder from = ByteOrder::Little;
+    ByteOrder to = ByteOrder::Little;
+};
+
+TiffDirectory moved(const TiffDirectory& directory, const Move& move)
+{
+    TiffDirectory result;
+    for (const TiffField& field : directory) {
+        if (field.tag == tiff::StripOffsets || field.tag == tiff::TileOffsets) {
+            QList<std::uint64_t> offsets = unsignedValues(field, move.from);
+            for (std::uint64_t& offset : offsets)
+                offset += move.shift;
+            result.append(longField(field.tag, offsets, move.to));
+        } else {
+            result.append(move.from == move.to ? field : swapped(field));
+        }
+    }
+    return result;
+}
+
+void replace(TiffDirectory& directory, const TiffField& field)
+{
+    directory.removeIf([&field](const TiffField& other) { return other.tag == field.tag; });
+    directory.append(field);
+}
+
+void addBytes(TiffDirectory& directory, std::uint16_t tag, const QByteArray& bytes)
+{
+    if (!bytes.isEmpty())
+        replace(directory, {.tag = tag, .type = tiff::Byte, .value = bytes});
+}
+
+/// Other programs read and write IPTC as LONGs, whose bytes stand in the order of the data sets.
+void addIptc(TiffDirectory& directory, const QByteArray& iptc)
+{
+    constexpr qsizetype word = 4;
+    if (iptc.isEmpty())
+        return;
+    const qsizetype length = (iptc.size() + word - 1) / word * word;
+    replace(
+        directory,
+        {.tag = tiff::Iptc, .type = tiff::Long, .value = iptc.leftJustified(length, '\0')}
+    );
+}
+
+} // namespace
+
+std::optional<QByteArrayList> splicedTiff(QByteArrayView encoded, const MetadataBlocks& blocks)
+{
+    const auto target = TiffFile::open(encoded);
+    if (!target || target->isBig())
+        return std::nullopt;
+    const TiffDirectory pixels = target->firstDirectory();
+    const QByteArray exif = exifFor(*target, pixels, blocks.exif);
+    const auto source = TiffFile::open(exif);
+    const ByteOrder order = source ? source->order() : target->order();
+
+    // The file: header, EXIF block less its header, encoded file less its header, directory.
+    const auto exifLength = static_cast<std::uint64_t>(exif.size());
+    const std::uint64_t shift
+        = exif.isEmpty() ? 0 : roundedUp(exifLength - headerLength, alignment);
+    const std::uint64_t end = static_cast<std::uint64_t>(encoded.size()) + shift;
+    const std::uint64_t directoryOffset = roundedUp(end, 2);
+
+    TiffDirectory directory = moved(pixels, {.shift = shift, .from = target->order(), .to = order});
+    if (source) {
+        for (const TiffField& field : source->firstDirectory()) {
+            if (!describesStorage(field.tag))
+                replace(directory, field);
+        }
+    }
+    addBytes(directory, tiff::Xmp, completeXmp(blocks));
+    addBytes(directory, tiff::PhotoshopResources, blocks.photoshop);
+    addIptc(directory, blocks.iptc);
+    const QByteArray tail = QByteArray(static_cast<qsizetype>(directoryOffset - end), '\0')
+        + serializedDirectory(directory, directoryOffset, order);
+    if (end + static_cast<std::uint64_t>(tail.size()) > std::numeric_limits<std::uint32_t>::max())
+        return std::nullopt;
+
+    QByteArray head = tiffHeader(order, directoryOffset) + exif.mid(headerLength);
+    head.resize(static_cast<qsizetype>(headerLength + shift), '\0');
+    const QByteArrayView body = tailOf(encoded, headerLength);
+    return QByteArrayList{head, QByteArray::fromRawData(body.data(), body.size()), tail};
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "block_readers.h"
+#include "bytes.h"
+#include "jpeg_segments.h"
+
+namespace brenvaldo::platform {
+
+MetadataBlocks readWebpBlocks(QByteArrayView file)
+{
+    MetadataBlocks blocks;
+    std::uint64_t offset = 12; // "RIFF", the length of the file, "WEBP"
+    while (const auto length = unsignedAt(file, offset + 4, 4, ByteOrder::Little)) {
+        const auto type = sliceOf(file, offset, 4);
+        const auto data = sliceOf(file, offset + 8, *length);
+        if (!type || !data)
+            break;
+        if (*type == QByteArrayView("EXIF") && blocks.exif.isEmpty()) {
+            const bool hasHeader = data->startsWith(jpeg::exifHeader);
+            blocks.exif = data->sliced(hasHeader ? jpeg::exifHeader.size() : 0).toByteArray();
+        } else if (*type == QByteArrayView("XMP ") && blocks.xmp.isEmpty()) {
+            blocks.xmp = data->toByteArray();
+        }
+        offset += 8 + *length + *length % 2;
+    }
+    return blocks;
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "xmp_packet.h"
+
+#include "bytes.h"
+#include "jpeg_segments.h"
+
+#include <QCryptographicHash>
+
+#include <algorithm>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+constexpr qsizetype segmentHead = 4; // marker and length
+constexpr qsizetype guidLength = 32;
+constexpr qsizetype longestPacket = jpeg::longestPayload - jpeg::xmpHeader.size();
+constexpr qsizetype longestPiece
+    = jpeg::longestPayload - jpeg::extendedXmpHeader.size() - guidLength - 8;
+constexpr QByteArrayView descriptionsEnd("</rdf:RDF>");
+
+/// One segment of extended XMP.
+struct Piece
+{
+    QByteArrayView guid;
+    std::uint64_t total = 0;
+    std::uint64_t offset = 0;
+    QByteArrayView data;
+};
+
+std::optional<Piece> pieceOf(QByteArrayView segment)
+{
+    const QByteArrayView payload = tailOf(segment, segmentHead);
+    if (!payload.startsWith(jpeg::extendedXmpHeader))
+        return std::nullopt;
+    const QByteArrayView fields = payload.sliced(jpeg::extendedXmpHeader.size());
+    const auto guid = sliceOf(fields, 0, guidLength);
+    const auto total = unsignedAt(fields, guidLength, 4, ByteOrder::Big);
+    const auto offset = unsignedAt(fields, guidLength + 4, 4, ByteOrder::Big);
+    if (!guid || !total || !offset)
+        return std::nullopt;
+    return Piece{
+        .guid = *guid, .total = *total, .offset = *offset, .data = tailOf(fields, guidLength + 8)};
+}
+
+/// The pieces that belong to `packet`, put together; empty unless they fill the announced length.
+QByteArray extendedPart(const MetadataBlocks& blocks)
+{
+    QList<Piece> pieces;
+    std::uint64_t length = 0;
+    for (const QByteArray& segment : blocks.jpegSegments) {
+        const auto piece = pieceOf(segment);
+        if (!piece || !blocks.xmp.contains(piece->guid))
+            continue;
+        pieces.append(*piece);
+        length += static_cast<std::uint64_t>(piece->data.size());
+    }
+    std::stable_sort(pieces.begin(), pieces.end(), [](const Piece& left, const Piece& right) {
+        return left.offset < right.offset;
+    });
+
+    QByteArray part;
+    for (const Piece& piece : pieces) {
+        if (piece.offset != static_cast<std::uint64_t>(part.size()) || piece.total != length)
+            return {};
+        part.append(piece.data);
+    }
+    return part;
+}
+
+/// What stands between the start and the end tag of rdf:RDF.
+QByteArrayView descriptionsOf(QByteArrayView packet)
+{
+    const qsizetype tag = packet.indexOf("<rdf:RDF");
+    const qsizetype start = tag < 0 ? -1 : packet.indexOf('>', tag);
+    const qsizetype end = packet.lastIndexOf(descriptionsEnd);
+    return start < 0 || end < start ? QByteArrayView() : packet.sliced(start + 1, end - start - 1);
+}
+
+/// The packet without its padding and without the processing instructions around it.
+QByteArray withoutWrapper(const QByteArray& packet)
+{
+    const qsizetype start = packet.indexOf("<x:xmpmeta");
+    const QByteArray endTag("</x:xmpmeta>");
+    const qsizetype end = packet.lastIndexOf(endTag);
+    return start < 0 || end < start ? packet : packet.sliced(start, end + endTag.size() - start);
+}
+
+QByteArray packetThatExtendsTo(const QByteArray& guid)
+{
+    return "<?xpacket begin=\"\xEF\xBB\xBF\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n"
+           "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\">"
+           "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+           "<rdf:Description rdf:about=\"\" xmlns:xmpNote=\"http://ns.adobe.com/xmp/note/\" "
+           "xmpNote:HasExtendedXMP=\""
+        + guid + "\"/></rdf:RDF></x:xmpmeta>\n<?xpacket end=\"w\"?>";
+}
+
+QByteArray xmpSegment(const QByteArray& packet)
+{
+    return jpegSegment(jpeg::app1, jpeg::xmpHeader.toByteArray() + packet);
+}
+
+} // namespace
+
+QByteArray completeXmp(const MetadataBlocks& blocks)
+{
+    const QByteArray extended = extendedPart(blocks);
+    const QByteArrayView descriptions = descriptionsOf(extended);
+    const qsizetype place = blocks.xmp.lastIndexOf(descriptionsEnd);
+    if (descriptions.isEmpty() || place < 0)
+        return blocks.xmp;
+    return blocks.xmp.first(place) + descriptions.toByteArray() + blocks.xmp.sliced(place);
+}
+
+QByteArrayList xmpSegments(const QByteArray& packet)
+{
+    if (packet.isEmpty())
+        return {};
+    if (packet.size() <= longestPacket)
+        return {xmpSegment(packet)};
+    const QByteArray bare = withoutWrapper(packet);
+    if (bare.size() <= longestPacket)
+        return {xmpSegment(bare)};
+
+    const QByteArray guid
+        = QCryptographicHash::hash(bare, QCryptographicHash::Md5).toHex().toUpper();
+    QByteArrayList segments{xmpSegment(packetThatExtendsTo(guid))};
+    for (qsizetype offset = 0; offset < bare.size(); offset += longestPiece) {
+        QByteArray payload = jpeg::extendedXmpHeader.toByteArray() + guid;
+        appendUnsigned(payload, static_cast<std::uint64_t>(bare.size()), 4, ByteOrder::Big);
+        appendUnsigned(payload, static_cast<std::uint64_t>(offset), 4, ByteOrder::Big);
+        payload.append(bare.mid(offset, longestPiece));
+        segments.append(jpegSegment(jpeg::app1, payload));
+    }
+    return segments;
+}
+
+} // namespace brenvaldo::platform
