@@ -13,7 +13,7 @@ struct ImageFileRequest
 {
     FileFormat format = FileFormat::Png;
     /// 0 to 1, JPEG only; not set: the platform's default quality.
-    std::optional<double> lossyQuality;
+    std::optional<double> lossyQuality = {};
     /// Metadata to carry over bit-exactly into PNG, TIFF, JPEG and HEIC; null: none.
     const MetadataBlocks* metadata = nullptr;
 };

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "block_builder.h"
+
+#include <platform/graphics/image_source.h>
+#include <platform/metadata/image_file_writer.h>
+#include <platform/metadata/metadata_reader.h>
+#include <support/case_name.h>
+#include <support/faults.h>
+#include <support/photo_builder.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+using namespace brenvaldo::platform;
+using brenvaldo::test::cameraBlocks;
+using brenvaldo::test::CaseName;
+using brenvaldo::test::PhotoBuilder;
+using brenvaldo::test::TemporaryFolder;
+
+namespace {
+
+/// The blocks that a file holds after `blocks` were written with a picture into a file of `format`.
+MetadataBlocks carried(const MetadataBlocks& blocks, FileFormat format)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.path(QStringLiteral("out"));
+    const auto source
+        = ImageSource::open(PhotoBuilder{}.write(folder.path(QStringLiteral("source.jpg"))));
+    const bool written
+        = writeImageFile(*source->image(), {.format = format, .metadata = &blocks}, path);
+    EXPECT_TRUE(written);
+    return readMetadataBlocks(path).value_or(MetadataBlocks());
+}
+
+struct Pair
+{
+    const char* name;
+    FileFormat from;
+    FileFormat to;
+
+    friend void PrintTo(const Pair& pair, std::ostream* out) { *out << pair.name; }
+};
+
+bool holdsIptc(FileFormat format) { return format != FileFormat::Heic; }
+
+} // namespace
+
+class CarryOver : public testing::TestWithParam<Pair>
+{
+};
+
+TEST_P(CarryOver, KeepsEveryBlockThatBothContainersHold)
+{
+    const MetadataBlocks first = carried(cameraBlocks(), GetParam().from);
+
+    const MetadataBlocks second = carried(first, GetParam().to);
+
+    const bool keepsIptc = holdsIptc(GetParam().from) && holdsIptc(GetParam().to);
+    EXPECT_FALSE(second.exif.isEmpty());
+    EXPECT_EQ(second.xmp, cameraBlocks().xmp);
+    EXPECT_EQ(second.iptc, keepsIptc ? cameraBlocks().iptc : QByteArray());
+    EXPECT_EQ(second.photoshop, keepsIptc ? cameraBlocks().photoshop : QByteArray());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Containers,
+    CarryOver,
+    testing::Values(
+        Pair{"JpegToJpeg", FileFormat::Jpeg, FileFormat::Jpeg},
+        Pair{"JpegToPng", FileFormat::Jpeg, FileFormat::Png},
+        Pair{"JpegToTiff", FileFormat::Jpeg, FileFormat::Tiff},
+        Pair{"PngToJpeg", FileFormat::Png, FileFormat::Jpeg},
+        Pair{"PngToPng", FileFormat::Png, FileFormat::Png},
+        Pair{"PngToTiff", FileFormat::Png, FileFormat::Tiff},
+        Pair{"TiffToJpeg", FileFormat::Tiff, FileFormat::Jpeg},
+        Pair{"TiffToPng", FileFormat::Tiff, FileFormat::Png},
+        Pair{"TiffToTiff", FileFormat::Tiff, FileFormat::Tiff}
+    ),
+    CaseName{}
+);
+
+TEST(WriteImageFile, KeepsTheExifBlockToTheBitInJpegAndPng)
+{
+    for (const FileFormat format : {FileFormat::Jpeg, FileFormat::Png})
+        EXPECT_EQ(carried(cameraBlocks(), format).exif, cameraBlocks().exif);
+}
+
+TEST(WriteImageFile, KeepsCommentsAndFurtherSegmentsOfAJpeg)
+{
+    const MetadataBlocks blocks = carried(cameraBlocks(), FileFormat::Jpeg);
+
+    EXPECT_EQ(blocks.comment, cameraBlocks().comment);
+    EXPECT_EQ(blocks.jpegSegments, cameraBlocks().jpegSegments);
+}
+
+TEST(WriteImageFile, ReplacesTheFileItReadsFrom)
+{
+    const TemporaryFolder folder;
+    const QString path = PhotoBuilder{}.size(61, 23).write(folder.path(QStringLiteral("a.jpg")));
+    const auto source = ImageSource::open(path);
+    const MetadataBlocks blocks = cameraBlocks();
+
+    const bool written
+        = writeImageFile(*source->image(), {.format = FileFormat::Jpeg, .metadata = &blocks}, path);
+
+    EXPECT_TRUE(written);
+    EXPECT_EQ(ImageSource::open(path)->header().storedSize, (PixelSize{61, 23}));
+    EXPECT_EQ(readMetadataBlocks(path)->exif, blocks.exif);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+TEST(WriteImageFile, LeavesTheOldFileWhenTheDiskIsFull)
+{
+    const TemporaryFolder folder;
+    const QString source
+        = PhotoBuilder{}.size(401, 301).write(folder.path(QStringLiteral("a.jpg")));
+    const QString target = folder.write(QStringLiteral("b.jpg"), "old");
+    const MetadataBlocks blocks = cameraBlocks();
+    const auto image = ImageSource::open(source)->image();
+    bool written = true;
+    {
+        const brenvaldo::test::FullDisk fullDisk(1000);
+
+        written = writeImageFile(*image, {.format = FileFormat::Jpeg, .metadata = &blocks}, target);
+    }
+
+    EXPECT_FALSE(written);
+    EXPECT_EQ(TemporaryFolder::read(target), "old");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 2);
+}
