@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fonts.h"
+
+#include <QFontDatabase>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+bool isPlainStyle(const QString& style)
+{
+    static const QStringList plainStyles{
+        QStringLiteral("Regular"),
+        QStringLiteral("Normal"),
+        QStringLiteral("Book"),
+        QStringLiteral("Roman")};
+    return style.isEmpty() || plainStyles.contains(style);
+}
+
+QString faceName(const QString& family, const QString& style)
+{
+    return isPlainStyle(style) ? family : family + QLatin1Char(' ') + style;
+}
+
+} // namespace
+
+QStringList installedFontNames()
+{
+    QStringList names;
+    for (const QString& family : QFontDatabase::families()) {
+        for (const QString& style : QFontDatabase::styles(family)) {
+            const QString name = faceName(family, style);
+            if (!names.contains(name))
+                names.append(name);
+        }
+    }
+    return names;
+}
+
+QFont fontNamed(const QString& name)
+{
+    constexpr int anySize = 12;
+    for (const QString& family : QFontDatabase::families()) {
+        if (!name.startsWith(family))
+            continue;
+        for (const QString& style : QFontDatabase::styles(family)) {
+            if (faceName(family, style) == name)
+                return QFontDatabase::font(family, style, anySize);
+        }
+    }
+    return QFont(name);
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "image.h"
+
+#include <QImage>
+#include <QPoint>
+
+namespace brenvaldo::platform {
+
+/// A layer that is laid over a photo with source-over.
+struct Stamp
+{
+    enum class Repeat {
+        Once,
+        Tiled ///< without end in all directions, with one copy at `topLeft`
+    };
+
+    QImage layer; ///< sRGB, with alpha; a null layer leaves no mark
+    QPoint topLeft; ///< place on the photo, whose origin is its top left corner; may lie outside
+    Repeat repeat = Repeat::Once;
+};
+
+/// `photo` with the stamp on it; its size, depth, colour model, alpha and profile stay.
+///
+/// The layer's colours are brought to the photo's profile. Only rows and columns below the layer
+/// are computed, the others are copied; tiles are found by arithmetic.
+[[nodiscard]] Image stamped(const Image& photo, const Stamp& stamp);
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/graphics/layer_shadow.h>
+
+#include <gtest/gtest.h>
+
+#include <QPainter>
+
+using namespace brenvaldo::platform;
+
+namespace {
+
+QImage filled(QSize size, const QRect& part)
+{
+    QImage layer(size, QImage::Format_ARGB32_Premultiplied);
+    layer.fill(Qt::transparent);
+    QPainter(&layer).fillRect(part, Qt::white);
+    return layer;
+}
+
+constexpr Color black{.red = 0, .green = 0, .blue = 0, .alpha = 1};
+
+} // namespace
+
+TEST(LayerShadow, IsMovedToTheRightAndUp)
+{
+    const QImage object = filled({20, 20}, {8, 8, 2, 2});
+
+    const QImage shadow
+        = shadowLayer(object, {.color = black, .xOffset = 3, .yOffset = 4, .blurRadius = 0}, 0);
+
+    EXPECT_EQ(qAlpha(shadow.pixel(11, 4)), 255);
+    EXPECT_EQ(qAlpha(shadow.pixel(12, 5)), 255);
+    EXPECT_EQ(qAlpha(shadow.pixel(8, 8)), 0);
+}
+
+TEST(LayerShadow, FallsOffAcrossAStraightEdgeLikeAGaussianOfHalfTheRadius)
+{
+    const QImage object = filled({200, 100}, {0, 0, 100, 100});
+
+    const QImage shadow = shadowLayer(object, {.color = black, .blurRadius = 10}, 0);
+
+    // Between the pixel centres at either side of the edge lies one half.
+    EXPECT_NEAR((qAlpha(shadow.pixel(99, 50)) + qAlpha(shadow.pixel(100, 50))) / 2.0, 127.5, 2);
+    EXPECT_NEAR(
+        (qAlpha(shadow.pixel(104, 50)) + qAlpha(shadow.pixel(105, 50))) / 2.0, 0.1587 * 255, 2
+    );
+    EXPECT_NEAR(
+        (qAlpha(shadow.pixel(109, 50)) + qAlpha(shadow.pixel(110, 50))) / 2.0, 0.0228 * 255, 2
+    );
+}
+
+TEST(LayerShadow, HasTheColoursStrength)
+{
+    const QImage object = filled({20, 20}, {0, 0, 20, 20});
+
+    const QImage shadow = shadowLayer(object, {.color = {.red = 1, .alpha = 0.5}}, 0);
+
+    EXPECT_EQ(shadow.pixel(10, 10), qRgba(128, 0, 0, 128));
+}
+
+TEST(LayerShadow, GrowsByItsMargin)
+{
+    const QImage object = filled({20, 10}, {0, 0, 20, 10});
+
+    const QImage shadow = shadowLayer(object, {.color = black, .blurRadius = 4}, shadowReach(4));
+
+    EXPECT_EQ(shadow.size(), QSize(32, 22));
+    EXPECT_GT(qAlpha(shadow.pixel(5, 11)), 60);
+}
+
+TEST(TiledShadow, EntersAtTheOtherSide)
+{
+    const QImage cell = filled({10, 10}, {9, 0, 1, 1});
+
+    const QImage shadow
+        = tiledShadowLayer(cell, {.color = black, .xOffset = 2, .yOffset = 1, .blurRadius = 0});
+
+    EXPECT_EQ(qAlpha(shadow.pixel(1, 9)), 255);
+}
