@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <platform/graphics/attributed_text.h>
+#include <platform/graphics/geometry.h>
+#include <platform/graphics/layer_shadow.h>
+
+#include <QBrush>
+#include <QImage>
+#include <QRect>
+
+#include <optional>
+
+namespace brenvaldo::watermark {
+
+/// A styled text as a layer of its own, turned by an angle. The layer ends at the text's measured
+/// size: what a slant or a shadow sends beyond it is cut off.
+class TextLayer
+{
+public:
+    TextLayer(const platform::AttributedText& text, int angle);
+
+    /// Size of the turned layer in whole pixels; not valid for an empty text.
+    [[nodiscard]] platform::PixelSize size() const { return m_size; }
+
+    /// Size of the layer before it is turned.
+    [[nodiscard]] platform::PixelSize uprightSize() const
+    {
+        return {.width = m_uprightSize.width(), .height = m_uprightSize.height()};
+    }
+
+    struct Ink
+    {
+        QBrush fill; ///< a texture starts at the layer's bottom left corner
+        std::optional<platform::Shadow> shadow;
+    };
+
+    /// The part of the layer inside of `region` (origin at its top left corner), premultiplied
+    /// ARGB.
+    [[nodiscard]] QImage rendered(const Ink& ink, const QRect& region) const;
+
+private:
+    [[nodiscard]] QTransform toTurnedLayer() const;
+    [[nodiscard]] QRect neededBefore(const QRect& region) const;
+
+    QPainterPath m_shape;
+    QSize m_uprightSize;
+    int m_angle = 0;
+    platform::PixelSize m_size;
+};
+
+/// Size of the box around a box of `size` turned by `degrees`, in whole pixels.
+[[nodiscard]] platform::PixelSize turnedSize(QSizeF size, double degrees);
+
+} // namespace brenvaldo::watermark

@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "text_mark.h"
+
+#include "text_overlay.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace brenvaldo::watermark {
+
+namespace {
+
+using platform::PixelSize;
+using platform::Stamp;
+
+/// Cells up to this many pixels are repeated by the stamp; larger ones are drawn where the photo
+/// shows them.
+constexpr qint64 largestRepeatedCell = 16'000'000;
+
+QImage transparent(const QSize& size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+QRect rectOf(PixelSize size) { return {0, 0, size.width, size.height}; }
+
+/// The shadow that the finished layer casts when it is drawn on the photo.
+std::optional<platform::Shadow> layerShadow(const TextWatermarkSettings& settings)
+{
+    return embosses(settings.effect) ? settings.shadow : std::nullopt;
+}
+
+int reachOf(const std::optional<platform::Shadow>& shadow)
+{
+    if (!shadow)
+        return 0;
+    return platform::shadowReach(shadow->blurRadius)
+        + std::max(std::abs(shadow->xOffset), std::abs(shadow->yOffset));
+}
+
+/// `layer` at the strength of the drawing fraction, on an image that is `margin` larger on every
+/// side.
+QImage faded(const QImage& layer, double fraction, int margin)
+{
+    QImage image = transparent(layer.size() + QSize(2 * margin, 2 * margin));
+    if (image.isNull())
+        return image;
+    QPainter painter(&image);
+    painter.setOpacity(fraction);
+    painter.drawImage(margin, margin, layer);
+    return image;
+}
+
+QImage above(const QImage& shadow, const QImage& object)
+{
+    QImage image = shadow;
+    QPainter(&image).drawImage(0, 0, object);
+    return image;
+}
+
+Stamp stampOnce(const TextWatermarkSettings& settings, const TextOverlay& overlay, PixelSize photo)
+{
+    const QPoint origin = anchoredOrigin(settings.placement, photo, overlay.size());
+    const QPoint topLeft(origin.x(), photo.height - origin.y() - overlay.size().height);
+    const auto shadow = layerShadow(settings);
+    const int margin = reachOf(shadow);
+    const QRect seen = rectOf(photo)
+                           .adjusted(-margin, -margin, margin, margin)
+                           .translated(-topLeft)
+                           .intersected(rectOf(overlay.size()));
+    if (seen.isEmpty())
+        return {};
+    const QImage object = faded(overlay.rendered(seen), settings.opacity, margin);
+    return {
+        .layer = shadow ? above(platform::shadowLayer(object, *shadow, 0), object) : object,
+        .topLeft = topLeft + seen.topLeft() - QPoint(margin, margin),
+        .repeat = Stamp::Repeat::Once};
+}
+
+/// Top left corner, on the photo, of one of the cells that cover it.
+QPoint cellCorner(const TileCell& cell, PixelSize overlay, PixelSize photo)
+{
+    const int left = -tileSpan(photo.width, overlay.width).overhang;
+    const int bottom = photo.height + tileSpan(photo.height, overlay.height).overhang;
+    return {left, bottom - cell.size.height};
+}
+
+/// Place of the overlay's top left corner in the cell.
+QPoint overlayInCell(const TileCell& cell, PixelSize overlay)
+{
+    return {cell.layerOrigin.x(), cell.size.height - cell.layerOrigin.y() - overlay.height};
+}
+
+Stamp repeatedCell(
+    const TextWatermarkSettings& settings, const TextOverlay& overlay, const TileCell& cell
+)
+{
+    QImage image = transparent({cell.size.width, cell.size.height});
+    QPainter painter(&image);
+    painter.setOpacity(settings.opacity);
+    painter.drawImage(
+        overlayInCell(cell, overlay.size()), overlay.rendered(rectOf(overlay.size()))
+    );
+    painter.end();
+    const auto shadow = layerShadow(settings);
+    return {
+        .layer = shadow ? above(platform::tiledShadowLayer(image, *shadow), image) : image,
+        .topLeft = {},
+        .repeat = Stamp::Repeat::Tiled};
+}
+
+/// The largest of `start`, `start` - `step`, ... that does not lie behind `edge`, one step earlier
+/// at the most.
+int lastStepBefore(int start, int edge, int step)
+{
+    return start - ((start - edge + step - 1) / step) * step;
+}
+
+/// The cells that the photo shows, drawn into one layer of the photo's size.
+QImage
+cellsOnPhoto(const TextOverlay& overlay, const TileCell& cell, QPoint corner, const QRect& area)
+{
+    QImage image = transparent(area.size());
+    QPainter painter(&image);
+    painter.translate(-area.topLeft());
+    for (int y = lastStepBefore(corner.y(), area.top(), cell.size.height); y <= area.bottom();
+         y += cell.size.height) {
+        for (int x = lastStepBefore(corner.x(), area.left(), cell.size.width); x <= area.right();
+             x += cell.size.width) {
+            const QPoint topLeft = QPoint(x, y) + overlayInCell(cell, overlay.size());
+            const QRect cellOnPhoto(x, y, cell.size.width, cell.size.height);
+            const QRect seen = area.intersected(cellOnPhoto)
+                                   .translated(-topLeft)
+                                   .intersected(rectOf(overlay.size()));
+            if (!seen.isEmpty())
+                painter.drawImage(topLeft + seen.topLeft(), overlay.rendered(seen));
+        }
+    }
+    return image;
+}
+
+Stamp stampTiled(const TextWatermarkSettings& settings, const TextOverlay& overlay, PixelSize photo)
+{
+    const TileCell cell
+        = tileCell(overlay.size(), settings.placement.xOffset, settings.placement.yOffset);
+    if (!cell.size.isValid())
+        return {};
+    const QPoint corner = cellCorner(cell, overlay.size(), photo);
+    if (qint64{cell.size.width} * cell.size.height <= largestRepeatedCell) {
+        Stamp stamp = repeatedCell(settings, overlay, cell);
+        stamp.topLeft = corner;
+        return stamp;
+    }
+    const auto shadow = layerShadow(settings);
+    const int margin = reachOf(shadow);
+    const QRect area = rectOf(photo).adjusted(-margin, -margin, margin, margin);
+    const QImage object = faded(cellsOnPhoto(overlay, cell, corner, area), settings.opacity, 0);
+    return {
+        .layer = shadow ? above(platform::shadowLayer(object, *shadow, 0), object) : object,
+        .topLeft = area.topLeft(),
+        .repeat = Stamp::Repeat::Once};
+}
+
+} // namespace
+
+Stamp textMark(
+    const TextWatermarkSettings& settings,
+    const QString& text,
+    const QFont& font,
+    const platform::Image& photo
+)
+{
+    const TextOverlay overlay(settings, text, font, photo);
+    if (!overlay.size().isValid())
+        return {};
+    return settings.isTiled ? stampTiled(settings, overlay, photo.pixelSize())
+                            : stampOnce(settings, overlay, photo.pixelSize());
+}
+
+} // namespace brenvaldo::watermark

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "text_layer.h"
+#include "text_watermark_settings.h"
+
+#include <platform/graphics/image.h>
+
+#include <QFont>
+
+namespace brenvaldo::watermark {
+
+/// The layer that is laid over a photo: the text in its fill, turned and, for some effects,
+/// embossed.
+class TextOverlay
+{
+public:
+    /// `photo` fills the glyphs of some effects; it must then bear being evaluated more than once.
+    TextOverlay(
+        const TextWatermarkSettings& settings,
+        const QString& text,
+        const QFont& font,
+        const platform::Image& photo
+    );
+
+    /// Size in whole pixels, after turning; not valid for an empty text.
+    [[nodiscard]] platform::PixelSize size() const { return m_layer.size(); }
+
+    /// The part of the layer inside of `region` (origin at its top left corner), premultiplied
+    /// ARGB.
+    [[nodiscard]] QImage rendered(const QRect& region) const;
+
+private:
+    [[nodiscard]] QImage embossed(const QImage& layer) const;
+
+    int m_effect = 0;
+    platform::Color m_embossColor;
+    TextLayer m_layer;
+    TextLayer::Ink m_ink;
+};
+
+} // namespace brenvaldo::watermark

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "text_watermark_settings.h"
+
+#include <panels/text_watermark_controls.h>
+
+namespace brenvaldo::watermark {
+
+namespace {
+
+constexpr int photoEffect = 7;
+constexpr int noirEffect = 8;
+constexpr int lastNumberedTexture = 6;
+
+int orDefault(int value, int fallback) { return value == 0 ? fallback : value; }
+
+platform::UnderlineStyle underlineOfIndex(int index)
+{
+    switch (index) {
+    case 0:
+        return platform::UnderlineStyle::None;
+    case 1:
+        return platform::UnderlineStyle::Single;
+    default:
+        return platform::UnderlineStyle::Thick;
+    }
+}
+
+platform::TextAlignment alignmentOfSegment(int segment)
+{
+    switch (segment) {
+    case 0:
+        return platform::TextAlignment::Left;
+    case 1:
+        return platform::TextAlignment::Center;
+    default:
+        return platform::TextAlignment::Right;
+    }
+}
+
+platform::Shadow readShadow(const panels::TextWatermarkControls& controls, double opacity)
+{
+    constexpr int defaultOffset = 2;
+    const int radius = controls.tfTextShadowRadius.intValue();
+    return {
+        .color = controls.cwShadowColor.color().withAlpha(opacity),
+        .xOffset = orDefault(controls.tfTextShadowXOffset.intValue(), defaultOffset),
+        .yOffset = orDefault(controls.tfTextShadowYOffset.intValue(), defaultOffset),
+        .blurRadius = static_cast<double>(radius < 2 ? 1 : radius)};
+}
+
+QString selectedFont(controls::ComboBox& fonts)
+{
+    if (fonts.indexOfSelectedItem() < 0)
+        fonts.selectItemAtIndex(0);
+    return fonts.objectValueOfSelectedItem();
+}
+
+} // namespace
+
+TextWatermarkSettings readSettings(panels::TextWatermarkControls& controls)
+{
+    constexpr int defaultFontSize = 24;
+    const double opacity = opacityOfPercent(controls.tfFontTransparancy.intValue());
+    TextWatermarkSettings settings{
+        .text = controls.tvWaterMarkText.stringValue(),
+        .fontName = selectedFont(controls.cbFontList),
+        .fontSize = orDefault(controls.tfFontSize.intValue(), defaultFontSize),
+        .kerning = controls.tfKerning.intValue(),
+        .leading = controls.tfLeading.intValue(),
+        .isBold = controls.cbFontBold.isOn(),
+        .isItalic = controls.cbFontItalic.isOn(),
+        .underline = underlineOfIndex(controls.pubTxtUnderline.indexOfSelectedItem()),
+        .alignment = alignmentOfSegment(controls.scTxtAlign.selectedSegment()),
+        .strokeWidth = controls.cbOutlineCheck.isOn()
+            ? strokeWidthOfIndex(controls.pubOutlineThickness.indexOfSelectedItem())
+            : 0,
+        .fontColor = controls.cwFontColor.color(),
+        .embossColor = controls.cwEmbossColor.color().withAlpha(1),
+        .opacity = opacity,
+        .shadow = {},
+        .effect = controls.pubWatermarkTextEffect.indexOfSelectedItem(),
+        .placement
+        = {.anchor = controls.scWaterMarkPos.selectedSegment(),
+           .xOffset = controls.tfXOffset.intValue(),
+           .yOffset = controls.tfYOffset.intValue(),
+           .angle = controls.tfWMAngle.intValue()},
+        .isTiled = controls.cbTextPatternCheck.isOn()};
+    if (controls.cbShadowCheck.isOn())
+        settings.shadow = readShadow(controls, opacity);
+    return settings;
+}
+
+TextFill fillOfEffect(int effect)
+{
+    switch (effect) {
+    case 0:
+        return TextFill::Color;
+    case photoEffect:
+        return TextFill::Photo;
+    case noirEffect:
+        return TextFill::NoirPhoto;
+    default:
+        return TextFill::White;
+    }
+}
+
+bool embosses(int effect) { return fillOfEffect(effect) == TextFill::White; }
+
+QString textureOfEffect(int effect)
+{
+    constexpr int textureOfTheRest = 8;
+    const int number = effect >= 1 && effect <= lastNumberedTexture ? effect : textureOfTheRest;
+    return QStringLiteral("texture%1").arg(number);
+}
+
+bool castsGlyphShadow(int effect) { return effect == 0 || effect == photoEffect; }
+
+QString textToSet(const TextWatermarkSettings& settings, const QString& text)
+{
+    return settings.isItalic ? text + QLatin1Char(' ') : text;
+}
+
+} // namespace brenvaldo::watermark
