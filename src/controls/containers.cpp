@@ -54,12 +54,16 @@ void Sheet::close()
 TableView::TableView(const QString& name, const ArrayController& content)
     : Control(name)
     , m_content(content)
+    , m_contentChanged(content.changed.connect([this] {
+        if (m_selectedRow >= m_content.arrangedObjects().size())
+            selectRow(-1);
+    }))
 {
 }
 
 void TableView::selectRow(int row)
 {
-    if (m_selectedRow == row)
+    if (row == m_selectedRow || row < -1 || row >= m_content.arrangedObjects().size())
         return;
     m_selectedRow = row;
     changed();

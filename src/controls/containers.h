@@ -85,10 +85,12 @@ public:
     [[nodiscard]] const ArrayController& content() const { return m_content; }
 
     [[nodiscard]] int selectedRow() const { return m_selectedRow; }
+    /// Selects `row`; -1 selects none, a row that does not exist changes nothing.
     void selectRow(int row);
 
 private:
     const ArrayController& m_content;
+    platform::Subscription m_contentChanged; ///< a row that is gone is no longer selected
     int m_selectedRow = -1;
 };
 
