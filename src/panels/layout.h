@@ -68,6 +68,7 @@ struct Table
     controls::TableView* table = nullptr;
     QList<TableColumn> columns = {};
     QString accessibleName = {};
+    QString emptyText = {}; ///< shown in the table while it has no rows
 };
 
 struct LayoutItem;

@@ -24,6 +24,10 @@ Panels::Panels()
     addFilterViews();
     addFileManagementPanels();
     add(vwHtmlExport);
+    add(wwPresetsWindow);
+    add(wwPresetsWindow.sheet);
+    add(wwPresetsWindow.thePresetsData);
+    add(wwPresetsWindow.my2ndView);
 }
 
 void Panels::addEditPanels()
@@ -91,6 +95,8 @@ const PanelView* Panels::view(const QString& name) const
 
 bool Panels::isShown(const PanelView& view) const
 {
+    if (const auto* sheet = dynamic_cast<const controls::Sheet*>(control(view.name())))
+        return sheet->isOpen();
     for (const controls::Control* control : m_controls) {
         const auto* holder = dynamic_cast<const controls::Holder*>(control);
         if (!holder || !holder->views().contains(view.name()))

@@ -9,6 +9,7 @@
 #include "gallery_panel.h"
 #include "note_panel.h"
 #include "output_panels.h"
+#include "presets_sheet.h"
 #include "profile_panel.h"
 #include "rename_panel.h"
 #include "resize_panel.h"
@@ -53,6 +54,7 @@ public:
         u"type can hold it."_qs};
     CodePanel vwQRBarCode;
     GalleryPanel vwHtmlExport;
+    PresetsSheet wwPresetsWindow;
 
     /// The control of that name or alias; null when there is none.
     [[nodiscard]] controls::Control* control(const QString& name) const;
@@ -63,7 +65,7 @@ public:
     [[nodiscard]] const QList<controls::Control*>& controls() const { return m_controls; }
     [[nodiscard]] const QList<const PanelView*>& views() const { return m_views; }
 
-    /// True while the view stands in a holder, and all views around it do.
+    /// True while the view stands in a holder, and all views around it do, or its sheet is open.
     [[nodiscard]] bool isShown(const PanelView& view) const;
 
 private:
