@@ -1,0 +1,277 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "db_view_controller.h"
+
+#include "preset_statements.h"
+
+#include <platform/foundation/exceptions.h>
+#include <platform/foundation/folders.h>
+#include <platform/foundation/log.h>
+#include <platform/foundation/paths.h>
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <vector>
+
+namespace brenvaldo::presets {
+
+namespace {
+
+/// Takes a connection that nobody closes. It holds no lock and ends with the process.
+void keepOpen(std::optional<Connection> connection)
+{
+    static std::vector<Connection> open;
+    if (connection)
+        open.push_back(std::move(*connection));
+}
+
+QString presetsTable() { return QStringLiteral("Presets"); }
+
+/// The values of the present row behind `ID`, joined by "|".
+QString rowText(const Statement& statement)
+{
+    QStringList values;
+    for (int column = 1; column <= columnCount; ++column)
+        values.append(statement.text(column).value_or(QString()));
+    return values.join(QLatin1Char('|'));
+}
+
+QStringList completeValues(const PresetRow& row)
+{
+    const QStringList columns = presetColumns();
+    QStringList values;
+    for (const std::optional<QString>& value : row) {
+        if (!value)
+            throw platform::InvalidArgument(
+                QStringLiteral("The preset has no value for %1.").arg(columns[values.size()])
+            );
+        values.append(*value);
+    }
+    return values;
+}
+
+} // namespace
+
+dbViewController::~dbViewController() { keepOpen(std::move(m_myDb)); }
+
+QString dbViewController::dbFilePath()
+{
+    const QString folder = platform::appendingPathComponent(
+        platform::applicationSupportFolder(), QStringLiteral("DravothCom/")
+    );
+    QDir().mkpath(folder);
+    return platform::appendingPathComponent(folder, QStringLiteral("Brenvaldo9.sql"));
+}
+
+bool dbViewController::open()
+{
+    keepOpen(std::exchange(m_myDb, std::nullopt));
+    m_myDb = Connection::open(dbFilePath());
+    return m_myDb.has_value();
+}
+
+void dbViewController::openOrRaise()
+{
+    if (!open())
+        throw platform::AssertionFailure(QStringLiteral("Presets Db failed to open."));
+}
+
+void dbViewController::close() { m_myDb.reset(); }
+
+void dbViewController::openmyPresetsDb() { openOrRaise(); }
+
+void dbViewController::linkToPresetsDB()
+{
+    if (QFileInfo::exists(dbFilePath()))
+        return;
+    openmyPresetsDb();
+    createTableNamed(presetsTable(), presetColumns());
+    createTableNamed(QStringLiteral("AppBookmarks"), bookmarkColumns());
+
+    QStringList seed(columnCount, QStringLiteral(""));
+    seed.first() = QStringLiteral("myAppDestBookmark");
+    insertRecordIntoTableNamed(QStringLiteral("AppBookMarks"), bookmarkColumns(), seed);
+    close();
+}
+
+void dbViewController::createTableNamed(const QString& table, const QStringList& columns)
+{
+    if (m_myDb && m_myDb->execute(createTableStatement(table, columns)))
+        return;
+    close();
+    throw platform::AssertionFailure(QStringLiteral("Presets Table failed to create."));
+}
+
+void dbViewController::insertRecordIntoTableNamed(
+    const QString& table, const QStringList& columns, const QStringList& values
+)
+{
+    openOrRaise();
+    if (m_myDb->execute(insertStatement(table, columns, values)))
+        return;
+    close();
+    throw platform::AssertionFailure(QStringLiteral("Error updating table."));
+}
+
+void dbViewController::insertSortingPresetToDB01(const PresetRow& row)
+{
+    insertRecordIntoTableNamed(presetsTable(), presetColumns(), completeValues(row));
+    close();
+}
+
+void dbViewController::insertSortingPresetToDB02(const PresetRow& row)
+{
+    insertSortingPresetToDB01(row);
+}
+
+void dbViewController::insertHTMLPresetToDB01(const PresetRow& row)
+{
+    insertSortingPresetToDB01(row);
+}
+
+std::optional<QString> dbViewController::checkPresetNameFromTableNamed(
+    const QString& table,
+    const QString& nameColumn,
+    const QString& name,
+    const QString& processColumn,
+    const QString& process
+)
+{
+    if (!open())
+        return m_myPresetExist;
+    const QString text = selectStatement(
+        QStringLiteral("*"), table, {{nameColumn, name}, {processColumn, process}}
+    );
+    if (const auto statement = m_myDb->prepare(text)) {
+        while (statement->step())
+            m_myPresetExist = statement->text(1);
+    }
+    close();
+    return m_myPresetExist;
+}
+
+std::optional<QStringList> dbViewController::checkForActionType(
+    const QString& table, const QString& column, const QString& value
+)
+{
+    if (!open())
+        return m_myPresetsArrayToPass;
+    if (const auto statement
+        = m_myDb->prepare(selectStatement(QStringLiteral("*"), table, {{column, value}}))) {
+        QStringList rows;
+        while (statement->step())
+            rows.append(rowText(*statement));
+        if (!rows.isEmpty())
+            m_myPresetsArrayToPass = rows;
+    }
+    close();
+    return m_myPresetsArrayToPass;
+}
+
+PresetValues dbViewController::getSelectedPreset(const QString& table, const QString& name)
+{
+    PresetValues values;
+    if (!open())
+        return values;
+    const QString text
+        = selectStatement(QStringLiteral("*"), table, {{QStringLiteral("NameOfPreset"), name}});
+    if (const auto statement = m_myDb->prepare(text)) {
+        while (statement->step()) {
+            for (int column = 1; column < statement->dataCount(); ++column)
+                values.insert(
+                    statement->columnName(column), statement->text(column).value_or(QString())
+                );
+        }
+    }
+    close();
+    return values;
+}
+
+std::optional<QString> dbViewController::removePresetFromDatabase(
+    const QString& table, const QString& column, const QString& value
+)
+{
+    if (!open())
+        return m_myPresetExist;
+    {
+        const auto statement = m_myDb->prepare(deleteStatement(table, {column, value}));
+        if (!statement)
+            m_myPresetExist = QStringLiteral("preset not found");
+        else if (statement->step())
+            m_myPresetExist = QStringLiteral("preset removed");
+    }
+    close();
+    return m_myPresetExist;
+}
+
+void dbViewController::getAllRowsFromTableNamed(const QString& table)
+{
+    if (!open())
+        return;
+    if (const auto statement = m_myDb->prepare(selectStatement(QStringLiteral("*"), table))) {
+        while (statement->step()) { }
+    }
+    close();
+}
+
+void dbViewController::SaveImagesToSql(const QByteArray& image, const QString& url)
+{
+    const QString text = QStringLiteral("INSERT INTO IMAGES (URL, IMAGE) VALUES (?, ?)");
+    const auto statement = m_myDb ? m_myDb->prepare(text) : std::nullopt;
+    if (!statement) {
+        platform::log(QStringLiteral("SaveBody: Failed from sqlite3_prepare_v2. Error is:  %1")
+                          .arg(m_myDb ? m_myDb->errorMessage() : QStringLiteral("no connection")));
+        return;
+    }
+    statement->bind(1, url);
+    statement->bind(2, image);
+    (void)statement->step();
+}
+
+QByteArray dbViewController::LoadImagesFromSql(const QString& url)
+{
+    const QString text = selectStatement(
+        QStringLiteral("IMAGE"), QStringLiteral("IMAGES"), {{QStringLiteral("URL"), url}}
+    );
+    const auto statement = m_myDb ? m_myDb->prepare(text) : std::nullopt;
+    return statement && statement->step() ? statement->blob(0) : QByteArray();
+}
+
+void dbViewController::creatTableIfNotExist() const { }
+
+void dbViewController::hSaveSecurityScopedBookmarks(const QByteArray& bookmark)
+{
+    const QString text = QStringLiteral("insert into Image(Image)values(?)");
+    if (!open())
+        return;
+    const auto statement = m_myDb->prepare(text);
+    if (!statement)
+        return;
+    statement->bind(1, bookmark);
+    (void)statement->step();
+    (void)m_myDb->execute(text);
+}
+
+QByteArray dbViewController::hGetBookMarkedFolders(
+    const QString& table,
+    const QString& firstColumn,
+    const QString& firstValue,
+    const QString& secondColumn,
+    const QString& secondValue,
+    const QString& selected
+)
+{
+    if (!open())
+        return m_mySearchValue4;
+    const QString text = selectStatement(
+        selected, table, {{firstColumn, firstValue}, {secondColumn, secondValue}}
+    );
+    if (const auto statement = m_myDb->prepare(text)) {
+        while (statement->step())
+            m_mySearchValue4 = statement->blob(1);
+    }
+    close();
+    return m_mySearchValue4;
+}
+
+} // namespace brenvaldo::presets

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "load_effects.h"
+
+#include <platform/foundation/numbers.h>
+
+#include <utility>
+
+namespace brenvaldo::presets {
+
+namespace {
+
+void enable(const ControlList& controls, bool enabled)
+{
+    for (controls::Control* control : controls)
+        control->setEnabled(enabled);
+}
+
+} // namespace
+
+LoadEffect enablesUnlessZero(ControlList controls)
+{
+    return [controls = std::move(controls)](const QString& text) {
+        enable(controls, platform::intValue(text) != 0);
+    };
+}
+
+LoadEffect enablesWhen(int value, ControlList controls)
+{
+    return [value, controls = std::move(controls)](const QString& text) {
+        enable(controls, platform::intValue(text) == value);
+    };
+}
+
+LoadEffect showsWhen(int value, controls::Control& control)
+{
+    return [value, &control](const QString& text) {
+        control.setHidden(platform::intValue(text) != value);
+    };
+}
+
+} // namespace brenvaldo::presets

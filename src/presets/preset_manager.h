@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "preset_record.h"
+
+#include <controls/action_registry.h>
+#include <panels/panels.h>
+
+#include <functional>
+
+namespace brenvaldo::presets {
+
+/// Keeps the present settings of the selected function under a name, lists the presets of that
+/// function, loads one back into the controls, and removes one.
+class cPresetManager
+{
+public:
+    /// `selectedFunction` answers the id of the function that the user has chosen.
+    cPresetManager(panels::Panels& panels, std::function<QString()> selectedFunction);
+
+    void registerActions(controls::ActionRegistry& actions);
+
+    // The actions. A function without a record makes each of them return at once.
+    void hAddPreset();
+    void hLoadPreset();
+    void hRemovePreset();
+    void hApplySelectedPreset();
+    void closePresetsSheetObjC();
+
+    /// Lists the presets whose `column` has `value`; when there are none the list stays as it is.
+    void
+    hUpdateLoadPresetsTableView(const QString& table, const QString& column, const QString& value);
+    /// Adds one row to the list; the first of an update clears the list before.
+    void hLoadToPDMTable(const QString& name, const QString& process, const QString& remainder);
+    void hAlertWindow(const QString& title, const QString& text, const QString& button) const;
+
+    /// Keeps the present settings of a function; answers the name as typed, which is not the stored
+    /// one when the function has a preset of that name already.
+    QString addValuesToDB(const PresetRecord& record);
+    /// Gives the controls of a function the values of a preset.
+    void loadValuesFromDB(const PresetRecord& record, const PresetValues& values);
+
+    [[nodiscard]] QString hGetTWMActionsToStore() const;
+    void hLoadTWMActions(const QString& chain);
+
+private:
+    [[nodiscard]] const PresetRecord* recordOfSelectedFunction() const;
+    void listPresetsOf(const QString& process);
+
+    panels::Panels& m_panels;
+    std::function<QString()> m_selectedFunction;
+    QHash<QString, PresetRecord> m_records; ///< by function id
+    unsigned m_myLogCounter = 0;
+};
+
+} // namespace brenvaldo::presets
