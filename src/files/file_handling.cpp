@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "file_handling.h"
+
+#include "url_text.h"
+
+#include <platform/foundation/log.h>
+#include <platform/foundation/paths.h>
+#include <platform/storage/file_icon.h>
+#include <platform/storage/trash.h>
+
+namespace brenvaldo::files {
+
+using platform::SourceAndTarget;
+
+namespace {
+
+FileResult okOrFailed(bool succeeded) { return succeeded ? FileResult::Ok : FileResult::Failed; }
+
+FileResult
+replaceTarget(const SourceAndTarget& paths, bool (*action)(const SourceAndTarget& freePaths))
+{
+    const QString folder = platform::deletingLastPathComponent(paths.target);
+    platform::createFolder(folder);
+    if (!platform::fileExists(folder))
+        return FileResult::Failed;
+    if (platform::fileExists(paths.target))
+        platform::removeItem(paths.target);
+    return okOrFailed(action(paths));
+}
+
+void deleteFolder(const QString& folder)
+{
+    for (const auto& entry : platform::folderEntries(folder, platform::HiddenFiles::Included))
+        platform::removeItem(entry.path);
+    platform::removeItem(folder);
+}
+
+void copyFilesOf(const SourceAndTarget& folders)
+{
+    for (const auto& entry :
+         platform::folderEntries(folders.source, platform::HiddenFiles::Included)) {
+        if (platform::isFolder(entry.path))
+            continue;
+        const QString target = platform::appendingPathComponent(folders.target, entry.name);
+        if (!platform::copyItem({.source = entry.path, .target = target}))
+            platform::log(QStringLiteral("Error Copying: \"%1\" can't be copied to \"%2\"")
+                              .arg(entry.path, target));
+    }
+}
+
+} // namespace
+
+FileResult cNSFileHandling::hCreateDirectory(const QString& path)
+{
+    if (platform::fileExists(path))
+        return FileResult::Exists;
+    return platform::createFolder(path) ? FileResult::Ok : FileResult::NotCreated;
+}
+
+FileResult cNSFileHandling::hCopyFileTo(const SourceAndTarget& paths)
+{
+    return replaceTarget(paths, platform::copyItem);
+}
+
+FileResult cNSFileHandling::hMoveFileTo(const SourceAndTarget& paths)
+{
+    return replaceTarget(paths, platform::moveItem);
+}
+
+FileResult cNSFileHandling::hAliasFileTo(const SourceAndTarget& paths)
+{
+    return replaceTarget(paths, platform::createSymbolicLink);
+}
+
+FileResult cNSFileHandling::hCopyFileToDest(const SourceAndTarget& paths)
+{
+    platform::createFolder(paths.target);
+    return okOrFailed(platform::fileExists(paths.target) && platform::copyItem(paths));
+}
+
+FileResult cNSFileHandling::hCopyFolderTo(const SourceAndTarget& paths)
+{
+    return platform::copyItem(paths) ? FileResult::Success : FileResult::Failed;
+}
+
+FileResult cNSFileHandling::hCopyAppTo(const SourceAndTarget& folders)
+{
+    if (platform::fileExists(folders.source))
+        deleteFolder(folders.source);
+    else
+        copyFilesOf(
+            {.source = platform::deletingLastPathComponent(folders.source),
+             .target = folders.target}
+        );
+    return FileResult::Success;
+}
+
+FileResult cNSFileHandling::hTrashFile(const QString& path)
+{
+    return okOrFailed(platform::moveToTrash(path));
+}
+
+FileResult cNSFileHandling::hDeleteFiles(const QList<QUrl>& files)
+{
+    for (const QUrl& file : files)
+        platform::removeItem(file.toLocalFile());
+    return FileResult::Ok;
+}
+
+void cNSFileHandling::hShowInFinder(platform::Desktop& desktop, const QString& path)
+{
+    desktop.reveal(path);
+}
+
+void cNSFileHandling::hRenameFile(const PathAndName& file)
+{
+    const QString folder = platform::deletingLastPathComponent(file.path);
+    const auto source = urlFromText(file.path);
+    const auto target = urlFromText(platform::appendingPathComponent(folder, file.name));
+    if (!source || !target)
+        return;
+    platform::moveItem({.source = source->path(), .target = target->path()});
+}
+
+void cNSFileHandling::hRenameFile2(const SourceAndTarget& paths) { platform::copyItem(paths); }
+
+FileResult cNSFileHandling::hCheckIfFileExist(const QString& path)
+{
+    return platform::fileExists(path) ? FileResult::Ok : FileResult::No;
+}
+
+void cNSFileHandling::hAddIconToFile(const QString& path, const QImage& icon)
+{
+    platform::setFileIcon(path, icon);
+}
+
+} // namespace brenvaldo::files

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "file_handling.h"
+
+#include <platform/foundation/byte_count.h>
+#include <platform/foundation/date_text.h>
+
+namespace brenvaldo::files {
+
+using platform::FileAttributes;
+
+QString
+cNSFileHandling::dateText(const DateRequest& request, QDateTime platform::FileAttributes::*date)
+{
+    static const QStringList modes
+        = {QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2")};
+    if (modes.contains(request.mode)) {
+        const auto attributes = platform::fileAttributes(request.path);
+        m_dateText = attributes ? platform::dateTextForFileName((*attributes).*date) : QString();
+    }
+    return m_dateText;
+}
+
+QString cNSFileHandling::hGetCreationDateFile(const DateRequest& request)
+{
+    return dateText(request, &FileAttributes::creationDate);
+}
+
+QString cNSFileHandling::hGetModificationDateFile(const DateRequest& request)
+{
+    return dateText(request, &FileAttributes::modificationDate);
+}
+
+QString cNSFileHandling::getFileSize(const QString& path)
+{
+    if (const auto attributes = platform::fileAttributes(path))
+        m_sizeText = platform::byteCountText(attributes->size);
+    return m_sizeText;
+}
+
+} // namespace brenvaldo::files

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "file_property.h"
+
+#include <platform/foundation/paths.h>
+#include <platform/storage/file_label.h>
+
+namespace brenvaldo::files {
+
+QString DVFileProperty::dvGetFileLabel(const QString& path)
+{
+    const auto label = platform::fileLabel(path);
+    return label ? QString::number(*label) : QStringLiteral("none");
+}
+
+QStringList DVFileProperty::hGetFileNameProps(const QString& path)
+{
+    return {
+        platform::lastPathComponent(path),
+        platform::pathExtension(path),
+        platform::lastPathComponent(platform::deletingPathExtension(path))};
+}
+
+} // namespace brenvaldo::files
