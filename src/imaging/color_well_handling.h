@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <controls/action_registry.h>
 #include <controls/color_well.h>
 #include <controls/text_controls.h>
 #include <panels/panels.h>
@@ -19,7 +20,7 @@ namespace brenvaldo::imaging {
 /// Not the inverse of `colorWellOfHexField`: wells and fields are numbered apart.
 [[nodiscard]] QString hexFieldOfColorWell(int tag);
 
-/// Keeps colour wells and their hex fields in step.
+/// Keeps colour wells and their hex fields in step. The panels outlive the object and its actions.
 class cColorWellHandling
 {
 public:
@@ -32,6 +33,9 @@ public:
     /// then anything else. Any other text changes nothing and gives nothing.
     static std::optional<platform::Color>
     setHEXValue(const QString& text, controls::ColorWell& well);
+
+    /// Registers the two operations below as the actions that fields and wells send.
+    void addActions(controls::ActionRegistry& actions) const;
 
     /// A hex field was edited: the well of its tag follows.
     void controlTextDidEndEditing(const controls::TextControl& field) const;

@@ -7,19 +7,16 @@
 
 namespace brenvaldo::imaging {
 
-/// Six hexadecimal digits, upper case: each component times 255, truncated.
-[[nodiscard]] QString hexText(const platform::Color& color);
-
 /// Colours from and to texts of six hexadecimal digits: red, green, blue.
 class cNSColorHandling
 {
 public:
-    /// The colour of the hexadecimal digits at the start of `text`; a text that begins with none,
-    /// such as one with a leading "#", gives black.
+    /// The opaque colour of the hexadecimal digits at the start of `text`; a text that begins with
+    /// none, such as one with a leading "#", gives black.
     [[nodiscard]] static platform::Color colorFromHexRGB(const QString& text);
     [[nodiscard]] static platform::Color colorFromHexToRGB(const QString& text);
 
-    /// "7F7F7F" for components of 0.5.
+    /// Upper case; each component times 255, truncated: "7F7F7F" for components of 0.5.
     [[nodiscard]] static QString hGetHexFromRGB(const platform::Color& color);
 };
 

@@ -7,8 +7,6 @@ namespace brenvaldo::imaging {
 
 namespace {
 
-constexpr double pointsPerInch = 72.0;
-
 float roundedUp(double value) { return std::ceil(static_cast<float>(value)); }
 
 } // namespace

@@ -7,6 +7,8 @@
 
 namespace brenvaldo::imaging {
 
+constexpr double pointsPerInch = 72.0;
+
 /// Dots per inch of a picture that is `pointsWide` points (1/72 inch) wide, rounded up to a whole
 /// number in single precision; NaN for a picture without size.
 [[nodiscard]] float dotsPerInchRoundedUp(int pixelsWide, double pointsWide);

@@ -42,6 +42,21 @@ PixelSize turnedCanvas(PixelSize photo, double degrees)
     return {truncated(bounds.width()), truncated(bounds.height())};
 }
 
+std::optional<QuarterTurns> quarterTurns(double degrees)
+{
+    const double remainder = std::fmod(degrees, 360.0);
+    const double turn = remainder < 0 ? remainder + 360.0 : remainder;
+    if (turn == 0)
+        return QuarterTurns::None;
+    if (turn == 90)
+        return QuarterTurns::One;
+    if (turn == 180)
+        return QuarterTurns::Two;
+    if (turn == 270)
+        return QuarterTurns::Three;
+    return std::nullopt;
+}
+
 PixelSize canvasOfPoints(const QSizeF& points)
 {
     return {

@@ -5,6 +5,8 @@
 
 #include <QSizeF>
 
+#include <optional>
+
 /// \file
 /// Sizes of turned pictures. Angles are degrees, positive counter-clockwise on the screen.
 
@@ -15,6 +17,12 @@ namespace brenvaldo::imaging {
 
 /// Canvas of a photo turned by `degrees`: the box around it, truncated to whole pixels.
 [[nodiscard]] platform::PixelSize turnedCanvas(platform::PixelSize photo, double degrees);
+
+/// Quarter turns counter-clockwise.
+enum class QuarterTurns { None, One, Two, Three };
+
+/// The quarter turns that an angle stands for; nothing when it is no multiple of 90 degrees.
+[[nodiscard]] std::optional<QuarterTurns> quarterTurns(double degrees);
 
 /// Canvas that holds a drawing area of `points` at one pixel a point.
 ///

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "unit_rules.h"
+
+#include <platform/foundation/numbers.h>
+
+#include <cmath>
+
+namespace brenvaldo::imaging {
+
+using platform::truncated;
+
+namespace {
+
+constexpr double millimetresPerInch = 25.4;
+constexpr double millimetresPerPica = 4.2175176;
+constexpr double millimetresPerPoint = 0.3527777777778;
+
+/// The length is narrowed to single precision before it meets the resolution: the results at the
+/// border of two pixels hang on it.
+double pixelsOfMillimetres(float millimetres, float dotsPerInch)
+{
+    const float product = millimetres * dotsPerInch;
+    return product / millimetresPerInch;
+}
+
+float millimetres(float value, double millimetresPerUnit)
+{
+    return static_cast<float>(value * millimetresPerUnit);
+}
+
+} // namespace
+
+bool needsResolution(const QString& unit) { return unit != QStringLiteral("pixel"); }
+
+std::int32_t pixelsOf(float value, const QString& unit, float dotsPerInch)
+{
+    if (unit == QStringLiteral("mm"))
+        return truncated(pixelsOfMillimetres(value, dotsPerInch));
+    if (unit == QStringLiteral("cm"))
+        return truncated(pixelsOfMillimetres(value * 10.0F, dotsPerInch));
+    if (unit == QStringLiteral("inch")) {
+        const float length = millimetres(value, millimetresPerInch);
+        return truncated(pixelsOfMillimetres(length, dotsPerInch));
+    }
+    if (unit == QStringLiteral("pica")) {
+        const float length = millimetres(value, millimetresPerPica);
+        const auto exact = static_cast<float>(pixelsOfMillimetres(length, dotsPerInch));
+        return truncated(std::round(exact));
+    }
+    if (unit == QStringLiteral("punt")) {
+        const float length = millimetres(value, millimetresPerPoint);
+        return truncated(pixelsOfMillimetres(length, dotsPerInch));
+    }
+    return truncated(value);
+}
+
+} // namespace brenvaldo::imaging

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <imaging/dv_image_handling.h>
+
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using brenvaldo::imaging::DVImageHandling;
+
+TEST(FileNamePrePostFixConstruct, PutsWidthAndHeightIntoTheirPlaces)
+{
+    const QString name = DVImageHandling::hFileNamePrePostFixConstruct(
+        u"thumb_<[IMGW]>x<[IMGH]>_"_qs, {.width = u"640"_qs, .height = u"480"_qs}
+    );
+
+    EXPECT_EQ(name, u"thumb_640x480_"_qs);
+}
+
+TEST(FileNamePrePostFixConstruct, ReplacesEveryOccurrenceAndNoOtherToken)
+{
+    const QString name = DVImageHandling::hFileNamePrePostFixConstruct(
+        u"<[IMGW]><[IMGW]><[NAME]><[imgh]>"_qs, {.width = u"1"_qs, .height = u"2"_qs}
+    );
+
+    EXPECT_EQ(name, u"11<[NAME]><[imgh]>"_qs);
+}

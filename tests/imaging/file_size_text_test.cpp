@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <imaging/dv_image_handling.h>
+
+#include <platform/foundation/exceptions.h>
+
+#include <support/case_name.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using brenvaldo::imaging::DVImageHandling;
+using brenvaldo::test::CaseName;
+
+namespace {
+
+struct FileSizeCase
+{
+    const char* name;
+    double bytes;
+    QString expected;
+};
+
+void PrintTo(const FileSizeCase& fileSizeCase, std::ostream* out) { *out << fileSizeCase.name; }
+
+class FileSizeText : public testing::TestWithParam<FileSizeCase>
+{
+};
+
+constexpr double terabyte = 1024.0 * 1024.0 * 1024.0 * 1024.0;
+
+const FileSizeCase fileSizeCases[] = {
+    {"Nothing", 0, u"0.00bytes"_qs},
+    {"Bytes", 512, u"512.00bytes"_qs},
+    {"ExactlyOneKilobyte", 1024, u"1024.00bytes"_qs},
+    {"JustAboveOneKilobyte", 1025, u"1.00KB"_qs},
+    {"Megabytes", 1572864, u"1.50MB"_qs},
+    {"Gigabytes", 5368709120.0, u"5.00GB"_qs},
+    {"ExactlyTheLastUnit", 1024 * terabyte, u"1024.00TB"_qs},
+};
+
+} // namespace
+
+TEST_P(FileSizeText, StepsThroughTheUnits)
+{
+    const FileSizeCase& row = GetParam();
+
+    EXPECT_EQ(DVImageHandling::hNSFileSizeToHumanNotification(row.bytes), row.expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, FileSizeText, testing::ValuesIn(fileSizeCases), CaseName());
+
+TEST(FileSizeText, FailsToLookUpAUnitBeyondTheLast)
+{
+    EXPECT_THROW(
+        DVImageHandling::hNSFileSizeToHumanNotification(1025 * terabyte),
+        brenvaldo::platform::RangeError
+    );
+}
