@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presets_bench.h"
+
+#include <platform/foundation/exceptions.h>
+
+#include "support/text_printing.h"
+
+#include <gtest/gtest.h>
+
+using namespace brenvaldo;
+using controls::ActionRegistry;
+using test::PresetsBench;
+
+TEST(PresetManager, ListsWhatWasSaved)
+{
+    PresetsBench bench;
+
+    bench.save(u"A"_qs);
+    bench.save(u"B"_qs);
+
+    EXPECT_EQ(bench.listed(), QStringList({u"A"_qs, u"B"_qs}));
+    EXPECT_EQ(bench.listed(u"nmProces"_qs), QStringList({u"TextWM"_qs, u"TextWM"_qs}));
+    EXPECT_TRUE(bench.listed(u"nmbrAction"_qs).first().startsWith(u"|Watermark|"_qs));
+}
+
+TEST(PresetManager, MarksATakenNameOnceOnly)
+{
+    PresetsBench bench;
+
+    bench.save(u"A"_qs);
+    bench.save(u"A"_qs);
+    bench.save(u"A"_qs);
+
+    EXPECT_EQ(bench.listed(), QStringList({u"A"_qs, u"A_[x]"_qs, u"A_[x]"_qs}));
+    EXPECT_EQ(bench.panels.wwPresetsWindow.tfInputPDM.stringValue(), u"A"_qs);
+}
+
+TEST(PresetManager, TakesTheSameNameForAnotherFunctionAsItIs)
+{
+    PresetsBench bench;
+    bench.save(u"A"_qs);
+
+    bench.function = u"resizePhotos"_qs;
+    bench.save(u"A"_qs);
+
+    EXPECT_EQ(bench.listed(), QStringList(u"A"_qs));
+    EXPECT_EQ(bench.listed(u"nmProces"_qs), QStringList(u"resizePhotos"_qs));
+}
+
+TEST(PresetManager, SavesAnEmptyName)
+{
+    PresetsBench bench;
+
+    bench.save(QString());
+
+    EXPECT_EQ(bench.listed(), QStringList(u""_qs));
+    EXPECT_EQ(bench.file.rows("select Process from Presets"), QStringList(u"TextWM"_qs));
+}
+
+TEST(PresetManager, BuildsTheListTwiceForOneAdd)
+{
+    PresetsBench bench;
+    bench.save(u"A"_qs);
+    QList<qsizetype> sizes;
+    const auto& list = bench.panels.wwPresetsWindow.thePresetsData;
+    const auto watch = list.changed.connect([&] { sizes.append(list.arrangedObjects().size()); });
+
+    bench.save(u"B"_qs);
+
+    EXPECT_EQ(sizes, QList<qsizetype>({0, 0, 1, 2, 0, 1, 2}));
+}
+
+TEST(PresetManager, OpensTheSheetAndListsThePresets)
+{
+    PresetsBench bench;
+    bench.save(u"A"_qs);
+    bench.panels.wwPresetsWindow.thePresetsData.removeAllObjects();
+
+    bench.press("hLoadPreset");
+    EXPECT_TRUE(bench.panels.wwPresetsWindow.sheet.isOpen());
+    EXPECT_EQ(bench.listed(), QStringList(u"A"_qs));
+
+    bench.press("closePresetsSheetObjC");
+    EXPECT_FALSE(bench.panels.wwPresetsWindow.sheet.isOpen());
+}
+
+TEST(PresetManager, ShowsTheRowsOfThePreviousFunctionWhenThereAreNone)
+{
+    PresetsBench bench;
+    bench.save(u"A"_qs);
+
+    bench.function = u"resizePhotos"_qs;
+    bench.press("hLoadPreset");
+
+    EXPECT_EQ(bench.listed(u"nmProces"_qs), QStringList(u"TextWM"_qs));
+}
+
+TEST(PresetManager, AppliesAStaleRowWithTheRecordOfTheSelectedFunction)
+{
+    PresetsBench bench;
+    bench.panels.vwWatermark.tfKerning.setStringValue(u"3"_qs); // position 7: the mode of resizing
+    bench.save(u"A"_qs);
+
+    bench.function = u"resizePhotos"_qs;
+    bench.apply(0);
+
+    const auto& resize = bench.panels.vwResizePhotos;
+    EXPECT_EQ(resize.dvVCUiResizeMainView.views(), QStringList(resize.dvVCUiScaleFixView.name()));
+    EXPECT_EQ(resize.dvVCUiScaleFixView.tfScaleFixHeight.stringValue(), u"8"_qs);
+}
+
+TEST(PresetManager, DoesNothingForAFunctionWithoutARecord)
+{
+    PresetsBench bench;
+    bench.save(u"A"_qs);
+
+    bench.function = u"faces"_qs;
+    bench.press("hLoadPreset");
+    bench.save(u"B"_qs);
+    bench.apply(0);
+
+    EXPECT_FALSE(bench.panels.wwPresetsWindow.sheet.isOpen());
+    EXPECT_EQ(bench.listed(), QStringList(u"A"_qs));
+}
+
+TEST(PresetManager, RemovesTheNameFromEveryFunction)
+{
+    PresetsBench bench;
+    bench.save(u"A"_qs);
+    bench.function = u"resizePhotos"_qs;
+    bench.save(u"A"_qs);
+    bench.save(u"B"_qs);
+
+    bench.panels.wwPresetsWindow.myPresetsTableView.selectRow(0);
+    bench.press("hRemovePreset");
+
+    EXPECT_EQ(bench.listed(), QStringList(u"B"_qs));
+    EXPECT_EQ(bench.file.rows("select NameOfPreset from Presets"), QStringList(u"B"_qs));
+}
+
+TEST(PresetManager, EmptiesTheListWithTheLastPreset)
+{
+    PresetsBench bench;
+    bench.save(u"A"_qs);
+
+    bench.panels.wwPresetsWindow.myPresetsTableView.selectRow(0);
+    bench.press("hRemovePreset");
+    bench.press("hRemovePreset");
+
+    EXPECT_TRUE(bench.listed().isEmpty());
+    EXPECT_EQ(bench.panels.wwPresetsWindow.myPresetsTableView.selectedRow(), -1);
+}
+
+TEST(PresetManager, DoesNothingWithoutASelectedRow)
+{
+    PresetsBench bench;
+    bench.panels.vwWatermark.tfFontSize.setStringValue(u"30"_qs);
+    bench.save(u"A"_qs);
+    bench.panels.vwWatermark.tfFontSize.setStringValue(u"99"_qs);
+
+    bench.apply(-1);
+    bench.press("hRemovePreset");
+
+    EXPECT_EQ(bench.panels.vwWatermark.tfFontSize.stringValue(), u"99"_qs);
+    EXPECT_EQ(bench.listed(), QStringList(u"A"_qs));
+}
+
+TEST(PresetManager, AppliesTheLaterOfTwoRowsOfOneName)
+{
+    PresetsBench bench;
+    auto& size = bench.panels.vwWatermark.tfFontSize;
+    bench.save(u"A"_qs);
+    size.setStringValue(u"10"_qs);
+    bench.save(u"A"_qs);
+    size.setStringValue(u"20"_qs);
+    bench.save(u"A"_qs);
+    size.setStringValue(u"99"_qs);
+
+    bench.apply(1);
+    EXPECT_EQ(size.stringValue(), u"20"_qs);
+
+    bench.press("hRemovePreset");
+    EXPECT_EQ(bench.listed(), QStringList(u"A"_qs));
+}
+
+TEST(PresetManager, ListsANameWithABarAsAWrongRowAndAppliesNothing)
+{
+    PresetsBench bench;
+    bench.save(u"A|B"_qs);
+    ASSERT_EQ(bench.listed(), QStringList(u"A"_qs));
+    EXPECT_EQ(bench.listed(u"nmProces"_qs), QStringList(u"B"_qs));
+    EXPECT_TRUE(bench.listed(u"nmbrAction"_qs).first().startsWith(u"|TextWM|Watermark|"_qs));
+
+    bench.apply(0);
+
+    EXPECT_EQ(bench.panels.vwWatermark.tfFontSize.stringValue(), u""_qs);
+    EXPECT_EQ(bench.panels.vwWatermark.scWaterMarkPos.selectedSegment(), 0);
+}
+
+TEST(PresetManager, StopsTheRemainderWhereNameAndProcessRecur)
+{
+    PresetsBench bench;
+    bench.panels.vwWatermark.tvWaterMarkText.setStringValue(u"see A|TextWM here"_qs);
+
+    bench.save(u"A"_qs);
+
+    EXPECT_TRUE(bench.listed(u"nmbrAction"_qs).first().endsWith(u"|see "_qs));
+}
+
+TEST(PresetManager, LeavesTheListWhenASaveFails)
+{
+    PresetsBench bench;
+    bench.save(u"A"_qs);
+    QString reason;
+    const auto watch
+        = bench.actions.exceptionRaised.connect([&](const platform::Exception& exception) {
+              reason = exception.reason();
+          });
+
+    bench.save(u"it's"_qs);
+    EXPECT_EQ(reason, u"Error updating table."_qs);
+    EXPECT_EQ(bench.listed(), QStringList(u"A"_qs));
+
+    bench.panels.vwWatermark.tvWaterMarkText.setStringValue(u"it's"_qs);
+    bench.save(u"B"_qs);
+    EXPECT_EQ(bench.listed(), QStringList(u"A"_qs));
+    EXPECT_EQ(bench.file.rows("select NameOfPreset from Presets"), QStringList(u"A"_qs));
+}
+
+TEST(PresetManager, SwitchesTheSecondViewAndTheSimulationOffBeforeALoad)
+{
+    PresetsBench bench;
+    bench.save(u"A"_qs);
+    bench.panels.vwWatermark.cbWMSimulationMode.setState(1);
+
+    bench.apply(0);
+
+    EXPECT_EQ(bench.panels.vwWatermark.cbWMSimulationMode.state(), 0);
+    EXPECT_FALSE(bench.panels.wwPresetsWindow.my2ndView.image());
+}
+
+TEST(PresetManager, KnowsItsFiveActions)
+{
+    const PresetsBench bench;
+
+    EXPECT_EQ(bench.actions.names().size(), 5);
+    EXPECT_TRUE(bench.actions.knows(bench.panels.window.btnPresets.actions().first()));
+}

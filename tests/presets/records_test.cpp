@@ -1,0 +1,336 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "presets_bench.h"
+
+#include <platform/foundation/bookmark.h>
+#include <platform/foundation/color_archive.h>
+
+#include "support/text_printing.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+using namespace brenvaldo;
+using test::PresetsBench;
+
+namespace {
+
+class TextWatermarkRecord : public testing::Test
+{
+protected:
+    TextWatermarkRecord() { text.cbFontList.selectItemAtIndex(0); }
+
+    PresetsBench bench;
+    panels::WatermarkPanel& text = bench.panels.vwWatermark;
+    controls::TextField& destination = bench.panels.vwMainDestination.tfImageDestinationFolder;
+};
+
+class ResizeRecord : public testing::Test
+{
+protected:
+    ResizeRecord() { bench.function = u"resizePhotos"_qs; }
+
+    PresetsBench bench;
+    panels::ResizePanel& resize = bench.panels.vwResizePhotos;
+};
+
+} // namespace
+
+TEST_F(TextWatermarkRecord, GivesEverySettingBack)
+{
+    destination.setStringValue(bench.file.folder().path());
+    text.scWaterMarkPos.setSelectedSegment(3);
+    text.tfFontSize.setStringValue(u"48"_qs);
+    text.cbFontBold.setState(1);
+    text.cwFontColor.setColor({.red = 1, .green = 0.5, .blue = 0.25});
+    text.pubTxtUnderline.selectItemAtIndex(2);
+    text.tvWaterMarkText.setStringValue(u"\u00a9 <[IMGFN]>\nsecond line"_qs);
+    text.cbFontList.selectItemAtIndex(1);
+    text.scTxtAlign.setSelectedSegment(2);
+    bench.panels.vwFileType.pubJPEGCompressionLevel.selectItemAtIndex(4);
+    bench.save(u"A"_qs);
+
+    destination.setStringValue(u""_qs);
+    text.scWaterMarkPos.setSelectedSegment(0);
+    text.tfFontSize.setStringValue(u"1"_qs);
+    text.cbFontBold.setState(0);
+    text.cwFontColor.setColor({});
+    text.pubTxtUnderline.selectItemAtIndex(0);
+    text.tvWaterMarkText.setStringValue(u""_qs);
+    text.cbFontList.selectItemAtIndex(0);
+    text.scTxtAlign.setSelectedSegment(0);
+    bench.panels.vwFileType.pubJPEGCompressionLevel.selectItemAtIndex(0);
+    bench.apply(0);
+
+    EXPECT_EQ(destination.stringValue(), bench.file.folder().path());
+    EXPECT_EQ(destination.toolTip(), bench.file.folder().path());
+    EXPECT_EQ(text.scWaterMarkPos.selectedSegment(), 3);
+    EXPECT_EQ(text.tfFontSize.stringValue(), u"48"_qs);
+    EXPECT_EQ(text.cbFontBold.state(), 1);
+    EXPECT_EQ(text.cwFontColor.color(), (platform::Color{.red = 1, .green = 0.5, .blue = 0.25}));
+    EXPECT_EQ(text.pubTxtUnderline.indexOfSelectedItem(), 2);
+    EXPECT_EQ(text.tvWaterMarkText.stringValue(), u"\u00a9 <[IMGFN]>\nsecond line"_qs);
+    EXPECT_EQ(text.cbFontList.objectValueOfSelectedItem(), u"Liberation Serif"_qs);
+    EXPECT_EQ(text.scTxtAlign.selectedSegment(), 2);
+    EXPECT_EQ(bench.panels.vwFileType.pubJPEGCompressionLevel.indexOfSelectedItem(), 4);
+}
+
+TEST_F(TextWatermarkRecord, KeepsEachSettingAtItsPosition)
+{
+    text.tfFontSize.setStringValue(u"48"_qs);
+    text.cbTextPatternCheck.setState(1);
+    bench.panels.vwFileType.pubFileType.selectItemAtIndex(5);
+    text.cwFontColor.setColor({.red = 0.2, .green = 0.2, .blue = 0.2, .alpha = 0.1});
+    bench.save(u"A"_qs);
+
+    EXPECT_EQ(bench.stored(u"A"_qs, 4), u""_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 6), u"48"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 16), platform::colorArchive({0.2F, 0.2F, 0.2F}));
+    EXPECT_EQ(bench.stored(u"A"_qs, 27), u"DejaVu Sans"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 33), u"1"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 34), u"5"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 36), u""_qs);
+}
+
+TEST_F(TextWatermarkRecord, LosesTheFormOfATextThatIsANumber)
+{
+    text.tvWaterMarkText.setStringValue(u"0123"_qs);
+    bench.save(u"A"_qs);
+
+    bench.apply(0);
+
+    EXPECT_EQ(text.tvWaterMarkText.stringValue(), u"123"_qs);
+}
+
+TEST_F(TextWatermarkRecord, CannotBeSavedWithoutAFont)
+{
+    text.cbFontList.selectItemAtIndex(-1);
+
+    EXPECT_EQ(bench.press("hAddPreset"), controls::ActionRegistry::Sent::Raised);
+    EXPECT_TRUE(bench.listed().isEmpty());
+}
+
+TEST_F(TextWatermarkRecord, CannotBeSavedWithADestinationThatDoesNotExist)
+{
+    destination.setStringValue(u"/no/such/folder/"_qs);
+
+    EXPECT_EQ(bench.press("hAddPreset"), controls::ActionRegistry::Sent::Raised);
+    EXPECT_TRUE(bench.listed().isEmpty());
+}
+
+TEST_F(TextWatermarkRecord, LeavesTheDestinationWhenItsFolderIsGone)
+{
+    const QString folder = bench.file.folder().path(u"out"_qs);
+    ASSERT_TRUE(QDir().mkdir(folder));
+    destination.setStringValue(folder + QLatin1Char('/'));
+    bench.save(u"A"_qs);
+    ASSERT_TRUE(QDir().rmdir(folder));
+    destination.setStringValue(u"/elsewhere/"_qs);
+
+    bench.apply(0);
+
+    EXPECT_EQ(destination.stringValue(), u"/elsewhere/"_qs);
+}
+
+TEST_F(TextWatermarkRecord, LeavesTheDestinationWhenNoneIsStored)
+{
+    bench.save(u"A"_qs);
+    destination.setStringValue(u"/elsewhere/"_qs);
+
+    bench.apply(0);
+
+    EXPECT_EQ(bench.stored(u"A"_qs, 3), u""_qs);
+    EXPECT_EQ(destination.stringValue(), u"/elsewhere/"_qs);
+}
+
+TEST_F(TextWatermarkRecord, KeepsAFolderAsABookmarkWithoutTheSlash)
+{
+    destination.setStringValue(bench.file.folder().path());
+    bench.save(u"A"_qs);
+
+    const QByteArray record = QByteArray::fromBase64(bench.stored(u"A"_qs, 3).toLatin1());
+
+    EXPECT_EQ(
+        platform::pathOfBookmark(record).value_or(QString()) + QLatin1Char('/'),
+        bench.file.folder().path()
+    );
+}
+
+TEST_F(TextWatermarkRecord, EnablesTheShadowFieldsWithTheStoredState)
+{
+    text.cbShadowCheck.setState(1);
+    bench.save(u"on"_qs);
+    text.cbShadowCheck.setState(0);
+    bench.save(u"off"_qs);
+
+    bench.apply(0);
+    EXPECT_TRUE(text.tfTextShadowRadius.isEnabled());
+    EXPECT_TRUE(text.cwShadowColor.isEnabled());
+
+    bench.apply(1);
+    EXPECT_FALSE(text.tfTextShadowRadius.isEnabled());
+    EXPECT_FALSE(text.cwShadowColor.isEnabled());
+}
+
+TEST_F(TextWatermarkRecord, ShowsTheReliefColorOnlyForItsEffect)
+{
+    text.pubWatermarkTextEffect.selectItemAtIndex(6);
+    bench.save(u"relief"_qs);
+    text.pubWatermarkTextEffect.selectItemAtIndex(2);
+    bench.save(u"other"_qs);
+
+    bench.apply(0);
+    EXPECT_FALSE(text.cwEmbossColor.isHidden());
+
+    bench.apply(1);
+    EXPECT_TRUE(text.cwEmbossColor.isHidden());
+}
+
+TEST_F(TextWatermarkRecord, LeavesTheChainWhenNoneWasSaved)
+{
+    bench.save(u"A"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 24), u""_qs);
+    text.cActionsTWMArrayController.addObject({u"Number\t \tNumbering\tBrenvaldo9"_qs});
+
+    bench.apply(0);
+
+    EXPECT_EQ(text.cActionsTWMArrayController.arrangedObjects().size(), 1);
+}
+
+TEST_F(TextWatermarkRecord, AddsTheSavedChainToTheOneThatIsThere)
+{
+    auto& chain = text.cActionsTWMArrayController;
+    const QString padding(65, QLatin1Char(' '));
+    chain.addObject({u"One\t"_qs + padding + u"\tPrefix\tBrenvaldo9\tx_"_qs});
+    chain.addObject({u"Two\t"_qs + padding + u"\tPrefix\tBrenvaldo9\ty_"_qs});
+    bench.save(u"A"_qs);
+
+    bench.apply(0);
+
+    EXPECT_EQ(
+        bench.stored(u"A"_qs, 24),
+        u"One\t\tPrefix\tBrenvaldo9\tx_\rTwo\t\tPrefix\tBrenvaldo9\ty_"_qs
+    );
+    ASSERT_EQ(chain.arrangedObjects().size(), 4);
+    const QString loaded
+        = u"One\t"_qs + QString(46, QLatin1Char(' ')) + u"\tPrefix\tBrenvaldo9\tx_"_qs;
+    EXPECT_EQ(chain.value(2, u"cActions"_qs), loaded);
+}
+
+TEST_F(TextWatermarkRecord, LeavesAColorThatIsDamaged)
+{
+    bench.save(u"A"_qs);
+    (void)bench.file.rows("update Presets set StrField16 = 'BAtzdHJlYW10eXBlZIHoA4QB'");
+    text.cwFontColor.setColor({.red = 0.5, .green = 0.5, .blue = 0.5});
+
+    bench.apply(0);
+
+    EXPECT_EQ(text.cwFontColor.color(), (platform::Color{.red = 0.5, .green = 0.5, .blue = 0.5}));
+}
+
+TEST_F(TextWatermarkRecord, ReadsTheColorsOfEitherArchive)
+{
+    bench.save(u"A"_qs);
+    const QString archive = platform::galleryColorArchive({0.0F, 1.0F, 0.0F});
+    (void)bench.file.rows(
+        (u"update Presets set StrField16 = '"_qs + archive + u"'"_qs).toUtf8().constData()
+    );
+
+    bench.apply(0);
+
+    EXPECT_EQ(text.cwFontColor.color(), (platform::Color{.green = 1}));
+}
+
+TEST_F(TextWatermarkRecord, KeepsLongAndOddTexts)
+{
+    const QString odd = u"a|b\tc \"quoted\" \U0001F4F7 it''s "_qs + QString(1'000'000, u'x');
+    text.tvWaterMarkText.setStringValue(odd);
+    bench.save(u"A"_qs);
+
+    bench.apply(0);
+
+    EXPECT_EQ(text.tvWaterMarkText.stringValue(), QString(odd).replace(u"''"_qs, u"'"_qs));
+}
+
+TEST_F(TextWatermarkRecord, ChangesNothingForIndexesThatDoNotExist)
+{
+    text.scWaterMarkPos.setSelectedSegment(4);
+    bench.save(u"A"_qs);
+    (void)bench.file.rows("update Presets set StrField5 = '44', StrField28 = '99'");
+
+    bench.apply(0);
+
+    EXPECT_EQ(text.scWaterMarkPos.selectedSegment(), 4);
+    EXPECT_EQ(text.pubWatermarkTextEffect.indexOfSelectedItem(), 0);
+}
+
+TEST_F(ResizeRecord, KeepsTheFieldsOfTheMaximumModeOnly)
+{
+    resize.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"640"_qs);
+    resize.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"1200"_qs);
+    resize.dvVCUiScaleMaxView.pubScaleMaxType.selectItemAtIndex(1);
+    bench.save(u"A"_qs);
+
+    EXPECT_EQ(bench.stored(u"A"_qs, 4), u""_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 6), u""_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 7), u"0"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 8), u"1"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 9), u"1200"_qs);
+}
+
+TEST_F(ResizeRecord, KeepsTheFieldsOfTheFixedModeOnly)
+{
+    resize.pubScaleType.selectItemAtIndex(1);
+    resize.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"640"_qs);
+    resize.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"480"_qs);
+    resize.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"1200"_qs);
+    bench.save(u"A"_qs);
+
+    EXPECT_EQ(bench.stored(u"A"_qs, 4), u"640"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 5), u"480"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 6), u"1"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 7), u"1"_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 8), u""_qs);
+    EXPECT_EQ(bench.stored(u"A"_qs, 9), u""_qs);
+}
+
+TEST_F(ResizeRecord, ShowsTheFieldsOfTheStoredModeAndLeavesTheOthers)
+{
+    resize.pubScaleType.selectItemAtIndex(1);
+    resize.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"640"_qs);
+    bench.save(u"fixed"_qs);
+    resize.pubScaleType.selectItemAtIndex(0);
+    resize.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"1200"_qs);
+    bench.save(u"maximum"_qs);
+    resize.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"1"_qs);
+
+    bench.apply(0);
+    EXPECT_EQ(resize.pubScaleType.indexOfSelectedItem(), 1);
+    EXPECT_EQ(resize.dvVCUiResizeMainView.views(), QStringList(u"dvVCUiScaleFixView"_qs));
+    EXPECT_EQ(resize.dvVCUiScaleFixView.tfScaleFixWidth.stringValue(), u"640"_qs);
+    EXPECT_EQ(resize.dvVCUiScaleMaxView.tfScaleMaxVal.stringValue(), u"1200"_qs);
+
+    resize.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"1"_qs);
+    bench.apply(1);
+    EXPECT_EQ(resize.dvVCUiResizeMainView.views(), QStringList(u"dvVCUiScaleMaxView"_qs));
+    EXPECT_EQ(resize.dvVCUiScaleMaxView.tfScaleMaxVal.stringValue(), u"1200"_qs);
+    EXPECT_EQ(resize.dvVCUiScaleFixView.tfScaleFixWidth.stringValue(), u"640"_qs);
+}
+
+TEST_F(ResizeRecord, PassesIndexesThroughTheIntegerColumns)
+{
+    bench.panels.vwApplyOn.pubPhotoOrientation.selectItemAtIndex(2);
+    bench.panels.vwFileType.pubFileType.selectItemAtIndex(5);
+    bench.panels.vwFileType.pubJPEGCompressionLevel.selectItemAtIndex(7);
+    bench.save(u"A"_qs);
+    bench.panels.vwApplyOn.pubPhotoOrientation.selectItemAtIndex(0);
+    bench.panels.vwFileType.pubFileType.selectItemAtIndex(0);
+    bench.panels.vwFileType.pubJPEGCompressionLevel.selectItemAtIndex(0);
+
+    bench.apply(0);
+
+    EXPECT_EQ(bench.stored(u"A"_qs, 22), u""_qs);
+    EXPECT_EQ(bench.panels.vwApplyOn.pubPhotoOrientation.indexOfSelectedItem(), 2);
+    EXPECT_EQ(bench.panels.vwFileType.pubFileType.indexOfSelectedItem(), 5);
+    EXPECT_EQ(bench.panels.vwFileType.pubJPEGCompressionLevel.indexOfSelectedItem(), 7);
+}
