@@ -38,8 +38,10 @@ private:
 
 /// set, show, state
 void addControlCommands(CommandTable& table, const ScriptContext& context);
-/// press, answer, preview, defaults
+/// press, answer, defaults
 void addProgramCommands(CommandTable& table, const ScriptContext& context);
+/// preview
+void addPreviewCommand(CommandTable& table, const ScriptContext& context);
 /// open, select, tick, photos
 void addListCommands(CommandTable& table, const ScriptContext& context);
 /// row, rows

@@ -38,6 +38,7 @@ ScriptProgram::ScriptProgram(std::ostream& out)
     };
     addControlCommands(m_commands, context);
     addProgramCommands(m_commands, context);
+    addPreviewCommand(m_commands, context);
     addListCommands(m_commands, context);
     addTableCommands(m_commands, context);
     m_workspace.start();

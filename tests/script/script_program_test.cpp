@@ -165,3 +165,13 @@ TEST_F(ScriptProgramTest, KeepsUserDefaultsFromRunToRun)
     EXPECT_THAT(setting.lines, IsEmpty());
     EXPECT_THAT(after.lines, ElementsAre(u"default\tPatternsDestination\t/a b"_qs));
 }
+
+TEST_F(ScriptProgramTest, TellsThatThePreviewIsEmptyAndWritesNoFile)
+{
+    const QString path = files().path(u"preview.png"_qs);
+
+    const auto outcome = run(u"preview "_qs + path);
+
+    EXPECT_THAT(outcome.lines, ElementsAre(u"preview\tempty"_qs));
+    EXPECT_FALSE(QFile::exists(path));
+}

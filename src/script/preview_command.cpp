@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "arguments.h"
+#include "command_table.h"
+
+#include <platform/graphics/image_destination.h>
+#include <platform/storage/atomic_file.h>
+
+namespace brenvaldo::script {
+
+namespace {
+
+bool writePng(const platform::Image& picture, const QString& path)
+{
+    platform::AtomicFile file(path);
+    return file.isValid()
+        && platform::encode(picture, platform::FileFormat::Png, {}, file.temporaryPath())
+        && file.commit();
+}
+
+class PreviewCommand : public Command
+{
+public:
+    using Command::Command;
+
+    [[nodiscard]] Misunderstanding run(const QStringList& arguments) const override
+    {
+        const auto picture = workspace().composedPreview();
+        if (!picture) {
+            print(QStringLiteral("preview"), {QStringLiteral("empty")});
+            return std::nullopt;
+        }
+        const QString path = absolutePath(arguments.first());
+        if (!writePng(*picture, path))
+            return QStringLiteral("the preview can't be written to \"%1\"").arg(path);
+        print(QStringLiteral("preview"), {QStringLiteral("shown")});
+        return std::nullopt;
+    }
+};
+
+} // namespace
+
+void addPreviewCommand(CommandTable& table, const ScriptContext& context)
+{
+    table.add(
+        QStringLiteral("preview"),
+        {.usage = QStringLiteral("FILE"), .least = 1, .most = 1},
+        std::make_unique<PreviewCommand>(context)
+    );
+}
+
+} // namespace brenvaldo::script
