@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Writes the seeds of the fuzz targets that read binary data: make_seeds FOLDER.
+
+#include <platform/foundation/bookmark.h>
+#include <platform/foundation/color_archive.h>
+#include <platform/graphics/engine.h>
+
+#include <support/photo_builder.h>
+
+#include <QDir>
+#include <QFile>
+
+using namespace brenvaldo;
+using test::PhotoBuilder;
+using test::PhotoFormat;
+using test::PhotoModel;
+
+namespace {
+
+class SeedFolder
+{
+public:
+    SeedFolder(const QString& top, const QString& reader)
+        : m_folder(top + QLatin1Char('/') + reader)
+    {
+        if (!m_folder.mkpath(QStringLiteral(".")))
+            qFatal("the folder of seeds can't be made");
+    }
+
+    void add(const QString& name, const QByteArray& contents) const
+    {
+        QFile file(m_folder.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size())
+            qFatal("a seed can't be written");
+    }
+
+private:
+    QDir m_folder;
+};
+
+void addPhotos(const SeedFolder& seeds)
+{
+    const auto small = [](PhotoFormat format) {
+        PhotoBuilder builder;
+        builder.size(11, 7).orientation(6).format(format);
+        return builder;
+    };
+    seeds.add(QStringLiteral("jpeg"), small(PhotoFormat::Jpeg).bytes());
+    seeds.add(QStringLiteral("progressive"), small(PhotoFormat::ProgressiveJpeg).bytes());
+    seeds.add(QStringLiteral("cmyk"), small(PhotoFormat::Jpeg).model(PhotoModel::Cmyk).bytes());
+    seeds.add(QStringLiteral("png"), small(PhotoFormat::Png).bytes());
+    seeds.add(QStringLiteral("png16"), small(PhotoFormat::Png).depth(16).bytes());
+    seeds.add(QStringLiteral("tiff"), small(PhotoFormat::Tiff).bytes());
+    seeds.add(QStringLiteral("bmp"), small(PhotoFormat::Bmp).bytes());
+    seeds.add(QStringLiteral("gif"), small(PhotoFormat::Gif).bytes());
+    seeds.add(QStringLiteral("heic"), PhotoBuilder().format(PhotoFormat::Heic).bytes());
+    seeds.add(QStringLiteral("jpeg2000"), small(PhotoFormat::Jpeg2000).bytes());
+}
+
+void addColors(const SeedFolder& seeds)
+{
+    const platform::ColorComponents components{0.25F, 0.5F, 1};
+    const auto add = [&](const QString& name, const QString& archive) {
+        seeds.add(name, QByteArray::fromBase64(archive.toLatin1()));
+    };
+    add(QStringLiteral("stream"), platform::colorArchive(components));
+    add(QStringLiteral("keyed"), platform::galleryColorArchive(components));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 2)
+        return 2;
+    const platform::Engine engine;
+    const QString top = QFile::decodeName(argv[1]);
+    addPhotos(SeedFolder(top, QStringLiteral("image_source")));
+    addColors(SeedFolder(top, QStringLiteral("color_archive")));
+    SeedFolder(top, QStringLiteral("bookmark"))
+        .add(
+            QStringLiteral("folder"), platform::bookmarkFor(QDir::rootPath()).value_or(QByteArray())
+        );
+    return 0;
+}
