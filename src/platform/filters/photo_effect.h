@@ -7,7 +7,8 @@ namespace brenvaldo::platform {
 
 /// The picture as on black-and-white film with exaggerated contrast; alpha stays.
 ///
-/// A red-leaning grey mix, a gamma, a smoothstep S-curve and crushed ends, on encoded straight colour.
+/// A red-leaning grey mix, a gamma, a smoothstep S-curve and crushed ends, on encoded straight
+/// colour.
 [[nodiscard]] QImage photoEffectNoir(const QImage& image);
 
 } // namespace brenvaldo::platform
