@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tool_box_fixture.h"
+
 #include <files/file_handling.h>
 
 #include <platform/foundation/log.h>
@@ -18,16 +20,6 @@ using namespace brenvaldo::test;
 namespace platform = brenvaldo::platform;
 
 namespace {
-
-class DesktopRecorder : public platform::Desktop
-{
-public:
-    void openUrl(const QUrl& url) override { opened += url; }
-    void reveal(const QString& path) override { revealed += path; }
-
-    QList<QUrl> opened;
-    QStringList revealed;
-};
 
 QStringList allEntries(const QString& folder)
 {

@@ -97,6 +97,20 @@ TEST(FileSize, KeepsTheLastTextForAMissingFile)
     EXPECT_EQ(files.getFileSize(folder.path(u"missing"_qs)), u"1 byte"_qs);
 }
 
+TEST(FileType, IsTheIdentifierOfTheExtension)
+{
+    const TemporaryFolder folder;
+
+    EXPECT_EQ(cNSFileHandling::hGetFileType(folder.write(u"a.JPG"_qs, "")), u"public.jpeg"_qs);
+    EXPECT_EQ(cNSFileHandling::hGetFileType(folder.write(u"b"_qs, "")), u"public.data"_qs);
+    EXPECT_EQ(cNSFileHandling::hGetFileType(folder.path()), u"public.folder"_qs);
+}
+
+TEST(FileType, IsEmptyForAMissingFile)
+{
+    EXPECT_EQ(cNSFileHandling::hGetFileType(u"/nowhere/a.jpg"_qs), u""_qs);
+}
+
 TEST(FileLabel, IsNoneForAMissingFile)
 {
     const TemporaryFolder folder;

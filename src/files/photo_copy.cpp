@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "photo_copy.h"
+
+#include <platform/graphics/image_source.h>
+#include <platform/metadata/image_file_writer.h>
+#include <platform/metadata/metadata_reader.h>
+
+#include <algorithm>
+#include <array>
+
+namespace brenvaldo::files {
+
+namespace {
+
+enum class Pixels { Stored, Upright };
+enum class Metadata { Kept, Dropped };
+
+struct CopyType
+{
+    const char* title;
+    platform::FileFormat format;
+    Pixels pixels;
+    Metadata metadata;
+};
+
+constexpr std::array<CopyType, 7> copyTypes = {{
+    {"pdf", platform::FileFormat::Pdf, Pixels::Upright, Metadata::Dropped},
+    {"png", platform::FileFormat::Png, Pixels::Stored, Metadata::Kept},
+    {"tiff", platform::FileFormat::Tiff, Pixels::Stored, Metadata::Kept},
+    {"bmp", platform::FileFormat::Bmp, Pixels::Stored, Metadata::Dropped},
+    {"gif", platform::FileFormat::Gif, Pixels::Stored, Metadata::Dropped},
+    {"jp2", platform::FileFormat::Jpeg2000, Pixels::Stored, Metadata::Dropped},
+    {"jpeg", platform::FileFormat::Jpeg, Pixels::Stored, Metadata::Kept},
+}};
+
+const CopyType* copyType(const QString& title)
+{
+    const auto* const found
+        = std::find_if(copyTypes.begin(), copyTypes.end(), [&](const CopyType& type) {
+              return title == QLatin1String(type.title);
+          });
+    return found == copyTypes.end() ? nullptr : found;
+}
+
+} // namespace
+
+QStringList photoCopyTypes()
+{
+    QStringList titles;
+    for (const CopyType& type : copyTypes)
+        titles += QLatin1String(type.title);
+    return titles;
+}
+
+double compressionFactor(const QString& title)
+{
+    const QString digits = QStringLiteral("12345678");
+    if (title.size() != 1 || !digits.contains(title))
+        return 0.9;
+    return title.toInt() / 10.0;
+}
+
+bool writePhotoCopy(const PhotoCopy& copy)
+{
+    const CopyType* const type = copyType(copy.type);
+    const auto source = platform::ImageSource::open(copy.source);
+    if (!type || !source)
+        return false;
+    const auto image = type->pixels == Pixels::Upright ? source->uprightImage() : source->image();
+    if (!image)
+        return false;
+    const auto metadata = platform::readMetadataBlocks(copy.source);
+    const bool keepsMetadata = metadata && type->metadata == Metadata::Kept;
+    platform::ImageFileRequest request
+        = {.format = type->format,
+           .lossyQuality = {},
+           .metadata = keepsMetadata ? &*metadata : nullptr};
+    if (type->format == platform::FileFormat::Jpeg)
+        request.lossyQuality = compressionFactor(copy.compression);
+    return platform::writeImageFile(*image, request, copy.target);
+}
+
+} // namespace brenvaldo::files

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "photo_copy.h"
+#include "tool_box.h"
+
+#include <platform/foundation/folders.h>
+#include <platform/foundation/log.h>
+#include <platform/foundation/paths.h>
+#include <platform/storage/atomic_file.h>
+#include <platform/storage/file_tags.h>
+
+namespace brenvaldo::files {
+
+namespace {
+
+/// The path as a panel hands it over that refuses other types: with the first allowed one, unless
+/// it has one of them.
+QString withAllowedExtension(const QString& path, const QStringList& allowedTypes)
+{
+    if (allowedTypes.contains(platform::pathExtension(path), Qt::CaseInsensitive))
+        return path;
+    return platform::appendingPathExtension(path, allowedTypes.first());
+}
+
+void logFailure(const QString& path)
+{
+    platform::log(QStringLiteral("Can't write \"%1\"").arg(path));
+}
+
+controls::SavePanel panelForType(const QString& type, const QString& suggestedName)
+{
+    return {.suggestedName = suggestedName, .allowedTypes = {type}, .allowsOtherTypes = false};
+}
+
+} // namespace
+
+QString cToolBox::savedTo(const controls::SavePanel& panel, const QByteArray& contents) const
+{
+    const auto chosen = m_surroundings.chooser.save(panel);
+    if (!chosen)
+        return {};
+    const QString path = withAllowedExtension(*chosen, panel.allowedTypes);
+    if (!platform::writeFileAtomically(path, contents))
+        logFailure(path);
+    return path;
+}
+
+void cToolBox::hSaveWriteDialogFile(const NewText& file) const
+{
+    static_cast<void>(
+        savedTo(panelForType(file.fileExtension, file.suggestedName), file.text.toUtf8())
+    );
+}
+
+QString cToolBox::hSaveWriteDialogFile2(const NewActionFile& file) const
+{
+    controls::SavePanel panel = panelForType(QStringLiteral("c-action"), file.suggestedName);
+    panel.startFolder = m_surroundings.defaults.text(QStringLiteral("CActionsDestination"));
+    return savedTo(panel, file.text.toUtf8());
+}
+
+void cToolBox::hSaveNSDataWriteDialogFile(const QByteArray& contents, const QString& suggestedName)
+    const
+{
+    static_cast<void>(savedTo(panelForType(QStringLiteral("c-action"), suggestedName), contents));
+}
+
+void cToolBox::hChooseFileType()
+{
+    m_fileType = pubFileType.titleOfSelectedItem();
+    m_panel.allowedTypes = {m_fileType};
+    pubJPEGcompression.setEnabled(m_fileType == QStringLiteral("jpeg"));
+}
+
+void cToolBox::hChooseCompType() { m_compressionType = pubJPEGcompression.titleOfSelectedItem(); }
+
+bool cToolBox::asksForTags() const
+{
+    return m_surroundings.defaults.text(QStringLiteral("MOS")) == QStringLiteral("109+");
+}
+
+QList<controls::Accessory> cToolBox::formatAccessories()
+{
+    QList<controls::Accessory> accessories
+        = {{.label = QStringLiteral("File type"), .control = &pubFileType},
+           {.label = QStringLiteral("JPEG quality"), .control = &pubJPEGcompression}};
+    if (asksForTags())
+        accessories += {.label = QStringLiteral("Tags"), .control = &m_tagNames};
+    return accessories;
+}
+
+void cToolBox::hSaveDialogFile(const QString& source)
+{
+    m_panel = panelForType(
+        pubFileType.titleOfSelectedItem(),
+        platform::deletingPathExtension(platform::lastPathComponent(source))
+    );
+    m_panel.startFolder = platform::desktopFolder();
+    m_panel.accessories = formatAccessories();
+    hChooseFileType();
+    hChooseCompType();
+    const auto chosen = m_surroundings.chooser.save(m_panel);
+    if (!chosen)
+        return;
+    const QString target = withAllowedExtension(*chosen, m_panel.allowedTypes);
+    const bool written = writePhotoCopy(
+        {.source = source, .target = target, .type = m_fileType, .compression = m_compressionType}
+    );
+    if (!written)
+        logFailure(target);
+    else if (asksForTags())
+        platform::setFileTags(target, m_tagNames.stringValue().split(u',', Qt::SkipEmptyParts));
+}
+
+} // namespace brenvaldo::files

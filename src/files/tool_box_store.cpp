@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tool_box.h"
+
+#include <platform/foundation/folders.h>
+#include <platform/foundation/paths.h>
+
+namespace brenvaldo::files {
+
+namespace {
+
+/// One status for the whole process: a failure shows until the next `hStoreFiles`.
+StoreStatus& sharedStatus()
+{
+    static StoreStatus status = StoreStatus::Successful;
+    return status;
+}
+
+StoreStatus noted(bool succeeded)
+{
+    if (!succeeded)
+        sharedStatus() = StoreStatus::Failed;
+    return sharedStatus();
+}
+
+} // namespace
+
+QString text(StoreStatus status)
+{
+    return status == StoreStatus::Successful ? QStringLiteral("successfull")
+                                             : QStringLiteral("Failed");
+}
+
+StoreStatus cToolBox::hStoreFiles(const PathAndName& file)
+{
+    sharedStatus() = StoreStatus::Successful;
+    const QString folder = platform::deletingLastPathComponent(file.path);
+    const QString target = platform::appendingPathComponent(folder, file.name);
+    if (!platform::fileExists(target))
+        return noted(platform::copyItem({.source = file.path, .target = target}));
+    const QString temporary
+        = platform::appendingPathComponent(folder, file.name + QStringLiteral("-temp"));
+    const bool copied = platform::copyItem({.source = file.path, .target = temporary});
+    const bool moved = platform::moveItem({.source = temporary, .target = target});
+    return noted(copied && moved);
+}
+
+StoreStatus cToolBox::hStoreFiles2(const platform::SourceAndTarget& paths)
+{
+    return noted(platform::copyItem(paths));
+}
+
+StoreStatus cToolBox::hStoreTempFile(const PathAndName& file)
+{
+    const QString target = platform::appendingPathComponent(hGetTempDir(), file.name);
+    return noted(platform::copyItem({.source = file.path, .target = target}));
+}
+
+QString cToolBox::hGetHomeDir() { return platform::homeFolder(); }
+
+QString cToolBox::hGetTempDir()
+{
+    return platform::appendingPathComponent(hGetHomeDir(), QStringLiteral("Temp"));
+}
+
+} // namespace brenvaldo::files

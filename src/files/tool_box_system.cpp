@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "photo_copy.h"
+#include "tool_box.h"
+#include "url_text.h"
+
+#include <platform/graphics/fonts.h>
+
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <algorithm>
+
+namespace brenvaldo::files {
+
+namespace {
+
+QStringList compressionTitles() { return QStringLiteral("1 2 3 4 5 6 7 8 9").split(u' '); }
+
+} // namespace
+
+cToolBox::cToolBox(const ToolBoxSurroundings& surroundings)
+    : pubFileType(
+        QStringLiteral("pubFileType"),
+        photoCopyTypes(),
+        static_cast<int>(photoCopyTypes().indexOf(QStringLiteral("jpeg")))
+    )
+    , pubJPEGcompression(
+          QStringLiteral("pubJPEGcompression"),
+          compressionTitles(),
+          static_cast<int>(compressionTitles().size()) - 1
+      )
+    , avProjectFileName(QStringLiteral("avProjectFileName"))
+    , m_surroundings(surroundings)
+    , m_tagNames(QStringLiteral("tagNames"))
+    , m_typeChosen(pubFileType.changed.connect([this] { hChooseFileType(); }))
+    , m_compressionChosen(pubJPEGcompression.changed.connect([this] { hChooseCompType(); }))
+{
+}
+
+QList<QUrl> cToolBox::hGetFilesInDir(const QString& folder)
+{
+    QList<QUrl> files;
+    for (const platform::FolderEntry& entry : platform::folderEntries(folder))
+        files += QUrl::fromLocalFile(entry.path);
+    return files;
+}
+
+void cToolBox::hShowURL(const QString& path) const
+{
+    QUrl url;
+    url.setScheme(QStringLiteral("file"));
+    url.setPath(withEncodedQuerySigns(path), QUrl::TolerantMode);
+    m_surroundings.desktop.openUrl(url);
+}
+
+void cToolBox::hShowURL2(const QString& path) const { hShowURL(path); }
+
+std::optional<QUrl> cToolBox::hNSStrToUrl(const QString& text)
+{
+    return urlFromText(withEncodedQuerySigns(text));
+}
+
+QString cToolBox::hGetMacOSVersion() { return QStringLiteral("109+"); }
+
+bool cToolBox::isDarkMode()
+{
+    const QPalette palette = QGuiApplication::palette();
+    return palette.color(QPalette::WindowText).lightness()
+        > palette.color(QPalette::Window).lightness();
+}
+
+bool cToolBox::icmIsDarkMode() { return isDarkMode(); }
+
+QStringList visibleFontNames(const QStringList& names)
+{
+    QStringList visible;
+    std::copy_if(names.begin(), names.end(), std::back_inserter(visible), [](const QString& name) {
+        return !name.startsWith(u'.');
+    });
+    return visible;
+}
+
+QStringList cToolBox::hGetAllInstalledFonts()
+{
+    return visibleFontNames(platform::installedFontNames());
+}
+
+} // namespace brenvaldo::files
