@@ -24,10 +24,7 @@ Panels::Panels()
     addFilterViews();
     addFileManagementPanels();
     add(vwHtmlExport);
-    add(wwPresetsWindow);
-    add(wwPresetsWindow.sheet);
-    add(wwPresetsWindow.thePresetsData);
-    add(wwPresetsWindow.my2ndView);
+    addSheets();
 }
 
 void Panels::addEditPanels()
@@ -43,6 +40,16 @@ void Panels::addEditPanels()
     add(vwCropPhotos.dvVCUiCropWxHView);
     add(vwCropPhotos.dvVCUiCropMinusView);
     add(vwCropPhotos.dvVCUiCropPositionView);
+}
+
+void Panels::addSheets()
+{
+    add(wwPresetsWindow);
+    add(wwPresetsWindow.sheet);
+    add(wwPresetsWindow.thePresetsData);
+    add(wwPresetsWindow.my2ndView);
+    add(wwPreferencesWindow);
+    add(wwPreferencesWindow.sheet);
 }
 
 void Panels::addFilterViews()

@@ -9,6 +9,7 @@
 #include "gallery_panel.h"
 #include "note_panel.h"
 #include "output_panels.h"
+#include "preferences_sheet.h"
 #include "presets_sheet.h"
 #include "profile_panel.h"
 #include "rename_panel.h"
@@ -55,6 +56,7 @@ public:
     CodePanel vwQRBarCode;
     GalleryPanel vwHtmlExport;
     PresetsSheet wwPresetsWindow;
+    PreferencesSheet wwPreferencesWindow;
 
     /// The control of that name or alias; null when there is none.
     [[nodiscard]] controls::Control* control(const QString& name) const;
@@ -70,6 +72,7 @@ public:
 
 private:
     void addEditPanels();
+    void addSheets();
     void addFilterViews();
     void addFileManagementPanels();
     void add(const PanelView& view);

@@ -65,8 +65,6 @@ WindowControls::WindowControls()
     , wwAlertWindow(QStringLiteral("wwAlertWindow"))
     , tfHTMLAlertTitle(QStringLiteral("tfHTMLAlertTitle"))
     , tfHTMLAlertInfo(QStringLiteral("tfHTMLAlertInfo"))
-    , wwPreferencesWindow(QStringLiteral("wwPreferencesWindow"))
-    , tfLibraryFilePath(QStringLiteral("tfLibraryFilePath"))
     , tfOriginalPictureStrRef(QStringLiteral("tfOriginalPictureStrRef"))
 {
     pubEditPhoto.addAction(QStringLiteral("cGUIcontrols.hChooseMainEditFunction"));
@@ -101,8 +99,6 @@ QList<controls::Control*> WindowControls::all()
         &wwAlertWindow,
         &tfHTMLAlertTitle,
         &tfHTMLAlertInfo,
-        &wwPreferencesWindow,
-        &tfLibraryFilePath,
         &tfOriginalPictureStrRef,
     };
 }

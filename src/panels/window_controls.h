@@ -42,9 +42,6 @@ struct WindowControls
     controls::TextField tfHTMLAlertTitle;
     controls::TextField tfHTMLAlertInfo;
 
-    controls::Sheet wwPreferencesWindow;
-    controls::TextField tfLibraryFilePath; ///< folder of the support files
-
     controls::TextField tfOriginalPictureStrRef; ///< path of the photo that is printed
 
     [[nodiscard]] QList<controls::Control*> all();

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <controls/action_registry.h>
+#include <controls/file_chooser.h>
+#include <panels/panels.h>
+#include <platform/foundation/user_defaults.h>
+
+namespace brenvaldo::presets {
+
+/// The preferences sheet, and the choice of the folder that holds the support files: patterns,
+/// watermarks and file-name actions. Nothing here shows a message; what can't be made is missing.
+class cSheetControl
+{
+public:
+    cSheetControl(
+        panels::Panels& panels, controls::FileChooser& chooser, platform::UserDefaults& defaults
+    );
+
+    void registerActions(controls::ActionRegistry& actions);
+
+    // The actions.
+    void hCallPreferencesWw();
+    void closePreferencesSheetObjC();
+    /// Asks for another folder and sets it up; the folder of before stays as it is.
+    void chooseLibraryDestination();
+
+    /// Asks for the folder when none is known, sets it up, and fills its patterns.
+    void setLibraryDestination();
+
+private:
+    enum class Patterns { Empty, Default };
+
+    void setUp(const QString& folder, Patterns patterns);
+    void remember(const QString& key, const QVariant& value);
+
+    panels::Panels& m_panels;
+    controls::FileChooser& m_chooser;
+    platform::UserDefaults& m_defaults;
+};
+
+} // namespace brenvaldo::presets
