@@ -4,71 +4,85 @@
 #include <platform/foundation/paths.h>
 #include <platform/storage/file_system.h>
 
-#include <QHash>
+#include <algorithm>
+#include <array>
 
 namespace brenvaldo::files {
 
 namespace {
 
+using Chooses = PanelMode::Chooses;
+
 enum class KnownTo { Both, Plain, OC };
 
-struct ModeOfForms
-{
-    KnownTo knownTo = KnownTo::Both;
-    PanelMode mode;
+enum class Extensions {
+    Any,
+    Documents,
+    Images,
+    Tagged, ///< images whose metadata can be edited
+    Watermarks,
+    ScannedTagged,
+    ScannedDocuments
 };
+
+struct ModeRow
+{
+    const char* name;
+    KnownTo knownTo;
+    Chooses chooses;
+    Extensions allowed;
+    Extensions scanned;
+};
+
+using enum Extensions;
+
+// clang-format off
+constexpr std::array<ModeRow, 12> modeRows = {{
+    {"EMM",             KnownTo::Both,  Chooses::Files,  Tagged,     Any},
+    {"EMMDir",          KnownTo::OC,    Chooses::Folder, Documents,  ScannedTagged},
+    {"batchSort",       KnownTo::Plain, Chooses::Files,  Documents,  Any},
+    {"sort",            KnownTo::Both,  Chooses::Files,  Documents,  Any},
+    {"watermark",       KnownTo::Plain, Chooses::Files,  Images,     Any},
+    {"rescale",         KnownTo::Both,  Chooses::Files,  Documents,  Any},
+    {"rename",          KnownTo::Both,  Chooses::Files,  Any,        Any},
+    {"renameDir",       KnownTo::Both,  Chooses::Folder, Any,        Any},
+    {"batchSortImages", KnownTo::OC,    Chooses::Folder, Any,        ScannedDocuments},
+    {"sortDir",         KnownTo::Both,  Chooses::Folder, Documents,  ScannedDocuments},
+    {"WatermarkDir",    KnownTo::Plain, Chooses::Folder, Documents,  Watermarks},
+    {"WatermarkFiles",  KnownTo::Plain, Chooses::Files,  Watermarks, Any},
+}};
+// clang-format on
 
 QStringList words(const QString& text) { return text.split(u' '); }
 
-QStringList documentTypes(PanelForm form)
+QStringList documentExtensions(PanelForm form)
 {
-    const QStringList types
-        = words(QStringLiteral("pdf png jpg jpeg gif tif tiff tga targa psd HEIC"));
-    constexpr qsizetype typesOfOC = 7;
-    return form == PanelForm::OC ? types.first(typesOfOC) : types;
+    const QString shared = QStringLiteral("pdf png jpg jpeg gif tif tiff");
+    if (form == PanelForm::OC)
+        return words(shared);
+    return words(shared + QStringLiteral(" tga targa psd HEIC"));
 }
 
-/// The modes in the order of their table; the first list of types is the longer one in plain form.
-QHash<QString, ModeOfForms> modesOf(PanelForm form)
+QStringList extensionsOf(Extensions extensions, PanelForm form)
 {
-    const QStringList any;
-    const QStringList documents = documentTypes(form);
-    const QStringList images = words(QStringLiteral("png jpg jpeg tif tiff HEIC"));
-    const QStringList taggedImages = words(QStringLiteral("jpg jpeg tif tiff"));
-    const QStringList watermarks
-        = words(QStringLiteral("jpg jpeg tif tiff png JPG JPEG TIF TIFF PNG"));
-    const QStringList scannedTagged = words(QStringLiteral("jpg jpeg tif tiff JPG JPEG TIF TIFF"));
-    const QStringList scannedDocuments
-        = scannedTagged + words(QStringLiteral("pdf png gif PDF PNG GIF"));
-    const auto files = [](KnownTo knownTo, const QStringList& types) {
-        return ModeOfForms{
-            .knownTo = knownTo,
-            .mode = {.chooses = PanelMode::Chooses::Files, .allowedTypes = types}};
-    };
-    const auto folder = [](KnownTo knownTo, const QStringList& types, const QStringList& scanned) {
-        return ModeOfForms{
-            .knownTo = knownTo,
-            .mode
-            = {.chooses = PanelMode::Chooses::Folder,
-               .allowedTypes = types,
-               .scannedExtensions = scanned}};
-    };
-    QHash<QString, ModeOfForms> modes = {
-        {QStringLiteral("EMM"), files(KnownTo::Both, taggedImages)},
-        {QStringLiteral("EMMDir"), folder(KnownTo::OC, documents, scannedTagged)},
-        {QStringLiteral("batchSort"), files(KnownTo::Plain, documents)},
-        {QStringLiteral("sort"), files(KnownTo::Both, documents)},
-        {QStringLiteral("watermark"), files(KnownTo::Plain, images)},
-        {QStringLiteral("rescale"), files(KnownTo::Both, documents)},
-        {QStringLiteral("rename"), files(KnownTo::Both, any)},
-        {QStringLiteral("renameDir"), folder(KnownTo::Both, any, any)},
-        {QStringLiteral("batchSortImages"), folder(KnownTo::OC, any, scannedDocuments)},
-        {QStringLiteral("sortDir"), folder(KnownTo::Both, documents, scannedDocuments)},
-        {QStringLiteral("WatermarkDir"), folder(KnownTo::Plain, documents, watermarks)},
-        {QStringLiteral("WatermarkFiles"), files(KnownTo::Plain, watermarks)},
-    };
-    modes[QStringLiteral("batchSortImages")].mode.message = QStringLiteral("Choose source folder");
-    return modes;
+    const QString scannedTagged = QStringLiteral("jpg jpeg tif tiff JPG JPEG TIF TIFF");
+    switch (extensions) {
+    case Extensions::Any:
+        return {};
+    case Extensions::Documents:
+        return documentExtensions(form);
+    case Extensions::Images:
+        return words(QStringLiteral("png jpg jpeg tif tiff HEIC"));
+    case Extensions::Tagged:
+        return words(QStringLiteral("jpg jpeg tif tiff"));
+    case Extensions::Watermarks:
+        return words(QStringLiteral("jpg jpeg tif tiff png JPG JPEG TIF TIFF PNG"));
+    case Extensions::ScannedTagged:
+        return words(scannedTagged);
+    case Extensions::ScannedDocuments:
+        return words(scannedTagged + QStringLiteral(" pdf png gif PDF PNG GIF"));
+    }
+    return {};
 }
 
 bool isKnown(KnownTo knownTo, PanelForm form)
@@ -80,11 +94,18 @@ bool isKnown(KnownTo knownTo, PanelForm form)
 
 std::optional<PanelMode> panelMode(const QString& name, PanelForm form)
 {
-    const QHash<QString, ModeOfForms> modes = modesOf(form);
-    const auto found = modes.find(name);
-    if (found == modes.end() || !isKnown(found->knownTo, form))
+    const auto* const row
+        = std::find_if(modeRows.begin(), modeRows.end(), [&](const ModeRow& candidate) {
+              return name == QLatin1String(candidate.name);
+          });
+    if (row == modeRows.end() || !isKnown(row->knownTo, form))
         return std::nullopt;
-    return found->mode;
+    const bool isBatchSort = name == QStringLiteral("batchSortImages");
+    return PanelMode{
+        .chooses = row->chooses,
+        .allowedTypes = extensionsOf(row->allowed, form),
+        .scannedExtensions = extensionsOf(row->scanned, form),
+        .message = isBatchSort ? QStringLiteral("Choose source folder") : QString()};
 }
 
 QStringList scannedFiles(const QString& folder, const QStringList& extensions)
