@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <optional>
 #include <vector>
 
 namespace brenvaldo::platform {
@@ -25,12 +26,27 @@ QByteArray embeddedProfile(const vips::VImage& decoded)
     return {static_cast<const char*>(bytes), static_cast<qsizetype>(size)};
 }
 
+/// Files that count in whole pixels a metre mean whole dots per inch: 2835 are 72, not 72.009.
+std::optional<double> wholeDotsPerInch(double pixelsPerMetre)
+{
+    constexpr double noise = 1e-6;
+    constexpr double metresPerInch = millimetresPerInch / 1000;
+    const double counted = std::round(pixelsPerMetre);
+    const double dotsPerInch = std::round(counted * metresPerInch);
+    const bool isCounted = std::abs(pixelsPerMetre - counted) < noise;
+    if (isCounted && std::round(dotsPerInch / metresPerInch) == counted)
+        return dotsPerInch;
+    return std::nullopt;
+}
+
 double statedDotsPerInch(const vips::VImage& decoded)
 {
     // One pixel a millimetre is what the engine reports when a file states nothing.
     const double pixelsPerMillimetre = decoded.xres();
     if (!std::isfinite(pixelsPerMillimetre) || pixelsPerMillimetre <= 0 || pixelsPerMillimetre == 1)
         return defaultDotsPerInch;
+    if (const auto whole = wholeDotsPerInch(pixelsPerMillimetre * 1000))
+        return *whole;
     constexpr double precision = 1e4; // the way through millimetres leaves noise behind
     return std::round(pixelsPerMillimetre * millimetresPerInch * precision) / precision;
 }

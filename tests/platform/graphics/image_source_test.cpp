@@ -93,6 +93,20 @@ TEST(ImageSource, ReportsTheSizeAPhotoShowsAt)
     EXPECT_EQ(source.header().uprightSize, (PixelSize{300, 400}));
 }
 
+TEST(ImageSource, ReadsWholePixelsAMetreAsWholeDotsPerInch)
+{
+    const TemporaryFolder folder;
+    for (const int dotsPerInch : {72, 144, 300}) {
+        const QString path = PhotoBuilder()
+                                 .format(PhotoFormat::Png)
+                                 .dotsPerInch(dotsPerInch)
+                                 .write(folder.path(QStringLiteral("photo.png")));
+
+        EXPECT_EQ(openedPhoto(path).header().dotsPerInch, dotsPerInch);
+        EXPECT_EQ(openedPhoto(path).image()->dotsPerInch(), dotsPerInch);
+    }
+}
+
 TEST(ImageSource, FollowsTheContentsNotTheName)
 {
     const TemporaryFolder folder;
