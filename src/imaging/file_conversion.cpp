@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "file_conversion.h"
+
+#include <platform/foundation/log.h>
+#include <platform/foundation/paths.h>
+#include <platform/graphics/image_source.h>
+#include <platform/metadata/image_file_writer.h>
+#include <platform/metadata/metadata_reader.h>
+#include <platform/storage/atomic_file.h>
+
+#include <QFile>
+
+#include <tuple>
+
+namespace brenvaldo::imaging {
+
+using platform::ImageSource;
+
+namespace {
+
+QString nameWithoutExtension(const QString& path)
+{
+    return platform::deletingPathExtension(platform::lastPathComponent(path));
+}
+
+bool writeConverted(
+    const FileConversion::Settings& settings, const ConversionRule& rule, const QString& target
+)
+{
+    const auto source = ImageSource::open(settings.source);
+    const auto image = source ? source->image() : std::nullopt;
+    if (!image)
+        return false;
+
+    platform::ImageFileRequest request;
+    request.format = rule.format;
+    if (rule.quality == ConversionRule::Quality::FromLevel)
+        request.lossyQuality = conversionQuality(settings.compressionLevel);
+    std::optional<platform::MetadataBlocks> properties;
+    if (rule.route == ConversionRule::Route::Metadata)
+        properties = platform::readMetadataBlocks(settings.source);
+    if (properties)
+        request.metadata = &*properties;
+    return platform::writeImageFile(*image, request, target);
+}
+
+ResultWord
+convert(const FileConversion::Settings& settings, const ConversionRule& rule, const QString& target)
+{
+    if (rule.format == platform::FileFormat::Heic)
+        platform::log(QStringLiteral("Convert: save as heic"));
+    if (writeConverted(settings, rule, target))
+        return ResultWord::Ok;
+
+    // What the metadata route writes at its end is empty when its destination has failed.
+    if (rule.route == ConversionRule::Route::Metadata)
+        std::ignore = platform::writeFileAtomically(target, {});
+    return ResultWord::Failed;
+}
+
+ConversionResult
+run(const FileConversion::Settings& settings,
+    const std::optional<ConversionRule>& rule,
+    const QString& target)
+{
+    return {
+        .saveURL = QUrl::fromLocalFile(target),
+        .type = settings.type,
+        .name = nameWithoutExtension(settings.source),
+        .word = rule ? convert(settings, *rule, target) : ResultWord::Failed,
+    };
+}
+
+} // namespace
+
+ConversionResult FileConversion::hConvertFileType(const Settings& settings) const
+{
+    return run(settings, conversionRuleForType(settings.type), settings.destination);
+}
+
+ConversionResult FileConversion::hSaveAsFileType(const Settings& settings) const
+{
+    const QString target = settings.destination + nameWithoutExtension(settings.source)
+        + QLatin1Char('.') + settings.type;
+    const ConversionResult result = run(settings, conversionRuleForWord(settings.type), target);
+    if (target != settings.source)
+        QFile::remove(settings.source);
+    return result;
+}
+
+} // namespace brenvaldo::imaging

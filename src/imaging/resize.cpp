@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dv_image_handling.h"
+
+#include "resize_rules.h"
+#include "resolution_rules.h"
+#include "rotate_rules.h"
+
+#include <platform/graphics/image_source.h>
+#include <platform/metadata/metadata_reader.h>
+
+#include <cmath>
+
+namespace brenvaldo::imaging {
+
+using platform::Image;
+using platform::ImageSource;
+using platform::PixelSize;
+
+namespace {
+
+PixelSize uprightSize(const std::optional<ImageSource>& source)
+{
+    return source ? source->header().uprightSize : PixelSize{};
+}
+
+/// The photo drawn at `target`; nothing when no context can be made of it.
+std::optional<Image> scaledPhoto(const std::optional<ImageSource>& source, PixelSize target)
+{
+    if (!source || !givesContext(target))
+        return std::nullopt;
+    const auto photo = source->uprightImage({.atLeast = target});
+    if (!photo)
+        return std::nullopt;
+    return photo->scaledTo(target);
+}
+
+ResultWord
+saveResized(const std::optional<Image>& image, const SourceAndBase& photo, const OutputTail& tail)
+{
+    const auto properties = platform::readMetadataBlocks(photo.source);
+    return DVImageHandling::hSaveToNewImageFileX({
+        .destination = photo.destinationBase,
+        .typeIdentifier = tail.myFileType,
+        .image = image,
+        .properties = properties ? &*properties : nullptr,
+        .compressionLevel = tail.compressionLevel,
+    });
+}
+
+} // namespace
+
+ResultWord DVImageHandling::hScalePhotosPercentage(
+    const SourceAndBase& photo, int value, int maximumType, const OutputTail& tail
+)
+{
+    const auto source = ImageSource::open(photo.source);
+    const PixelSize target = maximumTarget(uprightSize(source), value, maximumTypeAt(maximumType));
+    const auto scaled = scaledPhoto(source, target);
+    if (!scaled)
+        return ResultWord::Ok;
+    m_storeResult = saveResized(scaled, photo, tail);
+    return m_storeResult;
+}
+
+ResultWord DVImageHandling::hScalePhotosWidthAndHeight(
+    const SourceAndBase& photo, PixelSize box, int aspectState, const OutputTail& tail
+)
+{
+    const auto source = ImageSource::open(photo.source);
+    const bool covers = aspectState == 1;
+    const PixelSize target = covers ? coveringSize(uprightSize(source), box) : box;
+    const auto scaled = scaledPhoto(source, target);
+    if (!scaled)
+        return m_storeResult;
+    const auto result = covers ? scaled->croppedTo(centredCut(target, box)) : scaled;
+    m_storeResult = saveResized(result, photo, tail);
+    return m_storeResult;
+}
+
+std::optional<Image> DVImageHandling::hScalePictureBase(const Image& image, float factor)
+{
+    const double scale = std::abs(static_cast<double>(factor));
+    const QSizeF points = exactPoints(image.pixelSize(), image.dotsPerInch());
+    const PixelSize canvas = canvasOfPoints(points * scale);
+    if (!givesContext(canvas))
+        return std::nullopt;
+    const Image scaled = image.scaledTo(canvas).withDotsPerInch(pointsPerInch);
+    return factor < 0 ? scaled.turned(Image::QuarterTurn::Half) : scaled;
+}
+
+} // namespace brenvaldo::imaging

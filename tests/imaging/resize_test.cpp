@@ -1,0 +1,393 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <imaging/dv_image_handling.h>
+
+#include <platform/graphics/type_identifier.h>
+#include <platform/metadata/metadata_reader.h>
+
+#include <support/case_name.h>
+#include <support/exif_block.h>
+#include <support/geometry_printing.h>
+#include <support/pixel_probe.h>
+#include <support/result_printing.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+using namespace brenvaldo::imaging;
+using namespace brenvaldo::test;
+using brenvaldo::platform::Image;
+using brenvaldo::platform::MetadataBlocks;
+using brenvaldo::platform::PixelSize;
+using brenvaldo::platform::readMetadataBlocks;
+
+namespace {
+
+enum MaximumTypeIndex { Width = 0, Height = 1, LongestSide = 2, Percentage = 3 };
+
+constexpr int stretched = 0;
+constexpr int covering = 1;
+
+OutputTail pngTail()
+{
+    return {
+        .outputType = u"public.png"_qs,
+        .compressionLevel = u"9"_qs,
+        .fileExtension = u"jpg"_qs,
+        .fileExtensionNSStr = {},
+        .fileUTI = u"public.jpeg"_qs,
+        .myFileType = u"public.png"_qs,
+    };
+}
+
+OutputTail jpegTail()
+{
+    OutputTail tail = pngTail();
+    tail.outputType = u"original file type"_qs;
+    tail.myFileType = u"public.jpeg"_qs;
+    return tail;
+}
+
+/// A folder with one photo, `source`, and its target "out".
+class Resizing
+{
+public:
+    explicit Resizing(const PhotoBuilder& photo)
+        : m_source(photo.write(m_folder.path(u"source"_qs)))
+    {
+    }
+
+    [[nodiscard]] SourceAndBase photo() const
+    {
+        return {.source = m_source, .destinationBase = m_folder.path(u"out"_qs)};
+    }
+
+    [[nodiscard]] QString path(const QString& name) const { return m_folder.path(name); }
+
+    [[nodiscard]] bool hasOutput() const
+    {
+        return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden).size() > 1;
+    }
+
+    [[nodiscard]] PixelSize outputSize() const
+    {
+        return openedPhoto(path(u"out.png"_qs)).header().storedSize;
+    }
+
+    [[nodiscard]] QImage output() const { return storedPixels(path(u"out.png"_qs)); }
+
+private:
+    TemporaryFolder m_folder;
+    QString m_source;
+};
+
+PhotoBuilder grey(int width, int height)
+{
+    return PhotoBuilder().size(width, height).solid({90, 90, 90});
+}
+
+PhotoBuilder corners(int width, int height)
+{
+    return PhotoBuilder().format(PhotoFormat::Png).size(width, height).corners();
+}
+
+struct MaximumCase
+{
+    const char* name;
+    PixelSize photo;
+    int value;
+    MaximumTypeIndex type;
+    PixelSize expected;
+};
+
+void PrintTo(const MaximumCase& maximumCase, std::ostream* out) { *out << maximumCase.name; }
+
+class ResizeToMaximum : public testing::TestWithParam<MaximumCase>
+{
+};
+
+constexpr MaximumCase maximumCases[] = {
+    {"LongestSideOfALandscape", {4000, 3000}, 1000, LongestSide, {1000, 750}},
+    {"LongestSideOfAPortrait", {3000, 4000}, 1000, LongestSide, {750, 1000}},
+    {"LongestSideOfASquare", {1000, 1000}, 100, LongestSide, {100, 100}},
+    {"Percentage", {4000, 3000}, 33, Percentage, {1320, 990}},
+    {"Width", {47, 33}, 10, Width, {10, 7}},
+    {"Height", {47, 33}, 10, Height, {14, 10}},
+    {"Enlarges", {47, 33}, 470, Width, {470, 330}},
+};
+
+struct FixedCase
+{
+    const char* name;
+    PixelSize photo;
+    PixelSize box;
+    int aspectState;
+};
+
+void PrintTo(const FixedCase& fixedCase, std::ostream* out) { *out << fixedCase.name; }
+
+class ResizeToBox : public testing::TestWithParam<FixedCase>
+{
+};
+
+constexpr FixedCase fixedCases[] = {
+    {"LandscapeCovering", {4000, 3000}, {1000, 1000}, covering},
+    {"PortraitCovering", {3000, 4000}, {1000, 500}, covering},
+    {"PortraitStretched", {3000, 4000}, {1000, 500}, stretched},
+    {"EnlargedCovering", {47, 33}, {200, 200}, covering},
+    {"EnlargedStretched", {47, 33}, {200, 200}, stretched},
+};
+
+Image picture(const TemporaryFolder& folder, double dotsPerInch)
+{
+    const auto image = openedPhoto(PhotoBuilder()
+                                       .format(PhotoFormat::Png)
+                                       .size(120, 60)
+                                       .corners()
+                                       .dotsPerInch(dotsPerInch)
+                                       .write(folder.path(u"picture.png"_qs)))
+                           .image();
+    if (!image)
+        qFatal("a photo of a test can't be decoded");
+    return *image;
+}
+
+} // namespace
+
+TEST_P(ResizeToMaximum, WritesThePhotoAtItsNewSize)
+{
+    const MaximumCase& row = GetParam();
+    const Resizing files(grey(row.photo.width, row.photo.height));
+    DVImageHandling handling;
+
+    const ResultWord word
+        = handling.hScalePhotosPercentage(files.photo(), row.value, row.type, pngTail());
+
+    EXPECT_EQ(word, ResultWord::Ok);
+    EXPECT_EQ(handling.storeResult(), ResultWord::Ok);
+    EXPECT_EQ(files.outputSize(), row.expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ResizeToMaximum, testing::ValuesIn(maximumCases), CaseName());
+
+TEST(ResizeToMaximum, MeasuresAndWritesTheUprightPhoto)
+{
+    const Resizing files(PhotoBuilder().size(400, 300).corners().orientation(6));
+    DVImageHandling handling;
+
+    const ResultWord word = handling.hScalePhotosPercentage(files.photo(), 40, Height, pngTail());
+
+    EXPECT_EQ(word, ResultWord::Ok);
+    EXPECT_EQ(files.outputSize(), (PixelSize{30, 40}));
+    EXPECT_EQ(cornerColors(files.output()), "BRWG");
+}
+
+TEST(ResizeToMaximum, LeavesTheSourcesMetadataUncorrected)
+{
+    const Resizing files(grey(400, 300).exif(exifBlock({.orientation = 6, .make = "Maker"})));
+    DVImageHandling handling;
+
+    const ResultWord word
+        = handling.hScalePhotosPercentage(files.photo(), 50, Percentage, jpegTail());
+
+    const auto before = readMetadataBlocks(files.photo().source);
+    const auto after = readMetadataBlocks(files.path(u"out.jpg"_qs));
+    ASSERT_TRUE(before && after);
+    EXPECT_EQ(word, ResultWord::Ok);
+    EXPECT_EQ(after->exif, before->exif);
+    EXPECT_EQ(openedPhoto(files.path(u"out.jpg"_qs)).header().orientation, 6);
+    EXPECT_EQ(openedPhoto(files.path(u"out.jpg"_qs)).header().storedSize, (PixelSize{150, 200}));
+}
+
+TEST(ResizeToMaximum, WritesNothingAndAnswersOkForAValueOfZero)
+{
+    const Resizing files(grey(40, 30));
+    DVImageHandling handling;
+
+    for (const MaximumTypeIndex type : {Width, Height, LongestSide, Percentage})
+        EXPECT_EQ(
+            handling.hScalePhotosPercentage(files.photo(), 0, type, pngTail()), ResultWord::Ok
+        );
+
+    EXPECT_FALSE(files.hasOutput());
+}
+
+TEST(ResizeToMaximum, WritesNothingAndAnswersOkForAnUnreadablePhoto)
+{
+    const TemporaryFolder folder;
+    const SourceAndBase photo{
+        .source = folder.write(u"note.jpg"_qs, "this is no photo"),
+        .destinationBase = folder.path(u"out"_qs)};
+    DVImageHandling handling;
+
+    for (const MaximumTypeIndex type : {Width, Height, LongestSide, Percentage})
+        EXPECT_EQ(handling.hScalePhotosPercentage(photo, 100, type, pngTail()), ResultWord::Ok);
+
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"note.jpg"_qs});
+}
+
+TEST(ResizeToMaximum, WritesNothingAndAnswersOkForASizeBeyondAllContexts)
+{
+    const Resizing files(grey(40, 30));
+    DVImageHandling handling;
+
+    EXPECT_EQ(
+        handling.hScalePhotosPercentage(files.photo(), 1'000'000, Width, pngTail()), ResultWord::Ok
+    );
+    EXPECT_FALSE(files.hasOutput());
+}
+
+TEST(ResizeToMaximum, FailsForAPhotoThatIsDamagedInside)
+{
+    const TemporaryFolder folder;
+    const QByteArray whole = PhotoBuilder().size(400, 300).bytes();
+    const SourceAndBase photo{
+        .source = folder.write(u"half.jpg"_qs, whole.left(whole.size() / 2)),
+        .destinationBase = folder.path(u"out"_qs)};
+    DVImageHandling handling;
+
+    EXPECT_EQ(
+        handling.hScalePhotosPercentage(photo, 100, LongestSide, pngTail()), ResultWord::Failed
+    );
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"half.jpg"_qs});
+}
+
+TEST(ResizeToMaximum, AnswersTheWordOfTheWriter)
+{
+    const Resizing files(grey(40, 30));
+    OutputTail tail = pngTail();
+    DVImageHandling handling;
+
+    tail.myFileType = u"com.adobe.pdf"_qs;
+    EXPECT_EQ(
+        handling.hScalePhotosPercentage(files.photo(), 10, Width, tail), ResultWord::NotSupported
+    );
+    tail.myFileType = u"com.canon.cr2-raw-image"_qs;
+    EXPECT_EQ(handling.hScalePhotosPercentage(files.photo(), 10, Width, tail), ResultWord::Failed);
+    EXPECT_FALSE(files.hasOutput());
+}
+
+TEST(ResizeToMaximum, KeepsDepthColorsAndTransparency)
+{
+    const Resizing files(PhotoBuilder()
+                             .format(PhotoFormat::Png)
+                             .model(PhotoModel::RgbAlpha)
+                             .depth(16)
+                             .size(40, 30)
+                             .solid({200, 100, 50, 128}));
+    DVImageHandling handling;
+
+    const ResultWord word
+        = handling.hScalePhotosPercentage(files.photo(), 50, Percentage, pngTail());
+
+    const auto header = openedPhoto(files.path(u"out.png"_qs)).header();
+    const QColor middle = files.output().convertToFormat(QImage::Format_ARGB32).pixelColor(10, 7);
+    EXPECT_EQ(word, ResultWord::Ok);
+    EXPECT_EQ(header.bitsPerComponent, 16);
+    EXPECT_TRUE(header.hasAlpha);
+    EXPECT_EQ(middle.alpha(), 128);
+    EXPECT_NEAR(middle.red(), 200, 2);
+}
+
+TEST_P(ResizeToBox, WritesExactlyTheBox)
+{
+    const FixedCase& row = GetParam();
+    const Resizing files(grey(row.photo.width, row.photo.height));
+    DVImageHandling handling;
+
+    const ResultWord word
+        = handling.hScalePhotosWidthAndHeight(files.photo(), row.box, row.aspectState, pngTail());
+
+    EXPECT_EQ(word, ResultWord::Ok);
+    EXPECT_EQ(files.outputSize(), row.box);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ResizeToBox, testing::ValuesIn(fixedCases), CaseName());
+
+TEST(ResizeToBox, CutsTheExcessOffEquallyOnBothSides)
+{
+    // Scaled to 80 x 40; 20 columns go at either side: a block of red is 20 columns wide.
+    const auto stripes = [](int x, int /*y*/) {
+        return x < 40       ? Samples{255, 0, 0}
+            : x >= 160 - 40 ? Samples{0, 0, 255}
+                            : Samples{0, 255, 0};
+    };
+    const Resizing files(PhotoBuilder().format(PhotoFormat::Png).size(160, 80).pixels(stripes));
+    DVImageHandling handling;
+
+    const ResultWord word
+        = handling.hScalePhotosWidthAndHeight(files.photo(), {44, 40}, covering, pngTail());
+
+    const QImage output = files.output();
+    EXPECT_EQ(word, ResultWord::Ok);
+    EXPECT_EQ(output.pixelColor(0, 20), QColor(255, 0, 0));
+    EXPECT_EQ(output.pixelColor(43, 20), QColor(0, 0, 255));
+    EXPECT_EQ(output.pixelColor(3, 20), QColor(0, 255, 0));
+    EXPECT_EQ(output.pixelColor(40, 20), QColor(0, 255, 0));
+}
+
+TEST(ResizeToBox, StretchesThePhotoWithoutTheAspectCheck)
+{
+    const Resizing files(corners(300, 400));
+    DVImageHandling handling;
+
+    const ResultWord word
+        = handling.hScalePhotosWidthAndHeight(files.photo(), {100, 50}, stretched, pngTail());
+
+    EXPECT_EQ(word, ResultWord::Ok);
+    EXPECT_EQ(cornerColors(files.output()), "RGBW");
+}
+
+TEST(ResizeToBox, AnswersTheWordOfThePhotoBeforeWhenNothingCanBeDrawn)
+{
+    const Resizing files(grey(40, 30));
+    const SourceAndBase unreadable{
+        .source = files.path(u"missing.jpg"_qs), .destinationBase = files.path(u"other"_qs)};
+    DVImageHandling handling;
+    const auto resize = [&](const SourceAndBase& photo, PixelSize box, int aspectState) {
+        return handling.hScalePhotosWidthAndHeight(photo, box, aspectState, pngTail());
+    };
+
+    EXPECT_EQ(resize(unreadable, {10, 10}, stretched), ResultWord::Failed);
+    EXPECT_FALSE(files.hasOutput());
+    EXPECT_EQ(resize(files.photo(), {10, 10}, covering), ResultWord::Ok);
+
+    EXPECT_EQ(resize(unreadable, {10, 10}, stretched), ResultWord::Ok);
+    EXPECT_EQ(resize(unreadable, {10, 10}, covering), ResultWord::Ok);
+    EXPECT_EQ(resize(files.photo(), {0, 10}, stretched), ResultWord::Ok);
+}
+
+TEST(ScalePictureBase, ScalesTheSizeInPoints)
+{
+    const TemporaryFolder folder;
+
+    const auto half = DVImageHandling::hScalePictureBase(picture(folder, 72), 0.5F);
+    const auto dense = DVImageHandling::hScalePictureBase(picture(folder, 144), 1.0F);
+
+    ASSERT_TRUE(half && dense);
+    EXPECT_EQ(half->pixelSize(), (PixelSize{60, 30}));
+    EXPECT_EQ(cornerColors(half->toQImage()), "RGBW");
+    EXPECT_EQ(dense->pixelSize(), (PixelSize{60, 30}));
+    EXPECT_EQ(dense->dotsPerInch(), 72);
+}
+
+TEST(ScalePictureBase, TurnsThePictureAtANegativeFactor)
+{
+    const TemporaryFolder folder;
+
+    const auto turned = DVImageHandling::hScalePictureBase(picture(folder, 72), -2.0F);
+
+    ASSERT_TRUE(turned);
+    EXPECT_EQ(turned->pixelSize(), (PixelSize{240, 120}));
+    EXPECT_EQ(cornerColors(turned->toQImage()), "WBGR");
+}
+
+TEST(ScalePictureBase, GivesNothingWhereNoPixelIsLeft)
+{
+    const TemporaryFolder folder;
+
+    EXPECT_FALSE(DVImageHandling::hScalePictureBase(picture(folder, 72), 0));
+    EXPECT_FALSE(DVImageHandling::hScalePictureBase(picture(folder, 72), 1e9F));
+}
