@@ -21,6 +21,8 @@ namespace brenvaldo::platform {
 /// HEIC, HEIF and AVIF.
 [[nodiscard]] MetadataBlocks readHeifBlocks(QByteArrayView file);
 [[nodiscard]] MetadataBlocks readJpeg2000Blocks(QByteArrayView file);
+/// The boxes of the container; those that are compressed are left out.
+[[nodiscard]] MetadataBlocks readJpegXlBlocks(QByteArrayView file);
 [[nodiscard]] MetadataBlocks readWebpBlocks(QByteArrayView file);
 [[nodiscard]] MetadataBlocks readGifBlocks(QByteArrayView file);
 [[nodiscard]] MetadataBlocks readPsdBlocks(QByteArrayView file);

@@ -158,13 +158,6 @@ private:
     int m_indexWidth = 0;
 };
 
-/// The EXIF block behind the offset that stands in front of it.
-QByteArray exifOf(const QByteArray& data)
-{
-    const auto offset = unsignedAt(data, 0, 4, ByteOrder::Big);
-    return offset ? tailOf(data, 4 + *offset).toByteArray() : QByteArray();
-}
-
 /// Sorts the items that describe the primary picture to the front.
 void putFirst(QList<Item>& items, const QList<ItemId>& ids)
 {
@@ -188,7 +181,7 @@ MetadataBlocks readHeifBlocks(QByteArrayView file)
     Locations locations(file, meta, isoBox(boxes, "iloc"));
     for (const Item& item : items) {
         if (item.type == "Exif" && blocks.exif.isEmpty())
-            blocks.exif = exifOf(locations.dataOf(item.id));
+            blocks.exif = exifBehindOffset(locations.dataOf(item.id));
         else if (item.type == "application/rdf+xml" && blocks.xmp.isEmpty())
             blocks.xmp = locations.dataOf(item.id);
     }

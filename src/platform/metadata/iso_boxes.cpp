@@ -43,4 +43,10 @@ QByteArrayView isoBox(const QList<IsoBox>& boxes, QByteArrayView type)
     return {};
 }
 
+QByteArray exifBehindOffset(QByteArrayView item)
+{
+    const auto offset = unsignedAt(item, 0, 4, ByteOrder::Big);
+    return offset ? tailOf(item, 4 + *offset).toByteArray() : QByteArray();
+}
+
 } // namespace brenvaldo::platform

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QList>
 
@@ -18,5 +19,8 @@ struct IsoBox
 
 /// The payload of the first box of that type; empty when there is none.
 [[nodiscard]] QByteArrayView isoBox(const QList<IsoBox>& boxes, QByteArrayView type);
+
+/// The EXIF block of an item that starts with the number of bytes in front of the block.
+[[nodiscard]] QByteArray exifBehindOffset(QByteArrayView item);
 
 } // namespace brenvaldo::platform

@@ -31,6 +31,7 @@ constexpr std::array containers{
     Container{0, QByteArrayView("MM\0+", 4), readTiffBlocks},
     Container{4, QByteArrayView("ftyp"), readHeifBlocks},
     Container{4, QByteArrayView("jP  \r\n\x87\n"), readJpeg2000Blocks},
+    Container{4, QByteArrayView("JXL \r\n\x87\n"), readJpegXlBlocks},
     Container{8, QByteArrayView("WEBP"), readWebpBlocks},
     Container{0, QByteArrayView("GIF8"), readGifBlocks},
     Container{0, QByteArrayView("8BPS"), readPsdBlocks},
