@@ -10,10 +10,10 @@ namespace brenvaldo::platform {
 struct ExifDirectories
 {
     ByteOrder order = ByteOrder::Big;
-    TiffDirectory image;
-    TiffDirectory exif;
-    TiffDirectory gps;
-    TiffDirectory interoperability;
+    TiffDirectory image = {};
+    TiffDirectory exif = {};
+    TiffDirectory gps = {};
+    TiffDirectory interoperability = {};
 };
 
 /// True for tags that tell how the pixels of a file are stored, and for those that stand in blocks

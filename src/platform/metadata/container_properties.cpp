@@ -1,0 +1,259 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "container_properties.h"
+
+#include "bytes.h"
+#include "exif_properties.h"
+#include "jpeg_segments.h"
+#include "png_chunks.h"
+#include "tiff_directory.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+constexpr double centimetresPerInch = 2.54;
+constexpr double metresPerInch = 0.0254;
+
+QString keyOf(const char* key) { return QString::fromLatin1(key); }
+
+double bigNumber(QByteArrayView bytes, std::uint64_t offset, int width)
+{
+    return static_cast<double>(unsignedAt(bytes, offset, width, ByteOrder::Big).value_or(0));
+}
+
+int bigInteger(QByteArrayView bytes, std::uint64_t offset, int width)
+{
+    return static_cast<int>(unsignedAt(bytes, offset, width, ByteOrder::Big).value_or(0));
+}
+
+int littleInteger(QByteArrayView bytes, std::uint64_t offset, int width)
+{
+    return static_cast<int>(unsignedAt(bytes, offset, width, ByteOrder::Little).value_or(0));
+}
+
+void takeJfif(QByteArrayView payload, ContainerProperties& properties)
+{
+    enum Unit { None, Inch, Centimetre };
+    constexpr qsizetype length = 14;
+    if (!payload.startsWith(QByteArrayView("JFIF\0", 5)) || payload.size() < length)
+        return;
+    const int minor = bigInteger(payload, 6, 1);
+    const int unit = bigInteger(payload, 7, 1);
+    const int x = bigInteger(payload, 8, 2);
+    const int y = bigInteger(payload, 10, 2);
+    properties.jfif.insert(
+        keyOf("JFIFVersion"),
+        PropertyValue::Array{
+            PropertyValue(bigInteger(payload, 5, 1)),
+            PropertyValue(minor / 10),
+            PropertyValue(minor % 10)}
+    );
+    properties.jfif.insert(keyOf("DensityUnit"), unit);
+    properties.jfif.insert(keyOf("XDensity"), x);
+    properties.jfif.insert(keyOf("YDensity"), y);
+    if (unit != Inch && unit != Centimetre)
+        return;
+    const double factor = unit == Inch ? 1 : centimetresPerInch;
+    properties.dpiWidth = x * factor;
+    properties.dpiHeight = y * factor;
+}
+
+void takeJpeg(QByteArrayView file, ContainerProperties& properties)
+{
+    constexpr std::uint8_t progressiveFrame = 0xC2;
+    const auto header = readJpegHeader(file);
+    if (!header)
+        return;
+    for (const JpegSegment& segment : header->segments) {
+        if (segment.marker == jpeg::app0 && properties.jfif.isEmpty())
+            takeJfif(segment.payload, properties);
+        if (segment.marker == progressiveFrame)
+            properties.jfif.insert(keyOf("IsProgressive"), true);
+    }
+}
+
+void takeResolution(QByteArrayView data, ContainerProperties& properties)
+{
+    constexpr int perMetre = 1;
+    const double x = bigNumber(data, 0, 4);
+    const double y = bigNumber(data, 4, 4);
+    if (bigInteger(data, 8, 1) == perMetre) {
+        properties.png.insert(keyOf("XPixelsPerMeter"), static_cast<qint64>(x));
+        properties.png.insert(keyOf("YPixelsPerMeter"), static_cast<qint64>(y));
+        properties.dpiWidth = std::round(x * metresPerInch);
+        properties.dpiHeight = std::round(y * metresPerInch);
+    } else if (y > 0) {
+        properties.png.insert(keyOf("PixelAspectRatio"), x / y);
+    }
+}
+
+void takeChromaticities(QByteArrayView data, PropertyDictionary& png)
+{
+    constexpr std::uint64_t count = 8;
+    constexpr double unit = 100000;
+    PropertyValue::Array values;
+    for (std::uint64_t i = 0; i < count; ++i)
+        values.append(PropertyValue(bigNumber(data, 4 * i, 4) / unit));
+    png.insert(keyOf("Chromaticities"), values);
+}
+
+void takePngText(const PngChunk& chunk, PropertyDictionary& png)
+{
+    static const QStringList known{
+        keyOf("Title"),
+        keyOf("Author"),
+        keyOf("Description"),
+        keyOf("Copyright"),
+        keyOf("Creation Time"),
+        keyOf("Software"),
+        keyOf("Disclaimer"),
+        keyOf("Warning"),
+        keyOf("Source"),
+        keyOf("Comment")};
+    const auto text = pngText(chunk);
+    if (!text)
+        return;
+    const QString keyword = QString::fromLatin1(text->keyword);
+    if (known.contains(keyword) && !png.contains(keyword))
+        png.insert(
+            keyword, text->isUtf8 ? QString::fromUtf8(text->text) : QString::fromLatin1(text->text)
+        );
+}
+
+void takeModificationTime(QByteArrayView data, PropertyDictionary& png)
+{
+    constexpr qsizetype length = 7;
+    if (data.size() < length)
+        return;
+    const auto twoDigits = [&data](std::uint64_t offset) {
+        return QStringLiteral("%1").arg(bigInteger(data, offset, 1), 2, 10, QLatin1Char('0'));
+    };
+    png.insert(
+        keyOf("ModificationTime"),
+        QStringLiteral("%1:%2:%3 %4:%5:%6")
+            .arg(bigInteger(data, 0, 2), 4, 10, QLatin1Char('0'))
+            .arg(twoDigits(2), twoDigits(3), twoDigits(4), twoDigits(5), twoDigits(6))
+    );
+}
+
+void takePngHeader(QByteArrayView data, ContainerProperties& properties)
+{
+    constexpr int palette = 3;
+    properties.isIndexed = bigInteger(data, 9, 1) == palette;
+    properties.png.insert(keyOf("InterlaceType"), bigInteger(data, 12, 1));
+}
+
+void takePng(QByteArrayView file, ContainerProperties& properties)
+{
+    constexpr double gammaUnit = 100000;
+    const QList<PngChunk> chunks = readPngChunks(file).value_or(QList<PngChunk>());
+    for (const PngChunk& chunk : chunks) {
+        if (chunk.type == QByteArrayView("IHDR")) {
+            takePngHeader(chunk.data, properties);
+        } else if (chunk.type == QByteArrayView("gAMA")) {
+            properties.png.insert(keyOf("Gamma"), bigNumber(chunk.data, 0, 4) / gammaUnit);
+        } else if (chunk.type == QByteArrayView("cHRM")) {
+            takeChromaticities(chunk.data, properties.png);
+        } else if (chunk.type == QByteArrayView("pHYs")) {
+            takeResolution(chunk.data, properties);
+        } else if (chunk.type == QByteArrayView("sRGB")) {
+            properties.isSrgb = true;
+            properties.png.insert(keyOf("sRGBIntent"), bigInteger(chunk.data, 0, 1));
+        } else if (chunk.type == QByteArrayView("tIME")) {
+            takeModificationTime(chunk.data, properties.png);
+        } else {
+            takePngText(chunk, properties.png);
+        }
+    }
+}
+
+void takeTiff(QByteArrayView file, ContainerProperties& properties)
+{
+    constexpr std::uint16_t photometric = 262;
+    constexpr std::uint16_t sampleFormat = 339;
+    constexpr std::uint64_t palette = 3;
+    constexpr std::uint64_t floatingPoint = 3;
+    const auto tiff = TiffFile::open(file);
+    if (!tiff)
+        return;
+    const TiffDirectory image = tiff->firstDirectory();
+    const auto firstValue = [&](std::uint16_t tag) -> std::uint64_t {
+        const TiffField* field = fieldOf(image, tag);
+        const QList<std::uint64_t> values
+            = field ? unsignedValues(*field, tiff->order()) : QList<std::uint64_t>();
+        return values.isEmpty() ? 0 : values.first();
+    };
+    properties.isIndexed = firstValue(photometric) == palette;
+    properties.isFloat = firstValue(sampleFormat) == floatingPoint;
+}
+
+/// The delay of the first frame, from its graphic control extension.
+void takeDelay(QByteArrayView extension, PropertyDictionary& gif)
+{
+    constexpr double hundredth = 0.01;
+    constexpr double raisedDelay = 0.1;
+    const double delay = littleInteger(extension, 4, 2) * hundredth;
+    if (gif.contains(keyOf("DelayTime")))
+        return;
+    gif.insert(keyOf("DelayTime"), delay <= hundredth ? raisedDelay : delay);
+    gif.insert(keyOf("UnclampedDelayTime"), delay);
+}
+
+void takeGif(QByteArrayView file, ContainerProperties& properties)
+{
+    constexpr int hasPalette = 0x80;
+    properties.isIndexed = true;
+    properties.gif.insert(keyOf("CanvasPixelWidth"), littleInteger(file, 6, 2));
+    properties.gif.insert(keyOf("CanvasPixelHeight"), littleInteger(file, 8, 2));
+    const int flags = littleInteger(file, 10, 1);
+    const qsizetype blocks = 13 + ((flags & hasPalette) == 0 ? 0 : 3 << ((flags & 7) + 1));
+    if ((flags & hasPalette) != 0)
+        properties.gif.insert(keyOf("HasGlobalColorMap"), true);
+    const qsizetype loop = file.indexOf(QByteArrayView("\x21\xFF\x0BNETSCAPE2.0\x03\x01"), blocks);
+    if (loop >= 0)
+        properties.gif.insert(
+            keyOf("LoopCount"), littleInteger(file, static_cast<std::uint64_t>(loop) + 16, 2)
+        );
+    const qsizetype control = file.indexOf(QByteArrayView("\x21\xF9\x04"), blocks);
+    if (control >= 0)
+        takeDelay(file.sliced(control), properties.gif);
+}
+
+void takeBmp(QByteArrayView file, ContainerProperties& properties)
+{
+    constexpr int shortHeader = 12;
+    constexpr int longestPalette = 8;
+    const bool isShort = littleInteger(file, 14, 4) == shortHeader;
+    const int bits = littleInteger(file, isShort ? 24 : 28, 2);
+    properties.isIndexed = bits > 0 && bits <= longestPalette;
+    const int x = isShort ? 0 : littleInteger(file, 38, 4);
+    const int y = isShort ? 0 : littleInteger(file, 42, 4);
+    if (x > 0 && y > 0) {
+        properties.dpiWidth = std::round(x * metresPerInch);
+        properties.dpiHeight = std::round(y * metresPerInch);
+    }
+}
+
+} // namespace
+
+ContainerProperties containerProperties(QByteArrayView file)
+{
+    ContainerProperties properties;
+    if (file.startsWith("\xFF\xD8"))
+        takeJpeg(file, properties);
+    else if (file.startsWith("\x89PNG"))
+        takePng(file, properties);
+    else if (file.startsWith("GIF8"))
+        takeGif(file, properties);
+    else if (file.startsWith("BM"))
+        takeBmp(file, properties);
+    else
+        takeTiff(file, properties);
+    return properties;
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,300 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "exif_properties.h"
+
+#include "exif_tables.h"
+
+#include <QStringDecoder>
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+enum NumberType : std::uint16_t {
+    Ascii = 2,
+    Rational = 5,
+    SignedByte = 6,
+    SignedShort = 8,
+    SignedLong = 9,
+    SignedRational = 10,
+    Float = 11,
+    Double = 12
+};
+
+constexpr qsizetype characterCodeLength = 8;
+
+int widthOf(std::uint16_t type)
+{
+    switch (type) {
+    case tiff::Short:
+    case SignedShort:
+        return 2;
+    case tiff::Long:
+    case SignedLong:
+    case Float:
+        return 4;
+    case Rational:
+    case SignedRational:
+    case Double:
+        return 8;
+    default:
+        return 1;
+    }
+}
+
+std::uint64_t rawAt(const TiffField& field, std::uint64_t offset, int width, ByteOrder order)
+{
+    return unsignedAt(field.value, offset, width, order).value_or(0);
+}
+
+/// Numerator by denominator; nothing when the denominator is 0.
+std::optional<double> rationalAt(const TiffField& field, std::uint64_t offset, ByteOrder order)
+{
+    const auto numerator = static_cast<std::uint32_t>(rawAt(field, offset, 4, order));
+    const auto denominator = static_cast<std::uint32_t>(rawAt(field, offset + 4, 4, order));
+    if (denominator == 0)
+        return std::nullopt;
+    if (field.type == Rational)
+        return static_cast<double>(numerator) / denominator;
+    return static_cast<double>(static_cast<std::int32_t>(numerator))
+        / static_cast<std::int32_t>(denominator);
+}
+
+/// The number at `offset`; nothing for a fraction by 0.
+std::optional<PropertyValue> numberAt(const TiffField& field, std::uint64_t offset, ByteOrder order)
+{
+    const std::uint64_t raw = rawAt(field, offset, widthOf(field.type), order);
+    switch (field.type) {
+    case Rational:
+    case SignedRational: {
+        const auto value = rationalAt(field, offset, order);
+        return value ? std::optional(PropertyValue(*value)) : std::nullopt;
+    }
+    case SignedByte:
+        return PropertyValue(qint64{static_cast<std::int8_t>(raw)});
+    case SignedShort:
+        return PropertyValue(qint64{static_cast<std::int16_t>(raw)});
+    case SignedLong:
+        return PropertyValue(qint64{static_cast<std::int32_t>(raw)});
+    case Float: {
+        const double value = std::bit_cast<float>(static_cast<std::uint32_t>(raw));
+        return std::isfinite(value) ? std::optional(PropertyValue(value)) : std::nullopt;
+    }
+    case Double: {
+        const auto value = std::bit_cast<double>(raw);
+        return std::isfinite(value) ? std::optional(PropertyValue(value)) : std::nullopt;
+    }
+    default:
+        return PropertyValue(static_cast<qint64>(raw));
+    }
+}
+
+/// All numbers of the field; empty when one of them is a fraction by 0.
+PropertyValue::Array numbersOf(const TiffField& field, ByteOrder order)
+{
+    const int width = widthOf(field.type);
+    PropertyValue::Array numbers;
+    for (qsizetype offset = 0; offset + width <= field.value.size(); offset += width) {
+        const auto number = numberAt(field, static_cast<std::uint64_t>(offset), order);
+        if (!number)
+            return {};
+        numbers.append(*number);
+    }
+    return numbers;
+}
+
+std::optional<PropertyValue> arrayOf(const TiffField& field, ByteOrder order)
+{
+    const PropertyValue::Array numbers = numbersOf(field, order);
+    return numbers.isEmpty() ? std::nullopt : std::optional(PropertyValue(numbers));
+}
+
+std::optional<PropertyValue> plainOf(const TiffField& field, ByteOrder order)
+{
+    if (field.type == Ascii)
+        return PropertyValue(metadataText(field.value));
+    const PropertyValue::Array numbers = numbersOf(field, order);
+    if (numbers.isEmpty())
+        return std::nullopt;
+    return numbers.size() == 1 ? numbers.first() : PropertyValue(numbers);
+}
+
+/// "0230" gives 2, 3; "0221" gives 2, 2, 1.
+std::optional<PropertyValue> versionOf(const TiffField& field)
+{
+    const QByteArray& digits = field.value;
+    const bool isVersion
+        = digits.size() == 4 && std::all_of(digits.begin(), digits.end(), [](char digit) {
+              return digit >= '0' && digit <= '9';
+          });
+    if (!isVersion)
+        return std::nullopt;
+    PropertyValue::Array parts{
+        PropertyValue(digits.first(2).toInt()), PropertyValue(digits.mid(2, 1).toInt())};
+    if (digits[3] != '0')
+        parts.append(PropertyValue(digits.mid(3, 1).toInt()));
+    return PropertyValue(parts);
+}
+
+/// The three parts of an angle or a time; missing ones count 0. Empty without a first part.
+QList<double> threeParts(const TiffField& field, ByteOrder order)
+{
+    constexpr int parts = 3;
+    if (field.type != Rational || field.value.size() < widthOf(Rational))
+        return {};
+    QList<double> values;
+    for (int i = 0; i < parts; ++i) {
+        const auto offset = static_cast<std::uint64_t>(i) * 8;
+        const bool isThere = sliceOf(field.value, offset, 8).has_value();
+        const auto value = isThere ? rationalAt(field, offset, order) : std::optional(0.0);
+        // A camera without a fix writes fractions by 0 for the parts that it does not know.
+        if (!value && i == 0)
+            return {};
+        values.append(value.value_or(0));
+    }
+    return values;
+}
+
+std::optional<PropertyValue> degreesOf(const TiffField& field, ByteOrder order)
+{
+    constexpr double minutesPerDegree = 60;
+    constexpr double secondsPerDegree = 3600;
+    const QList<double> parts = threeParts(field, order);
+    if (parts.isEmpty())
+        return std::nullopt;
+    return PropertyValue(parts[0] + parts[1] / minutesPerDegree + parts[2] / secondsPerDegree);
+}
+
+std::optional<PropertyValue> timeOf(const TiffField& field, ByteOrder order)
+{
+    const QList<double> parts = threeParts(field, order);
+    if (parts.isEmpty())
+        return std::nullopt;
+    const double wholeSeconds = std::floor(parts[2]);
+    QString text = QStringLiteral("%1:%2:%3")
+                       .arg(parts[0], 2, 'f', 0, QLatin1Char('0'))
+                       .arg(parts[1], 2, 'f', 0, QLatin1Char('0'))
+                       .arg(wholeSeconds, 2, 'f', 0, QLatin1Char('0'));
+    const double thousandths = std::floor((parts[2] - wholeSeconds) * 1000);
+    if (thousandths > 0)
+        text += QString::number(thousandths / 1000, 'g', 3).mid(1);
+    return PropertyValue(text);
+}
+
+std::optional<PropertyValue> propertyOf(const TiffField& field, ExifRule rule, ByteOrder order)
+{
+    switch (rule) {
+    case ExifRule::Plain:
+        return plainOf(field, order);
+    case ExifRule::Array:
+        return arrayOf(field, order);
+    case ExifRule::FirstByte:
+        return field.value.isEmpty()
+            ? std::nullopt
+            : std::optional(PropertyValue(static_cast<int>(rawAt(field, 0, 1, order))));
+    case ExifRule::Version:
+        return versionOf(field);
+    case ExifRule::Comment:
+        return field.type == Ascii ? PropertyValue(metadataText(field.value))
+                                   : PropertyValue(userCommentText(field.value, order));
+    case ExifRule::Degrees:
+        return degreesOf(field, order);
+    case ExifRule::TimeOfDay:
+        return field.type == Ascii ? plainOf(field, order) : timeOf(field, order);
+    }
+    return std::nullopt;
+}
+
+PropertyDictionary
+dictionaryOf(const TiffDirectory& directory, std::span<const ExifRow> rows, ByteOrder order)
+{
+    PropertyDictionary properties;
+    for (const ExifRow& row : rows) {
+        const TiffField* field = fieldOf(directory, row.tag);
+        if (!field)
+            continue;
+        if (const auto value = propertyOf(*field, row.rule, order))
+            properties.insert(QLatin1StringView(row.key), *value);
+    }
+    return properties;
+}
+
+/// UTF-16 in the byte order of the block, unless most units make sense in the other order only.
+QString unicodeText(QByteArrayView bytes, ByteOrder order)
+{
+    qsizetype zeroFirst = 0;
+    qsizetype zeroSecond = 0;
+    for (qsizetype i = 0; i + 1 < bytes.size(); i += 2) {
+        zeroFirst += bytes[i] == '\0' && bytes[i + 1] != '\0' ? 1 : 0;
+        zeroSecond += bytes[i] != '\0' && bytes[i + 1] == '\0' ? 1 : 0;
+    }
+    if (zeroFirst != zeroSecond)
+        order = zeroFirst > zeroSecond ? ByteOrder::Big : ByteOrder::Little;
+    QStringDecoder decoder(
+        order == ByteOrder::Big ? QStringDecoder::Utf16BE : QStringDecoder::Utf16LE
+    );
+    return decoder(bytes);
+}
+
+QString withoutTrailingZeros(QString text)
+{
+    while (text.endsWith(QChar::Null))
+        text.chop(1);
+    return text;
+}
+
+QString textOfUnknownEncoding(QByteArrayView bytes)
+{
+    return withoutTrailingZeros(
+        bytes.isValidUtf8() ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes)
+    );
+}
+
+/// ISO 2022-JP, or the bare two-byte codes of JIS X 0208 without its escape sequences.
+QString japaneseText(QByteArrayView bytes)
+{
+    constexpr char escape = '\x1B';
+    const QByteArray escaped
+        = (bytes.contains(escape) ? QByteArray() : QByteArray("\x1B$B")) + bytes.toByteArray();
+    QStringDecoder decoder("ISO-2022-JP");
+    const QString text = decoder.isValid() ? QString(decoder(escaped)) : QString();
+    return decoder.isValid() && !decoder.hasError() ? withoutTrailingZeros(text)
+                                                    : textOfUnknownEncoding(bytes);
+}
+
+} // namespace
+
+ExifProperties exifProperties(const TiffFile& file)
+{
+    const TiffDirectory image = file.firstDirectory();
+    const ByteOrder order = file.order();
+    return {
+        .exif = dictionaryOf(file.subDirectory(image, tiff::ExifDirectory), exifTable(), order),
+        .tiff = dictionaryOf(image, tiffTable(), order),
+        .gps = dictionaryOf(file.subDirectory(image, tiff::GpsDirectory), gpsTable(), order)};
+}
+
+QString userCommentText(QByteArrayView comment, ByteOrder order)
+{
+    if (comment.size() < characterCodeLength)
+        return textOfUnknownEncoding(comment);
+    const QByteArrayView code = comment.first(characterCodeLength);
+    const QByteArrayView text = comment.sliced(characterCodeLength);
+    if (code.startsWith("UNICODE"))
+        return withoutTrailingZeros(unicodeText(text, order));
+    if (code.startsWith("JIS"))
+        return japaneseText(text);
+    return textOfUnknownEncoding(text);
+}
+
+QString metadataText(QByteArrayView bytes)
+{
+    const qsizetype end = bytes.indexOf('\0');
+    const QByteArrayView text = end < 0 ? bytes : bytes.first(end);
+    return text.isValidUtf8() ? QString::fromUtf8(text) : QString::fromLatin1(text);
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "xmp_values.h"
+
+#include <exiv2/exiv2.hpp>
+
+#include <mutex>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+/// The toolkit behind the parser keeps global state.
+std::mutex& parserMutex()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
+void startParser()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
+        Exiv2::XmpParser::initialize();
+    });
+}
+
+QString textOf(const std::string& text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// The default language, else the first one.
+QString defaultText(const Exiv2::LangAltValue& value)
+{
+    const std::string text = value.toString("x-default");
+    if (!text.empty() || value.value_.empty())
+        return textOf(text);
+    return textOf(value.value_.begin()->second);
+}
+
+QStringList textsOf(const Exiv2::Xmpdatum& datum)
+{
+    const Exiv2::Value& value = datum.value();
+    if (const auto* alternatives = dynamic_cast<const Exiv2::LangAltValue*>(&value))
+        return {defaultText(*alternatives)};
+    QStringList texts;
+    for (long i = 0; i < value.count(); ++i)
+        texts.append(textOf(value.toString(i)));
+    return texts;
+}
+
+} // namespace
+
+struct XmpValues::Data
+{
+    Exiv2::XmpData properties;
+};
+
+XmpValues::XmpValues(const QByteArray& packet)
+    : m_data(std::make_unique<Data>())
+{
+    if (packet.isEmpty())
+        return;
+    const std::lock_guard guard(parserMutex());
+    startParser();
+    try {
+        if (Exiv2::XmpParser::decode(m_data->properties, packet.toStdString()) != 0)
+            m_data->properties.clear();
+    } catch (const std::exception&) {
+        m_data->properties.clear();
+    }
+}
+
+XmpValues::~XmpValues() = default;
+
+QStringList XmpValues::texts(const QByteArray& key) const
+{
+    if (m_data->properties.empty())
+        return {};
+    try {
+        const auto found = m_data->properties.findKey(Exiv2::XmpKey(key.toStdString()));
+        return found == m_data->properties.end() ? QStringList() : textsOf(*found);
+    } catch (const std::exception&) {
+        return {};
+    }
+}
+
+} // namespace brenvaldo::platform

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "block_builder.h"
+
+#include <platform/metadata/exif_properties.h>
+#include <platform/metadata/iptc_properties.h>
+#include <platform/metadata/xmp_values.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using namespace brenvaldo::platform;
+using brenvaldo::test::iptcDataSet;
+using brenvaldo::test::xmpPacket;
+
+namespace {
+
+QString text(const char* literal) { return QString::fromUtf8(literal); }
+
+QByteArray packetOf(const QByteArray& properties)
+{
+    return "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\">"
+           "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+           "<rdf:Description rdf:about=\"\" xmlns:dc=\"http://purl.org/dc/elements/1.1/\" "
+           "xmlns:photoshop=\"http://ns.adobe.com/photoshop/1.0/\" "
+           "xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\" "
+           "xmlns:xmpRights=\"http://ns.adobe.com/xap/1.0/rights/\" "
+           "xmlns:Iptc4xmpCore=\"http://iptc.org/std/Iptc4xmpCore/1.0/xmlns/\">"
+        + properties + "</rdf:Description></rdf:RDF></x:xmpmeta>";
+}
+
+PropertyDictionary fromIim(const QByteArray& iim) { return iptcProperties(iim, XmpValues({}), {}); }
+
+PropertyDictionary fromXmp(const QByteArray& properties)
+{
+    return iptcProperties({}, XmpValues(packetOf(properties)), {});
+}
+
+ExifProperties exifWith(const char* tiffKey, const QString& value)
+{
+    ExifProperties exif;
+    exif.tiff.insert(text(tiffKey), value);
+    return exif;
+}
+
+} // namespace
+
+TEST(IptcProperties, IsEmptyWithoutAnySource) { EXPECT_TRUE(fromIim({}).isEmpty()); }
+
+TEST(IptcProperties, GathersRepeatedDataSetsInAnArray)
+{
+    const PropertyDictionary iptc = fromIim(iptcDataSet(25, "a") + iptcDataSet(25, "b"));
+
+    EXPECT_EQ(iptc.text(text("Keywords")), text("(\n    a,\n    b\n)"));
+}
+
+TEST(IptcProperties, ShowsTheFirstOfRepeatedWriters)
+{
+    const PropertyDictionary iptc = fromIim(iptcDataSet(122, "first") + iptcDataSet(122, "second"));
+
+    EXPECT_EQ(iptc.text(text("Writer/Editor")), text("first"));
+}
+
+TEST(IptcProperties, ReadsTextsThatAreNotUtf8AsLatin1)
+{
+    EXPECT_EQ(fromIim(iptcDataSet(90, "Z\xFCrich")).text(text("City")), text("Z\u00fcrich"));
+    EXPECT_EQ(fromIim(iptcDataSet(90, "Z\xC3\xBCrich")).text(text("City")), text("Z\u00fcrich"));
+}
+
+TEST(IptcProperties, StopsAtADamagedDataSet)
+{
+    const QByteArray damaged("\x1C\x02\x5A\x7F\xFF", 5);
+
+    const PropertyDictionary iptc = fromIim(iptcDataSet(120, "caption") + damaged + "x");
+
+    EXPECT_EQ(iptc.keys(), QStringList(text("Caption/Abstract")));
+}
+
+TEST(IptcProperties, FillsFromXmpWhatIimLacks)
+{
+    const PropertyDictionary iptc = fromXmp(
+        "<dc:subject><rdf:Bag><rdf:li>a</rdf:li><rdf:li>b</rdf:li></rdf:Bag></dc:subject>"
+        "<xmpRights:UsageTerms><rdf:Alt><rdf:li xml:lang=\"x-default\">ask</rdf:li></rdf:Alt>"
+        "</xmpRights:UsageTerms>"
+        "<photoshop:Headline>News</photoshop:Headline><xmp:Rating>4</xmp:Rating>"
+    );
+
+    EXPECT_EQ(iptc.text(text("Keywords")), text("(\n    a,\n    b\n)"));
+    EXPECT_EQ(iptc.text(text("UsageTerms")), text("ask"));
+    EXPECT_EQ(iptc.text(text("Headline")), text("News"));
+    EXPECT_EQ(iptc.text(text("StarRating")), text("4"));
+}
+
+TEST(IptcProperties, ShowsTheContactAsADictionary)
+{
+    const PropertyDictionary iptc
+        = fromXmp("<Iptc4xmpCore:CreatorContactInfo rdf:parseType=\"Resource\">"
+                  "<Iptc4xmpCore:CiAdrCity>Bern</Iptc4xmpCore:CiAdrCity>"
+                  "<Iptc4xmpCore:CiEmailWork>a@b.example</Iptc4xmpCore:CiEmailWork>"
+                  "</Iptc4xmpCore:CreatorContactInfo>");
+
+    const PropertyDictionary* contact = iptc.dictionary(text("CreatorContactInfo"));
+    ASSERT_NE(contact, nullptr);
+    EXPECT_EQ(contact->text(text("CiAdrCity")), text("Bern"));
+    EXPECT_EQ(contact->text(text("CiEmailWork")), text("a@b.example"));
+}
+
+TEST(IptcProperties, SplitsAnXmpDateIntoDateAndTime)
+{
+    const PropertyDictionary iptc
+        = fromXmp("<photoshop:DateCreated>2013-06-04T19:44:49.5+02:00</photoshop:DateCreated>");
+
+    EXPECT_EQ(iptc.text(text("DateCreated")), text("20130604"));
+    EXPECT_EQ(iptc.text(text("TimeCreated")), text("194449+0200"));
+}
+
+TEST(IptcProperties, PrefersIimToXmpAndXmpToExif)
+{
+    const QByteArray xmp
+        = packetOf("<dc:description><rdf:Alt><rdf:li xml:lang=\"x-default\">xmp</rdf:li></rdf:Alt>"
+                   "</dc:description>");
+    const ExifProperties exif = exifWith("ImageDescription", text("exif"));
+    const QString key = text("Caption/Abstract");
+
+    EXPECT_EQ(iptcProperties(iptcDataSet(120, "iim"), XmpValues(xmp), exif).text(key), text("iim"));
+    EXPECT_EQ(iptcProperties({}, XmpValues(xmp), exif).text(key), text("xmp"));
+    EXPECT_EQ(iptcProperties({}, XmpValues({}), exif).text(key), text("exif"));
+}
+
+TEST(IptcProperties, FillsDatesFromExif)
+{
+    ExifProperties exif;
+    exif.exif.insert(text("DateTimeOriginal"), text("2026:11:15 10:44:33"));
+    exif.exif.insert(text("DateTimeDigitized"), text("2026:11:16 11:45:34"));
+
+    const PropertyDictionary iptc = iptcProperties({}, XmpValues({}), exif);
+
+    EXPECT_EQ(iptc.text(text("DateCreated")), text("20261115"));
+    EXPECT_EQ(iptc.text(text("TimeCreated")), text("104433"));
+    EXPECT_EQ(iptc.text(text("DigitalCreationDate")), text("20261116"));
+    EXPECT_EQ(iptc.text(text("DigitalCreationTime")), text("114534"));
+}
+
+TEST(IptcProperties, ShowsTheArtistAsAByline)
+{
+    EXPECT_EQ(
+        iptcProperties({}, XmpValues({}), exifWith("Artist", text("Jane"))).text(text("Byline")),
+        text("(\n    Jane\n)")
+    );
+}
+
+TEST(XmpValues, AreNoneInADamagedPacket)
+{
+    EXPECT_TRUE(
+        XmpValues("<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:").texts("Xmp.dc.title").isEmpty()
+    );
+    EXPECT_TRUE(XmpValues("not XMP").texts("Xmp.dc.title").isEmpty());
+    EXPECT_EQ(XmpValues(xmpPacket("A title")).texts("Xmp.dc.title"), QStringList(text("A title")));
+}
