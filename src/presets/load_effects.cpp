@@ -17,17 +17,19 @@ void enable(const ControlList& controls, bool enabled)
 
 } // namespace
 
-LoadEffect enablesUnlessZero(ControlList controls)
-{
-    return [controls = std::move(controls)](const QString& text) {
-        enable(controls, platform::intValue(text) != 0);
-    };
-}
+LoadEffect enablesUnlessZero(ControlList controls) { return disablesWhen(0, std::move(controls)); }
 
 LoadEffect enablesWhen(int value, ControlList controls)
 {
     return [value, controls = std::move(controls)](const QString& text) {
         enable(controls, platform::intValue(text) == value);
+    };
+}
+
+LoadEffect disablesWhen(int value, ControlList controls)
+{
+    return [value, controls = std::move(controls)](const QString& text) {
+        enable(controls, platform::intValue(text) != value);
     };
 }
 

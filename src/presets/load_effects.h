@@ -21,6 +21,9 @@ using ControlList = std::vector<controls::Control*>;
 /// Enables the controls when the number is `value` and disables them otherwise.
 [[nodiscard]] LoadEffect enablesWhen(int value, ControlList controls);
 
+/// Disables the controls when the number is `value` and enables them otherwise.
+[[nodiscard]] LoadEffect disablesWhen(int value, ControlList controls);
+
 /// Shows the control when the number is `value` and hides it otherwise.
 [[nodiscard]] LoadEffect showsWhen(int value, controls::Control& control);
 

@@ -14,8 +14,16 @@ namespace {
 QHash<QString, PresetRecord> recordsOf(panels::Panels& panels)
 {
     return {
-        {QStringLiteral("textWM"), textWatermarkRecord(panels)},
-        {QStringLiteral("resizePhotos"), resizeRecord(panels)},
+        {u"textWM"_qs, textWatermarkRecord(panels)},
+        {u"imageWM"_qs, imageWatermarkRecord(panels)},
+        {u"addTint"_qs, tintRecord(panels)},
+        {u"framing"_qs, framingRecord(panels)},
+        {u"roundings"_qs, roundingsRecord(panels)},
+        {u"profileConversion"_qs, profileRecord(panels)},
+        {u"rotatePhotos"_qs, rotationRecord(panels)},
+        {u"resizePhotos"_qs, resizeRecord(panels)},
+        {u"cropPhotos"_qs, cropRecord(panels)},
+        {u"filters"_qs, filterRecord(panels)},
     };
 }
 

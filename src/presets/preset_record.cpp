@@ -11,7 +11,8 @@ namespace {
 
 bool holds(const RecordField::When& when, const QString& text)
 {
-    return (platform::intValue(text) == 0) == (when.is == RecordField::When::Is::Zero);
+    const bool isOne = when.values.contains(platform::intValue(text));
+    return isOne == (when.is == RecordField::When::Is::OneOf);
 }
 
 std::optional<QString>& valueAt(PresetRow& row, int position)
@@ -29,13 +30,13 @@ PresetRow rowOf(const PresetRecord& record, const QString& name)
     row[1] = record.process;
     row[2] = record.action;
     for (const RecordField& field : record.fields) {
-        if (field.use != RecordField::Use::OnlyRead)
+        if (!field.when && field.use != RecordField::Use::OnlyRead)
             valueAt(row, field.position) = storedValue(field.form);
     }
     for (const RecordField& field : record.fields) {
-        if (field.when
-            && !holds(*field.when, valueAt(row, field.when->position).value_or(QString())))
-            valueAt(row, field.position) = QStringLiteral("");
+        if (field.when && field.use != RecordField::Use::OnlyRead
+            && holds(*field.when, valueAt(row, field.when->position).value_or(QString())))
+            valueAt(row, field.position) = storedValue(field.form);
     }
     return row;
 }

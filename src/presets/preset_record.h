@@ -19,13 +19,14 @@ struct RecordField
 {
     enum class Use { WrittenAndRead, OnlyWritten, OnlyRead };
 
-    /// The field counts only while the value at `position` reads as 0, or as anything else.
+    /// The field counts only while the number at `position` is one of `values`, or none of them.
     struct When
     {
-        enum class Is { Zero, NotZero };
+        enum class Is { OneOf, NoneOf };
 
         int position;
         Is is;
+        QList<int> values;
     };
 
     int position;

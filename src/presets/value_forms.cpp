@@ -5,6 +5,7 @@
 
 #include <platform/foundation/color_archive.h>
 #include <platform/foundation/numbers.h>
+#include <platform/graphics/image_source.h>
 
 #include <QFileInfo>
 
@@ -53,6 +54,14 @@ std::optional<QString> pathOf(const QString& bookmark)
     return url->toLocalFile();
 }
 
+/// Nothing when the file is no image or a damaged one.
+std::optional<platform::Image> imageAt(const QString& path)
+{
+    const auto source = platform::ImageSource::open(path);
+    const auto image = source ? source->uprightImage() : std::nullopt;
+    return image ? image->copiedToMemory() : std::nullopt;
+}
+
 struct Store
 {
     using Result = std::optional<QString>;
@@ -84,6 +93,10 @@ struct Store
     {
         return bookmarkOf(form.control->stringValue());
     }
+    Result operator()(const ImageFileForm& form) const
+    {
+        return bookmarkOf(form.control->stringValue());
+    }
     Result operator()(const OtherForm& form) const { return form.stored(); }
 };
 
@@ -110,6 +123,15 @@ struct Restore
             return;
         form.control->setStringValue(*path + QLatin1Char('/'));
         form.control->setToolTip(form.control->stringValue());
+    }
+    void operator()(const ImageFileForm& form) const
+    {
+        form.control->setStringValue(text);
+        const std::optional<QString> path = pathOf(text);
+        if (!path)
+            return;
+        form.control->setStringValue(*path);
+        form.view->setImage(imageAt(*path));
     }
     void operator()(const OtherForm& form) const { form.restore(text); }
 };

@@ -3,6 +3,7 @@
 
 #include <controls/choice_controls.h>
 #include <controls/color_well.h>
+#include <controls/image_view.h>
 #include <controls/text_controls.h>
 
 #include <functional>
@@ -57,6 +58,14 @@ struct FolderForm
     controls::TextField* control;
 };
 
+/// A bookmark of an image file, which is also shown. A lost file leaves the stored text in the
+/// field.
+struct ImageFileForm
+{
+    controls::TextField* control;
+    controls::ImageView* view;
+};
+
 /// What no single control holds.
 struct OtherForm
 {
@@ -72,6 +81,7 @@ using ValueForm = std::variant<
     ColorForm,
     GalleryColorForm,
     FolderForm,
+    ImageFileForm,
     OtherForm>;
 
 /// The control's value as text; nothing when it can't be kept.

@@ -82,4 +82,49 @@ PresetRecord textWatermarkRecord(panels::Panels& panels)
         }};
 }
 
+PresetRecord imageWatermarkRecord(panels::Panels& panels)
+{
+    auto& image = panels.vwWatermark;
+    auto& files = panels.vwFileType;
+    return {
+        .process = u"ImageWM"_qs,
+        .action = u"Watermark"_qs,
+        .before = PresetRecord::Before::ClearSecondViewAndSimulation,
+        .fields = {
+            {3, FolderForm{&panels.vwMainDestination.tfImageDestinationFolder}},
+            {4, IndexForm{&image.scImageWaterMarkPos}},
+            {5, TextForm{&image.tfImageXOffset}},
+            {6, TextForm{&image.tfImageYOffset}},
+            {7, TextForm{&image.tfImageShadowXOffset}},
+            {8, TextForm{&image.tfImageShadowYOffset}},
+            {9, TextForm{&image.tfImageShadowRadius}},
+            {10, TextForm{&image.tfImageTransparancy}},
+            {11, StateForm{&image.cbImageFadeOut}},
+            {12, TextForm{&image.tfImageFadeOutAngle}},
+            {13, ImageFileForm{&image.tfWaterMarkImageFilePath, &image.iwWaterMarkImage}},
+            {14, IndexForm{&image.pubRenderMethod}},
+            {15, TextForm{&image.tfImageWMAngle}},
+            {16, TextForm{&image.tfImageScalePC}},
+            {18, TextForm{&image.tfCenterCircularWidth}},
+            {19, TextForm{&image.tfCenterCircularHeight}},
+            {20, TextForm{&image.tfLineScreenAngle}},
+            {21, StateForm{&image.cbPatternCheck}},
+            {23, StateForm{&image.cbImageFromLib}},
+            {24, IndexForm{&image.pubWatermarkFilterType}},
+            {.position = 25,
+             .form = StateForm{&image.cbWMSimulationMode},
+             .use = RecordField::Use::OnlyWritten},
+            {26, IndexForm{&image.pubWatermarkFilterSharpness}},
+            {27, StateForm{&image.cbImageShadowCheck}},
+            {28, IndexForm{&image.pubImageLookUp}},
+            {29, IndexForm{&image.pubWatermarkTextEffectIntensity}},
+            {30, StateForm{&image.cbCircularFadeOut}},
+            {31, StateForm{&image.cbCircularInvertFadeOut}},
+            {32, ColorForm{&image.cwImageShadowColor}},
+            {33, IndexForm{&panels.vwApplyOn.pubPhotoOrientation}},
+            {35, IndexForm{&files.pubFileType}},
+            {36, IndexForm{&files.pubJPEGCompressionLevel}},
+        }};
+}
+
 } // namespace brenvaldo::presets

@@ -8,5 +8,6 @@
 namespace brenvaldo::presets {
 
 [[nodiscard]] PresetRecord textWatermarkRecord(panels::Panels& panels);
+[[nodiscard]] PresetRecord imageWatermarkRecord(panels::Panels& panels);
 
 } // namespace brenvaldo::presets
