@@ -5,6 +5,7 @@
 #include "default_patterns.h"
 
 #include <files/file_handling.h>
+#include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 
 namespace brenvaldo::presets {
@@ -26,11 +27,15 @@ controls::OpenPanel folderPanel(const QString& message)
 } // namespace
 
 cSheetControl::cSheetControl(
-    panels::Panels& panels, controls::FileChooser& chooser, platform::UserDefaults& defaults
+    panels::Panels& panels,
+    controls::FileChooser& chooser,
+    platform::UserDefaults& defaults,
+    Alert hAlertWindow
 )
     : m_panels(panels)
     , m_chooser(chooser)
     , m_defaults(defaults)
+    , m_hAlertWindow(std::move(hAlertWindow))
 {
 }
 
@@ -43,6 +48,8 @@ void cSheetControl::registerActions(controls::ActionRegistry& actions)
     };
     add(u"hCallPreferencesWw"_qs, &cSheetControl::hCallPreferencesWw);
     add(u"closePreferencesSheetObjC"_qs, &cSheetControl::closePreferencesSheetObjC);
+    add(u"hCallAlertSheet"_qs, &cSheetControl::hCallAlertSheet);
+    add(u"closeAlertSheet"_qs, &cSheetControl::closeAlertSheet);
     add(u"chooseLibraryDestination"_qs, &cSheetControl::chooseLibraryDestination);
 }
 
@@ -60,6 +67,14 @@ void cSheetControl::hCallPreferencesWw()
 }
 
 void cSheetControl::closePreferencesSheetObjC() { m_panels.wwPreferencesWindow.sheet.close(); }
+
+void cSheetControl::hCallAlertSheet()
+{
+    m_hAlertWindow(u"Dju!"_qs, u"'t is gelukt! Hoera!"_qs);
+    platform::log(u"hCallAlertSheet"_qs);
+}
+
+void cSheetControl::closeAlertSheet() { m_panels.window.wwAlertWindow.close(); }
 
 void cSheetControl::chooseLibraryDestination()
 {

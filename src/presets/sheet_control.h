@@ -6,6 +6,8 @@
 #include <panels/panels.h>
 #include <platform/foundation/user_defaults.h>
 
+#include <functional>
+
 namespace brenvaldo::presets {
 
 /// The preferences sheet, and the choice of the folder that holds the support files: patterns,
@@ -13,8 +15,14 @@ namespace brenvaldo::presets {
 class cSheetControl
 {
 public:
+    using Alert = std::function<void(const QString& title, const QString& text)>;
+
+    /// `hAlertWindow` shows a message in the alert window.
     cSheetControl(
-        panels::Panels& panels, controls::FileChooser& chooser, platform::UserDefaults& defaults
+        panels::Panels& panels,
+        controls::FileChooser& chooser,
+        platform::UserDefaults& defaults,
+        Alert hAlertWindow
     );
 
     void registerActions(controls::ActionRegistry& actions);
@@ -22,6 +30,8 @@ public:
     // The actions.
     void hCallPreferencesWw();
     void closePreferencesSheetObjC();
+    void hCallAlertSheet();
+    void closeAlertSheet();
     /// Asks for another folder and sets it up; the folder of before stays as it is.
     void chooseLibraryDestination();
 
@@ -37,6 +47,7 @@ private:
     panels::Panels& m_panels;
     controls::FileChooser& m_chooser;
     platform::UserDefaults& m_defaults;
+    Alert m_hAlertWindow;
 };
 
 } // namespace brenvaldo::presets

@@ -48,7 +48,11 @@ protected:
     FolderChooser chooser;
     panels::Panels panels;
     controls::ActionRegistry actions;
-    presets::cSheetControl sheets{panels, chooser, defaults};
+    QStringList alert;
+    presets::cSheetControl sheets{
+        panels, chooser, defaults, [this](const QString& title, const QString& text) {
+            alert = {title, text};
+        }};
     panels::PreferencesSheet& preferences = panels.wwPreferencesWindow;
 };
 
@@ -159,6 +163,16 @@ TEST_F(SheetControl, OpensThePreferencesWithoutAFolder)
 
     EXPECT_TRUE(preferences.sheet.isOpen());
     EXPECT_TRUE(preferences.tfLibraryFilePath.stringValue().isEmpty());
+}
+
+TEST_F(SheetControl, ShowsAndClosesTheAlertOfSuccess)
+{
+    actions.send(u"cSheetControl.hCallAlertSheet"_qs);
+    EXPECT_EQ(alert, QStringList({u"Dju!"_qs, u"'t is gelukt! Hoera!"_qs}));
+
+    panels.window.wwAlertWindow.open();
+    actions.send(u"cSheetControl.closeAlertSheet"_qs);
+    EXPECT_FALSE(panels.window.wwAlertWindow.isOpen());
 }
 
 TEST(Bookmarks, ResolveFoldersThatMovedBackAndNoOthers)
