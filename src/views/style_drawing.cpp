@@ -224,11 +224,7 @@ void Style::drawPrimitive(
     case PE_PanelScrollAreaCorner:
         return;
     case PE_Frame:
-        paintFieldFrame(
-            *painter,
-            option->rect,
-            {.fill = Qt::transparent, .line = fieldFrame(option->state).line}
-        );
+        paintFieldFrame(*painter, option->rect, fieldFrame(option->state));
         return;
     case PE_FrameMenu:
         painter->setPen(colours().border);

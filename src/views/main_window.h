@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "binder.h"
+#include "commands.h"
+#include "form_builder.h"
+#include "main_menu.h"
+#include "preview_view.h"
+#include "qt_file_chooser.h"
+
+#include <workspace/workspace.h>
+
+#include <QMainWindow>
+
+class QSplitter;
+
+namespace brenvaldo::views {
+
+class InfoPane;
+class JournalWindow;
+class PhotoGrid;
+
+/// The main window: preview, photo list and inspector over one workspace.
+///
+/// A drop on its body succeeds to the eye and adds nothing; files get into the list through the
+/// grid. Closing it ends the program's work.
+class mainAppWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    mainAppWindow(workspace::Workspace& workspace, QtFileChooser& chooser);
+    ~mainAppWindow() override;
+    mainAppWindow(const mainAppWindow&) = delete;
+    mainAppWindow& operator=(const mainAppWindow&) = delete;
+    mainAppWindow(mainAppWindow&&) = delete;
+    mainAppWindow& operator=(mainAppWindow&&) = delete;
+
+    /// Comes to the front and adds files that another start of the program was given.
+    void openFiles(const QStringList& paths);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    [[nodiscard]] QWidget* photoArea();
+    void addInfoPane(QWidget& row);
+    void connectGrid();
+    void connectOrders();
+    void makeSheets();
+    void tick(int row);
+    void showJournal();
+    void showAbout();
+    void showZoom(PreviewView::Zoom zoom);
+
+    workspace::Workspace& m_workspace;
+    QtFileChooser& m_chooser;
+    controls::UserInput m_input;
+    Binder m_binder;
+    FormBuilder m_builder;
+    Commands m_commands;
+    WindowOrders m_orders;
+    PreviewView* m_preview = nullptr;
+    PhotoGrid* m_grid = nullptr;
+    JournalWindow* m_journal = nullptr;
+};
+
+} // namespace brenvaldo::views

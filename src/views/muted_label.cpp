@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "muted_label.h"
+
+#include "theme.h"
+
+#include <QEvent>
+
+namespace brenvaldo::views {
+
+MutedLabel::MutedLabel(const QString& text, QWidget* parent)
+    : QLabel(text, parent)
+{
+    setTextFormat(Qt::PlainText);
+    takeColour();
+}
+
+void MutedLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        takeColour();
+}
+
+void MutedLabel::takeColour()
+{
+    QPalette own = palette();
+    if (own.color(QPalette::Active, QPalette::WindowText) == colours().muted)
+        return;
+    own.setColor(QPalette::Active, QPalette::WindowText, colours().muted);
+    own.setColor(QPalette::Inactive, QPalette::WindowText, colours().muted);
+    own.setColor(QPalette::Disabled, QPalette::WindowText, colours().disabled);
+    setPalette(own);
+}
+
+} // namespace brenvaldo::views

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "photo_grid_model.h"
+
+namespace brenvaldo::views {
+
+using workspace::cCollectionViewItem;
+
+PhotoGridModel::PhotoGridModel(const workspace::PhotoList& photos, int pictureSide, QObject* parent)
+    : QAbstractListModel(parent)
+    , m_photos(photos)
+    , m_entries(photos.entries())
+    , m_pictures(pictureSide)
+    , m_changes(photos.entriesChanged.connect([this] { takeEntries(); }))
+{
+    connect(&m_pictures, &ThumbnailStore::arrived, this, &PhotoGridModel::pictureArrived);
+}
+
+int PhotoGridModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_entries.size());
+}
+
+QVariant PhotoGridModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid() || index.row() >= m_entries.size())
+        return {};
+    const cCollectionViewItem& entry = m_entries.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return entry.myPhotoName;
+    case Qt::ToolTipRole:
+        return entry.myPhotoDescription;
+    case Qt::AccessibleTextRole:
+        return spokenText(entry);
+    case PictureRole:
+        return entry.myRenameSelect > 0 ? QImage() : m_pictures.picture(entry.myPhotoDescription);
+    case TickRole:
+        return entry.myPhotoSelect > 0;
+    case SizeRole:
+        return entry.myPhotoPxSize;
+    case NewNameRole:
+        return entry.myNewName;
+    case DocumentRole:
+        return entry.myRenameSelect > 0 || m_pictures.isUnreadable(entry.myPhotoDescription);
+    default:
+        return {};
+    }
+}
+
+QString PhotoGridModel::spokenText(const cCollectionViewItem& entry) const
+{
+    const QString tick = entry.myPhotoSelect > 0 ? tr("ticked") : tr("not ticked");
+    return QStringLiteral("%1, %2, %3").arg(entry.myPhotoName, entry.myPhotoPxSize, tick);
+}
+
+Qt::ItemFlags PhotoGridModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags own = QAbstractListModel::flags(index);
+    return index.isValid() ? own | Qt::ItemIsDragEnabled : own | Qt::ItemIsDropEnabled;
+}
+
+void PhotoGridModel::takeEntries()
+{
+    m_pictures.checkFilesAgain();
+    const int before = static_cast<int>(m_entries.size());
+    const int now = m_photos.count();
+    if (now > before) {
+        beginInsertRows({}, before, now - 1);
+        m_entries = m_photos.entries();
+        endInsertRows();
+    } else if (now < before) {
+        beginRemoveRows({}, now, before - 1);
+        m_entries = m_photos.entries();
+        endRemoveRows();
+    } else {
+        m_entries = m_photos.entries();
+    }
+    if (now > 0)
+        Q_EMIT dataChanged(index(0), index(now - 1));
+}
+
+void PhotoGridModel::pictureArrived(const QString& path)
+{
+    for (int row = 0; row < m_entries.size(); ++row) {
+        if (m_entries.at(row).myPhotoDescription == path)
+            Q_EMIT dataChanged(index(row), index(row), {PictureRole});
+    }
+}
+
+} // namespace brenvaldo::views

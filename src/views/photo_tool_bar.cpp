@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "photo_tool_bar.h"
+
+#include "hairline.h"
+#include "muted_label.h"
+#include "style.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace brenvaldo::views {
+
+QString countText(const QString& counter)
+{
+    bool isNumber = false;
+    const int count = counter.toInt(&isNumber);
+    if (!isNumber)
+        return counter;
+    return count == 1 ? PhotoToolBar::tr("1 photo") : PhotoToolBar::tr("%1 photos").arg(count);
+}
+
+PhotoToolBar::PhotoToolBar(
+    const Commands& commands,
+    QAction& infoToggle,
+    panels::WindowControls& window,
+    const Binder& binder,
+    QWidget* parent
+)
+    : QWidget(parent)
+{
+    auto* line = new QHBoxLayout(this);
+    line->setContentsMargins(12, 6, 14, 6);
+    line->setSpacing(2);
+    addTitled(*line, *commands.command(QStringLiteral("hChoosePhotos")));
+    addTitled(*line, *commands.command(QStringLiteral("hInsertPhotos")));
+    const QList<QStringList> groups{
+        {QStringLiteral("hRemoveSelectedObject"), QStringLiteral("hRemoveAllPhoto")},
+        {QStringLiteral("setSortingModeAz"), QStringLiteral("setSortingModezA")},
+        {QStringLiteral("hRotateLeft"),
+         QStringLiteral("hRotateRight"),
+         QStringLiteral("hFlipHorizontal"),
+         QStringLiteral("hFlipVertical")},
+        {QStringLiteral("hShareMyPhoto"), QStringLiteral("hPrintOrigPicture")}};
+    for (const QStringList& group : groups) {
+        addGap(*line);
+        for (const QString& name : group)
+            addDrawn(*line, *commands.command(name));
+    }
+    addDrawn(*line, infoToggle);
+    line->addStretch(1);
+    addCounter(*line, window, binder);
+}
+
+void PhotoToolBar::addTitled(QHBoxLayout& line, QAction& command)
+{
+    auto* button = new QPushButton(command.icon(), command.text().remove(QLatin1Char('&')), this);
+    button->setObjectName(QStringLiteral("tool.") + command.objectName());
+    button->setAccessibleName(button->text());
+    button->setToolTip(command.toolTip());
+    setButtonRole(*button, line.isEmpty() ? ButtonRole::Plain : ButtonRole::Flat);
+    connect(button, &QPushButton::clicked, &command, &QAction::trigger);
+    line.addWidget(button);
+}
+
+void PhotoToolBar::addDrawn(QHBoxLayout& line, QAction& command)
+{
+    auto* button = new QToolButton(this);
+    button->setDefaultAction(&command);
+    button->setObjectName(QStringLiteral("tool.") + command.objectName());
+    button->setAccessibleName(command.text().remove(QLatin1Char('&')));
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    button->setIconSize({18, 18});
+    button->setFocusPolicy(Qt::TabFocus);
+    line.addWidget(button);
+}
+
+void PhotoToolBar::addGap(QHBoxLayout& line)
+{
+    line.addSpacing(5);
+    auto* mark = new Hairline(Qt::Vertical, this);
+    mark->setFixedHeight(20);
+    line.addWidget(mark);
+    line.addSpacing(5);
+}
+
+void PhotoToolBar::addCounter(
+    QHBoxLayout& line, panels::WindowControls& window, const Binder& binder
+)
+{
+    auto* all = new QCheckBox(window.cbPhotoToProcess.title(), this);
+    all->setAccessibleName(tr("Tick all photos"));
+    binder.bind(*all, window.cbPhotoToProcess);
+    line.addWidget(all);
+    line.addSpacing(10);
+    auto* count = new MutedLabel(QString(), this);
+    count->setAccessibleName(tr("Number of photos"));
+    const auto& counter = window.tfImageCount;
+    followControl(*count, counter, [count, &counter] {
+        count->setText(countText(counter.stringValue()));
+    });
+    line.addWidget(count);
+}
+
+} // namespace brenvaldo::views

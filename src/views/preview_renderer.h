@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <platform/graphics/image.h>
+
+#include <QImage>
+#include <QObject>
+#include <QThreadPool>
+
+#include <optional>
+
+namespace brenvaldo::views {
+
+/// What the preview is to show: a photo, a layer over it, or one of them alone.
+struct PreviewRequest
+{
+    std::optional<platform::Image> photo;
+    std::optional<platform::Image> overlay;
+    platform::PixelSize room; ///< pixels of the screen
+    /// Not set: each picture is fitted into `room`. Set: this part of it at one pixel a pixel.
+    std::optional<platform::PixelRect> part;
+    QString path; ///< file that the caption tells about; may be empty
+};
+
+/// A rendered preview; null images stand for what is not there or can't be read.
+struct PreviewPicture
+{
+    QImage photo;
+    QImage overlay;
+    std::optional<platform::PixelRect> part;
+    QString caption;
+};
+
+/// Renders previews in a worker thread. Only the newest request counts: one that waits is replaced
+/// by a newer one.
+class PreviewRenderer : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit PreviewRenderer(QObject* parent = nullptr);
+    ~PreviewRenderer() override;
+    PreviewRenderer(const PreviewRenderer&) = delete;
+    PreviewRenderer& operator=(const PreviewRenderer&) = delete;
+    PreviewRenderer(PreviewRenderer&&) = delete;
+    PreviewRenderer& operator=(PreviewRenderer&&) = delete;
+
+    void render(const PreviewRequest& request);
+    [[nodiscard]] bool isBusy() const { return m_running; }
+
+Q_SIGNALS:
+    void rendered(const brenvaldo::views::PreviewPicture& picture);
+
+private:
+    void startNext();
+    void take(const PreviewPicture& picture);
+
+    std::optional<PreviewRequest> m_waiting;
+    bool m_running = false;
+    QThreadPool m_worker;
+};
+
+/// "name · 4608 × 3072 · 8 bit RGB · 2.9 MB"; the name alone when the file can't be read.
+[[nodiscard]] QString photoCaption(const QString& path);
+
+/// The largest size with the proportions of `size` that stands in `room`; never more than `size`.
+[[nodiscard]] platform::PixelSize fittedInto(platform::PixelSize size, platform::PixelSize room);
+
+} // namespace brenvaldo::views

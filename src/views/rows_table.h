@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <controls/containers.h>
+#include <panels/layout.h>
+
+#include <QStandardItemModel>
+#include <QTreeView>
+
+namespace brenvaldo::views {
+
+/// Shows rows of text under column titles; rows with a field "depth" become a tree.
+class RowsTable : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    /// Without `columns` every field is shown and no titles.
+    explicit RowsTable(QList<panels::TableColumn> columns, QWidget* parent = nullptr);
+
+    void setRows(const controls::ArrayController& content);
+
+    /// Index into the content; -1 selects none.
+    void selectRow(int row);
+    [[nodiscard]] int selectedRow() const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override { return {80, sizeHint().height()}; }
+
+Q_SIGNALS:
+    /// The user has selected another row.
+    void picked(int row);
+
+private:
+    [[nodiscard]] QList<panels::TableColumn> shownColumns(const controls::ArrayController& content
+    ) const;
+    void fillModel(const controls::ArrayController& content);
+
+    QList<panels::TableColumn> m_columns;
+    QStandardItemModel m_model;
+    QList<QStandardItem*> m_items; ///< first item of each row, owned by the model
+    QList<QStringList> m_rows;
+    bool m_fills = false;
+};
+
+} // namespace brenvaldo::views

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "section_button.h"
+
+#include "icons.h"
+#include "style_painting.h"
+#include "theme.h"
+
+#include <QPainter>
+
+namespace brenvaldo::views {
+
+namespace {
+
+constexpr int iconSide = 18;
+
+} // namespace
+
+SectionButton::SectionButton(const QString& title, const QString& drawing, QWidget* parent)
+    : QAbstractButton(parent)
+    , m_drawing(drawing)
+{
+    setText(title);
+    setAccessibleName(title);
+    setFont(scaledFont(font(), 0.94));
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+QSize SectionButton::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(text()) + 20, iconSide + fontMetrics().height() + 17};
+}
+
+void SectionButton::paintEvent(QPaintEvent*)
+{
+    const Colours& shade = colours();
+    QPainter painter(this);
+    const QColor fill = isChecked() ? shade.accent : (underMouse() ? shade.hover : shade.field);
+    const QColor focusLine = isChecked() ? shade.text : shade.accent;
+    paintFieldFrame(
+        painter,
+        rect(),
+        {.fill = fill, .line = hasFocus() ? focusLine : Qt::transparent, .focused = hasFocus()}
+    );
+    const QColor ink = isChecked() ? shade.onAccent : shade.text;
+    const QRect place((width() - iconSide) / 2, 7, iconSide, iconSide);
+    paintIcon(painter, m_drawing, place, isChecked() ? ink : shade.muted);
+    painter.setPen(ink);
+    const QRect line(0, place.bottom() + 3, width(), fontMetrics().height() + 2);
+    painter.drawText(line, Qt::AlignCenter, text());
+}
+
+} // namespace brenvaldo::views

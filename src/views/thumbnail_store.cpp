@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "thumbnail_store.h"
+
+#include <platform/graphics/image_source.h>
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace brenvaldo::views {
+
+namespace {
+
+constexpr int workerCount = 2;
+constexpr int cacheKilobytes = 192 * 1024;
+constexpr int mostWaiting = 400;
+
+/// Size of a picture of `size` that fits a square; small pictures are not enlarged.
+platform::PixelSize fittedSize(platform::PixelSize size, int side)
+{
+    const double scale = std::min(1.0, double(side) / std::max(size.width, size.height));
+    return {
+        .width = std::max(1, qRound(size.width * scale)),
+        .height = std::max(1, qRound(size.height * scale))};
+}
+
+QImage rendered(const QString& path, int side)
+{
+    const auto source = platform::ImageSource::open(path);
+    if (!source)
+        return {};
+    const auto size = fittedSize(source->header().uprightSize, side);
+    const auto photo = source->uprightImage({.atLeast = size});
+    return photo ? photo->scaledTo(size).toQImage() : QImage();
+}
+
+} // namespace
+
+ThumbnailStore::ThumbnailStore(int side, QObject* parent)
+    : QObject(parent)
+    , m_side(side)
+    , m_entries(cacheKilobytes)
+{
+    m_workers.setMaxThreadCount(workerCount);
+    m_workers.setThreadPriority(QThread::LowPriority);
+}
+
+ThumbnailStore::~ThumbnailStore()
+{
+    m_waiting.clear();
+    m_workers.waitForDone();
+}
+
+ThumbnailStore::FileState ThumbnailStore::stateOf(const QString& path)
+{
+    const QFileInfo file(path);
+    return {.modified = file.lastModified(), .size = file.exists() ? file.size() : -1};
+}
+
+QImage ThumbnailStore::picture(const QString& path)
+{
+    const Entry* entry = m_entries.object(path);
+    if (!m_checked.value(path) || !entry) {
+        m_checked.insert(path, true);
+        m_waiting.removeOne(path);
+        m_waiting.append(path);
+        if (m_waiting.size() > mostWaiting)
+            m_checked.remove(m_waiting.takeFirst());
+        startNext();
+    }
+    return entry ? entry->picture : QImage();
+}
+
+bool ThumbnailStore::isUnreadable(const QString& path) const
+{
+    const Entry* entry = m_entries.object(path);
+    return entry && entry->isFinal && entry->picture.isNull();
+}
+
+void ThumbnailStore::checkFilesAgain() { m_checked.clear(); }
+
+void ThumbnailStore::startNext()
+{
+    while (m_running < workerCount && !m_waiting.isEmpty()) {
+        const QString path = m_waiting.takeLast();
+        const Entry* entry = m_entries.object(path);
+        const FileState known = entry && entry->isFinal ? entry->file : FileState{};
+        ++m_running;
+        m_workers.start([this, path, known] { make(path, known); });
+    }
+}
+
+void ThumbnailStore::make(const QString& path, const FileState& known)
+{
+    const auto tell = [this, path](const Entry& entry) {
+        QMetaObject::invokeMethod(this, [this, path, entry] { take(path, entry); });
+    };
+    const FileState file = stateOf(path);
+    if (file != known || file.size < 0) {
+        tell({.picture = rendered(path, m_side), .file = file, .isFinal = true});
+    }
+    QMetaObject::invokeMethod(this, [this, path] { finish(path); });
+}
+
+void ThumbnailStore::take(const QString& path, const Entry& entry)
+{
+    const auto kilobytes = std::max<qsizetype>(1, entry.picture.sizeInBytes() / 1024);
+    m_entries.insert(path, new Entry(entry), kilobytes);
+    Q_EMIT arrived(path);
+}
+
+void ThumbnailStore::finish(const QString&)
+{
+    --m_running;
+    startNext();
+}
+
+} // namespace brenvaldo::views

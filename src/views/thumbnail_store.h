@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCache>
+#include <QDateTime>
+#include <QHash>
+#include <QImage>
+#include <QObject>
+#include <QThreadPool>
+
+namespace brenvaldo::views {
+
+/// Small pictures of photos, made in worker threads; nothing here waits for a file.
+///
+/// A picture comes twice: at once the one that the camera has put into the file, then one made from
+/// the photo itself. What was asked for last is made first. Pictures are kept by path, date and
+/// size of the file, the longest unused ones are dropped.
+class ThumbnailStore : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Pictures fit a square of `side` pixels.
+    explicit ThumbnailStore(int side, QObject* parent = nullptr);
+    ~ThumbnailStore() override;
+    ThumbnailStore(const ThumbnailStore&) = delete;
+    ThumbnailStore& operator=(const ThumbnailStore&) = delete;
+    ThumbnailStore(ThumbnailStore&&) = delete;
+    ThumbnailStore& operator=(ThumbnailStore&&) = delete;
+
+    /// The best picture there is yet; null at first. Asking starts the making.
+    [[nodiscard]] QImage picture(const QString& path);
+
+    /// True when the file turned out to be no readable image.
+    [[nodiscard]] bool isUnreadable(const QString& path) const;
+
+    /// Looks again at each file when its picture is asked for next.
+    void checkFilesAgain();
+
+Q_SIGNALS:
+    /// A picture, or a better one, can be had for `path`.
+    void arrived(const QString& path);
+
+private:
+    struct FileState
+    {
+        QDateTime modified;
+        qint64 size = -1;
+
+        friend bool operator==(const FileState&, const FileState&) = default;
+    };
+
+    struct Entry
+    {
+        QImage picture;
+        FileState file;
+        bool isFinal = false;
+    };
+
+    [[nodiscard]] static FileState stateOf(const QString& path);
+    void startNext();
+    void make(const QString& path, const FileState& known);
+    void take(const QString& path, const Entry& entry);
+    void finish(const QString& path);
+
+    int m_side;
+    QCache<QString, Entry> m_entries;
+    QList<QString> m_waiting; ///< the newest last
+    QHash<QString, bool> m_checked; ///< paths looked at since the last check
+    int m_running = 0;
+    QThreadPool m_workers;
+};
+
+} // namespace brenvaldo::views
