@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "single_instance.h"
+
+#include <platform/foundation/user_defaults.h>
+#include <platform/graphics/engine.h>
+#include <views/main_window.h>
+#include <views/qt_desktop.h>
+#include <views/qt_file_chooser.h>
+#include <views/theme.h>
+#include <workspace/workspace.h>
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QIcon>
+
+using namespace brenvaldo;
+
+namespace {
+
+QStringList filesOfCommandLine()
+{
+    QStringList files;
+    const QStringList arguments = QApplication::arguments();
+    for (qsizetype index = 1; index < arguments.size(); ++index)
+        files.append(QFileInfo(arguments.at(index)).absoluteFilePath());
+    return files;
+}
+
+void nameProgram()
+{
+    QApplication::setApplicationName(u"Brenvaldo"_qs);
+    QApplication::setApplicationVersion(QStringLiteral(BRENVALDO_VERSION));
+    QGuiApplication::setDesktopFileName(u"example.dravoth.Brenvaldo"_qs);
+    QApplication::setWindowIcon(QIcon(u":/application/brenvaldo.svg"_qs));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const platform::Engine engine;
+    QApplication application(argc, argv);
+    nameProgram();
+    const QStringList files = filesOfCommandLine();
+    app::SingleInstance instance(app::instanceSocketPath());
+    if (instance.handOver(files))
+        return 0;
+    instance.listen();
+
+    views::applyTheme(application);
+    platform::UserDefaults defaults;
+    views::QtFileChooser chooser;
+    views::QtDesktop desktop;
+    workspace::Workspace workspace({.chooser = chooser, .desktop = desktop, .defaults = defaults});
+    workspace.start();
+    views::mainAppWindow window(workspace, chooser);
+    const auto laterFiles = instance.filesArrived.connect([&window](const QStringList& later) {
+        window.openFiles(later);
+    });
+    window.show();
+    if (!files.isEmpty())
+        QMetaObject::invokeMethod(
+            &window, [&window, files] { window.openFiles(files); }, Qt::QueuedConnection
+        );
+    return QApplication::exec();
+}
