@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dv_watermark.h"
+
+#include "placeholder_values.h"
+#include "text_mark.h"
+
+#include <imaging/dv_image_handling.h>
+#include <imaging/writer_rules.h>
+#include <panels/watermark_panel.h>
+#include <platform/foundation/log.h>
+#include <platform/foundation/paths.h>
+#include <platform/graphics/fonts.h>
+#include <platform/graphics/image_source.h>
+#include <platform/graphics/type_identifier.h>
+#include <platform/metadata/metadata_reader.h>
+
+namespace brenvaldo::watermark {
+
+namespace {
+
+// The bar's stages of one photo.
+constexpr int stagesOfNaming = 1;
+constexpr int stagesOfReadingSettings = 2;
+constexpr int stagesOfOpening = 3;
+constexpr int stagesOfDrawing = 4;
+constexpr int stagesOfWriting = 1;
+constexpr int stagesPerPhoto = stagesOfNaming + stagesOfReadingSettings + stagesOfOpening
+    + stagesOfDrawing + stagesOfWriting;
+
+QString ioFailure() { return QStringLiteral("IOFailure"); }
+
+/// The type that is written for a photo.
+QString typeOf(const QString& outputType, const QString& path)
+{
+    return imaging::keepsOriginalType(outputType)
+        ? platform::preferredTypeIdentifier(platform::pathExtension(path))
+        : outputType;
+}
+
+bool fillsWithPhoto(int effect)
+{
+    const TextFill fill = fillOfEffect(effect);
+    return fill == TextFill::Photo || fill == TextFill::NoirPhoto;
+}
+
+} // namespace
+
+DVWatermark::DVWatermark(Surroundings surroundings)
+    : m_surroundings(std::move(surroundings))
+    , m_progress(m_surroundings.bar, controls::watermarkBar)
+{
+}
+
+QString DVWatermark::setWatermarkText(const WatermarkRun& run, const PhotoDone& photoDone)
+{
+    if (run.photos.isEmpty())
+        return ioFailure();
+    const auto photos = static_cast<int>(run.photos.size());
+    m_step = static_cast<int>(controls::watermarkBar.maximum) / (photos * stagesPerPhoto);
+    m_progress.hInitialisePB();
+    for (const QString& path : run.photos) {
+        if (markPhoto(run, path, photoDone) == Step::EndRun)
+            return ioFailure();
+    }
+    m_progress.hStopPB();
+    return m_storeResult == imaging::ResultWord::Ok ? m_outputName : ioFailure();
+}
+
+DVWatermark::Step
+DVWatermark::markPhoto(const WatermarkRun& run, const QString& path, const PhotoDone& photoDone)
+{
+    m_outputName = outputNameOf(path);
+    finishStages(stagesOfNaming);
+    const TextWatermarkSettings settings = readSettings(m_surroundings.panel);
+    if (settings.text.isEmpty()) {
+        platform::log(QStringLiteral("no watermark text"));
+        return endRun(path, photoDone);
+    }
+    finishStages(stagesOfReadingSettings);
+    const std::optional<platform::Image> photo = openedForRun(path, settings.effect);
+    if (!photo)
+        return endRun(path, photoDone);
+    const auto properties = platform::readMetadataBlocks(path);
+    finishStages(stagesOfOpening);
+    const imaging::PictureToSave picture{
+        .destination = platform::deletingPathExtension(run.destination + m_outputName),
+        .typeIdentifier = typeOf(run.outputType, path),
+        .image = marked(*photo, settings, path),
+        .properties = properties ? &*properties : nullptr,
+        .compressionLevel = run.compressionLevel};
+    finishStages(stagesOfDrawing);
+    m_storeResult = imaging::DVImageHandling::hSaveToNewImageFileMPR(picture);
+    finishStages(stagesOfWriting);
+    photoDone(
+        {.source = path,
+         .target = imaging::writtenPath(
+             imaging::Writer::Watermark, picture.destination, picture.typeIdentifier
+         ),
+         .word = imaging::text(m_storeResult)}
+    );
+    return Step::GoOn;
+}
+
+void DVWatermark::finishStages(int stages)
+{
+    for (int stage = 0; stage < stages; ++stage)
+        m_progress.hProgressPB(m_step);
+}
+
+DVWatermark::Step DVWatermark::endRun(const QString& path, const PhotoDone& photoDone)
+{
+    m_progress.hStopPB();
+    photoDone({.source = path, .target = {}, .word = ioFailure()});
+    return Step::EndRun;
+}
+
+QString DVWatermark::outputNameOf(const QString& path) const
+{
+    return m_surroundings.outputName(path, platform::lastPathComponent(path));
+}
+
+std::optional<platform::Image> DVWatermark::openedForRun(const QString& path, int effect) const
+{
+    using Access = platform::ImageSource::Access;
+    const auto source = platform::ImageSource::open(path);
+    if (!source)
+        return std::nullopt;
+    return source->uprightImage(
+        {.access = fillsWithPhoto(effect) ? Access::Random : Access::OnePass, .atLeast = {}}
+    );
+}
+
+platform::Image DVWatermark::marked(
+    const platform::Image& photo, const TextWatermarkSettings& settings, const QString& path
+)
+{
+    const QString text
+        = replacingPlaceholders(settings.text, placeholderValuesOf(path, m_outputName));
+    const QFont font = platform::fontNamed(settings.fontName);
+    return platform::stamped(photo, textMark(settings, text, font, photo));
+}
+
+std::optional<platform::Image> DVWatermark::setWatermarkTextPreview(const QString& path)
+{
+    m_outputName = outputNameOf(path);
+    const TextWatermarkSettings settings = readSettings(m_surroundings.panel);
+    std::optional<platform::Image> result;
+    if (!settings.text.isEmpty()) {
+        if (const auto photo = m_surroundings.previewPhoto(path))
+            result = marked(*photo, settings, path);
+    }
+    m_progress.hStopPB();
+    return result;
+}
+
+} // namespace brenvaldo::watermark

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "text_watermark_settings.h"
+
+#include <controls/progress.h>
+#include <imaging/result_word.h>
+#include <platform/graphics/image.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+namespace brenvaldo::panels {
+struct WatermarkPanel;
+}
+
+namespace brenvaldo::watermark {
+
+/// What the batch driver gives to a watermark run.
+struct WatermarkRun
+{
+    QStringList photos; ///< paths, in the order of the run
+    QString destination; ///< folder, ends in "/"
+    QString outputType; ///< type identifier, or "original file type"
+    QString compressionLevel;
+    QString fileNameText; ///< not used by the text watermark
+    int photoProperty = 0; ///< not used by the text watermark
+};
+
+/// How one photo of a run ended.
+struct MarkedPhoto
+{
+    QString source;
+    QString target; ///< path that was to be written; empty when the run ended before
+    QString word; ///< result word, or "IOFailure" for the photo that ended the run
+};
+
+using PhotoDone = std::function<void(const MarkedPhoto&)>;
+
+/// Draws the watermarks of the panel on photos, for runs and for the preview.
+class DVWatermark
+{
+public:
+    struct Surroundings
+    {
+        panels::WatermarkPanel& panel;
+        controls::ProgressIndicator& bar;
+        /// Name of the output file after the chain of file-name actions.
+        std::function<QString(const QString& path, const QString& name)> outputName;
+        /// Opens the upright photo for a preview, ready to be evaluated more than once.
+        std::function<std::optional<platform::Image>(const QString& path)> previewPhoto;
+    };
+
+    explicit DVWatermark(Surroundings surroundings);
+
+    /// Marks every photo of the run with the text and writes it into the destination.
+    ///
+    /// Answers the last output name when the last photo was written, "IOFailure" otherwise. An
+    /// empty text and an unreadable photo end the run; what was written before stays.
+    QString setWatermarkText(const WatermarkRun& run, const PhotoDone& photoDone);
+
+    /// The photo at `path` with its mark; nothing without a text or a readable photo. No file is
+    /// written.
+    [[nodiscard]] std::optional<platform::Image> setWatermarkTextPreview(const QString& path);
+
+private:
+    enum class Step { GoOn, EndRun };
+
+    Step markPhoto(const WatermarkRun& run, const QString& path, const PhotoDone& photoDone);
+    Step endRun(const QString& path, const PhotoDone& photoDone);
+    void finishStages(int stages);
+    [[nodiscard]] QString outputNameOf(const QString& path) const;
+    [[nodiscard]] std::optional<platform::Image>
+    openedForRun(const QString& path, int effect) const;
+    [[nodiscard]] platform::Image marked(
+        const platform::Image& photo, const TextWatermarkSettings& settings, const QString& path
+    );
+
+    Surroundings m_surroundings;
+    controls::Progress m_progress;
+    double m_step = 0;
+    QString m_outputName;
+    imaging::ResultWord m_storeResult = imaging::ResultWord::Failed;
+};
+
+} // namespace brenvaldo::watermark
