@@ -24,6 +24,8 @@ Panels::Panels()
     addFilterViews();
     addFileManagementPanels();
     add(vwHtmlExport);
+    add(vwPhotoInfo);
+    add(vwPhotoInfo.mTree);
     addSheets();
 }
 

@@ -9,6 +9,7 @@
 #include "gallery_panel.h"
 #include "note_panel.h"
 #include "output_panels.h"
+#include "photo_info_panel.h"
 #include "preferences_sheet.h"
 #include "presets_sheet.h"
 #include "profile_panel.h"
@@ -55,6 +56,7 @@ public:
         u"type can hold it."_qs};
     CodePanel vwQRBarCode;
     GalleryPanel vwHtmlExport;
+    PhotoInfoPanel vwPhotoInfo;
     PresetsSheet wwPresetsWindow;
     PreferencesSheet wwPreferencesWindow;
 
