@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_builder.h"
 
-#include <platform/metadata/bytes.h>
 #include <platform/metadata/jpeg_segments.h>
 #include <support/exif_block.h>
+#include <support/iptc_block.h>
 
 namespace brenvaldo::test {
-
-using platform::appendUnsigned;
-using platform::ByteOrder;
 
 namespace {
 
@@ -33,26 +30,6 @@ QByteArray unevenBytes(int length)
 }
 
 } // namespace
-
-QByteArray iptcDataSet(int number, const QByteArray& value)
-{
-    QByteArray bytes("\x1C\x02", 2);
-    bytes.append(static_cast<char>(number));
-    appendUnsigned(bytes, static_cast<std::uint64_t>(value.size()), 2, ByteOrder::Big);
-    return bytes + value;
-}
-
-QByteArray photoshopResource(int id, const QByteArray& data)
-{
-    QByteArray bytes("8BIM");
-    appendUnsigned(bytes, static_cast<std::uint64_t>(id), 2, ByteOrder::Big);
-    bytes.append(2, '\0');
-    appendUnsigned(bytes, static_cast<std::uint64_t>(data.size()), 4, ByteOrder::Big);
-    bytes += data;
-    if (data.size() % 2 != 0)
-        bytes.append('\0');
-    return bytes;
-}
 
 QByteArray xmpPacket(const QByteArray& title, qsizetype length)
 {

@@ -7,12 +7,6 @@
 
 namespace brenvaldo::test {
 
-/// One IIM data set of record 2.
-[[nodiscard]] QByteArray iptcDataSet(int number, const QByteArray& value);
-
-/// A Photoshop image resource without a name.
-[[nodiscard]] QByteArray photoshopResource(int id, const QByteArray& data);
-
 /// An XMP packet with `title` and as much padding as it takes to be `length` bytes long.
 [[nodiscard]] QByteArray xmpPacket(const QByteArray& title, qsizetype length = 0);
 

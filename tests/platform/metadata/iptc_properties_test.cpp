@@ -4,6 +4,7 @@
 #include <platform/metadata/exif_properties.h>
 #include <platform/metadata/iptc_properties.h>
 #include <platform/metadata/xmp_values.h>
+#include <support/iptc_block.h>
 #include <support/text_printing.h>
 
 #include <gtest/gtest.h>

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "property_tree.h"
+
+#include <panels/panels.h>
+#include <platform/metadata/image_properties.h>
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace brenvaldo::metadata {
+
+/// Reads the metadata of photos: single values for other subsystems, and all of it for the user.
+class mMeta
+{
+public:
+    /// `panels` must outlive this object.
+    explicit mMeta(panels::Panels& panels);
+
+    /// Shows the comment and the property tree of the photo at `path`; answers the last tree.
+    const QList<PropertyNode>& hiDoNothing(const QString& path);
+
+    /// Builds the tree of `properties` and keeps it.
+    const QList<PropertyNode>& propTree(const platform::PropertyDictionary& properties);
+    [[nodiscard]] const QList<PropertyNode>& myVarTree() const { return m_tree; }
+
+    /// Fills the comment and the twelve IPTC fields from the photo at `path`; answers "OK".
+    QString hGetMetaData(const QString& path);
+
+    /// The properties of the file's image 0: what the readers below take as a source. Nothing for a
+    /// file that is no image.
+    [[nodiscard]] static std::optional<platform::PropertyDictionary>
+    getMyImageSource(const QString& path);
+
+    /// Width and height of the stored pixels.
+    [[nodiscard]] static QList<qint64>
+    hGetPixelFormatFromSource(const platform::PropertyDictionary& source);
+
+    /// The user comment for the name "EXIF User Comment", the date of the exposure for any other;
+    /// "" without one, or for a comment of blanks only.
+    [[nodiscard]] static QString
+    hGetExifUcFromSource(const platform::PropertyDictionary& source, const QString& name);
+
+    /// The same for a file, by its extension of a kind that can hold EXIF. An empty comment gives
+    /// way to the IPTC caption, an empty date to the IPTC time.
+    [[nodiscard]] static QString hGetExifUc(const QString& path, const QString& name);
+
+    /// The IPTC value of that name, such as "IPTC Keyword"; "" without one. A name that is not
+    /// known gives the value found last.
+    [[nodiscard]] QString hGetSomeIPTC(const QString& path, const QString& name);
+
+    /// The name of the colour space of the photo; "" for a file that is no image.
+    [[nodiscard]] static QString hGetColorProfile(const QString& path);
+
+    /// Width and height as the photo shows, as texts; empty for a file that is no image.
+    [[nodiscard]] static QStringList hGetPixelFormat(const QString& path);
+
+private:
+    void showComment(const platform::PropertyDictionary& properties);
+    void showIptc(const platform::PropertyDictionary* iptc);
+
+    panels::Panels& m_panels;
+    QList<PropertyNode> m_tree;
+    QString m_iptcValue;
+};
+
+} // namespace brenvaldo::metadata

@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <metadata/metadata_texts.h>
+#include <metadata/mmeta.h>
+#include <support/case_name.h>
+#include <support/exif_block.h>
+#include <support/iptc_block.h>
+#include <support/photo_builder.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using namespace brenvaldo;
+using metadata::mMeta;
+using metadata::PropertyNode;
+using test::exifBlock;
+using test::iptcDataSet;
+using test::PhotoBuilder;
+using test::PhotoFormat;
+
+namespace {
+
+const QString userComment = u"EXIF User Comment"_qs;
+const QString creationDate = u"EXIF Creation Date"_qs;
+
+QByteArray asciiComment(const QByteArray& text) { return QByteArray("ASCII\0\0\0", 8) + text; }
+
+PhotoBuilder photoWithComment(const QByteArray& comment)
+{
+    return PhotoBuilder{}.exif(
+        exifBlock({.dateTimeOriginal = "2026:11:15 10:44:33", .userComment = asciiComment(comment)})
+    );
+}
+
+PhotoBuilder photoWithIptc(const QByteArray& dataSets)
+{
+    return PhotoBuilder{}.jpegSegment('\xED', test::iptcSegmentContents(dataSets));
+}
+
+class Meta : public testing::Test
+{
+protected:
+    [[nodiscard]] QString write(const PhotoBuilder& photo, const QString& name) const
+    {
+        return photo.write(m_folder.path(name));
+    }
+    [[nodiscard]] QString jpeg(const PhotoBuilder& photo) const
+    {
+        return write(photo, u"a.jpg"_qs);
+    }
+    [[nodiscard]] QString text() const { return m_folder.write(u"a.txt"_qs, "no image"); }
+
+    [[nodiscard]] QString shownComment() const
+    {
+        return m_panels.vwFileManagementEXIF.tfExifUserComment.stringValue();
+    }
+    [[nodiscard]] const QList<QStringList>& shownRows() const
+    {
+        return m_panels.vwPhotoInfo.mTree.arrangedObjects();
+    }
+
+    test::TemporaryFolder m_folder;
+    panels::Panels m_panels;
+    mMeta m_meta{m_panels};
+};
+
+} // namespace
+
+TEST_F(Meta, ShowsThatAPhotoWithoutExifHasNoCommentAndStillItsTree)
+{
+    const QString path = jpeg(PhotoBuilder{});
+
+    m_meta.hiDoNothing(path);
+
+    EXPECT_EQ(shownComment(), metadata::notSupportedOrAvailableText());
+    EXPECT_TRUE(shownRows().contains(QStringList({u"0"_qs, u"PixelWidth"_qs, u"47"_qs})));
+}
+
+TEST_F(Meta, ShowsTheCommentAndTheTreeOfThePhoto)
+{
+    const QList<PropertyNode>& tree = m_meta.hiDoNothing(jpeg(photoWithComment("hello")));
+
+    EXPECT_EQ(shownComment(), u"hello"_qs);
+    EXPECT_EQ(shownRows(), metadata::propertyRows(tree));
+    EXPECT_EQ(m_meta.myVarTree(), tree);
+}
+
+TEST_F(Meta, ShowsAnEmptyCommentAsItIs)
+{
+    m_meta.hiDoNothing(jpeg(photoWithComment("")));
+
+    EXPECT_EQ(shownComment(), QString());
+}
+
+TEST_F(Meta, ShowsThatAFileWhichIsNoImageIsNotSupportedAndClearsTheTree)
+{
+    m_meta.hiDoNothing(jpeg(photoWithComment("hello")));
+
+    m_meta.hiDoNothing(text());
+
+    EXPECT_EQ(shownComment(), metadata::notSupportedText());
+    EXPECT_TRUE(shownRows().isEmpty());
+}
+
+TEST_F(Meta, GivesANestedDictionaryAsANodeWithSortedChildren)
+{
+    const QList<PropertyNode>& tree = m_meta.hiDoNothing(jpeg(photoWithComment("hello")));
+
+    const auto exif = std::find_if(tree.begin(), tree.end(), [](const PropertyNode& node) {
+        return node.key == u"{Exif}"_qs;
+    });
+    ASSERT_NE(exif, tree.end());
+    EXPECT_EQ(exif->val, QString());
+    EXPECT_TRUE(std::is_sorted(
+        exif->children.begin(),
+        exif->children.end(),
+        [](const PropertyNode& left, const PropertyNode& right) { return left.key < right.key; }
+    ));
+    EXPECT_FALSE(exif->children.isEmpty());
+}
+
+TEST_F(Meta, AnswersTheComment)
+{
+    EXPECT_EQ(mMeta::hGetExifUc(jpeg(photoWithComment("hello")), userComment), u"hello"_qs);
+}
+
+TEST_F(Meta, TakesACommentOfBlanksForNone)
+{
+    const QString path = jpeg(photoWithComment("   "));
+
+    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), QString());
+    EXPECT_EQ(mMeta::hGetExifUcFromSource(*mMeta::getMyImageSource(path), userComment), QString());
+}
+
+TEST_F(Meta, AnswersTheCaptionInPlaceOfAnEmptyComment)
+{
+    const QString path = jpeg(photoWithComment("").jpegSegment(
+        '\xED', test::iptcSegmentContents(iptcDataSet(120, "a caption"))
+    ));
+
+    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), u"a caption"_qs);
+    EXPECT_EQ(mMeta::hGetExifUcFromSource(*mMeta::getMyImageSource(path), userComment), QString());
+}
+
+TEST_F(Meta, AnswersNothingInPlaceOfAMissingComment)
+{
+    const QString path
+        = jpeg(PhotoBuilder{}
+                   .exif(exifBlock({.dateTimeOriginal = "2026:11:15 10:44:33"}))
+                   .jpegSegment('\xED', test::iptcSegmentContents(iptcDataSet(120, "a caption"))));
+
+    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), QString());
+}
+
+TEST_F(Meta, AnswersTheDateForEveryOtherName)
+{
+    const QString path = jpeg(photoWithComment("hello"));
+
+    EXPECT_EQ(mMeta::hGetExifUc(path, creationDate), u"2026:11:15 10:44:33"_qs);
+    EXPECT_EQ(mMeta::hGetExifUc(path, u"anything"_qs), u"2026:11:15 10:44:33"_qs);
+}
+
+TEST_F(Meta, AnswersNothingWithoutExif)
+{
+    EXPECT_EQ(mMeta::hGetExifUc(jpeg(PhotoBuilder{}), creationDate), QString());
+    EXPECT_EQ(mMeta::hGetExifUc(text(), creationDate), QString());
+}
+
+TEST_F(Meta, PassesExtensionsThatArePartOfAKnownOne)
+{
+    const QByteArray photo = photoWithComment("hello").bytes();
+
+    EXPECT_EQ(mMeta::hGetExifUc(m_folder.write(u"a.P"_qs, photo), userComment), u"hello"_qs);
+    EXPECT_EQ(mMeta::hGetExifUc(m_folder.write(u"a.TIFF"_qs, photo), userComment), u"hello"_qs);
+    EXPECT_EQ(mMeta::hGetExifUc(m_folder.write(u"a.webp"_qs, photo), userComment), QString());
+}
+
+TEST_F(Meta, PassesPngForExifAndNotForIptc)
+{
+    const QString path = write(
+        PhotoBuilder{}
+            .format(PhotoFormat::Png)
+            .exif(exifBlock(
+                {.dateTimeOriginal = "2026:11:15 10:44:33", .userComment = asciiComment("hello")}
+            )),
+        u"a.png"_qs
+    );
+
+    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), u"hello"_qs);
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC City"_qs), QString());
+}
+
+TEST_F(Meta, JoinsKeywords)
+{
+    const QString path = jpeg(photoWithIptc(iptcDataSet(25, "a") + iptcDataSet(25, "b")));
+
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Keyword"_qs), u"a; b"_qs);
+}
+
+TEST_F(Meta, AnswersTheFirstOfTheCreatorsTitles)
+{
+    const QString path = jpeg(photoWithIptc(iptcDataSet(85, "first") + iptcDataSet(85, "second")));
+
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Creator Title"_qs), u"first"_qs);
+}
+
+TEST_F(Meta, AnswersTheValueFoundLastForANameThatIsNotKnown)
+{
+    const QString path = jpeg(photoWithIptc(iptcDataSet(90, "Bern") + iptcDataSet(105, "News")));
+    const QString found = m_meta.hGetSomeIPTC(path, u"IPTC City"_qs);
+
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Description"_qs), found);
+    EXPECT_EQ(m_meta.hGetSomeIPTC(jpeg(PhotoBuilder{}), u"IPTC Description"_qs), QString());
+}
+
+TEST_F(Meta, AnswersNothingForAnIptcValueThatIsMissing)
+{
+    const QString path = jpeg(photoWithIptc(iptcDataSet(90, "Bern")));
+
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Keyword"_qs), QString());
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Creator Title"_qs), QString());
+}
+
+struct IptcCase
+{
+    const char* name;
+    QString property;
+    int dataSet;
+
+    friend void PrintTo(const IptcCase& row, std::ostream* out) { *out << row.name; }
+};
+
+class IptcValue : public Meta, public testing::WithParamInterface<IptcCase>
+{
+};
+
+TEST_P(IptcValue, IsFoundByItsName)
+{
+    const QString path = jpeg(photoWithIptc(iptcDataSet(GetParam().dataSet, "value")));
+
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, GetParam().property), u"value"_qs);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Names,
+    IptcValue,
+    testing::Values(
+        IptcCase{"CreatorTitle", u"IPTC Creator Title"_qs, 85},
+        IptcCase{"Caption", u"IPTC Caption"_qs, 120},
+        IptcCase{"Keyword", u"IPTC Keyword"_qs, 25},
+        IptcCase{"City", u"IPTC City"_qs, 90},
+        IptcCase{"CaptionWriter", u"IPTC Caption Writer"_qs, 122},
+        IptcCase{"Copyrights", u"IPTC Copyrights"_qs, 116},
+        IptcCase{"Country", u"IPTC Country"_qs, 101},
+        IptcCase{"Credits", u"IPTC Credits"_qs, 110},
+        IptcCase{"Headline", u"IPTC Headline"_qs, 105},
+        IptcCase{"SubjectCode", u"IPTC Subject Code"_qs, 12},
+        IptcCase{"StateProvince", u"IPTC State Province"_qs, 95}
+    ),
+    test::CaseName{}
+);
+
+TEST_F(Meta, FillsTheIptcFields)
+{
+    const QString path = jpeg(photoWithComment("hello").jpegSegment(
+        '\xED',
+        test::iptcSegmentContents(
+            iptcDataSet(5, "title") + iptcDataSet(25, "a") + iptcDataSet(25, "b")
+            + iptcDataSet(80, "Jane") + iptcDataSet(116, "(c) Jane")
+        )
+    ));
+
+    const QString answer = m_meta.hGetMetaData(path);
+
+    const panels::ExifPanel& panel = m_panels.vwFileManagementEXIF;
+    EXPECT_EQ(answer, u"OK"_qs);
+    EXPECT_EQ(shownComment(), u"hello"_qs);
+    EXPECT_EQ(panel.tfIPTCTitle.stringValue(), u"title"_qs);
+    EXPECT_EQ(panel.tfIPTCKeyWords.stringValue(), u"a;b;"_qs);
+    EXPECT_EQ(panel.tfIPTCCreator.stringValue(), u"Jane"_qs);
+    EXPECT_EQ(panel.tfIPTCCopyRight.stringValue(), u"(c) Jane"_qs);
+    EXPECT_EQ(panel.tfIPTCHeadline.stringValue(), QString());
+}
+
+TEST_F(Meta, EmptiesTheIptcFieldsForAPhotoWithoutIptc)
+{
+    m_meta.hGetMetaData(jpeg(photoWithIptc(iptcDataSet(5, "title"))));
+
+    m_meta.hGetMetaData(write(PhotoBuilder{}, u"b.jpg"_qs));
+
+    EXPECT_EQ(m_panels.vwFileManagementEXIF.tfIPTCTitle.stringValue(), QString());
+    EXPECT_EQ(shownComment(), QString());
+}
+
+TEST_F(Meta, AnswersStoredAndUprightSizes)
+{
+    const QString path = jpeg(PhotoBuilder{}.size(61, 23).orientation(6));
+
+    EXPECT_EQ(
+        mMeta::hGetPixelFormatFromSource(*mMeta::getMyImageSource(path)), (QList<qint64>{61, 23})
+    );
+    EXPECT_EQ(mMeta::hGetPixelFormat(path), (QStringList{u"23"_qs, u"61"_qs}));
+    EXPECT_TRUE(mMeta::hGetPixelFormat(text()).isEmpty());
+}
+
+TEST_F(Meta, NamesTheColourSpaceOfAPhotoWithoutAProfile)
+{
+    EXPECT_EQ(mMeta::hGetColorProfile(jpeg(PhotoBuilder{})), u"sRGB IEC61966-2.1"_qs);
+    EXPECT_EQ(
+        mMeta::hGetColorProfile(jpeg(PhotoBuilder{}.model(test::PhotoModel::Gray))),
+        u"Generic Gray Gamma 2.2 Profile"_qs
+    );
+    EXPECT_EQ(mMeta::hGetColorProfile(text()), QString());
+}
