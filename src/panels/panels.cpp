@@ -114,7 +114,8 @@ bool Panels::isShown(const PanelView& view) const
             = std::find_if(m_views.begin(), m_views.end(), [&](const PanelView* other) {
                   return other->controls().contains(control);
               });
-        return around == m_views.end() || isShown(**around);
+        if (around == m_views.end() || isShown(**around))
+            return true;
     }
     return false;
 }
