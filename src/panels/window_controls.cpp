@@ -71,6 +71,8 @@ WindowControls::WindowControls()
     pubFileManagementSelect.addAction(
         QStringLiteral("cGUIcontrols.hChooseMainFileManagementFunction")
     );
+    tfHTMLAlertTitle.addAlias(QStringLiteral("tfAlertTitle"));
+    tfHTMLAlertInfo.addAlias(QStringLiteral("tfAlertDescription"));
     cbPhotoToProcess.addAction(QStringLiteral("cCollectionViewController.hProcessAllPhotoFlag"));
 }
 
