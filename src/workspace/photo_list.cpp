@@ -87,6 +87,30 @@ void PhotoList::sortByName(Order order)
     entriesChanged();
 }
 
+void PhotoList::clear()
+{
+    if (isEmpty())
+        return;
+    m_entries.clear();
+    entriesChanged();
+    select(std::nullopt);
+}
+
+void PhotoList::setAllTicks(int state)
+{
+    for (cCollectionViewItem& entry : m_entries)
+        entry.myPhotoSelect = state;
+    entriesChanged();
+}
+
+void PhotoList::setTick(int index, int state)
+{
+    if (index < 0 || index >= count())
+        return;
+    m_entries[index].myPhotoSelect = state;
+    entriesChanged();
+}
+
 void PhotoList::select(std::optional<int> index)
 {
     const bool inside = index && *index >= 0 && *index < count();

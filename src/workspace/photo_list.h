@@ -59,6 +59,10 @@ public:
     void replaceAt(int index, const cCollectionViewItem& entry);
     void move(int from, int to);
     void sortByName(Order order);
+    void clear();
+    /// Ticks (1) or unticks (0) all entries.
+    void setAllTicks(int state);
+    void setTick(int index, int state);
 
     [[nodiscard]] std::optional<int> selectedIndex() const { return m_selected; }
     /// An index outside of the list selects nothing.

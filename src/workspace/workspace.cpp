@@ -1,23 +1,102 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspace.h"
 
+#include "app_delegate.h"
+#include "gui_controls.h"
+#include "photo_preview.h"
+#include "selected_function.h"
+#include "subsystem_wiring.h"
+
+#include <imaging/color_well_handling.h>
+#include <presets/preset_manager.h>
+#include <presets/sheet_control.h>
+#include <watermark/panel_actions.h>
+
 namespace brenvaldo::workspace {
 
 struct Workspace::Parts
 {
-    Surroundings surroundings;
-    panels::Panels panels = {};
-    controls::ActionRegistry actions = {};
-    PhotoList photos = {};
-    RunJournal journal = {};
-    platform::NotificationCenter notifications = {};
+    Parts(const Surroundings& surroundings, platform::Signal<const QString&, const QString&>& alert)
+        : collectionView(
+            {.panels = panels,
+             .photos = photos,
+             .chooser = surroundings.chooser,
+             .subsystems = subsystems,
+             .hAlertWindow = [this](
+                                 const QString& title, const QString& text
+                             ) { guiControls.hAlertWindow(title, text); }}
+        )
+        , guiControls(
+              {.panels = panels,
+               .photos = photos,
+               .journal = journal,
+               .chooser = surroundings.chooser,
+               .desktop = surroundings.desktop,
+               .subsystems = subsystems,
+               .collectionView = collectionView,
+               .alertShown = alert}
+          )
+        , delegate(
+              {.panels = panels,
+               .notifications = notifications,
+               .guiControls = guiControls,
+               .collectionView = collectionView}
+          )
+        , sheetControl(
+              panels,
+              surroundings.chooser,
+              surroundings.defaults,
+              [this](const QString& title, const QString& text) {
+                  guiControls.hAlertWindow(title, text);
+              }
+          )
+        , presetManager(
+              panels, [] { return cSelectedFunction::sharedModel().myString.value_or(QString()); }
+          )
+        , colorWells(panels)
+    {
+    }
+
+    void registerActions();
+
+    panels::Panels panels;
+    controls::ActionRegistry actions;
+    PhotoList photos;
+    RunJournal journal;
+    platform::NotificationCenter notifications;
+    imaging::DVImageHandling imageHandling;
+    SubsystemLinks subsystems = subsystemLinks(imageHandling);
+    cCollectionViewController collectionView;
+    cGUIcontrols guiControls;
+    AppDelegate delegate;
+    presets::cSheetControl sheetControl;
+    presets::cPresetManager presetManager;
+    imaging::cColorWellHandling colorWells;
     bool hasStarted = false;
-    QStringList waitingFiles = {};
+    QStringList waitingFiles;
 };
 
-Workspace::Workspace(const Surroundings& surroundings)
-    : m_parts(std::make_unique<Parts>(surroundings))
+void Workspace::Parts::registerActions()
 {
+    collectionView.registerActions(actions);
+    guiControls.registerActions(actions);
+    sheetControl.registerActions(actions);
+    presetManager.registerActions(actions);
+    watermark::registerPanelActions(actions, panels.vwWatermark, notifications);
+    actions.add(
+        u"cColorWellHandling"_qs,
+        u"controlTextDidEndEditing"_qs,
+        [this](const controls::Sender& sender) {
+            if (const auto* field = dynamic_cast<const controls::TextControl*>(sender.control))
+                colorWells.controlTextDidEndEditing(*field);
+        }
+    );
+}
+
+Workspace::Workspace(const Surroundings& surroundings)
+    : m_parts(std::make_unique<Parts>(surroundings, alertShown))
+{
+    m_parts->registerActions();
 }
 
 Workspace::~Workspace() = default;
@@ -27,29 +106,43 @@ controls::ActionRegistry& Workspace::actions() { return m_parts->actions; }
 PhotoList& Workspace::photos() { return m_parts->photos; }
 RunJournal& Workspace::journal() { return m_parts->journal; }
 platform::NotificationCenter& Workspace::notifications() { return m_parts->notifications; }
+cCollectionViewController& Workspace::collectionView() { return m_parts->collectionView; }
+AppDelegate& Workspace::delegate() { return m_parts->delegate; }
 
 void Workspace::start()
 {
+    m_parts->delegate.applicationWillFinishLaunching();
     m_parts->hasStarted = true;
-    openFiles(std::exchange(m_parts->waitingFiles, {}));
+    const QStringList waiting = std::exchange(m_parts->waitingFiles, {});
+    if (!waiting.isEmpty())
+        openFiles(waiting);
 }
 
 void Workspace::openFiles(const QStringList& paths)
 {
-    if (!m_parts->hasStarted)
+    if (m_parts->hasStarted)
+        m_parts->delegate.applicationopenFiles(paths);
+    else
         m_parts->waitingFiles.append(paths);
 }
 
-void Workspace::lastWindowClosed() { }
+void Workspace::lastWindowClosed()
+{
+    m_parts->delegate.applicationShouldTerminateAfterLastWindowClosed();
+}
 
 std::optional<platform::Image> Workspace::composedPreview() const
 {
-    return m_parts->panels.window.myTemplatePreview.image();
+    const panels::WindowControls& window = m_parts->panels.window;
+    return composed(window.myTemplatePreview.image(), window.myTemplateOverlayPreview.image());
 }
 
 controls::ArrayController* Workspace::rowsOf(const QString& tableName)
 {
-    return dynamic_cast<controls::ArrayController*>(m_parts->panels.control(tableName));
+    controls::Control* named = m_parts->panels.control(tableName);
+    if (const auto* table = dynamic_cast<controls::TableView*>(named))
+        named = m_parts->panels.control(table->content().name());
+    return dynamic_cast<controls::ArrayController*>(named);
 }
 
 } // namespace brenvaldo::workspace

@@ -15,6 +15,9 @@
 
 namespace brenvaldo::workspace {
 
+class AppDelegate;
+class cCollectionViewController;
+
 /// What a program gives to the workspace: a window asks and shows, a script answers and prints.
 struct Surroundings
 {
@@ -40,6 +43,9 @@ public:
     [[nodiscard]] PhotoList& photos();
     [[nodiscard]] RunJournal& journal();
     [[nodiscard]] platform::NotificationCenter& notifications();
+
+    [[nodiscard]] cCollectionViewController& collectionView();
+    [[nodiscard]] AppDelegate& delegate();
 
     /// Brings the program to its first state; once, before the window shows.
     void start();

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app_delegate.h"
+
+#include "metadata_keys.h"
+#include "preview_notifications.h"
+
+#include <files/tool_box.h>
+#include <platform/foundation/folders.h>
+#include <platform/foundation/paths.h>
+#include <presets/db_view_controller.h>
+
+namespace brenvaldo::workspace {
+
+namespace {
+
+/// Makes the folder of temporary files; one that stood there already is emptied.
+void prepareTemp()
+{
+    const QString temp = platform::appendingPathComponent(platform::homeFolder(), u"Temp"_qs);
+    if (files::cNSFileHandling::hCreateDirectory(temp) != files::FileResult::Exists)
+        return;
+    files::cNSFileHandling::hDeleteFiles(files::cToolBox::hGetFilesInDir(temp));
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(const Links& links)
+    : m_panels(links.panels)
+    , m_notifications(links.notifications)
+    , m_guiControls(links.guiControls)
+    , m_collectionView(links.collectionView)
+{
+}
+
+void AppDelegate::applicationWillFinishLaunching()
+{
+    m_guiControls.hSetInitialView();
+    fillMetadataKeys();
+    presets::dbViewController().linkToPresetsDB();
+    makeFolders();
+    fillFonts();
+    m_panels.window.myTemplatePreview.clear();
+    m_panels.vwResizePhotos.pubResizeType.selectItemAtIndex(0);
+    m_panels.vwResizePhotos.pubScaleType.setHidden(false);
+    m_panels.vwResizePhotos.pubScaleType.selectItemAtIndex(0);
+    observePreviewNotifications();
+}
+
+void AppDelegate::fillMetadataKeys()
+{
+    panels::RenamePanel& panel = m_panels.vwFileManagementRename;
+    for (controls::ComboBox* box : {&panel.cbxPrefixMetaData, &panel.cbxPostfixMetaData}) {
+        box->setTitles(metadataKeys());
+        box->selectItemAtIndex(0);
+    }
+}
+
+void AppDelegate::makeFolders()
+{
+    files::cNSFileHandling::hCreateDirectory(
+        platform::appendingPathComponent(platform::applicationSupportFolder(), u"DravothCom"_qs)
+    );
+    prepareTemp();
+}
+
+void AppDelegate::fillFonts()
+{
+    controls::ComboBox& fonts = m_panels.vwWatermark.cbFontList;
+    fonts.setTitles(files::cToolBox::hGetAllInstalledFonts());
+    fonts.selectItemAtIndex(1);
+}
+
+void AppDelegate::observePreviewNotifications()
+{
+    for (const QString& name : previewNotifications()) {
+        m_previewNotifications.push_back(m_notifications.addObserver(name, [this](const QString&) {
+            callForWMPreview();
+        }));
+    }
+}
+
+void AppDelegate::applicationopenFiles(const QStringList& paths)
+{
+    m_collectionView.hDroppedPhotos(paths);
+}
+
+bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed()
+{
+    prepareTemp();
+    return true;
+}
+
+void AppDelegate::callForWMPreview() { m_collectionView.callForPreview(); }
+
+bool AppDelegate::textViewdoCommandBySelector(const QString& selector)
+{
+    if (selector != u"insertTab:")
+        return false;
+    focusRequested(m_panels.vwWatermark.tfFontSize);
+    if (!m_panels.vwShowPreview.cbShowPreview.isOn())
+        return false;
+    if (m_panels.vwWatermark.tbvWatermarkType.selectedLabel() == u"Text")
+        m_collectionView.callForPreview();
+    return true;
+}
+
+} // namespace brenvaldo::workspace

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "gui_controls.h"
+
+#include <platform/foundation/notification_center.h>
+
+#include <vector>
+
+namespace brenvaldo::workspace {
+
+/// What the program does when it starts, is given files, and ends.
+class AppDelegate
+{
+public:
+    struct Links
+    {
+        panels::Panels& panels;
+        platform::NotificationCenter& notifications;
+        cGUIcontrols& guiControls;
+        cCollectionViewController& collectionView;
+    };
+
+    explicit AppDelegate(const Links& links);
+
+    /// Brings controls, folders and observers to their first state.
+    void applicationWillFinishLaunching();
+
+    /// Adds files that were opened with the program.
+    void applicationopenFiles(const QStringList& paths);
+
+    /// Empties `Temp`; the program ends with its last window.
+    bool applicationShouldTerminateAfterLastWindowClosed();
+
+    void callForWMPreview();
+
+    /// True when the command of the watermark text view was handled. "insertTab:" asks for the
+    /// focus of the next field, and refreshes the preview of a text watermark.
+    bool textViewdoCommandBySelector(const QString& selector);
+
+    /// The control that is to get the keyboard focus.
+    platform::Signal<const controls::Control&> focusRequested;
+
+private:
+    void fillMetadataKeys();
+    void makeFolders();
+    void fillFonts();
+    void observePreviewNotifications();
+
+    panels::Panels& m_panels;
+    platform::NotificationCenter& m_notifications;
+    cGUIcontrols& m_guiControls;
+    cCollectionViewController& m_collectionView;
+    std::vector<platform::Subscription> m_previewNotifications;
+};
+
+} // namespace brenvaldo::workspace

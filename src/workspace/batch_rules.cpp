@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "batch_rules.h"
+
+#include <imaging/result_word.h>
+#include <platform/foundation/log.h>
+#include <platform/foundation/paths.h>
+
+namespace brenvaldo::workspace {
+
+QString applyOnFilter(int index)
+{
+    switch (index) {
+    case 0:
+        return u"ALL"_qs;
+    case 1:
+        return u"L"_qs;
+    case 2:
+        return u"P"_qs;
+    default:
+        return u"S"_qs;
+    }
+}
+
+double progressStep(qsizetype photos) { return static_cast<double>(1000 / photos); }
+
+QString destinationBase(const QString& folder, const QString& outputName)
+{
+    return platform::deletingPathExtension(folder + outputName);
+}
+
+QString failedWord() { return imaging::text(imaging::ResultWord::Failed); }
+
+void logNotBuilt(const QLatin1String& function)
+{
+    platform::log(
+        u"The function \"%1\" comes with a later version; its photos are left as they are."_qs.arg(
+            function
+        )
+    );
+}
+
+} // namespace brenvaldo::workspace

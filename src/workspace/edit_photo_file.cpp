@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "collection_view_controller.h"
+#include "list_entry.h"
+
+#include <platform/foundation/paths.h>
+
+namespace brenvaldo::workspace {
+
+namespace {
+
+/// The folder of the file, ending in "/".
+QString folderOf(const QString& path)
+{
+    const QString folder = platform::deletingLastPathComponent(path);
+    return folder.endsWith(u'/') ? folder : folder + u'/';
+}
+
+} // namespace
+
+void cCollectionViewController::hRotateRight() { rotateSelected(-90); }
+
+void cCollectionViewController::hRotateLeft() { rotateSelected(90); }
+
+void cCollectionViewController::hFlipHorizontal()
+{
+    editSelected(m_subsystems.quickEdits.hFlipHorizontalPicture);
+}
+
+void cCollectionViewController::hFlipVertical()
+{
+    editSelected(m_subsystems.quickEdits.hFlipVerticalPicture);
+}
+
+void cCollectionViewController::rotateSelected(float angle)
+{
+    const auto& rotate = m_subsystems.quickEdits.hRotatePicture;
+    if (!rotate)
+        return;
+    editSelected([&](const QString& path, const QString& folder) { rotate(path, folder, angle); });
+}
+
+void cCollectionViewController::editSelected(const QuickEdits::Edit& edit)
+{
+    const auto index = m_photos.selectedIndex();
+    if (!edit || !index || selectsNonPhoto())
+        return;
+    const QString path = m_photos.selectedEntry()->myPhotoDescription;
+    edit(path, folderOf(path));
+    m_photos.replaceAt(*index, editedEntry(path));
+    showFileAt(*index);
+    layWatermarkOver();
+}
+
+} // namespace brenvaldo::workspace

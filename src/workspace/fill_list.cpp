@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "collection_view_controller.h"
+#include "driver_messages.h"
+#include "function_id.h"
+#include "list_entry.h"
+#include "preview_switch.h"
+#include "selected_function.h"
+
+#include <controls/progress.h>
+
+namespace brenvaldo::workspace {
+
+void cCollectionViewController::hChoosePhotos()
+{
+    m_panels.vwShowPreview.cbShowPreview.setState(0);
+    const auto& function = cSelectedFunction::sharedModel().myString;
+    if (function == functionId::batchSort) {
+        const Message message = batchSortMessage();
+        m_hAlertWindow(message.title, message.text);
+        return;
+    }
+    if (function == functionId::batchQR) {
+        const Message message = codeChoiceMessage();
+        m_hAlertWindow(message.title, message.text);
+        return;
+    }
+    const bool isRenaming = function == functionId::fileRenaming;
+    const auto paths = isRenaming ? chooseFiles() : choosePhotoFiles();
+    if (!paths)
+        return;
+    addWithProgress(*paths, isRenaming ? renameEntry : chosenEntry, Counter::RunningNumber);
+    // Selecting twice makes sure that the selection changes, also where index 0 was selected.
+    m_photos.select(1);
+    controls::Progress(m_window.myProgressBar, controls::collectionViewBar).hStopPB();
+    m_photos.select(0);
+}
+
+std::optional<QStringList> cCollectionViewController::chooseFiles()
+{
+    return m_chooser.open(
+        {.message = u"*** Choose files to rename ***"_qs, .allowsMultipleSelection = true}
+    );
+}
+
+std::optional<QStringList> cCollectionViewController::choosePhotoFiles()
+{
+    return m_chooser.open(
+        {.message = u"*** Choose your photos ***"_qs,
+         .allowsMultipleSelection = true,
+         .allowedTypes
+         = {u"jpg"_qs,
+            u"png"_qs,
+            u"gif"_qs,
+            u"bmp"_qs,
+            u"jpeg"_qs,
+            u"tif"_qs,
+            u"tiff"_qs,
+            u"heic"_qs}}
+    );
+}
+
+void cCollectionViewController::addWithProgress(
+    const QStringList& paths, MakeEntry makeEntry, Counter counter
+)
+{
+    const auto count = static_cast<int>(paths.size());
+    controls::Progress progress(m_window.myProgressBar, controls::collectionViewBar);
+    progress.hInitialisePB();
+    int running = 0;
+    for (const QString& path : paths) {
+        ++running;
+        if (counter == Counter::RunningNumber)
+            m_window.tfImageCount.setStringValue(u"%1 of %2"_qs.arg(running).arg(count));
+        m_photos.append(makeEntry(path));
+        if (counter == Counter::ListCount)
+            showCount();
+        progress.hProgressPB(100 / count);
+    }
+    showCount();
+}
+
+void cCollectionViewController::hDroppedPhotos(const QStringList& paths)
+{
+    const PreviewSwitchedOff switchedOff(m_panels.vwShowPreview.cbShowPreview);
+    addWithProgress(paths, droppedEntry, Counter::ListCount);
+    controls::Progress(m_window.myProgressBar, controls::collectionViewBar).hStopPB();
+    selectFirstWhenNone();
+}
+
+void cCollectionViewController::hInsertPhotos()
+{
+    const PreviewSwitchedOff switchedOff(m_panels.vwShowPreview.cbShowPreview);
+    const auto paths = choosePhotoFiles();
+    if (!paths)
+        return;
+    for (const QString& path : *paths) {
+        m_photos.append(insertedEntry(path));
+        showCount();
+    }
+    selectFirstWhenNone();
+}
+
+void cCollectionViewController::selectFirstWhenNone()
+{
+    if (!m_photos.selectedIndex())
+        m_photos.select(0);
+}
+
+void cCollectionViewController::showCount()
+{
+    m_window.tfImageCount.setStringValue(QString::number(m_photos.count()));
+}
+
+} // namespace brenvaldo::workspace

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "list_entry.h"
+
+#include <imaging/dv_image_handling.h>
+#include <platform/foundation/numbers.h>
+#include <platform/foundation/paths.h>
+#include <platform/graphics/image_source.h>
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace brenvaldo::workspace {
+
+namespace {
+
+constexpr float thumbnailSide = 94;
+
+struct FileSizes
+{
+    platform::PixelSize stored;
+    platform::PixelSize upright;
+};
+
+FileSizes sizesOf(const QString& path)
+{
+    const auto source = platform::ImageSource::open(path);
+    if (!source)
+        return {};
+    return {.stored = source->header().storedSize, .upright = source->header().uprightSize};
+}
+
+QString pixelText(int pixels) { return pixels == 0 ? QString() : QString::number(pixels); }
+
+bool hasImageExtension(const QString& path)
+{
+    static const QStringList imageExtensions{
+        u"bmp"_qs, u"gif"_qs, u"png"_qs, u"jpg"_qs, u"jpeg"_qs, u"tif"_qs, u"tiff"_qs, u"heic"_qs};
+    return imageExtensions.contains(platform::pathExtension(path).toLower());
+}
+
+int scaled(int side, int other)
+{
+    const float factor = thumbnailSide / static_cast<float>(other);
+    return std::max(1, platform::truncated(static_cast<float>(side) * factor));
+}
+
+cCollectionViewItem namedEntry(const QString& path)
+{
+    cCollectionViewItem entry;
+    entry.myPhotoName = platform::lastPathComponent(path);
+    entry.myPhotoDescription = path;
+    return entry;
+}
+
+cCollectionViewItem measuredEntry(const QString& path, platform::PixelSize size)
+{
+    cCollectionViewItem entry = namedEntry(path);
+    entry.myPhotoOrientation = orientationLetter(size);
+    entry.myPhotoPxSize = sizeText(size, QFileInfo(path).size());
+    return entry;
+}
+
+ListPicture thumbnail(const QString& path, platform::PixelSize picture)
+{
+    return {.path = path, .scaledTo = thumbnailSize(picture)};
+}
+
+ListPicture fullPicture(const QString& path) { return {.path = path, .scaledTo = std::nullopt}; }
+
+} // namespace
+
+QString orientationLetter(platform::PixelSize size)
+{
+    if (size.width == size.height)
+        return u"S"_qs;
+    return size.width > size.height ? u"L"_qs : u"P"_qs;
+}
+
+QString sizeText(platform::PixelSize size, qint64 bytes)
+{
+    return pixelText(size.width) + u'x' + pixelText(size.height) + u"px | "_qs
+        + imaging::DVImageHandling::hNSFileSizeToHumanNotification(static_cast<double>(bytes));
+}
+
+platform::PixelSize thumbnailSize(platform::PixelSize picture)
+{
+    constexpr int side = static_cast<int>(thumbnailSide);
+    if (!picture.isValid())
+        return {};
+    if (picture.width == picture.height)
+        return {.width = side, .height = side};
+    if (picture.width < picture.height)
+        return {.width = scaled(picture.width, picture.height), .height = side};
+    return {.width = side, .height = scaled(picture.height, picture.width)};
+}
+
+cCollectionViewItem chosenEntry(const QString& path)
+{
+    const FileSizes sizes = sizesOf(path);
+    cCollectionViewItem entry = measuredEntry(path, sizes.upright);
+    entry.myPhotoURL = QUrl::fromLocalFile(path);
+    entry.myPhoto = thumbnail(path, sizes.upright);
+    return entry;
+}
+
+cCollectionViewItem renameEntry(const QString& path)
+{
+    cCollectionViewItem entry = namedEntry(path);
+    entry.myPhotoURL = QUrl::fromLocalFile(path);
+    entry.myPhotoOrientation = u"S"_qs;
+    if (hasImageExtension(path)) {
+        entry.myPhoto = thumbnail(path, sizesOf(path).upright);
+    } else {
+        entry.myPhoto = {.kind = ListPicture::Kind::Document, .path = path, .scaledTo = {}};
+        entry.myRenameSelect = 1;
+    }
+    return entry;
+}
+
+cCollectionViewItem droppedEntry(const QString& path)
+{
+    const FileSizes sizes = sizesOf(path);
+    cCollectionViewItem entry = measuredEntry(path, sizes.stored);
+    entry.myPhoto = thumbnail(path, sizes.upright);
+    return entry;
+}
+
+cCollectionViewItem insertedEntry(const QString& path)
+{
+    cCollectionViewItem entry = measuredEntry(path, sizesOf(path).stored);
+    entry.myPhotoURL = QUrl::fromLocalFile(path);
+    entry.myPhoto = fullPicture(path);
+    return entry;
+}
+
+cCollectionViewItem editedEntry(const QString& path)
+{
+    cCollectionViewItem entry = measuredEntry(path, sizesOf(path).upright);
+    entry.myPhotoURL = QUrl::fromLocalFile(path);
+    entry.myPhoto = fullPicture(path);
+    return entry;
+}
+
+} // namespace brenvaldo::workspace

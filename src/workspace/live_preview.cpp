@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "collection_view_controller.h"
+#include "function_id.h"
+#include "photo_preview.h"
+#include "selected_function.h"
+
+#include <platform/foundation/log.h>
+
+#include <array>
+
+namespace brenvaldo::workspace {
+
+namespace {
+
+/// What a function's effect does to the plain photo below it.
+enum class Photo { Stays, Goes };
+
+struct TwinRow
+{
+    QLatin1String id;
+    PreviewTwin PreviewTwins::*twin;
+    Photo photo;
+};
+
+constexpr std::array twinRows{
+    TwinRow{functionId::textWM, &PreviewTwins::setWatermarkTextPreview, Photo::Stays},
+    TwinRow{functionId::imageWM, &PreviewTwins::setWatermarkImagePreview, Photo::Stays},
+    TwinRow{functionId::addTint, &PreviewTwins::addTintToImage2Preview, Photo::Stays},
+    TwinRow{functionId::framing, &PreviewTwins::hAddFramePreview, Photo::Goes},
+    TwinRow{functionId::roundings, &PreviewTwins::hAddRoundingsPreview, Photo::Goes},
+    TwinRow{functionId::profileConversion, &PreviewTwins::convertColorSpaceToPreview, Photo::Stays},
+    TwinRow{functionId::rotatePhotos, &PreviewTwins::hRotatePicturesPreview, Photo::Goes},
+    TwinRow{functionId::filters, &PreviewTwins::hAddFilterPreview, Photo::Goes},
+    TwinRow{functionId::cropPhotos, &PreviewTwins::hCropPhotosPreview, Photo::Stays},
+};
+
+const TwinRow* twinRowOf(const std::optional<QString>& function)
+{
+    const auto* found = std::find_if(twinRows.begin(), twinRows.end(), [&](const TwinRow& row) {
+        return function == row.id;
+    });
+    return found == twinRows.end() ? nullptr : found;
+}
+
+} // namespace
+
+void cCollectionViewController::callForPreview()
+{
+    if (m_photos.isEmpty() || selectsNonPhoto()) {
+        callForDefaultImage();
+        return;
+    }
+    const auto path = hGetActiveFileFilePath();
+    m_window.myTemplateOverlayPreview.clear();
+    m_window.myTemplatePreview.setImage(path ? previewOfPhoto(*path) : std::nullopt);
+    if (!path)
+        return;
+    if (cSelectedFunction::sharedModel().myString == functionId::batchFileConvert) {
+        callForDefaultImage();
+        return;
+    }
+    if (isPreviewOn())
+        showTwin(*path);
+}
+
+void cCollectionViewController::showTwin(const QString& path)
+{
+    const TwinRow* row = twinRowOf(cSelectedFunction::sharedModel().myString);
+    if (!row)
+        return;
+    const PreviewTwin& twin = m_subsystems.twins.*(row->twin);
+    if (!twin)
+        return;
+    if (row->photo == Photo::Goes)
+        m_window.myTemplatePreview.clear();
+    m_window.myTemplateOverlayPreview.setImage(twin(path));
+}
+
+void cCollectionViewController::callForDefaultImage()
+{
+    m_window.myTemplatePreview.clear();
+    m_window.myTemplateOverlayPreview.clear();
+}
+
+void cCollectionViewController::showFileAt(int index)
+{
+    if (index < 0 || index >= m_photos.count())
+        return;
+    const QString path = m_photos.entries().at(index).myPhotoDescription;
+    m_window.myTemplateOverlayPreview.clear();
+    m_window.myTemplatePreview.setImage(previewOfPhoto(path));
+}
+
+void cCollectionViewController::selectionChanged()
+{
+    if (selectsNonPhoto())
+        return;
+    m_window.myTemplateOverlayPreview.clear();
+    const auto path = hGetActiveFileFilePath();
+    if (!path) {
+        platform::log(u"no picture selected"_qs);
+        return;
+    }
+    callForPreview();
+    if (m_subsystems.hiDoNothing)
+        m_subsystems.hiDoNothing(*path);
+}
+
+bool cCollectionViewController::selectsNonPhoto() const
+{
+    const cCollectionViewItem* entry = m_photos.selectedEntry();
+    return entry && entry->myRenameSelect > 0;
+}
+
+bool cCollectionViewController::isPreviewOn() const
+{
+    return m_panels.vwShowPreview.cbShowPreview.isOn();
+}
+
+void cCollectionViewController::callForHTMLTemplatePreview(const QString& imageName)
+{
+    m_window.myTemplatePreview.setImage(imageNamed(imageName));
+    m_window.myTemplateOverlayPreview.clear();
+}
+
+void cCollectionViewController::callForTemplatePreview()
+{
+    struct Template
+    {
+        QString picture;
+        QString fileName; ///< "" leaves the name of the pages as it is
+    };
+    static const QList<Template> templates{
+        {u"Ex01XL.png"_qs, u"myFirstPhotoGallery"_qs},
+        {u"Ex02XL.png"_qs, {}},
+        {u"Ex03XL.png"_qs, {}},
+        {u"Ex04XL.png"_qs, u"myFourthPhotoGallery"_qs},
+    };
+    const int index = m_panels.vwHtmlExport.pubPhotoGalleryModel.indexOfSelectedItem();
+    if (index < 0 || index >= templates.size())
+        return;
+    callForHTMLTemplatePreview(templates.at(index).picture);
+    if (!templates.at(index).fileName.isEmpty())
+        m_panels.vwHtmlExport.tfHTMLfileName.setStringValue(templates.at(index).fileName);
+}
+
+std::optional<platform::Image> cCollectionViewController::imageNamed(const QString& name) const
+{
+    return m_subsystems.imageNamed ? m_subsystems.imageNamed(name) : std::nullopt;
+}
+
+} // namespace brenvaldo::workspace

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "selected_function.h"
+
+namespace brenvaldo::workspace {
+
+cSelectedFunction& cSelectedFunction::sharedModel()
+{
+    static cSelectedFunction model;
+    return model;
+}
+
+cKeepNumber& cKeepNumber::sharedNumber()
+{
+    static cKeepNumber number;
+    return number;
+}
+
+} // namespace brenvaldo::workspace

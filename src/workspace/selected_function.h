@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace brenvaldo::workspace {
+
+/// What the user is doing: the id of the selected function, for the whole process.
+class cSelectedFunction
+{
+public:
+    cSelectedFunction(const cSelectedFunction&) = delete;
+    cSelectedFunction& operator=(const cSelectedFunction&) = delete;
+    cSelectedFunction(cSelectedFunction&&) = delete;
+    cSelectedFunction& operator=(cSelectedFunction&&) = delete;
+
+    [[nodiscard]] static cSelectedFunction& sharedModel();
+
+    std::optional<QString> myString; ///< not set before the first selection
+
+private:
+    cSelectedFunction() = default;
+    ~cSelectedFunction() = default;
+};
+
+/// The running number that the numbering of files shares across a run, for the whole process.
+class cKeepNumber
+{
+public:
+    cKeepNumber(const cKeepNumber&) = delete;
+    cKeepNumber& operator=(const cKeepNumber&) = delete;
+    cKeepNumber(cKeepNumber&&) = delete;
+    cKeepNumber& operator=(cKeepNumber&&) = delete;
+
+    [[nodiscard]] static cKeepNumber& sharedNumber();
+
+    QString myNumberString; ///< decimal digits
+
+private:
+    cKeepNumber() = default;
+    ~cKeepNumber() = default;
+};
+
+} // namespace brenvaldo::workspace

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "subsystem_wiring.h"
+
+#include <imaging/file_conversion.h>
+
+namespace brenvaldo::workspace {
+
+SubsystemLinks subsystemLinks(imaging::DVImageHandling& imageHandling)
+{
+    SubsystemLinks links;
+    links.operations.hScalePhotosPercentage = [&](const auto& photo,
+                                                  int value,
+                                                  int maximumType,
+                                                  const auto& tail) {
+        return imaging::text(imageHandling.hScalePhotosPercentage(photo, value, maximumType, tail));
+    };
+    links.operations.hScalePhotosWidthAndHeight
+        = [&](const auto& photo, platform::PixelSize box, int aspectState, const auto& tail) {
+              return imaging::text(
+                  imageHandling.hScalePhotosWidthAndHeight(photo, box, aspectState, tail)
+              );
+          };
+    links.operations.hConvertFileType = [](const Conversion& conversion) {
+        const auto result = imaging::FileConversion().hConvertFileType(
+            {.source = conversion.source,
+             .type = conversion.typeIdentifier,
+             .compressionLevel = conversion.compressionLevel,
+             .destination = conversion.target}
+        );
+        return imaging::text(result.word);
+    };
+    links.quickEdits.hRotatePicture = [&](const QString& path, const QString& folder, float angle) {
+        imageHandling.hRotatePicture(path, folder, angle);
+    };
+    links.quickEdits.hFlipHorizontalPicture = [&](const QString& path, const QString& folder) {
+        imageHandling.hFlipHorizontalPicture(path, folder);
+    };
+    links.quickEdits.hFlipVerticalPicture = [&](const QString& path, const QString& folder) {
+        imageHandling.hFlipVerticalPicture(path, folder);
+    };
+    return links;
+}
+
+} // namespace brenvaldo::workspace

@@ -1,0 +1,354 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controller_fixture.h"
+
+using namespace brenvaldo;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class FunctionSelection : public test::ControllerTest
+{
+protected:
+    void pickEdit(int index) { user.pick(panels.window.pubEditPhoto, index); }
+    void pickManagement(int index) { user.pick(panels.window.pubFileManagementSelect, index); }
+    void pickSortTab(int index) { user.pick(panels.vwFileManagementSorting.mySortTabView, index); }
+
+    [[nodiscard]] QStringList holderViews() const
+    {
+        const panels::WindowControls& window = panels.window;
+        QStringList views;
+        for (const controls::Holder* holder :
+             {&window.dvVCUiMainPropertyView,
+              &window.dvVCUiPreviewPropertyView,
+              &window.dvVCUiApplyOnPropertyView,
+              &window.dvVCUiFileTypePropertyView,
+              &window.dvVCUiMainDestinationPropertyView})
+            views.append(holder->views().join(u','));
+        return views;
+    }
+
+    [[nodiscard]] bool showsPresets() const
+    {
+        return !panels.window.btnPresets.isHidden() && !panels.window.btnPresetsHelp.isHidden();
+    }
+};
+
+} // namespace
+
+TEST_F(FunctionSelection, StartsWithTheTextWatermarkAndAllHoldersFilled)
+{
+    guiControls.hSetInitialView();
+
+    EXPECT_EQ(function(), u"textWM"_qs);
+    EXPECT_EQ(panels.window.dvVCUiMainPropertySelect.views(), QStringList{u"pubEditPhoto"_qs});
+    EXPECT_EQ(
+        holderViews(),
+        (QStringList{
+            u"vwWatermark"_qs,
+            u"vwShowPreview"_qs,
+            u"vwApplyOn"_qs,
+            u"vwFileType"_qs,
+            u"vwMainDestination"_qs})
+    );
+    EXPECT_EQ(panels.window.btnEditPhoto.image(), u"SelectMainTabView1.png"_qs);
+    EXPECT_EQ(panels.window.btnFileManagement.image(), u"bgBlue.png"_qs);
+    EXPECT_EQ(panels.window.btnExportHtml.image(), u"bgBlue.png"_qs);
+    EXPECT_TRUE(showsPresets());
+}
+
+TEST_F(FunctionSelection, StoresTheIdOfEachEditFunction)
+{
+    const QStringList ids{
+        u"textWM"_qs,
+        u"addTint"_qs,
+        u"framing"_qs,
+        u"roundings"_qs,
+        u"profileConversion"_qs,
+        u"faces"_qs,
+        u"rotatePhotos"_qs,
+        u"filters"_qs,
+        u"resizePhotos"_qs,
+        u"cropPhotos"_qs};
+
+    for (int index = 0; index < ids.size(); ++index) {
+        pickEdit(index);
+        EXPECT_EQ(function(), ids.at(index));
+    }
+}
+
+TEST_F(FunctionSelection, FollowsTheTabOfTheWatermarkPanel)
+{
+    user.pick(panels.vwWatermark.tbvWatermarkType, 1);
+    EXPECT_EQ(function(), u"imageWM"_qs);
+    pickEdit(1);
+
+    pickEdit(0);
+    EXPECT_EQ(function(), u"imageWM"_qs);
+
+    user.pick(panels.vwWatermark.tbvWatermarkType, 0);
+    EXPECT_EQ(function(), u"textWM"_qs);
+}
+
+TEST_F(FunctionSelection, StoresTheIdOfEachFileManagementFunction)
+{
+    const QStringList ids{
+        u"manSort"_qs,
+        u"batchExifUC"_qs,
+        u"fileRenaming"_qs,
+        u"batchFileConvert"_qs,
+        u"batchQR"_qs};
+
+    for (int index = 0; index < ids.size(); ++index) {
+        pickManagement(index);
+        EXPECT_EQ(function(), ids.at(index));
+    }
+}
+
+TEST_F(FunctionSelection, LeavesThePresetButtonsHiddenFromConversionToExif)
+{
+    pickManagement(3);
+    EXPECT_FALSE(showsPresets());
+
+    pickManagement(1);
+
+    EXPECT_FALSE(showsPresets());
+}
+
+TEST_F(FunctionSelection, ShowsThePresetButtonsForAnyOtherFunction)
+{
+    for (const int index : {0, 2, 4}) {
+        pickManagement(3);
+        pickManagement(index);
+        EXPECT_TRUE(showsPresets()) << index;
+    }
+    pickManagement(3);
+
+    pickEdit(5);
+
+    EXPECT_TRUE(showsPresets());
+}
+
+TEST_F(FunctionSelection, LeavesFileTypeAndDestinationToAProfileConversionAfterFaces)
+{
+    pickEdit(5);
+
+    pickEdit(4);
+
+    EXPECT_EQ(
+        holderViews(),
+        (QStringList{
+            u"vwProfileConversion"_qs,
+            u"vwShowPreview"_qs,
+            u"vwApplyOn"_qs,
+            u"vwFileType"_qs,
+            u"vwMainDestination"_qs})
+    );
+}
+
+TEST_F(FunctionSelection, LeavesTheHoldersOfAProfileConversionEmptyAfterExif)
+{
+    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(u"/out/"_qs);
+    pickManagement(1);
+
+    pickEdit(4);
+
+    EXPECT_EQ(holderViews().mid(3), (QStringList{QString(), QString()}));
+    EXPECT_EQ(panels.vwMainDestination.tfImageDestinationFolder.stringValue(), u"/out/"_qs);
+}
+
+TEST_F(FunctionSelection, ListsTheProfilesForAProfileConversionAlone)
+{
+    int calls = 0;
+    subsystems.hGetColorProfiles = [&] { ++calls; };
+
+    for (int index = 0; index < 10; ++index)
+        pickEdit(index);
+
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(FunctionSelection, TurnsThePreviewOff)
+{
+    controls::CheckBox& preview = panels.vwShowPreview.cbShowPreview;
+
+    preview.setState(1);
+    pickEdit(2);
+    EXPECT_FALSE(preview.isOn());
+
+    preview.setState(1);
+    pickManagement(2);
+    EXPECT_FALSE(preview.isOn());
+
+    preview.setState(1);
+    user.press(panels.window.btnEditPhoto);
+    EXPECT_FALSE(preview.isOn());
+
+    preview.setState(1);
+    user.press(panels.window.btnFileManagement);
+    EXPECT_FALSE(preview.isOn());
+}
+
+TEST_F(FunctionSelection, KeepsThePreviewForATabAndForTheGallery)
+{
+    controls::CheckBox& preview = panels.vwShowPreview.cbShowPreview;
+    preview.setState(1);
+
+    pickSortTab(1);
+    EXPECT_TRUE(preview.isOn());
+
+    user.press(panels.window.btnExportHtml);
+    EXPECT_TRUE(preview.isOn());
+}
+
+TEST_F(FunctionSelection, FollowsTheTabsOfSorting)
+{
+    pickManagement(0);
+    const controls::Holder& destination = panels.window.dvVCUiMainDestinationPropertyView;
+
+    pickSortTab(1);
+    EXPECT_EQ(function(), u"batchSort"_qs);
+    EXPECT_THAT(destination.views(), ElementsAre(u"vwMainDestination"_qs));
+
+    pickSortTab(2);
+    EXPECT_EQ(function(), u"batchUploadPhotos"_qs);
+    EXPECT_THAT(destination.views(), IsEmpty());
+
+    pickSortTab(0);
+    EXPECT_EQ(function(), u"manSort"_qs);
+    EXPECT_THAT(destination.views(), IsEmpty());
+}
+
+TEST_F(FunctionSelection, OpensSortingInBatchModeWhenItsTabIsSelected)
+{
+    panels.vwFileManagementSorting.mySortTabView.selectIndex(1);
+
+    pickManagement(0);
+
+    EXPECT_EQ(function(), u"batchSort"_qs);
+    EXPECT_THAT(
+        panels.window.dvVCUiMainDestinationPropertyView.views(),
+        ElementsAre(u"vwMainDestination"_qs)
+    );
+}
+
+TEST_F(FunctionSelection, ShowsTheGallery)
+{
+    int loaded = -1;
+    subsystems.hLoadTemplatePreset = [&](int index) { loaded = index; };
+    panels.vwHtmlExport.pubPhotoGalleryModel.selectIndex(3);
+
+    user.press(panels.window.btnExportHtml);
+
+    EXPECT_EQ(function(), u"htmlExport"_qs);
+    EXPECT_THAT(panels.window.dvVCUiMainPropertySelect.views(), IsEmpty());
+    EXPECT_EQ(
+        holderViews(),
+        (QStringList{
+            u"vwHtmlExport"_qs, QString(), u"vwApplyOn"_qs, QString(), u"vwMainDestination"_qs})
+    );
+    EXPECT_TRUE(showsPresets());
+    EXPECT_EQ(loaded, 3);
+    EXPECT_EQ(panels.vwHtmlExport.tfHTMLfileName.stringValue(), u"myFourthPhotoGallery"_qs);
+}
+
+TEST_F(FunctionSelection, PutsTheFunctionsOfASectionIntoTheWindow)
+{
+    user.press(panels.window.btnFileManagement);
+    EXPECT_THAT(
+        panels.window.dvVCUiMainPropertySelect.views(), ElementsAre(u"pubFileManagementSelect"_qs)
+    );
+    EXPECT_EQ(panels.window.btnFileManagement.image(), u"SelectMainTabView1.png"_qs);
+    EXPECT_EQ(panels.window.btnEditPhoto.image(), u"bgBlue.png"_qs);
+
+    user.press(panels.window.btnEditPhoto);
+    EXPECT_THAT(panels.window.dvVCUiMainPropertySelect.views(), ElementsAre(u"pubEditPhoto"_qs));
+    EXPECT_EQ(panels.window.btnEditPhoto.image(), u"SelectMainTabView1.png"_qs);
+}
+
+TEST_F(FunctionSelection, SwapsTheFieldsOfResizing)
+{
+    panels::ResizePanel& resize = panels.vwResizePhotos;
+
+    user.pick(resize.pubScaleType, 1);
+    EXPECT_THAT(resize.dvVCUiResizeMainView.views(), ElementsAre(u"dvVCUiScaleFixView"_qs));
+
+    user.pick(resize.pubScaleType, 0);
+    EXPECT_THAT(resize.dvVCUiResizeMainView.views(), ElementsAre(u"dvVCUiScaleMaxView"_qs));
+}
+
+TEST_F(FunctionSelection, StartsResizingWithTheMaximumFieldsWhateverTheType)
+{
+    panels::ResizePanel& resize = panels.vwResizePhotos;
+    user.pick(resize.pubScaleType, 1);
+
+    pickEdit(8);
+
+    EXPECT_THAT(resize.dvVCUiResizeMainView.views(), ElementsAre(u"dvVCUiScaleMaxView"_qs));
+}
+
+TEST_F(FunctionSelection, SwapsTheFieldsOfCropping)
+{
+    panels::CropPanel& crop = panels.vwCropPhotos;
+
+    user.pick(crop.pubCropType, 1);
+    EXPECT_THAT(crop.dvVCUiCropTypeView.views(), ElementsAre(u"dvVCUiCropMinusView"_qs));
+
+    user.pick(crop.pubCropType, 0);
+    EXPECT_THAT(crop.dvVCUiCropTypeView.views(), ElementsAre(u"dvVCUiCropWxHView"_qs));
+
+    user.pick(crop.pubCropType, 2);
+    pickEdit(9);
+    EXPECT_THAT(crop.dvVCUiCropTypeView.views(), ElementsAre(u"dvVCUiCropWxHView"_qs));
+}
+
+TEST_F(FunctionSelection, KeepsThePlaceOfACropInItsPanel)
+{
+    panels::CropPanel& crop = panels.vwCropPhotos;
+    pickEdit(9);
+
+    user.pick(crop.pubCropType, 1);
+
+    EXPECT_TRUE(panels.isShown(crop.dvVCUiCropPositionView));
+}
+
+TEST_F(FunctionSelection, SelectsCroppingByATextEditInOneOfItsFields)
+{
+    photos.append(entry(u"/gone/a.jpg"_qs, u"L"_qs));
+    select("framing");
+
+    user.type(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset, u"12"_qs);
+
+    EXPECT_EQ(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset.tag(), 75);
+    EXPECT_EQ(function(), u"cropPhotos"_qs);
+}
+
+TEST_F(FunctionSelection, IgnoresTextEditsWithoutPhotos)
+{
+    select("framing");
+
+    user.type(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset, u"12"_qs);
+
+    EXPECT_EQ(function(), u"framing"_qs);
+}
+
+TEST_F(FunctionSelection, IgnoresTextEditsWhileAFileThatIsNoPhotoIsSelected)
+{
+    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    photos.select(0);
+    select("framing");
+
+    user.type(panels.vwAddTint.tfAddTintOpacity, u"12"_qs);
+
+    EXPECT_EQ(function(), u"framing"_qs);
+}
+
+TEST_F(FunctionSelection, IgnoresTextEditsInHexFields)
+{
+    photos.append(entry(u"/gone/a.jpg"_qs, u"L"_qs));
+    select("framing");
+
+    collectionView.controlTextDidEndEditing(panels.vwAddTint.tfAddTintHexValue.tag());
+
+    EXPECT_EQ(function(), u"framing"_qs);
+}

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <workspace/photo_list.h>
+
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using namespace brenvaldo;
+using workspace::PhotoList;
+
+namespace {
+
+workspace::cCollectionViewItem named(const QString& name)
+{
+    workspace::cCollectionViewItem entry;
+    entry.myPhotoName = name;
+    return entry;
+}
+
+void fill(PhotoList& list, const QStringList& names)
+{
+    for (const QString& name : names)
+        list.append(named(name));
+}
+
+QStringList names(const PhotoList& list)
+{
+    QStringList found;
+    for (const auto& entry : list.entries())
+        found.append(entry.myPhotoName);
+    return found;
+}
+
+} // namespace
+
+TEST(CollectionViewItem, StartsTickedUnderItsPlaceholders)
+{
+    const workspace::cCollectionViewItem entry;
+
+    EXPECT_EQ(entry.myPhotoName, u"pictureName"_qs);
+    EXPECT_EQ(entry.myPhotoDescription, u"Fantastisch"_qs);
+    EXPECT_EQ(entry.myPhotoSelect, 1);
+}
+
+TEST(PhotoList, SortsByNameWithoutRegardToCase)
+{
+    PhotoList list;
+    fill(list, {u"b"_qs, u"C"_qs, u"a"_qs});
+
+    list.sortByName(PhotoList::Order::Ascending);
+    EXPECT_EQ(names(list), (QStringList{u"a"_qs, u"b"_qs, u"C"_qs}));
+
+    list.sortByName(PhotoList::Order::Descending);
+    EXPECT_EQ(names(list), (QStringList{u"C"_qs, u"b"_qs, u"a"_qs}));
+}
+
+TEST(PhotoList, LetsNewEntriesFallIntoTheirSortedPlace)
+{
+    PhotoList list;
+    fill(list, {u"d"_qs, u"a"_qs});
+    list.sortByName(PhotoList::Order::Ascending);
+
+    list.append(named(u"B"_qs));
+    list.insert(0, named(u"e"_qs));
+
+    EXPECT_EQ(names(list), (QStringList{u"a"_qs, u"B"_qs, u"d"_qs, u"e"_qs}));
+}
+
+TEST(PhotoList, HoldsTheSameFileTwice)
+{
+    PhotoList list;
+
+    fill(list, {u"a"_qs, u"a"_qs});
+
+    EXPECT_EQ(list.count(), 2);
+}
+
+TEST(PhotoList, SelectsNothingOutsideOfTheList)
+{
+    PhotoList list;
+    fill(list, {u"a"_qs});
+    list.select(0);
+
+    list.select(1);
+
+    EXPECT_EQ(list.selectedIndex(), std::nullopt);
+    EXPECT_EQ(list.selectedEntry(), nullptr);
+}
+
+TEST(PhotoList, TellsOfASelectionThatChangesOnly)
+{
+    PhotoList list;
+    fill(list, {u"a"_qs, u"b"_qs});
+    int changes = 0;
+    const auto subscription = list.selectionChanged.connect([&] { ++changes; });
+
+    list.select(0);
+    list.select(0);
+    list.select(1);
+
+    EXPECT_EQ(changes, 2);
+}
+
+TEST(PhotoList, SelectsTheLastEntryWhenTheSelectedLastOneGoes)
+{
+    PhotoList list;
+    fill(list, {u"a"_qs, u"b"_qs});
+    list.select(1);
+
+    list.removeAt(1);
+    EXPECT_EQ(list.selectedIndex(), 0);
+
+    list.removeAt(0);
+    EXPECT_EQ(list.selectedIndex(), std::nullopt);
+}
+
+TEST(PhotoList, IgnoresIndexesOutsideOfTheList)
+{
+    PhotoList list;
+    fill(list, {u"a"_qs});
+
+    list.removeAt(1);
+    list.replaceAt(-1, named(u"b"_qs));
+    list.insert(3, named(u"b"_qs));
+    list.move(0, 1);
+    list.setTick(1, 0);
+
+    EXPECT_EQ(names(list), QStringList{u"a"_qs});
+}

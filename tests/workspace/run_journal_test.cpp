@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <workspace/run_journal.h>
+
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using namespace brenvaldo;
+
+namespace {
+
+workspace::RunRecord record(const QString& source, const QString& word)
+{
+    return {
+        .time = QDateTime({2026, 11, 15}, {10, 44, 33}),
+        .function = u"resizePhotos"_qs,
+        .source = source,
+        .target = u"/out/a.jpg"_qs,
+        .word = word};
+}
+
+} // namespace
+
+TEST(RunJournal, TellsWhatItRecords)
+{
+    workspace::RunJournal journal;
+    QStringList words;
+    const auto subscription = journal.recorded.connect([&](const workspace::RunRecord& added) {
+        words.append(added.word);
+    });
+
+    journal.add(record(u"/in/a.jpg"_qs, u"OK"_qs));
+    journal.add(record(u"/in/b.jpg"_qs, u"Failed"_qs));
+
+    EXPECT_EQ(words, (QStringList{u"OK"_qs, u"Failed"_qs}));
+    EXPECT_EQ(journal.records().size(), 2);
+}
+
+TEST(RunJournal, GivesOneLineARecord)
+{
+    workspace::RunJournal journal;
+    journal.add(record(u"/in/a.jpg"_qs, u"OK"_qs));
+    journal.add(record(u"/in/b.jpg"_qs, u"Failed"_qs));
+
+    EXPECT_EQ(
+        journal.asText(),
+        u"2026-11-15T10:44:33\tresizePhotos\t/in/a.jpg\t/out/a.jpg\tOK\n"
+        u"2026-11-15T10:44:33\tresizePhotos\t/in/b.jpg\t/out/a.jpg\tFailed\n"_qs
+    );
+}
+
+TEST(RunJournal, ForgetsAllRecords)
+{
+    workspace::RunJournal journal;
+    journal.add(record(u"/in/a.jpg"_qs, u"OK"_qs));
+
+    journal.clear();
+
+    EXPECT_TRUE(journal.records().isEmpty());
+    EXPECT_EQ(journal.asText(), QString());
+}
