@@ -9,8 +9,7 @@ namespace brenvaldo::platform {
 namespace {
 
 // A mark of four bytes, one byte for the version of the record, the path in UTF-8.
-const char recordStart[] = "BMRK\x01";
-constexpr qsizetype recordStartSize = sizeof recordStart - 1;
+constexpr QByteArrayView recordStart("BMRK\x01");
 constexpr qsizetype longestPath = 16 * 1024;
 
 } // namespace
@@ -19,15 +18,15 @@ std::optional<QByteArray> bookmarkFor(const QString& path)
 {
     if (path.isEmpty() || !QFileInfo::exists(path))
         return std::nullopt;
-    return QByteArray(recordStart) + path.toUtf8();
+    return recordStart.toByteArray() + path.toUtf8();
 }
 
 std::optional<QString> pathOfBookmark(const QByteArray& record)
 {
-    if (!record.startsWith(recordStart) || record.size() > recordStartSize + longestPath)
+    if (!record.startsWith(recordStart) || record.size() > recordStart.size() + longestPath)
         return std::nullopt;
     QStringDecoder utf8(QStringDecoder::Utf8);
-    const QString path = utf8(QByteArrayView(record).sliced(recordStartSize));
+    const QString path = utf8(QByteArrayView(record).sliced(recordStart.size()));
     if (utf8.hasError() || path.isEmpty() || path.contains(QChar::Null) || !QFileInfo::exists(path))
         return std::nullopt;
     return path;
