@@ -20,7 +20,7 @@ QString withPadding(const QString& row, const QString& padding)
 
 } // namespace
 
-QString noActions() { return QStringLiteral("NO ACTIONS"); }
+QString noActions() { return u"NO ACTIONS"_qs; }
 
 QString chainText(const controls::ArrayController& actions)
 {

@@ -25,7 +25,7 @@ void keepOpen(std::optional<Connection> connection)
         open.push_back(std::move(*connection));
 }
 
-QString presetsTable() { return QStringLiteral("Presets"); }
+QString presetsTable() { return u"Presets"_qs; }
 
 /// The values of the present row behind `ID`, joined by "|".
 QString rowText(const Statement& statement)
@@ -43,7 +43,7 @@ QStringList completeValues(const PresetRow& row)
     for (const std::optional<QString>& value : row) {
         if (!value)
             throw platform::InvalidArgument(
-                QStringLiteral("The preset has no value for %1.").arg(columns[values.size()])
+                u"The preset has no value for %1."_qs.arg(columns[values.size()])
             );
         values.append(*value);
     }
@@ -56,11 +56,10 @@ dbViewController::~dbViewController() { keepOpen(std::move(m_myDb)); }
 
 QString dbViewController::dbFilePath()
 {
-    const QString folder = platform::appendingPathComponent(
-        platform::applicationSupportFolder(), QStringLiteral("DravothCom/")
-    );
+    const QString folder
+        = platform::appendingPathComponent(platform::applicationSupportFolder(), u"DravothCom/"_qs);
     QDir().mkpath(folder);
-    return platform::appendingPathComponent(folder, QStringLiteral("Brenvaldo9.sql"));
+    return platform::appendingPathComponent(folder, u"Brenvaldo9.sql"_qs);
 }
 
 bool dbViewController::open()
@@ -73,7 +72,7 @@ bool dbViewController::open()
 void dbViewController::openOrRaise()
 {
     if (!open())
-        throw platform::AssertionFailure(QStringLiteral("Presets Db failed to open."));
+        throw platform::AssertionFailure(u"Presets Db failed to open."_qs);
 }
 
 void dbViewController::close() { m_myDb.reset(); }
@@ -86,11 +85,11 @@ void dbViewController::linkToPresetsDB()
         return;
     openmyPresetsDb();
     createTableNamed(presetsTable(), presetColumns());
-    createTableNamed(QStringLiteral("AppBookmarks"), bookmarkColumns());
+    createTableNamed(u"AppBookmarks"_qs, bookmarkColumns());
 
-    QStringList seed(columnCount, QStringLiteral(""));
-    seed.first() = QStringLiteral("myAppDestBookmark");
-    insertRecordIntoTableNamed(QStringLiteral("AppBookMarks"), bookmarkColumns(), seed);
+    QStringList seed(columnCount, u""_qs);
+    seed.first() = u"myAppDestBookmark"_qs;
+    insertRecordIntoTableNamed(u"AppBookMarks"_qs, bookmarkColumns(), seed);
     close();
 }
 
@@ -99,7 +98,7 @@ void dbViewController::createTableNamed(const QString& table, const QStringList&
     if (m_myDb && m_myDb->execute(createTableStatement(table, columns)))
         return;
     close();
-    throw platform::AssertionFailure(QStringLiteral("Presets Table failed to create."));
+    throw platform::AssertionFailure(u"Presets Table failed to create."_qs);
 }
 
 void dbViewController::insertRecordIntoTableNamed(
@@ -110,7 +109,7 @@ void dbViewController::insertRecordIntoTableNamed(
     if (m_myDb->execute(insertStatement(table, columns, values)))
         return;
     close();
-    throw platform::AssertionFailure(QStringLiteral("Error updating table."));
+    throw platform::AssertionFailure(u"Error updating table."_qs);
 }
 
 void dbViewController::insertSortingPresetToDB01(const PresetRow& row)
@@ -139,9 +138,8 @@ std::optional<QString> dbViewController::checkPresetNameFromTableNamed(
 {
     if (!open())
         return m_myPresetExist;
-    const QString text = selectStatement(
-        QStringLiteral("*"), table, {{nameColumn, name}, {processColumn, process}}
-    );
+    const QString text
+        = selectStatement(u"*"_qs, table, {{nameColumn, name}, {processColumn, process}});
     if (const auto statement = m_myDb->prepare(text)) {
         while (statement->step())
             m_myPresetExist = statement->text(1);
@@ -157,7 +155,7 @@ std::optional<QStringList> dbViewController::checkForActionType(
     if (!open())
         return m_myPresetsArrayToPass;
     if (const auto statement
-        = m_myDb->prepare(selectStatement(QStringLiteral("*"), table, {{column, value}}))) {
+        = m_myDb->prepare(selectStatement(u"*"_qs, table, {{column, value}}))) {
         QStringList rows;
         while (statement->step())
             rows.append(rowText(*statement));
@@ -173,8 +171,7 @@ PresetValues dbViewController::getSelectedPreset(const QString& table, const QSt
     PresetValues values;
     if (!open())
         return values;
-    const QString text
-        = selectStatement(QStringLiteral("*"), table, {{QStringLiteral("NameOfPreset"), name}});
+    const QString text = selectStatement(u"*"_qs, table, {{u"NameOfPreset"_qs, name}});
     if (const auto statement = m_myDb->prepare(text)) {
         while (statement->step()) {
             for (int column = 1; column < statement->dataCount(); ++column)
@@ -196,9 +193,9 @@ std::optional<QString> dbViewController::removePresetFromDatabase(
     {
         const auto statement = m_myDb->prepare(deleteStatement(table, {column, value}));
         if (!statement)
-            m_myPresetExist = QStringLiteral("preset not found");
+            m_myPresetExist = u"preset not found"_qs;
         else if (statement->step())
-            m_myPresetExist = QStringLiteral("preset removed");
+            m_myPresetExist = u"preset removed"_qs;
     }
     close();
     return m_myPresetExist;
@@ -208,7 +205,7 @@ void dbViewController::getAllRowsFromTableNamed(const QString& table)
 {
     if (!open())
         return;
-    if (const auto statement = m_myDb->prepare(selectStatement(QStringLiteral("*"), table))) {
+    if (const auto statement = m_myDb->prepare(selectStatement(u"*"_qs, table))) {
         while (statement->step()) { }
     }
     close();
@@ -216,11 +213,12 @@ void dbViewController::getAllRowsFromTableNamed(const QString& table)
 
 void dbViewController::SaveImagesToSql(const QByteArray& image, const QString& url)
 {
-    const QString text = QStringLiteral("INSERT INTO IMAGES (URL, IMAGE) VALUES (?, ?)");
+    const QString text = u"INSERT INTO IMAGES (URL, IMAGE) VALUES (?, ?)"_qs;
     const auto statement = m_myDb ? m_myDb->prepare(text) : std::nullopt;
     if (!statement) {
-        platform::log(QStringLiteral("SaveBody: Failed from sqlite3_prepare_v2. Error is:  %1")
-                          .arg(m_myDb ? m_myDb->errorMessage() : QStringLiteral("no connection")));
+        platform::log(u"SaveBody: Failed from sqlite3_prepare_v2. Error is:  %1"_qs.arg(
+            m_myDb ? m_myDb->errorMessage() : u"no connection"_qs
+        ));
         return;
     }
     statement->bind(1, url);
@@ -230,9 +228,7 @@ void dbViewController::SaveImagesToSql(const QByteArray& image, const QString& u
 
 QByteArray dbViewController::LoadImagesFromSql(const QString& url)
 {
-    const QString text = selectStatement(
-        QStringLiteral("IMAGE"), QStringLiteral("IMAGES"), {{QStringLiteral("URL"), url}}
-    );
+    const QString text = selectStatement(u"IMAGE"_qs, u"IMAGES"_qs, {{u"URL"_qs, url}});
     const auto statement = m_myDb ? m_myDb->prepare(text) : std::nullopt;
     return statement && statement->step() ? statement->blob(0) : QByteArray();
 }
@@ -241,7 +237,7 @@ void dbViewController::creatTableIfNotExist() const { }
 
 void dbViewController::hSaveSecurityScopedBookmarks(const QByteArray& bookmark)
 {
-    const QString text = QStringLiteral("insert into Image(Image)values(?)");
+    const QString text = u"insert into Image(Image)values(?)"_qs;
     if (!open())
         return;
     const auto statement = m_myDb->prepare(text);

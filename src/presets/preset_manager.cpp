@@ -39,17 +39,15 @@ cPresetManager::cPresetManager(panels::Panels& panels, std::function<QString()> 
 void cPresetManager::registerActions(controls::ActionRegistry& actions)
 {
     const auto add = [&](const QString& name, void (cPresetManager::*action)()) {
-        actions.add(
-            QStringLiteral("cPresetManager"),
-            name,
-            [this, action](const controls::Sender&) { (this->*action)(); }
-        );
+        actions.add(u"cPresetManager"_qs, name, [this, action](const controls::Sender&) {
+            (this->*action)();
+        });
     };
-    add(QStringLiteral("hAddPreset"), &cPresetManager::hAddPreset);
-    add(QStringLiteral("hLoadPreset"), &cPresetManager::hLoadPreset);
-    add(QStringLiteral("hRemovePreset"), &cPresetManager::hRemovePreset);
-    add(QStringLiteral("hApplySelectedPreset"), &cPresetManager::hApplySelectedPreset);
-    add(QStringLiteral("closePresetsSheetObjC"), &cPresetManager::closePresetsSheetObjC);
+    add(u"hAddPreset"_qs, &cPresetManager::hAddPreset);
+    add(u"hLoadPreset"_qs, &cPresetManager::hLoadPreset);
+    add(u"hRemovePreset"_qs, &cPresetManager::hRemovePreset);
+    add(u"hApplySelectedPreset"_qs, &cPresetManager::hApplySelectedPreset);
+    add(u"closePresetsSheetObjC"_qs, &cPresetManager::closePresetsSheetObjC);
 }
 
 const PresetRecord* cPresetManager::recordOfSelectedFunction() const
@@ -60,7 +58,7 @@ const PresetRecord* cPresetManager::recordOfSelectedFunction() const
 
 void cPresetManager::hAddPreset()
 {
-    platform::log(QStringLiteral("myFunc: ") + m_selectedFunction());
+    platform::log(u"myFunc: "_qs + m_selectedFunction());
     const PresetRecord* record = recordOfSelectedFunction();
     if (!record)
         return;
@@ -83,11 +81,9 @@ void cPresetManager::hRemovePreset()
     const int row = sheet.myPresetsTableView.selectedRow();
     if (row < 0)
         return;
-    const QString name = sheet.thePresetsData.value(row, QStringLiteral("nmPreset"));
-    const QString process = sheet.thePresetsData.value(row, QStringLiteral("nmProces"));
-    dbViewController().removePresetFromDatabase(
-        QStringLiteral("Presets"), QStringLiteral("NameOfPreset"), name
-    );
+    const QString name = sheet.thePresetsData.value(row, u"nmPreset"_qs);
+    const QString process = sheet.thePresetsData.value(row, u"nmProces"_qs);
+    dbViewController().removePresetFromDatabase(u"Presets"_qs, u"NameOfPreset"_qs, name);
     sheet.thePresetsData.removeAllObjects();
     listPresetsOf(process);
 }
@@ -101,10 +97,8 @@ void cPresetManager::hApplySelectedPreset()
     const PresetRecord* record = recordOfSelectedFunction();
     if (!record)
         return;
-    const QString name = sheet.thePresetsData.value(row, QStringLiteral("nmPreset"));
-    loadValuesFromDB(
-        *record, dbViewController().getSelectedPreset(QStringLiteral("Presets"), name)
-    );
+    const QString name = sheet.thePresetsData.value(row, u"nmPreset"_qs);
+    loadValuesFromDB(*record, dbViewController().getSelectedPreset(u"Presets"_qs, name));
 }
 
 void cPresetManager::closePresetsSheetObjC() { m_panels.wwPresetsWindow.sheet.close(); }
@@ -113,13 +107,9 @@ QString cPresetManager::addValuesToDB(const PresetRecord& record)
 {
     const QString name = m_panels.wwPresetsWindow.tfInputPDM.stringValue();
     const std::optional<QString> taken = dbViewController().checkPresetNameFromTableNamed(
-        QStringLiteral("Presets"),
-        QStringLiteral("NameOfPreset"),
-        name,
-        QStringLiteral("Process"),
-        record.process
+        u"Presets"_qs, u"NameOfPreset"_qs, name, u"Process"_qs, record.process
     );
-    const QString stored = taken == name ? name + QStringLiteral("_[x]") : name;
+    const QString stored = taken == name ? name + u"_[x]"_qs : name;
     dbViewController().insertSortingPresetToDB01(rowOf(record, stored));
     m_panels.wwPresetsWindow.thePresetsData.removeAllObjects();
     listPresetsOf(record.process);
@@ -139,7 +129,7 @@ void cPresetManager::loadValuesFromDB(const PresetRecord& record, const PresetVa
 
 void cPresetManager::listPresetsOf(const QString& process)
 {
-    hUpdateLoadPresetsTableView(QStringLiteral("Presets"), QStringLiteral("Process"), process);
+    hUpdateLoadPresetsTableView(u"Presets"_qs, u"Process"_qs, process);
 }
 
 void cPresetManager::hUpdateLoadPresetsTableView(
@@ -149,7 +139,7 @@ void cPresetManager::hUpdateLoadPresetsTableView(
     const auto rows = dbViewController().checkForActionType(table, column, value);
     if (!rows)
         return;
-    const QString separator = QStringLiteral("|");
+    const QString separator = u"|"_qs;
     for (const QString& row : *rows) {
         const QStringList items = row.split(separator);
         const QString head = items.value(0) + separator + items.value(1);

@@ -20,7 +20,7 @@ public:
 
     void registerActions(controls::ActionRegistry& actions);
 
-    // The actions. A function without a record makes each of them return at once.
+    // The actions. Adding, listing and applying return at once for a function without a record.
     void hAddPreset();
     void hLoadPreset();
     void hRemovePreset();

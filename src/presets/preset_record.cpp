@@ -25,7 +25,7 @@ std::optional<QString>& valueAt(PresetRow& row, int position)
 PresetRow rowOf(const PresetRecord& record, const QString& name)
 {
     PresetRow row;
-    row.fill(QStringLiteral(""));
+    row.fill(u""_qs);
     row[0] = name;
     row[1] = record.process;
     row[2] = record.action;

@@ -12,7 +12,7 @@ QString declaredType(qsizetype position)
     constexpr qsizetype lastInteger = 41;
 
     const bool isInteger = position >= firstInteger && position <= lastInteger;
-    return isInteger ? QStringLiteral("Integer") : QStringLiteral("Text");
+    return isInteger ? u"Integer"_qs : u"Text"_qs;
 }
 
 /// 'a','b', 'c','d': one blank, behind the second comma.
@@ -21,7 +21,7 @@ QString quotedList(const QStringList& texts)
     QString list;
     for (qsizetype index = 0; index < texts.size(); ++index) {
         if (index > 0)
-            list += index == 2 ? QStringLiteral(", ") : QStringLiteral(",");
+            list += index == 2 ? u", "_qs : u","_qs;
         list += QLatin1Char('\'') + texts[index] + QLatin1Char('\'');
     }
     return list;
@@ -29,7 +29,7 @@ QString quotedList(const QStringList& texts)
 
 QString comparison(const Condition& condition)
 {
-    return condition.column + QStringLiteral(" = '") + condition.value + QLatin1Char('\'');
+    return condition.column + u" = '"_qs + condition.value + QLatin1Char('\'');
 }
 
 QStringList columnsWithHead(QStringList head)
@@ -43,31 +43,28 @@ QStringList columnsWithHead(QStringList head)
 
 QStringList presetColumns()
 {
-    return columnsWithHead(
-        {QStringLiteral("NameOfPreset"), QStringLiteral("Process"), QStringLiteral("Action")}
-    );
+    return columnsWithHead({u"NameOfPreset"_qs, u"Process"_qs, u"Action"_qs});
 }
 
 QStringList bookmarkColumns() { return columnsWithHead({}); }
 
-QString fieldName(int position) { return QStringLiteral("StrField%1").arg(position); }
+QString fieldName(int position) { return u"StrField%1"_qs.arg(position); }
 
 QString createTableStatement(const QString& table, const QStringList& columns)
 {
-    QStringList declarations = {QStringLiteral("ID INTEGER PRIMARY KEY AUTOINCREMENT")};
+    QStringList declarations = {u"ID INTEGER PRIMARY KEY AUTOINCREMENT"_qs};
     for (qsizetype position = 0; position < columns.size(); ++position)
         declarations.append(
-            QLatin1Char('\'') + columns[position] + QStringLiteral("' ") + declaredType(position)
+            QLatin1Char('\'') + columns[position] + u"' "_qs + declaredType(position)
         );
-    return QStringLiteral("Create table if not exists '") + table + QStringLiteral("' (")
-        + declarations.join(QStringLiteral(", ")) + QStringLiteral(");");
+    return u"Create table if not exists '"_qs + table + u"' ("_qs + declarations.join(u", "_qs)
+        + u");"_qs;
 }
 
 QString insertStatement(const QString& table, const QStringList& columns, const QStringList& values)
 {
-    return QStringLiteral("Insert or replace into '") + table + QStringLiteral("' (")
-        + quotedList(columns) + QStringLiteral(") ") + QStringLiteral("values (")
-        + quotedList(values) + QStringLiteral(")");
+    return u"Insert or replace into '"_qs + table + u"' ("_qs + quotedList(columns) + u") "_qs
+        + u"values ("_qs + quotedList(values) + u")"_qs;
 }
 
 QString
@@ -76,16 +73,15 @@ selectStatement(const QString& what, const QString& table, const QList<Condition
     QStringList comparisons;
     for (const Condition& condition : conditions)
         comparisons.append(comparison(condition));
-    const QString select = QStringLiteral("SELECT ") + what + QStringLiteral(" FROM ") + table;
+    const QString select = u"SELECT "_qs + what + u" FROM "_qs + table;
     if (comparisons.isEmpty())
         return select;
-    return select + QStringLiteral(" WHERE ") + comparisons.join(QStringLiteral(" AND "));
+    return select + u" WHERE "_qs + comparisons.join(u" AND "_qs);
 }
 
 QString deleteStatement(const QString& table, const Condition& condition)
 {
-    return QStringLiteral("DELETE FROM ") + table + QStringLiteral(" WHERE ")
-        + comparison(condition);
+    return u"DELETE FROM "_qs + table + u" WHERE "_qs + comparison(condition);
 }
 
 } // namespace brenvaldo::presets

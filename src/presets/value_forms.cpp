@@ -38,7 +38,7 @@ void restoreColor(controls::ColorWell& well, const QString& archive)
 std::optional<QString> bookmarkOf(const QString& path)
 {
     if (path.isEmpty())
-        return QStringLiteral("");
+        return u""_qs;
     const QUrl url = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
     const auto bookmark = DVbookmarks().bookmarkForURL(url);
     if (!bookmark)

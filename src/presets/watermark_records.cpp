@@ -15,7 +15,7 @@ OtherForm actionChainForm(controls::ArrayController& actions)
         .stored =
             [&actions] {
                 const QString chain = chainText(actions);
-                return chain == noActions() ? QStringLiteral("") : chain;
+                return chain == noActions() ? u""_qs : chain;
             },
         .restore =
             [&actions](const QString& chain) {
@@ -34,8 +34,8 @@ PresetRecord textWatermarkRecord(panels::Panels& panels)
     auto& text = panels.vwWatermark;
     auto& files = panels.vwFileType;
     return {
-        .process = QStringLiteral("TextWM"),
-        .action = QStringLiteral("Watermark"),
+        .process = u"TextWM"_qs,
+        .action = u"Watermark"_qs,
         .before = PresetRecord::Before::ClearSecondViewAndSimulation,
         .fields = {
             {3, FolderForm{&panels.vwMainDestination.tfImageDestinationFolder}},

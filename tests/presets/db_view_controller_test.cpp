@@ -26,7 +26,7 @@ const char* const countPresets = "select count(*) from Presets";
 PresetRow rowNamed(const QString& name, const QString& process = u"TextWM"_qs)
 {
     PresetRow row;
-    row.fill(QStringLiteral(""));
+    row.fill(u""_qs);
     row[0] = name;
     row[1] = process;
     row[2] = u"Watermark"_qs;

@@ -18,10 +18,7 @@ class PresetFile
 public:
     /// The folder that the program takes for the user's application support.
     [[nodiscard]] const TemporaryFolder& folder() const { return m_folder; }
-    [[nodiscard]] QString path() const
-    {
-        return m_folder.path(QStringLiteral("DravothCom/Brenvaldo9.sql"));
-    }
+    [[nodiscard]] QString path() const { return m_folder.path(u"DravothCom/Brenvaldo9.sql"_qs); }
 
     /// Runs `text` and answers its rows, the values of each joined by "|".
     [[nodiscard]] QStringList rows(const char* text) const
