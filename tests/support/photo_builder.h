@@ -51,7 +51,7 @@ public:
     PhotoBuilder& xmp(const QByteArray& packet);
     /// A whole further segment of a JPEG, in front of the picture.
     PhotoBuilder& jpegSegment(char marker, const QByteArray& contents);
-    /// Rotation boxes of a HEIC as for this orientation.
+    /// Rotation box of a HEIC as for the orientation 3, 6 or 8; both sides multiples of 64.
     PhotoBuilder& heicTransformation(int orientation);
     PhotoBuilder& format(PhotoFormat format);
     /// 1 to 100 for JPEG, HEIC and JPEG 2000 (100: lossless).

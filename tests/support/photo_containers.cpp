@@ -120,6 +120,22 @@ HeifImage heicPixels(const HeicContents& contents)
     return image;
 }
 
+/// The library states the turned size, while cameras state the coded one and put the size in front
+/// of the rotation.
+QByteArray withCodedSize(QByteArray file, QSize size)
+{
+    const qsizetype fields = file.indexOf("ispe") + 8; // behind type, version and flags
+    file.replace(
+        fields,
+        8,
+        bigEndian(static_cast<quint32>(size.width()))
+            + bigEndian(static_cast<quint32>(size.height()))
+    );
+    const qsizetype properties = file.indexOf("ipma") + 15; // the list of the first item
+    const char rotation = file.at(properties + 1);
+    return file.remove(properties + 1, 1).insert(properties + 2, rotation);
+}
+
 } // namespace
 
 QByteArray bytesOf(VipsBlob* blob)
@@ -254,7 +270,8 @@ QByteArray heicFile(const HeicContents& contents)
     QByteArray file;
     heif_writer writer = {1, collect};
     check(heif_context_write(context.get(), &writer, &file));
-    return file;
+    const bool isTurned = contents.transformation != 1;
+    return isTurned ? withCodedSize(file, contents.size) : file;
 }
 
 } // namespace brenvaldo::test

@@ -37,7 +37,7 @@ private:
                 m_pixels = made;
             else
                 vips_error("deferred", "the decoder gave pixels of another layout");
-        } catch (const vips::VError& error) {
+        } catch (const std::exception& error) { // the engine above this frame is written in C
             vips_error("deferred", "%s", error.what());
         }
         m_produce = nullptr;
@@ -75,6 +75,30 @@ void release(VipsImage* /*out*/, gpointer deferred)
     const std::unique_ptr<Deferred> owned(static_cast<Deferred*>(deferred));
 }
 
+void setLayout(VipsImage* image, const PixelLayout& layout)
+{
+    vips_image_init_fields(
+        image,
+        layout.width,
+        layout.height,
+        layout.bands,
+        layout.format,
+        VIPS_CODING_NONE,
+        layout.interpretation,
+        1.0,
+        1.0
+    );
+}
+
+using TakeRow = std::function<void(const uchar*, int)>;
+
+int takeRows(VipsRegion* region, VipsRect* area, void* take)
+{
+    for (int y = area->top; y < VIPS_RECT_BOTTOM(area); ++y)
+        (*static_cast<const TakeRow*>(take))(VIPS_REGION_ADDR(region, 0, y), y);
+    return 0;
+}
+
 } // namespace
 
 PixelLayout layoutOf(const vips::VImage& pixels)
@@ -88,22 +112,28 @@ PixelLayout layoutOf(const vips::VImage& pixels)
     };
 }
 
+vips::VImage newMemoryPixels(const PixelLayout& layout)
+{
+    const vips::VImage pixels(vips_image_new_memory());
+    setLayout(pixels.get_image(), layout);
+    if (vips_image_write_prepare(pixels.get_image()) != 0)
+        throw vips::VError();
+    return pixels;
+}
+
+void forEachRow(const vips::VImage& pixels, const TakeRow& take)
+{
+    TakeRow taker = take;
+    if (vips_sink_disc(pixels.get_image(), takeRows, &taker) != 0)
+        throw vips::VError();
+}
+
 vips::VImage deferredPixels(const PixelLayout& layout, std::function<vips::VImage()> produce)
 {
     auto deferred = std::make_unique<Deferred>(layout, std::move(produce));
     const vips::VImage out(vips_image_new());
     VipsImage* image = out.get_image();
-    vips_image_init_fields(
-        image,
-        layout.width,
-        layout.height,
-        layout.bands,
-        layout.format,
-        VIPS_CODING_NONE,
-        layout.interpretation,
-        1.0,
-        1.0
-    );
+    setLayout(image, layout);
     Deferred* state = deferred.release();
     g_signal_connect(image, "close", G_CALLBACK(release), state);
     if (vips_image_pipelinev(image, VIPS_DEMAND_STYLE_ANY, nullptr) != 0

@@ -3,6 +3,8 @@
 
 #include <vips/vips8>
 
+#include <QtGlobal>
+
 #include <functional>
 
 namespace brenvaldo::platform {
@@ -18,6 +20,14 @@ struct PixelLayout
 };
 
 [[nodiscard]] PixelLayout layoutOf(const vips::VImage& pixels);
+
+/// Pixels in memory, not set yet.
+[[nodiscard]] vips::VImage newMemoryPixels(const PixelLayout& layout);
+
+/// Computes `pixels` and hands over each row, from the top down, on one thread at a time.
+void forEachRow(
+    const vips::VImage& pixels, const std::function<void(const uchar* row, int y)>& take
+);
 
 /// Pixels that `produce` makes, once, when the first of them is needed; they can be read in any
 /// order.

@@ -68,4 +68,11 @@ void encodeTiff(const ImageNode& node, const QString& path)
     );
 }
 
+void encodeGif(const ImageNode& node, const QString& path)
+{
+    const ImageNode fitted
+        = fittedTo(node, {.depth = DepthSupport::EightBits, .colors = ColorSupport::Srgb});
+    fitted.pixels.gifsave(QFile::encodeName(path).constData());
+}
+
 } // namespace brenvaldo::platform

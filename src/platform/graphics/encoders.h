@@ -14,6 +14,12 @@ namespace brenvaldo::platform {
 void encodeJpeg(const ImageNode& node, std::optional<double> quality, const QString& path);
 void encodePng(const ImageNode& node, const QString& path);
 void encodeTiff(const ImageNode& node, const QString& path);
+void encodeGif(const ImageNode& node, const QString& path);
+void encodeJpeg2000(const ImageNode& node, const QString& path);
+void encodeBmp(const ImageNode& node, const QString& path);
+void encodePdf(const ImageNode& node, const QString& path);
+/// `blocks` may be null.
+void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, const QString& path);
 
 /// What a format can hold.
 enum class AlphaSupport { Keeps, Flattens };

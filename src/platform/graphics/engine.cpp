@@ -5,15 +5,28 @@
 
 #include <vips/vips8>
 
+#include <QImageReader>
+
+#include <mutex>
+
 namespace brenvaldo::platform {
 
 namespace {
 
+/// Logs a warning of the engine; one that a damaged file repeats is logged once in a row.
 void logEngineMessage(
     const gchar* domain, GLogLevelFlags /*level*/, const gchar* message, gpointer /*data*/
 )
 {
-    log(QString::fromUtf8(domain) + QStringLiteral(": ") + QString::fromUtf8(message));
+    static std::mutex mutex;
+    static QString lastLine;
+    const QString text = QString::fromUtf8(message).simplified();
+    const QString line = QString::fromUtf8(domain) + QStringLiteral(": ") + text;
+    const std::lock_guard lock(mutex);
+    if (text.isEmpty() || line == lastLine)
+        return;
+    lastLine = line;
+    log(line);
 }
 
 } // namespace
@@ -25,6 +38,8 @@ Engine::Engine()
     // The generic decoders behind these classes are slow and unsafe; every format we read has its
     // own.
     vips_operation_block_set("VipsForeignLoadMagick", TRUE);
+    // Qt refuses pictures from 33 megapixels on; sizes are checked before anything is decoded.
+    QImageReader::setAllocationLimit(0);
     g_log_set_handler(
         "VIPS",
         static_cast<GLogLevelFlags>(G_LOG_LEVEL_ERROR | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING),

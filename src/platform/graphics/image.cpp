@@ -73,8 +73,8 @@ std::optional<Image> Image::copiedToMemory() const
 {
     try {
         return makeImage(m_node->withPixels(m_node->pixels.copy_memory()));
-    } catch (const vips::VError&) {
-        log(QStringLiteral("Failed to compute the pixels of an image: ") + takeEngineError());
+    } catch (const vips::VError& error) {
+        log(QStringLiteral("Failed to compute the pixels of an image: ") + faultText(error));
         return std::nullopt;
     }
 }

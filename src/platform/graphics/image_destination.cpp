@@ -20,12 +20,16 @@ void encodeAs(
         return encodeTiff(node, path);
     case FileFormat::Jpeg:
         return encodeJpeg(node, options.lossyQuality, path);
-    case FileFormat::Bmp:
     case FileFormat::Gif:
+        return encodeGif(node, path);
     case FileFormat::Jpeg2000:
+        return encodeJpeg2000(node, path);
     case FileFormat::Heic:
+        return encodeHeic(node, options.blocks, path);
+    case FileFormat::Bmp:
+        return encodeBmp(node, path);
     case FileFormat::Pdf:
-        throw vips::VError("the format is not known");
+        return encodePdf(node, path);
     }
 }
 
@@ -40,10 +44,7 @@ bool encode(
         encodeAs(*image.node(), format, options, path);
         return true;
     } catch (const vips::VError& error) {
-        const QString engineError = takeEngineError();
-        const QString reason
-            = engineError.isEmpty() ? QString::fromUtf8(error.what()) : engineError;
-        log(QStringLiteral("Failed to encode %1: %2").arg(path, reason));
+        log(QStringLiteral("Failed to encode %1: %2").arg(path, faultText(error)));
         return false;
     }
 }

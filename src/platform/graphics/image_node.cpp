@@ -149,11 +149,11 @@ bool isSequential(const vips::VImage& pixels)
     return vips_image_is_sequential(pixels.get_image()) != FALSE;
 }
 
-QString takeEngineError()
+QString faultText(const vips::VError& error)
 {
     const QString text = QString::fromUtf8(vips_error_buffer()).simplified();
     vips_error_clear();
-    return text;
+    return text.isEmpty() ? QString::fromUtf8(error.what()).simplified() : text;
 }
 
 } // namespace brenvaldo::platform

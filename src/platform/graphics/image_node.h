@@ -58,7 +58,7 @@ struct ImageNode
 /// True when the pixels come from a source that can be read from top to bottom only.
 [[nodiscard]] bool isSequential(const vips::VImage& pixels);
 
-/// The text of an engine fault in one line; empties the engine's error buffer.
-[[nodiscard]] QString takeEngineError();
+/// What went wrong, in one line; empties the engine's error buffer for the next job.
+[[nodiscard]] QString faultText(const vips::VError& error);
 
 } // namespace brenvaldo::platform

@@ -2,19 +2,20 @@
 #include "color_profile.h"
 #include "image.h"
 #include "image_node.h"
+#include "qt_pixels.h"
 #include "region_kernel.h"
 #include "sample_conversion.h"
 
 #include <platform/foundation/log.h>
 
+#include <array>
 #include <cstring>
 
 namespace brenvaldo::platform {
 
 namespace {
 
-constexpr double millimetresPerInch = 25.4;
-constexpr double millimetresPerMetre = 1000;
+constexpr double metresPerInch = 0.0254;
 
 /// The pixels as 32-bit words in Qt's order, alpha premultiplied.
 vips::VImage asScreenWords(const vips::VImage& pixels, bool hasAlpha)
@@ -34,59 +35,53 @@ vips::VImage asScreenWords(const vips::VImage& pixels, bool hasAlpha)
     });
 }
 
-/// Evaluates 8-bit `pixels` straight into the rows of `image`.
-void writeInto(QImage& image, const vips::VImage& pixels)
+QImage::Format qtFormat(const ImageNode& node)
 {
-    const auto rowBytes
-        = static_cast<std::size_t>(pixels.width()) * static_cast<std::size_t>(pixels.bands());
-    const vips::VImage memory = pixels.copy_memory();
-    const auto* source = static_cast<const uchar*>(memory.data());
-    for (int y = 0; y < image.height(); ++y, source += rowBytes)
-        std::memcpy(image.scanLine(y), source, rowBytes);
+    if (node.hasAlpha)
+        return QImage::Format_ARGB32_Premultiplied;
+    return node.colorModel == ColorModel::Gray ? QImage::Format_Grayscale8 : QImage::Format_RGB32;
 }
 
-QImage evaluated(const ImageNode& node)
+} // namespace
+
+QImage evaluatedQImage(const ImageNode& node)
 {
     const ImageNode srgb = withBytes(convertedToSrgb(node));
-    const vips::VImage words = asScreenWords(srgb.pixels, srgb.hasAlpha);
-    QImage image(
-        words.width(),
-        words.height(),
-        node.hasAlpha ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32
-    );
+    const QImage::Format format = qtFormat(srgb);
+    const vips::VImage rows = format == QImage::Format_Grayscale8
+        ? srgb.pixels
+        : asScreenWords(srgb.pixels, srgb.hasAlpha);
+    QImage image(rows.width(), rows.height(), format);
     if (image.isNull())
-        return {};
-    writeInto(image, words);
-    const int dotsPerMetre = qRound(node.dotsPerInch / millimetresPerInch * millimetresPerMetre);
+        throw vips::VError("no memory for the picture");
+    const auto rowBytes
+        = static_cast<std::size_t>(rows.width()) * static_cast<std::size_t>(rows.bands());
+    forEachRow(rows, [&image, rowBytes](const uchar* row, int y) {
+        std::memcpy(image.scanLine(y), row, rowBytes);
+    });
+    const int dotsPerMetre = qRound(node.dotsPerInch / metresPerInch);
     image.setDotsPerMeterX(dotsPerMetre);
     image.setDotsPerMeterY(dotsPerMetre);
     return image;
 }
 
-/// The rows of a QImage as pixels in memory, without the padding between them.
-vips::VImage packedRows(const QImage& image, int bands, VipsInterpretation interpretation)
+vips::VImage pixelsOf(const QImage& image, const PixelLayout& layout)
 {
-    const vips::VImage pixels(vips_image_new_memory());
-    vips_image_init_fields(
-        pixels.get_image(),
-        image.width(),
-        image.height(),
-        bands,
-        VIPS_FORMAT_UCHAR,
-        VIPS_CODING_NONE,
-        interpretation,
-        1.0,
-        1.0
-    );
-    if (vips_image_write_prepare(pixels.get_image()) != 0)
-        throw vips::VError();
-    const auto rowBytes = static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(bands);
-    for (int y = 0; y < image.height(); ++y)
-        std::memcpy(VIPS_IMAGE_ADDR(pixels.get_image(), 0, y), image.constScanLine(y), rowBytes);
+    constexpr std::array formats = {
+        QImage::Format_Grayscale8,
+        QImage::Format_Invalid,
+        QImage::Format_RGB888,
+        QImage::Format_RGBA8888,
+    };
+    const QImage packed
+        = image.convertToFormat(formats[static_cast<std::size_t>(layout.bands - 1)]);
+    const vips::VImage pixels = newMemoryPixels(layout);
+    const auto rowBytes
+        = static_cast<std::size_t>(layout.width) * static_cast<std::size_t>(layout.bands);
+    for (int y = 0; y < layout.height; ++y)
+        std::memcpy(VIPS_IMAGE_ADDR(pixels.get_image(), 0, y), packed.constScanLine(y), rowBytes);
     return pixels;
 }
-
-} // namespace
 
 Image Image::fromQImage(const QImage& image)
 {
@@ -95,13 +90,16 @@ Image Image::fromQImage(const QImage& image)
     const bool isGray = image.format() == QImage::Format_Grayscale8
         || image.format() == QImage::Format_Grayscale16;
     node.colorModel = isGray ? ColorModel::Gray : ColorModel::Rgb;
-    node.hasAlpha = image.hasAlphaChannel();
-    const QImage::Format format = isGray ? QImage::Format_Grayscale8
-        : node.hasAlpha                  ? QImage::Format_RGBA8888
-                                         : QImage::Format_RGB888;
-    const int bands = colorBands(node.colorModel) + (node.hasAlpha ? 1 : 0);
-    node.pixels = packedRows(
-        image.convertToFormat(format), bands, interpretationOf(node.colorModel, VIPS_FORMAT_UCHAR)
+    node.hasAlpha = !isGray && image.hasAlphaChannel();
+    node.pixels = pixelsOf(
+        image,
+        {
+            .width = image.width(),
+            .height = image.height(),
+            .bands = colorBands(node.colorModel) + (node.hasAlpha ? 1 : 0),
+            .format = VIPS_FORMAT_UCHAR,
+            .interpretation = interpretationOf(node.colorModel, VIPS_FORMAT_UCHAR),
+        }
     );
     return makeImage(std::move(node));
 }
@@ -109,9 +107,10 @@ Image Image::fromQImage(const QImage& image)
 QImage Image::toQImage() const
 {
     try {
-        return evaluated(*m_node);
-    } catch (const vips::VError&) {
-        log(QStringLiteral("Failed to draw an image: ") + takeEngineError());
+        const QImage image = evaluatedQImage(*m_node);
+        return hasAlpha() ? image : image.convertToFormat(QImage::Format_RGB32);
+    } catch (const vips::VError& error) {
+        log(QStringLiteral("Failed to draw an image: ") + faultText(error));
         return {};
     }
 }

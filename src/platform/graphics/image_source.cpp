@@ -8,6 +8,7 @@
 #include <platform/foundation/log.h>
 
 #include <functional>
+#include <optional>
 
 namespace brenvaldo::platform {
 
@@ -19,9 +20,9 @@ struct ImageSource::State
 
 namespace {
 
-void logFault(const QString& path)
+void logFault(const QString& path, const vips::VError& error)
 {
-    log(QStringLiteral("Failed to read image %1: %2").arg(path, takeEngineError()));
+    log(QStringLiteral("Failed to read image %1: %2").arg(path, faultText(error)));
 }
 
 std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)
@@ -29,6 +30,10 @@ std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)
     const QString type = typeIdentifierOfContents(path);
     if (isStreamedType(type))
         return openStreamedPhoto(path, type);
+    if (isHeifType(type))
+        return openHeifPhoto(path, type);
+    if (type == QLatin1String("com.microsoft.bmp"))
+        return openBitmapPhoto(path);
     return nullptr;
 }
 
@@ -41,10 +46,8 @@ int largestShrink(
         return 1;
     int best = 1;
     for (const int factor : decoder.shrinkFactors()) {
-        // A decoder that shrinks rounds the sides up.
-        const int width = (full.width + factor - 1) / factor;
-        const int height = (full.height + factor - 1) / factor;
-        if (width >= atLeast->width && height >= atLeast->height)
+        // A decoder that shrinks rounds the sides down.
+        if (full.width / factor >= atLeast->width && full.height / factor >= atLeast->height)
             best = factor;
     }
     return best;
@@ -58,8 +61,8 @@ decoded(const QString& path, ImageSource::Access access, const std::function<Ima
         if (access == ImageSource::Access::OnePass)
             return makeImage(node);
         return makeImage(node.withPixels(randomAccess(node.pixels)));
-    } catch (const vips::VError&) {
-        logFault(path);
+    } catch (const vips::VError& error) {
+        logFault(path, error);
         return std::nullopt;
     }
 }
@@ -80,8 +83,7 @@ std::optional<ImageSource> ImageSource::open(const QString& path)
             return std::nullopt;
         return ImageSource(std::make_shared<const State>(State{path, std::move(decoder)}));
     } catch (const vips::VError& error) {
-        vips_error("open", "%s", error.what());
-        logFault(path);
+        logFault(path, error);
         return std::nullopt;
     }
 }

@@ -11,17 +11,17 @@ namespace brenvaldo::platform {
 /// Carried bit-exactly into an output. The ICC profile and the resolution belong to the `Image`.
 struct MetadataBlocks
 {
-    QByteArray exif; ///< TIFF structure, without the "Exif\0\0" in front
-    QByteArray xmp; ///< XMP packet, UTF-8
-    QByteArray iptc; ///< IIM data sets
-    QByteArray photoshop; ///< image resource blocks ("8BIM..."), the IPTC resource among them
-    QByteArray comment; ///< text of a JPEG comment or of its counterpart
+    QByteArray exif = {}; ///< TIFF structure, without the "Exif\0\0" in front
+    QByteArray xmp = {}; ///< XMP packet, UTF-8
+    QByteArray iptc = {}; ///< IIM data sets
+    QByteArray photoshop = {}; ///< image resource blocks ("8BIM..."), the IPTC resource among them
+    QByteArray comment = {}; ///< text of a JPEG comment or of its counterpart
 
     /// Further application segments of a JPEG, whole: marker, length and contents.
-    QList<QByteArray> jpegSegments;
+    QList<QByteArray> jpegSegments = {};
 
     /// Textual chunks of a PNG other than those the blocks above were taken from, whole.
-    QList<QByteArray> pngTextChunks;
+    QList<QByteArray> pngTextChunks = {};
 };
 
 } // namespace brenvaldo::platform

@@ -33,6 +33,13 @@ vips::VImage turnedUpright(const vips::VImage& stored, int orientation)
     }
 }
 
+void checkDecodedWhole(PixelSize size)
+{
+    constexpr qint64 mostPixels = qint64{1} << 28;
+    if (!size.isValid() || qint64{size.width} * size.height > mostPixels)
+        throw vips::VError("the picture is empty or too large");
+}
+
 PixelSize uprightSize(PixelSize stored, int orientation)
 {
     return orientation >= 5 ? PixelSize{stored.height, stored.width} : stored;

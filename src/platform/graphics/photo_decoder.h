@@ -5,6 +5,7 @@
 #include "image_source.h"
 
 #include <memory>
+#include <vector>
 
 namespace brenvaldo::platform {
 
@@ -35,6 +36,22 @@ public:
 /// header can't be read.
 [[nodiscard]] std::unique_ptr<PhotoDecoder>
 openStreamedPhoto(const QString& path, const QString& typeIdentifier);
+
+/// True when photos of this type are read by `openHeifPhoto`.
+[[nodiscard]] bool isHeifType(const QString& typeIdentifier);
+
+/// A photo of the HEIF family. Throws `vips::VError`.
+[[nodiscard]] std::unique_ptr<PhotoDecoder>
+openHeifPhoto(const QString& path, const QString& typeIdentifier);
+
+/// The small picture beside the main one of a HEIF file; null without one. Throws `vips::VError`.
+[[nodiscard]] QImage heifThumbnail(const QString& path);
+
+/// A bitmap file. Throws `vips::VError`.
+[[nodiscard]] std::unique_ptr<PhotoDecoder> openBitmapPhoto(const QString& path);
+
+/// Throws when a picture of `size` is empty, or too large to be decoded whole.
+void checkDecodedWhole(PixelSize size);
 
 /// True when photos of this type are read by `openStreamedPhoto`.
 [[nodiscard]] bool isStreamedType(const QString& typeIdentifier);

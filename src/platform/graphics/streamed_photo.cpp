@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "color_profile.h"
+#include "jpeg2000_boxes.h"
 #include "photo_decoder.h"
 
 #include <QFile>
@@ -96,7 +98,8 @@ public:
             || decoded.interpretation() == VIPS_INTERPRETATION_LABS;
         m_header.colorModel = isLab ? ColorModel::Lab : node.colorModel;
         m_header.hasAlpha = node.hasAlpha;
-        m_header.dotsPerInch = node.dotsPerInch;
+        m_labels = readFileLabels(m_header.typeIdentifier);
+        m_header.dotsPerInch = m_labels.dotsPerInch.value_or(node.dotsPerInch);
     }
 
     [[nodiscard]] const ImageHeader& header() const override { return m_header; }
@@ -108,14 +111,33 @@ public:
 
     [[nodiscard]] ImageNode storedPixels(int shrink) const override
     {
-        return nodeOfDecodedPixels(load(m_loader, m_path, shrink));
+        ImageNode node = nodeOfDecodedPixels(load(m_loader, m_path, shrink));
+        node.dotsPerInch = m_header.dotsPerInch;
+        if (!m_labels.iccProfile.isEmpty())
+            node.iccProfile = usableProfile(m_labels.iccProfile, node.colorModel);
+        return node;
     }
 
 private:
+    /// What the engine doesn't read from the header of a JPEG 2000 file; nothing for other types.
+    [[nodiscard]] Jpeg2000Labels readFileLabels(const QString& typeIdentifier) const
+    {
+        QFile file(m_path);
+        if (typeIdentifier != QLatin1String("public.jp2") || !file.open(QIODevice::ReadOnly))
+            return {};
+        // The decoder fills what is missing and now and then forgets to say so.
+        if (!holdsWholeCodeStream(file))
+            throw vips::VError("the code stream is cut off");
+        file.seek(0);
+        constexpr qint64 headLength = qint64{4} << 20; // leaves room for a large profile
+        return readLabels(file.read(headLength));
+    }
+
     QString m_path;
     const char* m_loader;
     bool m_isJpeg;
     ImageHeader m_header;
+    Jpeg2000Labels m_labels;
 };
 
 } // namespace

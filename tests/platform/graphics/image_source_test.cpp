@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/graphics/image_destination.h>
 #include <platform/graphics/image_source.h>
 
 #include <support/case_name.h>
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>
 #include <support/temporary_folder.h>
+
+#include <QtEndian>
 
 #include <gmock/gmock.h>
 
@@ -113,6 +116,230 @@ TEST(ImageSource, FollowsTheContentsNotTheName)
     const QString path = PhotoBuilder().write(folder.path(QStringLiteral("photo.png")));
 
     EXPECT_EQ(openedPhoto(path).header().typeIdentifier, QStringLiteral("public.jpeg"));
+}
+
+TEST(ImageSource, ReadsTheHeaderFacts)
+{
+    const TemporaryFolder folder;
+    const QString path = PhotoBuilder()
+                             .size(53, 31)
+                             .model(PhotoModel::RgbAlpha)
+                             .depth(16)
+                             .dotsPerInch(300)
+                             .format(PhotoFormat::Png)
+                             .write(folder.path(QStringLiteral("photo.png")));
+
+    const ImageHeader header = openedPhoto(path).header();
+
+    EXPECT_EQ(header.storedSize, (PixelSize{53, 31}));
+    EXPECT_EQ(header.bitsPerComponent, 16);
+    EXPECT_TRUE(header.hasAlpha);
+    EXPECT_EQ(header.colorModel, ColorModel::Rgb);
+    EXPECT_NEAR(header.dotsPerInch, 300, 0.01);
+}
+
+TEST(ImageSource, TakesAMissingResolutionAs72)
+{
+    const TemporaryFolder folder;
+
+    EXPECT_EQ(
+        openedPhoto(PhotoBuilder().write(folder.path(QStringLiteral("a.jpg"))))
+            .header()
+            .dotsPerInch,
+        72
+    );
+}
+
+TEST(ImageSource, TurnsHeicByItsOwnBoxesAlone)
+{
+    const TemporaryFolder folder;
+    const QString path = PhotoBuilder()
+                             .size(128, 64)
+                             .corners()
+                             .format(PhotoFormat::Heic)
+                             .orientation(3)
+                             .heicTransformation(6)
+                             .write(folder.path(QStringLiteral("a.heic")));
+
+    const ImageHeader header = openedPhoto(path).header();
+
+    EXPECT_EQ(header.storedSize, (PixelSize{128, 64}));
+    EXPECT_EQ(header.uprightSize, (PixelSize{64, 128}));
+    EXPECT_EQ(cornerColors(storedPixels(path)), "RGBW");
+    EXPECT_EQ(cornerColors(uprightPixels(path)), "BRWG");
+}
+
+class ImageSourceShrinking : public testing::TestWithParam<int>
+{
+};
+
+TEST_P(ImageSourceShrinking, NeverGoesBelowTheRequest)
+{
+    const TemporaryFolder folder;
+    const QString path
+        = PhotoBuilder().size(403, 301).orientation(6).write(folder.path(QStringLiteral("a.jpg")));
+    const PixelSize request = {GetParam(), GetParam()};
+
+    const auto upright = openedPhoto(path).uprightImage({.atLeast = request});
+    const auto stored = openedPhoto(path).image({.atLeast = request});
+
+    ASSERT_TRUE(upright && stored);
+    for (const Image& image : {*upright, *stored}) {
+        EXPECT_GE(image.width(), std::min(request.width, 301));
+        EXPECT_GE(image.height(), std::min(request.height, 301));
+    }
+    EXPECT_EQ(upright->toQImage().size(), QSize(upright->width(), upright->height()));
+    EXPECT_LT(upright->width(), upright->height());
+    EXPECT_GT(stored->width(), stored->height());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sizes, ImageSourceShrinking, testing::Values(1, 20, 38, 39, 75, 76, 150, 151, 152, 301)
+);
+
+TEST(ImageSource, ShrinksAsFarAsTheRequestAllows)
+{
+    const TemporaryFolder folder;
+    const QString path
+        = PhotoBuilder().size(400, 304).orientation(8).write(folder.path(QStringLiteral("a.jpg")));
+
+    const auto image = openedPhoto(path).uprightImage({.atLeast = PixelSize{38, 50}});
+
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->pixelSize(), (PixelSize{38, 50}));
+}
+
+struct DamageCase
+{
+    const char* name;
+    PhotoFormat format;
+
+    friend void PrintTo(const DamageCase& row, std::ostream* out) { *out << row.name; }
+};
+
+class ImageSourceDamage : public testing::TestWithParam<DamageCase>
+{
+};
+
+TEST_P(ImageSourceDamage, OfAHalfFileGivesNoPicture)
+{
+    const TemporaryFolder folder;
+    const QByteArray whole = PhotoBuilder().size(200, 150).format(GetParam().format).bytes();
+
+    const QString path = folder.write(QStringLiteral("photo"), whole.first(whole.size() / 2));
+
+    EXPECT_TRUE(storedPixels(path).isNull());
+    EXPECT_TRUE(uprightPixels(path).isNull());
+}
+
+TEST_P(ImageSourceDamage, OfSingleBytesIsSurvived)
+{
+    const TemporaryFolder folder;
+    const QByteArray whole = PhotoBuilder().format(GetParam().format).bytes();
+    for (qsizetype at = 0; at < whole.size(); at += 1 + whole.size() / 97) {
+        QByteArray damaged = whole;
+        damaged[at] = static_cast<char>(~damaged[at]);
+        const QString path = folder.write(QStringLiteral("photo"), damaged);
+
+        const QImage pixels = storedPixels(path);
+
+        EXPECT_LE(pixels.width(), 1 << 16);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Formats,
+    ImageSourceDamage,
+    testing::Values(
+        DamageCase{"Jpeg", PhotoFormat::Jpeg},
+        DamageCase{"ProgressiveJpeg", PhotoFormat::ProgressiveJpeg},
+        DamageCase{"Png", PhotoFormat::Png},
+        DamageCase{"Tiff", PhotoFormat::Tiff},
+        DamageCase{"Bmp", PhotoFormat::Bmp},
+        DamageCase{"Gif", PhotoFormat::Gif},
+        DamageCase{"Heic", PhotoFormat::Heic},
+        DamageCase{"Jpeg2000", PhotoFormat::Jpeg2000}
+    ),
+    CaseName()
+);
+
+TEST(ImageSource, DoesNotOpenWhatIsNoImage)
+{
+    const TemporaryFolder folder;
+
+    EXPECT_FALSE(ImageSource::open(folder.write(QStringLiteral("a.jpg"), "")));
+    EXPECT_FALSE(ImageSource::open(folder.write(QStringLiteral("b.jpg"), "a line of text")));
+    EXPECT_FALSE(ImageSource::open(folder.path(QStringLiteral("missing.jpg"))));
+    EXPECT_FALSE(ImageSource::open(folder.path()));
+}
+
+/// A JPEG whose frame header claims another size.
+QByteArray jpegOfClaimedSize(PhotoFormat format, quint16 side)
+{
+    QByteArray file = PhotoBuilder().format(format).bytes();
+    const char frameMarker = format == PhotoFormat::ProgressiveJpeg ? '\xC2' : '\xC0';
+    const qsizetype frame = file.indexOf(QByteArray("\xFF") + frameMarker);
+    qToBigEndian(side, file.data() + frame + 5);
+    qToBigEndian(side, file.data() + frame + 7);
+    return file;
+}
+
+TEST(ImageSource, RefusesAbsurdSizes)
+{
+    const TemporaryFolder folder;
+    const auto opens = [&folder](PhotoFormat format, quint16 side) {
+        return ImageSource::open(
+                   folder.write(QStringLiteral("a.jpg"), jpegOfClaimedSize(format, side))
+        )
+            .has_value();
+    };
+
+    EXPECT_FALSE(opens(PhotoFormat::Jpeg, 40000));
+    EXPECT_TRUE(opens(PhotoFormat::Jpeg, 20000));
+    EXPECT_FALSE(opens(PhotoFormat::ProgressiveJpeg, 20000));
+    EXPECT_TRUE(opens(PhotoFormat::ProgressiveJpeg, 10000));
+}
+
+TEST(ImageSource, ReadsAFileAnewThatWasReplaced)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.path(QStringLiteral("a.png"));
+    PhotoBuilder().size(10, 10).format(PhotoFormat::Png).write(path);
+    EXPECT_EQ(storedPixels(path).width(), 10);
+
+    PhotoBuilder().size(20, 10).format(PhotoFormat::Png).write(path);
+
+    EXPECT_EQ(storedPixels(path).width(), 20);
+}
+
+/// Resident memory of the process in megabytes.
+double residentMegabytes()
+{
+    const QList<QByteArray> pages
+        = TemporaryFolder::read(QStringLiteral("/proc/self/statm")).split(' ');
+    constexpr double pagesPerMegabyte = 256;
+    return pages.size() > 1 ? pages[1].toDouble() / pagesPerMegabyte : 0;
+}
+
+TEST(ImageSource, DoesNotHoldMemoryFromJobToJob)
+{
+    const TemporaryFolder folder;
+    const QString path
+        = PhotoBuilder().size(300, 200).orientation(6).write(folder.path(QStringLiteral("a.jpg")));
+    const auto job = [&] {
+        const auto image = openedPhoto(path).uprightImage();
+        EXPECT_TRUE(encode(
+            image->scaledTo({90, 130}), FileFormat::Jpeg, {}, folder.path(QStringLiteral("b.jpg"))
+        ));
+    };
+    for (int i = 0; i < 40; ++i)
+        job();
+    const double before = residentMegabytes();
+
+    for (int i = 0; i < 200; ++i)
+        job();
+
+    EXPECT_LT(residentMegabytes() - before, 30);
 }
 
 } // namespace

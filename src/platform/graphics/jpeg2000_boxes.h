@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QIODevice>
+
+#include <optional>
+
+namespace brenvaldo::platform {
+
+/// What the header box of a JPEG 2000 file says beside the size of the picture.
+struct Jpeg2000Labels
+{
+    QByteArray iccProfile = {};
+    std::optional<double> dotsPerInch = {};
+};
+
+/// The file with these labels in its header box; unchanged where the file has no such box.
+[[nodiscard]] QByteArray withLabels(const QByteArray& file, const Jpeg2000Labels& labels);
+
+/// The labels of the file that begins with `head`.
+[[nodiscard]] Jpeg2000Labels readLabels(const QByteArray& head);
+
+/// True when the code stream of the open file reaches its end; false for a file that was cut off.
+[[nodiscard]] bool holdsWholeCodeStream(QIODevice& file);
+
+} // namespace brenvaldo::platform

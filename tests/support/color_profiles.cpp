@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "color_profiles.h"
+
+#include <lcms2.h>
+
+#include <array>
+#include <string>
+
+namespace brenvaldo::test {
+
+namespace {
+
+QByteArray saved(cmsHPROFILE profile)
+{
+    cmsUInt32Number size = 0;
+    cmsSaveProfileToMem(profile, nullptr, &size);
+    QByteArray bytes(static_cast<qsizetype>(size), '\0');
+    cmsSaveProfileToMem(profile, bytes.data(), &size);
+    cmsCloseProfile(profile);
+    constexpr qsizetype creationDate = 24; // twelve bytes that differ from run to run
+    return bytes.replace(creationDate, 12, QByteArray("\x07\xE8\0\1\0\1\0\0\0\0\0\0", 12));
+}
+
+constexpr cmsCIExyY daylight = {0.3127, 0.3290, 1.0};
+
+} // namespace
+
+QByteArray wideProfile(qsizetype padding)
+{
+    constexpr cmsCIExyYTRIPLE primaries = {{0.64, 0.33, 1}, {0.21, 0.71, 1}, {0.15, 0.06, 1}};
+    cmsToneCurve* curve = cmsBuildGamma(nullptr, 2.2);
+    const std::array curves = {curve, curve, curve};
+    cmsHPROFILE profile = cmsCreateRGBProfile(&daylight, &primaries, curves.data());
+    cmsFreeToneCurve(curve);
+    if (padding > 0) {
+        cmsMLU* text = cmsMLUalloc(nullptr, 1);
+        cmsMLUsetASCII(
+            text, "en", "US", std::string(static_cast<std::size_t>(padding / 2), 'x').c_str()
+        );
+        cmsWriteTag(profile, cmsSigCopyrightTag, text);
+        cmsMLUfree(text);
+    }
+    return saved(profile);
+}
+
+QByteArray grayProfile()
+{
+    cmsToneCurve* curve = cmsBuildGamma(nullptr, 1.8);
+    cmsHPROFILE profile = cmsCreateGrayProfile(&daylight, curve);
+    cmsFreeToneCurve(curve);
+    return saved(profile);
+}
+
+} // namespace brenvaldo::test

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+
+namespace brenvaldo::test {
+
+/// A profile of RGB with wider primaries than sRGB, and `padding` bytes of an extra tag.
+[[nodiscard]] QByteArray wideProfile(qsizetype padding = 0);
+
+/// A profile of grey with a gamma of 1.8.
+[[nodiscard]] QByteArray grayProfile();
+
+} // namespace brenvaldo::test
