@@ -86,29 +86,6 @@ void setPointer(TiffDirectory& directory, std::uint16_t tag, std::uint64_t offse
     }
 }
 
-/// Where the directories behind the first one stand, and where the last one ends.
-struct Layout
-{
-    std::uint64_t gps = 0;
-    std::uint64_t interoperability = 0;
-    std::uint64_t exif = 0;
-    std::uint64_t end = 0;
-};
-
-/// The length of a directory does not depend on its offset.
-Layout layoutOf(const ExifDirectories& parts)
-{
-    const auto lengthOf = [&parts](const TiffDirectory& directory) {
-        return static_cast<std::uint64_t>(serialized(directory, 0, parts.order).size());
-    };
-    Layout layout;
-    layout.gps = headerLength + lengthOf(parts.image);
-    layout.interoperability = layout.gps + lengthOf(parts.gps);
-    layout.exif = layout.interoperability + lengthOf(parts.interoperability);
-    layout.end = layout.exif + lengthOf(parts.exif);
-    return layout;
-}
-
 /// The maker note when it does not stand in its entry itself; null otherwise.
 TiffField* longMakerNote(TiffDirectory& exif)
 {
@@ -116,6 +93,49 @@ TiffField* longMakerNote(TiffDirectory& exif)
         return field.tag == tiff::MakerNote && field.value.size() > 4;
     });
     return found == exif.end() ? nullptr : &*found;
+}
+
+/// Where the directories and the maker note come to stand.
+struct Plan
+{
+    std::uint64_t image = headerLength;
+    std::uint64_t gps = 0;
+    std::uint64_t interoperability = 0;
+    std::uint64_t exif = 0;
+    std::uint64_t end = 0; ///< of the directories
+    std::uint64_t makerNote = 0;
+};
+
+/// The length of a directory does not depend on its offset.
+Plan planFrom(std::uint64_t start, const ExifDirectories& parts)
+{
+    const auto lengthOf = [&parts](const TiffDirectory& directory) {
+        return static_cast<std::uint64_t>(serialized(directory, 0, parts.order).size());
+    };
+    Plan plan{.image = start};
+    plan.gps = start + lengthOf(parts.image);
+    plan.interoperability = plan.gps + lengthOf(parts.gps);
+    plan.exif = plan.interoperability + lengthOf(parts.interoperability);
+    plan.end = plan.exif + lengthOf(parts.exif);
+    plan.makerNote = plan.end;
+    return plan;
+}
+
+/// The maker note at the offset it had, the directories in front of it or, where there is no room,
+/// behind it; an offset out of reach is given up.
+Plan planFor(const ExifDirectories& parts, const TiffField* makerNote)
+{
+    Plan plan = planFrom(headerLength, parts);
+    const std::uint64_t wanted = makerNote ? makerNote->valueOffset : 0;
+    const bool isInReach = wanted >= headerLength && wanted <= plan.end + longestGap;
+    if (!makerNote || !isInReach)
+        return plan;
+    if (wanted < plan.end) {
+        const std::uint64_t noteEnd = wanted + static_cast<std::uint64_t>(makerNote->value.size());
+        plan = planFrom(noteEnd + noteEnd % 2, parts);
+    }
+    plan.makerNote = wanted;
+    return plan;
 }
 
 } // namespace
@@ -160,27 +180,25 @@ QByteArray serializedExif(const ExifDirectories& directories)
     TiffField* makerNote = longMakerNote(parts.exif);
     if (makerNote)
         makerNote->isPlaced = true;
-    const Layout layout = layoutOf(parts);
-    setPointer(parts.image, tiff::GpsDirectory, layout.gps, order);
-    setPointer(parts.image, tiff::ExifDirectory, layout.exif, order);
-    setPointer(parts.exif, tiff::InteroperabilityDirectory, layout.interoperability, order);
-    std::uint64_t makerNoteOffset = layout.end;
-    if (makerNote) {
-        const bool isInReach = makerNote->valueOffset >= layout.end
-            && makerNote->valueOffset - layout.end <= longestGap;
-        makerNoteOffset = isInReach ? makerNote->valueOffset : layout.end;
-        makerNote->valueOffset = makerNoteOffset;
-    }
-
-    QByteArray block = tiffHeader(order, headerLength);
-    block += serialized(parts.image, headerLength, order);
-    block += serialized(parts.gps, layout.gps, order);
-    block += serialized(parts.interoperability, layout.interoperability, order);
-    block += serialized(parts.exif, layout.exif, order);
-    block.resize(static_cast<qsizetype>(makerNoteOffset), '\0');
+    const Plan plan = planFor(parts, makerNote);
+    setPointer(parts.image, tiff::GpsDirectory, plan.gps, order);
+    setPointer(parts.image, tiff::ExifDirectory, plan.exif, order);
+    setPointer(parts.exif, tiff::InteroperabilityDirectory, plan.interoperability, order);
     if (makerNote)
-        block += makerNote->value;
-    return block;
+        makerNote->valueOffset = plan.makerNote;
+
+    QByteArray block = tiffHeader(order, plan.image);
+    block.resize(static_cast<qsizetype>(plan.image), '\0');
+    block += serialized(parts.image, plan.image, order);
+    block += serialized(parts.gps, plan.gps, order);
+    block += serialized(parts.interoperability, plan.interoperability, order);
+    block += serialized(parts.exif, plan.exif, order);
+    if (!makerNote)
+        return block;
+    const auto noteOffset = static_cast<qsizetype>(plan.makerNote);
+    if (noteOffset > block.size())
+        block.resize(noteOffset, '\0');
+    return block.replace(noteOffset, makerNote->value.size(), makerNote->value);
 }
 
 } // namespace brenvaldo::platform
