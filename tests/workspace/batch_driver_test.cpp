@@ -1,0 +1,643 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controller_fixture.h"
+
+#include <workspace/batch_rules.h>
+
+#include <platform/foundation/log.h>
+
+#include <support/case_name.h>
+
+using namespace brenvaldo;
+
+namespace {
+
+const QStringList missingDestination{
+    u"Missing destination."_qs,
+    u"Please choose a destination folder,\rwhere you like to store your processed photos."_qs};
+const QStringList noPhotos{u"No photos to process."_qs, u"Please choose photos first."_qs};
+
+class BatchDriver : public test::ControllerTest
+{
+protected:
+    BatchDriver()
+    {
+        platform::setLogSink([this](const QString& line) { log.append(line); });
+    }
+    ~BatchDriver() override { platform::setLogSink({}); }
+
+    void chooseDestination()
+    {
+        panels.vwMainDestination.tfImageDestinationFolder.setStringValue(u"/out/"_qs);
+    }
+    void addPhotos(const QStringList& names, const QString& orientation = u"L"_qs)
+    {
+        for (const QString& name : names)
+            photos.append(entry(u"/in/"_qs + name, orientation));
+    }
+    void run() { actions.send(u"hLoadImages"_qs); }
+    void selectResize()
+    {
+        select("resizePhotos");
+        panels.window.pubEditPhoto.selectIndex(8);
+        panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"100"_qs);
+        subsystems.operations.hScalePhotosPercentage
+            = [this](const auto& photo, int value, int type, const auto& tail) {
+                  bases.append(photo.destinationBase);
+                  tails.append(tail);
+                  values.append({value, type});
+                  bar.append(panels.window.myProgressBar.doubleValue());
+                  return u"OK"_qs;
+              };
+    }
+    [[nodiscard]] QStringList words() const
+    {
+        QStringList found;
+        for (const auto& record : journal.records())
+            found.append(record.word);
+        return found;
+    }
+
+    QStringList log;
+    QStringList bases;
+    QList<imaging::OutputTail> tails;
+    QList<QList<int>> values;
+    QList<double> bar;
+};
+
+struct Filter
+{
+    const char* name;
+    int index;
+    const char* filter;
+};
+
+void PrintTo(const Filter& filter, std::ostream* out) { *out << filter.name; }
+
+class ApplyOn : public testing::TestWithParam<Filter>
+{
+};
+
+struct NotBuilt
+{
+    const char* name; ///< function id
+    int index;
+};
+
+void PrintTo(const NotBuilt& function, std::ostream* out) { *out << function.name; }
+
+class FunctionsToCome : public BatchDriver, public testing::WithParamInterface<NotBuilt>
+{
+};
+
+} // namespace
+
+TEST_P(ApplyOn, MapsTheIndexToTheOrientation)
+{
+    EXPECT_EQ(workspace::applyOnFilter(GetParam().index), QLatin1String(GetParam().filter));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    BatchRules,
+    ApplyOn,
+    testing::Values(
+        Filter{"All", 0, "ALL"},
+        Filter{"Landscape", 1, "L"},
+        Filter{"Portrait", 2, "P"},
+        Filter{"Square", 3, "S"},
+        Filter{"Beyond", 7, "S"}
+    ),
+    test::CaseName{}
+);
+
+TEST(BatchRules, CountTheBarInWholeThousandths)
+{
+    EXPECT_EQ(workspace::progressStep(1), 1000);
+    EXPECT_EQ(workspace::progressStep(3), 333);
+    EXPECT_EQ(workspace::progressStep(1000), 1);
+    EXPECT_EQ(workspace::progressStep(1001), 0);
+}
+
+TEST(BatchRules, TakeTheExtensionOffTheDestinationBase)
+{
+    EXPECT_EQ(workspace::destinationBase(u"/out/"_qs, u"a.JPG"_qs), u"/out/a"_qs);
+    EXPECT_EQ(workspace::destinationBase(u"/out"_qs, u"a.JPG"_qs), u"/outa"_qs);
+}
+
+TEST_F(BatchDriver, DoesNothingForManualSorting)
+{
+    select("manSort");
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    panels.vwShowPreview.cbShowPreview.setState(1);
+
+    run();
+
+    EXPECT_TRUE(alerts.isEmpty());
+    EXPECT_TRUE(journal.records().isEmpty());
+    EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
+}
+
+TEST_F(BatchDriver, SendsBatchSortingToItsOwnButton)
+{
+    select("batchSort");
+
+    run();
+
+    EXPECT_EQ(
+        alerts,
+        (QList<QStringList>{
+            {u"Batch sort photos and files."_qs,
+             u"\rYou selected: \"Sort photos & files\" > \"Batch mode\" function at the left. "
+             u"\rYou'll need to use the \"Choose files & sort\" button on the left "
+             u"pane.\r\rSelected photos & files will be sorted according to your given settings in "
+             u"chosen destination folder."_qs}})
+    );
+    EXPECT_TRUE(panels.window.wwAlertWindow.isOpen());
+    EXPECT_EQ(panels.window.tfHTMLAlertTitle.stringValue(), alerts.first().first());
+    EXPECT_EQ(panels.window.tfHTMLAlertInfo.stringValue(), alerts.first().last());
+
+    actions.send(u"closeApplicationAlertSheetObjC"_qs);
+    EXPECT_FALSE(panels.window.wwAlertWindow.isOpen());
+}
+
+TEST_F(BatchDriver, SendsCodesToTheirOwnButton)
+{
+    select("batchQR");
+
+    run();
+
+    EXPECT_EQ(
+        alerts,
+        (QList<QStringList>{
+            {u"Generate a QR and '128' code."_qs,
+             u"\rUse the \"Generate code\" button at the left pane to generate the code."_qs}})
+    );
+}
+
+TEST_F(BatchDriver, AsksForADestinationBeforeItLooksAtTheList)
+{
+    panels.vwShowPreview.cbShowPreview.setState(1);
+
+    run();
+    EXPECT_EQ(alerts, QList<QStringList>{missingDestination});
+    EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
+
+    chooseDestination();
+    run();
+    EXPECT_EQ(alerts, (QList<QStringList>{missingDestination, noPhotos}));
+}
+
+TEST_F(BatchDriver, EndsSilentlyWhenTheOrientationTakesNoPhoto)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    panels.vwApplyOn.pubPhotoOrientation.selectIndex(2);
+
+    run();
+
+    EXPECT_TRUE(alerts.isEmpty());
+    EXPECT_TRUE(bases.isEmpty());
+}
+
+TEST_F(BatchDriver, TakesTickedPhotosOfTheOrientationInTheOrderOfTheList)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"b.jpg"_qs, u"a.jpg"_qs, u"unticked.jpg"_qs});
+    addPhotos({u"tall.jpg"_qs}, u"P"_qs);
+    photos.append(nonPhoto(u"/in/notes.txt"_qs));
+    photos.setTick(2, 0);
+    panels.vwApplyOn.pubPhotoOrientation.selectIndex(1);
+
+    run();
+
+    EXPECT_EQ(bases, (QStringList{u"/out/b"_qs, u"/out/a"_qs}));
+    EXPECT_EQ(
+        guiControls.mySelectedImagesNSArray(), (QStringList{u"/in/b.jpg"_qs, u"/in/a.jpg"_qs})
+    );
+}
+
+TEST_F(BatchDriver, StartsTheNumberingAfresh)
+{
+    workspace::cKeepNumber::sharedNumber().myNumberString = u"17"_qs;
+
+    run();
+
+    EXPECT_EQ(workspace::cKeepNumber::sharedNumber().myNumberString, u"0"_qs);
+}
+
+TEST_F(BatchDriver, KeepsThePreviewOffDuringARun)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    panels.vwShowPreview.cbShowPreview.setState(1);
+    bool wasOn = true;
+    subsystems.operations.hScalePhotosPercentage = [&](const auto&, int, int, const auto&) {
+        wasOn = panels.vwShowPreview.cbShowPreview.isOn();
+        return u"OK"_qs;
+    };
+
+    run();
+
+    EXPECT_FALSE(wasOn);
+    EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
+}
+
+TEST_F(BatchDriver, PutsThePreviewBackAfterAFault)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    panels.vwShowPreview.cbShowPreview.setState(1);
+    subsystems.operations.hScalePhotosPercentage
+        = [](const auto&, int, int, const auto&) -> QString {
+        throw platform::RangeError(u"index 3 beyond bounds"_qs);
+    };
+
+    run();
+
+    EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
+}
+
+TEST_F(BatchDriver, StopsTheBarAt999OfThreePhotos)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+
+    run();
+
+    EXPECT_EQ(bar, (QList<double>{333, 666, 999}));
+    EXPECT_TRUE(panels.window.myProgressBar.isHidden());
+}
+
+TEST_F(BatchDriver, KeepsTheOriginalFileType)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.JPG"_qs});
+
+    run();
+
+    EXPECT_EQ(bases, QStringList{u"/out/a"_qs});
+    EXPECT_EQ(tails.first().outputType, u"original file type"_qs);
+    EXPECT_EQ(tails.first().fileExtension, u"JPG"_qs);
+    EXPECT_EQ(tails.first().fileExtensionNSStr, QString());
+    EXPECT_EQ(tails.first().fileUTI, u"public.jpeg"_qs);
+    EXPECT_EQ(tails.first().myFileType, u"public.jpeg"_qs);
+    EXPECT_EQ(tails.first().compressionLevel, u"9"_qs);
+}
+
+TEST_F(BatchDriver, MakesTheTypeOfTheChosenTitle)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+
+    panels.vwFileType.pubFileType.selectIndex(4);
+    run();
+    panels.vwFileType.pubFileType.selectIndex(1);
+    run();
+
+    EXPECT_EQ(tails.at(0).myFileType, u"com.compuserve.gif"_qs);
+    EXPECT_EQ(tails.at(1).myFileType, u"public.png"_qs);
+    EXPECT_EQ(tails.at(1).fileUTI, u"public.jpeg"_qs);
+}
+
+TEST_F(BatchDriver, NamesOutputsByTheChainOfActions)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    panels.vwWatermark.cActionsTWMArrayController.addObject({u"Prefix"_qs});
+    subsystems.operations.hRenameTWMFile
+        = [](const QString&, const QString& name, const QList<QStringList>& chain) {
+              return chain.first().first() + u'_' + name;
+          };
+
+    run();
+
+    EXPECT_EQ(bases, QStringList{u"/out/Prefix_a"_qs});
+}
+
+TEST_F(BatchDriver, RecordsEachPhotoInTheJournal)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.tif"_qs});
+
+    run();
+
+    ASSERT_EQ(journal.records().size(), 1);
+    EXPECT_EQ(journal.records().first().function, u"resizePhotos"_qs);
+    EXPECT_EQ(journal.records().first().source, u"/in/a.tif"_qs);
+    EXPECT_EQ(journal.records().first().target, u"/out/a.tiff"_qs);
+    EXPECT_EQ(journal.records().first().word, u"OK"_qs);
+}
+
+TEST_F(BatchDriver, WarnsOfAMaximumOfZeroForEachPhotoAndStillCalls)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(QString());
+
+    run();
+
+    const QStringList wrongValue{u"Wrong value"_qs, u"Value can't be empty or '0'."_qs};
+    EXPECT_EQ(alerts, (QList<QStringList>{wrongValue, wrongValue}));
+    EXPECT_EQ(values, (QList<QList<int>>{{0, 2}, {0, 2}}));
+}
+
+TEST_F(BatchDriver, PassesOverPhotosForABoxWithoutWidthOrHeight)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    panels.vwResizePhotos.pubScaleType.selectIndex(1);
+    panels.vwResizePhotos.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"300"_qs);
+    int calls = 0;
+    subsystems.operations.hScalePhotosWidthAndHeight
+        = [&](const auto&, platform::PixelSize, int, const auto&) {
+              ++calls;
+              return u"OK"_qs;
+          };
+
+    run();
+
+    const QStringList wrongSize{u"Wrong value"_qs, u"Width or height can't be empty or '0'."_qs};
+    EXPECT_EQ(alerts, (QList<QStringList>{wrongSize, wrongSize}));
+    EXPECT_EQ(calls, 0);
+    EXPECT_TRUE(journal.records().isEmpty());
+
+    panels.vwResizePhotos.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"200"_qs);
+    run();
+    EXPECT_EQ(calls, 2);
+}
+
+TEST_F(BatchDriver, FollowsThePopUpWhereTheIdDisagrees)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    select("cropPhotos");
+
+    run();
+
+    EXPECT_EQ(bases, QStringList{u"/out/a"_qs});
+}
+
+TEST_F(BatchDriver, TakesThePhotosOwnSizeForACropWithoutSize)
+{
+    select("cropPhotos");
+    panels.window.pubEditPhoto.selectIndex(9);
+    chooseDestination();
+    const QString path
+        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"a.jpg"_qs));
+    photos.append(entry(path, u"P"_qs));
+    panels.vwCropPhotos.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"10"_qs);
+    workspace::CropSettings crop;
+    subsystems.operations.hCropPhotos
+        = [&](const auto&, const workspace::CropSettings& settings, const auto&) {
+              crop = settings;
+              return u"OK"_qs;
+          };
+
+    run();
+
+    EXPECT_EQ(crop.size, (platform::PixelSize{30, 40}));
+    EXPECT_EQ(crop.cropType, u"W x H"_qs);
+    EXPECT_EQ(crop.anchor, 4);
+}
+
+TEST_F(BatchDriver, HandsTheWholeListToTheWatermark)
+{
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    panels.vwWatermark.tvFileName.setStringValue(u"name"_qs);
+    workspace::WatermarkRun seen;
+    subsystems.operations.setWatermarkText = [&](const auto& watermark, const auto& report) {
+        seen = watermark;
+        report({.source = u"/in/a.jpg"_qs, .target = u"/out/a.jpg"_qs, .word = u"OK"_qs});
+    };
+
+    run();
+
+    EXPECT_EQ(seen.photos, (QStringList{u"/in/a.jpg"_qs, u"/in/b.jpg"_qs}));
+    EXPECT_EQ(seen.destination, u"/out/"_qs);
+    EXPECT_EQ(seen.outputType, u"original file type"_qs);
+    EXPECT_EQ(seen.compressionLevel, u"9"_qs);
+    EXPECT_EQ(seen.fileName, u"name"_qs);
+    ASSERT_EQ(journal.records().size(), 1);
+    EXPECT_EQ(journal.records().first().function, u"textWM"_qs);
+}
+
+TEST_P(FunctionsToCome, FailForEachPhotoAndSaySo)
+{
+    select(GetParam().name);
+    panels.window.pubEditPhoto.selectIndex(GetParam().index);
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+
+    run();
+
+    EXPECT_EQ(words(), (QStringList{u"Failed"_qs, u"Failed"_qs}));
+    ASSERT_FALSE(log.isEmpty());
+    EXPECT_TRUE(log.first().contains(QLatin1String(GetParam().name)));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    BatchDriver,
+    FunctionsToCome,
+    testing::Values(
+        NotBuilt{"textWM", 0},
+        NotBuilt{"addTint", 1},
+        NotBuilt{"framing", 2},
+        NotBuilt{"roundings", 3},
+        NotBuilt{"profileConversion", 4},
+        NotBuilt{"faces", 5},
+        NotBuilt{"rotatePhotos", 6},
+        NotBuilt{"filters", 7},
+        NotBuilt{"resizePhotos", 8},
+        NotBuilt{"cropPhotos", 9},
+        NotBuilt{"batchUploadPhotos", 0},
+        NotBuilt{"batchExifUC", 0},
+        NotBuilt{"fileRenaming", 0},
+        NotBuilt{"batchFileConvert", 0},
+        NotBuilt{"htmlExport", 0}
+    ),
+    test::CaseName{}
+);
+
+TEST_F(BatchDriver, ConvertsEveryTickedEntry)
+{
+    select("batchFileConvert");
+    chooseDestination();
+    addPhotos({u"a.JPG"_qs});
+    photos.append(nonPhoto(u"/in/b.txt"_qs));
+    panels.vwApplyOn.pubPhotoOrientation.selectIndex(2);
+    QStringList targets;
+    subsystems.operations.hConvertFileType = [&](const workspace::Conversion& conversion) {
+        targets.append(conversion.target);
+        return u"OK"_qs;
+    };
+
+    run();
+
+    EXPECT_EQ(targets, (QStringList{u"/out/a.jpeg"_qs, u"/out/b"_qs}));
+}
+
+TEST_F(BatchDriver, RenamesFilesThatAreNoPhotosToo)
+{
+    select("fileRenaming");
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    photos.append(nonPhoto(u"/in/b.txt"_qs));
+    panels.vwApplyOn.pubPhotoOrientation.selectIndex(2);
+    QList<workspace::RenameRequest> requests;
+    subsystems.operations.hGetRenamePropertyValues = [&](const workspace::RenameRequest& request) {
+        requests.append(request);
+        return u"OK"_qs;
+    };
+
+    run();
+
+    ASSERT_EQ(requests.size(), 2);
+    EXPECT_EQ(requests.at(1).path, u"/in/b.txt"_qs);
+    EXPECT_EQ(requests.at(1).function, u"RenamingFunction"_qs);
+    EXPECT_EQ(requests.at(1).previewState, 0);
+    EXPECT_EQ(requests.at(1).index, 1);
+}
+
+TEST_F(BatchDriver, NeedsNoDestinationForADryRunOfRenaming)
+{
+    select("fileRenaming");
+    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    photos.setTick(1, 0);
+    collectionView.hUpdateCollectionViewItem(u"old"_qs, 1);
+    panels.vwShowPreview.cbShowPreview.setState(1);
+    subsystems.operations.hGetRenamePropertyValues = [&](const workspace::RenameRequest& request) {
+        EXPECT_EQ(request.previewState, 1);
+        collectionView.hUpdateCollectionViewItem(u"new.jpg"_qs, request.index);
+        return u"OK"_qs;
+    };
+
+    run();
+
+    EXPECT_TRUE(alerts.isEmpty());
+    EXPECT_EQ(photos.entries().at(0).myNewName, u"new.jpg"_qs);
+    EXPECT_EQ(photos.entries().at(1).myNewName, QString());
+
+    panels.vwShowPreview.cbShowPreview.setState(0);
+    run();
+    EXPECT_EQ(alerts, QList<QStringList>{missingDestination});
+}
+
+TEST_F(BatchDriver, UploadsWithTheSelectedAlbum)
+{
+    select("batchUploadPhotos");
+    addPhotos({u"a.jpg"_qs});
+    panels::SortingPanel& panel = panels.vwFileManagementSorting;
+    panel.tfAddKeyword.setStringValue(u"sea"_qs);
+    panel.cbAddToFavorite.setState(1);
+    panel.theApplePhotosData.setObjects({{u"Holiday"_qs}, {u"Work"_qs}});
+    QList<workspace::PhotoUpload> uploads;
+    subsystems.operations.uploadToPhotos = [&](const workspace::PhotoUpload& upload) {
+        uploads.append(upload);
+        return u"OK"_qs;
+    };
+
+    run();
+    panel.myPhotosTableView.selectRow(1);
+    run();
+
+    ASSERT_EQ(uploads.size(), 2);
+    EXPECT_EQ(uploads.at(0).album, QString());
+    EXPECT_EQ(uploads.at(1).album, u"Work"_qs);
+    EXPECT_EQ(uploads.at(1).keyword, u"sea"_qs);
+    EXPECT_EQ(uploads.at(1).favourite, u"1"_qs);
+}
+
+TEST_F(BatchDriver, EndsRunsOfNoPhotosSilently)
+{
+    chooseDestination();
+    for (const char* function : {"batchUploadPhotos", "batchExifUC", "fileRenaming"}) {
+        select(function);
+        run();
+    }
+    addPhotos({u"a.jpg"_qs});
+    photos.setTick(0, 0);
+    select("batchFileConvert");
+    run();
+
+    EXPECT_TRUE(alerts.isEmpty());
+    EXPECT_TRUE(journal.records().isEmpty());
+}
+
+TEST_F(BatchDriver, DoesNothingForTheUploadThatNoControlSelects)
+{
+    selectResize();
+    select("uploadPhotos");
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+
+    run();
+
+    EXPECT_TRUE(bases.isEmpty());
+    EXPECT_TRUE(journal.records().isEmpty());
+}
+
+TEST_F(BatchDriver, HandsThePhotosToTheGallery)
+{
+    select("htmlExport");
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    QString destination;
+    subsystems.operations.hCreateResponsiveHTML
+        = [&](const QStringList&, const QString& target) { destination = target; };
+
+    run();
+
+    EXPECT_EQ(destination, u"/out/"_qs);
+    EXPECT_EQ(guiControls.mySelectedImagesNSArray(), QStringList{u"/in/a.jpg"_qs});
+}
+
+TEST_F(BatchDriver, EndsTheChosenDestinationWithASlash)
+{
+    chooser.answers = {QStringList{u"/out/photos"_qs}};
+
+    actions.send(u"hChooseScalingDestinationFolder"_qs);
+    actions.send(u"hShowDestinationFolderInFinder"_qs);
+
+    const controls::OpenPanel& panel = chooser.panels.first();
+    EXPECT_EQ(panel.message, u"*** Choose destination folder ***"_qs);
+    EXPECT_FALSE(panel.choosesFiles);
+    EXPECT_TRUE(panel.choosesDirectories);
+    EXPECT_TRUE(panel.canCreateDirectories);
+    EXPECT_FALSE(panel.allowsMultipleSelection);
+    const controls::TextField& field = panels.vwMainDestination.tfImageDestinationFolder;
+    EXPECT_EQ(field.stringValue(), u"/out/photos/"_qs);
+    EXPECT_EQ(field.toolTip(), u"/out/photos/"_qs);
+    EXPECT_EQ(desktop.revealed, QStringList{u"/out/photos/"_qs});
+}
+
+TEST_F(BatchDriver, KeepsTheDestinationWhenThePanelIsCancelled)
+{
+    chooseDestination();
+
+    actions.send(u"hChooseScalingDestinationFolder"_qs);
+
+    EXPECT_EQ(panels.vwMainDestination.tfImageDestinationFolder.stringValue(), u"/out/"_qs);
+}
+
+TEST_F(BatchDriver, TellsAllPathsOfTheList)
+{
+    addPhotos({u"a.jpg"_qs});
+    photos.append(nonPhoto(u"/in/b.txt"_qs));
+
+    EXPECT_EQ(
+        guiControls.hGetPhotosFromArrayController(), (QStringList{u"/in/a.jpg"_qs, u"/in/b.txt"_qs})
+    );
+}

@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controller_fixture.h"
+
+using namespace brenvaldo;
+
+namespace {
+
+class EditList : public test::ControllerTest
+{
+protected:
+    void fill(const QStringList& names)
+    {
+        for (const QString& name : names)
+            photos.append(entry(u"/gone/"_qs + name, u"L"_qs));
+    }
+};
+
+} // namespace
+
+TEST_F(EditList, RemovesTheSelectedEntry)
+{
+    collectionView.hDroppedPhotos(
+        {photo(u"a.jpg"_qs), photo(u"b.jpg"_qs, 20, 10), photo(u"c.jpg"_qs, 60, 40)}
+    );
+    photos.select(1);
+
+    actions.send(u"hRemoveSelectedObject"_qs);
+
+    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"c.jpg"_qs}));
+    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"2"_qs);
+    EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 60);
+}
+
+TEST_F(EditList, ShowsAnEmptyPreviewAfterTheLastEntry)
+{
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    ASSERT_TRUE(showsPhoto());
+
+    actions.send(u"hRemoveSelectedObject"_qs);
+
+    EXPECT_TRUE(photos.isEmpty());
+    EXPECT_FALSE(showsPhoto());
+    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"0"_qs);
+}
+
+TEST_F(EditList, RemovesNothingWithoutASelection)
+{
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    photos.select(std::nullopt);
+
+    actions.send(u"hRemoveSelectedObject"_qs);
+
+    EXPECT_EQ(photos.count(), 1);
+    EXPECT_FALSE(showsPhoto());
+}
+
+TEST_F(EditList, RemovesAllEntries)
+{
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs), photo(u"b.jpg"_qs)});
+    panels.vwShowPreview.cbShowPreview.setState(1);
+
+    actions.send(u"hRemoveAllPhoto"_qs);
+
+    EXPECT_TRUE(photos.isEmpty());
+    EXPECT_FALSE(showsPhoto());
+    EXPECT_FALSE(panels.vwShowPreview.cbShowPreview.isOn());
+    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"0"_qs);
+}
+
+TEST_F(EditList, ReplacesTheSelectedEntry)
+{
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs), photo(u"b.jpg"_qs)});
+    photos.select(0);
+
+    collectionView.hReplaceSelectedPhotoObject(photo(u"new.jpg"_qs, 70, 50));
+
+    EXPECT_EQ(listedNames(), (QStringList{u"new.jpg"_qs, u"b.jpg"_qs}));
+    EXPECT_EQ(photos.selectedIndex(), 0);
+    EXPECT_EQ(photos.entries().first().myPhoto.scaledTo, std::nullopt);
+    EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 70);
+}
+
+TEST_F(EditList, ReplacesNothingWithoutASelection)
+{
+    fill({u"a.jpg"_qs});
+
+    collectionView.hReplaceSelectedPhotoObject(u"/gone/new.jpg"_qs);
+
+    EXPECT_EQ(listedNames(), QStringList{u"a.jpg"_qs});
+    EXPECT_FALSE(showsPhoto());
+}
+
+TEST_F(EditList, TicksAllEntriesAfterTheMasterTick)
+{
+    fill({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    photos.setTick(1, 0);
+    photos.select(2);
+
+    user.tick(panels.window.cbPhotoToProcess, 1);
+    for (const auto& item : photos.entries())
+        EXPECT_EQ(item.myPhotoSelect, 1);
+
+    user.tick(panels.window.cbPhotoToProcess, 0);
+    for (const auto& item : photos.entries())
+        EXPECT_EQ(item.myPhotoSelect, 0);
+    EXPECT_EQ(photos.selectedIndex(), 2);
+}
+
+TEST_F(EditList, TurnsTheMasterTickOffWithASingleOne)
+{
+    fill({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    user.tick(panels.window.cbPhotoToProcess, 1);
+
+    photos.setTick(1, 0);
+    actions.send(u"cbPhotoToProcessClicked"_qs);
+
+    EXPECT_FALSE(panels.window.cbPhotoToProcess.isOn());
+    EXPECT_EQ(photos.entries().at(0).myPhotoSelect, 1);
+    EXPECT_EQ(photos.entries().at(1).myPhotoSelect, 0);
+    EXPECT_EQ(photos.entries().at(2).myPhotoSelect, 1);
+}
+
+TEST_F(EditList, SortsWithASelectionOnly)
+{
+    fill({u"b.jpg"_qs, u"C.jpg"_qs, u"a.jpg"_qs});
+
+    actions.send(u"setSortingModeAz"_qs);
+    EXPECT_EQ(listedNames(), (QStringList{u"b.jpg"_qs, u"C.jpg"_qs, u"a.jpg"_qs}));
+
+    photos.select(2);
+    actions.send(u"setSortingModeAz"_qs);
+    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"b.jpg"_qs, u"C.jpg"_qs}));
+    EXPECT_EQ(photos.selectedIndex(), 0);
+
+    actions.send(u"setSortingModezA"_qs);
+    EXPECT_EQ(listedNames(), (QStringList{u"C.jpg"_qs, u"b.jpg"_qs, u"a.jpg"_qs}));
+}
+
+TEST_F(EditList, StoresANewName)
+{
+    fill({u"a.jpg"_qs, u"b.jpg"_qs});
+
+    collectionView.hUpdateCollectionViewItem(u"renamed.jpg"_qs, 1);
+    collectionView.hUpdateCollectionViewItem(u"nobody.jpg"_qs, 2);
+
+    EXPECT_EQ(photos.entries().at(0).myNewName, QString());
+    EXPECT_EQ(photos.entries().at(1).myNewName, u"renamed.jpg"_qs);
+}
+
+TEST_F(EditList, TellsTheActiveFile)
+{
+    fill({u"a.jpg"_qs});
+    EXPECT_EQ(collectionView.hGetActiveFileFilePath(), std::nullopt);
+
+    photos.select(0);
+    EXPECT_EQ(collectionView.hGetActiveFileFilePath(), u"/gone/a.jpg"_qs);
+}
+
+TEST_F(EditList, LeavesTheOrderWhenTheLastEntryIsDraggedToTheEnd)
+{
+    fill({u"a"_qs, u"b"_qs, u"c"_qs});
+
+    collectionView.acceptDrop({2}, 3);
+
+    EXPECT_EQ(listedNames(), (QStringList{u"a"_qs, u"b"_qs, u"c"_qs}));
+}
+
+TEST_F(EditList, DropsADownwardMoveOnePlaceFurther)
+{
+    fill({u"a"_qs, u"b"_qs, u"c"_qs, u"d"_qs});
+
+    collectionView.acceptDrop({0}, 2);
+
+    EXPECT_EQ(listedNames(), (QStringList{u"b"_qs, u"c"_qs, u"a"_qs, u"d"_qs}));
+}
+
+TEST_F(EditList, DropsAnUpwardMoveIntoTheGap)
+{
+    fill({u"a"_qs, u"b"_qs, u"c"_qs, u"d"_qs});
+
+    collectionView.acceptDrop({3}, 0);
+
+    EXPECT_EQ(listedNames(), (QStringList{u"d"_qs, u"a"_qs, u"b"_qs, u"c"_qs}));
+}
+
+TEST_F(EditList, DoesNotCorrectTheIndexesOfSeveralDraggedEntries)
+{
+    fill({u"a"_qs, u"b"_qs, u"c"_qs, u"d"_qs, u"e"_qs});
+
+    collectionView.acceptDrop({0, 1}, 3);
+
+    EXPECT_EQ(listedNames(), (QStringList{u"b"_qs, u"d"_qs, u"a"_qs, u"e"_qs, u"c"_qs}));
+    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"5"_qs);
+}
+
+TEST_F(EditList, TurnsTheSelectedFileInItsFolder)
+{
+    const QString path = photo(u"a.jpg"_qs, 40, 30);
+    collectionView.hDroppedPhotos({path});
+    photos.setTick(0, 0);
+    QStringList calls;
+    subsystems.quickEdits.hRotatePicture
+        = [&](const QString& file, const QString& target, float angle) {
+              calls.append(file + u' ' + target + u' ' + QString::number(double(angle)));
+              (void)test::PhotoBuilder().size(30, 40).write(file);
+          };
+
+    actions.send(u"hRotateRight"_qs);
+    actions.send(u"hRotateLeft"_qs);
+
+    EXPECT_EQ(
+        calls,
+        (QStringList{
+            path + u' ' + folder.path() + u" -90"_qs, path + u' ' + folder.path() + u" 90"_qs})
+    );
+    const auto& edited = photos.entries().first();
+    EXPECT_TRUE(edited.myPhotoPxSize.startsWith(u"30x40px | "_qs));
+    EXPECT_EQ(edited.myPhotoOrientation, u"P"_qs);
+    EXPECT_EQ(edited.myPhotoSelect, 1);
+    EXPECT_EQ(edited.myPhoto.scaledTo, std::nullopt);
+    EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 30);
+    EXPECT_EQ(photos.selectedIndex(), 0);
+}
+
+TEST_F(EditList, MirrorsTheSelectedFile)
+{
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    QStringList calls;
+    subsystems.quickEdits.hFlipHorizontalPicture
+        = [&](const QString&, const QString&) { calls.append(u"horizontal"_qs); };
+    subsystems.quickEdits.hFlipVerticalPicture
+        = [&](const QString&, const QString&) { calls.append(u"vertical"_qs); };
+
+    actions.send(u"hFlipHorizontal"_qs);
+    actions.send(u"hFlipVertical"_qs);
+
+    EXPECT_EQ(calls, (QStringList{u"horizontal"_qs, u"vertical"_qs}));
+}
+
+TEST_F(EditList, TurnsNoFileThatIsNoPhotoAndNoneWithoutASelection)
+{
+    int calls = 0;
+    subsystems.quickEdits.hRotatePicture = [&](const auto&, const auto&, float) { ++calls; };
+    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+
+    actions.send(u"hRotateRight"_qs);
+    photos.select(0);
+    actions.send(u"hRotateRight"_qs);
+
+    EXPECT_EQ(calls, 0);
+}
+
+TEST_F(EditList, LaysAWatermarkOverATurnedPhotoWhateverTheFunction)
+{
+    int textTwins = 0;
+    int imageTwins = 0;
+    subsystems.quickEdits.hRotatePicture = [](const auto&, const auto&, float) {};
+    subsystems.twins.setWatermarkTextPreview = countingTwin(textTwins);
+    subsystems.twins.setWatermarkImagePreview = countingTwin(imageTwins);
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    select("cropPhotos");
+    panels.vwShowPreview.cbShowPreview.setState(1);
+
+    actions.send(u"hRotateLeft"_qs);
+    panels.vwWatermark.tbvWatermarkType.selectIndex(1);
+    actions.send(u"hRotateLeft"_qs);
+
+    EXPECT_EQ(textTwins, 1);
+    EXPECT_EQ(imageTwins, 1);
+    EXPECT_TRUE(showsOverlay());
+}

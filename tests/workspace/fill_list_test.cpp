@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controller_fixture.h"
+
+using namespace brenvaldo;
+
+namespace {
+
+class FillList : public test::ControllerTest
+{
+};
+
+} // namespace
+
+TEST_F(FillList, AsksForPhotos)
+{
+    chooser.answers = {QStringList{photo(u"a.jpg"_qs)}};
+    panels.vwShowPreview.cbShowPreview.setState(1);
+
+    actions.send(u"hChoosePhotos"_qs);
+
+    ASSERT_EQ(chooser.panels.size(), 1);
+    const controls::OpenPanel& panel = chooser.panels.first();
+    EXPECT_EQ(panel.message, u"*** Choose your photos ***"_qs);
+    EXPECT_TRUE(panel.choosesFiles);
+    EXPECT_FALSE(panel.choosesDirectories);
+    EXPECT_TRUE(panel.allowsMultipleSelection);
+    EXPECT_EQ(
+        panel.allowedTypes,
+        (QStringList{
+            u"jpg"_qs,
+            u"png"_qs,
+            u"gif"_qs,
+            u"bmp"_qs,
+            u"jpeg"_qs,
+            u"tif"_qs,
+            u"tiff"_qs,
+            u"heic"_qs})
+    );
+    EXPECT_EQ(listedNames(), QStringList{u"a.jpg"_qs});
+    EXPECT_FALSE(panels.vwShowPreview.cbShowPreview.isOn());
+}
+
+TEST_F(FillList, AsksForFilesOfAnyKindToRename)
+{
+    select("fileRenaming");
+    chooser.answers = {QStringList{folder.write(u"notes.txt"_qs, "text"), photo(u"a.jpg"_qs)}};
+
+    actions.send(u"hChoosePhotos"_qs);
+
+    EXPECT_EQ(chooser.panels.first().message, u"*** Choose files to rename ***"_qs);
+    EXPECT_TRUE(chooser.panels.first().allowedTypes.isEmpty());
+    EXPECT_EQ(photos.entries().at(0).myRenameSelect, 1);
+    EXPECT_EQ(photos.entries().at(1).myRenameSelect, 0);
+    EXPECT_EQ(photos.entries().at(1).myPhotoOrientation, u"S"_qs);
+    EXPECT_EQ(photos.entries().at(1).myPhotoPxSize, QString());
+}
+
+TEST_F(FillList, TellsThatBatchSortingNeedsNoPhotos)
+{
+    select("batchSort");
+
+    actions.send(u"hChoosePhotos"_qs);
+
+    EXPECT_TRUE(chooser.panels.isEmpty());
+    ASSERT_EQ(alerts.size(), 1);
+    EXPECT_EQ(alerts.first().first(), u"Batch sort photos and files."_qs);
+}
+
+TEST_F(FillList, TellsThatCodesNeedNoPhotos)
+{
+    select("batchQR");
+
+    actions.send(u"hChoosePhotos"_qs);
+
+    EXPECT_TRUE(chooser.panels.isEmpty());
+    EXPECT_EQ(
+        alerts,
+        (QList<QStringList>{
+            {u"Generate a QR and '128' code."_qs,
+             u"\rYou don't have to select any photo or file with this function."_qs}})
+    );
+}
+
+TEST_F(FillList, ChangesNothingWhenThePanelIsCancelled)
+{
+    photos.append(entry(u"/gone/a.jpg"_qs, u"L"_qs));
+
+    actions.send(u"hChoosePhotos"_qs);
+
+    EXPECT_EQ(photos.count(), 1);
+    EXPECT_EQ(photos.selectedIndex(), std::nullopt);
+}
+
+TEST_F(FillList, CountsAndShowsProgressWhileItAdds)
+{
+    chooser.answers = {QStringList{photo(u"a.jpg"_qs), photo(u"b.jpg"_qs), photo(u"c.jpg"_qs)}};
+    QStringList counter;
+    QList<double> bar;
+    const auto texts = panels.window.tfImageCount.changed.connect([&] {
+        counter.append(panels.window.tfImageCount.stringValue());
+    });
+    const auto values = panels.window.myProgressBar.changed.connect([&] {
+        const double value = panels.window.myProgressBar.doubleValue();
+        if (bar.isEmpty() || bar.last() != value)
+            bar.append(value);
+    });
+
+    actions.send(u"hChoosePhotos"_qs);
+
+    EXPECT_EQ(counter, (QStringList{u"1 of 3"_qs, u"2 of 3"_qs, u"3 of 3"_qs, u"3"_qs}));
+    EXPECT_EQ(bar, (QList<double>{0, 33, 66, 99, 0}));
+    EXPECT_TRUE(panels.window.myProgressBar.isHidden());
+}
+
+TEST_F(FillList, SelectsTheFirstEntryAnewAfterChoosing)
+{
+    photos.append(entry(u"/gone/a.jpg"_qs, u"L"_qs));
+    photos.select(0);
+    chooser.answers = {QStringList{photo(u"b.jpg"_qs)}};
+    QList<std::optional<int>> selections;
+    const auto subscription
+        = photos.selectionChanged.connect([&] { selections.append(photos.selectedIndex()); });
+
+    actions.send(u"hChoosePhotos"_qs);
+
+    EXPECT_EQ(selections, (QList<std::optional<int>>{1, 0}));
+}
+
+TEST_F(FillList, AddsDroppedFilesWhateverTheyAre)
+{
+    panels.vwShowPreview.cbShowPreview.setState(1);
+
+    collectionView.hDroppedPhotos({folder.write(u"notes.txt"_qs, "text"), photo(u"a.jpg"_qs)});
+
+    EXPECT_EQ(listedNames(), (QStringList{u"notes.txt"_qs, u"a.jpg"_qs}));
+    EXPECT_EQ(photos.entries().first().myRenameSelect, 0);
+    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"2"_qs);
+    EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
+    EXPECT_EQ(photos.selectedIndex(), 0);
+}
+
+TEST_F(FillList, TurnsAPhotoOnlyWhenItIsChosen)
+{
+    const QString path
+        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"turned.jpg"_qs));
+    chooser.answers = {QStringList{path}};
+
+    actions.send(u"hChoosePhotos"_qs);
+    collectionView.hDroppedPhotos({path});
+
+    EXPECT_EQ(photos.entries().at(0).myPhotoOrientation, u"P"_qs);
+    EXPECT_EQ(photos.entries().at(1).myPhotoOrientation, u"L"_qs);
+}
+
+TEST_F(FillList, InsertsPhotosAtTheEndWithTheirFullPicture)
+{
+    photos.append(entry(u"/gone/a.jpg"_qs, u"L"_qs));
+    panels.vwShowPreview.cbShowPreview.setState(1);
+    chooser.answers = {QStringList{photo(u"b.jpg"_qs)}};
+
+    actions.send(u"hInsertPhotos"_qs);
+
+    EXPECT_EQ(chooser.panels.first().message, u"*** Choose your photos ***"_qs);
+    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"b.jpg"_qs}));
+    EXPECT_EQ(photos.entries().last().myPhoto.scaledTo, std::nullopt);
+    EXPECT_FALSE(photos.entries().last().myPhotoURL.isEmpty());
+    EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
+    EXPECT_TRUE(panels.window.myProgressBar.isHidden());
+}
+
+TEST_F(FillList, LetsANewPhotoFallIntoTheSortedList)
+{
+    collectionView.hDroppedPhotos({photo(u"d.jpg"_qs), photo(u"a.jpg"_qs)});
+    actions.send(u"setSortingModeAz"_qs);
+
+    collectionView.hDroppedPhotos({photo(u"B.jpg"_qs)});
+
+    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"B.jpg"_qs, u"d.jpg"_qs}));
+}

@@ -1,0 +1,289 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controller_fixture.h"
+
+#include <platform/foundation/log.h>
+
+#include <support/case_name.h>
+
+using namespace brenvaldo;
+
+namespace {
+
+struct Twin
+{
+    const char* name; ///< the function id
+    workspace::PreviewTwin workspace::PreviewTwins::*twin;
+    bool photoStays;
+};
+
+void PrintTo(const Twin& twin, std::ostream* out) { *out << twin.name; }
+
+class LivePreview : public test::ControllerTest
+{
+protected:
+    void addPhotoWithPreview()
+    {
+        collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+        panels.vwShowPreview.cbShowPreview.setState(1);
+    }
+};
+
+class Twins : public LivePreview, public testing::WithParamInterface<Twin>
+{
+};
+
+class FunctionsWithoutTwin : public LivePreview, public testing::WithParamInterface<const char*>
+{
+};
+
+} // namespace
+
+TEST_P(Twins, ShowTheEffectOfTheirFunction)
+{
+    int calls = 0;
+    subsystems.twins.*(GetParam().twin) = countingTwin(calls);
+    addPhotoWithPreview();
+    select(GetParam().name);
+
+    collectionView.callForPreview();
+
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(showsOverlay());
+    EXPECT_EQ(showsPhoto(), GetParam().photoStays);
+}
+
+TEST_P(Twins, LeaveTheOverlayEmptyWhenTheyFail)
+{
+    subsystems.twins.*(GetParam().twin) = [](const QString&) { return std::nullopt; };
+    addPhotoWithPreview();
+    select(GetParam().name);
+
+    collectionView.callForPreview();
+
+    EXPECT_FALSE(showsOverlay());
+}
+
+TEST_P(Twins, AreNotCalledWhileThePreviewIsOff)
+{
+    int calls = 0;
+    subsystems.twins.*(GetParam().twin) = countingTwin(calls);
+    addPhotoWithPreview();
+    panels.vwShowPreview.cbShowPreview.setState(0);
+    select(GetParam().name);
+
+    collectionView.callForPreview();
+
+    EXPECT_EQ(calls, 0);
+    EXPECT_FALSE(showsOverlay());
+    EXPECT_TRUE(showsPhoto());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    LivePreview,
+    Twins,
+    testing::Values(
+        Twin{"textWM", &workspace::PreviewTwins::setWatermarkTextPreview, true},
+        Twin{"imageWM", &workspace::PreviewTwins::setWatermarkImagePreview, true},
+        Twin{"addTint", &workspace::PreviewTwins::addTintToImage2Preview, true},
+        Twin{"framing", &workspace::PreviewTwins::hAddFramePreview, false},
+        Twin{"roundings", &workspace::PreviewTwins::hAddRoundingsPreview, false},
+        Twin{"profileConversion", &workspace::PreviewTwins::convertColorSpaceToPreview, true},
+        Twin{"rotatePhotos", &workspace::PreviewTwins::hRotatePicturesPreview, false},
+        Twin{"filters", &workspace::PreviewTwins::hAddFilterPreview, false},
+        Twin{"cropPhotos", &workspace::PreviewTwins::hCropPhotosPreview, true}
+    ),
+    test::CaseName{}
+);
+
+TEST_P(FunctionsWithoutTwin, ShowThePlainPhoto)
+{
+    addPhotoWithPreview();
+    select(GetParam());
+
+    collectionView.callForPreview();
+
+    EXPECT_TRUE(showsPhoto());
+    EXPECT_FALSE(showsOverlay());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    LivePreview,
+    FunctionsWithoutTwin,
+    testing::Values("resizePhotos", "faces", "fileRenaming", "batchQR", "htmlExport"),
+    [](const auto& row) { return std::string(row.param); }
+);
+
+TEST_F(LivePreview, IsEmptyForAConversionOnOrOff)
+{
+    addPhotoWithPreview();
+    select("batchFileConvert");
+
+    collectionView.callForPreview();
+    EXPECT_FALSE(showsPhoto());
+
+    panels.vwShowPreview.cbShowPreview.setState(0);
+    collectionView.callForPreview();
+    EXPECT_FALSE(showsPhoto());
+}
+
+TEST_F(LivePreview, IsEmptyForAnEmptyList)
+{
+    panels.window.myTemplatePreview.setImage(
+        platform::Image::fromQImage(QImage(2, 2, QImage::Format_RGB32))
+    );
+
+    collectionView.callForPreview();
+
+    EXPECT_FALSE(showsPhoto());
+}
+
+TEST_F(LivePreview, IsEmptyForAFileThatIsNoPhotoWhateverTheFunction)
+{
+    addPhotoWithPreview();
+    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    photos.select(1);
+    ASSERT_TRUE(showsPhoto()) << "the selection of such a file changes nothing by itself";
+
+    for (const char* function : {"textWM", "cropPhotos", "fileRenaming"}) {
+        select(function);
+        collectionView.callForPreview();
+        EXPECT_FALSE(showsPhoto()) << function;
+    }
+}
+
+TEST_F(LivePreview, ShowsThePhotoUpright)
+{
+    const QString path
+        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"turned.jpg"_qs));
+
+    collectionView.hDroppedPhotos({path});
+
+    EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 30);
+}
+
+TEST_F(LivePreview, FollowsTheSelection)
+{
+    QStringList described;
+    subsystems.hiDoNothing = [&](const QString& path) { described.append(path); };
+    const QStringList paths{photo(u"a.jpg"_qs, 20, 10), photo(u"b.jpg"_qs, 60, 40)};
+    collectionView.hDroppedPhotos(paths);
+
+    photos.select(1);
+
+    EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 60);
+    EXPECT_EQ(described, paths);
+}
+
+TEST_F(LivePreview, LogsThatNothingIsSelected)
+{
+    addPhotoWithPreview();
+    QStringList lines;
+    platform::setLogSink([&](const QString& line) { lines.append(line); });
+
+    photos.select(std::nullopt);
+
+    platform::setLogSink({});
+    EXPECT_EQ(lines, QStringList{u"no picture selected"_qs});
+    EXPECT_FALSE(showsOverlay());
+}
+
+TEST_F(LivePreview, ShowsThePictureOfEachGalleryTemplate)
+{
+    QStringList shown;
+    subsystems.imageNamed = [&](const QString& name) {
+        shown.append(name);
+        return std::nullopt;
+    };
+    controls::TextField& fileName = panels.vwHtmlExport.tfHTMLfileName;
+    QStringList names;
+
+    for (int index = 0; index < 4; ++index) {
+        panels.vwHtmlExport.pubPhotoGalleryModel.selectIndex(index);
+        collectionView.callForTemplatePreview();
+        names.append(fileName.stringValue());
+        fileName.setStringValue(u"mine"_qs);
+    }
+
+    EXPECT_EQ(
+        shown, (QStringList{u"Ex01XL.png"_qs, u"Ex02XL.png"_qs, u"Ex03XL.png"_qs, u"Ex04XL.png"_qs})
+    );
+    EXPECT_EQ(
+        names,
+        (QStringList{u"myFirstPhotoGallery"_qs, u"mine"_qs, u"mine"_qs, u"myFourthPhotoGallery"_qs})
+    );
+}
+
+TEST_F(LivePreview, ShowsAWatermarkAndNoCropBoxAfterSwappingTheSizeOfACrop)
+{
+    int watermarks = 0;
+    int crops = 0;
+    subsystems.twins.setWatermarkTextPreview = countingTwin(watermarks);
+    subsystems.twins.hCropPhotosPreview = countingTwin(crops);
+    addPhotoWithPreview();
+    select("cropPhotos");
+    auto& size = panels.vwCropPhotos.dvVCUiCropWxHView;
+    size.tfCropWidth.setStringValue(u"300"_qs);
+    size.tfCropHeight.setStringValue(u"200"_qs);
+
+    user.press(size.btnFlipCropWH);
+
+    EXPECT_EQ(size.tfCropWidth.stringValue(), u"200"_qs);
+    EXPECT_EQ(size.tfCropHeight.stringValue(), u"300"_qs);
+    EXPECT_EQ(watermarks, 1);
+    EXPECT_EQ(crops, 0);
+    EXPECT_TRUE(showsOverlay());
+}
+
+TEST_F(LivePreview, SwapsTheOffsetsOfACrop)
+{
+    auto& place = panels.vwCropPhotos.dvVCUiCropPositionView;
+    place.tfXcropOffset.setStringValue(u"10"_qs);
+    place.tfYcropOffset.setStringValue(u"20"_qs);
+
+    user.press(place.btnFlipCropXY);
+
+    EXPECT_EQ(place.tfXcropOffset.stringValue(), u"20"_qs);
+    EXPECT_EQ(place.tfYcropOffset.stringValue(), u"10"_qs);
+}
+
+TEST_F(LivePreview, SwapsTheBoxOfAResizeAndDrawsNothing)
+{
+    int watermarks = 0;
+    subsystems.twins.setWatermarkTextPreview = countingTwin(watermarks);
+    addPhotoWithPreview();
+    auto& box = panels.vwResizePhotos.dvVCUiScaleFixView;
+    box.tfScaleFixWidth.setStringValue(u"300"_qs);
+
+    user.press(box.btnFlipScaleFixWH);
+
+    EXPECT_EQ(box.tfScaleFixWidth.stringValue(), QString());
+    EXPECT_EQ(box.tfScaleFixHeight.stringValue(), u"300"_qs);
+    EXPECT_EQ(watermarks, 0);
+}
+
+TEST_F(LivePreview, SwapsNothingWhileAFileThatIsNoPhotoIsSelected)
+{
+    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    photos.select(0);
+    auto& box = panels.vwResizePhotos.dvVCUiScaleFixView;
+    box.tfScaleFixWidth.setStringValue(u"300"_qs);
+
+    user.press(box.btnFlipScaleFixWH);
+
+    EXPECT_EQ(box.tfScaleFixWidth.stringValue(), u"300"_qs);
+}
+
+TEST_F(LivePreview, ClearsTheOverlayAtACropPositionWhileItIsOff)
+{
+    int watermarks = 0;
+    subsystems.twins.setWatermarkTextPreview = countingTwin(watermarks);
+    addPhotoWithPreview();
+    user.pick(panels.vwCropPhotos.dvVCUiCropPositionView.scCropPosition, 2);
+    ASSERT_TRUE(showsOverlay());
+    panels.vwShowPreview.cbShowPreview.setState(0);
+
+    user.pick(panels.vwCropPhotos.dvVCUiCropPositionView.scCropPosition, 3);
+
+    EXPECT_EQ(watermarks, 1);
+    EXPECT_FALSE(showsOverlay());
+}

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "controller_fixture.h"
+
+#include <workspace/app_delegate.h>
+#include <workspace/metadata_keys.h>
+#include <workspace/preview_notifications.h>
+#include <workspace/workspace.h>
+
+#include <support/environment.h>
+
+#include <QDir>
+
+using namespace brenvaldo;
+
+namespace {
+
+class WorkspaceTest : public testing::Test
+{
+protected:
+    [[nodiscard]] QString temp() const { return folder.path(u"data/Brenvaldo/Temp"_qs); }
+
+    void leaveInTemp(const QString& name) const
+    {
+        QDir().mkpath(temp());
+        (void)folder.write(u"data/Brenvaldo/Temp/"_qs + name, "left over");
+    }
+
+    test::TemporaryFolder folder;
+    test::Environment data{"XDG_DATA_HOME", folder.path(u"data"_qs).toUtf8()};
+    test::Environment configuration{"XDG_CONFIG_HOME", folder.path(u"config"_qs).toUtf8()};
+    platform::UserDefaults defaults;
+    test::QueuedChooser chooser;
+    test::RecordingDesktop desktop;
+    workspace::Workspace program{{.chooser = chooser, .desktop = desktop, .defaults = defaults}};
+};
+
+} // namespace
+
+TEST_F(WorkspaceTest, StartsInItsFirstState)
+{
+    program.start();
+
+    const panels::Panels& panels = program.panels();
+    EXPECT_EQ(workspace::cSelectedFunction::sharedModel().myString, u"textWM"_qs);
+    EXPECT_EQ(panels.vwFileManagementRename.cbxPrefixMetaData.titles(), workspace::metadataKeys());
+    EXPECT_EQ(panels.vwFileManagementRename.cbxPrefixMetaData.selectedIndex(), 0);
+    EXPECT_EQ(panels.vwFileManagementRename.cbxPostfixMetaData.titles(), workspace::metadataKeys());
+    EXPECT_EQ(panels.vwWatermark.cbFontList.selectedIndex(), 1);
+    EXPECT_EQ(panels.vwResizePhotos.pubScaleType.selectedIndex(), 0);
+    EXPECT_EQ(panels.vwResizePhotos.pubResizeType.selectedIndex(), 0);
+    EXPECT_EQ(program.composedPreview(), std::nullopt);
+    EXPECT_TRUE(QFileInfo::exists(folder.path(u"data/DravothCom/Brenvaldo9.sql"_qs)));
+    EXPECT_TRUE(QFileInfo(temp()).isDir());
+}
+
+TEST_F(WorkspaceTest, KnowsTheKeysOfMetadataAndTheNotifications)
+{
+    EXPECT_EQ(workspace::metadataKeys().size(), 45);
+    EXPECT_EQ(workspace::metadataKeys().first(), QString());
+    EXPECT_EQ(workspace::metadataKeys().last(), u"WhiteBalance"_qs);
+    EXPECT_EQ(workspace::previewNotifications().size(), 31);
+}
+
+TEST_F(WorkspaceTest, EmptiesTempAtTheStart)
+{
+    leaveInTemp(u"old.jpg"_qs);
+    leaveInTemp(u".hidden"_qs);
+    QDir().mkpath(temp() + u"/folder/inner"_qs);
+
+    program.start();
+
+    EXPECT_EQ(
+        QDir(temp()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QStringList{u".hidden"_qs}
+    );
+}
+
+TEST_F(WorkspaceTest, EmptiesTempWithTheLastWindow)
+{
+    program.start();
+    leaveInTemp(u"work.jpg"_qs);
+
+    program.lastWindowClosed();
+
+    EXPECT_TRUE(QDir(temp()).isEmpty());
+    EXPECT_TRUE(program.delegate().applicationShouldTerminateAfterLastWindowClosed());
+}
+
+TEST_F(WorkspaceTest, AddsFilesThatAreOpenedBeforeTheWindowShows)
+{
+    const QString path
+        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"turned.jpg"_qs));
+
+    program.openFiles({path});
+    EXPECT_TRUE(program.photos().isEmpty());
+    program.start();
+
+    ASSERT_EQ(program.photos().count(), 1);
+    EXPECT_EQ(program.photos().entries().first().myPhotoOrientation, u"L"_qs);
+    EXPECT_EQ(program.composedPreview()->width(), 30);
+}
+
+TEST_F(WorkspaceTest, DrawsThePreviewAtEachNotification)
+{
+    program.start();
+    int cleared = 0;
+    const auto subscription
+        = program.panels().window.myTemplateOverlayPreview.changed.connect([&] { ++cleared; });
+
+    for (const QString& name : workspace::previewNotifications())
+        program.notifications().post(name);
+
+    EXPECT_EQ(cleared, 31);
+}
+
+TEST_F(WorkspaceTest, MovesTheFocusWithTheTabKeyOfTheWatermarkText)
+{
+    program.start();
+    QStringList focused;
+    const auto subscription
+        = program.delegate().focusRequested.connect([&](const controls::Control& control) {
+              focused.append(control.name());
+          });
+
+    EXPECT_FALSE(program.delegate().textViewdoCommandBySelector(u"insertNewline:"_qs));
+    EXPECT_FALSE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs));
+    program.panels().vwShowPreview.cbShowPreview.setState(1);
+    EXPECT_TRUE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs));
+
+    EXPECT_EQ(focused, (QStringList{u"tfFontSize"_qs, u"tfFontSize"_qs}));
+}
+
+TEST_F(WorkspaceTest, TellsItsAlerts)
+{
+    program.start();
+    QStringList titles;
+    const auto subscription = program.alertShown.connect([&](const QString& title, const QString&) {
+        titles.append(title);
+    });
+
+    program.actions().send(u"hLoadImages"_qs);
+
+    EXPECT_EQ(titles, QStringList{u"Missing destination."_qs});
+}
+
+TEST_F(WorkspaceTest, ResizesFromButtonToFile)
+{
+    program.start();
+    program.openFiles({test::PhotoBuilder().size(80, 60).write(folder.path(u"a.jpg"_qs))});
+    QDir().mkpath(folder.path(u"out"_qs));
+    panels::Panels& panels = program.panels();
+    const controls::UserInput user(program.actions());
+
+    user.pick(panels.window.pubEditPhoto, 8);
+    user.type(panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal, u"40"_qs);
+    user.type(panels.vwMainDestination.tfImageDestinationFolder, folder.path(u"out/"_qs));
+    user.press(panels.window.btnProcess);
+
+    ASSERT_EQ(program.journal().records().size(), 1);
+    EXPECT_EQ(program.journal().records().first().word, u"OK"_qs);
+    EXPECT_TRUE(QFileInfo::exists(program.journal().records().first().target));
+}
+
+TEST_F(WorkspaceTest, FollowsAHexFieldWithItsColourWell)
+{
+    program.start();
+    const controls::UserInput user(program.actions());
+
+    user.type(program.panels().vwFraming.tfFramingHEXvalue, u"00FF00"_qs);
+
+    EXPECT_EQ(
+        program.panels().vwFraming.myNSColorWellObjFraming.color(),
+        (platform::Color{.red = 0, .green = 1, .blue = 0, .alpha = 1})
+    );
+}
+
+TEST_F(WorkspaceTest, FindsRowsByTheNameOfTheTableAndOfItsRows)
+{
+    panels::Panels& panels = program.panels();
+
+    EXPECT_EQ(
+        program.rowsOf(u"myPhotosTableView"_qs), &panels.vwFileManagementSorting.theApplePhotosData
+    );
+    EXPECT_EQ(
+        program.rowsOf(u"cActionsIWMArrayController"_qs),
+        &panels.vwWatermark.cActionsTWMArrayController
+    );
+    EXPECT_EQ(program.rowsOf(u"tfScaleMaxVal"_qs), nullptr);
+}
