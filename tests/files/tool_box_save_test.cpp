@@ -144,7 +144,11 @@ TEST_F(PhotoCopyPanel, EnablesTheQualityForJpegOnly)
 TEST_F(PhotoCopyPanel, WritesEveryImageType)
 {
     const QList<std::pair<QString, QByteArray>> types
-        = {{u"png"_qs, "png"}, {u"tiff"_qs, "tiff"}, {u"jpeg"_qs, "jpeg"}};
+        = {{u"png"_qs, "png"},
+           {u"tiff"_qs, "tiff"},
+           {u"bmp"_qs, "bmp"},
+           {u"gif"_qs, "gif"},
+           {u"jpeg"_qs, "jpeg"}};
     for (const auto& [type, format] : types) {
         answer(u"copy"_qs, type);
 
@@ -155,6 +159,17 @@ TEST_F(PhotoCopyPanel, WritesEveryImageType)
         EXPECT_EQ(reader.size(), QSize(7, 5)) << format.constData();
         EXPECT_EQ(reader.format(), format);
     }
+}
+
+TEST_F(PhotoCopyPanel, WritesPdfAndJpeg2000)
+{
+    answer(u"copy"_qs, u"pdf"_qs);
+    box.hSaveDialogFile(source);
+    answer(u"copy"_qs, u"jp2"_qs);
+    box.hSaveDialogFile(source);
+
+    EXPECT_TRUE(TemporaryFolder::read(folder.path(u"copy.pdf"_qs)).startsWith("%PDF-"));
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy.jp2"_qs)).mid(4, 4), "jP  ");
 }
 
 TEST_F(PhotoCopyPanel, WritesNothingForAFileThatIsNoPhoto)
