@@ -69,7 +69,7 @@ QString DVWatermark::setWatermarkText(const WatermarkRun& run, const PhotoDone& 
 DVWatermark::Step
 DVWatermark::markPhoto(const WatermarkRun& run, const QString& path, const PhotoDone& photoDone)
 {
-    m_outputName = outputNameOf(path);
+    m_outputName = m_surroundings.outputName(path);
     finishStages(stagesOfNaming);
     const TextWatermarkSettings settings = readSettings(m_surroundings.panel);
     if (settings.text.isEmpty()) {
@@ -114,11 +114,6 @@ DVWatermark::Step DVWatermark::endRun(const QString& path, const PhotoDone& phot
     return Step::EndRun;
 }
 
-QString DVWatermark::outputNameOf(const QString& path) const
-{
-    return m_surroundings.outputName(path, platform::lastPathComponent(path));
-}
-
 std::optional<platform::Image> DVWatermark::openedForRun(const QString& path, int effect) const
 {
     using Access = platform::ImageSource::Access;
@@ -142,7 +137,7 @@ platform::Image DVWatermark::marked(
 
 std::optional<platform::Image> DVWatermark::setWatermarkTextPreview(const QString& path)
 {
-    m_outputName = outputNameOf(path);
+    m_outputName = m_surroundings.outputName(path);
     const TextWatermarkSettings settings = readSettings(m_surroundings.panel);
     std::optional<platform::Image> result;
     if (!settings.text.isEmpty()) {

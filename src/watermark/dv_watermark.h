@@ -49,7 +49,7 @@ public:
         panels::WatermarkPanel& panel;
         controls::ProgressIndicator& bar;
         /// Name of the output file after the chain of file-name actions.
-        std::function<QString(const QString& path, const QString& name)> outputName;
+        std::function<QString(const QString& path)> outputName;
         /// Opens the upright photo for a preview, ready to be evaluated more than once.
         std::function<std::optional<platform::Image>(const QString& path)> previewPhoto;
     };
@@ -72,7 +72,6 @@ private:
     Step markPhoto(const WatermarkRun& run, const QString& path, const PhotoDone& photoDone);
     Step endRun(const QString& path, const PhotoDone& photoDone);
     void finishStages(int stages);
-    [[nodiscard]] QString outputNameOf(const QString& path) const;
     [[nodiscard]] std::optional<platform::Image>
     openedForRun(const QString& path, int effect) const;
     [[nodiscard]] platform::Image marked(

@@ -4,6 +4,7 @@
 #include <imaging/output_tail.h>
 #include <platform/graphics/color.h>
 #include <platform/graphics/geometry.h>
+#include <watermark/dv_watermark.h>
 
 #include <QString>
 #include <QStringList>
@@ -48,17 +49,6 @@ struct CropSettings
     QString cropType; ///< title of `pubCropType`
 };
 
-/// What a watermark run gets: it loops over the photos by itself.
-struct WatermarkRun
-{
-    QStringList photos;
-    QString destination;
-    QString outputType;
-    QString compressionLevel;
-    QString fileName; ///< text of `tvFileName`
-    std::int32_t photoProperty = 0; ///< index of `pubPhotoProperties`
-};
-
 /// What became of one photo of a run.
 struct PhotoOutcome
 {
@@ -100,8 +90,9 @@ struct BatchOperations
     /// Answers the result word.
     using PhotoOperation
         = std::function<QString(const imaging::SourceAndBase&, const imaging::OutputTail&)>;
-    using ReportOutcome = std::function<void(const PhotoOutcome&)>;
-    using WatermarkOperation = std::function<void(const WatermarkRun&, const ReportOutcome&)>;
+    /// Loops over the photos by itself.
+    using WatermarkOperation
+        = std::function<void(const watermark::WatermarkRun&, const watermark::PhotoDone&)>;
 
     WatermarkOperation setWatermarkText = {};
     WatermarkOperation setWatermarkImage = {};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "photo_list.h"
+#include "photo_preview.h"
 #include "subsystem_links.h"
 
 #include <controls/action_registry.h>
@@ -19,6 +20,7 @@ public:
         panels::Panels& panels;
         PhotoList& photos;
         controls::FileChooser& chooser;
+        PreviewPhotos& previewPhotos;
         const SubsystemLinks& subsystems;
         std::function<void(const QString& title, const QString& text)> hAlertWindow;
     };
@@ -115,6 +117,7 @@ private:
     panels::WindowControls& m_window;
     PhotoList& m_photos;
     controls::FileChooser& m_chooser;
+    PreviewPhotos& m_previewPhotos;
     const SubsystemLinks& m_subsystems;
     std::function<void(const QString&, const QString&)> m_hAlertWindow;
     platform::Subscription m_selection;

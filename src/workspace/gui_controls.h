@@ -58,6 +58,8 @@ public:
     void hCalledCActionFunc();
     void hChooseScalingDestinationFolder();
     void hShowDestinationFolderInFinder();
+    /// Name of the file that a run writes for a photo: its own, or that of the chain of C-Actions.
+    [[nodiscard]] QString outputName(const QString& path) const;
     /// Paths of all entries in the order of the list.
     [[nodiscard]] QStringList hGetPhotosFromArrayController() const;
     /// The photos that the last run of an image function or a gallery took.
@@ -128,7 +130,6 @@ private:
     [[nodiscard]] QStringList takenByFullRule() const;
     [[nodiscard]] QStringList takenByTick() const;
     [[nodiscard]] QString outputType() const;
-    [[nodiscard]] QString outputName(const QString& path) const;
     [[nodiscard]] PhotoOutput outputOf(const QString& path, const QString& destination) const;
     void record(const QLatin1String& function, const PhotoOutcome& outcome);
 

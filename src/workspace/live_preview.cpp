@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "collection_view_controller.h"
 #include "function_id.h"
-#include "photo_preview.h"
 #include "selected_function.h"
 
 #include <platform/foundation/log.h>
@@ -52,7 +51,7 @@ void cCollectionViewController::callForPreview()
     }
     const auto path = hGetActiveFileFilePath();
     m_window.myTemplateOverlayPreview.clear();
-    m_window.myTemplatePreview.setImage(path ? previewOfPhoto(*path) : std::nullopt);
+    m_window.myTemplatePreview.setImage(path ? m_previewPhotos.photo(*path) : std::nullopt);
     if (!path)
         return;
     if (cSelectedFunction::sharedModel().myString == functionId::batchFileConvert) {
@@ -88,7 +87,7 @@ void cCollectionViewController::showFileAt(int index)
         return;
     const QString path = m_photos.entries().at(index).myPhotoDescription;
     m_window.myTemplateOverlayPreview.clear();
-    m_window.myTemplatePreview.setImage(previewOfPhoto(path));
+    m_window.myTemplatePreview.setImage(m_previewPhotos.photo(path));
 }
 
 void cCollectionViewController::selectionChanged()

@@ -3,17 +3,38 @@
 
 #include <platform/graphics/image.h>
 
+#include <QDateTime>
+#include <QList>
 #include <QString>
 
 #include <optional>
 
 namespace brenvaldo::workspace {
 
-/// The photo as the big preview shows it: upright, at full size; nothing when it can't be read.
-/// Its pixels are decoded when they are drawn.
-[[nodiscard]] std::optional<platform::Image> previewOfPhoto(const QString& path);
+/// The photos that the big preview shows: upright, at full size.
+///
+/// A photo's pixels are decoded when they are first drawn and kept while the photo is one of the
+/// last two asked for, so that a change of a control does not decode it again. A file that has
+/// changed on disk is read anew.
+class PreviewPhotos
+{
+public:
+    /// Nothing when the file can't be read.
+    [[nodiscard]] std::optional<platform::Image> photo(const QString& path);
 
-/// `overlay` drawn over `photo` at the photo's size; nothing without both.
+private:
+    struct Kept
+    {
+        QString path;
+        QDateTime modified;
+        qint64 bytes = 0;
+        platform::Image image;
+    };
+
+    QList<Kept> m_kept;
+};
+
+/// `overlay` drawn over `photo` at the photo's size; the one that there is when there is only one.
 [[nodiscard]] std::optional<platform::Image> composed(
     const std::optional<platform::Image>& photo, const std::optional<platform::Image>& overlay
 );

@@ -82,19 +82,21 @@ void cGUIcontrols::runEditFunction(const QStringList& photos, const QString& des
 void cGUIcontrols::runWatermark(const QStringList& photos, const QString& destination)
 {
     const panels::WatermarkPanel& panel = m_panels.vwWatermark;
-    const WatermarkRun run{
+    const watermark::WatermarkRun run{
         .photos = photos,
         .destination = destination,
         .outputType = outputType(),
         .compressionLevel = m_panels.vwFileType.pubJPEGCompressionLevel.titleOfSelectedItem(),
-        .fileName = panel.tvFileName.stringValue(),
+        .fileNameText = panel.tvFileName.stringValue(),
         .photoProperty = panel.pubPhotoProperties.indexOfSelectedItem()};
     const bool isText = panel.tbvWatermarkType.selectedLabel() == u"Text";
     const QLatin1String function = isText ? functionId::textWM : functionId::imageWM;
     const auto& operation = isText ? m_subsystems.operations.setWatermarkText
                                    : m_subsystems.operations.setWatermarkImage;
     if (operation) {
-        operation(run, [&](const PhotoOutcome& outcome) { record(function, outcome); });
+        operation(run, [&](const watermark::MarkedPhoto& photo) {
+            record(function, {.source = photo.source, .target = photo.target, .word = photo.word});
+        });
         return;
     }
     logNotBuilt(function);

@@ -5,9 +5,17 @@
 
 namespace brenvaldo::workspace {
 
-SubsystemLinks subsystemLinks(imaging::DVImageHandling& imageHandling)
+SubsystemLinks subsystemLinks(const Subsystems& subsystems)
 {
+    auto& [imageHandling, watermark, meta] = subsystems;
     SubsystemLinks links;
+    links.operations.setWatermarkText
+        = [&watermark](const watermark::WatermarkRun& run, const watermark::PhotoDone& photoDone) {
+              watermark.setWatermarkText(run, photoDone);
+          };
+    links.twins.setWatermarkTextPreview
+        = [&watermark](const QString& path) { return watermark.setWatermarkTextPreview(path); };
+    links.hiDoNothing = [&meta](const QString& path) { meta.hiDoNothing(path); };
     links.operations.hScalePhotosPercentage = [&](const auto& photo,
                                                   int value,
                                                   int maximumType,

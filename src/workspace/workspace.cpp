@@ -21,6 +21,7 @@ struct Workspace::Parts
             {.panels = panels,
              .photos = photos,
              .chooser = surroundings.chooser,
+             .previewPhotos = previewPhotos,
              .subsystems = subsystems,
              .hAlertWindow = [this](
                                  const QString& title, const QString& text
@@ -64,8 +65,16 @@ struct Workspace::Parts
     PhotoList photos;
     RunJournal journal;
     platform::NotificationCenter notifications;
+    PreviewPhotos previewPhotos;
     imaging::DVImageHandling imageHandling;
-    SubsystemLinks subsystems = subsystemLinks(imageHandling);
+    metadata::mMeta meta{panels};
+    watermark::DVWatermark watermark{
+        {.panel = panels.vwWatermark,
+         .bar = panels.window.myProgressBar,
+         .outputName = [this](const QString& path) { return guiControls.outputName(path); },
+         .previewPhoto = [this](const QString& path) { return previewPhotos.photo(path); }}};
+    SubsystemLinks subsystems
+        = subsystemLinks({.imageHandling = imageHandling, .watermark = watermark, .meta = meta});
     cCollectionViewController collectionView;
     cGUIcontrols guiControls;
     AppDelegate delegate;

@@ -3,6 +3,7 @@
 
 #include <panels/watermark_panel.h>
 #include <platform/foundation/log.h>
+#include <platform/foundation/paths.h>
 #include <platform/graphics/image_source.h>
 #include <platform/metadata/metadata_reader.h>
 #include <support/exif_block.h>
@@ -64,7 +65,8 @@ protected:
     DVWatermark mark{
         {.panel = panel,
          .bar = bar,
-         .outputName = [this](const QString&, const QString& name) { return chainPrefix + name; },
+         .outputName
+         = [this](const QString& path) { return chainPrefix + platform::lastPathComponent(path); },
          .previewPhoto = [](const QString& path) -> std::optional<platform::Image> {
              const auto source = platform::ImageSource::open(path);
              if (!source)

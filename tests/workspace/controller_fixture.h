@@ -117,6 +117,7 @@ protected:
     controls::UserInput user{actions};
     workspace::PhotoList photos;
     workspace::RunJournal journal;
+    workspace::PreviewPhotos previewPhotos;
     workspace::SubsystemLinks subsystems;
     QueuedChooser chooser;
     RecordingDesktop desktop;
@@ -127,6 +128,7 @@ protected:
         {.panels = panels,
          .photos = photos,
          .chooser = chooser,
+         .previewPhotos = previewPhotos,
          .subsystems = subsystems,
          .hAlertWindow = [this](const QString& title, const QString& text) {
              guiControls.hAlertWindow(title, text);
