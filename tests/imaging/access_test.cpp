@@ -98,13 +98,9 @@ TEST(ImageAccess, GivesNothingForTheOtherFormOfADamagedPhoto)
 TEST(ImageSize, IsThatOfTheUprightPhoto)
 {
     const TemporaryFolder folder;
-    const QString path = PhotoBuilder()
-                             .size(4000, 3000)
-                             .solid({90, 90, 90})
-                             .orientation(6)
-                             .write(folder.path(u"photo.jpg"_qs));
+    const QString path = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
 
-    EXPECT_EQ(DVImageHandling::hGetImgPixelSize(path), (PixelSize{3000, 4000}));
+    EXPECT_EQ(DVImageHandling::hGetImgPixelSize(path), (PixelSize{300, 400}));
 }
 
 TEST(ImageSize, IsThatOfAPictureInHand)

@@ -16,6 +16,8 @@
 
 #include <QDir>
 
+#include <map>
+
 using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
 using brenvaldo::platform::Image;
@@ -55,7 +57,11 @@ class Resizing
 {
 public:
     explicit Resizing(const PhotoBuilder& photo)
-        : m_source(photo.write(m_folder.path(u"source"_qs)))
+        : Resizing(photo.bytes())
+    {
+    }
+    explicit Resizing(const QByteArray& photo)
+        : m_source(m_folder.write(u"source"_qs, photo))
     {
     }
 
@@ -86,6 +92,16 @@ private:
 PhotoBuilder grey(int width, int height)
 {
     return PhotoBuilder().size(width, height).solid({90, 90, 90});
+}
+
+/// The bytes of a grey photo; made once for all tests, since large ones take their time.
+const QByteArray& greyPhoto(PixelSize size)
+{
+    static std::map<std::pair<int, int>, QByteArray> photos;
+    QByteArray& photo = photos[{size.width, size.height}];
+    if (photo.isEmpty())
+        photo = grey(size.width, size.height).bytes();
+    return photo;
 }
 
 PhotoBuilder corners(int width, int height)
@@ -159,7 +175,7 @@ Image picture(const TemporaryFolder& folder, double dotsPerInch)
 TEST_P(ResizeToMaximum, WritesThePhotoAtItsNewSize)
 {
     const MaximumCase& row = GetParam();
-    const Resizing files(grey(row.photo.width, row.photo.height));
+    const Resizing files(greyPhoto(row.photo));
     DVImageHandling handling;
 
     const ResultWord word
@@ -294,7 +310,7 @@ TEST(ResizeToMaximum, KeepsDepthColorsAndTransparency)
 TEST_P(ResizeToBox, WritesExactlyTheBox)
 {
     const FixedCase& row = GetParam();
-    const Resizing files(grey(row.photo.width, row.photo.height));
+    const Resizing files(greyPhoto(row.photo));
     DVImageHandling handling;
 
     const ResultWord word
