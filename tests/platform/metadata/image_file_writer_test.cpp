@@ -72,19 +72,26 @@ INSTANTIATE_TEST_SUITE_P(
         Pair{"JpegToJpeg", FileFormat::Jpeg, FileFormat::Jpeg},
         Pair{"JpegToPng", FileFormat::Jpeg, FileFormat::Png},
         Pair{"JpegToTiff", FileFormat::Jpeg, FileFormat::Tiff},
+        Pair{"JpegToHeic", FileFormat::Jpeg, FileFormat::Heic},
         Pair{"PngToJpeg", FileFormat::Png, FileFormat::Jpeg},
         Pair{"PngToPng", FileFormat::Png, FileFormat::Png},
         Pair{"PngToTiff", FileFormat::Png, FileFormat::Tiff},
+        Pair{"PngToHeic", FileFormat::Png, FileFormat::Heic},
         Pair{"TiffToJpeg", FileFormat::Tiff, FileFormat::Jpeg},
         Pair{"TiffToPng", FileFormat::Tiff, FileFormat::Png},
-        Pair{"TiffToTiff", FileFormat::Tiff, FileFormat::Tiff}
+        Pair{"TiffToTiff", FileFormat::Tiff, FileFormat::Tiff},
+        Pair{"TiffToHeic", FileFormat::Tiff, FileFormat::Heic},
+        Pair{"HeicToJpeg", FileFormat::Heic, FileFormat::Jpeg},
+        Pair{"HeicToPng", FileFormat::Heic, FileFormat::Png},
+        Pair{"HeicToTiff", FileFormat::Heic, FileFormat::Tiff},
+        Pair{"HeicToHeic", FileFormat::Heic, FileFormat::Heic}
     ),
     CaseName{}
 );
 
-TEST(WriteImageFile, KeepsTheExifBlockToTheBitInJpegAndPng)
+TEST(WriteImageFile, KeepsTheExifBlockToTheBitInJpegPngAndHeic)
 {
-    for (const FileFormat format : {FileFormat::Jpeg, FileFormat::Png})
+    for (const FileFormat format : {FileFormat::Jpeg, FileFormat::Png, FileFormat::Heic})
         EXPECT_EQ(carried(cameraBlocks(), format).exif, cameraBlocks().exif);
 }
 
@@ -94,6 +101,17 @@ TEST(WriteImageFile, KeepsCommentsAndFurtherSegmentsOfAJpeg)
 
     EXPECT_EQ(blocks.comment, cameraBlocks().comment);
     EXPECT_EQ(blocks.jpegSegments, cameraBlocks().jpegSegments);
+}
+
+TEST(WriteImageFile, WritesNoMetadataIntoTheOtherFormats)
+{
+    for (const FileFormat format : {FileFormat::Bmp, FileFormat::Gif, FileFormat::Jpeg2000}) {
+        const MetadataBlocks blocks = carried(cameraBlocks(), format);
+
+        EXPECT_TRUE(blocks.exif.isEmpty());
+        EXPECT_TRUE(blocks.xmp.isEmpty());
+        EXPECT_TRUE(blocks.iptc.isEmpty());
+    }
 }
 
 TEST(WriteImageFile, ReplacesTheFileItReadsFrom)
