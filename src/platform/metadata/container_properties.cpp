@@ -79,6 +79,8 @@ void takeJpeg(QByteArrayView file, ContainerProperties& properties)
 void takeResolution(QByteArrayView data, ContainerProperties& properties)
 {
     constexpr int perMetre = 1;
+    if (properties.dpiWidth)
+        return;
     const double x = bigNumber(data, 0, 4);
     const double y = bigNumber(data, 4, 4);
     if (bigInteger(data, 8, 1) == perMetre) {
