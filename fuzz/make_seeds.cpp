@@ -76,6 +76,7 @@ int main(int argc, char** argv)
     const platform::Engine engine;
     const QString top = QFile::decodeName(argv[1]);
     addPhotos(SeedFolder(top, QStringLiteral("image_source")));
+    addPhotos(SeedFolder(top, QStringLiteral("metadata_blocks")));
     addColors(SeedFolder(top, QStringLiteral("color_archive")));
     SeedFolder(top, QStringLiteral("bookmark"))
         .add(
