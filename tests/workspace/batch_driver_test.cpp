@@ -417,7 +417,7 @@ TEST_F(BatchDriver, HandsTheWholeListToTheWatermark)
     chooseDestination();
     addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
     panels.vwWatermark.tvFileName.setStringValue(u"name"_qs);
-    workspace::WatermarkRun seen;
+    watermark::WatermarkRun seen;
     subsystems.operations.setWatermarkText = [&](const auto& watermark, const auto& report) {
         seen = watermark;
         report({.source = u"/in/a.jpg"_qs, .target = u"/out/a.jpg"_qs, .word = u"OK"_qs});
@@ -429,7 +429,7 @@ TEST_F(BatchDriver, HandsTheWholeListToTheWatermark)
     EXPECT_EQ(seen.destination, u"/out/"_qs);
     EXPECT_EQ(seen.outputType, u"original file type"_qs);
     EXPECT_EQ(seen.compressionLevel, u"9"_qs);
-    EXPECT_EQ(seen.fileName, u"name"_qs);
+    EXPECT_EQ(seen.fileNameText, u"name"_qs);
     ASSERT_EQ(journal.records().size(), 1);
     EXPECT_EQ(journal.records().first().function, u"textWM"_qs);
 }
