@@ -110,6 +110,9 @@ void FormRow::addFields(const FormBuilder& builder)
     }
     if (!filled)
         line->addStretch(1);
+    const bool isIndented = m_label && m_row.label.isEmpty();
+    if (isIndented && minimumSizeHint().width() > Metrics::formWidth)
+        m_label->hide();
 }
 
 void FormRow::addHint()

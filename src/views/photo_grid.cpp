@@ -20,7 +20,11 @@ namespace {
 /// Small pictures are made at twice the size they are shown at, for dense screens.
 constexpr int pictureScale = 2;
 
-bool isOwnDrag(const QDropEvent& event, const QWidget* grid) { return event.source() == grid; }
+/// Only the grid itself gives out its items.
+bool isOwnDrag(const QDropEvent& event)
+{
+    return event.mimeData()->hasFormat(u"application/x-qabstractitemmodeldatalist"_qs);
+}
 
 QStringList localPaths(const QMimeData& data)
 {
@@ -120,7 +124,7 @@ void PhotoGrid::dragEnterEvent(QDragEnterEvent* event) { dragMoveEvent(event); }
 
 void PhotoGrid::dragMoveEvent(QDragMoveEvent* event)
 {
-    const bool own = isOwnDrag(*event, this);
+    const bool own = isOwnDrag(*event);
     if (!own && !event->mimeData()->hasUrls()) {
         event->ignore();
         return;
@@ -141,7 +145,7 @@ void PhotoGrid::dropEvent(QDropEvent* event)
 {
     const int gap = std::exchange(m_gap, -1);
     viewport()->update();
-    if (!isOwnDrag(*event, this)) {
+    if (!isOwnDrag(*event)) {
         event->acceptProposedAction();
         Q_EMIT filesDropped(localPaths(*event->mimeData()));
         return;

@@ -61,7 +61,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_RadioButtonLabelSpacing:
         return 8;
     case PM_ScrollBarExtent:
-        return 12;
+        return Metrics::scrollBar;
     case PM_ScrollBarSliderMin:
         return 32;
     case PM_SplitterWidth:

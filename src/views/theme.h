@@ -42,6 +42,9 @@ struct Metrics
     static constexpr int labelColumn = 92;
     static constexpr int fieldHeight = 30;
     static constexpr int inspectorWidth = 392;
+    static constexpr int scrollBar = 12;
+    /// Room for a form in the inspector, beside its scroll bar.
+    static constexpr int formWidth = inspectorWidth - 1 - 2 * margin - scrollBar;
 };
 
 [[nodiscard]] const Colours& coloursOf(Scheme scheme);

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <app/single_instance.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+#include <thread>
+
+using namespace brenvaldo;
+
+namespace {
+
+class SingleInstance : public testing::Test
+{
+protected:
+    /// A second start on a thread of its own, while this one delivers events.
+    bool handOverFromSecondStart(const QStringList& files) const
+    {
+        std::optional<bool> answer;
+        std::thread second([&] { answer = app::SingleInstance(path).handOver(files); });
+        QElapsedTimer clock;
+        clock.start();
+        while (!answer && clock.elapsed() < 5000)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        second.join();
+        return answer.value_or(false);
+    }
+
+    test::TemporaryFolder folder;
+    QString path = folder.path(u"program.sock"_qs);
+};
+
+} // namespace
+
+TEST_F(SingleInstance, FindsNoOtherProgramAtFirst)
+{
+    EXPECT_FALSE(app::SingleInstance(path).handOver({}));
+}
+
+TEST_F(SingleInstance, GivesTheFilesOfASecondStartToTheFirst)
+{
+    app::SingleInstance first(path);
+    ASSERT_TRUE(first.listen());
+    QStringList arrived;
+    const auto subscription
+        = first.filesArrived.connect([&](const auto& files) { arrived = files; });
+
+    EXPECT_TRUE(handOverFromSecondStart({u"/a/b c.jpg"_qs, u"/d/\u00e4.png"_qs}));
+
+    EXPECT_EQ(arrived, (QStringList{u"/a/b c.jpg"_qs, u"/d/\u00e4.png"_qs}));
+}
+
+TEST_F(SingleInstance, ReplacesASocketThatACrashedProgramLeftBehind)
+{
+    (void)folder.write(u"program.sock"_qs, {});
+    app::SingleInstance first(path);
+
+    ASSERT_TRUE(first.listen());
+
+    EXPECT_TRUE(handOverFromSecondStart({}));
+}

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <support/photo_builder.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+#include <views/preview_view.h>
+#include <views/theme.h>
+
+#include <platform/graphics/image_source.h>
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+using namespace brenvaldo;
+
+namespace {
+
+QImage solid(int width, int height, const QColor& colour)
+{
+    QImage picture(width, height, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(colour);
+    return picture;
+}
+
+class PreviewView : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        view.resize(600, 400);
+        view.show();
+    }
+
+    /// The view as it looks when everything is drawn.
+    QImage drawn()
+    {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return view.isUpToDate(); }));
+        return view.grab().toImage();
+    }
+
+    static platform::Image picture(int width, int height, const QColor& colour)
+    {
+        return platform::Image::fromQImage(solid(width, height, colour));
+    }
+
+    controls::ImageView photo{u"myTemplatePreview"_qs};
+    controls::ImageView overlay{u"myTemplateOverlayPreview"_qs};
+    workspace::PhotoList photos;
+    views::PreviewView view{{.photo = photo, .overlay = overlay, .photos = photos}};
+};
+
+} // namespace
+
+TEST_F(PreviewView, FitsThePhotoOnNeutralGround)
+{
+    photo.setImage(picture(2000, 1000, Qt::red));
+
+    const QImage shown = drawn();
+
+    EXPECT_EQ(shown.pixelColor(300, 200), QColor(Qt::red));
+    EXPECT_EQ(shown.pixelColor(2, 2), views::colours().canvas);
+}
+
+TEST_F(PreviewView, LaysTheOverlayOverThePhoto)
+{
+    photo.setImage(picture(2000, 1000, Qt::red));
+    overlay.setImage(picture(2000, 1000, QColor(0, 0, 255, 255)));
+
+    EXPECT_EQ(drawn().pixelColor(300, 200), QColor(Qt::blue));
+    overlay.clear();
+
+    EXPECT_EQ(drawn().pixelColor(300, 200), QColor(Qt::red));
+}
+
+TEST_F(PreviewView, ShowsAnOverlayThatReplacesThePhoto)
+{
+    overlay.setImage(picture(300, 300, Qt::green));
+
+    EXPECT_EQ(drawn().pixelColor(300, 200), QColor(Qt::green));
+}
+
+TEST_F(PreviewView, DoesNotEnlargeASmallPhoto)
+{
+    photo.setImage(picture(100, 100, Qt::red));
+
+    const QImage shown = drawn();
+
+    EXPECT_EQ(shown.pixelColor(300, 200), QColor(Qt::red));
+    EXPECT_NE(shown.pixelColor(200, 200), QColor(Qt::red));
+}
+
+TEST_F(PreviewView, ShowsPixelsAtOneToOneAndPansByMouse)
+{
+    QImage halves = solid(4000, 2000, Qt::red);
+    for (int y = 0; y < halves.height(); ++y)
+        for (int x = 2000; x < halves.width(); ++x)
+            halves.setPixelColor(x, y, Qt::blue);
+    photo.setImage(platform::Image::fromQImage(halves));
+    view.setZoom(views::PreviewView::Zoom::Pixels);
+    EXPECT_EQ(drawn().pixelColor(10, 200), QColor(Qt::red));
+    EXPECT_EQ(drawn().pixelColor(590, 200), QColor(Qt::blue));
+
+    QTest::mousePress(&view, Qt::LeftButton, {}, {500, 200});
+    QTest::mouseMove(&view, {100, 200});
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, {100, 200});
+
+    EXPECT_EQ(drawn().pixelColor(10, 200), QColor(Qt::blue));
+}
+
+TEST_F(PreviewView, TellsAboutTheFileOfTheSelectedPhoto)
+{
+    const test::TemporaryFolder folder;
+    const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_qs));
+    workspace::cCollectionViewItem entry;
+    entry.myPhotoDescription = path;
+    photos.append(entry);
+    photos.select(0);
+    photo.setImage(picture(470, 330, Qt::red));
+
+    (void)drawn();
+
+    EXPECT_TRUE(view.caption().startsWith(u"a.jpg  \u00b7  470 \u00d7 330  \u00b7  8 bit RGB"_qs));
+}

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sent_actions.h"
+
+#include <controls/text_controls.h>
+#include <panels/panels.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+#include <views/alert_sheet.h>
+#include <views/journal_window.h>
+#include <views/panel_sheet.h>
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+
+using namespace brenvaldo;
+
+namespace {
+
+struct AlertSheet : testing::Test
+{
+    AlertSheet()
+    {
+        actions.add(u"cGUIcontrols"_qs, u"closeApplicationAlertSheetObjC"_qs, [this](const auto&) {
+            panels.window.wwAlertWindow.close();
+        });
+    }
+
+    void alert(const QString& title, const QString& text)
+    {
+        panels.window.wwAlertWindow.open();
+        panels.window.tfHTMLAlertTitle.setStringValue(title);
+        panels.window.tfHTMLAlertInfo.setStringValue(text);
+    }
+
+    panels::Panels panels;
+    controls::ActionRegistry actions;
+    QWidget window;
+    views::AlertSheet* sheet = new views::AlertSheet(panels.window, actions, &window);
+};
+
+/// A file chooser that answers one path.
+struct OnePath : controls::FileChooser
+{
+    explicit OnePath(QString answer)
+        : path(std::move(answer))
+    {
+    }
+    std::optional<QStringList> open(const controls::OpenPanel&) override { return std::nullopt; }
+    std::optional<QString> save(const controls::SavePanel&) override { return path; }
+
+    QString path;
+};
+
+} // namespace
+
+TEST_F(AlertSheet, ShowsTitleAndTextWithLineBreaks)
+{
+    window.show();
+    alert(u"Missing destination."_qs, u"\rPlease choose.\rNow."_qs);
+
+    EXPECT_TRUE(sheet->isVisible());
+    EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
+    EXPECT_EQ(
+        sheet->findChild<QLabel*>(u"tfHTMLAlertTitle"_qs)->text(), u"Missing destination."_qs
+    );
+    EXPECT_EQ(sheet->findChild<QLabel*>(u"tfHTMLAlertInfo"_qs)->text(), u"Please choose.\nNow."_qs);
+}
+
+TEST_F(AlertSheet, ClosesByItsButtonThroughTheAction)
+{
+    window.show();
+    alert(u"a"_qs, u"b"_qs);
+
+    QTest::mouseClick(sheet->findChild<QPushButton*>(u"closeAlert"_qs), Qt::LeftButton);
+
+    EXPECT_FALSE(panels.window.wwAlertWindow.isOpen());
+    EXPECT_FALSE(sheet->isVisible());
+}
+
+TEST_F(AlertSheet, ClosesByEscapeAndOpensAgain)
+{
+    window.show();
+    alert(u"a"_qs, u"b"_qs);
+
+    QTest::keyClick(sheet, Qt::Key_Escape);
+    EXPECT_FALSE(sheet->isVisible());
+    alert(u"c"_qs, u"d"_qs);
+
+    EXPECT_TRUE(sheet->isVisible());
+}
+
+TEST(PanelSheet, OpensAndClosesWithItsControl)
+{
+    struct View : panels::PanelView
+    {
+        View()
+            : PanelView(u"wwPresetsWindow"_qs)
+        {
+            setLayout({{panels::Row{.label = u"Name"_qs, .fields = {{.control = &field}}}}});
+        }
+        controls::TextField field{u"tfInputPDM"_qs};
+    };
+    const View view;
+    const panels::Panels panels;
+    const test::SentActions sent;
+    const views::Binder binder(sent.input);
+    const views::FormBuilder builder(panels, binder);
+    controls::Sheet control(u"wwPresetsWindow"_qs);
+    QWidget window;
+    window.show();
+    auto* sheet = new views::PanelSheet(control, view, builder, sent.registry, &window);
+
+    control.open();
+    EXPECT_TRUE(sheet->isVisible());
+    EXPECT_TRUE(sheet->findChild<QWidget*>(u"tfInputPDM"_qs));
+    QTest::keyClick(sheet, Qt::Key_Escape);
+
+    EXPECT_FALSE(control.isOpen());
+    EXPECT_FALSE(sheet->isVisible());
+}
+
+TEST(JournalWindow, ListsWhatRunsDidAndSavesItAsText)
+{
+    const test::TemporaryFolder folder;
+    OnePath chooser(folder.path(u"journal.txt"_qs));
+    workspace::RunJournal journal;
+    const workspace::RunRecord record{
+        .time = QDateTime::currentDateTime(),
+        .function = u"textWM"_qs,
+        .source = u"/photos/a.jpg"_qs,
+        .target = u"/out/a.jpg"_qs,
+        .word = u"OK"_qs};
+    journal.add(record);
+    views::JournalWindow window(journal, chooser);
+    window.show();
+
+    journal.add(record);
+    EXPECT_EQ(window.rowCount(), 2);
+    QTest::mouseClick(window.findChildren<QPushButton*>().at(0), Qt::LeftButton);
+
+    const QString saved = QString::fromUtf8(test::TemporaryFolder::read(chooser.path));
+    EXPECT_EQ(saved, journal.asText());
+}

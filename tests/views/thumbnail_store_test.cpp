@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <support/photo_builder.h>
+#include <support/temporary_folder.h>
+#include <views/thumbnail_store.h>
+
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace brenvaldo;
+
+namespace {
+
+constexpr int side = 94;
+
+class ThumbnailStore : public testing::Test
+{
+protected:
+    /// Waits until a picture of `path` is there, or the file has turned out unreadable.
+    QImage awaited(const QString& path)
+    {
+        const bool came = QTest::qWaitFor([&] {
+            return !store.picture(path).isNull() || store.isUnreadable(path);
+        });
+        EXPECT_TRUE(came);
+        return store.picture(path);
+    }
+
+    test::TemporaryFolder folder;
+    views::ThumbnailStore store{side};
+};
+
+} // namespace
+
+TEST_F(ThumbnailStore, AnswersAtOnceAndTellsWhenThePictureIsThere)
+{
+    const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_qs));
+    QSignalSpy arrived(&store, &views::ThumbnailStore::arrived);
+
+    EXPECT_TRUE(store.picture(path).isNull());
+    ASSERT_TRUE(arrived.wait());
+
+    EXPECT_EQ(store.picture(path).size(), QSize(94, 66));
+}
+
+TEST_F(ThumbnailStore, TurnsPhotosUpright)
+{
+    const QString path
+        = test::PhotoBuilder{}.size(470, 330).orientation(6).write(folder.path(u"a.jpg"_qs));
+
+    EXPECT_EQ(awaited(path).size(), QSize(66, 94));
+}
+
+TEST_F(ThumbnailStore, DoesNotEnlargeSmallPhotos)
+{
+    const QString path = test::PhotoBuilder{}.size(47, 33).write(folder.path(u"a.png"_qs));
+
+    EXPECT_EQ(awaited(path).size(), QSize(47, 33));
+}
+
+TEST_F(ThumbnailStore, KnowsFilesThatAreNoPhotos)
+{
+    const QString path = folder.write(u"a.jpg"_qs, "no photo at all");
+
+    EXPECT_TRUE(awaited(path).isNull());
+    EXPECT_TRUE(store.isUnreadable(path));
+    EXPECT_TRUE(awaited(folder.path(u"missing.jpg"_qs)).isNull());
+}
+
+TEST_F(ThumbnailStore, MakesANewPictureWhenTheFileHasChanged)
+{
+    const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_qs));
+    EXPECT_EQ(awaited(path).width(), 94);
+
+    test::PhotoBuilder{}.size(330, 470).write(path);
+    store.checkFilesAgain();
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return store.picture(path).height() == 94; }));
+}
+
+TEST_F(ThumbnailStore, EndsWhilePicturesAreStillToCome)
+{
+    auto* brief = new views::ThumbnailStore(side, &store);
+    for (int index = 0; index < 20; ++index) {
+        const QString name = QStringLiteral("%1.jpg").arg(index);
+        const QString path = test::PhotoBuilder{}.size(900, 700).write(folder.path(name));
+        EXPECT_TRUE(brief->picture(path).isNull());
+    }
+
+    brief->deleteLater();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
