@@ -189,6 +189,7 @@ Commands::Commands(
         command->setToolTip(toolTipOf(*command));
         if (*row.drawing)
             command->setIcon(icon(QString::fromLatin1(row.drawing)));
+        command->setVisible(actions.knows(name));
         connect(command, &QAction::triggered, this, [&actions, name] { actions.send(name); });
         m_commands.insert(bareName(name), command);
     }

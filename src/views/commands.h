@@ -11,7 +11,8 @@ namespace brenvaldo::views {
 
 /// What the user can order from menus, tool bar and keyboard alike, each once.
 ///
-/// An order is known by the bare name of the action that it sends, such as "hChoosePhotos".
+/// An order whose action nobody has registered is not offered. An order is known by the bare name
+/// of the action that it sends, such as "hChoosePhotos".
 class Commands : public QObject
 {
     Q_OBJECT

@@ -52,6 +52,7 @@ struct ItemBuilder
     void operator()(const panels::Table& table) const
     {
         auto* rows = new RowsTable(table.columns, form);
+        rows->setEmptyText(table.emptyText);
         binder.bind(*rows, *table.table);
         rows->setAccessibleName(
             table.accessibleName.isEmpty() ? table.table->name() : table.accessibleName

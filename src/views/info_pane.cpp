@@ -12,7 +12,7 @@ namespace brenvaldo::views {
 
 namespace {
 
-constexpr int paneWidth = 340;
+constexpr int paneWidth = 360;
 
 } // namespace
 

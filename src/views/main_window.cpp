@@ -12,6 +12,8 @@
 #include "photo_tool_bar.h"
 #include "theme.h"
 
+#include <workspace/collection_view_controller.h>
+
 #include <QDropEvent>
 #include <QHBoxLayout>
 #include <QMimeData>
@@ -50,7 +52,6 @@ mainAppWindow::mainAppWindow(workspace::Workspace& workspace, QtFileChooser& cho
     auto* row = new QHBoxLayout(body);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
-    addInfoPane(*body);
     row->addWidget(photoArea(), 1);
     row->addWidget(new Inspector(workspace.panels(), workspace.photos(), m_builder, m_binder, body)
     );
@@ -79,13 +80,7 @@ QWidget* mainAppWindow::photoArea()
     auto& panels = m_workspace.panels();
     auto* splitter = new QSplitter(Qt::Vertical, this);
     splitter->setChildrenCollapsible(false);
-    m_preview = new PreviewView(
-        {.photo = panels.window.myTemplatePreview,
-         .overlay = panels.window.myTemplateOverlayPreview,
-         .photos = m_workspace.photos()},
-        splitter
-    );
-    splitter->addWidget(m_preview);
+    splitter->addWidget(previewArea());
 
     auto* list = new QWidget(splitter);
     auto* column = new QVBoxLayout(list);
@@ -104,22 +99,34 @@ QWidget* mainAppWindow::photoArea()
     return splitter;
 }
 
-void mainAppWindow::addInfoPane(QWidget& body)
+QWidget* mainAppWindow::previewArea()
 {
-    const auto* view = m_workspace.panels().view(u"vwPhotoInfo"_qs);
-    m_orders.photoInfo->setEnabled(view != nullptr);
-    if (!view)
-        return;
-    auto* pane = new InfoPane(*view, m_builder, &body);
+    auto& panels = m_workspace.panels();
+    auto* area = new QWidget(this);
+    auto* row = new QHBoxLayout(area);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    auto* pane = new InfoPane(panels.vwPhotoInfo, m_builder, area);
     pane->hide();
-    body.layout()->addWidget(pane);
     connect(m_orders.photoInfo, &QAction::toggled, pane, &QWidget::setVisible);
+    row->addWidget(pane);
+    m_preview = new PreviewView(
+        {.photo = panels.window.myTemplatePreview,
+         .overlay = panels.window.myTemplateOverlayPreview,
+         .photos = m_workspace.photos()},
+        area
+    );
+    row->addWidget(m_preview, 1);
+    return area;
 }
 
 void mainAppWindow::connectGrid()
 {
     connect(m_grid, &PhotoGrid::tickWanted, this, &mainAppWindow::tick);
     connect(m_grid, &PhotoGrid::filesDropped, this, &mainAppWindow::openFiles);
+    connect(m_grid, &PhotoGrid::moveWanted, this, [this](const QList<int>& rows, int gap) {
+        m_workspace.collectionView().acceptDrop(rows, gap);
+    });
     connect(
         m_grid, &PhotoGrid::addWanted, m_commands.command(u"hChoosePhotos"_qs), &QAction::trigger
     );
@@ -158,9 +165,8 @@ void mainAppWindow::makeSheets()
 
 void mainAppWindow::tick(int row)
 {
-    auto entry = m_workspace.photos().entries().at(row);
-    entry.myPhotoSelect = entry.myPhotoSelect > 0 ? 0 : 1;
-    m_workspace.photos().replaceAt(row, entry);
+    const bool isTicked = m_workspace.photos().entries().at(row).myPhotoSelect > 0;
+    m_workspace.photos().setTick(row, isTicked ? 0 : 1);
     m_workspace.actions().send(u"cCollectionViewController.cbPhotoToProcessClicked"_qs);
 }
 

@@ -16,7 +16,6 @@ class QSplitter;
 
 namespace brenvaldo::views {
 
-class InfoPane;
 class JournalWindow;
 class PhotoGrid;
 
@@ -47,7 +46,7 @@ protected:
 
 private:
     [[nodiscard]] QWidget* photoArea();
-    void addInfoPane(QWidget& row);
+    [[nodiscard]] QWidget* previewArea();
     void connectGrid();
     void connectOrders();
     void makeSheets();

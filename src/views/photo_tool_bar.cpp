@@ -66,6 +66,8 @@ void PhotoToolBar::addTitled(QHBoxLayout& line, QAction& command)
 
 void PhotoToolBar::addDrawn(QHBoxLayout& line, QAction& command)
 {
+    if (!command.isVisible())
+        return;
     auto* button = new QToolButton(this);
     button->setDefaultAction(&command);
     button->setObjectName(QStringLiteral("tool.") + command.objectName());

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rows_table.h"
 
+#include "theme.h"
+
 #include <QHeaderView>
+#include <QPainter>
 #include <QScopedValueRollback>
 
 namespace brenvaldo::views {
@@ -104,6 +107,18 @@ void RowsTable::selectRow(int row)
         return;
     }
     setCurrentIndex(m_items.at(row)->index());
+}
+
+void RowsTable::paintEvent(QPaintEvent* event)
+{
+    QTreeView::paintEvent(event);
+    if (m_emptyText.isEmpty() || !m_items.isEmpty())
+        return;
+    QPainter painter(viewport());
+    painter.setPen(colours().muted);
+    painter.drawText(
+        viewport()->rect().adjusted(16, 8, -16, -8), Qt::AlignCenter | Qt::TextWordWrap, m_emptyText
+    );
 }
 
 int RowsTable::selectedRow() const

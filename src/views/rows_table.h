@@ -18,6 +18,9 @@ public:
     /// Without `columns` every field is shown and no titles.
     explicit RowsTable(QList<panels::TableColumn> columns, QWidget* parent = nullptr);
 
+    /// What an empty table says.
+    void setEmptyText(const QString& text) { m_emptyText = text; }
+
     void setRows(const controls::ArrayController& content);
 
     /// Index into the content; -1 selects none.
@@ -31,6 +34,9 @@ Q_SIGNALS:
     /// The user has selected another row.
     void picked(int row);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     [[nodiscard]] QList<panels::TableColumn> shownColumns(const controls::ArrayController& content
     ) const;
@@ -40,6 +46,7 @@ private:
     QStandardItemModel m_model;
     QList<QStandardItem*> m_items; ///< first item of each row, owned by the model
     QList<QStringList> m_rows;
+    QString m_emptyText;
     bool m_fills = false;
 };
 

@@ -122,6 +122,9 @@ QSize Style::sizeFromContents(
     case CT_ComboBox:
         return {size.width() + 40, field};
     case CT_PushButton: {
+        const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+        if (button && button->text.isEmpty())
+            return {field, field};
         const int padding = buttonRole(widget) == ButtonRole::Flat ? 16 : 26;
         const int height = buttonRole(widget) == ButtonRole::Primary ? field + 8 : field;
         return {std::max(size.width() + padding, field), height};

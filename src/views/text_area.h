@@ -13,6 +13,8 @@ class TextArea : public QPlainTextEdit
 public:
     explicit TextArea(QWidget* parent = nullptr);
 
+    [[nodiscard]] QSize minimumSizeHint() const override { return {80, minimumHeight()}; }
+
 protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;

@@ -15,6 +15,13 @@ constexpr int workerCount = 2;
 constexpr int cacheKilobytes = 192 * 1024;
 constexpr int mostWaiting = 400;
 
+QImage fitted(const QImage& picture, int side)
+{
+    if (picture.width() <= side && picture.height() <= side)
+        return picture;
+    return picture.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+}
+
 /// Size of a picture of `size` that fits a square; small pictures are not enlarged.
 platform::PixelSize fittedSize(platform::PixelSize size, int side)
 {
@@ -97,6 +104,8 @@ void ThumbnailStore::make(const QString& path, const FileState& known)
     };
     const FileState file = stateOf(path);
     if (file != known || file.size < 0) {
+        if (const QImage quick = platform::embeddedThumbnail(path); !quick.isNull())
+            tell({.picture = fitted(quick, m_side), .file = file});
         tell({.picture = rendered(path, m_side), .file = file, .isFinal = true});
     }
     QMetaObject::invokeMethod(this, [this, path] { finish(path); });

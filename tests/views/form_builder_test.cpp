@@ -93,9 +93,10 @@ TEST_F(FormBuilder, KeepsEveryPanelInsideTheInspector)
     for (const auto* view : panels.views()) {
         const bool isSheet = view->name().startsWith(u"ww"_qs);
         const QWidget* form = build(*view);
-        if (!isSheet)
-            EXPECT_LE(form->minimumSizeHint().width(), views::Metrics::formWidth)
-                << view->name().toStdString();
+        if (isSheet)
+            continue;
+        EXPECT_LE(form->minimumSizeHint().width(), views::Metrics::formWidth)
+            << view->name().toStdString();
     }
 }
 

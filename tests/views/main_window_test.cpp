@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/user_defaults.h>
+#include <support/environment.h>
+#include <support/photo_builder.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+#include <views/main_window.h>
+#include <views/photo_grid.h>
+#include <views/qt_desktop.h>
+#include <views/theme.h>
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTest>
+#include <QUrl>
+
+using namespace brenvaldo;
+
+namespace {
+
+/// The whole program with its window, in folders of its own.
+class MainWindow : public testing::Test
+{
+protected:
+    MainWindow()
+    {
+        workspace.start();
+        window = std::make_unique<views::mainAppWindow>(workspace, chooser);
+        window->resize(1280, 720);
+        window->show();
+        settle();
+    }
+
+    static void settle()
+    {
+        QApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QApplication::processEvents();
+    }
+
+    template <class Widget = QWidget>
+    Widget* find(const QString& name) const
+    {
+        auto* widget = window->findChild<Widget*>(name);
+        EXPECT_TRUE(widget) << name.toStdString();
+        return widget;
+    }
+
+    QStringList makePhotos(int count) const
+    {
+        QStringList paths;
+        for (int index = 0; index < count; ++index) {
+            const QString name = QStringLiteral("photo-%1.jpg").arg(index);
+            paths.append(test::PhotoBuilder{}.size(60, 40).write(folder.path(name)));
+        }
+        return paths;
+    }
+
+    test::TemporaryFolder folder;
+    test::Environment data{"XDG_DATA_HOME", folder.path(u"data"_qs).toUtf8()};
+    test::Environment configuration{"XDG_CONFIG_HOME", folder.path(u"config"_qs).toUtf8()};
+    platform::UserDefaults defaults{folder.path(u"defaults.conf"_qs)};
+    views::QtFileChooser chooser;
+    views::QtDesktop desktop;
+    workspace::Workspace workspace{{.chooser = chooser, .desktop = desktop, .defaults = defaults}};
+    std::unique_ptr<views::mainAppWindow> window;
+};
+
+bool isCut(const QWidget& widget)
+{
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    if (label && label->wordWrap())
+        return label->height() < label->heightForWidth(label->width());
+    const QSize wanted
+        = qobject_cast<const QLabel*>(&widget) || qobject_cast<const QAbstractButton*>(&widget)
+        ? widget.sizeHint()
+        : widget.minimumSizeHint();
+    return widget.width() < wanted.width() || widget.height() < wanted.height();
+}
+
+} // namespace
+
+TEST_F(MainWindow, StartsWithTheTextWatermarkAndAllHoldersFilled)
+{
+    for (const QString& name :
+         {u"pubEditPhoto"_qs,
+          u"vwWatermark"_qs,
+          u"vwShowPreview"_qs,
+          u"vwApplyOn"_qs,
+          u"vwFileType"_qs,
+          u"vwMainDestination"_qs,
+          u"btnPresets"_qs})
+        EXPECT_TRUE(find(name)->isVisible()) << name.toStdString();
+    EXPECT_TRUE(find<QAbstractButton>(u"btnEditPhoto"_qs)->isChecked());
+}
+
+TEST_F(MainWindow, FillsTheHoldersWhenAFunctionIsPickedByKey)
+{
+    auto* popUp = find(u"pubEditPhoto"_qs);
+    popUp->setFocus();
+
+    QTest::keyClick(popUp, Qt::Key_Down);
+    settle();
+
+    EXPECT_TRUE(find(u"vwAddTint"_qs)->isVisible());
+    EXPECT_FALSE(window->findChild<QWidget*>(u"vwWatermark"_qs));
+}
+
+TEST_F(MainWindow, ChangesTheSectionByItsButton)
+{
+    QTest::mouseClick(find(u"btnFileManagement"_qs), Qt::LeftButton);
+    settle();
+
+    EXPECT_TRUE(find<QAbstractButton>(u"btnFileManagement"_qs)->isChecked());
+    EXPECT_FALSE(find<QAbstractButton>(u"btnEditPhoto"_qs)->isChecked());
+    EXPECT_TRUE(find(u"pubFileManagementSelect"_qs)->isVisible());
+}
+
+TEST_F(MainWindow, ShowsAnAlertThatClosesByItsButton)
+{
+    QTest::mouseClick(find(u"btnProcess"_qs), Qt::LeftButton);
+    auto* sheet = find(u"wwAlertWindow"_qs);
+    ASSERT_TRUE(sheet->isVisible());
+    EXPECT_EQ(
+        sheet->findChild<QLabel*>(u"tfHTMLAlertTitle"_qs)->text(), u"Missing destination."_qs
+    );
+
+    QTest::mouseClick(sheet->findChild<QPushButton*>(u"closeAlert"_qs), Qt::LeftButton);
+
+    EXPECT_FALSE(sheet->isVisible());
+}
+
+TEST_F(MainWindow, RunsByTheProcessButton)
+{
+    QDir().mkpath(folder.path(u"out"_qs));
+    workspace.openFiles(makePhotos(2));
+    auto& panels = workspace.panels();
+    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(folder.path(u"out/"_qs));
+    panels.window.pubEditPhoto.selectItemAtIndex(8);
+    workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_qs);
+    settle();
+    auto* field = find<QLineEdit>(u"tfScaleMaxVal"_qs);
+    field->setFocus();
+    QTest::keyClicks(field, u"30"_qs);
+
+    auto* button = find<QPushButton>(u"btnProcess"_qs);
+    EXPECT_EQ(button->text(), u"Process 2 photos"_qs);
+    QTest::mouseClick(button, Qt::LeftButton);
+
+    const QStringList made = QDir(folder.path(u"out"_qs)).entryList(QDir::Files);
+    EXPECT_EQ(made, (QStringList{u"photo-0.jpg"_qs, u"photo-1.jpg"_qs}));
+    EXPECT_EQ(workspace.journal().records().size(), 2);
+}
+
+TEST_F(MainWindow, UntickingOnePhotoTurnsTheMasterTickOffOnly)
+{
+    workspace.openFiles(makePhotos(3));
+    auto* grid = find<views::PhotoGrid>(u"myPhotoCollectionView"_qs);
+    grid->setFocus();
+    workspace.photos().select(1);
+
+    QTest::keyClick(grid, Qt::Key_Space);
+
+    const auto& entries = workspace.photos().entries();
+    EXPECT_EQ(entries.at(0).myPhotoSelect, 1);
+    EXPECT_EQ(entries.at(1).myPhotoSelect, 0);
+    EXPECT_EQ(entries.at(2).myPhotoSelect, 1);
+    EXPECT_FALSE(find<QCheckBox>(u"cbPhotoToProcess"_qs)->isChecked());
+    EXPECT_EQ(find<QPushButton>(u"btnProcess"_qs)->text(), u"Process 2 photos"_qs);
+}
+
+TEST_F(MainWindow, MovesADraggedPhotoThroughTheListsOwnRule)
+{
+    workspace.openFiles(makePhotos(3));
+
+    Q_EMIT find<views::PhotoGrid>(u"myPhotoCollectionView"_qs)->moveWanted({0}, 1);
+
+    EXPECT_EQ(workspace.photos().entries().at(1).myPhotoName, u"photo-0.jpg"_qs);
+}
+
+TEST_F(MainWindow, AddsNothingForADropOnItsBody)
+{
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(makePhotos(1).first())});
+    testing::internal::CaptureStdout();
+
+    QDragEnterEvent enter({4, 4}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &enter);
+    QDropEvent drop({4, 4}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &drop);
+
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "Enter\nPrepare\nPerform\n1\n");
+    EXPECT_TRUE(drop.isAccepted());
+    EXPECT_TRUE(workspace.photos().isEmpty());
+}
+
+TEST_F(MainWindow, EndsTheWorkWhenItIsClosed)
+{
+    const QString left = folder.path(u"data/Brenvaldo/Temp/left.txt"_qs);
+    QFile file(left);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+
+    window->close();
+
+    EXPECT_FALSE(QFile::exists(left));
+}
+
+TEST_F(MainWindow, NamesEveryWidgetThatTakesTheFocus)
+{
+    const auto widgets = window->findChildren<QWidget*>();
+    for (const QWidget* widget : widgets) {
+        const bool isPart = widget->objectName().startsWith(u"qt_"_qs);
+        if (!widget->isVisible() || isPart || !(widget->focusPolicy() & Qt::TabFocus))
+            continue;
+        EXPECT_FALSE(widget->accessibleName().isEmpty())
+            << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+    }
+}
+
+TEST_F(MainWindow, CutsNoWidgetAtTheSmallestSize)
+{
+    auto& popUp = workspace.panels().window.pubEditPhoto;
+    for (int index = 0; index < popUp.count(); ++index) {
+        popUp.selectItemAtIndex(index);
+        workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_qs);
+        settle();
+        EXPECT_EQ(window->size(), QSize(1280, 720));
+        for (const QWidget* widget : window->findChildren<QWidget*>()) {
+            const bool isPart = widget->objectName().startsWith(u"qt_"_qs);
+            if (!widget->isVisible() || isPart)
+                continue;
+            EXPECT_FALSE(isCut(*widget))
+                << widget->metaObject()->className() << ' ' << widget->objectName().toStdString()
+                << " at function " << index;
+        }
+    }
+}
+
+TEST_F(MainWindow, FollowsTheSchemeWhileItIsOpen)
+{
+    QApplication::setPalette(views::paletteOf(views::Scheme::Dark));
+    settle();
+    const QImage dark = window->grab().toImage();
+    QApplication::setPalette(QPalette());
+    settle();
+    const QImage light = window->grab().toImage();
+
+    const QPoint inspector(1270, 300);
+    EXPECT_EQ(dark.pixelColor(inspector), views::coloursOf(views::Scheme::Dark).window);
+    EXPECT_EQ(light.pixelColor(inspector), views::coloursOf(views::Scheme::Light).window);
+}
