@@ -5,6 +5,7 @@
 #include <platform/foundation/color_archive.h>
 #include <platform/graphics/engine.h>
 
+#include <support/exif_block.h>
 #include <support/photo_builder.h>
 
 #include <QDir>
@@ -57,6 +58,34 @@ void addPhotos(const SeedFolder& seeds)
     seeds.add(QStringLiteral("jpeg2000"), small(PhotoFormat::Jpeg2000).bytes());
 }
 
+/// Photos with all that a camera and an editor write around the pixels.
+void addAnnotatedPhotos(const SeedFolder& seeds)
+{
+    const QByteArray exif = test::exifBlock(
+        {.orientation = 6,
+         .make = "Maker",
+         .dateTimeOriginal = "2026:11:15 10:44:33",
+         .userComment = QByteArray("ASCII\0\0\0comment", 15),
+         .makerNote = QByteArray(20, 'm'),
+         .thumbnail = PhotoBuilder().size(4, 3).bytes(),
+         .dotsPerInch = 300}
+    );
+    const QByteArray iptc(
+        "Photoshop 3.0\0"
+        "8BIM\x04\x04\0\0\0\0\0\x0A\x1C\x02\x50\0\x05"
+        "Maker",
+        36
+    );
+    for (const PhotoFormat format :
+         {PhotoFormat::Jpeg, PhotoFormat::Png, PhotoFormat::Tiff, PhotoFormat::Heic}) {
+        PhotoBuilder photo;
+        photo.size(11, 7).format(format).exif(exif).xmp("<x:xmpmeta xmlns:x='adobe:ns:meta/'/>");
+        if (format == PhotoFormat::Jpeg)
+            photo.jpegSegment('\xED', iptc);
+        seeds.add(QStringLiteral("annotated%1").arg(static_cast<int>(format)), photo.bytes());
+    }
+}
+
 void addColors(const SeedFolder& seeds)
 {
     const platform::ColorComponents components{0.25F, 0.5F, 1};
@@ -76,7 +105,11 @@ int main(int argc, char** argv)
     const platform::Engine engine;
     const QString top = QFile::decodeName(argv[1]);
     addPhotos(SeedFolder(top, QStringLiteral("image_source")));
-    addPhotos(SeedFolder(top, QStringLiteral("metadata_blocks")));
+    for (const QString& reader :
+         {QStringLiteral("metadata_blocks"), QStringLiteral("metadata_splice")}) {
+        addPhotos(SeedFolder(top, reader));
+        addAnnotatedPhotos(SeedFolder(top, reader));
+    }
     addColors(SeedFolder(top, QStringLiteral("color_archive")));
     SeedFolder(top, QStringLiteral("bookmark"))
         .add(
