@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The scripts of the folder examples do what they say.
+
+#include "script_fixture.h"
+
+#include <support/photo_builder.h>
+
+#include <QDir>
+#include <QImageReader>
+
+using namespace brenvaldo;
+using test::PhotoBuilder;
+using testing::Each;
+using testing::EndsWith;
+using testing::SizeIs;
+
+class Examples : public test::ScriptTest
+{
+protected:
+    Examples()
+        : m_before(QDir::currentPath())
+    {
+        QDir::setCurrent(folder());
+        for (const QString& made :
+             {u"photos"_qs, u"small"_qs, u"large"_qs, u"thumbnails"_qs, u"png"_qs})
+            QDir().mkdir(made);
+        for (const QString& wide : {u"dawn"_qs, u"noon"_qs, u"fog"_qs, u"night"_qs})
+            PhotoBuilder().size(1800, 1200).write(u"photos/%1.jpg"_qs.arg(wide));
+        for (const QString& upright : {u"autumn"_qs, u"dusk"_qs})
+            PhotoBuilder().size(1200, 1800).write(u"photos/%1.jpg"_qs.arg(upright));
+    }
+    Examples(const Examples&) = delete;
+    Examples& operator=(const Examples&) = delete;
+    Examples(Examples&&) = delete;
+    Examples& operator=(Examples&&) = delete;
+    ~Examples() override { QDir::setCurrent(m_before); }
+
+    [[nodiscard]] static Outcome example(const QString& name)
+    {
+        return runFiles({QStringLiteral(BRENVALDO_EXAMPLES "/") + name});
+    }
+
+    [[nodiscard]] static QStringList filesIn(const QString& folder)
+    {
+        return QDir(folder).entryList(QDir::Files, QDir::Name);
+    }
+
+    [[nodiscard]] static QSize sizeOf(const QString& path) { return QImageReader(path).size(); }
+
+private:
+    QString m_before;
+};
+
+TEST_F(Examples, FirstRunMakesSmallCopies)
+{
+    const auto outcome = example(u"first-run"_qs);
+
+    EXPECT_EQ(outcome.errors, QString());
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(filesIn(u"small"_qs), SizeIs(6));
+    EXPECT_EQ(sizeOf(u"small/dawn.jpg"_qs), QSize(1000, 666));
+    EXPECT_EQ(sizeOf(u"small/dusk.jpg"_qs), QSize(666, 1000));
+}
+
+TEST_F(Examples, WebSizesMakesTwoSizesOfLandscapePhotos)
+{
+    const auto outcome = example(u"web-sizes"_qs);
+
+    EXPECT_EQ(outcome.errors, QString());
+    EXPECT_THAT(filesIn(u"large"_qs), SizeIs(4));
+    EXPECT_THAT(filesIn(u"thumbnails"_qs), SizeIs(4));
+    EXPECT_EQ(sizeOf(u"large/fog.jpg"_qs).width(), 1600);
+    EXPECT_EQ(sizeOf(u"thumbnails/fog.jpg"_qs).width(), 400);
+}
+
+TEST_F(Examples, ConvertToPngLeavesOutThePhotoWithoutATick)
+{
+    const auto outcome = example(u"convert-to-png"_qs);
+
+    EXPECT_EQ(outcome.errors, QString());
+    EXPECT_EQ(filesIn(u"png"_qs), QStringList({u"dawn.png"_qs, u"night.png"_qs}));
+    EXPECT_EQ(sizeOf(u"png/dawn.png"_qs), QSize(1800, 1200));
+}
