@@ -2,6 +2,7 @@
 #include "image_file_writer.h"
 
 #include "block_splicers.h"
+#include "iptc_to_xmp.h"
 #include "mapped_file.h"
 #include "xmp_packet.h"
 
@@ -56,6 +57,8 @@ bool encodeWithBlocks(const Image& image, const ImageFileRequest& request, const
     if (request.metadata && request.format == FileFormat::Heic) {
         blocks.exif = request.metadata->exif;
         blocks.xmp = completeXmp(*request.metadata);
+        if (blocks.xmp.isEmpty())
+            blocks.xmp = xmpFromIptc(request.metadata->iptc);
         options.blocks = &blocks;
     }
     return encode(image, request.format, options, path);

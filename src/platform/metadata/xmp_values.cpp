@@ -1,29 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "xmp_values.h"
 
-#include <exiv2/exiv2.hpp>
+#include "xmp_parser.h"
 
-#include <mutex>
+#include <exiv2/exiv2.hpp>
 
 namespace brenvaldo::platform {
 
 namespace {
-
-/// The toolkit behind the parser keeps global state.
-std::mutex& parserMutex()
-{
-    static std::mutex mutex;
-    return mutex;
-}
-
-void startParser()
-{
-    static std::once_flag once;
-    std::call_once(once, [] {
-        Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute);
-        Exiv2::XmpParser::initialize();
-    });
-}
 
 QString textOf(const std::string& text)
 {
@@ -62,8 +46,7 @@ XmpValues::XmpValues(const QByteArray& packet)
 {
     if (packet.isEmpty())
         return;
-    const std::lock_guard guard(parserMutex());
-    startParser();
+    const auto lock = lockedXmpParser();
     try {
         if (Exiv2::XmpParser::decode(m_data->properties, packet.toStdString()) != 0)
             m_data->properties.clear();

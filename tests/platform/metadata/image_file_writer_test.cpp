@@ -4,8 +4,10 @@
 #include <platform/graphics/image_source.h>
 #include <platform/metadata/image_file_writer.h>
 #include <platform/metadata/metadata_reader.h>
+#include <platform/metadata/xmp_values.h>
 #include <support/case_name.h>
 #include <support/faults.h>
+#include <support/iptc_block.h>
 #include <support/photo_builder.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
@@ -112,6 +114,16 @@ TEST(WriteImageFile, WritesNoMetadataIntoTheOtherFormats)
         EXPECT_TRUE(blocks.xmp.isEmpty());
         EXPECT_TRUE(blocks.iptc.isEmpty());
     }
+}
+
+TEST(WriteImageFile, TurnsIptcIntoXmpForAHeicWithoutXmp)
+{
+    MetadataBlocks blocks;
+    blocks.iptc = brenvaldo::test::iptcDataSet(120, "caf\xE9");
+
+    const XmpValues xmp(carried(blocks, FileFormat::Heic).xmp);
+
+    EXPECT_EQ(xmp.texts("Xmp.dc.description"), QStringList(QStringLiteral("caf\u00e9")));
 }
 
 TEST(WriteImageFile, ReplacesTheFileItReadsFrom)
