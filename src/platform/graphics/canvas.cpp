@@ -49,7 +49,7 @@ void layOverTransparent(const KernelRow<2>& row, int bands)
         const quint32 alpha = above + below;
         for (int band = 0; band < bands; ++band) {
             const quint64 sum = quint64{layer[band]} * above + quint64{base[band]} * below;
-            out[band] = alpha == 0 ? 0 : static_cast<Sample>((sum + alpha / 2) / alpha);
+            out[band] = alpha == 0 ? Sample{0} : static_cast<Sample>((sum + alpha / 2) / alpha);
         }
         out[bands] = static_cast<Sample>(alpha);
     }
