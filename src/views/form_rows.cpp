@@ -50,8 +50,7 @@ bool hasLabelColumn(const panels::Row& row, FormBuilder::Density density)
 {
     if (density == FormBuilder::Density::Compact)
         return false;
-    return !row.label.isEmpty()
-        || std::all_of(row.fields.begin(), row.fields.end(), isTickOrButton);
+    return !row.label.isEmpty() || (!row.fields.isEmpty() && isTickOrButton(row.fields.first()));
 }
 
 } // namespace

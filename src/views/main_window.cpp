@@ -95,7 +95,7 @@ QWidget* mainAppWindow::photoArea()
     splitter->addWidget(list);
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
-    splitter->setSizes({560, 320});
+    splitter->setSizes({520, 358});
     return splitter;
 }
 

@@ -59,6 +59,8 @@ PhotoGrid::PhotoGrid(workspace::PhotoList& photos, QWidget* parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::NoFrame);
     setViewportMargins(10, 6, 0, 0);
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
     setMouseTracking(true);
     setDragDropMode(QAbstractItemView::DragDrop);
     setDropIndicatorShown(false);

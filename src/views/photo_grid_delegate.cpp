@@ -14,7 +14,7 @@ namespace brenvaldo::views {
 namespace {
 
 constexpr int margin = 3;
-constexpr int cellWidth = 136;
+constexpr int cellWidth = 144;
 constexpr int pictureTop = 10;
 constexpr int tickSide = 16;
 constexpr double smallScale = 0.86;

@@ -26,7 +26,7 @@ void paintRadio(QPainter& painter, const QStyleOption& option)
     const QRectF circle = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(chosen ? mark : shade.border.darker(115), 1));
+    painter.setPen(QPen(chosen ? mark : shade.disabled, 1));
     painter.setBrush(chosen ? mark : shade.field);
     painter.drawEllipse(circle);
     if (chosen) {

@@ -52,7 +52,7 @@ void paintTickBox(QPainter& painter, const TickBox& box)
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor mark = box.enabled ? shade.accent : shade.disabled;
-    const QColor line = box.ticked ? mark : (box.enabled ? shade.border.darker(115) : shade.track);
+    const QColor line = box.ticked ? mark : (box.enabled ? shade.disabled : shade.track);
     const QRectF inner = box.rect.adjusted(0.5, 0.5, -0.5, -0.5);
     if (box.focused || box.onPicture) {
         painter.setPen(QPen(box.focused ? shade.accent : QColor(255, 255, 255, 220), 1.5));
