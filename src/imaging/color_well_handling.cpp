@@ -120,7 +120,7 @@ std::optional<Color> cColorWellHandling::setHEXValue(const QString& text, contro
     return color;
 }
 
-void cColorWellHandling::addActions(controls::ActionRegistry& actions) const
+void cColorWellHandling::registerActions(controls::ActionRegistry& actions) const
 {
     const QString className = QStringLiteral("cColorWellHandling");
     const auto edited = [handling = *this](const controls::Sender& sender) {

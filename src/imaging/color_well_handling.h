@@ -35,7 +35,7 @@ public:
     setHEXValue(const QString& text, controls::ColorWell& well);
 
     /// Registers the two operations below as the actions that fields and wells send.
-    void addActions(controls::ActionRegistry& actions) const;
+    void registerActions(controls::ActionRegistry& actions) const;
 
     /// A hex field was edited: the well of its tag follows.
     void controlTextDidEndEditing(const controls::TextControl& field) const;

@@ -92,14 +92,7 @@ void Workspace::Parts::registerActions()
     sheetControl.registerActions(actions);
     presetManager.registerActions(actions);
     watermark::registerPanelActions(actions, panels.vwWatermark, notifications);
-    actions.add(
-        u"cColorWellHandling"_qs,
-        u"controlTextDidEndEditing"_qs,
-        [this](const controls::Sender& sender) {
-            if (const auto* field = dynamic_cast<const controls::TextControl*>(sender.control))
-                colorWells.controlTextDidEndEditing(*field);
-        }
-    );
+    colorWells.registerActions(actions);
 }
 
 Workspace::Workspace(const Surroundings& surroundings)

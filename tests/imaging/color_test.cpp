@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 using namespace brenvaldo::imaging;
+using brenvaldo::controls::ActionRegistry;
 using brenvaldo::controls::ColorWell;
 using brenvaldo::controls::TextField;
 using brenvaldo::panels::Panels;
@@ -211,6 +212,58 @@ TEST(ColorWellTags, LeaveControlsAloneThatNoPanelHas)
 
     EXPECT_NO_THROW(handling.controlTextDidEndEditing(field));
     EXPECT_NO_THROW(handling.hCallHEXfromColorwell(well));
+}
+
+TEST(ColorWellTags, LetTheWellFollowItsHexField)
+{
+    const Panels panels;
+    const cColorWellHandling handling(panels);
+    auto* well = dynamic_cast<ColorWell*>(panels.control(u"ascNSColorWellAddTint"_qs));
+    ASSERT_TRUE(well);
+    TextField field(u"tfTest"_qs, u"FF0000"_qs);
+    field.setTag(7);
+
+    handling.controlTextDidEndEditing(field);
+
+    EXPECT_EQ(well->color(), red);
+}
+
+TEST(ColorWellTags, LetTheHexFieldFollowItsWell)
+{
+    const Panels panels;
+    const cColorWellHandling handling(panels);
+    auto* field = dynamic_cast<TextField*>(panels.control(u"tfRotationBackgroundHexColor"_qs));
+    ASSERT_TRUE(field);
+    ColorWell well(u"cwTest"_qs, grey);
+    well.setTag(14);
+
+    handling.hCallHEXfromColorwell(well);
+
+    EXPECT_EQ(field->stringValue(), u"7F7F7F"_qs);
+}
+
+TEST(ColorWellTags, AreReadByTheActionsOfFieldsAndWells)
+{
+    const Panels panels;
+    const cColorWellHandling handling(panels);
+    ActionRegistry actions;
+    handling.registerActions(actions);
+    auto* well = dynamic_cast<ColorWell*>(panels.control(u"cwRotationBackgroundColor"_qs));
+    auto* hexField = dynamic_cast<TextField*>(panels.control(u"tfRotationBackgroundHexColor"_qs));
+    ASSERT_TRUE(well && hexField);
+    TextField field(u"tfTest"_qs, u"FF0000"_qs);
+    field.setTag(23);
+    ColorWell changed(u"cwTest"_qs, grey);
+    changed.setTag(14);
+
+    const auto edited
+        = actions.send(u"controlTextDidEndEditing"_qs, {.tag = 23, .control = &field});
+    const auto chosen = actions.send(u"hCallHEXfromColorwell"_qs, {.tag = 14, .control = &changed});
+
+    EXPECT_EQ(edited, ActionRegistry::Sent::Done);
+    EXPECT_EQ(chosen, ActionRegistry::Sent::Done);
+    EXPECT_EQ(well->color(), red);
+    EXPECT_EQ(hexField->stringValue(), u"7F7F7F"_qs);
 }
 
 TEST(DrawingColor, KeepsComponentsAndSpace)
