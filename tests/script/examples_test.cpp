@@ -25,9 +25,9 @@ protected:
              {u"photos"_qs, u"small"_qs, u"large"_qs, u"thumbnails"_qs, u"png"_qs})
             QDir().mkdir(made);
         for (const QString& wide : {u"dawn"_qs, u"noon"_qs, u"fog"_qs, u"night"_qs})
-            PhotoBuilder().size(1800, 1200).write(u"photos/%1.jpg"_qs.arg(wide));
+            PhotoBuilder().size(180, 120).write(u"photos/%1.jpg"_qs.arg(wide));
         for (const QString& upright : {u"autumn"_qs, u"dusk"_qs})
-            PhotoBuilder().size(1200, 1800).write(u"photos/%1.jpg"_qs.arg(upright));
+            PhotoBuilder().size(120, 180).write(u"photos/%1.jpg"_qs.arg(upright));
     }
     Examples(const Examples&) = delete;
     Examples& operator=(const Examples&) = delete;
@@ -79,5 +79,5 @@ TEST_F(Examples, ConvertToPngLeavesOutThePhotoWithoutATick)
 
     EXPECT_EQ(outcome.errors, QString());
     EXPECT_EQ(filesIn(u"png"_qs), QStringList({u"dawn.png"_qs, u"night.png"_qs}));
-    EXPECT_EQ(sizeOf(u"png/dawn.png"_qs), QSize(1800, 1200));
+    EXPECT_EQ(sizeOf(u"png/dawn.png"_qs), QSize(180, 120));
 }
