@@ -43,6 +43,12 @@ QByteArray wideProfile(qsizetype padding)
     return saved(profile);
 }
 
+QByteArray oddProfile()
+{
+    constexpr qsizetype renderingIntent = 64;
+    return wideProfile().replace(renderingIntent, 4, QByteArray("\xFF\0\0\0", 4));
+}
+
 QByteArray grayProfile()
 {
     cmsToneCurve* curve = cmsBuildGamma(nullptr, 1.8);

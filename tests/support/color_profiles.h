@@ -8,6 +8,9 @@ namespace brenvaldo::test {
 /// A profile of RGB with wider primaries than sRGB, and `padding` bytes of an extra tag.
 [[nodiscard]] QByteArray wideProfile(qsizetype padding = 0);
 
+/// `wideProfile` with a rendering intent that does not exist: some libraries reject it.
+[[nodiscard]] QByteArray oddProfile();
+
 /// A profile of grey with a gamma of 1.8.
 [[nodiscard]] QByteArray grayProfile();
 

@@ -2,6 +2,8 @@
 #include "encoders.h"
 
 #include "color_profile.h"
+#include "inserting_file.h"
+#include "png_profile.h"
 #include "sample_conversion.h"
 
 #include <QFile>
@@ -12,13 +14,19 @@ namespace {
 
 constexpr double millimetresPerInch = 25.4;
 
-/// The pixels with the profile and the resolution where the engine's encoders look for them.
-vips::VImage labelled(const ImageNode& node)
+/// The pixels with the resolution where the engine's encoders look for it.
+vips::VImage withResolution(const ImageNode& node)
 {
     const double pixelsPerMillimetre = node.dotsPerInch / millimetresPerInch;
-    const vips::VImage pixels = node.pixels.copy(
+    return node.pixels.copy(
         vips::VImage::option()->set("xres", pixelsPerMillimetre)->set("yres", pixelsPerMillimetre)
     );
+}
+
+/// The pixels with the profile, too.
+vips::VImage labelled(const ImageNode& node)
+{
+    const vips::VImage pixels = withResolution(node);
     if (!node.iccProfile.isEmpty())
         vips_image_set_blob_copy(
             pixels.get_image(),
@@ -48,13 +56,15 @@ ImageNode fittedTo(const ImageNode& node, const FormatLimits& limits)
 void encodePng(const ImageNode& node, const QString& path)
 {
     const ImageNode fitted = fittedTo(node, {.colors = ColorSupport::SrgbInsteadOfCmyk});
-    labelled(fitted).pngsave(
-        QFile::encodeName(path).constData(),
+    InsertingFile file(path, {.at = pngHeaderLength, .bytes = pngProfileChunk(fitted.iccProfile)});
+    withResolution(fitted).pngsave_target(
+        file.target(),
         vips::VImage::option()
             ->set("compression", 1)
             ->set("filter", VIPS_FOREIGN_PNG_FILTER_SUB)
             ->set("bitdepth", fitted.pixels.format() == VIPS_FORMAT_USHORT ? 16 : 8)
     );
+    file.finish();
 }
 
 void encodeTiff(const ImageNode& node, const QString& path)

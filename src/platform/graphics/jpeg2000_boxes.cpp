@@ -114,7 +114,7 @@ bool endsWithEndMarker(QIODevice& file)
 
 } // namespace
 
-QByteArray withLabels(const QByteArray& file, const Jpeg2000Labels& labels)
+QByteArray withLabels(const QByteArray& file, const FileLabels& labels)
 {
     const auto header = findBox(file, "jp2h", 0, file.size());
     if (!header)
@@ -128,7 +128,7 @@ QByteArray withLabels(const QByteArray& file, const Jpeg2000Labels& labels)
     return file.first(header->at) + box("jp2h", contents) + file.mid(header->at + header->size);
 }
 
-Jpeg2000Labels readLabels(const QByteArray& head)
+FileLabels readLabels(const QByteArray& head)
 {
     const auto header = findBox(head, "jp2h", 0, head.size());
     if (!header)

@@ -8,18 +8,18 @@
 
 namespace brenvaldo::platform {
 
-/// What the header box of a JPEG 2000 file says beside the size of the picture.
-struct Jpeg2000Labels
+/// What the header of a file says beside the size of the picture.
+struct FileLabels
 {
     QByteArray iccProfile = {};
     std::optional<double> dotsPerInch = {};
 };
 
 /// The file with these labels in its header box; unchanged where the file has no such box.
-[[nodiscard]] QByteArray withLabels(const QByteArray& file, const Jpeg2000Labels& labels);
+[[nodiscard]] QByteArray withLabels(const QByteArray& file, const FileLabels& labels);
 
 /// The labels of the file that begins with `head`.
-[[nodiscard]] Jpeg2000Labels readLabels(const QByteArray& head);
+[[nodiscard]] FileLabels readLabels(const QByteArray& head);
 
 /// True when the code stream of the open file reaches its end; false for a file that was cut off.
 [[nodiscard]] bool holdsWholeCodeStream(QIODevice& file);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "encoders.h"
-
-#include <QFile>
+#include "inserting_file.h"
 
 #include <algorithm>
 #include <cmath>
@@ -53,52 +52,6 @@ QByteArray profileSegments(const QByteArray& profile)
     return segments;
 }
 
-/// Receives the bytes of the encoder and puts segments behind the start of the image.
-class JpegFile
-{
-public:
-    JpegFile(const QString& path, QByteArray segments)
-        : m_file(path)
-        , m_segments(std::move(segments))
-        , m_isWhole(m_file.open(QIODevice::WriteOnly))
-    {
-    }
-
-    /// False when any byte so far could not be written.
-    [[nodiscard]] bool isWhole() const { return m_isWhole; }
-
-    void write(const char* bytes, qint64 length)
-    {
-        constexpr qint64 startLength = 2;
-        const qint64 startBytes = std::clamp<qint64>(startLength - m_received, 0, length);
-        append(bytes, startBytes);
-        m_received += length;
-        if (startBytes > 0 && m_received >= startLength)
-            append(m_segments.constData(), m_segments.size());
-        append(bytes + startBytes, length - startBytes);
-    }
-
-    void finish() { m_isWhole = m_isWhole && m_file.flush(); }
-
-private:
-    void append(const char* bytes, qint64 length)
-    {
-        m_isWhole = m_isWhole && m_file.write(bytes, length) == length;
-    }
-
-    QFile m_file;
-    QByteArray m_segments;
-    qint64 m_received = 0;
-    bool m_isWhole;
-};
-
-gint64 writeToFile(VipsTargetCustom* /*target*/, const void* bytes, gint64 length, gpointer file)
-{
-    auto* jpeg = static_cast<JpegFile*>(file);
-    jpeg->write(static_cast<const char*>(bytes), length);
-    return jpeg->isWhole() ? length : -1;
-}
-
 } // namespace
 
 void encodeJpeg(const ImageNode& node, std::optional<double> quality, const QString& path)
@@ -106,12 +59,14 @@ void encodeJpeg(const ImageNode& node, std::optional<double> quality, const QStr
     const ImageNode fitted
         = fittedTo(node, {.alpha = AlphaSupport::Flattens, .depth = DepthSupport::EightBits});
     const double asked = quality.value_or(defaultQuality);
-    JpegFile file(path, densitySegment(fitted.dotsPerInch) + profileSegments(fitted.iccProfile));
-    VipsTargetCustom* target = vips_target_custom_new();
-    g_signal_connect(target, "write", G_CALLBACK(writeToFile), &file);
-    const vips::VTarget owned(VIPS_TARGET(target));
+    constexpr qint64 startLength = 2;
+    InsertingFile file(
+        path,
+        {.at = startLength,
+         .bytes = densitySegment(fitted.dotsPerInch) + profileSegments(fitted.iccProfile)}
+    );
     fitted.pixels.jpegsave_target(
-        owned,
+        file.target(),
         vips::VImage::option()
             ->set("Q", static_cast<int>(std::clamp(std::lround(asked * 100), 1L, 100L)))
             ->set("strip", true)
@@ -123,8 +78,6 @@ void encodeJpeg(const ImageNode& node, std::optional<double> quality, const QStr
             )
     );
     file.finish();
-    if (!file.isWhole())
-        throw vips::VError("the file can't be written");
 }
 
 } // namespace brenvaldo::platform

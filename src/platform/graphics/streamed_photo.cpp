@@ -2,6 +2,7 @@
 #include "color_profile.h"
 #include "jpeg2000_boxes.h"
 #include "photo_decoder.h"
+#include "png_profile.h"
 
 #include <QFile>
 
@@ -77,6 +78,27 @@ void checkSize(const vips::VImage& decoded, bool isJpeg)
         throw vips::VError("the picture is too large");
 }
 
+FileLabels jpeg2000FileLabels(QIODevice& file)
+{
+    // The decoder fills what is missing and now and then forgets to say so.
+    if (!holdsWholeCodeStream(file))
+        throw vips::VError("the code stream is cut off");
+    file.seek(0);
+    constexpr qint64 headLength = qint64{4} << 20; // leaves room for a large profile
+    return readLabels(file.read(headLength));
+}
+
+/// What the engine doesn't read from the header of a file.
+FileLabels fileLabels(const QString& path, const QString& typeIdentifier)
+{
+    QFile file(path);
+    if (typeIdentifier == QLatin1String("public.jp2") && file.open(QIODevice::ReadOnly))
+        return jpeg2000FileLabels(file);
+    if (typeIdentifier == QLatin1String("public.png") && file.open(QIODevice::ReadOnly))
+        return {.iccProfile = readPngProfile(file), .dotsPerInch = {}};
+    return {};
+}
+
 /// A file that is decoded from top to bottom while its pixels are used.
 class StreamedPhoto : public PhotoDecoder
 {
@@ -98,7 +120,7 @@ public:
             || decoded.interpretation() == VIPS_INTERPRETATION_LABS;
         m_header.colorModel = isLab ? ColorModel::Lab : node.colorModel;
         m_header.hasAlpha = node.hasAlpha;
-        m_labels = readFileLabels(m_header.typeIdentifier);
+        m_labels = fileLabels(m_path, m_header.typeIdentifier);
         m_header.dotsPerInch = m_labels.dotsPerInch.value_or(node.dotsPerInch);
     }
 
@@ -119,25 +141,11 @@ public:
     }
 
 private:
-    /// What the engine doesn't read from the header of a JPEG 2000 file; nothing for other types.
-    [[nodiscard]] Jpeg2000Labels readFileLabels(const QString& typeIdentifier) const
-    {
-        QFile file(m_path);
-        if (typeIdentifier != QLatin1String("public.jp2") || !file.open(QIODevice::ReadOnly))
-            return {};
-        // The decoder fills what is missing and now and then forgets to say so.
-        if (!holdsWholeCodeStream(file))
-            throw vips::VError("the code stream is cut off");
-        file.seek(0);
-        constexpr qint64 headLength = qint64{4} << 20; // leaves room for a large profile
-        return readLabels(file.read(headLength));
-    }
-
     QString m_path;
     const char* m_loader;
     bool m_isJpeg;
     ImageHeader m_header;
-    Jpeg2000Labels m_labels;
+    FileLabels m_labels;
 };
 
 } // namespace

@@ -2,7 +2,8 @@
 #include "png_chunks.h"
 
 #include "bytes.h"
-#include "inflate.h"
+
+#include <platform/foundation/inflate.h>
 
 namespace brenvaldo::platform {
 

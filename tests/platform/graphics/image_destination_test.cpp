@@ -268,6 +268,20 @@ INSTANTIATE_TEST_SUITE_P(
     CaseName()
 );
 
+TEST(ImageDestination, KeepsAProfileThatThePngLibraryRejects)
+{
+    const TemporaryFolder folder;
+    const QString source = PhotoBuilder()
+                               .format(PhotoFormat::Tiff)
+                               .iccProfile(oddProfile())
+                               .write(folder.path(QStringLiteral("source.tiff")));
+    const QString target = folder.path(QStringLiteral("target.png"));
+
+    ASSERT_TRUE(encode(*openedPhoto(source).image(), FileFormat::Png, {}, target));
+
+    EXPECT_EQ(openedPhoto(target).image()->iccProfile(), oddProfile());
+}
+
 TEST(ImageDestination, SubsamplesChromaUpToNineTenths)
 {
     const TemporaryFolder folder;

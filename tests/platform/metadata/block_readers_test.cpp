@@ -2,9 +2,9 @@
 #include "block_builder.h"
 #include "container_builder.h"
 
+#include <platform/foundation/inflate.h>
 #include <platform/metadata/block_readers.h>
 #include <platform/metadata/exif_directories.h>
-#include <platform/metadata/inflate.h>
 #include <platform/metadata/jpeg_segments.h>
 #include <platform/metadata/png_chunks.h>
 #include <support/case_name.h>
