@@ -63,7 +63,7 @@ function(brenvaldo_program folder)
   brenvaldo_check_layers("${folder}" "${arg_DEPENDS}")
 endfunction()
 
-# A folder that holds a library and a program is checked once.
+# A folder that holds a library and a program is checked once, by the list of the first that is declared.
 function(brenvaldo_check_layers folder depends)
   if(TEST layers.${folder})
     return()
