@@ -17,6 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     static const platform::Engine engine;
     const fuzz::InputFile file(data, size);
+    static_cast<void>(platform::embeddedThumbnail(file.path()));
     const auto source = platform::ImageSource::open(file.path());
     if (!source || source->header().storedSize.width > largestSide
         || source->header().storedSize.height > largestSide)
