@@ -200,6 +200,12 @@ PhotoBuilder& PhotoBuilder::heicTransformation(int orientation)
     return *this;
 }
 
+PhotoBuilder& PhotoBuilder::statesTurnedSize()
+{
+    m_statesTurnedSize = true;
+    return *this;
+}
+
 PhotoBuilder& PhotoBuilder::format(PhotoFormat format)
 {
     m_format = format;
@@ -299,6 +305,7 @@ QByteArray PhotoBuilder::heic() const
         .exif = exifBytes(),
         .xmp = m_xmp,
         .transformation = m_heicTransformation,
+        .statesTurnedSize = m_statesTurnedSize,
         .quality = m_quality,
     });
 }

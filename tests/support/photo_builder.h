@@ -53,6 +53,8 @@ public:
     PhotoBuilder& jpegSegment(char marker, const QByteArray& contents);
     /// Rotation box of a HEIC as for the orientation 3, 6 or 8; both sides multiples of 64.
     PhotoBuilder& heicTransformation(int orientation);
+    /// States the size after the rotation of a HEIC instead of the coded one, as some programs do.
+    PhotoBuilder& statesTurnedSize();
     PhotoBuilder& format(PhotoFormat format);
     /// 1 to 100 for JPEG, HEIC and JPEG 2000 (100: lossless).
     PhotoBuilder& quality(int quality);
@@ -88,6 +90,7 @@ private:
     QByteArray m_xmp;
     QList<QByteArray> m_jpegSegments;
     int m_heicTransformation = 1;
+    bool m_statesTurnedSize = false;
     PhotoFormat m_format = PhotoFormat::Jpeg;
     int m_quality = 95;
 

@@ -271,7 +271,7 @@ QByteArray heicFile(const HeicContents& contents)
     heif_writer writer = {1, collect};
     check(heif_context_write(context.get(), &writer, &file));
     const bool isTurned = contents.transformation != 1;
-    return isTurned ? withCodedSize(file, contents.size) : file;
+    return isTurned && !contents.statesTurnedSize ? withCodedSize(file, contents.size) : file;
 }
 
 } // namespace brenvaldo::test

@@ -52,6 +52,7 @@ struct HeicContents
     QByteArray exif = {};
     QByteArray xmp = {};
     int transformation = 1; ///< 1 to 8, as rotation and mirror boxes
+    bool statesTurnedSize = false; ///< the size after the rotation stands in the file
     int quality = 95;
 };
 

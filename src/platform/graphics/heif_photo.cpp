@@ -78,6 +78,44 @@ HeifImage decodedImage(const heif_image_handle* handle, heif_chroma chroma, Geom
     return HeifImage(decoded);
 }
 
+PixelSize sizeOf(const heif_image* decoded)
+{
+    return {
+        heif_image_get_width(decoded, heif_channel_interleaved),
+        heif_image_get_height(decoded, heif_channel_interleaved)};
+}
+
+/// True when the boxes of a file may turn its picture on the side.
+bool mentionsQuarterTurn(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    constexpr qint64 roomOfBoxes = qint64{1} << 20;
+    const QByteArray head = file.read(roomOfBoxes);
+    const QByteArrayView name("irot");
+    for (qsizetype at = head.indexOf(name); at >= 0; at = head.indexOf(name, at + 1)) {
+        const qsizetype angle = at + name.size();
+        if (angle < head.size() && (head.at(angle) & 1) != 0)
+            return true;
+    }
+    return false;
+}
+
+/// Size of the coded picture.
+///
+/// Cameras state it; some programs state the size after the file's own rotation instead. A file
+/// that turns its picture and states the size it shows at is decoded to know.
+PixelSize codedSize(const QString& path, const heif_image_handle* handle, PixelSize upright)
+{
+    const PixelSize stated
+        = {heif_image_handle_get_ispe_width(handle), heif_image_handle_get_ispe_height(handle)};
+    checkDecodedWhole(stated);
+    if (stated != upright || stated.width == stated.height || !mentionsQuarterTurn(path))
+        return stated;
+    return sizeOf(decodedImage(handle, heif_chroma_interleaved_RGB, Geometry::Stored).get());
+}
+
 /// Samples of `bits` significant bits spread over the whole range of 16.
 void spread(quint16* samples, std::size_t count, int bits)
 {
@@ -93,8 +131,7 @@ vips::VImage pixelsOf(const heif_image* decoded, const PixelLayout& layout)
     int stride = 0;
     const uint8_t* plane
         = heif_image_get_plane_readonly(decoded, heif_channel_interleaved, &stride);
-    if (plane == nullptr || heif_image_get_width(decoded, heif_channel_interleaved) != layout.width
-        || heif_image_get_height(decoded, heif_channel_interleaved) != layout.height)
+    if (plane == nullptr || sizeOf(decoded) != PixelSize{layout.width, layout.height})
         throw vips::VError("the decoded picture has another size than its header says");
     const vips::VImage pixels = newMemoryPixels(layout);
     const auto samples
@@ -123,10 +160,8 @@ public:
         const heif_image_handle* handle = file.primary.get();
         m_header.uprightSize
             = {heif_image_handle_get_width(handle), heif_image_handle_get_height(handle)};
-        m_header.storedSize
-            = {heif_image_handle_get_ispe_width(handle), heif_image_handle_get_ispe_height(handle)};
-        checkDecodedWhole(m_header.storedSize);
         checkDecodedWhole(m_header.uprightSize);
+        m_header.storedSize = codedSize(m_path, handle, m_header.uprightSize);
         m_header.typeIdentifier = typeIdentifier;
         m_header.bitsPerComponent = heif_image_handle_get_luma_bits_per_pixel(handle) > 8 ? 16 : 8;
         m_header.hasAlpha = heif_image_handle_has_alpha_channel(handle) != 0;

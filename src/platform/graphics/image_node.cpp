@@ -41,9 +41,10 @@ std::optional<double> wholeDotsPerInch(double pixelsPerMetre)
 
 double statedDotsPerInch(const vips::VImage& decoded)
 {
-    // One pixel a millimetre is what the engine reports when a file states nothing.
+    // One pixel a millimetre is also what the engine reports when a file states nothing.
     const double pixelsPerMillimetre = decoded.xres();
-    if (!std::isfinite(pixelsPerMillimetre) || pixelsPerMillimetre <= 0 || pixelsPerMillimetre == 1)
+    const bool isStated = pixelsPerMillimetre != 1 || decoded.get_typeof("resolution-unit") != 0;
+    if (!std::isfinite(pixelsPerMillimetre) || pixelsPerMillimetre <= 0 || !isStated)
         return defaultDotsPerInch;
     if (const auto whole = wholeDotsPerInch(pixelsPerMillimetre * 1000))
         return *whole;

@@ -169,6 +169,36 @@ TEST(ImageSource, TurnsHeicByItsOwnBoxesAlone)
     EXPECT_EQ(cornerColors(uprightPixels(path)), "BRWG");
 }
 
+TEST(ImageSource, FindsTheStoredPixelsOfAHeicThatStatesItsTurnedSize)
+{
+    const TemporaryFolder folder;
+    const QString path = PhotoBuilder()
+                             .size(128, 64)
+                             .corners()
+                             .format(PhotoFormat::Heic)
+                             .heicTransformation(6)
+                             .statesTurnedSize()
+                             .write(folder.path(QStringLiteral("a.heic")));
+
+    const ImageHeader header = openedPhoto(path).header();
+
+    EXPECT_EQ(header.storedSize, (PixelSize{128, 64}));
+    EXPECT_EQ(header.uprightSize, (PixelSize{64, 128}));
+    EXPECT_EQ(cornerColors(storedPixels(path)), "RGBW");
+    EXPECT_EQ(cornerColors(uprightPixels(path)), "BRWG");
+}
+
+TEST(ImageSource, BelievesAStatedResolutionOfOnePixelAMillimetre)
+{
+    const TemporaryFolder folder;
+    const QString path = PhotoBuilder()
+                             .format(PhotoFormat::Tiff)
+                             .dotsPerInch(25.4)
+                             .write(folder.path(QStringLiteral("a.tiff")));
+
+    EXPECT_EQ(openedPhoto(path).header().dotsPerInch, 25.4);
+}
+
 class ImageSourceShrinking : public testing::TestWithParam<int>
 {
 };
