@@ -4,9 +4,6 @@
 #include <platform/foundation/paths.h>
 #include <platform/graphics/image_source.h>
 
-#include <QFileInfo>
-#include <QLocale>
-
 #include <algorithm>
 
 namespace brenvaldo::views {
@@ -46,7 +43,7 @@ PreviewPicture renderedPicture(const PreviewRequest& request)
         .photo = renderedLayer(request.photo, request),
         .overlay = renderedLayer(request.overlay, request),
         .part = request.part,
-        .caption = photoCaption(request.path)};
+        .caption = photoCaption(request.path, request.fileSize)};
 }
 
 } // namespace
@@ -60,7 +57,7 @@ platform::PixelSize fittedInto(platform::PixelSize size, platform::PixelSize roo
         .height = std::max(1, qRound(size.height * scale))};
 }
 
-QString photoCaption(const QString& path)
+QString photoCaption(const QString& path, const QString& fileSize)
 {
     if (path.isEmpty())
         return {};
@@ -69,15 +66,13 @@ QString photoCaption(const QString& path)
     if (!source)
         return name;
     const auto& header = source->header();
-    return QStringLiteral("%1  \u00b7  %2 \u00d7 %3  \u00b7  %4 bit %5  \u00b7  %6")
-        .arg(name)
-        .arg(header.uprightSize.width)
-        .arg(header.uprightSize.height)
-        .arg(header.bitsPerComponent)
-        .arg(colourModelName(header.colorModel))
-        .arg(QLocale::c().formattedDataSize(
-            QFileInfo(path).size(), 1, QLocale::DataSizeTraditionalFormat
-        ));
+    const QString text = QStringLiteral("%1  \u00b7  %2 \u00d7 %3  \u00b7  %4 bit %5")
+                             .arg(name)
+                             .arg(header.uprightSize.width)
+                             .arg(header.uprightSize.height)
+                             .arg(header.bitsPerComponent)
+                             .arg(colourModelName(header.colorModel));
+    return fileSize.isEmpty() ? text : text + QStringLiteral("  \u00b7  ") + fileSize;
 }
 
 PreviewRenderer::PreviewRenderer(QObject* parent)

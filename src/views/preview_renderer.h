@@ -20,6 +20,7 @@ struct PreviewRequest
     /// Not set: each picture is fitted into `room`. Set: this part of it at one pixel a pixel.
     std::optional<platform::PixelRect> part;
     QString path; ///< file that the caption tells about; may be empty
+    QString fileSize = {}; ///< as text; part of the caption
 };
 
 /// A rendered preview; null images stand for what is not there or can't be read.
@@ -60,8 +61,8 @@ private:
     QThreadPool m_worker;
 };
 
-/// "name · 4608 × 3072 · 8 bit RGB · 2.9 MB"; the name alone when the file can't be read.
-[[nodiscard]] QString photoCaption(const QString& path);
+/// "name · 4608 × 3072 · 8 bit RGB · 2.90MB"; the name alone when the file can't be read.
+[[nodiscard]] QString photoCaption(const QString& path, const QString& fileSize);
 
 /// The largest size with the proportions of `size` that stands in `room`; never more than `size`.
 [[nodiscard]] platform::PixelSize fittedInto(platform::PixelSize size, platform::PixelSize room);

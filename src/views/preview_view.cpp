@@ -37,13 +37,22 @@ QRectF centredIn(const QRectF& room, const QImage& picture, double scale)
     return place;
 }
 
+/// The size of the file as the grid tells it: what follows the pixels.
+QString fileSizeOf(const workspace::cCollectionViewItem& entry)
+{
+    return entry.myPhotoPxSize.section(QStringLiteral(" | "), 1);
+}
+
 } // namespace
 
 PreviewView::PreviewView(const Sources& sources, QWidget* parent)
     : QWidget(parent)
     , m_sources(sources)
     , m_zoomChip(new ChoiceChip({tr("Fit"), tr("1:1")}, this))
-    , m_photoChanges(sources.photo.changed.connect([this] { renderSoon(); }))
+    , m_photoChanges(sources.photo.changed.connect([this] {
+        m_fitted = {};
+        renderSoon();
+    }))
     , m_overlayChanges(sources.overlay.changed.connect([this] { renderSoon(); }))
 {
     setObjectName(sources.photo.name());
@@ -86,7 +95,8 @@ void PreviewView::renderNow()
         .overlay = m_sources.overlay.image(),
         .room = roomPixels(),
         .part = std::nullopt,
-        .path = entry ? entry->myPhotoDescription : QString()};
+        .path = entry ? entry->myPhotoDescription : QString(),
+        .fileSize = entry ? fileSizeOf(*entry) : QString()};
     if (m_zoom == Zoom::Pixels && pictureSize().isValid())
         request.part = visiblePart();
     m_renderer.render(request);
@@ -95,6 +105,8 @@ void PreviewView::renderNow()
 void PreviewView::take(const PreviewPicture& picture)
 {
     m_picture = picture;
+    if (!picture.part)
+        m_fitted = picture;
     setAccessibleDescription(picture.caption);
     update();
 }
@@ -184,14 +196,19 @@ void PreviewView::paintPart(QPainter& painter) const
 {
     const double scale = devicePixelRatioF();
     const auto now = visiblePart();
-    const QPointF offset(m_picture.part->x - now.x, m_picture.part->y - now.y);
-    for (const QImage* layer : {&m_picture.photo, &m_picture.overlay}) {
-        if (layer->isNull())
-            continue;
-        QRectF place = centredIn(rect(), *layer, scale);
-        place.translate(offset / scale);
-        painter.drawImage(place, *layer);
-    }
+    QRectF view(QPointF(), QSizeF(now.width, now.height) / scale);
+    view.moveCenter(QRectF(rect()).center());
+    const auto placeOf = [&](const platform::PixelRect& part) {
+        const QPointF offset(part.x - now.x, part.y - now.y);
+        return QRectF(view.topLeft() + offset / scale, QSizeF(part.width, part.height) / scale);
+    };
+    const auto size = pictureSize();
+    const QRectF whole = placeOf({.x = 0, .y = 0, .width = size.width, .height = size.height});
+    // Panning uncovers pixels that are not rendered yet; the fitted picture stands in for them.
+    for (const QImage* layer : {&m_fitted.photo, &m_fitted.overlay})
+        painter.drawImage(whole, *layer);
+    for (const QImage* layer : {&m_picture.photo, &m_picture.overlay})
+        painter.drawImage(placeOf(*m_picture.part), *layer);
 }
 
 void PreviewView::paintCaption(QPainter& painter) const

@@ -69,6 +69,7 @@ private:
     Sources m_sources;
     PreviewRenderer m_renderer;
     PreviewPicture m_picture;
+    PreviewPicture m_fitted; ///< the last fitted picture of this photo
     QTimer m_soon;
     ChoiceChip* m_zoomChip;
     Zoom m_zoom = Zoom::Fit;

@@ -34,7 +34,7 @@ protected:
     /// The view as it looks when everything is drawn.
     QImage drawn()
     {
-        EXPECT_TRUE(QTest::qWaitFor([this] { return view.isUpToDate(); }));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return view.isUpToDate(); }, 60000));
         return view.grab().toImage();
     }
 
@@ -113,11 +113,28 @@ TEST_F(PreviewView, TellsAboutTheFileOfTheSelectedPhoto)
     const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_qs));
     workspace::cCollectionViewItem entry;
     entry.myPhotoDescription = path;
+    entry.myPhotoPxSize = u"470x330px | 1.23KB"_qs;
     photos.append(entry);
     photos.select(0);
     photo.setImage(picture(470, 330, Qt::red));
 
     (void)drawn();
 
-    EXPECT_TRUE(view.caption().startsWith(u"a.jpg  \u00b7  470 \u00d7 330  \u00b7  8 bit RGB"_qs));
+    EXPECT_EQ(
+        view.caption(), u"a.jpg  \u00b7  470 \u00d7 330  \u00b7  8 bit RGB  \u00b7  1.23KB"_qs
+    );
+}
+
+TEST_F(PreviewView, ShowsTheFittedPictureWhereAPartIsNotRenderedYet)
+{
+    photo.setImage(picture(4000, 2000, Qt::red));
+    (void)drawn();
+    view.setZoom(views::PreviewView::Zoom::Pixels);
+    (void)drawn();
+
+    QTest::mousePress(&view, Qt::LeftButton, {}, {500, 200});
+    QTest::mouseMove(&view, {100, 200});
+
+    ASSERT_FALSE(view.isUpToDate());
+    EXPECT_EQ(view.grab().toImage().pixelColor(590, 200), QColor(Qt::red));
 }
