@@ -107,7 +107,7 @@ constexpr std::array rows{
         Needs::Nothing},
     CommandRow{
         "cGUIcontrols.hLoadImages",
-        QT_TRANSLATE_NOOP("Commands", "&Process"),
+        QT_TRANSLATE_NOOP("Commands", "P&rocess"),
         "",
         "Ctrl+Return",
         Needs::Nothing},

@@ -12,6 +12,7 @@
 #include "photo_tool_bar.h"
 #include "theme.h"
 
+#include <workspace/app_delegate.h>
 #include <workspace/collection_view_controller.h>
 
 #include <QDropEvent>
@@ -19,6 +20,8 @@
 #include <QMimeData>
 #include <QSplitter>
 #include <QTextStream>
+
+#include <algorithm>
 
 namespace brenvaldo::views {
 
@@ -46,6 +49,7 @@ mainAppWindow::mainAppWindow(workspace::Workspace& workspace, QtFileChooser& cho
     setWindowTitle(tr("Brenvaldo"));
     setAcceptDrops(true);
     tell(u"Awake"_qs);
+    hideButtonsWithoutAction();
     fillMenuBar(*this, m_commands, m_orders);
 
     auto* body = new QWidget(this);
@@ -59,6 +63,7 @@ mainAppWindow::mainAppWindow(workspace::Workspace& workspace, QtFileChooser& cho
     connectGrid();
     connectOrders();
     makeSheets();
+    followFocusWishes();
     m_chooser.attachTo(this, [this](controls::Control& control, QWidget* parent) {
         return m_builder.buildField({.control = &control}, parent);
     });
@@ -163,6 +168,28 @@ void mainAppWindow::makeSheets()
     }
 }
 
+void mainAppWindow::hideButtonsWithoutAction()
+{
+    const auto& actions = m_workspace.actions();
+    for (controls::Control* control : m_workspace.panels().controls()) {
+        if (!dynamic_cast<controls::Button*>(control))
+            continue;
+        const QStringList& names = control->actions();
+        const auto isKnown = [&actions](const QString& name) { return actions.knows(name); };
+        if (std::none_of(names.begin(), names.end(), isKnown))
+            control->setHidden(true);
+    }
+}
+
+void mainAppWindow::followFocusWishes()
+{
+    const auto focus = [this](const controls::Control& control) {
+        if (auto* field = findChild<QWidget*>(control.name()))
+            field->setFocus(Qt::TabFocusReason);
+    };
+    m_focusWishes = m_workspace.delegate().focusRequested.connect(focus);
+}
+
 void mainAppWindow::tick(int row)
 {
     const bool isTicked = m_workspace.photos().entries().at(row).myPhotoSelect > 0;
@@ -220,6 +247,16 @@ void mainAppWindow::dropEvent(QDropEvent* event)
     tell(u"Perform"_qs);
     tell(QString::number(event->mimeData()->urls().size()));
     event->acceptProposedAction();
+}
+
+bool mainAppWindow::focusNextPrevChild(bool next)
+{
+    const QWidget* before = focusWidget();
+    const auto& text = m_workspace.panels().vwWatermark.tvWaterMarkText;
+    if (!next || !before || before->objectName() != text.name())
+        return QMainWindow::focusNextPrevChild(next);
+    m_workspace.delegate().textViewdoCommandBySelector(u"insertTab:"_qs);
+    return focusWidget() != before || QMainWindow::focusNextPrevChild(next);
 }
 
 void mainAppWindow::changeEvent(QEvent* event)

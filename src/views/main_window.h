@@ -43,6 +43,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     [[nodiscard]] QWidget* photoArea();
@@ -50,6 +51,8 @@ private:
     void connectGrid();
     void connectOrders();
     void makeSheets();
+    void hideButtonsWithoutAction();
+    void followFocusWishes();
     void tick(int row);
     void showJournal();
     void showAbout();
@@ -65,6 +68,7 @@ private:
     PreviewView* m_preview = nullptr;
     PhotoGrid* m_grid = nullptr;
     JournalWindow* m_journal = nullptr;
+    platform::Subscription m_focusWishes;
 };
 
 } // namespace brenvaldo::views

@@ -17,6 +17,7 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPushButton>
 #include <QScrollArea>
@@ -224,6 +225,38 @@ TEST_F(MainWindow, NamesEveryWidgetThatTakesTheFocus)
             continue;
         EXPECT_FALSE(widget->accessibleName().isEmpty())
             << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+    }
+}
+
+TEST_F(MainWindow, OffersNoButtonWithoutAnAction)
+{
+    EXPECT_TRUE(workspace.panels().window.btnPresetsHelp.actions().join(QString()).isEmpty());
+    EXPECT_FALSE(find(u"btnPresetsHelp"_qs)->isVisible());
+    EXPECT_TRUE(find(u"btnPresets"_qs)->isVisible());
+}
+
+TEST_F(MainWindow, LeavesTheWatermarkTextForTheFontSizeByTab)
+{
+    auto* text = find(u"tvWaterMarkText"_qs);
+    text->setFocus();
+
+    QTest::keyClick(text, Qt::Key_Tab);
+
+    EXPECT_EQ(window->focusWidget(), find(u"tfFontSize"_qs));
+}
+
+TEST_F(MainWindow, HasNoMnemonicTwiceInAMenu)
+{
+    for (QMenu* menu : window->menuBar()->findChildren<QMenu*>()) {
+        QStringList keys;
+        for (const QAction* action : menu->actions()) {
+            const QKeySequence key = QKeySequence::mnemonic(action->text());
+            if (!action->isVisible() || action->isSeparator())
+                continue;
+            EXPECT_FALSE(key.isEmpty()) << action->text().toStdString();
+            EXPECT_FALSE(keys.contains(key.toString())) << action->text().toStdString();
+            keys.append(key.toString());
+        }
     }
 }
 
