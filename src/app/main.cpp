@@ -3,6 +3,7 @@
 
 #include <platform/foundation/user_defaults.h>
 #include <platform/graphics/engine.h>
+#include <views/desktop_scheme.h>
 #include <views/main_window.h>
 #include <views/qt_desktop.h>
 #include <views/qt_file_chooser.h>
@@ -12,6 +13,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
+#include <QTimer>
 
 using namespace brenvaldo;
 
@@ -58,6 +60,7 @@ int main(int argc, char** argv)
         window.openFiles(later);
     });
     window.show();
+    QTimer::singleShot(0, &window, views::takeDesktopScheme);
     if (!files.isEmpty())
         QMetaObject::invokeMethod(
             &window, [&window, files] { window.openFiles(files); }, Qt::QueuedConnection

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <views/desktop_scheme.h>
 #include <views/theme.h>
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDBusVariant>
 #include <QStyle>
 
 using namespace brenvaldo::views;
@@ -28,6 +30,19 @@ TEST(Theme, FollowsTheSchemeWhileRunning)
 
     QApplication::setPalette(QPalette());
     EXPECT_EQ(&colours(), &coloursOf(Scheme::Light));
+}
+
+TEST(Theme, TakesTheWishOfTheDesktopOutOfItsVariants)
+{
+    const auto wrapped = [](uint value) {
+        const QDBusVariant inner{QVariant(value)};
+        return QVariant::fromValue(QDBusVariant(QVariant::fromValue(inner)));
+    };
+
+    EXPECT_EQ(wishedScheme(wrapped(1)), Scheme::Dark);
+    EXPECT_EQ(wishedScheme(wrapped(2)), Scheme::Light);
+    EXPECT_EQ(wishedScheme(QVariant(1U)), Scheme::Dark);
+    EXPECT_EQ(wishedScheme(QVariant()), Scheme::Light);
 }
 
 TEST(Theme, KeepsTextReadable)

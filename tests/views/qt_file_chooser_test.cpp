@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <support/photo_builder.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+#include <views/qt_file_chooser.h>
+
+#include <controls/choice_controls.h>
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTimer>
+
+using namespace brenvaldo;
+
+namespace {
+
+class QtFileChooser : public testing::Test
+{
+protected:
+    /// Does `act` with the dialog that opens next.
+    void whenOpen(const std::function<void(QFileDialog&)>& act)
+    {
+        QTimer::singleShot(0, &context, [act] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            act(*dialog);
+        });
+    }
+
+    static void typeName(QFileDialog& dialog, const QString& name)
+    {
+        dialog.findChild<QLineEdit*>(u"fileNameEdit"_qs)->setText(name);
+    }
+
+    /// Presses the button of the dialog that accepts.
+    static void accept(QFileDialog& dialog) { QMetaObject::invokeMethod(&dialog, "accept"); }
+
+    QObject context;
+    test::TemporaryFolder folder;
+    QString photo = test::PhotoBuilder{}.size(5, 3).write(folder.path(u"a.jpg"_qs));
+    QString place = QFileInfo(photo).path();
+    views::QtFileChooser chooser;
+};
+
+} // namespace
+
+TEST_F(QtFileChooser, GivesTheChosenFile)
+{
+    whenOpen([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Choose a photo"_qs);
+        EXPECT_EQ(dialog.labelText(QFileDialog::Accept), u"Take"_qs);
+        typeName(dialog, u"a.jpg"_qs);
+        accept(dialog);
+    });
+
+    const auto paths = chooser.open(
+        {.message = u"Choose a photo"_qs,
+         .prompt = u"Take"_qs,
+         .allowedTypes = {u"jpg"_qs},
+         .startFolder = place}
+    );
+
+    EXPECT_EQ(paths, QStringList{photo});
+}
+
+TEST_F(QtFileChooser, GivesNothingWhenItIsCancelled)
+{
+    whenOpen([](QFileDialog& dialog) { dialog.reject(); });
+
+    EXPECT_FALSE(chooser.open({.startFolder = place}));
+}
+
+TEST_F(QtFileChooser, OpensWhereItStoodLast)
+{
+    whenOpen([](QFileDialog& dialog) {
+        typeName(dialog, u"a.jpg"_qs);
+        accept(dialog);
+    });
+    ASSERT_TRUE(chooser.open({.startFolder = place}));
+    QString folderOfSecond;
+    whenOpen([&folderOfSecond](QFileDialog& dialog) {
+        folderOfSecond = dialog.directory().path();
+        dialog.reject();
+    });
+
+    EXPECT_FALSE(chooser.open({}));
+
+    EXPECT_EQ(folderOfSecond, place);
+}
+
+TEST_F(QtFileChooser, OffersFoldersOnlyWhereAFolderIsAskedFor)
+{
+    whenOpen([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::Directory);
+        EXPECT_TRUE(dialog.testOption(QFileDialog::ShowDirsOnly));
+        dialog.reject();
+    });
+
+    EXPECT_FALSE(
+        chooser.open({.choosesFiles = false, .choosesDirectories = true, .startFolder = place})
+    );
+}
+
+TEST_F(QtFileChooser, AddsTheExtensionToTheNameOfASavedFile)
+{
+    whenOpen([](QFileDialog& dialog) {
+        typeName(dialog, u"list"_qs);
+        accept(dialog);
+    });
+
+    const auto path = chooser.save({.allowedTypes = {u"txt"_qs}, .startFolder = place});
+
+    EXPECT_EQ(path, QDir(place).filePath(u"list.txt"_qs));
+}
+
+TEST_F(QtFileChooser, ShowsAccessoriesWithTheirLabels)
+{
+    controls::CheckBox box(u"cbDeep"_qs, u"Deep"_qs);
+    chooser.attachTo(nullptr, [](controls::Control& control, QWidget* parent) {
+        auto* field = new QWidget(parent);
+        field->setObjectName(control.name());
+        return field;
+    });
+    whenOpen([](QFileDialog& dialog) {
+        EXPECT_TRUE(dialog.findChild<QWidget*>(u"cbDeep"_qs));
+        const auto labels = dialog.findChildren<QLabel*>();
+        EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+            return label->text() == u"Folders"_qs;
+        }));
+        dialog.reject();
+    });
+
+    EXPECT_FALSE(chooser.open(
+        {.startFolder = place, .accessories = {{.label = u"Folders"_qs, .control = &box}}}
+    ));
+}
+
+TEST(NameFilter, TellsTheTypesInBothCases)
+{
+    EXPECT_EQ(views::nameFilter({u"jpg"_qs, u"png"_qs}), u"Files (*.jpg *.JPG *.png *.PNG)"_qs);
+    EXPECT_EQ(views::nameFilter({}), QString());
+}
