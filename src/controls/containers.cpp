@@ -7,7 +7,8 @@ Button::Button(const QString& name, QString title, const QString& action)
     : Control(name)
     , m_title(std::move(title))
 {
-    addAction(action);
+    if (!action.isEmpty())
+        addAction(action);
 }
 
 void Button::setImage(const QString& image)

@@ -11,6 +11,7 @@ namespace brenvaldo::controls {
 class Button : public Control
 {
 public:
+    /// An empty action is a button that does nothing.
     Button(const QString& name, QString title, const QString& action);
 
     [[nodiscard]] const QString& title() const { return m_title; }

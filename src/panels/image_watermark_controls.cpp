@@ -59,21 +59,6 @@ ImageWatermarkControls::ImageWatermarkControls()
            QStringLiteral("Watermark library"),
            QStringLiteral("Pattern library")}
       )
-    , btnChooseWatermarkImage(
-          QStringLiteral("btnChooseWatermarkImage"),
-          QStringLiteral("Choose\u2026"),
-          QStringLiteral("DVWatermark.hChooseWatermarkImage")
-      )
-    , btnImportWatermarkImages(
-          QStringLiteral("btnImportWatermarkImages"),
-          QStringLiteral("Add watermarks\u2026"),
-          QStringLiteral("DVWatermark.hImportWatermarkImages")
-      )
-    , btnImportPatternImages(
-          QStringLiteral("btnImportPatternImages"),
-          QStringLiteral("Add patterns\u2026"),
-          QStringLiteral("DVWatermark.hImportPatternImages")
-      )
     , cbImageFromLib(QStringLiteral("cbImageFromLib"), QStringLiteral("Image from the library"))
     , mxImageScaleProperty(QStringLiteral("mxImageScaleProperty"), scaleTitles())
     , tfImageScalePC(QStringLiteral("tfImageScalePC"), QStringLiteral("100"))
@@ -185,19 +170,12 @@ Layout ImageWatermarkControls::imageRows()
         {Note{QStringLiteral("Image watermarks come with a later version. The values can be set "
                              "and kept already.")}},
         {Heading{QStringLiteral("Image")}},
-        {Row{
-            .label = QStringLiteral("Image"),
-            .fields
-            = {{.control = &tfWaterMarkImageFilePath},
-               {.control = &btnChooseWatermarkImage, .width = Field::Width::Narrow}}}},
+        {Row{.label = QStringLiteral("Image"), .fields = {{.control = &tfWaterMarkImageFilePath}}}},
         {Row{
             .fields
             = {{.control = &iwWaterMarkImage,
                 .accessibleName = QStringLiteral("The watermark image")}}}},
         {Row{.label = QStringLiteral("Look in"), .fields = {{.control = &pubImageLookUp}}}},
-        {Row{
-            .fields
-            = {{.control = &btnImportWatermarkImages}, {.control = &btnImportPatternImages}}}},
         {Row{.fields = {{.control = &cbImageFromLib}}}},
     };
 }

@@ -18,9 +18,6 @@ struct ImageWatermarkControls
     controls::TextField tfWaterMarkImageFilePath;
     controls::ImageView iwWaterMarkImage;
     controls::PopUpButton pubImageLookUp;
-    controls::Button btnChooseWatermarkImage;
-    controls::Button btnImportWatermarkImages;
-    controls::Button btnImportPatternImages;
     controls::CheckBox cbImageFromLib;
 
     controls::Matrix mxImageScaleProperty;

@@ -20,6 +20,7 @@ Panels::Panels()
     add(vwWatermark);
     add(vwWatermark.tvFileName);
     add(vwWatermark.cActionsTWMArrayController);
+    add(vwWatermark.tvwTWMActions);
     addEditPanels();
     addFilterViews();
     addFileManagementPanels();

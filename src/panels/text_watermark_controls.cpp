@@ -115,16 +115,6 @@ TextWatermarkControls::TextWatermarkControls()
           QStringLiteral("cActionsTWMArrayController"), {QStringLiteral("cActions")}
       )
     , tvwTWMActions(QStringLiteral("tvwTWMActions"), cActionsTWMArrayController)
-    , btnImportTWMCActions(
-          QStringLiteral("btnImportTWMCActions"),
-          QStringLiteral("Add action\u2026"),
-          QStringLiteral("cGUIcontrols.hImportTWMCActions")
-      )
-    , btnRemoveTWMCActions(
-          QStringLiteral("btnRemoveTWMCActions"),
-          QStringLiteral("Remove action"),
-          QStringLiteral("cGUIcontrols.hRemoveTWMCActions")
-      )
 {
     pubPhotoProperties.addAlias(QStringLiteral("pubTWMPhotoProperties"));
     cbFontList.addAlias(QStringLiteral("cbWatermarkFont"));
@@ -293,22 +283,9 @@ Layout TextWatermarkControls::lookRows()
     };
 }
 
-Layout TextWatermarkControls::actionRows()
-{
-    return {
-        {Heading{QStringLiteral("File names")}},
-        {Row{
-            .label = QStringLiteral("Actions"),
-            .fields
-            = {{.control = &tvwTWMActions, .accessibleName = QStringLiteral("File-name actions")}},
-            .hint = QStringLiteral("Run in this order on the name of every new file.")}},
-        {Row{.fields = {{.control = &btnImportTWMCActions}, {.control = &btnRemoveTWMCActions}}}},
-    };
-}
-
 Layout TextWatermarkControls::textWatermarkPage()
 {
-    return joined({textRows(), fontRows(), placeRows(), shadowRows(), lookRows(), actionRows()});
+    return joined({textRows(), fontRows(), placeRows(), shadowRows(), lookRows()});
 }
 
 } // namespace brenvaldo::panels

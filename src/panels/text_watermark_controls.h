@@ -48,8 +48,6 @@ struct TextWatermarkControls
     controls::TextView tvFileName;
     controls::ArrayController cActionsTWMArrayController;
     controls::TableView tvwTWMActions;
-    controls::Button btnImportTWMCActions;
-    controls::Button btnRemoveTWMCActions;
 
     [[nodiscard]] Layout textWatermarkPage();
 
@@ -62,7 +60,6 @@ private:
     Layout placeRows();
     Layout shadowRows();
     Layout lookRows();
-    Layout actionRows();
 };
 
 } // namespace brenvaldo::panels

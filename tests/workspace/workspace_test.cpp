@@ -187,3 +187,40 @@ TEST_F(WorkspaceTest, FindsRowsByTheNameOfTheTableAndOfItsRows)
     );
     EXPECT_EQ(program.rowsOf(u"tfScaleMaxVal"_qs), nullptr);
 }
+
+TEST_F(WorkspaceTest, KnowsEveryActionThatAControlSends)
+{
+    for (const controls::Control* control : program.panels().controls()) {
+        for (const QString& action : control->actions())
+            EXPECT_TRUE(program.actions().knows(action))
+                << control->name().toStdString() << " sends " << action.toStdString();
+    }
+}
+
+TEST_F(WorkspaceTest, TakesEveryActionOnAnEmptyList)
+{
+    program.start();
+
+    for (const QString& action : program.actions().names())
+        EXPECT_NE(program.actions().send(action), controls::ActionRegistry::Sent::Unknown)
+            << action.toStdString();
+
+    EXPECT_TRUE(program.photos().isEmpty());
+}
+
+TEST_F(WorkspaceTest, RaisesNothingWhenControlsAreTouchedOnAnEmptyList)
+{
+    program.start();
+    QStringList raised;
+    const auto subscription
+        = program.actions().exceptionRaised.connect([&](const platform::Exception& exception) {
+              raised.append(exception.reason());
+          });
+
+    for (const controls::Control* control : program.panels().controls()) {
+        for (const QString& action : control->actions())
+            program.actions().send(action, {.tag = control->tag(), .control = control});
+    }
+
+    EXPECT_EQ(raised, QStringList());
+}
