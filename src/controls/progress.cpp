@@ -43,4 +43,14 @@ void Progress::hStopPB()
     m_bar.setDoubleValue(0);
 }
 
+RunningProgress::RunningProgress(ProgressIndicator& bar, const BarRhythm& rhythm)
+    : m_progress(bar, rhythm)
+{
+    m_progress.hInitialisePB();
+}
+
+RunningProgress::~RunningProgress() { m_progress.hStopPB(); }
+
+void RunningProgress::advance(double step) { m_progress.hProgressPB(step); }
+
 } // namespace brenvaldo::controls

@@ -42,4 +42,22 @@ private:
     BarRhythm m_rhythm;
 };
 
+/// The bar of one run: shown for as long as the object lives, whatever ends the run.
+class RunningProgress
+{
+public:
+    RunningProgress(ProgressIndicator& bar, const BarRhythm& rhythm);
+    RunningProgress(const RunningProgress&) = delete;
+    RunningProgress& operator=(const RunningProgress&) = delete;
+    RunningProgress(RunningProgress&&) = delete;
+    RunningProgress& operator=(RunningProgress&&) = delete;
+    ~RunningProgress();
+
+    /// As `Progress::hProgressPB`.
+    void advance(double step);
+
+private:
+    Progress m_progress;
+};
+
 } // namespace brenvaldo::controls

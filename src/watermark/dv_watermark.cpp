@@ -57,12 +57,11 @@ QString DVWatermark::setWatermarkText(const WatermarkRun& run, const PhotoDone& 
         return ioFailure();
     const auto photos = static_cast<int>(run.photos.size());
     m_step = static_cast<int>(controls::watermarkBar.maximum) / (photos * stagesPerPhoto);
-    m_progress.hInitialisePB();
+    const controls::RunningProgress shown(m_surroundings.bar, controls::watermarkBar);
     for (const QString& path : run.photos) {
         if (markPhoto(run, path, photoDone) == Step::EndRun)
             return ioFailure();
     }
-    m_progress.hStopPB();
     return m_storeResult == imaging::ResultWord::Ok ? m_outputName : ioFailure();
 }
 
@@ -109,7 +108,6 @@ void DVWatermark::finishStages(int stages)
 
 DVWatermark::Step DVWatermark::endRun(const QString& path, const PhotoDone& photoDone)
 {
-    m_progress.hStopPB();
     photoDone({.source = path, .target = {}, .word = ioFailure()});
     return Step::EndRun;
 }

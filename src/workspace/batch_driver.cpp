@@ -60,7 +60,7 @@ void cGUIcontrols::runUpload()
         return;
     const panels::SortingPanel& panel = m_panels.vwFileManagementSorting;
     const double step = progressStep(photos.size());
-    m_progress.hInitialisePB();
+    controls::RunningProgress bar = shownBar();
     for (const QString& path : photos) {
         const PhotoUpload upload{
             .path = path,
@@ -71,12 +71,11 @@ void cGUIcontrols::runUpload()
             .title = panel.tfAddTitle.stringValue(),
             .description = panel.tfAddDescription.stringValue(),
             .favourite = QString::number(panel.cbAddToFavorite.state())};
-        m_progress.hProgressPB(step);
+        bar.advance(step);
         const QString word
             = wordOf(m_subsystems.operations.uploadToPhotos, functionId::batchUploadPhotos, upload);
         record(functionId::batchUploadPhotos, {.source = path, .target = {}, .word = word});
     }
-    m_progress.hStopPB();
 }
 
 void cGUIcontrols::runExif()
@@ -86,17 +85,16 @@ void cGUIcontrols::runExif()
         return;
     const panels::ExifPanel& panel = m_panels.vwFileManagementEXIF;
     const double step = progressStep(photos.size());
-    m_progress.hInitialisePB();
+    controls::RunningProgress bar = shownBar();
     for (const QString& path : photos) {
         const QString comment = panel.tfExifUserComment.stringValue();
         const int clearState = panel.cbClearBeforeAdd.state();
-        m_progress.hProgressPB(step);
+        bar.advance(step);
         const QString word = wordOf(
             m_subsystems.operations.hSetExifData, functionId::batchExifUC, path, comment, clearState
         );
         record(functionId::batchExifUC, {.source = path, .target = path, .word = word});
     }
-    m_progress.hStopPB();
 }
 
 void cGUIcontrols::runRenaming(int previewState, const QString& destination)
@@ -116,12 +114,11 @@ void cGUIcontrols::runRenaming(int previewState, const QString& destination)
     if (taken.isEmpty())
         return;
     const double step = progressStep(taken.size());
-    m_progress.hInitialisePB();
+    controls::RunningProgress bar = shownBar();
     for (const TakenPhoto& photo : taken) {
-        m_progress.hProgressPB(step);
+        bar.advance(step);
         hCalledRenameFilesFunc(photo.path, previewState, photo.index);
     }
-    m_progress.hStopPB();
 }
 
 void cGUIcontrols::hCalledRenameFilesFunc(const QString& path, int previewState, int index)
@@ -160,11 +157,12 @@ void cGUIcontrols::runConversion(const QString& destination)
     const QStringList photos = takenByTick();
     if (photos.isEmpty())
         return;
+    const OutputChoice choice = outputChoice();
     const double step = progressStep(photos.size());
-    m_progress.hInitialisePB();
+    controls::RunningProgress bar = shownBar();
     for (const QString& path : photos) {
-        m_progress.hProgressPB(step);
-        const PhotoOutput output = outputOf(path, destination);
+        bar.advance(step);
+        const PhotoOutput output = outputOf(path, destination, choice);
         const Conversion conversion{
             .source = path,
             .typeIdentifier = output.tail.myFileType,
@@ -179,7 +177,11 @@ void cGUIcontrols::runConversion(const QString& destination)
             {.source = path, .target = conversion.target, .word = word}
         );
     }
-    m_progress.hStopPB();
+}
+
+controls::RunningProgress cGUIcontrols::shownBar()
+{
+    return {m_window.myProgressBar, controls::guiControlsBar};
 }
 
 void cGUIcontrols::record(const QLatin1String& function, const PhotoOutcome& outcome)

@@ -7,6 +7,7 @@
 
 #include <controls/action_registry.h>
 #include <controls/file_chooser.h>
+#include <controls/progress.h>
 #include <panels/panels.h>
 
 namespace brenvaldo::workspace {
@@ -96,7 +97,12 @@ private:
 
     [[nodiscard]] std::optional<QStringList> chooseFiles();
     [[nodiscard]] std::optional<QStringList> choosePhotoFiles();
-    void addWithProgress(const QStringList& paths, MakeEntry makeEntry, Counter counter);
+    void addAll(
+        const QStringList& paths,
+        MakeEntry makeEntry,
+        Counter counter,
+        controls::RunningProgress& bar
+    );
     void selectFirstWhenNone();
     void showCount();
     void showFileAt(int index);

@@ -6,8 +6,6 @@
 #include "preview_switch.h"
 #include "selected_function.h"
 
-#include <controls/progress.h>
-
 namespace brenvaldo::workspace {
 
 void cCollectionViewController::hChoosePhotos()
@@ -28,10 +26,12 @@ void cCollectionViewController::hChoosePhotos()
     const auto paths = isRenaming ? chooseFiles() : choosePhotoFiles();
     if (!paths)
         return;
-    addWithProgress(*paths, isRenaming ? renameEntry : chosenEntry, Counter::RunningNumber);
-    // Selecting twice makes sure that the selection changes, also where index 0 was selected.
-    m_photos.select(1);
-    controls::Progress(m_window.myProgressBar, controls::collectionViewBar).hStopPB();
+    {
+        controls::RunningProgress bar(m_window.myProgressBar, controls::collectionViewBar);
+        addAll(*paths, isRenaming ? renameEntry : chosenEntry, Counter::RunningNumber, bar);
+        // Selecting twice makes sure that the selection changes, also where index 0 was selected.
+        m_photos.select(1);
+    }
     m_photos.select(0);
 }
 
@@ -59,13 +59,11 @@ std::optional<QStringList> cCollectionViewController::choosePhotoFiles()
     );
 }
 
-void cCollectionViewController::addWithProgress(
-    const QStringList& paths, MakeEntry makeEntry, Counter counter
+void cCollectionViewController::addAll(
+    const QStringList& paths, MakeEntry makeEntry, Counter counter, controls::RunningProgress& bar
 )
 {
     const auto count = static_cast<int>(paths.size());
-    controls::Progress progress(m_window.myProgressBar, controls::collectionViewBar);
-    progress.hInitialisePB();
     int running = 0;
     for (const QString& path : paths) {
         ++running;
@@ -74,7 +72,7 @@ void cCollectionViewController::addWithProgress(
         m_photos.append(makeEntry(path));
         if (counter == Counter::ListCount)
             showCount();
-        progress.hProgressPB(100 / count);
+        bar.advance(100 / count);
     }
     showCount();
 }
@@ -82,8 +80,10 @@ void cCollectionViewController::addWithProgress(
 void cCollectionViewController::hDroppedPhotos(const QStringList& paths)
 {
     const PreviewSwitchedOff switchedOff(m_panels.vwShowPreview.cbShowPreview);
-    addWithProgress(paths, droppedEntry, Counter::ListCount);
-    controls::Progress(m_window.myProgressBar, controls::collectionViewBar).hStopPB();
+    {
+        controls::RunningProgress bar(m_window.myProgressBar, controls::collectionViewBar);
+        addAll(paths, droppedEntry, Counter::ListCount, bar);
+    }
     selectFirstWhenNone();
 }
 

@@ -42,7 +42,6 @@ cGUIcontrols::cGUIcontrols(const Links& links)
     , m_subsystems(links.subsystems)
     , m_collectionView(links.collectionView)
     , m_alertShown(links.alertShown)
-    , m_progress(m_window.myProgressBar, controls::guiControlsBar)
 {
 }
 

@@ -96,6 +96,12 @@ private:
         imaging::SourceAndBase photo;
         imaging::OutputTail tail;
     };
+    /// What all files of a run are written as, read once before its loop.
+    struct OutputChoice
+    {
+        QString type;
+        QString compressionLevel;
+    };
     using RunPhoto = std::function<std::optional<QString>(const PhotoOutput&)>;
 
     // Function selection
@@ -129,8 +135,10 @@ private:
     [[nodiscard]] TintSettings tintSettings() const;
     [[nodiscard]] QStringList takenByFullRule() const;
     [[nodiscard]] QStringList takenByTick() const;
-    [[nodiscard]] QString outputType() const;
-    [[nodiscard]] PhotoOutput outputOf(const QString& path, const QString& destination) const;
+    [[nodiscard]] OutputChoice outputChoice() const;
+    [[nodiscard]] PhotoOutput
+    outputOf(const QString& path, const QString& destination, const OutputChoice& choice) const;
+    [[nodiscard]] controls::RunningProgress shownBar();
     void record(const QLatin1String& function, const PhotoOutcome& outcome);
 
     // Controls of the panels
@@ -149,7 +157,6 @@ private:
     const SubsystemLinks& m_subsystems;
     cCollectionViewController& m_collectionView;
     platform::Signal<const QString&, const QString&>& m_alertShown;
-    controls::Progress m_progress;
     QStringList m_selectedImages;
 };
 

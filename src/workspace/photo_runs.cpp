@@ -35,9 +35,12 @@ QStringList cGUIcontrols::takenByTick() const
     return taken;
 }
 
-QString cGUIcontrols::outputType() const
+cGUIcontrols::OutputChoice cGUIcontrols::outputChoice() const
 {
-    return imaging::outputTypeForTitle(m_panels.vwFileType.pubFileType.titleOfSelectedItem());
+    const panels::FileTypePanel& panel = m_panels.vwFileType;
+    return {
+        .type = imaging::outputTypeForTitle(panel.pubFileType.titleOfSelectedItem()),
+        .compressionLevel = panel.pubJPEGCompressionLevel.titleOfSelectedItem()};
 }
 
 QString cGUIcontrols::outputName(const QString& path) const
@@ -49,22 +52,22 @@ QString cGUIcontrols::outputName(const QString& path) const
     return m_subsystems.operations.hRenameTWMFile(path, name, chain);
 }
 
-cGUIcontrols::PhotoOutput
-cGUIcontrols::outputOf(const QString& path, const QString& destination) const
+cGUIcontrols::PhotoOutput cGUIcontrols::outputOf(
+    const QString& path, const QString& destination, const OutputChoice& choice
+) const
 {
-    const QString type = outputType();
     const QString extension = platform::pathExtension(path);
     const QString fileUTI = platform::preferredTypeIdentifier(extension);
     return {
         .photo
         = {.source = path, .destinationBase = destinationBase(destination, outputName(path))},
         .tail
-        = {.outputType = type,
-           .compressionLevel = m_panels.vwFileType.pubJPEGCompressionLevel.titleOfSelectedItem(),
+        = {.outputType = choice.type,
+           .compressionLevel = choice.compressionLevel,
            .fileExtension = extension,
            .fileExtensionNSStr = {},
            .fileUTI = fileUTI,
-           .myFileType = imaging::keepsOriginalType(type) ? fileUTI : type}};
+           .myFileType = imaging::keepsOriginalType(choice.type) ? fileUTI : choice.type}};
 }
 
 void cGUIcontrols::runEditFunction(const QStringList& photos, const QString& destination)
@@ -82,11 +85,12 @@ void cGUIcontrols::runEditFunction(const QStringList& photos, const QString& des
 void cGUIcontrols::runWatermark(const QStringList& photos, const QString& destination)
 {
     const panels::WatermarkPanel& panel = m_panels.vwWatermark;
+    const OutputChoice choice = outputChoice();
     const watermark::WatermarkRun run{
         .photos = photos,
         .destination = destination,
-        .outputType = outputType(),
-        .compressionLevel = m_panels.vwFileType.pubJPEGCompressionLevel.titleOfSelectedItem(),
+        .outputType = choice.type,
+        .compressionLevel = choice.compressionLevel,
         .fileNameText = panel.tvFileName.stringValue(),
         .photoProperty = panel.pubPhotoProperties.indexOfSelectedItem()};
     const bool isText = panel.tbvWatermarkType.selectedLabel() == u"Text";
@@ -111,11 +115,12 @@ void cGUIcontrols::runEach(
     const RunPhoto& runPhoto
 )
 {
+    const OutputChoice choice = outputChoice();
     const double step = progressStep(photos.size());
-    m_progress.hInitialisePB();
+    controls::RunningProgress bar = shownBar();
     for (const QString& path : photos) {
-        m_progress.hProgressPB(step);
-        const PhotoOutput output = outputOf(path, destination);
+        bar.advance(step);
+        const PhotoOutput output = outputOf(path, destination, choice);
         const auto word = runPhoto(output);
         if (!word)
             continue;
@@ -124,7 +129,6 @@ void cGUIcontrols::runEach(
         );
         record(function, {.source = path, .target = target, .word = *word});
     }
-    m_progress.hStopPB();
 }
 
 cGUIcontrols::RunPhoto cGUIcontrols::photoRunAt(int editIndex)

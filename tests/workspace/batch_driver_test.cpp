@@ -259,6 +259,28 @@ TEST_F(BatchDriver, PutsThePreviewBackAfterAFault)
     run();
 
     EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
+    EXPECT_TRUE(panels.window.myProgressBar.isHidden());
+}
+
+TEST_F(BatchDriver, WritesAllPhotosInTheTypeThatWasChosenBeforeTheLoop)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    panels.vwFileType.pubFileType.selectIndex(1);
+    panels.vwFileType.pubJPEGCompressionLevel.selectIndex(3);
+    subsystems.operations.hScalePhotosPercentage = [this](const auto&, int, int, const auto& tail) {
+        tails.append(tail);
+        panels.vwFileType.pubFileType.selectIndex(2);
+        panels.vwFileType.pubJPEGCompressionLevel.selectIndex(0);
+        return u"OK"_qs;
+    };
+
+    run();
+
+    ASSERT_EQ(tails.size(), 2);
+    EXPECT_EQ(tails.last().myFileType, u"public.png"_qs);
+    EXPECT_EQ(tails.last().compressionLevel, u"4"_qs);
 }
 
 TEST_F(BatchDriver, StopsTheBarAt999OfThreePhotos)
