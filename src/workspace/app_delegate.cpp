@@ -6,6 +6,7 @@
 
 #include <files/tool_box.h>
 #include <platform/foundation/folders.h>
+#include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 #include <presets/db_view_controller.h>
 
@@ -27,6 +28,7 @@ void prepareTemp()
 AppDelegate::AppDelegate(const Links& links)
     : m_panels(links.panels)
     , m_notifications(links.notifications)
+    , m_exceptionRaised(links.exceptionRaised)
     , m_guiControls(links.guiControls)
     , m_collectionView(links.collectionView)
 {
@@ -36,7 +38,7 @@ void AppDelegate::applicationWillFinishLaunching()
 {
     m_guiControls.hSetInitialView();
     fillMetadataKeys();
-    presets::dbViewController().linkToPresetsDB();
+    linkToPresets();
     makeFolders();
     fillFonts();
     m_panels.window.myTemplatePreview.clear();
@@ -52,6 +54,17 @@ void AppDelegate::fillMetadataKeys()
     for (controls::ComboBox* box : {&panel.cbxPrefixMetaData, &panel.cbxPostfixMetaData}) {
         box->setTitles(metadataKeys());
         box->selectItemAtIndex(0);
+    }
+}
+
+/// Presets that can't be reached leave the rest of the program usable.
+void AppDelegate::linkToPresets()
+{
+    try {
+        presets::dbViewController().linkToPresetsDB();
+    } catch (const platform::Exception& exception) {
+        platform::log(u"linkToPresetsDB: "_qs + exception.reason());
+        m_exceptionRaised(exception);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "gui_controls.h"
 
+#include <platform/foundation/exceptions.h>
 #include <platform/foundation/notification_center.h>
 
 #include <vector>
@@ -17,6 +18,7 @@ public:
     {
         panels::Panels& panels;
         platform::NotificationCenter& notifications;
+        const platform::Signal<const platform::Exception&>& exceptionRaised;
         cGUIcontrols& guiControls;
         cCollectionViewController& collectionView;
     };
@@ -43,12 +45,14 @@ public:
 
 private:
     void fillMetadataKeys();
+    void linkToPresets();
     void makeFolders();
     void fillFonts();
     void observePreviewNotifications();
 
     panels::Panels& m_panels;
     platform::NotificationCenter& m_notifications;
+    const platform::Signal<const platform::Exception&>& m_exceptionRaised;
     cGUIcontrols& m_guiControls;
     cCollectionViewController& m_collectionView;
     std::vector<platform::Subscription> m_previewNotifications;

@@ -40,6 +40,7 @@ struct Workspace::Parts
         , delegate(
               {.panels = panels,
                .notifications = notifications,
+               .exceptionRaised = actions.exceptionRaised,
                .guiControls = guiControls,
                .collectionView = collectionView}
           )

@@ -188,6 +188,21 @@ TEST_F(WorkspaceTest, FindsRowsByTheNameOfTheTableAndOfItsRows)
     EXPECT_EQ(program.rowsOf(u"tfScaleMaxVal"_qs), nullptr);
 }
 
+TEST_F(WorkspaceTest, StartsWithoutPresetsWhereTheirFolderCannotBeMade)
+{
+    (void)folder.write(u"data"_qs, "a file where the folder is to be");
+    QStringList raised;
+    const auto subscription
+        = program.actions().exceptionRaised.connect([&](const platform::Exception& exception) {
+              raised.append(exception.reason());
+          });
+
+    program.start();
+
+    EXPECT_EQ(raised, QStringList{u"Presets Db failed to open."_qs});
+    EXPECT_EQ(program.panels().vwWatermark.cbFontList.selectedIndex(), 1);
+}
+
 TEST_F(WorkspaceTest, KnowsEveryActionThatAControlSends)
 {
     for (const controls::Control* control : program.panels().controls()) {
