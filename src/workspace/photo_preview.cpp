@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo_preview.h"
 
+#include <platform/graphics/canvas.h>
 #include <platform/graphics/image_source.h>
 
 #include <QFileInfo>
-#include <QPainter>
 
 #include <algorithm>
 #include <iterator>
@@ -24,6 +24,28 @@ std::optional<platform::Image> openedForDrawing(const QString& path)
     return source->uprightImage(
         {.access = platform::ImageSource::Access::Random, .atLeast = std::nullopt}
     );
+}
+
+/// `picture` in 8-bit sRGB; nothing when it is damaged.
+std::optional<platform::Image> screenPicture(const platform::Image& picture)
+{
+    const QImage drawn = picture.toQImage();
+    return drawn.isNull() ? std::nullopt : std::optional(platform::Image::fromQImage(drawn));
+}
+
+/// `picture`, which has alpha, as a layer that can be laid over a photo; nothing when it is
+/// damaged.
+std::optional<platform::Image> layerOf(const platform::Image& picture)
+{
+    const bool isLayer = picture.colorModel() == platform::ColorModel::Rgb
+        && picture.bitsPerComponent() == 8 && picture.iccProfile().isEmpty();
+    return isLayer ? picture : screenPicture(picture);
+}
+
+/// `photo` in a form that takes a layer: floating-point samples are brought to 8 bits.
+std::optional<platform::Image> baseOf(const platform::Image& photo)
+{
+    return photo.bitsPerComponent() <= 16 ? photo : screenPicture(photo);
 }
 
 } // namespace
@@ -56,15 +78,14 @@ composed(const std::optional<platform::Image>& photo, const std::optional<platfo
 {
     if (!photo || !overlay)
         return photo ? photo : overlay;
-    const QImage layer = overlay->toQImage();
-    QImage picture = photo->toQImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    if (picture.isNull() || layer.isNull())
-        return photo;
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(picture.rect(), layer);
-    painter.end();
-    return platform::Image::fromQImage(picture);
+    const platform::Image fitted = overlay->pixelSize() == photo->pixelSize()
+        ? *overlay
+        : overlay->scaledTo(photo->pixelSize());
+    if (!fitted.hasAlpha())
+        return fitted;
+    const auto base = baseOf(*photo);
+    const auto layer = layerOf(fitted);
+    return base && layer ? platform::over(*base, *layer) : photo;
 }
 
 } // namespace brenvaldo::workspace
