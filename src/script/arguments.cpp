@@ -11,15 +11,20 @@ namespace {
 
 bool isDigit(QChar character) { return character >= u'0' && character <= u'9'; }
 
+bool isNumber(const QString& word)
+{
+    return !word.isEmpty() && std::all_of(word.cbegin(), word.cend(), isDigit);
+}
+
 } // namespace
 
 std::optional<int> indexBelow(int count, const QString& word)
 {
-    if (!std::all_of(word.cbegin(), word.cend(), isDigit))
+    if (!isNumber(word))
         return std::nullopt;
-    bool isNumber = false;
-    const int index = word.toInt(&isNumber);
-    if (!isNumber || index >= count)
+    bool fits = false;
+    const int index = word.toInt(&fits);
+    if (!fits || index >= count)
         return std::nullopt;
     return index;
 }
@@ -35,8 +40,8 @@ std::optional<int> flag(const QString& word)
 
 std::optional<int> itemOf(const QStringList& titles, const QString& word)
 {
-    if (const auto index = indexBelow(static_cast<int>(titles.size()), word))
-        return index;
+    if (isNumber(word))
+        return indexBelow(static_cast<int>(titles.size()), word);
     auto position = titles.indexOf(word);
     if (position < 0 && word.startsWith(u'='))
         position = titles.indexOf(word.mid(1));

@@ -73,6 +73,8 @@ private:
     [[nodiscard]] std::optional<State> stateOf(const QString& name) const
     {
         const panels::Panels& panels = workspace().panels();
+        if (const auto* sheet = dynamic_cast<const controls::Sheet*>(panels.control(name)))
+            return State{.isEnabled = sheet->isEnabled(), .isShown = sheet->isOpen()};
         if (const controls::Control* control = panels.control(name))
             return State{.isEnabled = control->isEnabled(), .isShown = !control->isHidden()};
         if (const panels::PanelView* view = panels.view(name))

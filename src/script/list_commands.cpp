@@ -57,9 +57,7 @@ public:
         if (!tick)
             return QStringLiteral("a tick is 0 or 1, not \"%1\"").arg(arguments.at(1));
 
-        workspace::cCollectionViewItem entry = photos.entries().at(*index);
-        entry.myPhotoSelect = *tick;
-        photos.replaceAt(*index, entry);
+        photos.setTick(*index, *tick);
         workspace().actions().send(
             QStringLiteral("cCollectionViewController.cbPhotoToProcessClicked")
         );

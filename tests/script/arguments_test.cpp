@@ -65,7 +65,8 @@ INSTANTIATE_TEST_SUITE_P(
     ItemOfQualities,
     testing::Values(
         Index{"IndexThatIsATitleToo", u"1"_qs, 1},
-        Index{"TitleThatIsNoIndex", u"9"_qs, 2},
+        Index{"NumberThatIsNoIndex", u"9"_qs, std::nullopt},
+        Index{"NumberAfterAnEqualsSign", u"=9"_qs, 2},
         Index{"TitleAfterAnEqualsSign", u"=1"_qs, 0},
         Index{"Title", u"best"_qs, 3},
         Index{"TitleInAnotherCase", u"Best"_qs, std::nullopt},

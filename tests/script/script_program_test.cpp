@@ -155,6 +155,24 @@ TEST_F(ScriptProgramTest, TellsControlsAndPanelViewsByState)
     );
 }
 
+TEST_F(ScriptProgramTest, TellsASheetAsShownWhileItIsOpen)
+{
+    const auto outcome = run(lines(
+        {u"state wwPreferencesWindow"_qs,
+         u"press hCallPreferencesWw"_qs,
+         u"state wwPreferencesWindow"_qs}
+    ));
+
+    EXPECT_THAT(
+        outcome.lines,
+        ElementsAre(
+            u"state\twwPreferencesWindow\tenabled\thidden"_qs,
+            u"sheet\twwPreferencesWindow\topened"_qs,
+            u"state\twwPreferencesWindow\tenabled\tshown"_qs
+        )
+    );
+}
+
 TEST_F(ScriptProgramTest, KeepsUserDefaultsFromRunToRun)
 {
     const auto before = run(u"defaults PatternsDestination"_qs);
