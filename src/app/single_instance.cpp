@@ -11,7 +11,9 @@ namespace brenvaldo::app {
 
 namespace {
 
-constexpr int patience = 500; ///< ms that a running program may take to answer
+constexpr int patience = 500; ///< ms that reaching a running program may take
+/// ms that it may take to answer: between two photos of a run it takes no messages.
+constexpr int patienceForAnswer = 15'000;
 constexpr qint64 longestMessage = 4 * 1024 * 1024;
 
 QByteArray message(const QStringList& files)
@@ -51,7 +53,7 @@ bool SingleInstance::handOver(const QStringList& files) const
     if (!socket.waitForConnected(patience))
         return false;
     socket.write(message(files));
-    return socket.waitForBytesWritten(patience) && socket.waitForReadyRead(patience);
+    return socket.waitForBytesWritten(patience) && socket.waitForReadyRead(patienceForAnswer);
 }
 
 bool SingleInstance::listen()

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 
+#include <atomic>
 #include <thread>
 
 using namespace brenvaldo;
@@ -52,6 +53,26 @@ TEST_F(SingleInstance, GivesTheFilesOfASecondStartToTheFirst)
     EXPECT_TRUE(handOverFromSecondStart({u"/a/b c.jpg"_qs, u"/d/\u00e4.png"_qs}));
 
     EXPECT_EQ(arrived, (QStringList{u"/a/b c.jpg"_qs, u"/d/\u00e4.png"_qs}));
+}
+
+TEST_F(SingleInstance, WaitsForAProgramThatIsBusy)
+{
+    app::SingleInstance first(path);
+    ASSERT_TRUE(first.listen());
+    std::atomic<bool> answer = false;
+    std::atomic<bool> ended = false;
+
+    std::thread second([&] {
+        answer = app::SingleInstance(path).handOver({u"/a.jpg"_qs});
+        ended = true;
+    });
+    std::this_thread::sleep_for(std::chrono::milliseconds(800));
+    EXPECT_FALSE(ended);
+    while (!ended)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    second.join();
+
+    EXPECT_TRUE(answer);
 }
 
 TEST_F(SingleInstance, ReplacesASocketThatACrashedProgramLeftBehind)
