@@ -69,6 +69,8 @@ struct Table
     QList<TableColumn> columns = {};
     QString accessibleName = {};
     QString emptyText = {}; ///< shown in the table while it has no rows
+    controls::Button* useButton = nullptr; ///< what Enter and a double click on a row press
+    controls::Button* removeButton = nullptr; ///< what Delete presses
 };
 
 struct LayoutItem;

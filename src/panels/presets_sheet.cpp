@@ -51,7 +51,9 @@ PresetsSheet::PresetsSheet()
             .accessibleName = QStringLiteral("Presets of this function"),
             .emptyText = QStringLiteral(
                 "No presets yet. Set the values of the function, type a name above and save them."
-            )}},
+            ),
+            .useButton = &btnApplyPreset,
+            .removeButton = &btnRemovePreset}},
         {Row{
             .fields
             = {{.control = &btnApplyPreset},

@@ -244,6 +244,16 @@ void Binder::bind(RowsTable& widget, controls::TableView& control) const
     });
 }
 
+void Binder::bindKeys(RowsTable& widget, const panels::Table& table) const
+{
+    const auto presses = [this, &widget](void (RowsTable::*key)(), const controls::Button* button) {
+        if (button)
+            QObject::connect(&widget, key, &widget, [this, button] { m_input.press(*button); });
+    };
+    presses(&RowsTable::used, table.useButton);
+    presses(&RowsTable::removed, table.removeButton);
+}
+
 void Binder::bind(QAbstractButton& widget, controls::Button& control) const
 {
     followControl(widget, control, [] {});

@@ -3,6 +3,7 @@
 
 #include <controls/image_view.h>
 #include <controls/user_input.h>
+#include <panels/layout.h>
 
 #include <functional>
 
@@ -45,6 +46,8 @@ public:
     void bind(ColourWell& widget, controls::ColorWell& control) const;
     void bind(QSlider& widget, controls::Slider& control) const;
     void bind(RowsTable& widget, controls::TableView& control) const;
+    /// Enter, a double click and Delete press the buttons that the table names.
+    void bindKeys(RowsTable& widget, const panels::Table& table) const;
     void bind(QAbstractButton& widget, controls::Button& control) const;
     void bind(QProgressBar& widget, const controls::ProgressIndicator& control) const;
     void bind(PictureView& widget, const controls::ImageView& control) const;

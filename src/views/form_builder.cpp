@@ -54,6 +54,7 @@ struct ItemBuilder
         auto* rows = new RowsTable(table.columns, form);
         rows->setEmptyText(table.emptyText);
         binder.bind(*rows, *table.table);
+        binder.bindKeys(*rows, table);
         rows->setAccessibleName(
             table.accessibleName.isEmpty() ? table.table->name() : table.accessibleName
         );

@@ -4,6 +4,7 @@
 #include "theme.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 
@@ -37,6 +38,7 @@ RowsTable::RowsTable(QList<panels::TableColumn> columns, QWidget* parent)
         if (!m_fills)
             Q_EMIT picked(selectedRow());
     });
+    connect(this, &QTreeView::doubleClicked, this, &RowsTable::used);
 }
 
 QSize RowsTable::sizeHint() const
@@ -119,6 +121,27 @@ void RowsTable::paintEvent(QPaintEvent* event)
     painter.drawText(
         viewport()->rect().adjusted(16, 8, -16, -8), Qt::AlignCenter | Qt::TextWordWrap, m_emptyText
     );
+}
+
+void RowsTable::keyPressEvent(QKeyEvent* event)
+{
+    // The row that got the focus is the first one that an arrow reaches.
+    const bool isFirstStep = selectedRow() < 0 && currentIndex().isValid();
+    switch (event->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        isFirstStep ? setCurrentIndex(currentIndex()) : QTreeView::keyPressEvent(event);
+        return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Q_EMIT used();
+        return;
+    case Qt::Key_Delete:
+        Q_EMIT removed();
+        return;
+    default:
+        QTreeView::keyPressEvent(event);
+    }
 }
 
 int RowsTable::selectedRow() const

@@ -33,9 +33,14 @@ public:
 Q_SIGNALS:
     /// The user has selected another row.
     void picked(int row);
+    /// Enter or a double click on the selected row.
+    void used();
+    /// Delete on the selected row.
+    void removed();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     [[nodiscard]] QList<panels::TableColumn> shownColumns(const controls::ArrayController& content

@@ -7,6 +7,7 @@
 #include <views/main_window.h>
 #include <views/photo_grid.h>
 #include <views/qt_desktop.h>
+#include <views/rows_table.h>
 #include <views/theme.h>
 
 #include <gtest/gtest.h>
@@ -21,6 +22,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSet>
 #include <QTest>
 #include <QUrl>
 
@@ -214,6 +216,61 @@ TEST_F(MainWindow, EndsTheWorkWhenItIsClosed)
     window->close();
 
     EXPECT_FALSE(QFile::exists(left));
+}
+
+TEST_F(MainWindow, KeepsAndUsesPresetsByKeyboard)
+{
+    controls::TextView& text = workspace.panels().vwWatermark.tvWaterMarkText;
+    controls::TextField& name = workspace.panels().wwPresetsWindow.tfInputPDM;
+    QTest::mouseClick(find(u"btnPresets"_qs), Qt::LeftButton);
+    auto* field = find<QLineEdit>(u"tfInputPDM"_qs);
+    auto* table = find<views::RowsTable>(u"myPresetsTableView"_qs);
+    text.setStringValue(u"kept"_qs);
+
+    field->setFocus();
+    QTest::keyClicks(field, u"first"_qs);
+    QTest::keyClick(field, Qt::Key_Return);
+    ASSERT_EQ(table->model()->rowCount(), 1);
+    EXPECT_EQ(name.stringValue(), u"first"_qs);
+
+    text.setStringValue(u"changed"_qs);
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Down);
+    QTest::keyClick(table, Qt::Key_Return);
+    EXPECT_EQ(text.stringValue(), u"kept"_qs);
+    EXPECT_EQ(table->model()->rowCount(), 1);
+
+    text.setStringValue(u"changed"_qs);
+    const QPoint row = table->visualRect(table->model()->index(0, 0)).center();
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, row);
+    EXPECT_EQ(text.stringValue(), u"kept"_qs);
+
+    QTest::keyClick(table, Qt::Key_Delete);
+    EXPECT_EQ(table->model()->rowCount(), 0);
+
+    QTest::keyClick(table, Qt::Key_Escape);
+    EXPECT_FALSE(workspace.panels().wwPresetsWindow.sheet.isOpen());
+}
+
+TEST_F(MainWindow, SaysInAnEmptyListOfPresetsWhatToDo)
+{
+    const auto inks = [](const QImage& picture) {
+        QSet<QRgb> colours;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x)
+                colours.insert(picture.pixel(x, y));
+        }
+        return colours.size();
+    };
+    QTest::mouseClick(find(u"btnPresets"_qs), Qt::LeftButton);
+    settle();
+    auto* table = find<views::RowsTable>(u"myPresetsTableView"_qs);
+    const auto inksOfHint = inks(table->viewport()->grab().toImage());
+
+    table->setEmptyText({});
+
+    EXPECT_GT(inksOfHint, inks(table->viewport()->grab().toImage()));
 }
 
 TEST_F(MainWindow, NamesEveryWidgetThatTakesTheFocus)
