@@ -19,6 +19,9 @@ using platform::Stamp;
 /// shows them.
 constexpr qint64 largestRepeatedCell = 16'000'000;
 
+/// Sides beyond this many pixels are more than the painter's coordinates bear.
+constexpr int longestDrawnSide = 30'000;
+
 QImage transparent(const QSize& size)
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -32,6 +35,12 @@ QRect rectOf(PixelSize size) { return {0, 0, size.width, size.height}; }
 std::optional<platform::Shadow> layerShadow(const TextWatermarkSettings& settings)
 {
     return embosses(settings.effect) ? settings.shadow : std::nullopt;
+}
+
+bool isRepeated(PixelSize cell)
+{
+    return qint64{cell.width} * cell.height <= largestRepeatedCell
+        && std::max(cell.width, cell.height) <= longestDrawnSide;
 }
 
 int reachOf(const std::optional<platform::Shadow>& shadow)
@@ -150,7 +159,7 @@ Stamp stampTiled(const TextWatermarkSettings& settings, const TextOverlay& overl
     if (!cell.size.isValid())
         return {};
     const QPoint corner = cellCorner(cell, overlay.size(), photo);
-    if (qint64{cell.size.width} * cell.size.height <= largestRepeatedCell) {
+    if (isRepeated(cell.size)) {
         Stamp stamp = repeatedCell(settings, overlay, cell);
         stamp.topLeft = corner;
         return stamp;

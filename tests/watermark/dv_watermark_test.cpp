@@ -6,6 +6,7 @@
 #include <platform/foundation/paths.h>
 #include <platform/graphics/image_source.h>
 #include <platform/metadata/metadata_reader.h>
+#include <support/color_profiles.h>
 #include <support/exif_block.h>
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>
@@ -303,6 +304,58 @@ INSTANTIATE_TEST_SUITE_P(
         KindCase{"RgbAlpha8", PhotoModel::RgbAlpha, 8, PhotoFormat::Png, "public.png"},
         KindCase{"RgbAlpha16", PhotoModel::RgbAlpha, 16, PhotoFormat::Png, "public.png"},
         KindCase{"Cmyk8", PhotoModel::Cmyk, 8, PhotoFormat::Tiff, "public.tiff"}
+    ),
+    [](const auto& row) { return row.param.name; }
+);
+
+namespace {
+
+struct WideCase
+{
+    const char* name;
+    int depth;
+    PhotoModel model;
+
+    friend void PrintTo(const WideCase& row, std::ostream* out) { *out << row.name; }
+};
+
+class MarkedWidePhoto : public TextWatermark, public testing::WithParamInterface<WideCase>
+{
+};
+
+} // namespace
+
+TEST_P(MarkedWidePhoto, KeepsItsProfileAndShowsTheColourThatWasPicked)
+{
+    panel.cwFontColor.setColor({.red = 0.8, .green = 0.2, .blue = 0.4});
+    const QString photo = PhotoBuilder()
+                              .size(120, 80)
+                              .model(GetParam().model)
+                              .depth(GetParam().depth)
+                              .solid({40, 40, 40, 255})
+                              .iccProfile(test::wideProfile())
+                              .format(PhotoFormat::Png)
+                              .write(sources.path(QStringLiteral("a.png")));
+
+    run({photo});
+
+    const auto written = test::openedPhoto(done.value(0).target).image();
+    ASSERT_TRUE(written.has_value());
+    EXPECT_EQ(written->iccProfile(), test::wideProfile());
+    EXPECT_EQ(written->bitsPerComponent(), GetParam().depth);
+    const QRgb middle = written->toQImage().pixel(60, 40);
+    EXPECT_NEAR(qRed(middle), 204, 2);
+    EXPECT_NEAR(qGreen(middle), 51, 2);
+    EXPECT_NEAR(qBlue(middle), 102, 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    MarkedWidePhoto,
+    testing::Values(
+        WideCase{"Rgb8", 8, PhotoModel::Rgb},
+        WideCase{"Rgb16", 16, PhotoModel::Rgb},
+        WideCase{"RgbAlpha8", 8, PhotoModel::RgbAlpha}
     ),
     [](const auto& row) { return row.param.name; }
 );
