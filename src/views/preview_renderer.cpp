@@ -3,6 +3,9 @@
 
 #include <platform/foundation/paths.h>
 #include <platform/graphics/image_source.h>
+#include <platform/graphics/stamp.h>
+
+#include <QPainter>
 
 #include <algorithm>
 
@@ -25,25 +28,65 @@ QString colourModelName(platform::ColorModel model)
     return {};
 }
 
-QImage renderedLayer(const std::optional<platform::Image>& layer, const PreviewRequest& request)
+platform::Image fitted(const platform::Image& layer, platform::PixelSize room)
 {
-    if (!layer)
-        return {};
-    if (request.part) {
-        const auto part = layer->croppedTo(*request.part);
-        return part ? part->toQImage() : QImage();
-    }
-    const auto size = fittedInto(layer->pixelSize(), request.room);
-    return (size == layer->pixelSize() ? *layer : layer->scaledTo(size)).toQImage();
+    return layer.scaledTo(fittedInto(layer.pixelSize(), room));
 }
 
-PreviewPicture renderedPicture(const PreviewRequest& request)
+QImage renderedLayer(const platform::Image& layer, const PreviewRequest& request)
 {
-    return {
-        .photo = renderedLayer(request.photo, request),
-        .overlay = renderedLayer(request.overlay, request),
-        .part = request.part,
-        .caption = photoCaption(request.path, request.fileSize)};
+    if (!request.part)
+        return fitted(layer, request.room).toQImage();
+    const auto part = layer.croppedTo(*request.part);
+    return part ? part->toQImage() : QImage();
+}
+
+/// Where `part` of a picture stands once it is scaled, with the pixels around that its own reach.
+platform::PixelRect
+scaledPart(const platform::PixelRect& part, platform::PixelSize from, platform::PixelSize to)
+{
+    constexpr int kernelReach = 6;
+    const double horizontal = double(to.width) / from.width;
+    const double vertical = double(to.height) / from.height;
+    const int left = int(part.x * horizontal) - kernelReach;
+    const int top = int(part.y * vertical) - kernelReach;
+    const int right = int((part.x + part.width) * horizontal) + kernelReach + 1;
+    const int bottom = int((part.y + part.height) * vertical) + kernelReach + 1;
+    return {.x = left, .y = top, .width = right - left, .height = bottom - top};
+}
+
+/// A layer that differs from a photo in `part` alone: the rendered photo with that part anew.
+QImage renderedAnew(
+    const QImage& photo,
+    const platform::Image& layer,
+    const platform::PixelRect& part,
+    platform::PixelSize room
+)
+{
+    if (part.width <= 0 || part.height <= 0)
+        return photo;
+    const platform::Image scaled = fitted(layer, room);
+    const platform::PixelRect place = scaledPart(part, layer.pixelSize(), scaled.pixelSize());
+    const auto changed = scaled.croppedTo(place);
+    const QImage patch = changed ? changed->toQImage() : QImage();
+    if (patch.isNull())
+        return {};
+    QImage picture = photo;
+    QPainter painter(&picture);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.drawImage(std::max(0, place.x), std::max(0, place.y), patch);
+    return picture;
+}
+
+QImage renderedOverlay(const PreviewRequest& request, const QImage& photo)
+{
+    if (!request.overlay)
+        return {};
+    if (request.part || !request.photo || photo.isNull())
+        return renderedLayer(*request.overlay, request);
+    const auto differing = platform::stampedPart(*request.overlay, *request.photo);
+    return differing ? renderedAnew(photo, *request.overlay, *differing, request.room)
+                     : renderedLayer(*request.overlay, request);
 }
 
 } // namespace
@@ -73,6 +116,32 @@ QString photoCaption(const QString& path, const QString& fileSize)
                              .arg(header.bitsPerComponent)
                              .arg(colourModelName(header.colorModel));
     return fileSize.isEmpty() ? text : text + QStringLiteral("  \u00b7  ") + fileSize;
+}
+
+QImage PreviewRenderer::renderedPhoto(const PreviewRequest& request)
+{
+    if (!request.photo)
+        return {};
+    const bool isSame = m_lastPhoto.node == request.photo->node()
+        && m_lastPhoto.room == request.room && m_lastPhoto.part == request.part;
+    if (!isSame) {
+        m_lastPhoto
+            = {.node = request.photo->node(),
+               .room = request.room,
+               .part = request.part,
+               .picture = renderedLayer(*request.photo, request)};
+    }
+    return m_lastPhoto.picture;
+}
+
+PreviewPicture PreviewRenderer::renderedPicture(const PreviewRequest& request)
+{
+    const QImage photo = renderedPhoto(request);
+    return {
+        .photo = photo,
+        .overlay = renderedOverlay(request, photo),
+        .part = request.part,
+        .caption = photoCaption(request.path, request.fileSize)};
 }
 
 PreviewRenderer::PreviewRenderer(QObject* parent)

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QThreadPool>
 
+#include <memory>
 #include <optional>
 
 namespace brenvaldo::views {
@@ -53,11 +54,24 @@ Q_SIGNALS:
     void rendered(const brenvaldo::views::PreviewPicture& picture);
 
 private:
+    [[nodiscard]] PreviewPicture renderedPicture(const PreviewRequest& request);
+    [[nodiscard]] QImage renderedPhoto(const PreviewRequest& request);
     void startNext();
     void take(const PreviewPicture& picture);
 
     std::optional<PreviewRequest> m_waiting;
     bool m_running = false;
+
+    /// A photo as it was rendered last. The worker alone uses it.
+    struct RenderedPhoto
+    {
+        std::shared_ptr<const platform::ImageNode> node;
+        platform::PixelSize room;
+        std::optional<platform::PixelRect> part;
+        QImage picture;
+    };
+    RenderedPhoto m_lastPhoto;
+
     QThreadPool m_worker;
 };
 

@@ -19,12 +19,15 @@ struct ImageNode
     bool hasAlpha = false;
     QByteArray iccProfile = {}; ///< fits the colour model, or is empty
     double dotsPerInch = 72;
+    std::shared_ptr<const ImageNode> stampedOn = {}; ///< what a stamp was laid on; may be null
+    PixelRect stampedPart = {}; ///< part that differs from `stampedOn`
 
     /// The same picture with other pixels of the same kind.
     [[nodiscard]] ImageNode withPixels(const vips::VImage& other) const
     {
         ImageNode node = *this;
         node.pixels = other;
+        node.stampedOn = nullptr;
         return node;
     }
 };

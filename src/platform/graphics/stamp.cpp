@@ -152,6 +152,16 @@ vips::VImage mapped(const ImageNode& photo, const vips::VImage& layer, const Sta
     return mapRows(std::array{photo.pixels}, output, StampRows<Sample>(layer, stamp, photo));
 }
 
+PixelRect coveredPart(const Image& photo, const Stamp& stamp)
+{
+    const QRect all(0, 0, photo.width(), photo.height());
+    const QRect covered = stamp.repeat == Stamp::Repeat::Tiled
+        ? all
+        : all.intersected(QRect(stamp.topLeft, stamp.layer.size()));
+    return {
+        .x = covered.x(), .y = covered.y(), .width = covered.width(), .height = covered.height()};
+}
+
 } // namespace
 
 Image stamped(const Image& photo, const Stamp& stamp)
@@ -160,10 +170,19 @@ Image stamped(const Image& photo, const Stamp& stamp)
         return photo;
     const ImageNode& node = *photo.node();
     const vips::VImage layer = layerInColorsOf(stamp.layer, node);
-    return makeImage(node.withPixels(
+    ImageNode marked = node.withPixels(
         node.pixels.format() == VIPS_FORMAT_USHORT ? mapped<quint16>(node, layer, stamp)
                                                    : mapped<quint8>(node, layer, stamp)
-    ));
+    );
+    marked.stampedOn = photo.node();
+    marked.stampedPart = coveredPart(photo, stamp);
+    return makeImage(std::move(marked));
+}
+
+std::optional<PixelRect> stampedPart(const Image& marked, const Image& photo)
+{
+    const ImageNode& node = *marked.node();
+    return node.stampedOn == photo.node() ? std::optional(node.stampedPart) : std::nullopt;
 }
 
 } // namespace brenvaldo::platform

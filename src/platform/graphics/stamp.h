@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QPoint>
 
+#include <optional>
+
 namespace brenvaldo::platform {
 
 /// A layer that is laid over a photo with source-over.
@@ -26,5 +28,8 @@ struct Stamp
 /// The layer's colours are brought to the photo's profile. Only rows and columns below the layer
 /// are computed, the others are copied; tiles are found by arithmetic.
 [[nodiscard]] Image stamped(const Image& photo, const Stamp& stamp);
+
+/// The part outside of which `marked` is `photo`; nothing when it is not `photo` with a stamp.
+[[nodiscard]] std::optional<PixelRect> stampedPart(const Image& marked, const Image& photo);
 
 } // namespace brenvaldo::platform
