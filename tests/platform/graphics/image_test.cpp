@@ -51,7 +51,8 @@ TEST_P(ImageScaling, KeepsAConstantPictureConstant)
                                    .format(PhotoFormat::Tiff);
     const QColor color = imageOf(photo).toQImage().pixelColor(0, 0);
 
-    for (const PixelSize size : {PixelSize{33, 20}, {50, 67}, {203, 150}, {7, 300}}) {
+    for (const PixelSize size :
+         {PixelSize{33, 20}, {50, 67}, {203, 150}, {7, 300}, {13, 9}, {17, 11}, {20, 67}}) {
         const QImage scaled = imageOf(photo).scaledTo(size).toQImage();
 
         ASSERT_EQ(scaled.size(), QSize(size.width, size.height));
