@@ -63,6 +63,7 @@ void shrinkFromFileToFile(benchmark::State& state)
 BENCHMARK(shrinkInMemory)
     ->Arg(3000)
     ->Arg(1600)
+    ->Arg(1000)
     ->Arg(94)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();
