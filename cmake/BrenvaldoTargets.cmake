@@ -10,7 +10,8 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 add_library(brenvaldo_flags INTERFACE)
 target_compile_options(
   brenvaldo_flags
-  INTERFACE -Wall
+  INTERFACE -pthread # for all alike: precompiled headers are shared
+            -Wall
             -Wextra
             -Wpedantic
             -Wshadow
@@ -30,12 +31,15 @@ target_compile_definitions(
 )
 target_include_directories(brenvaldo_flags INTERFACE "${CMAKE_SOURCE_DIR}/src")
 
-# brenvaldo_library(<folder below src> DEPENDS <folders> EXTERNAL <targets> HEADERS <...> SOURCES <...>)
+# brenvaldo_library(<folder below src> PRECOMPILED <kind> DEPENDS <folders> EXTERNAL <targets> HEADERS <...> SOURCES <...>)
 #
 # One static library a folder. DEPENDS is the only place that grants an include of another folder: the test
-# layers.<folder> fails on any other. Headers are verified to compile alone.
+# layers.<folder> fails on any other. Headers are verified to compile alone. PRECOMPILED names the kind of
+# precompiled headers: core unless told.
 function(brenvaldo_library folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "DEPENDS;EXTERNAL;EXTERNAL_PUBLIC;HEADERS;SOURCES")
+  cmake_parse_arguments(
+    PARSE_ARGV 1 arg "" "PRECOMPILED" "DEPENDS;EXTERNAL;EXTERNAL_PUBLIC;HEADERS;SOURCES"
+  )
   string(REPLACE "/" "_" target "${folder}")
   add_library(${target} STATIC ${arg_SOURCES})
   target_sources(
@@ -49,6 +53,10 @@ function(brenvaldo_library folder)
     PUBLIC brenvaldo_flags Qt6::Core ${dependencies} ${arg_EXTERNAL_PUBLIC}
     PRIVATE ${arg_EXTERNAL}
   )
+  if(NOT arg_PRECOMPILED)
+    set(arg_PRECOMPILED core)
+  endif()
+  brenvaldo_precompile(${target} ${arg_PRECOMPILED})
   brenvaldo_check_layers("${folder}" "${arg_DEPENDS}")
 endfunction()
 

@@ -36,7 +36,10 @@ build()
 {
     local preset=$1
     shift
-    command -v ccache > /dev/null && export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    if command -v ccache > /dev/null; then
+        export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+        export CCACHE_SLOPPINESS=pch_defines,time_macros # what caching with precompiled headers asks for
+    fi
     [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"
     cmake --build --preset "$preset" --target "$@"
 }
