@@ -4,13 +4,19 @@
 #include "output_tail.h"
 #include "result_word.h"
 
+#include <platform/graphics/color.h>
 #include <platform/graphics/image.h>
 #include <platform/graphics/metadata_blocks.h>
 
+#include <QImage>
 #include <QString>
 #include <QUrl>
 
 #include <optional>
+
+namespace brenvaldo::platform {
+class AttributedText;
+}
 
 namespace brenvaldo::imaging {
 
@@ -140,6 +146,25 @@ public:
     /// pixel a point; nothing when no pixel is left.
     [[nodiscard]] static std::optional<platform::Image>
     hRotatePictureBase(const platform::Image& image, float angle);
+
+    /// The text layer as a relief, lit by `texture` ("texture1" to "texture8"); as large and as
+    /// opaque as the layer. "texture6" is the ball of `h3DcolorEffect` in `color`.
+    ///
+    /// The relief always has the filters' own default height: `scale` is set before the defaults
+    /// are, and so is without effect.
+    [[nodiscard]] static QImage embossTextWatermarkEffect(
+        const QImage& layer, const QString& texture, const platform::Color& color, float scale
+    );
+
+    /// A ball of 134 by 134 pixels, black at its rim and `color` at its highlight.
+    [[nodiscard]] static QImage h3DcolorEffect(const platform::Color& color);
+
+    /// A text in `color` on a ground that fills the text's measured size; null for an empty text.
+    [[nodiscard]] static QImage imageWithAttributedString(
+        const platform::AttributedText& text,
+        const platform::Color& color,
+        const platform::Color& ground
+    );
 
     /// The result word of the last save; "Failed" before the first.
     [[nodiscard]] ResultWord storeResult() const { return m_storeResult; }

@@ -19,6 +19,7 @@ Panels::Panels()
     add(vwResizePhotos.dvVCUiScaleFixView);
     add(vwWatermark);
     add(vwWatermark.tvFileName);
+    add(vwWatermark.pubFileNamePhotoProperties);
     add(vwWatermark.cActionsTWMArrayController);
     add(vwWatermark.tvwTWMActions);
     addEditPanels();

@@ -111,6 +111,10 @@ TextWatermarkControls::TextWatermarkControls()
       )
     , cwEmbossColor(QStringLiteral("cwEmbossColor"), {.red = 0.8, .green = 0.8, .blue = 0.8})
     , tvFileName(QStringLiteral("tvFileName"))
+    , pubFileNamePhotoProperties(
+          QStringLiteral("pubFileNamePhotoProperties"),
+          {QStringLiteral("Width in pixels"), QStringLiteral("Height in pixels")}
+      )
     , cActionsTWMArrayController(
           QStringLiteral("cActionsTWMArrayController"), {QStringLiteral("cActions")}
       )
@@ -154,6 +158,7 @@ void TextWatermarkControls::giveTags()
 void TextWatermarkControls::giveActions()
 {
     pubPhotoProperties.addAction(QStringLiteral("DVWatermark.hInsertPhotoProperty"));
+    pubFileNamePhotoProperties.addAction(QStringLiteral("cGUIcontrols.hInsertPhotoProperty"));
     scTxtAlign.addAction(QStringLiteral("DVWatermark.hTextAlignment"));
     cbFontList.addAction(QStringLiteral("DVWatermark.hTextFontFamilyComboBox"));
     cwFontColor.addAction(QStringLiteral("DVWatermark.hTextColorEntred"));

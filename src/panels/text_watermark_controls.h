@@ -46,6 +46,7 @@ struct TextWatermarkControls
     controls::ColorWell cwEmbossColor;
 
     controls::TextView tvFileName;
+    controls::PopUpButton pubFileNamePhotoProperties; ///< inserts tokens into `tvFileName`
     controls::ArrayController cActionsTWMArrayController;
     controls::TableView tvwTWMActions;
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text_overlay.h"
 
-#include "relief_texture.h"
-
+#include <imaging/dv_image_handling.h>
 #include <platform/filters/photo_effect.h>
-#include <platform/graphics/relief.h>
+#include <platform/graphics/qt_color.h>
 
 #include <algorithm>
 
@@ -16,16 +15,6 @@ using platform::PixelSize;
 
 /// Pixels around a part of a layer that its relief depends on: the slope and its softening.
 constexpr int reliefReach = 16;
-
-QColor qtColor(const platform::Color& color)
-{
-    return QColor::fromRgbF(
-        static_cast<float>(color.red),
-        static_cast<float>(color.green),
-        static_cast<float>(color.blue),
-        static_cast<float>(color.alpha)
-    );
-}
 
 platform::TextAttributes attributesOf(const TextWatermarkSettings& settings, QFont font)
 {
@@ -57,9 +46,9 @@ QBrush fillOf(const TextWatermarkSettings& settings, const platform::Image& phot
 {
     switch (fillOfEffect(settings.effect)) {
     case TextFill::Color:
-        return qtColor(settings.fontColor.withAlpha(settings.opacity));
+        return platform::qtColor(settings.fontColor.withAlpha(settings.opacity));
     case TextFill::White:
-        return qtColor({.red = 1, .green = 1, .blue = 1, .alpha = settings.opacity});
+        return platform::qtColor({.red = 1, .green = 1, .blue = 1, .alpha = settings.opacity});
     case TextFill::Photo:
         return {photoCorner(photo, size)};
     case TextFill::NoirPhoto:
@@ -101,15 +90,9 @@ QImage TextOverlay::rendered(const QRect& region) const
 
 QImage TextOverlay::embossed(const QImage& layer) const
 {
-    // The filters' own defaults hold: the scale that is asked for is reset before rendering.
-    constexpr double radius = 10;
-    constexpr double scale = 10;
-    const QString texture = textureOfEffect(m_effect);
-    const QImage shading = texture == QStringLiteral("texture6")
-        ? platform::colorBall(m_embossColor)
-        : reliefTexture(texture);
-    return platform::shadedMaterial(
-        platform::heightFieldFromMask(layer, radius), layer, shading, scale
+    constexpr float scale = 0.5;
+    return imaging::DVImageHandling::embossTextWatermarkEffect(
+        layer, textureOfEffect(m_effect), m_embossColor, scale
     );
 }
 

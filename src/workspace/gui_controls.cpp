@@ -39,6 +39,7 @@ cGUIcontrols::cGUIcontrols(const Links& links)
     , m_journal(links.journal)
     , m_chooser(links.chooser)
     , m_desktop(links.desktop)
+    , m_notifications(links.notifications)
     , m_subsystems(links.subsystems)
     , m_collectionView(links.collectionView)
     , m_alertShown(links.alertShown)
@@ -111,6 +112,7 @@ void cGUIcontrols::registerPanelActions(controls::ActionRegistry& actions)
     add(u"hAddRotationBackGroundCallsForPreview"_qs,
         &cGUIcontrols::hAddRotationBackGroundCallsForPreview);
     add(u"hAddFramingPosition"_qs, &cGUIcontrols::hAddFramingPosition);
+    add(u"hInsertPhotoProperty"_qs, &cGUIcontrols::hInsertPhotoProperty);
     add(u"onClickPubFilterType"_qs, &cGUIcontrols::onClickPubFilterType);
     add(u"hTxtSimulationModePressed"_qs, &cGUIcontrols::hTxtSimulationModePressed);
     add(u"hImgSimulationModePressed"_qs, &cGUIcontrols::hImgSimulationModePressed);

@@ -7,6 +7,7 @@
 #include "run_journal.h"
 
 #include <controls/progress.h>
+#include <platform/foundation/notification_center.h>
 #include <platform/storage/desktop.h>
 
 namespace brenvaldo::workspace {
@@ -23,6 +24,7 @@ public:
         RunJournal& journal;
         controls::FileChooser& chooser;
         platform::Desktop& desktop;
+        const platform::NotificationCenter& notifications;
         const SubsystemLinks& subsystems;
         cCollectionViewController& collectionView;
         platform::Signal<const QString&, const QString&>& alertShown;
@@ -80,6 +82,8 @@ public:
     void hAddRoundedCornersBorderCallsForPreview();
     void hAddRotationBackGroundCallsForPreview();
     void hAddFramingPosition();
+    /// Appends the token of the selected photo property to `tvFileName`.
+    void hInsertPhotoProperty();
     void onClickPubFilterType();
     void hTxtSimulationModePressed();
     void hImgSimulationModePressed();
@@ -154,6 +158,7 @@ private:
     RunJournal& m_journal;
     controls::FileChooser& m_chooser;
     platform::Desktop& m_desktop;
+    const platform::NotificationCenter& m_notifications;
     const SubsystemLinks& m_subsystems;
     cCollectionViewController& m_collectionView;
     platform::Signal<const QString&, const QString&>& m_alertShown;

@@ -87,6 +87,15 @@ void cGUIcontrols::hAddFramingPosition()
     m_collectionView.callForPreview();
 }
 
+void cGUIcontrols::hInsertPhotoProperty()
+{
+    static const QStringList tokens{u"<[IMGW]>"_qs, u"<[IMGH]>"_qs};
+    panels::WatermarkPanel& panel = m_panels.vwWatermark;
+    const QString token = tokens.value(panel.pubFileNamePhotoProperties.indexOfSelectedItem());
+    panel.tvFileName.setStringValue(panel.tvFileName.stringValue() + token);
+    m_notifications.post(u"cbTextWatermarkMetaDataEntred"_qs);
+}
+
 void cGUIcontrols::registerColorWellActions(controls::ActionRegistry& actions)
 {
     struct ColorPair

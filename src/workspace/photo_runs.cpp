@@ -92,7 +92,7 @@ void cGUIcontrols::runWatermark(const QStringList& photos, const QString& destin
         .outputType = choice.type,
         .compressionLevel = choice.compressionLevel,
         .fileNameText = panel.tvFileName.stringValue(),
-        .photoProperty = panel.pubPhotoProperties.indexOfSelectedItem()};
+        .photoProperty = panel.pubFileNamePhotoProperties.indexOfSelectedItem()};
     const bool isText = panel.tbvWatermarkType.selectedLabel() == u"Text";
     const QLatin1String function = isText ? functionId::textWM : functionId::imageWM;
     const auto& operation = isText ? m_subsystems.operations.setWatermarkText

@@ -33,6 +33,7 @@ struct Workspace::Parts
                .journal = journal,
                .chooser = surroundings.chooser,
                .desktop = surroundings.desktop,
+               .notifications = notifications,
                .subsystems = subsystems,
                .collectionView = collectionView,
                .alertShown = alert}

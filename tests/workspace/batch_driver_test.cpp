@@ -439,6 +439,7 @@ TEST_F(BatchDriver, HandsTheWholeListToTheWatermark)
     chooseDestination();
     addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
     panels.vwWatermark.tvFileName.setStringValue(u"name"_qs);
+    panels.vwWatermark.pubFileNamePhotoProperties.selectItemAtIndex(1);
     watermark::WatermarkRun seen;
     subsystems.operations.setWatermarkText = [&](const auto& watermark, const auto& report) {
         seen = watermark;
@@ -452,6 +453,7 @@ TEST_F(BatchDriver, HandsTheWholeListToTheWatermark)
     EXPECT_EQ(seen.outputType, u"original file type"_qs);
     EXPECT_EQ(seen.compressionLevel, u"9"_qs);
     EXPECT_EQ(seen.fileNameText, u"name"_qs);
+    EXPECT_EQ(seen.photoProperty, 1);
     ASSERT_EQ(journal.records().size(), 1);
     EXPECT_EQ(journal.records().first().function, u"textWM"_qs);
 }

@@ -121,6 +121,7 @@ protected:
     workspace::SubsystemLinks subsystems;
     QueuedChooser chooser;
     RecordingDesktop desktop;
+    platform::NotificationCenter notifications;
     platform::Signal<const QString&, const QString&> alertShown;
     QList<QStringList> alerts; ///< title and text of each
 
@@ -139,6 +140,7 @@ protected:
          .journal = journal,
          .chooser = chooser,
          .desktop = desktop,
+         .notifications = notifications,
          .subsystems = subsystems,
          .collectionView = collectionView,
          .alertShown = alertShown}};

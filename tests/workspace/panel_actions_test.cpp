@@ -226,6 +226,27 @@ TEST_F(PanelActions, TurnTheSimulationOffAtOnce)
     EXPECT_FALSE(simulation.isOn());
 }
 
+TEST_F(PanelActions, AppendTheTokensOfTheSizeToTheFileNameText)
+{
+    int posted = 0;
+    const auto subscription
+        = notifications.addObserver(u"cbTextWatermarkMetaDataEntred"_qs, [&](const QString&) {
+              ++posted;
+          });
+    panels::WatermarkPanel& panel = panels.vwWatermark;
+    panel.tvFileName.setStringValue(u"thumb_"_qs);
+
+    user.pick(panel.pubFileNamePhotoProperties, 0);
+    user.pick(panel.pubFileNamePhotoProperties, 1);
+
+    EXPECT_EQ(panel.tvFileName.stringValue(), u"thumb_<[IMGW]><[IMGH]>"_qs);
+    EXPECT_EQ(posted, 2);
+
+    panel.pubFileNamePhotoProperties.selectItemAtIndex(-1);
+    actions.send(u"cGUIcontrols.hInsertPhotoProperty"_qs);
+    EXPECT_EQ(panel.tvFileName.stringValue(), u"thumb_<[IMGW]><[IMGH]>"_qs);
+}
+
 TEST_F(PanelActions, PrintThePhotoThatIsNamed)
 {
     QStringList printed;

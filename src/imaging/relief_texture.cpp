@@ -9,7 +9,7 @@
 #include <array>
 #include <cmath>
 
-namespace brenvaldo::watermark {
+namespace brenvaldo::imaging {
 
 namespace {
 
@@ -143,4 +143,4 @@ QImage reliefTexture(const QString& name)
     return ball;
 }
 
-} // namespace brenvaldo::watermark
+} // namespace brenvaldo::imaging

@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QString>
 
-namespace brenvaldo::watermark {
+namespace brenvaldo::imaging {
 
 /// The picture of a lit hemisphere that shades embossed text: "texture1" to "texture8", 256 by 256
 /// pixels.
@@ -12,4 +12,4 @@ namespace brenvaldo::watermark {
 /// Lambert's law with a Blinn highlight; beyond the ball its rim goes on. Null for another name.
 [[nodiscard]] QImage reliefTexture(const QString& name);
 
-} // namespace brenvaldo::watermark
+} // namespace brenvaldo::imaging

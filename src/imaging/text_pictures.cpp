@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dv_image_handling.h"
+
+#include "relief_texture.h"
+
+#include <platform/graphics/attributed_text.h>
+#include <platform/graphics/qt_color.h>
+#include <platform/graphics/relief.h>
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace brenvaldo::imaging {
+
+namespace {
+
+QImage shadingOf(const QString& texture, const platform::Color& color)
+{
+    return texture == QStringLiteral("texture6") ? DVImageHandling::h3DcolorEffect(color)
+                                                 : reliefTexture(texture);
+}
+
+} // namespace
+
+QImage DVImageHandling::embossTextWatermarkEffect(
+    const QImage& layer, const QString& texture, const platform::Color& color, float /*scale*/
+)
+{
+    constexpr double defaultRadius = 10;
+    constexpr double defaultScale = 10;
+    return platform::shadedMaterial(
+        platform::heightFieldFromMask(layer, defaultRadius),
+        layer,
+        shadingOf(texture, color),
+        defaultScale
+    );
+}
+
+QImage DVImageHandling::h3DcolorEffect(const platform::Color& color)
+{
+    return platform::colorBall(color);
+}
+
+QImage DVImageHandling::imageWithAttributedString(
+    const platform::AttributedText& text,
+    const platform::Color& color,
+    const platform::Color& ground
+)
+{
+    const QSizeF size = text.size();
+    QImage image(
+        static_cast<int>(std::ceil(size.width())),
+        static_cast<int>(std::ceil(size.height())),
+        QImage::Format_ARGB32_Premultiplied
+    );
+    if (image.isNull())
+        return image;
+    image.fill(platform::qtColor(ground));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(text.shape(), platform::qtColor(color));
+    return image;
+}
+
+} // namespace brenvaldo::imaging

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <imaging/dv_image_handling.h>
+
+#include <platform/graphics/attributed_text.h>
+#include <platform/graphics/color.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+#include <QPainter>
+
+using namespace brenvaldo::imaging;
+using brenvaldo::platform::AttributedText;
+using brenvaldo::platform::Color;
+
+namespace {
+
+constexpr Color white{.red = 1, .green = 1, .blue = 1};
+constexpr Color red{.red = 1, .green = 0, .blue = 0};
+constexpr Color green{.red = 0, .green = 1, .blue = 0};
+
+/// A white disc, half as wide as the layer, in its middle.
+QImage discLayer()
+{
+    QImage layer(120, 100, QImage::Format_ARGB32_Premultiplied);
+    layer.fill(Qt::transparent);
+    QPainter painter(&layer);
+    painter.setBrush(Qt::white);
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(QPoint(60, 50), 30, 30);
+    return layer;
+}
+
+QImage embossed(const QString& texture, const Color& color = red, float scale = 0.5F)
+{
+    return DVImageHandling::embossTextWatermarkEffect(discLayer(), texture, color, scale);
+}
+
+} // namespace
+
+TEST(EmbossedText, IsAsLargeAndAsOpaqueAsItsLayer)
+{
+    const QImage layer = discLayer();
+
+    const QImage relief = embossed(u"texture2"_qs);
+
+    ASSERT_EQ(relief.size(), layer.size());
+    EXPECT_EQ(qAlpha(relief.pixel(60, 50)), 255);
+    EXPECT_EQ(qAlpha(relief.pixel(2, 2)), 0);
+}
+
+TEST(EmbossedText, IsLitFromTheSideOfTheTexturesLamp)
+{
+    const QImage relief = embossed(u"texture3"_qs);
+
+    EXPECT_GT(qGray(relief.pixel(38, 31)), qGray(relief.pixel(82, 69)) + 40);
+}
+
+TEST(EmbossedText, LooksDifferentForEachTexture)
+{
+    QList<QImage> reliefs;
+    for (int number = 1; number <= 8; ++number)
+        reliefs.append(embossed(u"texture%1"_qs.arg(number)));
+
+    for (int i = 0; i < reliefs.size(); ++i) {
+        for (int j = 0; j < i; ++j)
+            EXPECT_NE(reliefs.at(i), reliefs.at(j)) << i << " and " << j;
+    }
+}
+
+TEST(EmbossedText, TakesItsColourForTheSixthTextureOnly)
+{
+    EXPECT_NE(embossed(u"texture6"_qs, red), embossed(u"texture6"_qs, green));
+    EXPECT_EQ(embossed(u"texture5"_qs, red), embossed(u"texture5"_qs, green));
+}
+
+TEST(EmbossedText, HasTheDefaultHeightWhateverTheScale)
+{
+    EXPECT_EQ(embossed(u"texture1"_qs, red, 0.5F), embossed(u"texture1"_qs, red, 40));
+}
+
+TEST(ColorBall, IsOfTheColourAtItsHighlightAndBlackAtItsRim)
+{
+    const QImage ball = DVImageHandling::h3DcolorEffect({.red = 1, .green = 0.5, .blue = 0});
+
+    ASSERT_EQ(ball.size(), QSize(134, 134));
+    const QRgb highlight = ball.pixel(67, 134 - 97);
+    EXPECT_NEAR(qRed(highlight), 255, 12);
+    EXPECT_NEAR(qGreen(highlight), 128, 8);
+    EXPECT_EQ(qBlue(highlight), 0);
+    EXPECT_LT(qRed(ball.pixel(67, 130)), 12);
+    EXPECT_EQ(qAlpha(ball.pixel(1, 1)), 0);
+}
+
+TEST(PictureOfAText, ShowsTheTextOnAGroundOfItsMeasuredSize)
+{
+    QFont font(u"DejaVu Sans Mono"_qs);
+    font.setPixelSize(40);
+    const AttributedText text(u"\u25a0 "_qs, {.font = font}); // a square, then a blank
+
+    const QImage image = DVImageHandling::imageWithAttributedString(text, white, red);
+
+    EXPECT_EQ(image.width(), qCeil(text.size().width()));
+    EXPECT_EQ(image.height(), qCeil(text.size().height()));
+    const QPoint square = text.shape().boundingRect().center().toPoint();
+    EXPECT_EQ(image.pixel(square), qRgb(255, 255, 255));
+    EXPECT_EQ(image.pixel(0, 0), qRgb(255, 0, 0));
+    EXPECT_EQ(image.pixel(image.width() - 1, image.height() - 1), qRgb(255, 0, 0));
+}
+
+TEST(PictureOfAText, OfNoTextIsNone)
+{
+    EXPECT_TRUE(
+        DVImageHandling::imageWithAttributedString(AttributedText({}, {}), white, red).isNull()
+    );
+}
