@@ -31,6 +31,12 @@ void ProgressIndicator::setMaximum(double maximum)
     changed();
 }
 
+void ProgressIndicator::setIndeterminate(bool indeterminate)
+{
+    m_indeterminate = indeterminate;
+    changed();
+}
+
 void ProgressIndicator::setDoubleValue(double value)
 {
     m_value = std::clamp(value, minimum(), m_maximum);

@@ -33,8 +33,11 @@ public:
     [[nodiscard]] double maximum() const { return m_maximum; }
     [[nodiscard]] double doubleValue() const { return m_value; }
     [[nodiscard]] bool isAnimating() const { return m_animating; }
+    /// Shows that something goes on, not how much of it is done.
+    [[nodiscard]] bool isIndeterminate() const { return m_indeterminate; }
 
     void setMaximum(double maximum);
+    void setIndeterminate(bool indeterminate);
     void setDoubleValue(double value);
     /// The value stops at the maximum.
     void incrementBy(double step);
@@ -45,6 +48,7 @@ private:
     double m_maximum = 100;
     double m_value = 0;
     bool m_animating = false;
+    bool m_indeterminate = false;
 };
 
 } // namespace brenvaldo::controls
