@@ -3,6 +3,7 @@
 
 #include "color_profile.h"
 #include "inserting_file.h"
+#include "memory_check.h"
 #include "png_profile.h"
 #include "sample_conversion.h"
 
@@ -83,6 +84,8 @@ void encodeGif(const ImageNode& node, const QString& path)
 {
     const ImageNode fitted
         = fittedTo(node, {.depth = DepthSupport::EightBits, .colors = ColorSupport::Srgb});
+    constexpr int bytesPerPixel = 10; // measured: the pixels with alpha, twice, and the indexes
+    checkMemoryForWholePicture(fitted, bytesPerPixel);
     // The higher efforts take five times as long for a palette that is hardly told apart.
     constexpr int effort = 3;
     fitted.pixels.gifsave(

@@ -3,6 +3,7 @@
 #include "deferred_pixels.h"
 #include "encoders.h"
 #include "heif_handles.h"
+#include "memory_check.h"
 #include "region_kernel.h"
 
 #include <QFile>
@@ -152,6 +153,9 @@ heif_error writeToFile(heif_context* /*context*/, const void* bytes, std::size_t
 void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, const QString& path)
 {
     const ImageNode fitted = fittedToHeic(node);
+    constexpr int bytesPerPixel
+        = 16; // measured: the plane, its colour differences and the coder's frames
+    checkMemoryForWholePicture(fitted, bytesPerPixel);
     const HeifContext context(heif_context_alloc());
     const HeifEncoder encoder = fastEncoder(context.get());
     heif_image_handle* encoded = nullptr;

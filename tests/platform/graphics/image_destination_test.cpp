@@ -4,6 +4,7 @@
 #include <support/case_name.h>
 #include <support/color_profiles.h>
 #include <support/exif_block.h>
+#include <support/log_lines.h>
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>
 #include <support/temporary_folder.h>
@@ -321,6 +322,28 @@ TEST(ImageDestination, CarriesBlocksIntoHeic)
     EXPECT_TRUE(file.contains(blocks.xmp));
     EXPECT_EQ(openedPhoto(target).header().dotsPerInch, 300);
 }
+
+class ImageDestinationMemory : public testing::TestWithParam<FileFormat>
+{
+};
+
+TEST_P(ImageDestinationMemory, RefusesAPictureThatCannotBeHeldWhole)
+{
+    const TemporaryFolder folder;
+    const LogLines log;
+    QImage dot(1, 1, QImage::Format_RGB32);
+    dot.fill(Qt::gray);
+    constexpr int farTooMuch = 9'000'000;
+    const Image huge = Image::fromQImage(dot).scaledTo({farTooMuch, farTooMuch});
+
+    EXPECT_FALSE(encode(huge, GetParam(), {}, folder.path(u"huge"_qs)));
+
+    EXPECT_THAT(log.lines().join(u'\n').toStdString(), testing::HasSubstr("not enough memory"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Formats, ImageDestinationMemory, testing::Values(FileFormat::Gif, FileFormat::Heic)
+);
 
 TEST(ImageDestination, WritesOnePageOfThePicturesPoints)
 {
