@@ -59,7 +59,7 @@ QImage DVImageHandling::imageWithAttributedString(
     image.fill(platform::qtColor(ground));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(text.shape(), platform::qtColor(color));
+    text.drawing().draw(painter, platform::qtColor(color));
     return image;
 }
 

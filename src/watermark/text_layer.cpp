@@ -41,7 +41,7 @@ platform::PixelSize turnedSize(QSizeF size, double degrees)
 }
 
 TextLayer::TextLayer(const platform::AttributedText& text, int angle)
-    : m_shape(text.shape())
+    : m_text(text.drawing())
     , m_uprightSize(wholePixels(text.size().width()), wholePixels(text.size().height()))
     , m_angle(angle)
     , m_size(turnedSize(m_uprightSize, angle))
@@ -88,11 +88,11 @@ QImage TextLayer::rendered(const Ink& ink, const QRect& region) const
         QPainter objectPainter(&object);
         prepare(objectPainter);
         objectPainter.translate(-part.topLeft());
-        objectPainter.fillPath(m_shape, fill);
+        m_text.draw(objectPainter, fill);
         objectPainter.end();
         painter.drawImage(part.topLeft(), platform::shadowLayer(object, *ink.shadow, 0));
     }
-    painter.fillPath(m_shape, fill);
+    m_text.draw(painter, fill);
     return layer;
 }
 

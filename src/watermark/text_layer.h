@@ -43,7 +43,7 @@ private:
     [[nodiscard]] QTransform toTurnedLayer() const;
     [[nodiscard]] QRect neededBefore(const QRect& region) const;
 
-    QPainterPath m_shape;
+    platform::TextDrawing m_text;
     QSize m_uprightSize;
     int m_angle = 0;
     platform::PixelSize m_size;

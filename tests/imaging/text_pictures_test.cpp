@@ -102,7 +102,7 @@ TEST(PictureOfAText, ShowsTheTextOnAGroundOfItsMeasuredSize)
 
     EXPECT_EQ(image.width(), qCeil(text.size().width()));
     EXPECT_EQ(image.height(), qCeil(text.size().height()));
-    const QPoint square = text.shape().boundingRect().center().toPoint();
+    const QPoint square = text.drawing().shape.boundingRect().center().toPoint();
     EXPECT_EQ(image.pixel(square), qRgb(255, 255, 255));
     EXPECT_EQ(image.pixel(0, 0), qRgb(255, 0, 0));
     EXPECT_EQ(image.pixel(image.width() - 1, image.height() - 1), qRgb(255, 0, 0));

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "attributed_text.h"
 
-#include <platform/foundation/text.h>
+#include "glyph_drawing.h"
 
 #include <QFontMetricsF>
 #include <QPainterPathStroker>
-#include <QTransform>
+#include <QTextLayout>
 
 #include <algorithm>
-#include <cmath>
 
 namespace brenvaldo::platform {
 
@@ -23,6 +22,49 @@ QFont spacedFont(const TextAttributes& attributes)
     return font;
 }
 
+bool isLineBreak(QChar unit)
+{
+    switch (unit.unicode()) {
+    case u'\n':
+    case u'\v':
+    case u'\f':
+    case u'\r':
+    case QChar::LineSeparator:
+    case QChar::ParagraphSeparator:
+    case 0x85:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The lines of the text without its control characters; "\r\n" is one break.
+QStringList printableLines(const QString& text)
+{
+    QStringList lines{QString()};
+    QChar previous;
+    for (const QChar unit : text) {
+        if (isLineBreak(unit)) {
+            if (unit != QLatin1Char('\n') || previous != QLatin1Char('\r'))
+                lines.append(QString());
+        } else if (unit == QLatin1Char('\t') || unit.category() != QChar::Other_Control) {
+            lines.last().append(unit);
+        }
+        previous = unit;
+    }
+    return lines;
+}
+
+QTextOption textOption()
+{
+    constexpr double tabInterval = 28;
+    QTextOption option;
+    option.setUseDesignMetrics(true);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    option.setTabStopDistance(tabInterval);
+    return option;
+}
+
 } // namespace
 
 AttributedText::AttributedText(const QString& text, const TextAttributes& attributes)
@@ -31,37 +73,57 @@ AttributedText::AttributedText(const QString& text, const TextAttributes& attrib
     m_attributes.font = spacedFont(attributes);
     if (text.isEmpty())
         return;
-    m_lines = splitAtNewlines(text);
     const QFontMetricsF metrics(m_attributes.font);
     m_ascent = metrics.ascent();
     m_lineHeight = metrics.ascent() + metrics.descent() + std::max(0.0, metrics.leading());
     double width = 0;
-    for (const QString& line : std::as_const(m_lines))
-        width = std::max(width, lineWidth(line));
+    for (const QString& line : printableLines(text)) {
+        m_lines.append(lineOf(line));
+        width = std::max(width, m_lines.last().width);
+    }
     const auto lines = static_cast<double>(m_lines.size());
     const double spacing = std::max(0.0, m_attributes.lineSpacing);
     m_size = {width, lines * m_lineHeight + (lines - 1) * spacing};
 }
 
-QPainterPath AttributedText::shape() const
+AttributedText::Line AttributedText::lineOf(const QString& text) const
 {
-    QPainterPath shape;
-    shape.setFillRule(Qt::WindingFill);
-    const double pitch = m_lineHeight + std::max(0.0, m_attributes.lineSpacing);
-    double baseline = m_ascent;
-    for (const QString& line : m_lines) {
-        const double width = lineWidth(line);
-        const double left = lineLeft(width);
-        shape.addPath(glyphsOfLine(line, left, baseline));
-        shape.addPath(underlineOfLine(left, width, baseline));
-        baseline += pitch;
+    QTextLayout layout(text, m_attributes.font);
+    layout.setTextOption(textOption());
+    layout.beginLayout();
+    const QTextLine set = layout.createLine();
+    layout.endLayout();
+    if (!set.isValid())
+        return {};
+    Line line{.glyphs = {}, .width = std::max(0.0, set.horizontalAdvance())};
+    const QPointF toBaseline(0, -set.ascent());
+    for (QGlyphRun run : layout.glyphRuns()) {
+        QList<QPointF> positions = run.positions();
+        for (QPointF& position : positions)
+            position += toBaseline;
+        run.setPositions(positions);
+        line.glyphs.append(run);
     }
-    return shape;
+    return line;
 }
 
-double AttributedText::lineWidth(const QString& line) const
+TextDrawing AttributedText::drawing() const
 {
-    return std::max(0.0, QFontMetricsF(m_attributes.font).horizontalAdvance(line));
+    TextDrawing drawing;
+    drawing.shape.setFillRule(Qt::WindingFill);
+    const double pitch = m_lineHeight + std::max(0.0, m_attributes.lineSpacing);
+    double baseline = m_ascent;
+    for (const Line& line : m_lines) {
+        const TextDrawing lineDrawing = drawingOfLine(line);
+        const QPointF origin(lineLeft(line.width), baseline);
+        drawing.shape.addPath(lineDrawing.shape.translated(origin));
+        for (GlyphPicture picture : lineDrawing.pictures) {
+            picture.place *= QTransform::fromTranslate(origin.x(), origin.y());
+            drawing.pictures.append(picture);
+        }
+        baseline += pitch;
+    }
+    return drawing;
 }
 
 double AttributedText::lineLeft(double width) const
@@ -77,16 +139,23 @@ double AttributedText::lineLeft(double width) const
     return 0;
 }
 
-QPainterPath AttributedText::glyphsOfLine(const QString& line, double left, double baseline) const
+TextDrawing AttributedText::drawingOfLine(const Line& line) const
 {
-    QPainterPath glyphs;
-    glyphs.setFillRule(Qt::WindingFill);
-    glyphs.addText(QPointF(0, 0), m_attributes.font, line);
-    if (m_attributes.obliqueness != 0)
-        glyphs = QTransform(1, 0, -m_attributes.obliqueness, 1, 0, 0).map(glyphs);
+    const QTransform slant(1, 0, -m_attributes.obliqueness, 1, 0, 0);
+    TextDrawing drawing;
+    drawing.shape.setFillRule(Qt::WindingFill);
+    for (const QGlyphRun& run : line.glyphs) {
+        const TextDrawing glyphs = drawingOfGlyphs(run);
+        drawing.shape.addPath(slant.map(glyphs.shape));
+        for (GlyphPicture picture : glyphs.pictures) {
+            picture.place *= slant;
+            drawing.pictures.append(picture);
+        }
+    }
     if (m_attributes.strokeWidth > 0)
-        glyphs = outlined(glyphs);
-    return glyphs.translated(left, baseline);
+        drawing.shape = outlined(drawing.shape);
+    drawing.shape.addPath(underlineOfWidth(line.width));
+    return drawing;
 }
 
 QPainterPath AttributedText::outlined(const QPainterPath& glyphs) const
@@ -102,7 +171,7 @@ QPainterPath AttributedText::outlined(const QPainterPath& glyphs) const
     return outline;
 }
 
-QPainterPath AttributedText::underlineOfLine(double left, double width, double baseline) const
+QPainterPath AttributedText::underlineOfWidth(double width) const
 {
     QPainterPath underline;
     if (m_attributes.underline == UnderlineStyle::None || width <= 0)
@@ -110,8 +179,8 @@ QPainterPath AttributedText::underlineOfLine(double left, double width, double b
     const QFontMetricsF metrics(m_attributes.font);
     const double thickness
         = metrics.lineWidth() * (m_attributes.underline == UnderlineStyle::Thick ? 2 : 1);
-    const double middle = baseline + metrics.underlinePos();
-    underline.addRect(left, middle - thickness / 2, width, thickness);
+    const double middle = metrics.underlinePos();
+    underline.addRect(0, middle - thickness / 2, width, thickness);
     return underline;
 }
 

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "text_drawing.h"
+
 #include <QFont>
-#include <QPainterPath>
+#include <QGlyphRun>
 #include <QSizeF>
 #include <QString>
-#include <QStringList>
 
 namespace brenvaldo::platform {
 
@@ -26,7 +27,10 @@ struct TextAttributes
     TextAlignment alignment = TextAlignment::Left;
 };
 
-/// A text of one or more lines with attributes, measured and turned into shapes.
+/// A text of one or more lines with attributes, measured and turned into what is drawn.
+///
+/// Each line runs in the direction of its first letter. A tab goes on to the next multiple of 28
+/// points; other control characters show nothing.
 class AttributedText
 {
 public:
@@ -36,19 +40,23 @@ public:
     /// and shadow may reach beyond it.
     [[nodiscard]] QSizeF size() const { return m_size; }
 
-    /// All that is to be filled with the text's colour; the origin is the top left corner, y runs
-    /// down.
-    [[nodiscard]] QPainterPath shape() const;
+    [[nodiscard]] TextDrawing drawing() const;
 
 private:
-    [[nodiscard]] double lineWidth(const QString& line) const;
+    /// A line whose glyphs stand on a baseline at 0 and begin at 0.
+    struct Line
+    {
+        QList<QGlyphRun> glyphs;
+        double width = 0;
+    };
+
+    [[nodiscard]] Line lineOf(const QString& text) const;
     [[nodiscard]] double lineLeft(double width) const;
-    [[nodiscard]] QPainterPath
-    glyphsOfLine(const QString& line, double left, double baseline) const;
-    [[nodiscard]] QPainterPath underlineOfLine(double left, double width, double baseline) const;
+    [[nodiscard]] TextDrawing drawingOfLine(const Line& line) const;
+    [[nodiscard]] QPainterPath underlineOfWidth(double width) const;
     [[nodiscard]] QPainterPath outlined(const QPainterPath& glyphs) const;
 
-    QStringList m_lines;
+    QList<Line> m_lines;
     TextAttributes m_attributes;
     double m_lineHeight = 0;
     double m_ascent = 0;

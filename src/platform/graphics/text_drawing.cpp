@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "text_drawing.h"
+
+#include <QPainter>
+
+namespace brenvaldo::platform {
+
+void TextDrawing::draw(QPainter& painter, const QBrush& fill) const
+{
+    painter.fillPath(shape, fill);
+    painter.save();
+    if (fill.style() != Qt::TexturePattern)
+        painter.setOpacity(painter.opacity() * fill.color().alphaF());
+    for (const GlyphPicture& picture : pictures) {
+        painter.save();
+        painter.setTransform(picture.place, true);
+        painter.drawImage(0, 0, picture.image);
+        painter.restore();
+    }
+    painter.restore();
+}
+
+} // namespace brenvaldo::platform
