@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QTransform>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -14,7 +15,13 @@ namespace {
 /// Sizes this close to a whole number are that number.
 constexpr double noise = 1e-6;
 
-int wholePixels(double length) { return static_cast<int>(std::ceil(length - noise)); }
+/// Layers are no longer than this, whatever the size of the font; no photo is.
+constexpr double longestSide = 1 << 24;
+
+int wholePixels(double length)
+{
+    return static_cast<int>(std::ceil(std::min(length, longestSide) - noise));
+}
 
 QImage transparent(const QSize& size)
 {

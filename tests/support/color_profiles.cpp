@@ -49,6 +49,22 @@ QByteArray oddProfile()
     return wideProfile().replace(renderingIntent, 4, QByteArray("\xFF\0\0\0", 4));
 }
 
+QByteArray profileOf(const RgbSpace& space)
+{
+    constexpr int srgbCurveType = 4;
+    constexpr cmsFloat64Number srgbCurve[] = {2.4, 1 / 1.055, 0.055 / 1.055, 1 / 12.92, 0.04045};
+    const auto& [red, green, blue] = space.primaries;
+    const cmsCIExyYTRIPLE primaries
+        = {{red.x, red.y, 1}, {green.x, green.y, 1}, {blue.x, blue.y, 1}};
+    cmsToneCurve* curve = space.gamma > 0
+        ? cmsBuildGamma(nullptr, space.gamma)
+        : cmsBuildParametricToneCurve(nullptr, srgbCurveType, srgbCurve);
+    const std::array curves = {curve, curve, curve};
+    cmsHPROFILE profile = cmsCreateRGBProfile(&daylight, &primaries, curves.data());
+    cmsFreeToneCurve(curve);
+    return saved(profile);
+}
+
 QByteArray grayProfile()
 {
     cmsToneCurve* curve = cmsBuildGamma(nullptr, 1.8);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "rgb_space.h"
+
 #include <QByteArray>
 
 namespace brenvaldo::test {
@@ -10,6 +12,9 @@ namespace brenvaldo::test {
 
 /// `wideProfile` with a rendering intent that does not exist: some libraries reject it.
 [[nodiscard]] QByteArray oddProfile();
+
+/// The ICC profile of a space.
+[[nodiscard]] QByteArray profileOf(const RgbSpace& space);
 
 /// A profile of grey with a gamma of 1.8.
 [[nodiscard]] QByteArray grayProfile();

@@ -1,16 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <watermark/dv_watermark.h>
+#include "text_watermark_fixture.h"
 
-#include <panels/watermark_panel.h>
 #include <platform/foundation/log.h>
-#include <platform/foundation/paths.h>
-#include <platform/graphics/image_source.h>
 #include <platform/metadata/metadata_reader.h>
-#include <support/color_profiles.h>
 #include <support/exif_block.h>
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>
-#include <support/temporary_folder.h>
 #include <support/text_printing.h>
 
 #include <gtest/gtest.h>
@@ -21,64 +16,7 @@ using namespace brenvaldo;
 using namespace brenvaldo::watermark;
 using test::PhotoBuilder;
 using test::PhotoFormat;
-using test::PhotoModel;
-
-namespace {
-
-class TextWatermark : public testing::Test
-{
-protected:
-    TextWatermark()
-    {
-        panel.cbFontList.setTitles({QStringLiteral("DejaVu Sans Mono")});
-        panel.tvWaterMarkText.setStringValue(QStringLiteral("\u2588\u2588"));
-        panel.tfFontSize.setStringValue(QStringLiteral("20"));
-        panel.tfFontTransparancy.setStringValue(QStringLiteral("0"));
-        panel.scWaterMarkPos.setSelectedSegment(4);
-    }
-
-    ~TextWatermark() override { platform::setLogSink({}); }
-
-    QString run(const QStringList& photos, const QString& outputType = QStringLiteral("public.png"))
-    {
-        return mark.setWatermarkText(
-            {.photos = photos,
-             .destination = folder.path(),
-             .outputType = outputType,
-             .compressionLevel = QStringLiteral("9"),
-             .fileNameText = {},
-             .photoProperty = 0},
-            [this](const MarkedPhoto& photo) { done.append(photo); }
-        );
-    }
-
-    QString darkPhoto(const QString& name)
-    {
-        return PhotoBuilder().size(120, 80).solid({10, 20, 30}).write(sources.path(name));
-    }
-
-    test::TemporaryFolder sources;
-    test::TemporaryFolder folder;
-    panels::WatermarkPanel panel;
-    controls::ProgressIndicator bar{QStringLiteral("bar")};
-    QString chainPrefix;
-    QList<MarkedPhoto> done;
-    DVWatermark mark{
-        {.panel = panel,
-         .bar = bar,
-         .outputName
-         = [this](const QString& path) { return chainPrefix + platform::lastPathComponent(path); },
-         .previewPhoto = [](const QString& path) -> std::optional<platform::Image> {
-             const auto source = platform::ImageSource::open(path);
-             if (!source)
-                 return std::nullopt;
-             return source->uprightImage(
-                 {.access = platform::ImageSource::Access::Random, .atLeast = {}}
-             );
-         }}};
-};
-
-} // namespace
+using test::TextWatermark;
 
 TEST_F(TextWatermark, WritesAMarkedFileAPhoto)
 {
@@ -249,113 +187,3 @@ TEST_F(TextWatermark, PreviewWithoutATextIsNothing)
 
     EXPECT_FALSE(mark.setWatermarkTextPreview(darkPhoto(QStringLiteral("a.jpg"))).has_value());
 }
-
-namespace {
-
-struct KindCase
-{
-    const char* name;
-    PhotoModel model;
-    int depth;
-    PhotoFormat format;
-    const char* outputType;
-
-    friend void PrintTo(const KindCase& row, std::ostream* out) { *out << row.name; }
-};
-
-class MarkedPhotoKind : public TextWatermark, public testing::WithParamInterface<KindCase>
-{
-};
-
-} // namespace
-
-TEST_P(MarkedPhotoKind, KeepsItsKindAndShowsAWhiteMark)
-{
-    const KindCase& row = GetParam();
-    const QString photo = PhotoBuilder()
-                              .size(120, 80)
-                              .model(row.model)
-                              .depth(row.depth)
-                              .solid({40, 40, 40, 128, 255})
-                              .format(row.format)
-                              .write(sources.path(QStringLiteral("a.tif")));
-    const platform::ImageHeader before = test::openedPhoto(photo).header();
-
-    run({photo}, QString::fromLatin1(row.outputType));
-
-    ASSERT_EQ(done.value(0).word, QStringLiteral("OK"));
-    const platform::ImageHeader after = test::openedPhoto(done.value(0).target).header();
-    EXPECT_EQ(after.bitsPerComponent, before.bitsPerComponent);
-    EXPECT_EQ(after.colorModel, before.colorModel);
-    EXPECT_EQ(after.hasAlpha, before.hasAlpha);
-    const QRgb middle = test::storedPixels(done.value(0).target).pixel(60, 40);
-    EXPECT_GT(qRed(middle), 245);
-    EXPECT_GT(qGreen(middle), 245);
-    EXPECT_GT(qBlue(middle), 245);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table,
-    MarkedPhotoKind,
-    testing::Values(
-        KindCase{"Grey8", PhotoModel::Gray, 8, PhotoFormat::Tiff, "public.tiff"},
-        KindCase{"Grey16", PhotoModel::Gray, 16, PhotoFormat::Tiff, "public.png"},
-        KindCase{"Rgb16", PhotoModel::Rgb, 16, PhotoFormat::Tiff, "public.tiff"},
-        KindCase{"RgbAlpha8", PhotoModel::RgbAlpha, 8, PhotoFormat::Png, "public.png"},
-        KindCase{"RgbAlpha16", PhotoModel::RgbAlpha, 16, PhotoFormat::Png, "public.png"},
-        KindCase{"Cmyk8", PhotoModel::Cmyk, 8, PhotoFormat::Tiff, "public.tiff"}
-    ),
-    [](const auto& row) { return row.param.name; }
-);
-
-namespace {
-
-struct WideCase
-{
-    const char* name;
-    int depth;
-    PhotoModel model;
-
-    friend void PrintTo(const WideCase& row, std::ostream* out) { *out << row.name; }
-};
-
-class MarkedWidePhoto : public TextWatermark, public testing::WithParamInterface<WideCase>
-{
-};
-
-} // namespace
-
-TEST_P(MarkedWidePhoto, KeepsItsProfileAndShowsTheColourThatWasPicked)
-{
-    panel.cwFontColor.setColor({.red = 0.8, .green = 0.2, .blue = 0.4});
-    const QString photo = PhotoBuilder()
-                              .size(120, 80)
-                              .model(GetParam().model)
-                              .depth(GetParam().depth)
-                              .solid({40, 40, 40, 255})
-                              .iccProfile(test::wideProfile())
-                              .format(PhotoFormat::Png)
-                              .write(sources.path(QStringLiteral("a.png")));
-
-    run({photo});
-
-    const auto written = test::openedPhoto(done.value(0).target).image();
-    ASSERT_TRUE(written.has_value());
-    EXPECT_EQ(written->iccProfile(), test::wideProfile());
-    EXPECT_EQ(written->bitsPerComponent(), GetParam().depth);
-    const QRgb middle = written->toQImage().pixel(60, 40);
-    EXPECT_NEAR(qRed(middle), 204, 2);
-    EXPECT_NEAR(qGreen(middle), 51, 2);
-    EXPECT_NEAR(qBlue(middle), 102, 2);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table,
-    MarkedWidePhoto,
-    testing::Values(
-        WideCase{"Rgb8", 8, PhotoModel::Rgb},
-        WideCase{"Rgb16", 16, PhotoModel::Rgb},
-        WideCase{"RgbAlpha8", 8, PhotoModel::RgbAlpha}
-    ),
-    [](const auto& row) { return row.param.name; }
-);

@@ -13,13 +13,24 @@ namespace brenvaldo::platform {
 
 namespace {
 
-QFont spacedFont(const TextAttributes& attributes)
+/// Larger fonts are laid out at this size and magnified: their metrics overflow.
+constexpr int largestLayout = 1000;
+
+double scaleOf(const TextAttributes& attributes)
 {
-    QFont font = attributes.font;
+    return std::max(1.0, static_cast<double>(attributes.font.pixelSize()) / largestLayout);
+}
+
+TextAttributes laidOut(TextAttributes attributes, double scale)
+{
+    attributes.kerning /= scale;
+    attributes.lineSpacing /= scale;
+    QFont& font = attributes.font;
+    font.setPixelSize(std::min(font.pixelSize(), largestLayout));
     font.setKerning(false);
     font.setLetterSpacing(QFont::AbsoluteSpacing, attributes.kerning);
     font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
+    return attributes;
 }
 
 bool isLineBreak(QChar unit)
@@ -55,9 +66,8 @@ QStringList printableLines(const QString& text)
     return lines;
 }
 
-QTextOption textOption()
+QTextOption textOption(double tabInterval)
 {
-    constexpr double tabInterval = 28;
     QTextOption option;
     option.setUseDesignMetrics(true);
     option.setFlags(QTextOption::IncludeTrailingSpaces);
@@ -68,9 +78,9 @@ QTextOption textOption()
 } // namespace
 
 AttributedText::AttributedText(const QString& text, const TextAttributes& attributes)
-    : m_attributes(attributes)
+    : m_attributes(laidOut(attributes, scaleOf(attributes)))
+    , m_scale(scaleOf(attributes))
 {
-    m_attributes.font = spacedFont(attributes);
     if (text.isEmpty())
         return;
     const QFontMetricsF metrics(m_attributes.font);
@@ -88,8 +98,9 @@ AttributedText::AttributedText(const QString& text, const TextAttributes& attrib
 
 AttributedText::Line AttributedText::lineOf(const QString& text) const
 {
+    constexpr double tabInterval = 28;
     QTextLayout layout(text, m_attributes.font);
-    layout.setTextOption(textOption());
+    layout.setTextOption(textOption(tabInterval / m_scale));
     layout.beginLayout();
     const QTextLine set = layout.createLine();
     layout.endLayout();
@@ -115,12 +126,9 @@ TextDrawing AttributedText::drawing() const
     double baseline = m_ascent;
     for (const Line& line : m_lines) {
         const TextDrawing lineDrawing = drawingOfLine(line);
-        const QPointF origin(lineLeft(line.width), baseline);
-        drawing.shape.addPath(lineDrawing.shape.translated(origin));
-        for (GlyphPicture picture : lineDrawing.pictures) {
-            picture.place *= QTransform::fromTranslate(origin.x(), origin.y());
-            drawing.pictures.append(picture);
-        }
+        const QTransform toText = QTransform::fromTranslate(lineLeft(line.width), baseline)
+            * QTransform::fromScale(m_scale, m_scale);
+        drawing.add(lineDrawing, toText);
         baseline += pitch;
     }
     return drawing;
@@ -145,12 +153,7 @@ TextDrawing AttributedText::drawingOfLine(const Line& line) const
     TextDrawing drawing;
     drawing.shape.setFillRule(Qt::WindingFill);
     for (const QGlyphRun& run : line.glyphs) {
-        const TextDrawing glyphs = drawingOfGlyphs(run);
-        drawing.shape.addPath(slant.map(glyphs.shape));
-        for (GlyphPicture picture : glyphs.pictures) {
-            picture.place *= slant;
-            drawing.pictures.append(picture);
-        }
+        drawing.add(drawingOfGlyphs(run), slant);
     }
     if (m_attributes.strokeWidth > 0)
         drawing.shape = outlined(drawing.shape);

@@ -38,7 +38,7 @@ public:
 
     /// Width of the longest line and height of all lines; empty for an empty text. Slant, outline
     /// and shadow may reach beyond it.
-    [[nodiscard]] QSizeF size() const { return m_size; }
+    [[nodiscard]] QSizeF size() const { return m_size * m_scale; }
 
     [[nodiscard]] TextDrawing drawing() const;
 
@@ -57,7 +57,8 @@ private:
     [[nodiscard]] QPainterPath outlined(const QPainterPath& glyphs) const;
 
     QList<Line> m_lines;
-    TextAttributes m_attributes;
+    TextAttributes m_attributes; ///< at the size of layout, as are all lengths below
+    double m_scale = 1; ///< from the size of layout to that of the text
     double m_lineHeight = 0;
     double m_ascent = 0;
     QSizeF m_size;

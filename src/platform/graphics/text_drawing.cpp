@@ -5,6 +5,15 @@
 
 namespace brenvaldo::platform {
 
+void TextDrawing::add(const TextDrawing& other, const QTransform& place)
+{
+    shape.addPath(place.map(other.shape));
+    for (GlyphPicture picture : other.pictures) {
+        picture.place *= place;
+        pictures.append(picture);
+    }
+}
+
 void TextDrawing::draw(QPainter& painter, const QBrush& fill) const
 {
     painter.fillPath(shape, fill);

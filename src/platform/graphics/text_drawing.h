@@ -24,6 +24,8 @@ struct TextDrawing
     QPainterPath shape; ///< the glyphs that have outlines, and the underlines
     QList<GlyphPicture> pictures;
 
+    void add(const TextDrawing& other, const QTransform& place);
+
     /// Fills the shape and lays the pictures over it, as translucent as the colour of `fill`.
     void draw(QPainter& painter, const QBrush& fill) const;
 };

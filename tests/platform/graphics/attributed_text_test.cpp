@@ -115,6 +115,29 @@ TEST(AttributedText, UnderlinesItsWholeAdvance)
     );
 }
 
+TEST(AttributedText, OfHugeLettersIsTheSmallOneMagnified)
+{
+    constexpr double factor = 100;
+    TextAttributes small = plain(500);
+    small.underline = UnderlineStyle::Single;
+    small.kerning = 4;
+    small.lineSpacing = 10;
+    TextAttributes huge = small;
+    huge.font.setPixelSize(static_cast<int>(500 * factor));
+    huge.kerning = 4 * factor;
+    huge.lineSpacing = 10 * factor;
+
+    const AttributedText smallText(text("Ab\nc"), small);
+    const AttributedText hugeText(text("Ab\nc"), huge);
+
+    EXPECT_NEAR(hugeText.size().width(), smallText.size().width() * factor, factor / 2);
+    EXPECT_NEAR(hugeText.size().height(), smallText.size().height() * factor, factor / 2);
+    const QRectF smallShape = smallText.drawing().shape.boundingRect();
+    const QRectF hugeShape = hugeText.drawing().shape.boundingRect();
+    EXPECT_NEAR(hugeShape.bottom(), smallShape.bottom() * factor, factor / 2);
+    EXPECT_NEAR(hugeShape.right(), smallShape.right() * factor, factor / 2);
+}
+
 TEST(AttributedText, SetsRightToLeftText)
 {
     const AttributedText hebrew(QStringLiteral("\u05e9\u05dc\u05d5\u05dd"), plain());

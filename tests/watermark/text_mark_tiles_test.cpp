@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "marked_text.h"
+
+#include <support/pixel_probe.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using namespace brenvaldo;
+using namespace brenvaldo::test;
+using watermark::TextWatermarkSettings;
+
+namespace {
+
+int floorModulo(int value, int size) { return ((value % size) + size) % size; }
+
+/// Pixels by which the covered span begins before the photo: half of what one tile more than fits
+/// is too long.
+int overhang(int photo, int layer) { return ((photo / layer + 1) * layer - photo) / 2; }
+
+/// The photo covered with cells, each pixel looked up in the cell by the rules of tiling.
+QImage expectedTiles(const TextWatermarkSettings& settings, const platform::Image& photo)
+{
+    const QImage layer = wholeLayer(overlayOf(settings, photo));
+    const int xGap = settings.placement.xOffset;
+    const int yGap = settings.placement.yOffset;
+    const QSize cellSize(layer.width() + xGap, layer.height() + yGap);
+    QImage cell(cellSize, QImage::Format_ARGB32_Premultiplied);
+    cell.fill(Qt::transparent);
+    QPainter(&cell).drawImage(xGap / 2, cell.height() - yGap / 2 - layer.height(), layer);
+
+    QImage cells(photo.width(), photo.height(), QImage::Format_ARGB32_Premultiplied);
+    for (int row = 0; row < cells.height(); ++row) {
+        const int y = photo.height() - 1 - row + overhang(photo.height(), layer.height());
+        for (int column = 0; column < cells.width(); ++column) {
+            const int x = column + overhang(photo.width(), layer.width());
+            const int cellRow = cell.height() - 1 - floorModulo(y, cell.height());
+            cells.setPixel(column, row, cell.pixel(floorModulo(x, cell.width()), cellRow));
+        }
+    }
+    QImage expected = photo.toQImage();
+    QPainter painter(&expected);
+    painter.setOpacity(settings.opacity);
+    painter.drawImage(0, 0, cells);
+    painter.end();
+    return expected;
+}
+
+TextWatermarkSettings tiledBlock(int xOffset = 0, int yOffset = 0)
+{
+    TextWatermarkSettings settings = whiteBlock();
+    settings.isTiled = true;
+    settings.placement.xOffset = xOffset;
+    settings.placement.yOffset = yOffset;
+    return settings;
+}
+
+struct TilesCase
+{
+    const char* name;
+    int xOffset = 0;
+    int yOffset = 0;
+    int angle = 0;
+    double opacity = 1;
+    int effect = 0;
+    platform::PixelSize photo{.width = 161, .height = 121};
+
+    friend void PrintTo(const TilesCase& row, std::ostream* out) { *out << row.name; }
+};
+
+class TextMarkTiles : public testing::TestWithParam<TilesCase>
+{
+};
+
+} // namespace
+
+TEST_P(TextMarkTiles, CoverThePhotoPixelByPixel)
+{
+    const TilesCase& row = GetParam();
+    TextWatermarkSettings settings = tiledBlock(row.xOffset, row.yOffset);
+    settings.text = QStringLiteral("A") + block();
+    settings.placement.angle = row.angle;
+    settings.opacity = row.opacity;
+    settings.effect = row.effect;
+    const platform::Image photo = plainPhoto(row.photo.width, row.photo.height);
+
+    const QImage found = markedPhoto(settings, photo);
+
+    EXPECT_LE(largestDifference(found, expectedTiles(settings, photo)), 1);
+    EXPECT_GT(changedPixels(found), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    TextMarkTiles,
+    testing::Values(
+        TilesCase{.name = "WithoutGaps"},
+        TilesCase{.name = "EvenGaps", .xOffset = 10, .yOffset = 6},
+        TilesCase{.name = "OddGaps", .xOffset = 7, .yOffset = 3},
+        TilesCase{.name = "Overlapping", .xOffset = -5, .yOffset = -3},
+        TilesCase{.name = "GapsLargerThanThePhoto", .xOffset = 180, .yOffset = 130},
+        TilesCase{.name = "Turned", .xOffset = 4, .yOffset = 2, .angle = 30},
+        TilesCase{.name = "Translucent", .xOffset = 4, .yOffset = 2, .opacity = 0.5},
+        TilesCase{.name = "Embossed", .xOffset = 4, .yOffset = 2, .effect = 2},
+        TilesCase{.name = "SmallPhoto", .xOffset = 4, .photo = {.width = 11, .height = 9}}
+    ),
+    [](const auto& row) { return row.param.name; }
+);
+
+TEST(TextMark, TilingIgnoresThePosition)
+{
+    TextWatermarkSettings settings = tiledBlock();
+    const QImage first = markedPhoto(settings);
+    settings.placement.anchor = 8;
+
+    EXPECT_EQ(markedPhoto(settings), first);
+}
+
+TEST(TextMark, OffsetsThatEatTheTileUpLeaveNoMark)
+{
+    const platform::PixelSize layer = overlayOf(tiledBlock()).size();
+
+    EXPECT_EQ(changedPixels(markedPhoto(tiledBlock(-layer.width, 0))), 0);
+    EXPECT_EQ(changedPixels(markedPhoto(tiledBlock(0, -layer.height - 5))), 0);
+}
+
+TEST(TextMark, TilesLargerThanThePhotoStandWhereSmallOnesWould)
+{
+    // The photo shows the middle of one cell, where the block ends and the blank begins.
+    TextWatermarkSettings settings = tiledBlock(-100, 20);
+    settings.text = block() + QLatin1Char(' ');
+    settings.fontSize = 5000;
+    const platform::Image photo = plainPhoto();
+    const watermark::TextOverlay overlay = overlayOf(settings, photo);
+    const platform::PixelSize layer = overlay.size();
+
+    const QImage found = markedPhoto(settings, photo);
+
+    int different = 0;
+    for (int row = 0; row < photo.height(); row += 5) {
+        const int y = photo.height() - 1 - row + overhang(photo.height(), layer.height) - 10;
+        for (int column = 0; column < photo.width(); column += 5) {
+            const int x = column + overhang(photo.width(), layer.width) + 50;
+            const QImage pixel = overlay.rendered({x, layer.height - 1 - y, 1, 1});
+            const bool isMarked = qAlpha(pixel.pixel(0, 0)) > 0;
+            different += isChanged(found.pixel(column, row)) == isMarked ? 0 : 1;
+        }
+    }
+    EXPECT_EQ(different, 0);
+    EXPECT_GT(changedPixels(found), 1000);
+    EXPECT_LT(changedPixels(found), photo.width() * photo.height() - 1000);
+}

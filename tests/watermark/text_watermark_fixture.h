@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <watermark/dv_watermark.h>
+
+#include <panels/watermark_panel.h>
+#include <platform/foundation/log.h>
+#include <platform/foundation/paths.h>
+#include <platform/graphics/image_source.h>
+#include <support/photo_builder.h>
+#include <support/temporary_folder.h>
+
+#include <gtest/gtest.h>
+
+namespace brenvaldo::test {
+
+/// A panel set to two white blocks in the middle, and runs on photos in a folder of its own.
+class TextWatermark : public testing::Test
+{
+protected:
+    TextWatermark()
+    {
+        panel.cbFontList.setTitles({QStringLiteral("DejaVu Sans Mono")});
+        panel.tvWaterMarkText.setStringValue(QStringLiteral("\u2588\u2588"));
+        panel.tfFontSize.setStringValue(QStringLiteral("20"));
+        panel.tfFontTransparancy.setStringValue(QStringLiteral("0"));
+        panel.scWaterMarkPos.setSelectedSegment(4);
+    }
+
+    ~TextWatermark() override { platform::setLogSink({}); }
+
+    QString run(const QStringList& photos, const QString& outputType = QStringLiteral("public.png"))
+    {
+        return mark.setWatermarkText(
+            {.photos = photos,
+             .destination = folder.path(),
+             .outputType = outputType,
+             .compressionLevel = QStringLiteral("9"),
+             .fileNameText = {},
+             .photoProperty = 0},
+            [this](const watermark::MarkedPhoto& photo) { done.append(photo); }
+        );
+    }
+
+    QString darkPhoto(const QString& name)
+    {
+        return PhotoBuilder().size(120, 80).solid({10, 20, 30}).write(sources.path(name));
+    }
+
+    TemporaryFolder sources;
+    TemporaryFolder folder;
+    panels::WatermarkPanel panel;
+    controls::ProgressIndicator bar{QStringLiteral("bar")};
+    QString chainPrefix;
+    QList<watermark::MarkedPhoto> done;
+    watermark::DVWatermark mark{
+        {.panel = panel,
+         .bar = bar,
+         .outputName
+         = [this](const QString& path) { return chainPrefix + platform::lastPathComponent(path); },
+         .previewPhoto = [](const QString& path) -> std::optional<platform::Image> {
+             const auto source = platform::ImageSource::open(path);
+             if (!source)
+                 return std::nullopt;
+             return source->uprightImage(
+                 {.access = platform::ImageSource::Access::Random, .atLeast = {}}
+             );
+         }}};
+};
+
+} // namespace brenvaldo::test
