@@ -162,6 +162,17 @@ TEST_F(Meta, AnswersTheDateForEveryOtherName)
     EXPECT_EQ(mMeta::hGetExifUc(path, u"anything"_qs), u"2026:11:15 10:44:33"_qs);
 }
 
+TEST_F(Meta, AnswersTheIptcTimeInPlaceOfAnEmptyDate)
+{
+    const QString path
+        = jpeg(PhotoBuilder{}
+                   .exif(exifBlock({.dateTimeOriginal = QByteArray("\0", 1)}))
+                   .jpegSegment('\xED', test::iptcSegmentContents(iptcDataSet(60, "104433"))));
+
+    EXPECT_EQ(mMeta::hGetExifUc(path, creationDate), u"104433"_qs);
+    EXPECT_EQ(mMeta::hGetExifUcFromSource(*mMeta::getMyImageSource(path), creationDate), QString());
+}
+
 TEST_F(Meta, AnswersNothingWithoutExif)
 {
     EXPECT_EQ(mMeta::hGetExifUc(jpeg(PhotoBuilder{}), creationDate), QString());
@@ -268,7 +279,9 @@ TEST_F(Meta, FillsTheIptcFields)
         '\xED',
         test::iptcSegmentContents(
             iptcDataSet(5, "title") + iptcDataSet(25, "a") + iptcDataSet(25, "b")
-            + iptcDataSet(80, "Jane") + iptcDataSet(116, "(c) Jane")
+            + iptcDataSet(120, "caption") + iptcDataSet(116, "(c) Jane") + iptcDataSet(80, "Jane")
+            + iptcDataSet(85, "Editor") + iptcDataSet(115, "source") + iptcDataSet(118, "contact")
+            + iptcDataSet(122, "writer")
         )
     ));
 
@@ -279,9 +292,36 @@ TEST_F(Meta, FillsTheIptcFields)
     EXPECT_EQ(shownComment(), u"hello"_qs);
     EXPECT_EQ(panel.tfIPTCTitle.stringValue(), u"title"_qs);
     EXPECT_EQ(panel.tfIPTCKeyWords.stringValue(), u"a;b;"_qs);
-    EXPECT_EQ(panel.tfIPTCCreator.stringValue(), u"Jane"_qs);
-    EXPECT_EQ(panel.tfIPTCCopyRight.stringValue(), u"(c) Jane"_qs);
+    EXPECT_EQ(panel.tfIPTCCaption.stringValue(), u"caption"_qs);
     EXPECT_EQ(panel.tfIPTCHeadline.stringValue(), QString());
+    EXPECT_EQ(panel.tfIPTCCopyRight.stringValue(), u"(c) Jane"_qs);
+    EXPECT_EQ(panel.tfIPTCCreator.stringValue(), u"Jane"_qs);
+    EXPECT_EQ(panel.tfIPTCCreatorTitle.stringValue(), u"Editor"_qs);
+    EXPECT_EQ(panel.tfIPTCSourceOwner.stringValue(), u"source"_qs);
+    EXPECT_EQ(panel.tfIPTCImageContactInfo.stringValue(), u"contact"_qs);
+    EXPECT_EQ(panel.tfIPTCEditorContactInfo.stringValue(), u"writer"_qs);
+}
+
+TEST_F(Meta, FillsTheFieldsThatOnlyXmpHas)
+{
+    const QString path = jpeg(PhotoBuilder{}.xmp(
+        "<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
+        "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description rdf:about='' "
+        "xmlns:xmpRights='http://ns.adobe.com/xap/1.0/rights/' "
+        "xmlns:Iptc4xmpCore='http://iptc.org/std/Iptc4xmpCore/1.0/xmlns/'>"
+        "<xmpRights:UsageTerms><rdf:Alt><rdf:li xml:lang='x-default'>ask</rdf:li></rdf:Alt>"
+        "</xmpRights:UsageTerms>"
+        "<Iptc4xmpCore:CreatorContactInfo rdf:parseType='Resource'>"
+        "<Iptc4xmpCore:CiAdrCity>Bern</Iptc4xmpCore:CiAdrCity>"
+        "<Iptc4xmpCore:CiEmailWork>jane@example.org</Iptc4xmpCore:CiEmailWork>"
+        "</Iptc4xmpCore:CreatorContactInfo></rdf:Description></rdf:RDF></x:xmpmeta>"
+    ));
+
+    m_meta.hGetMetaData(path);
+
+    const panels::ExifPanel& panel = m_panels.vwFileManagementEXIF;
+    EXPECT_EQ(panel.tfIPTCCopyRightTerms.stringValue(), u"ask"_qs);
+    EXPECT_EQ(panel.tfIPTCCreatorContactInfo.stringValue(), u"Bern; jane@example.org"_qs);
 }
 
 TEST_F(Meta, EmptiesTheIptcFieldsForAPhotoWithoutIptc)

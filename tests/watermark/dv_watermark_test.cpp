@@ -43,6 +43,20 @@ TEST_F(TextWatermark, UsesTheNameAfterTheChainOfActions)
     EXPECT_TRUE(QFileInfo::exists(folder.path(QStringLiteral("new_a.png"))));
 }
 
+TEST_F(TextWatermark, ShowsTheNameAfterTheChainOfActionsWithItsExtension)
+{
+    chainPrefix = QStringLiteral("new_");
+    panel.tfFontSize.setStringValue(QStringLiteral("12"));
+    panel.tvWaterMarkText.setStringValue(QStringLiteral("<[IMGFN]>"));
+    const QString photo = darkPhoto(QStringLiteral("a.jpg"));
+    const auto byPlaceholder = mark.setWatermarkTextPreview(photo);
+
+    panel.tvWaterMarkText.setStringValue(QStringLiteral("new_a.jpg"));
+    const auto byName = mark.setWatermarkTextPreview(photo);
+
+    EXPECT_EQ(byPlaceholder->toQImage(), byName->toQImage());
+}
+
 TEST_F(TextWatermark, KeepsTheOriginalFileType)
 {
     run({darkPhoto(QStringLiteral("a.jpeg"))}, QStringLiteral("original file type"));

@@ -92,18 +92,19 @@ std::optional<PropertyValue> numberAt(const TiffField& field, std::uint64_t offs
     }
 }
 
-/// All numbers of the field; empty when one of them is a fraction by 0.
+/// All numbers of the field; one that is not known, a fraction by 0, counts 0. Empty when none is
+/// known.
 PropertyValue::Array numbersOf(const TiffField& field, ByteOrder order)
 {
     const int width = widthOf(field.type);
     PropertyValue::Array numbers;
+    bool isAnyKnown = false;
     for (qsizetype offset = 0; offset + width <= field.value.size(); offset += width) {
         const auto number = numberAt(field, static_cast<std::uint64_t>(offset), order);
-        if (!number)
-            return {};
-        numbers.append(*number);
+        isAnyKnown = isAnyKnown || number.has_value();
+        numbers.append(number.value_or(PropertyValue(0)));
     }
-    return numbers;
+    return isAnyKnown ? numbers : PropertyValue::Array();
 }
 
 std::optional<PropertyValue> arrayOf(const TiffField& field, ByteOrder order)
@@ -143,7 +144,8 @@ std::optional<PropertyValue> versionOf(const TiffField& field)
 QList<double> threeParts(const TiffField& field, ByteOrder order)
 {
     constexpr int parts = 3;
-    if (field.type != Rational || field.value.size() < widthOf(Rational))
+    const bool isFraction = field.type == Rational || field.type == SignedRational;
+    if (!isFraction || field.value.size() < widthOf(Rational))
         return {};
     QList<double> values;
     for (int i = 0; i < parts; ++i) {
@@ -239,19 +241,7 @@ QString unicodeText(QByteArrayView bytes, ByteOrder order)
     return decoder(bytes);
 }
 
-QString withoutTrailingZeros(QString text)
-{
-    while (text.endsWith(QChar::Null))
-        text.chop(1);
-    return text;
-}
-
-QString textOfUnknownEncoding(QByteArrayView bytes)
-{
-    return withoutTrailingZeros(
-        bytes.isValidUtf8() ? QString::fromUtf8(bytes) : QString::fromLatin1(bytes)
-    );
-}
+QString upToZero(const QString& text) { return text.left(text.indexOf(QChar::Null)); }
 
 /// ISO 2022-JP, or the bare two-byte codes of JIS X 0208 without its escape sequences.
 QString japaneseText(QByteArrayView bytes)
@@ -261,8 +251,7 @@ QString japaneseText(QByteArrayView bytes)
         = (bytes.contains(escape) ? QByteArray() : QByteArray("\x1B$B")) + bytes.toByteArray();
     QStringDecoder decoder("ISO-2022-JP");
     const QString text = decoder.isValid() ? QString(decoder(escaped)) : QString();
-    return decoder.isValid() && !decoder.hasError() ? withoutTrailingZeros(text)
-                                                    : textOfUnknownEncoding(bytes);
+    return decoder.isValid() && !decoder.hasError() ? upToZero(text) : metadataText(bytes);
 }
 
 } // namespace
@@ -280,14 +269,14 @@ ExifProperties exifProperties(const TiffFile& file)
 QString userCommentText(QByteArrayView comment, ByteOrder order)
 {
     if (comment.size() < characterCodeLength)
-        return textOfUnknownEncoding(comment);
+        return metadataText(comment);
     const QByteArrayView code = comment.first(characterCodeLength);
     const QByteArrayView text = comment.sliced(characterCodeLength);
     if (code.startsWith("UNICODE"))
-        return withoutTrailingZeros(unicodeText(text, order));
+        return upToZero(unicodeText(text, order));
     if (code.startsWith("JIS"))
         return japaneseText(text);
-    return textOfUnknownEncoding(text);
+    return metadataText(text);
 }
 
 QString metadataText(QByteArrayView bytes)

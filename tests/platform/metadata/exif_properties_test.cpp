@@ -78,6 +78,18 @@ TEST(ExifProperties, LeavesOutAFractionByZero)
     );
 }
 
+TEST(ExifProperties, ShowsAnUnknownPartOfAnArrayAsZero)
+{
+    const auto lens = [](const QList<qint64>& fractions) {
+        return exifText(
+            "LensSpecification", {.tag = 0xa432, .type = rational, .value = numbers(4, fractions)}
+        );
+    };
+
+    EXPECT_EQ(lens({24, 1, 70, 1, 0, 0, 0, 0}), text("(\n    24,\n    70,\n    0,\n    0\n)"));
+    EXPECT_EQ(lens({0, 0, 0, 0, 0, 0, 0, 0}), std::nullopt);
+}
+
 TEST(ExifProperties, ShowsSpeedRatingsAsAnArrayAlways)
 {
     EXPECT_EQ(
@@ -147,6 +159,17 @@ TEST(ExifProperties, ShowsPositionsInDegreesWithoutTheHemisphere)
             "Latitude", {.tag = 2, .type = rational, .value = numbers(4, {51, 1, 30, 1, 3600, 100})}
         ),
         text("51.51")
+    );
+}
+
+TEST(ExifProperties, ShowsPositionsStoredAsSignedFractions)
+{
+    EXPECT_EQ(
+        gpsText(
+            "Longitude",
+            {.tag = 4, .type = signedRational, .value = numbers(4, {24, 1, 30, 1, 3600, 100})}
+        ),
+        text("24.51")
     );
 }
 
@@ -242,6 +265,21 @@ INSTANTIATE_TEST_SUITE_P(
             QByteArray("JIS\0\0\0\0\0", 8) + "$\"",
             ByteOrder::Big,
             text("\u3042")},
+        CommentCase{
+            "BytesBehindTheEnd",
+            QByteArray("ASCII\0\0\0plain\0\x0B\0\xF8", 17),
+            ByteOrder::Little,
+            text("plain")},
+        CommentCase{
+            "UnknownCode",
+            QByteArray("\0\x1F\xDD\0\0\0\0\x01\0\0\x0B", 11),
+            ByteOrder::Little,
+            text("")},
+        CommentCase{
+            "UnicodeBehindTheEnd",
+            QByteArray("UNICODE\0a\0\0\0b\0", 14),
+            ByteOrder::Little,
+            text("a")},
         CommentCase{"Blanks", QByteArray(8, '\0') + "   ", ByteOrder::Big, text("   ")},
         CommentCase{"Empty", QByteArray("ASCII\0\0\0", 8), ByteOrder::Big, text("")},
         CommentCase{"TooShort", "abc", ByteOrder::Big, text("abc")}
