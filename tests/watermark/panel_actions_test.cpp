@@ -104,6 +104,32 @@ TEST_F(WatermarkPanelActions, InsertTheSelectedToken)
     EXPECT_EQ(panel.tvWaterMarkText.stringValue(), QStringLiteral("by <[IPTCCREA]>"));
 }
 
+TEST_F(WatermarkPanelActions, InsertNothingWithoutASelectionAndStillPost)
+{
+    int posted = 0;
+    const auto subscription = notifications.addObserver(
+        QStringLiteral("cbTextWatermarkMetaDataEntred"), [&](const QString&) { ++posted; }
+    );
+    panel.tvWaterMarkText.setStringValue(QStringLiteral("by "));
+    panel.pubPhotoProperties.selectItemAtIndex(-1);
+
+    send("hInsertPhotoProperty");
+
+    EXPECT_EQ(panel.tvWaterMarkText.stringValue(), QStringLiteral("by "));
+    EXPECT_EQ(posted, 1);
+}
+
+TEST_F(WatermarkPanelActions, EnableTheThicknessWithTheOutline)
+{
+    panel.cbOutlineCheck.setState(1);
+    send("hTextOutlineCheckBox");
+    EXPECT_TRUE(panel.pubOutlineThickness.isEnabled());
+
+    panel.cbOutlineCheck.setState(0);
+    send("hTextOutlineCheckBox");
+    EXPECT_FALSE(panel.pubOutlineThickness.isEnabled());
+}
+
 TEST_F(WatermarkPanelActions, EnableTheShadowFieldsWithTheirBox)
 {
     panel.cbShadowCheck.setState(1);

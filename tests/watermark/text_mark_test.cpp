@@ -1,33 +1,75 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "marked_text.h"
 
+#include <platform/filters/photo_effect.h>
+#include <support/case_name.h>
 #include <support/text_printing.h>
 
 #include <gtest/gtest.h>
+
+#include <array>
 
 using namespace brenvaldo;
 using namespace brenvaldo::test;
 using namespace brenvaldo::watermark;
 
-TEST(TextMark, IsOpaqueAtATransparencyOfZero)
+namespace {
+
+struct StrengthCase
+{
+    const char* name;
+    int percent;
+    double strength; ///< of the glyphs on the photo: the opacity counts twice
+
+    friend void PrintTo(const StrengthCase& row, std::ostream* out) { *out << row.name; }
+};
+
+class TextMarkStrength : public testing::TestWithParam<StrengthCase>
+{
+};
+
+} // namespace
+
+TEST_P(TextMarkStrength, IsTheSquareOfTheOpacity)
 {
     TextWatermarkSettings settings = whiteBlock();
-    settings.opacity = opacityOfPercent(0);
+    settings.placement.anchor = 4;
+    settings.opacity = opacityOfPercent(GetParam().percent);
 
-    const QImage image = markedPhoto(settings);
+    const QRgb middle = markedPhoto(settings).pixel(80, 60);
 
-    EXPECT_EQ(image.pixel(changedBox(image).center()), qRgb(255, 255, 255));
+    const double strength = GetParam().strength;
+    EXPECT_NEAR(qRed(middle), 10 + (255 - 10) * strength, 1.5);
+    EXPECT_NEAR(qGreen(middle), 20 + (255 - 20) * strength, 1.5);
+    EXPECT_NEAR(qBlue(middle), 30 + (255 - 30) * strength, 1.5);
 }
 
-TEST(TextMark, AppliesTheOpacityTwiceForAPlainColour)
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    TextMarkStrength,
+    testing::Values(
+        StrengthCase{"ZeroIsOpaque", 0, 1},
+        StrengthCase{"BelowZero", -5, 0.01},
+        StrengthCase{"OneIsNearlyInvisible", 1, 0.0001},
+        StrengthCase{"Half", 50, 0.25},
+        StrengthCase{"NinetyNine", 99, 0.9801},
+        StrengthCase{"Hundred", 100, 1},
+        StrengthCase{"AboveHundred", 101, 1}
+    ),
+    CaseName()
+);
+
+TEST(TextMark, HasTranslucentGlyphsForAllEffectsButThoseOfThePhoto)
 {
     TextWatermarkSettings settings = whiteBlock();
-    settings.opacity = 0.5;
+    settings.opacity = 0.6;
+    for (int effect = 0; effect <= 10; ++effect) {
+        settings.effect = effect;
+        const QImage layer = wholeLayer(overlayOf(settings));
 
-    const QImage image = markedPhoto(settings);
-
-    const int quarter = 10 + (255 - 10) / 4;
-    EXPECT_NEAR(qRed(image.pixel(changedBox(image).center())), quarter, 2);
+        const bool isPhoto = effect == 7 || effect == 8;
+        EXPECT_NEAR(qAlpha(layer.pixel(layer.rect().center())), isPhoto ? 255 : 153, 1) << effect;
+    }
 }
 
 TEST(TextMark, OfAnEmptyTextLeavesThePhotoAsItIs)
@@ -47,6 +89,41 @@ TEST(TextMark, MovesRightAndUpWithItsOffsets)
     settings.placement.yOffset = 4;
 
     EXPECT_EQ(changedBox(markedPhoto(settings)), before.translated(7, -4));
+}
+
+TEST(TextMark, OutlinesAreAsWideAsTheTableSays)
+{
+    constexpr std::array widths{0.5, 1.0, 3.0, 5.0, 7.0, 7.0};
+    constexpr int fontSize = 400;
+    TextWatermarkSettings settings = whiteBlock();
+    settings.text = QStringLiteral(" \u25a0 ");
+    settings.fontSize = fontSize;
+    settings.placement.anchor = 4;
+    for (std::size_t index = 0; index < widths.size(); ++index) {
+        settings.strokeWidth = strokeWidthOfIndex(static_cast<int>(index));
+
+        const QImage image = markedPhoto(settings, plainPhoto(751, 501));
+
+        double strokes = 0; // the left and the right side, edges counted by their coverage
+        const QRect box = changedBox(image);
+        for (int x = 0; x < image.width(); ++x)
+            strokes += (qRed(image.pixel(x, box.center().y())) - 10) / 245.0;
+        EXPECT_NEAR(strokes / 2, widths[index] / 100 * fontSize, 0.1) << index;
+    }
+}
+
+TEST(TextMark, IsOneBlankWiderWhenItIsItalic)
+{
+    TextWatermarkSettings settings = whiteBlock();
+    settings.text = QStringLiteral("AB");
+    const int upright = overlayOf(settings).size().width;
+    settings.text = QStringLiteral("AB ");
+    const int withBlank = overlayOf(settings).size().width;
+    settings.text = QStringLiteral("AB");
+    settings.isItalic = true;
+
+    EXPECT_GT(withBlank, upright);
+    EXPECT_EQ(overlayOf(settings).size().width, withBlank);
 }
 
 TEST(TextMark, OutlinesAreHollow)
@@ -78,6 +155,21 @@ TEST(TextMark, OfAPlainColourCastsItsShadowInsideOfItsLayer)
     EXPECT_GT(changedPixels(image), without);
     const QRect box = changedBox(image);
     EXPECT_EQ(image.pixel(box.right() - 1, box.center().y()), qRgb(255, 0, 0));
+}
+
+TEST(TextMark, FilledWithTheBlackAndWhitePhotoShowsItsGrays)
+{
+    QImage ground(161, 121, QImage::Format_RGB32);
+    ground.fill(qRgb(200, 90, 40));
+    const platform::Image photo = platform::Image::fromQImage(ground);
+    TextWatermarkSettings settings = whiteBlock();
+    settings.effect = 8;
+    settings.placement.anchor = 4;
+
+    const QRgb middle = markedPhoto(settings, photo).pixel(80, 60);
+
+    EXPECT_EQ(middle, platform::photoEffectNoir(ground).pixel(0, 0));
+    EXPECT_EQ(qRed(middle), qBlue(middle));
 }
 
 TEST(TextMark, FilledWithTheBlackAndWhitePhotoCastsNoShadow)
