@@ -67,15 +67,20 @@ ThumbnailStore::FileState ThumbnailStore::stateOf(const QString& path)
 QImage ThumbnailStore::picture(const QString& path)
 {
     const Entry* entry = m_entries.object(path);
-    if (!m_checked.value(path) || !entry) {
-        m_checked.insert(path, true);
-        m_waiting.removeOne(path);
-        m_waiting.append(path);
-        if (m_waiting.size() > mostWaiting)
-            m_checked.remove(m_waiting.takeFirst());
-        startNext();
-    }
+    const bool isComing = m_inWork.contains(path);
+    if (!m_checked.contains(path) || (!entry && !isComing))
+        askFor(path);
     return entry ? entry->picture : QImage();
+}
+
+void ThumbnailStore::askFor(const QString& path)
+{
+    m_checked.insert(path);
+    m_waiting.removeOne(path);
+    m_waiting.append(path);
+    if (m_waiting.size() > mostWaiting)
+        m_checked.remove(m_waiting.takeFirst());
+    startNext();
 }
 
 bool ThumbnailStore::isUnreadable(const QString& path) const
@@ -88,11 +93,18 @@ void ThumbnailStore::checkFilesAgain() { m_checked.clear(); }
 
 void ThumbnailStore::startNext()
 {
-    while (m_running < workerCount && !m_waiting.isEmpty()) {
-        const QString path = m_waiting.takeLast();
+    while (m_inWork.size() < workerCount) {
+        const auto next
+            = std::find_if(m_waiting.crbegin(), m_waiting.crend(), [this](const QString& path) {
+                  return !m_inWork.contains(path);
+              });
+        if (next == m_waiting.crend())
+            return;
+        const QString path = *next;
+        m_waiting.removeOne(path);
         const Entry* entry = m_entries.object(path);
         const FileState known = entry && entry->isFinal ? entry->file : FileState{};
-        ++m_running;
+        m_inWork.insert(path);
         m_workers.start([this, path, known] { make(path, known); });
     }
 }
@@ -108,7 +120,8 @@ void ThumbnailStore::make(const QString& path, const FileState& known)
             tell({.picture = fitted(quick, m_side), .file = file});
         tell({.picture = rendered(path, m_side), .file = file, .isFinal = true});
     }
-    QMetaObject::invokeMethod(this, [this, path] { finish(path); });
+    const bool isSteady = stateOf(path) == file;
+    QMetaObject::invokeMethod(this, [this, path, isSteady] { finish(path, isSteady); });
 }
 
 void ThumbnailStore::take(const QString& path, const Entry& entry)
@@ -118,9 +131,13 @@ void ThumbnailStore::take(const QString& path, const Entry& entry)
     Q_EMIT arrived(path);
 }
 
-void ThumbnailStore::finish(const QString&)
+void ThumbnailStore::finish(const QString& path, bool isSteady)
 {
-    --m_running;
+    m_inWork.remove(path);
+    if (!isSteady) {
+        m_checked.remove(path);
+        Q_EMIT arrived(path);
+    }
     startNext();
 }
 

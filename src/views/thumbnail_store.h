@@ -3,9 +3,9 @@
 
 #include <QCache>
 #include <QDateTime>
-#include <QHash>
 #include <QImage>
 #include <QObject>
+#include <QSet>
 #include <QThreadPool>
 
 namespace brenvaldo::views {
@@ -14,7 +14,8 @@ namespace brenvaldo::views {
 ///
 /// A picture comes twice: at once the one that the camera has put into the file, then one made from
 /// the photo itself. What was asked for last is made first. Pictures are kept by path, date and
-/// size of the file, the longest unused ones are dropped.
+/// size of the file, the longest unused ones are dropped. A file that is written while it is being
+/// read is looked at again when its picture is asked for next.
 class ThumbnailStore : public QObject
 {
     Q_OBJECT
@@ -58,16 +59,17 @@ private:
     };
 
     [[nodiscard]] static FileState stateOf(const QString& path);
+    void askFor(const QString& path);
     void startNext();
     void make(const QString& path, const FileState& known);
     void take(const QString& path, const Entry& entry);
-    void finish(const QString& path);
+    void finish(const QString& path, bool isSteady);
 
     int m_side;
     QCache<QString, Entry> m_entries;
     QList<QString> m_waiting; ///< the newest last
-    QHash<QString, bool> m_checked; ///< paths looked at since the last check
-    int m_running = 0;
+    QSet<QString> m_checked; ///< paths looked at since the last check
+    QSet<QString> m_inWork; ///< each path is worked on once at a time
     QThreadPool m_workers;
 };
 

@@ -7,12 +7,14 @@
 
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 
 using namespace brenvaldo;
 
 namespace {
 
 constexpr int side = 94;
+constexpr int patience = 60'000; ///< ms; machines that test can be busy
 
 class ThumbnailStore : public testing::Test
 {
@@ -20,9 +22,9 @@ protected:
     /// Waits until a picture of `path` is there, or the file has turned out unreadable.
     QImage awaited(const QString& path)
     {
-        const bool came = QTest::qWaitFor([&] {
-            return !store.picture(path).isNull() || store.isUnreadable(path);
-        });
+        const auto isThere
+            = [&] { return !store.picture(path).isNull() || store.isUnreadable(path); };
+        const bool came = QTest::qWaitFor(isThere, patience);
         EXPECT_TRUE(came);
         return store.picture(path);
     }
@@ -76,7 +78,29 @@ TEST_F(ThumbnailStore, MakesANewPictureWhenTheFileHasChanged)
     test::PhotoBuilder{}.size(330, 470).write(path);
     store.checkFilesAgain();
 
-    EXPECT_TRUE(QTest::qWaitFor([&] { return store.picture(path).height() == 94; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return store.picture(path).height() == 94; }, patience));
+}
+
+TEST_F(ThumbnailStore, MakesThePictureOfAFileThatIsWrittenWhileItIsRead)
+{
+    const QByteArray whole = test::PhotoBuilder{}.size(900, 1300).bytes();
+    for (int round = 0; round < 12; ++round) {
+        const QString name = QStringLiteral("%1.jpg").arg(round);
+        const QString path = folder.write(name, whole.first(whole.size() / 2));
+        store.checkFilesAgain();
+        (void)store.picture(path);
+        QThread::msleep(static_cast<unsigned long>(round));
+
+        (void)folder.write(name, whole);
+        store.checkFilesAgain();
+        for (int asked = 0; asked < 3; ++asked)
+            (void)store.picture(path);
+
+        const auto isReadable = [&] { return store.picture(path).height() == side; };
+        ASSERT_TRUE(QTest::qWaitFor(isReadable, patience)) << "in round " << round;
+        QTest::qWait(2 * round);
+        ASSERT_TRUE(isReadable()) << "in round " << round;
+    }
 }
 
 TEST_F(ThumbnailStore, EndsWhilePicturesAreStillToCome)
