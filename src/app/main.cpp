@@ -60,7 +60,8 @@ int main(int argc, char** argv)
         window.openFiles(later);
     });
     window.show();
-    QTimer::singleShot(0, &window, views::takeDesktopScheme);
+    views::DesktopScheme scheme;
+    QTimer::singleShot(0, &scheme, &views::DesktopScheme::follow);
     if (!files.isEmpty())
         QMetaObject::invokeMethod(
             &window, [&window, files] { window.openFiles(files); }, Qt::QueuedConnection

@@ -6,7 +6,6 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QDBusVariant>
 
 namespace brenvaldo::views {
 
@@ -14,15 +13,17 @@ namespace {
 
 constexpr uint preferDark = 1;
 
+const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString settings = QStringLiteral("org.freedesktop.portal.Settings");
+const QString appearance = QStringLiteral("org.freedesktop.appearance");
+const QString colourScheme = QStringLiteral("color-scheme");
+
 QDBusMessage readScheme()
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        u"org.freedesktop.portal.Desktop"_qs,
-        u"/org/freedesktop/portal/desktop"_qs,
-        u"org.freedesktop.portal.Settings"_qs,
-        u"Read"_qs
-    );
-    message << u"org.freedesktop.appearance"_qs << u"color-scheme"_qs;
+    QDBusMessage message
+        = QDBusMessage::createMethodCall(service, path, settings, QStringLiteral("Read"));
+    message << appearance << colourScheme;
     return message;
 }
 
@@ -36,18 +37,41 @@ Scheme wishedScheme(const QVariant& answer)
     return value.toUInt() == preferDark ? Scheme::Dark : Scheme::Light;
 }
 
-void takeDesktopScheme()
+void DesktopScheme::follow()
 {
-    const QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    auto* call = new QDBusPendingCallWatcher(bus.asyncCall(readScheme()), qApp);
-    QObject::connect(call, &QDBusPendingCallWatcher::finished, call, [call] {
+    bus.connect(
+        service,
+        path,
+        settings,
+        QStringLiteral("SettingChanged"),
+        this,
+        SLOT(settingChanged(QString, QString, QDBusVariant))
+    );
+    auto* call = new QDBusPendingCallWatcher(bus.asyncCall(readScheme()), this);
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {
         const QDBusPendingReply<QDBusVariant> reply = *call;
-        if (!reply.isError() && wishedScheme(reply.value().variant()) == Scheme::Dark)
-            QApplication::setPalette(paletteOf(Scheme::Dark));
+        if (!reply.isError())
+            take(wishedScheme(reply.value().variant()));
         call->deleteLater();
     });
+}
+
+void DesktopScheme::take(Scheme wish)
+{
+    const bool isDark = wish == Scheme::Dark;
+    if (std::exchange(m_isDark, isDark) != isDark)
+        QApplication::setPalette(isDark ? paletteOf(Scheme::Dark) : QPalette());
+}
+
+void DesktopScheme::settingChanged(
+    const QString& group, const QString& key, const QDBusVariant& value
+)
+{
+    if (group == appearance && key == colourScheme)
+        take(wishedScheme(value.variant()));
 }
 
 } // namespace brenvaldo::views

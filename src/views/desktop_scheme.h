@@ -3,13 +3,35 @@
 
 #include "theme.h"
 
+#include <QDBusVariant>
+#include <QObject>
 #include <QVariant>
 
 namespace brenvaldo::views {
 
-/// Asks the desktop once whether it wishes dark colours and takes them on; never waits for the
-/// answer, and does nothing without a session bus.
-void takeDesktopScheme();
+/// Gives the program the scheme that the desktop's settings service wishes, at the start and
+/// whenever the wish changes. Never waits for the service; without one the desktop's palette
+/// decides.
+class DesktopScheme : public QObject
+{
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    /// Asks for the wish, and hears of changes from now on.
+    void follow();
+
+    /// Takes the wish on. Light colours are those of the desktop's own palette.
+    void take(Scheme wish);
+
+public Q_SLOTS:
+    /// A setting of the service has changed; all but the colour scheme are passed over.
+    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+
+private:
+    bool m_isDark = false;
+};
 
 /// The scheme that an answer of the desktop's settings service wishes: 1, wrapped in variants, is
 /// dark; everything else is light.

@@ -45,6 +45,22 @@ TEST(Theme, TakesTheWishOfTheDesktopOutOfItsVariants)
     EXPECT_EQ(wishedScheme(QVariant()), Scheme::Light);
 }
 
+TEST(Theme, FollowsTheWishOfTheDesktopWhileRunning)
+{
+    const QString group = QStringLiteral("org.freedesktop.appearance");
+    const QString key = QStringLiteral("color-scheme");
+    DesktopScheme scheme;
+
+    scheme.settingChanged(group, key, QDBusVariant(1U));
+    EXPECT_EQ(&colours(), &coloursOf(Scheme::Dark));
+
+    scheme.settingChanged(group, QStringLiteral("contrast"), QDBusVariant(0U));
+    EXPECT_EQ(&colours(), &coloursOf(Scheme::Dark));
+
+    scheme.settingChanged(group, key, QDBusVariant(2U));
+    EXPECT_EQ(&colours(), &coloursOf(Scheme::Light));
+}
+
 TEST(Theme, KeepsTextReadable)
 {
     for (const auto scheme : {Scheme::Light, Scheme::Dark}) {
