@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
+#include <QScreen>
 #include <QTimer>
 
 using namespace brenvaldo;
@@ -55,11 +56,11 @@ int main(int argc, char** argv)
     views::QtDesktop desktop;
     workspace::Workspace workspace({.chooser = chooser, .desktop = desktop, .defaults = defaults});
     workspace.start();
-    views::mainAppWindow window(workspace, chooser);
+    views::MainWindow window(workspace, chooser);
     const auto laterFiles = instance.filesArrived.connect([&window](const QStringList& later) {
         window.openFiles(later);
     });
-    window.show();
+    window.openInto(window.screen()->availableSize());
     views::DesktopScheme scheme;
     QTimer::singleShot(0, &scheme, &views::DesktopScheme::follow);
     if (!files.isEmpty())

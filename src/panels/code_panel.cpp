@@ -19,7 +19,6 @@ CodePanel::CodePanel()
         {textRow(u"Folder"_qs, tfQRDestination)},
         {textRow(u"File name"_qs, tfQRName)},
         {textRow(u"Size"_qs, tfQRSize, u"px"_qs)},
-        {Note{u"QR and bar codes come with a later version."_qs}},
     });
 }
 

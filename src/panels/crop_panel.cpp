@@ -81,7 +81,6 @@ CropPanel::CropPanel()
         {Row{.label = u"Crop by"_qs, .fields = {{.control = &pubCropType}}}},
         {HolderPlace{.holder = &dvVCUiCropTypeView}},
         {HolderPlace{.holder = &dvVCUiCropPlaceView}},
-        {Note{u"Cropping comes with a later version."_qs}},
     });
 }
 

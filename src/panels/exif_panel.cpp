@@ -41,7 +41,6 @@ ExifPanel::ExifPanel()
         {textRow(u"Contact"_qs, tfIPTCImageContactInfo)},
         {textRow(u"Caption writer"_qs, tfIPTCEditorContactInfo)},
         {textRow(u"Creator's contact"_qs, tfIPTCCreatorContactInfo)},
-        {Note{u"Writing into photos comes with a later version."_qs}},
     });
 }
 

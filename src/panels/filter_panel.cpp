@@ -163,7 +163,6 @@ FilterPanel::FilterPanel()
     setLayout({
         {Row{.label = u"Filter"_qs, .fields = {{.control = &pubFilterSelection}}}},
         {HolderPlace{.holder = &vwFiltersMainView}},
-        {Note{u"Filters come with a later version."_qs}},
     });
 }
 

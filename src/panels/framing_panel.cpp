@@ -37,7 +37,6 @@ FramingPanel::FramingPanel()
             = {{.control = &cbFramingGradient},
                {.control = &pubFramingGradientAngle,
                 .accessibleName = u"Direction of the fade"_qs}}}},
-        {Note{u"Frames come with a later version."_qs}},
     });
 }
 

@@ -19,7 +19,6 @@ GalleryPanel::GalleryPanel()
     setLayout({
         {Row{.label = u"Template"_qs, .fields = {{.control = &pubPhotoGalleryModel}}}},
         {textRow(u"Page name"_qs, tfHTMLfileName)},
-        {Note{u"Web galleries come with a later version."_qs}},
     });
 }
 

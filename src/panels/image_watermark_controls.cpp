@@ -167,8 +167,6 @@ void ImageWatermarkControls::giveActions()
 Layout ImageWatermarkControls::imageRows()
 {
     return {
-        {Note{QStringLiteral("Image watermarks come with a later version. The values can be set "
-                             "and kept already.")}},
         {Heading{QStringLiteral("Image")}},
         {Row{.label = QStringLiteral("Image"), .fields = {{.control = &tfWaterMarkImageFilePath}}}},
         {Row{

@@ -43,7 +43,9 @@ public:
     FramingPanel vwFraming;
     RoundingsPanel vwRoundings;
     ProfilePanel vwProfileConversion;
-    NotePanel vwCopyFaces{u"vwCopyFaces"_qs, u"Cutting out faces comes with a later version."_qs};
+    NotePanel vwCopyFaces{
+        u"vwCopyFaces"_qs,
+        u"Each face in a ticked photo becomes a photo of its own. There is nothing to set."_qs};
     RotatePanel vwRotatePhotos;
     FilterPanel vwFilterPhotos;
     CropPanel vwCropPhotos;

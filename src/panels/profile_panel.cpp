@@ -16,7 +16,6 @@ ProfilePanel::ProfilePanel()
     setLayout({
         {Row{.label = u"Profile"_qs, .fields = {{.control = &pubInstalledICCProfiles}}}},
         {Row{.label = u"Intent"_qs, .fields = {{.control = &pubCPCRenderIntent}}}},
-        {Note{u"Colour profile conversion comes with a later version."_qs}},
     });
 }
 

@@ -19,7 +19,6 @@ RenamePanel::RenamePanel()
         {Heading{u"Behind the name"_qs}},
         {textRow(u"Text"_qs, tfPostfixToAdd)},
         {Row{.label = u"Property"_qs, .fields = {{.control = &cbxPostfixMetaData}}}},
-        {Note{u"Renaming comes with a later version."_qs}},
     });
 }
 

@@ -32,7 +32,6 @@ RotatePanel::RotatePanel()
         {Row{
             .label = u"Margin"_qs,
             .fields = {{.control = &tfRotationEnlargeCanvas, .unit = u"px"_qs}}}},
-        {Note{u"Turning by any angle comes with a later version."_qs}},
     });
 }
 

@@ -26,9 +26,7 @@ RoundingsPanel::RoundingsPanel()
     , pubRCGradientAngle(u"pubRCGradientAngle"_qs, gradientAngleTitles())
 {
     giveRoles();
-    setLayout(joined(
-        {shapeRows(), borderRows(), {{Note{u"Rounded corners come with a later version."_qs}}}}
-    ));
+    setLayout(joined({shapeRows(), borderRows()}));
 }
 
 void RoundingsPanel::giveRoles()

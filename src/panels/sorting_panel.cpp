@@ -31,7 +31,7 @@ SortingPanel::SortingPanel()
         .tabs = &mySortTabView,
         .pages
         = {manualPage(),
-           {{Note{u"Sorting by criteria comes with a later version."_qs}}},
+           {{Note{u"Photos and files that meet your criteria go to the destination folder."_qs}}},
            uploadPage()}}}});
 }
 
@@ -44,7 +44,6 @@ Layout SortingPanel::manualPage()
         {textRow(u"Folder 4"_qs, tfSortDestination04)},
         {textRow(u"Folder 5"_qs, tfSortDestination05)},
         {textRow(u"Folder 6"_qs, tfSortDestination06)},
-        {Note{u"Sorting by hand comes with a later version."_qs}},
     };
 }
 
@@ -59,7 +58,6 @@ Layout SortingPanel::uploadPage()
         {textRow(u"Keywords"_qs, tfAddKeyword)},
         {textRow(u"Description"_qs, tfAddDescription)},
         {Row{.fields = {{.control = &cbAddToFavorite}}}},
-        {Note{u"The photo library comes with a later version."_qs}},
     };
 }
 

@@ -53,8 +53,7 @@ TintPanel::TintPanel()
         {{Heading{u"Size"_qs}}, {sizePages()}},
         {{Heading{u"Place"_qs}},
          {Row{.label = u"Position"_qs, .fields = {{.control = &scAddTintPosition}}}},
-         {offsetRow(tfAddTintPosX, tfAddTintPosY, u"To the right, and up."_qs)},
-         {Note{u"Tinting comes with a later version."_qs}}},
+         {offsetRow(tfAddTintPosX, tfAddTintPosY, u"To the right, and up."_qs)}},
     }));
 }
 

@@ -3,9 +3,10 @@
 
 #include "theme.h"
 
-#include <QDBusVariant>
 #include <QObject>
 #include <QVariant>
+
+class QDBusVariant;
 
 namespace brenvaldo::views {
 
@@ -15,6 +16,7 @@ namespace brenvaldo::views {
 class DesktopScheme : public QObject
 {
     Q_OBJECT
+    Q_MOC_INCLUDE(<QDBusVariant>)
 
 public:
     using QObject::QObject;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "holder_view.h"
 
+#include "subscriptions.h"
 #include "theme.h"
 
 #include <QVBoxLayout>
@@ -21,7 +22,16 @@ HolderView::HolderView(
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Metrics::rowGap);
-    followControl(*this, holder, [this] { refill(); });
+    setObjectName(holder.name());
+    keepFor(*this, holder.changed.connect([this] { follow(); }));
+    follow();
+}
+
+/// An empty holder takes no room, not even the gap to what stands below it.
+void HolderView::follow()
+{
+    refill();
+    setVisible(!m_holder.isHidden() && !m_shown.isEmpty());
 }
 
 void HolderView::refill()

@@ -20,6 +20,7 @@ public:
     );
 
 private:
+    void follow();
     void refill();
 
     controls::Holder& m_holder;

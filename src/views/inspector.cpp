@@ -4,6 +4,7 @@
 #include "button_faces.h"
 #include "hairline.h"
 #include "holder_view.h"
+#include "notice.h"
 #include "pop_up.h"
 #include "run_title.h"
 #include "section_button.h"
@@ -13,6 +14,7 @@
 #include "theme.h"
 
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
@@ -51,15 +53,14 @@ QWidget* column(QWidget* parent, const QMargins& margins)
 } // namespace
 
 Inspector::Inspector(
-    panels::Panels& panels,
-    const workspace::PhotoList& photos,
+    workspace::Workspace& workspace,
     const FormBuilder& builder,
     const Binder& binder,
     QWidget* parent
 )
     : QWidget(parent)
-    , m_panels(panels)
-    , m_photos(photos)
+    , m_workspace(workspace)
+    , m_panels(workspace.panels())
     , m_builder(builder)
     , m_binder(binder)
 {
@@ -72,9 +73,11 @@ Inspector::Inspector(
     top->layout()->addWidget(functionRow());
     all->addWidget(top);
     all->addWidget(new Hairline(Qt::Horizontal, this));
+    all->addWidget(laterNotice());
     all->addWidget(settings(), 1);
     all->addWidget(new Hairline(Qt::Horizontal, this));
     all->addWidget(output());
+    followRun();
 }
 
 QWidget* Inspector::holder(controls::Holder& holder, FormBuilder::Density density)
@@ -115,10 +118,25 @@ QWidget* Inspector::functionRow()
     line->addWidget(
         holder(m_panels.window.dvVCUiMainPropertySelect, FormBuilder::Density::Compact), 1
     );
+    line->addWidget(sectionTitle(row), 1);
     for (controls::Button* control : {&m_panels.window.btnPresets, &m_panels.window.btnPresetsHelp})
         line->addWidget(m_builder.buildField({.control = control}, row));
     row->setMinimumHeight(Metrics::fieldHeight);
     return row;
+}
+
+/// Stands where other sections choose their function.
+QWidget* Inspector::sectionTitle(QWidget* parent)
+{
+    auto* title = new QLabel(m_panels.window.btnExportHtml.title(), parent);
+    QFont bold = title->font();
+    bold.setWeight(QFont::DemiBold);
+    title->setFont(bold);
+    const auto& functions = m_panels.window.dvVCUiMainPropertySelect;
+    const auto follow = [title, &functions] { title->setVisible(functions.isEmpty()); };
+    keepFor(*title, functions.changed.connect(follow));
+    follow();
+    return title;
 }
 
 QWidget* Inspector::settings()
@@ -176,19 +194,43 @@ void Inspector::addProcessButton(QVBoxLayout& rows)
     m_binder.bind(*bar, window.myProgressBar);
     line->addWidget(bar);
     rows.addWidget(track);
-
-    const auto follow = [this] { showRunTitle(); };
-    keepFor(*this, m_photos.entriesChanged.connect(follow));
-    keepFor(*this, m_panels.vwApplyOn.pubPhotoOrientation.changed.connect(follow));
-    keepFor(*this, window.dvVCUiMainPropertyView.changed.connect(follow));
-    keepFor(*this, window.dvVCUiApplyOnPropertyView.changed.connect(follow));
-    showRunTitle();
 }
 
-void Inspector::showRunTitle()
+QWidget* Inspector::laterNotice()
 {
-    m_process->setText(runTitle(photosOfRun(m_panels, m_photos)));
+    m_later = new Notice(
+        tr("This function comes with a later version. Its settings can be made and kept as "
+           "presets already."),
+        this
+    );
+    m_later->setObjectName(QStringLiteral("laterNotice"));
+    return m_later;
+}
+
+void Inspector::followRun()
+{
+    auto& window = m_panels.window;
+    const auto follow = [this] { showRun(); };
+    keepFor(*this, m_workspace.photos().entriesChanged.connect(follow));
+    keepFor(*this, m_panels.vwApplyOn.pubPhotoOrientation.changed.connect(follow));
+    keepFor(*this, m_panels.vwWatermark.tbvWatermarkType.changed.connect(follow));
+    keepFor(*this, m_panels.vwFileManagementSorting.mySortTabView.changed.connect(follow));
+    keepFor(*this, window.dvVCUiMainPropertyView.changed.connect(follow));
+    keepFor(*this, window.dvVCUiApplyOnPropertyView.changed.connect(follow));
+    showRun();
+}
+
+void Inspector::showRun()
+{
+    using workspace::RunOffer;
+    const RunOffer offer = m_workspace.runOffer();
+    const int photos = offer == RunOffer::Run ? photosOfRun(m_panels, m_workspace.photos()) : 0;
+    const bool isOffered = offer == RunOffer::Run || offer == RunOffer::Message;
+    m_process->setText(runTitle(photos));
     m_process->setAccessibleName(m_process->text());
+    m_process->setEnabled(isOffered);
+    m_later->setVisible(offer == RunOffer::ComesLater);
+    Q_EMIT runOffered(isOffered);
 }
 
 void Inspector::paintEvent(QPaintEvent*)

@@ -3,7 +3,7 @@
 
 #include "form_builder.h"
 
-#include <workspace/photo_list.h>
+#include <workspace/workspace.h>
 
 #include <QWidget>
 
@@ -19,12 +19,15 @@ class Inspector : public QWidget
 
 public:
     Inspector(
-        panels::Panels& panels,
-        const workspace::PhotoList& photos,
+        workspace::Workspace& workspace,
         const FormBuilder& builder,
         const Binder& binder,
         QWidget* parent = nullptr
     );
+
+Q_SIGNALS:
+    /// The process button can, or cannot, be pressed from now on.
+    void runOffered(bool isOffered);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -32,16 +35,20 @@ protected:
 private:
     [[nodiscard]] QWidget* sections();
     [[nodiscard]] QWidget* functionRow();
+    [[nodiscard]] QWidget* sectionTitle(QWidget* parent);
     [[nodiscard]] QWidget* settings();
     [[nodiscard]] QWidget* output();
+    [[nodiscard]] QWidget* laterNotice();
     void addProcessButton(QVBoxLayout& column);
-    void showRunTitle();
+    void followRun();
+    void showRun();
     [[nodiscard]] QWidget* holder(controls::Holder& holder, FormBuilder::Density density);
 
+    workspace::Workspace& m_workspace;
     panels::Panels& m_panels;
-    const workspace::PhotoList& m_photos;
     const FormBuilder& m_builder;
     const Binder& m_binder;
+    QWidget* m_later = nullptr; ///< tells that the function is not in this version
     QPushButton* m_process = nullptr;
 };
 

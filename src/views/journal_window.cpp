@@ -20,6 +20,7 @@ namespace brenvaldo::views {
 namespace {
 
 constexpr int wordColumn = 4;
+constexpr int buttonWidth = 96;
 
 } // namespace
 
@@ -62,6 +63,7 @@ QWidget* JournalWindow::buttons()
     auto* area = new QWidget(this);
     auto* line = new QHBoxLayout(area);
     line->setContentsMargins(0, 4, 0, 0);
+    line->setSpacing(Metrics::gap);
     auto* save = new QPushButton(tr("&Save as text\u2026"), area);
     auto* clear = new QPushButton(tr("&Clear"), area);
     auto* close = new QPushButton(tr("Close"), area);
@@ -71,6 +73,7 @@ QWidget* JournalWindow::buttons()
     line->addWidget(close);
     for (QPushButton* button : {save, clear, close}) {
         button->setAutoDefault(false);
+        button->setMinimumWidth(buttonWidth);
         button->setAccessibleName(button->text().remove(QLatin1Char('&')));
     }
     connect(save, &QPushButton::clicked, this, &JournalWindow::save);

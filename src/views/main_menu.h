@@ -18,6 +18,11 @@ struct WindowOrders
     QAction* fullScreen = nullptr;
     QAction* about = nullptr;
     QAction* quit = nullptr;
+
+    [[nodiscard]] QList<QAction*> all() const
+    {
+        return {photoInfo, runJournal, fit, pixels, fullScreen, about, quit};
+    }
 };
 
 /// Makes the orders of the window, with their texts and keys.

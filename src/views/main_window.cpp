@@ -3,6 +3,7 @@
 
 #include "about_box.h"
 #include "alert_sheet.h"
+#include "full_screen.h"
 #include "hairline.h"
 #include "info_pane.h"
 #include "inspector.h"
@@ -10,6 +11,8 @@
 #include "panel_sheet.h"
 #include "photo_grid.h"
 #include "photo_tool_bar.h"
+#include "preview_hint.h"
+#include "subscriptions.h"
 #include "theme.h"
 
 #include <workspace/app_delegate.h>
@@ -18,8 +21,10 @@
 #include <QDropEvent>
 #include <QHBoxLayout>
 #include <QMimeData>
+#include <QScreen>
 #include <QSplitter>
 #include <QTextStream>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -27,17 +32,31 @@ namespace brenvaldo::views {
 
 namespace {
 
-/// What the window tells of drags on standard output.
+constexpr QSize minimumWindow(1060, 600);
+constexpr QSize usualWindow(1440, 900);
+
+/// Writes what the window tells of drags to standard output, each text on a line of its own.
 void tell(const QString& text)
 {
     QTextStream out(stdout);
-    out << text << Qt::endl;
+    out << text;
+    if (!text.endsWith(u'\n'))
+        out << Qt::endl;
+}
+
+QStringList pathsOf(const QMimeData& files)
+{
+    QStringList paths;
+    for (const QUrl& url : files.urls())
+        paths.append(url.toLocalFile());
+    return paths;
 }
 
 } // namespace
 
-mainAppWindow::mainAppWindow(workspace::Workspace& workspace, QtFileChooser& chooser)
+MainWindow::MainWindow(workspace::Workspace& workspace, QtFileChooser& chooser)
     : m_workspace(workspace)
+    , m_drags(tell)
     , m_chooser(chooser)
     , m_input(workspace.actions())
     , m_binder(m_input)
@@ -48,17 +67,19 @@ mainAppWindow::mainAppWindow(workspace::Workspace& workspace, QtFileChooser& cho
     setObjectName(u"wwMainWindow"_qs);
     setWindowTitle(tr("Brenvaldo"));
     setAcceptDrops(true);
-    tell(u"Awake"_qs);
+    m_drags.awakeFromNib();
     hideButtonsWithoutAction();
     fillMenuBar(*this, m_commands, m_orders);
+    // In the window itself the keys of the menus work without the menu bar too.
+    addActions(m_commands.all());
+    addActions(m_orders.all());
 
     auto* body = new QWidget(this);
     auto* row = new QHBoxLayout(body);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
     row->addWidget(photoArea(), 1);
-    row->addWidget(new Inspector(workspace.panels(), workspace.photos(), m_builder, m_binder, body)
-    );
+    row->addWidget(inspector(body));
     setCentralWidget(body);
     connectGrid();
     connectOrders();
@@ -67,11 +88,11 @@ mainAppWindow::mainAppWindow(workspace::Workspace& workspace, QtFileChooser& cho
     m_chooser.attachTo(this, [this](controls::Control& control, QWidget* parent) {
         return m_builder.buildField({.control = &control}, parent);
     });
-    setMinimumSize(1060, 620);
-    resize(1440, 900);
+    setMinimumSize(minimumWindow);
+    resize(usualWindow);
 }
 
-mainAppWindow::~mainAppWindow()
+MainWindow::~MainWindow()
 {
     m_chooser.attachTo(nullptr, {});
     // The widgets hold on to the members of this object, which go first otherwise.
@@ -80,7 +101,23 @@ mainAppWindow::~mainAppWindow()
     std::unique_ptr<QWidget> body(takeCentralWidget());
 }
 
-QWidget* mainAppWindow::photoArea()
+void MainWindow::openInto(const QSize& screenRoom)
+{
+    const QSize fitting = usualWindow.boundedTo(screenRoom);
+    resize(fitting);
+    setWindowState(fitting == usualWindow ? Qt::WindowNoState : Qt::WindowMaximized);
+    show();
+}
+
+QWidget* MainWindow::inspector(QWidget* parent)
+{
+    auto* inspector = new Inspector(m_workspace, m_builder, m_binder, parent);
+    QAction* process = m_commands.command(u"hLoadImages"_qs);
+    connect(inspector, &Inspector::runOffered, process, &QAction::setEnabled);
+    return inspector;
+}
+
+QWidget* MainWindow::photoArea()
 {
     auto& panels = m_workspace.panels();
     auto* splitter = new QSplitter(Qt::Vertical, this);
@@ -98,13 +135,12 @@ QWidget* mainAppWindow::photoArea()
     column->addWidget(new Hairline(Qt::Horizontal, list));
     column->addWidget(m_grid, 1);
     splitter->addWidget(list);
-    splitter->setStretchFactor(0, 1);
-    splitter->setStretchFactor(1, 0);
-    splitter->setSizes({520, 358});
+    splitter->setStretchFactor(0, 16);
+    splitter->setStretchFactor(1, 9);
     return splitter;
 }
 
-QWidget* mainAppWindow::previewArea()
+QWidget* MainWindow::previewArea()
 {
     auto& panels = m_workspace.panels();
     auto* area = new QWidget(this);
@@ -118,17 +154,20 @@ QWidget* mainAppWindow::previewArea()
     m_preview = new PreviewView(
         {.photo = panels.window.myTemplatePreview,
          .overlay = panels.window.myTemplateOverlayPreview,
-         .photos = m_workspace.photos()},
+         .photos = m_workspace.photos(),
+         .emptyText = [this] { return previewHint(m_workspace.panels(), m_workspace.photos()); }},
         area
     );
+    const auto& function = panels.window.dvVCUiMainPropertyView;
+    keepFor(*m_preview, function.changed.connect([this] { m_preview->update(); }));
     row->addWidget(m_preview, 1);
     return area;
 }
 
-void mainAppWindow::connectGrid()
+void MainWindow::connectGrid()
 {
-    connect(m_grid, &PhotoGrid::tickWanted, this, &mainAppWindow::tick);
-    connect(m_grid, &PhotoGrid::filesDropped, this, &mainAppWindow::openFiles);
+    connect(m_grid, &PhotoGrid::tickWanted, this, &MainWindow::tick);
+    connect(m_grid, &PhotoGrid::filesDropped, this, &MainWindow::openFiles);
     connect(m_grid, &PhotoGrid::moveWanted, this, [this](const QList<int>& rows, int gap) {
         m_workspace.collectionView().acceptDrop(rows, gap);
     });
@@ -137,10 +176,10 @@ void mainAppWindow::connectGrid()
     );
 }
 
-void mainAppWindow::connectOrders()
+void MainWindow::connectOrders()
 {
-    connect(m_orders.runJournal, &QAction::triggered, this, &mainAppWindow::showJournal);
-    connect(m_orders.about, &QAction::triggered, this, &mainAppWindow::showAbout);
+    connect(m_orders.runJournal, &QAction::triggered, this, &MainWindow::showJournal);
+    connect(m_orders.about, &QAction::triggered, this, &MainWindow::showAbout);
     connect(m_orders.quit, &QAction::triggered, this, &QWidget::close);
     connect(m_orders.fit, &QAction::triggered, this, [this] {
         m_preview->setZoom(PreviewView::Zoom::Fit);
@@ -150,13 +189,11 @@ void mainAppWindow::connectOrders()
         m_preview->setZoom(PreviewView::Zoom::Pixels);
         showZoom(PreviewView::Zoom::Pixels);
     });
-    connect(m_preview, &PreviewView::zoomChanged, this, &mainAppWindow::showZoom);
-    connect(m_orders.fullScreen, &QAction::triggered, this, [this](bool full) {
-        setWindowState(windowState().setFlag(Qt::WindowFullScreen, full));
-    });
+    connect(m_preview, &PreviewView::zoomChanged, this, &MainWindow::showZoom);
+    new FullScreen(*this, *m_orders.fullScreen);
 }
 
-void mainAppWindow::makeSheets()
+void MainWindow::makeSheets()
 {
     auto& panels = m_workspace.panels();
     new AlertSheet(panels.window, m_workspace.actions(), this);
@@ -168,7 +205,7 @@ void mainAppWindow::makeSheets()
     }
 }
 
-void mainAppWindow::hideButtonsWithoutAction()
+void MainWindow::hideButtonsWithoutAction()
 {
     const auto& actions = m_workspace.actions();
     for (controls::Control* control : m_workspace.panels().controls()) {
@@ -176,12 +213,15 @@ void mainAppWindow::hideButtonsWithoutAction()
             continue;
         const QStringList& names = control->actions();
         const auto isKnown = [&actions](const QString& name) { return actions.knows(name); };
-        if (std::none_of(names.begin(), names.end(), isKnown))
-            control->setHidden(true);
+        if (std::any_of(names.begin(), names.end(), isKnown))
+            continue;
+        // Selecting a function shows the buttons of its presets again.
+        keepFor(*this, control->changed.connect([control] { control->setHidden(true); }));
+        control->setHidden(true);
     }
 }
 
-void mainAppWindow::followFocusWishes()
+void MainWindow::followFocusWishes()
 {
     const auto focus = [this](const controls::Control& control) {
         if (auto* field = findChild<QWidget*>(control.name()))
@@ -190,14 +230,14 @@ void mainAppWindow::followFocusWishes()
     m_focusWishes = m_workspace.delegate().focusRequested.connect(focus);
 }
 
-void mainAppWindow::tick(int row)
+void MainWindow::tick(int row)
 {
     const bool isTicked = m_workspace.photos().entries().at(row).myPhotoSelect > 0;
     m_workspace.photos().setTick(row, isTicked ? 0 : 1);
     m_workspace.actions().send(u"cCollectionViewController.cbPhotoToProcessClicked"_qs);
 }
 
-void mainAppWindow::showJournal()
+void MainWindow::showJournal()
 {
     if (!m_journal)
         m_journal = new JournalWindow(m_workspace.journal(), m_chooser, this);
@@ -206,19 +246,19 @@ void mainAppWindow::showJournal()
     m_journal->activateWindow();
 }
 
-void mainAppWindow::showAbout()
+void MainWindow::showAbout()
 {
     auto* box = new AboutBox(this);
     box->open();
 }
 
-void mainAppWindow::showZoom(PreviewView::Zoom zoom)
+void MainWindow::showZoom(PreviewView::Zoom zoom)
 {
     m_orders.fit->setChecked(zoom == PreviewView::Zoom::Fit);
     m_orders.pixels->setChecked(zoom == PreviewView::Zoom::Pixels);
 }
 
-void mainAppWindow::openFiles(const QStringList& paths)
+void MainWindow::openFiles(const QStringList& paths)
 {
     if (!paths.isEmpty())
         m_workspace.openFiles(paths);
@@ -227,29 +267,28 @@ void mainAppWindow::openFiles(const QStringList& paths)
     activateWindow();
 }
 
-void mainAppWindow::closeEvent(QCloseEvent* event)
+void MainWindow::closeEvent(QCloseEvent* event)
 {
     QMainWindow::closeEvent(event);
     m_workspace.lastWindowClosed();
 }
 
-void mainAppWindow::dragEnterEvent(QDragEnterEvent* event)
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
     if (!event->mimeData()->hasUrls())
         return;
-    tell(u"Enter"_qs);
-    event->acceptProposedAction();
+    if (m_drags.draggingEntered() == workspace::mainAppWindow::allOperations)
+        event->acceptProposedAction();
 }
 
-void mainAppWindow::dropEvent(QDropEvent* event)
+void MainWindow::dropEvent(QDropEvent* event)
 {
-    tell(u"Prepare"_qs);
-    tell(u"Perform"_qs);
-    tell(QString::number(event->mimeData()->urls().size()));
-    event->acceptProposedAction();
+    if (m_drags.prepareForDragOperation()
+        && m_drags.performDragOperation(pathsOf(*event->mimeData())))
+        event->acceptProposedAction();
 }
 
-bool mainAppWindow::focusNextPrevChild(bool next)
+bool MainWindow::focusNextPrevChild(bool next)
 {
     const QWidget* before = focusWidget();
     const auto& text = m_workspace.panels().vwWatermark.tvWaterMarkText;
@@ -257,13 +296,6 @@ bool mainAppWindow::focusNextPrevChild(bool next)
         return QMainWindow::focusNextPrevChild(next);
     m_workspace.delegate().textViewdoCommandBySelector(u"insertTab:"_qs);
     return focusWidget() != before || QMainWindow::focusNextPrevChild(next);
-}
-
-void mainAppWindow::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange)
-        m_orders.fullScreen->setChecked(isFullScreen());
 }
 
 } // namespace brenvaldo::views

@@ -8,6 +8,7 @@
 #include "preview_view.h"
 #include "qt_file_chooser.h"
 
+#include <workspace/main_app_window.h>
 #include <workspace/workspace.h>
 
 #include <QMainWindow>
@@ -23,17 +24,20 @@ class PhotoGrid;
 ///
 /// A drop on its body succeeds to the eye and adds nothing; files get into the list through the
 /// grid. Closing it ends the program's work.
-class mainAppWindow : public QMainWindow
+class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    mainAppWindow(workspace::Workspace& workspace, QtFileChooser& chooser);
-    ~mainAppWindow() override;
-    mainAppWindow(const mainAppWindow&) = delete;
-    mainAppWindow& operator=(const mainAppWindow&) = delete;
-    mainAppWindow(mainAppWindow&&) = delete;
-    mainAppWindow& operator=(mainAppWindow&&) = delete;
+    MainWindow(workspace::Workspace& workspace, QtFileChooser& chooser);
+    ~MainWindow() override;
+    MainWindow(const MainWindow&) = delete;
+    MainWindow& operator=(const MainWindow&) = delete;
+    MainWindow(MainWindow&&) = delete;
+    MainWindow& operator=(MainWindow&&) = delete;
+
+    /// Shows itself in its usual size, or on all of a screen with less room.
+    void openInto(const QSize& screenRoom);
 
     /// Comes to the front and adds files that another start of the program was given.
     void openFiles(const QStringList& paths);
@@ -42,10 +46,10 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-    void changeEvent(QEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
+    [[nodiscard]] QWidget* inspector(QWidget* parent);
     [[nodiscard]] QWidget* photoArea();
     [[nodiscard]] QWidget* previewArea();
     void connectGrid();
@@ -59,6 +63,7 @@ private:
     void showZoom(PreviewView::Zoom zoom);
 
     workspace::Workspace& m_workspace;
+    workspace::mainAppWindow m_drags; ///< what the body answers to drags
     QtFileChooser& m_chooser;
     controls::UserInput m_input;
     Binder m_binder;

@@ -14,6 +14,7 @@ namespace brenvaldo::views {
 namespace {
 
 constexpr int margin = 3;
+constexpr int textMargin = 8; ///< between the edge of the cell and its texts
 constexpr int cellWidth = 144;
 constexpr int pictureTop = 10;
 constexpr int tickSide = 16;
@@ -63,7 +64,9 @@ void paintTexts(
 {
     const QString newName = index.data(PhotoGridModel::NewNameRole).toString();
     const int height = option.fontMetrics.height();
-    QRect line(cell.left() + 4, pictureRoom(cell).bottom() + 5, cell.width() - 8, height);
+    QRect line = cell.adjusted(textMargin, 0, -textMargin, 0);
+    line.setTop(pictureRoom(cell).bottom() + 5);
+    line.setHeight(height);
     const bool isTicked = index.data(PhotoGridModel::TickRole).toBool();
     painter.setFont(scaledFont(option.font, 0.92));
     painter.setPen(isTicked ? colours().text : colours().muted);

@@ -2,12 +2,13 @@
 #include "preview_view.h"
 
 #include "choice_chip.h"
-#include "icons.h"
+#include "preview_painting.h"
 #include "theme.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include <algorithm>
 
@@ -17,30 +18,18 @@ namespace {
 
 constexpr int chipMargin = 12;
 constexpr int frame = 28; ///< free space round a fitted picture
-constexpr int shadowReach = 14;
 constexpr int keyStep = 60;
-
-void paintShadow(QPainter& painter, const QRectF& picture)
-{
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 9));
-    for (int reach = shadowReach; reach > 0; reach -= 2)
-        painter.drawRoundedRect(
-            picture.adjusted(-reach, -reach + 4, reach, reach + 4), reach, reach
-        );
-}
-
-QRectF centredIn(const QRectF& room, const QImage& picture, double scale)
-{
-    QRectF place(QPointF(), QSizeF(picture.size()) / scale);
-    place.moveCenter(room.center());
-    return place;
-}
 
 /// The size of the file as the grid tells it: what follows the pixels.
 QString fileSizeOf(const workspace::cCollectionViewItem& entry)
 {
     return entry.myPhotoPxSize.section(QStringLiteral(" | "), 1);
+}
+
+bool isByKeyboard(Qt::FocusReason reason)
+{
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
+        || reason == Qt::ShortcutFocusReason;
 }
 
 } // namespace
@@ -49,10 +38,7 @@ PreviewView::PreviewView(const Sources& sources, QWidget* parent)
     : QWidget(parent)
     , m_sources(sources)
     , m_zoomChip(new ChoiceChip({tr("Fit"), tr("1:1")}, this))
-    , m_photoChanges(sources.photo.changed.connect([this] {
-        m_fitted = {};
-        renderSoon();
-    }))
+    , m_photoChanges(sources.photo.changed.connect([this] { takePhoto(); }))
     , m_overlayChanges(sources.overlay.changed.connect([this] { renderSoon(); }))
 {
     setObjectName(sources.photo.name());
@@ -73,16 +59,37 @@ PreviewView::PreviewView(const Sources& sources, QWidget* parent)
 
 bool PreviewView::isUpToDate() const { return !m_soon.isActive() && !m_renderer.isBusy(); }
 
-void PreviewView::setZoom(Zoom zoom)
+void PreviewView::setZoom(Zoom zoom) { zoomAt(QRectF(rect()).center(), zoom); }
+
+/// Changes the zoom so that the point of the picture under `position` stays there.
+void PreviewView::zoomAt(const QPointF& position, Zoom zoom)
 {
     if (m_zoom == zoom)
         return;
-    m_zoom = zoom;
+    const auto size = pictureSize();
+    const QRectF place = fittedPlace();
     m_centre = {0.5, 0.5};
+    if (size.isValid() && !place.isEmpty()) {
+        const QPointF away = (position - QRectF(rect()).center()) * devicePixelRatioF();
+        const QPointF inPicture = position - place.topLeft();
+        m_centre.setX(inPicture.x() / place.width() - away.x() / size.width);
+        m_centre.setY(inPicture.y() / place.height() - away.y() / size.height);
+        clampCentre();
+    }
+    m_zoom = zoom;
+    m_wheelTurn = 0;
     m_zoomChip->select(zoom == Zoom::Fit ? 0 : 1);
     setCursor(zoom == Zoom::Fit ? Qt::ArrowCursor : Qt::OpenHandCursor);
     renderSoon();
+    update();
     Q_EMIT zoomChanged(zoom);
+}
+
+void PreviewView::takePhoto()
+{
+    m_part = {};
+    m_isFittedOld = true;
+    renderSoon();
 }
 
 void PreviewView::renderSoon() { m_soon.start(); }
@@ -97,19 +104,28 @@ void PreviewView::renderNow()
         .part = std::nullopt,
         .path = entry ? entry->myPhotoDescription : QString(),
         .fileSize = entry ? fileSizeOf(*entry) : QString()};
-    if (m_zoom == Zoom::Pixels && pictureSize().isValid())
+    if (showsPixels() && !m_isFittedOld)
         request.part = visiblePart();
     m_renderer.render(request);
 }
 
 void PreviewView::take(const PreviewPicture& picture)
 {
-    m_picture = picture;
-    if (!picture.part)
+    if (picture.part) {
+        m_part = picture;
+    } else {
         m_fitted = picture;
-    setAccessibleDescription(picture.caption);
+        setAccessibleDescription(picture.caption);
+        // A request that came in between can be one for another photo.
+        if (!m_soon.isActive())
+            m_isFittedOld = false;
+        if (showsPixels())
+            renderSoon();
+    }
     update();
 }
+
+bool PreviewView::showsPixels() const { return m_zoom == Zoom::Pixels && pictureSize().isValid(); }
 
 platform::PixelSize PreviewView::pictureSize() const
 {
@@ -141,20 +157,24 @@ platform::PixelRect PreviewView::visiblePart() const
         .height = high};
 }
 
-void PreviewView::pan(const QPoint& pixels)
+void PreviewView::clampCentre()
 {
     const auto size = pictureSize();
-    if (m_zoom == Zoom::Fit || !size.isValid())
-        return;
     const auto part = visiblePart();
     const double halfWide = part.width / 2.0 / size.width;
     const double halfHigh = part.height / 2.0 / size.height;
-    const double scale = devicePixelRatioF();
-    m_centre.setX(std::clamp(m_centre.x() - pixels.x() * scale / size.width, halfWide, 1 - halfWide)
-    );
-    m_centre.setY(
-        std::clamp(m_centre.y() - pixels.y() * scale / size.height, halfHigh, 1 - halfHigh)
-    );
+    m_centre.setX(std::clamp(m_centre.x(), halfWide, 1 - halfWide));
+    m_centre.setY(std::clamp(m_centre.y(), halfHigh, 1 - halfHigh));
+}
+
+void PreviewView::pan(const QPoint& pixels)
+{
+    if (!showsPixels())
+        return;
+    const auto size = pictureSize();
+    const QPointF way = QPointF(pixels) * devicePixelRatioF();
+    m_centre -= QPointF(way.x() / size.width, way.y() / size.height);
+    clampCentre();
     renderSoon();
     update();
 }
@@ -163,36 +183,52 @@ void PreviewView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.fillRect(rect(), colours().canvas);
-    if (m_picture.photo.isNull() && m_picture.overlay.isNull()) {
-        if (!m_sources.photos.selectedEntry())
-            paintEmpty(painter);
-        return;
-    }
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    if (m_picture.part)
-        paintPart(painter);
-    else
-        paintFitted(painter);
-    paintCaption(painter);
+    if (m_fitted.photo.isNull() && m_fitted.overlay.isNull()) {
+        if (isUpToDate())
+            paintEmptyPreview(painter, rect(), m_sources.emptyText());
+    } else {
+        if (showsPixels())
+            paintPixels(painter);
+        else
+            paintFitted(painter);
+        const int room = m_zoomChip->x() - 2 * chipMargin - 24;
+        paintCaption(painter, {chipMargin, m_zoomChip->y(), room, m_zoomChip->height()}, m_fitted);
+    }
+    if (m_showsFocus)
+        paintPreviewFocus(painter, rect());
+}
+
+/// Where the fitted picture stands. While the view is being resized the last picture is stretched
+/// until the new one comes.
+QRectF PreviewView::fittedPlace() const
+{
+    const QImage& base = m_fitted.photo.isNull() ? m_fitted.overlay : m_fitted.photo;
+    if (base.isNull())
+        return {};
+    const auto fitted = fittedInto({base.width(), base.height()}, roomPixels());
+    QRectF place(QPointF(), QSizeF(fitted.width, fitted.height) / devicePixelRatioF());
+    place.moveCenter(QRectF(rect()).center());
+    return place;
 }
 
 void PreviewView::paintFitted(QPainter& painter) const
 {
-    const double scale = devicePixelRatioF();
-    const QRectF room = rect();
-    const QImage& base = m_picture.photo.isNull() ? m_picture.overlay : m_picture.photo;
-    // While the view is being resized the last picture is stretched until the new one comes.
-    const auto fitted = fittedInto({base.width(), base.height()}, roomPixels());
-    const double shrink = double(base.width()) / fitted.width;
-    paintShadow(painter, centredIn(room, base, scale * shrink));
-    for (const QImage* layer : {&m_picture.photo, &m_picture.overlay}) {
-        if (!layer->isNull())
-            painter.drawImage(centredIn(room, *layer, scale * shrink), *layer);
-    }
+    const QRectF base = fittedPlace();
+    paintPictureShadow(painter, base);
+    if (!m_fitted.photo.isNull())
+        painter.drawImage(base, m_fitted.photo);
+    if (m_fitted.overlay.isNull())
+        return;
+    // An overlay of another size than its photo is as much larger or smaller on the screen.
+    const QImage& photo = m_fitted.photo.isNull() ? m_fitted.overlay : m_fitted.photo;
+    QRectF place(QPointF(), QSizeF(m_fitted.overlay.size()) * (base.width() / photo.width()));
+    place.moveCenter(base.center());
+    painter.drawImage(place, m_fitted.overlay);
 }
 
-void PreviewView::paintPart(QPainter& painter) const
+void PreviewView::paintPixels(QPainter& painter) const
 {
     const double scale = devicePixelRatioF();
     const auto now = visiblePart();
@@ -204,39 +240,13 @@ void PreviewView::paintPart(QPainter& painter) const
     };
     const auto size = pictureSize();
     const QRectF whole = placeOf({.x = 0, .y = 0, .width = size.width, .height = size.height});
-    // Panning uncovers pixels that are not rendered yet; the fitted picture stands in for them.
+    // The fitted picture stands in for pixels that are not rendered yet.
     for (const QImage* layer : {&m_fitted.photo, &m_fitted.overlay})
         painter.drawImage(whole, *layer);
-    for (const QImage* layer : {&m_picture.photo, &m_picture.overlay})
-        painter.drawImage(placeOf(*m_picture.part), *layer);
-}
-
-void PreviewView::paintCaption(QPainter& painter) const
-{
-    if (m_picture.caption.isEmpty())
+    if (!m_part.part)
         return;
-    painter.setFont(scaledFont(font(), 0.94));
-    const int room = m_zoomChip->x() - 2 * chipMargin - 24;
-    const QString text = painter.fontMetrics().elidedText(m_picture.caption, Qt::ElideMiddle, room);
-    QRect chip(0, 0, painter.fontMetrics().horizontalAdvance(text) + 20, m_zoomChip->height());
-    chip.moveBottomLeft({chipMargin, height() - chipMargin - 1});
-    paintChip(painter, chip);
-    painter.setPen(Qt::white);
-    painter.drawText(chip, Qt::AlignCenter, text);
-}
-
-void PreviewView::paintEmpty(QPainter& painter) const
-{
-    QRect place(0, 0, 56, 56);
-    place.moveCenter(rect().center() - QPoint(0, 22));
-    const QColor ink(255, 255, 255, 150);
-    paintIcon(painter, QStringLiteral("edit-photos"), place, ink);
-    painter.setPen(ink);
-    const QString text = m_sources.photos.isEmpty() ? tr("Your photo shows here")
-                                                    : tr("Select a photo to see it here");
-    painter.drawText(
-        QRect(0, place.bottom() + 8, width(), fontMetrics().height() + 4), Qt::AlignCenter, text
-    );
+    for (const QImage* layer : {&m_part.photo, &m_part.overlay})
+        painter.drawImage(placeOf(*m_part.part), *layer);
 }
 
 void PreviewView::resizeEvent(QResizeEvent*)
@@ -267,14 +277,31 @@ void PreviewView::mouseReleaseEvent(QMouseEvent*)
         setCursor(Qt::OpenHandCursor);
 }
 
-void PreviewView::mouseDoubleClickEvent(QMouseEvent*)
+void PreviewView::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    setZoom(m_zoom == Zoom::Fit ? Zoom::Pixels : Zoom::Fit);
+    zoomAt(event->position(), m_zoom == Zoom::Fit ? Zoom::Pixels : Zoom::Fit);
+}
+
+void PreviewView::wheelEvent(QWheelEvent* event)
+{
+    constexpr int notch = 120;
+    m_wheelTurn += event->angleDelta().y();
+    if (std::abs(m_wheelTurn) >= notch) {
+        const Zoom wanted = m_wheelTurn > 0 ? Zoom::Pixels : Zoom::Fit;
+        m_wheelTurn = 0;
+        zoomAt(event->position(), wanted);
+    }
+    event->accept();
 }
 
 void PreviewView::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        return setZoom(Zoom::Pixels);
+    case Qt::Key_Minus:
+        return setZoom(Zoom::Fit);
     case Qt::Key_Left:
         return pan({keyStep, 0});
     case Qt::Key_Right:
@@ -286,6 +313,18 @@ void PreviewView::keyPressEvent(QKeyEvent* event)
     default:
         QWidget::keyPressEvent(event);
     }
+}
+
+void PreviewView::focusInEvent(QFocusEvent* event)
+{
+    m_showsFocus = isByKeyboard(event->reason());
+    update();
+}
+
+void PreviewView::focusOutEvent(QFocusEvent*)
+{
+    m_showsFocus = false;
+    update();
 }
 
 } // namespace brenvaldo::views

@@ -9,12 +9,15 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
+
 namespace brenvaldo::views {
 
 class ChoiceChip;
 
 /// The big preview: the photo and the layer over it, fitted or at one pixel a pixel, on neutral
-/// grey.
+/// grey. The wheel, a double click, and the keys + and - change between the two; at one pixel a
+/// pixel the mouse and the arrow keys move the picture.
 class PreviewView : public QWidget
 {
     Q_OBJECT
@@ -27,6 +30,7 @@ public:
         const controls::ImageView& photo;
         const controls::ImageView& overlay;
         const workspace::PhotoList& photos;
+        std::function<QString()> emptyText; ///< what to tell while there is no picture
     };
 
     explicit PreviewView(const Sources& sources, QWidget* parent = nullptr);
@@ -34,7 +38,7 @@ public:
     [[nodiscard]] Zoom zoom() const { return m_zoom; }
     void setZoom(Zoom zoom);
 
-    [[nodiscard]] const QString& caption() const { return m_picture.caption; }
+    [[nodiscard]] const QString& caption() const { return m_fitted.caption; }
     /// True when the present sources are drawn, and not those of a moment ago.
     [[nodiscard]] bool isUpToDate() const;
 
@@ -51,30 +55,39 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void takePhoto();
     void renderSoon();
     void renderNow();
     void take(const PreviewPicture& picture);
+    void zoomAt(const QPointF& position, Zoom zoom);
     void pan(const QPoint& pixels);
+    void clampCentre();
+    [[nodiscard]] bool showsPixels() const;
     [[nodiscard]] platform::PixelSize pictureSize() const;
     [[nodiscard]] platform::PixelSize roomPixels() const;
     [[nodiscard]] platform::PixelRect visiblePart() const;
+    [[nodiscard]] QRectF fittedPlace() const;
     void paintFitted(QPainter& painter) const;
-    void paintPart(QPainter& painter) const;
-    void paintCaption(QPainter& painter) const;
-    void paintEmpty(QPainter& painter) const;
+    void paintPixels(QPainter& painter) const;
 
     Sources m_sources;
     PreviewRenderer m_renderer;
-    PreviewPicture m_picture;
-    PreviewPicture m_fitted; ///< the last fitted picture of this photo
+    PreviewPicture m_fitted; ///< the whole picture; coarse where it stands in for pixels
+    PreviewPicture m_part; ///< the last rendered pixels of this photo
+    bool m_isFittedOld = true; ///< m_fitted belongs to the photo before
     QTimer m_soon;
     ChoiceChip* m_zoomChip;
     Zoom m_zoom = Zoom::Fit;
     QPointF m_centre{0.5, 0.5}; ///< point of the picture in the middle of the view, 0 to 1
     QPoint m_grip;
+    int m_wheelTurn = 0; ///< eighths of a degree since the last change of zoom
+    bool m_showsFocus = false; ///< the focus came by keyboard
     platform::Subscription m_photoChanges;
     platform::Subscription m_overlayChanges;
 };

@@ -36,7 +36,8 @@ void SectionButton::paintEvent(QPaintEvent*)
 {
     const Colours& shade = colours();
     QPainter painter(this);
-    const QColor fill = isChecked() ? shade.accent : (underMouse() ? shade.hover : shade.field);
+    const QColor fill
+        = isChecked() ? shade.accentGround : (underMouse() ? shade.hover : shade.field);
     const QColor focusLine = isChecked() ? shade.text : shade.accent;
     paintFieldFrame(
         painter,

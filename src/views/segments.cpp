@@ -57,7 +57,7 @@ private:
     {
         const Colours& shade = colours();
         if (isChecked())
-            return isEnabled() ? shade.accent : shade.disabled;
+            return isEnabled() ? shade.accentGround : shade.disabled;
         const bool grid = m_look == Segments::Look::Grid;
         if (isEnabled() && underMouse())
             return grid ? shade.border : shade.hover;

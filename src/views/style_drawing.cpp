@@ -22,7 +22,7 @@ void paintRadio(QPainter& painter, const QStyleOption& option)
     const Colours& shade = colours();
     const bool enabled = isOn(option, QStyle::State_Enabled);
     const bool chosen = isOn(option, QStyle::State_On);
-    const QColor mark = enabled ? shade.accent : shade.disabled;
+    const QColor mark = enabled ? shade.accentGround : shade.disabled;
     const QRectF circle = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -45,8 +45,8 @@ void paintButton(QPainter& painter, const QStyleOption& option, ButtonRole role)
     const bool hovered = enabled && isOn(option, QStyle::State_MouseOver);
     FieldFrame frame = fieldFrame(option.state);
     if (role == ButtonRole::Primary) {
-        frame.fill
-            = !enabled ? shade.track : (hovered || pressed ? shade.accentHover : shade.accent);
+        frame.fill = !enabled ? shade.track
+                              : (hovered || pressed ? shade.accentHover : shade.accentGround);
         frame.line = frame.focused ? shade.text : frame.fill;
     } else if (role == ButtonRole::Flat) {
         frame.fill = pressed ? shade.track : (hovered ? shade.hover : QColor(Qt::transparent));

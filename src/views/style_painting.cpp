@@ -51,7 +51,7 @@ void paintTickBox(QPainter& painter, const TickBox& box)
     const Colours& shade = colours();
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor mark = box.enabled ? shade.accent : shade.disabled;
+    const QColor mark = box.enabled ? shade.accentGround : shade.disabled;
     const QColor line = box.ticked ? mark : (box.enabled ? shade.disabled : shade.track);
     const QRectF inner = box.rect.adjusted(0.5, 0.5, -0.5, -0.5);
     if (box.focused || box.onPicture) {

@@ -19,6 +19,7 @@ const Colours light{
     .muted = QColor(0x686c75),
     .disabled = QColor(0xa9adb5),
     .accent = QColor(0x2f6fe0),
+    .accentGround = QColor(0x2f6fe0),
     .accentHover = QColor(0x2762cc),
     .onAccent = QColor(0xffffff),
     .selection = QColor(0xdfeafb),
@@ -35,7 +36,8 @@ const Colours dark{
     .muted = QColor(0x9fa3ac),
     .disabled = QColor(0x63666e),
     .accent = QColor(0x4a8bff),
-    .accentHover = QColor(0x639bff),
+    .accentGround = QColor(0x3572de),
+    .accentHover = QColor(0x2f68cd),
     .onAccent = QColor(0xffffff),
     .selection = QColor(0x263a5c),
     .hover = QColor(0x32343a),
@@ -81,7 +83,7 @@ QPalette paletteOf(Scheme scheme)
     setEverywhere(palette, QPalette::Light, shade.field);
     setEverywhere(palette, QPalette::Mid, shade.border);
     setEverywhere(palette, QPalette::Dark, shade.border);
-    setEverywhere(palette, QPalette::Highlight, shade.accent);
+    setEverywhere(palette, QPalette::Highlight, shade.accentGround);
     setEverywhere(palette, QPalette::HighlightedText, shade.onAccent);
     setEverywhere(palette, QPalette::ToolTipBase, shade.field);
     setEverywhere(palette, QPalette::ToolTipText, shade.text);

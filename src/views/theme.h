@@ -23,9 +23,10 @@ struct Colours
     QColor text;
     QColor muted; ///< labels, units and hints
     QColor disabled;
-    QColor accent;
-    QColor accentHover;
-    QColor onAccent; ///< text and marks on the accent colour
+    QColor accent; ///< lines, marks and words
+    QColor accentGround; ///< behind text and marks in `onAccent`
+    QColor accentHover; ///< the ground under the pointer
+    QColor onAccent;
     QColor selection; ///< behind selected items
     QColor hover; ///< behind what the pointer stands on
     QColor track; ///< grooves of bars, cells of the position grid

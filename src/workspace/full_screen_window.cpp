@@ -10,11 +10,7 @@ DVFFullScreen::DVFFullScreen(const QRectF& contentRect, Screens screens)
 {
 }
 
-void DVFFullScreen::setFrame(const QRectF& frame)
-{
-    m_frame = frame;
-    changed();
-}
+void DVFFullScreen::setFrame(const QRectF& frame) { m_frame = frame; }
 
 void DVFFullScreen::toggleFullscreen()
 {

@@ -33,7 +33,7 @@ public:
     void setFullscreenEnabled(int enabled);
     void windowWillClose();
 
-    /// Sent after each change of frame or menu bar.
+    /// Sent when the window is to take on another frame or menu bar.
     platform::Signal<> changed;
 
 private:

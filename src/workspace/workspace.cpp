@@ -141,6 +141,13 @@ std::optional<platform::Image> Workspace::composedPreview() const
     return composed(window.myTemplatePreview.image(), window.myTemplateOverlayPreview.image());
 }
 
+RunOffer Workspace::runOffer() const
+{
+    return workspace::runOffer(
+        shownFunction(m_parts->panels), m_parts->subsystems.operations, m_parts->actions
+    );
+}
+
 controls::ArrayController* Workspace::rowsOf(const QString& tableName)
 {
     controls::Control* named = m_parts->panels.control(tableName);

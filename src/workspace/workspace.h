@@ -3,6 +3,7 @@
 
 #include "photo_list.h"
 #include "run_journal.h"
+#include "run_offer.h"
 
 #include <controls/action_registry.h>
 #include <controls/file_chooser.h>
@@ -60,6 +61,9 @@ public:
     /// The preview area at full pixel size, the overlay drawn over the photo; nothing while both
     /// views are empty.
     [[nodiscard]] std::optional<platform::Image> composedPreview() const;
+
+    /// What the process button is good for with the panels as they are shown.
+    [[nodiscard]] RunOffer runOffer() const;
 
     /// The rows behind a table of that name; null when there is no such table.
     [[nodiscard]] controls::ArrayController* rowsOf(const QString& tableName);

@@ -37,7 +37,7 @@ protected:
     MainWindow()
     {
         workspace.start();
-        window = std::make_unique<views::mainAppWindow>(workspace, chooser);
+        window = std::make_unique<views::MainWindow>(workspace, chooser);
         window->resize(1280, 720);
         window->show();
         settle();
@@ -50,12 +50,22 @@ protected:
         QApplication::processEvents();
     }
 
-    template <class Widget = QWidget>
-    Widget* find(const QString& name) const
+    template <class Object = QWidget>
+    Object* find(const QString& name) const
     {
-        auto* widget = window->findChild<Widget*>(name);
+        auto* widget = window->findChild<Object*>(name);
         EXPECT_TRUE(widget) << name.toStdString();
         return widget;
+    }
+
+    QAction* orderNamed(const QString& name) const
+    {
+        for (QAction* order : window->actions()) {
+            if (order->objectName() == name)
+                return order;
+        }
+        ADD_FAILURE() << name.toStdString();
+        return nullptr;
     }
 
     QStringList makePhotos(int count) const
@@ -75,7 +85,7 @@ protected:
     views::QtFileChooser chooser;
     views::QtDesktop desktop;
     workspace::Workspace workspace{{.chooser = chooser, .desktop = desktop, .defaults = defaults}};
-    std::unique_ptr<views::mainAppWindow> window;
+    std::unique_ptr<views::MainWindow> window;
 };
 
 bool isCut(const QWidget& widget)
@@ -206,6 +216,54 @@ TEST_F(MainWindow, AddsNothingForADropOnItsBody)
     EXPECT_TRUE(workspace.photos().isEmpty());
 }
 
+TEST_F(MainWindow, OpensNoLargerThanTheScreen)
+{
+    window->openInto({1920, 1080});
+    EXPECT_EQ(window->size(), QSize(1440, 900));
+    EXPECT_FALSE(window->isMaximized());
+
+    window->openInto({1280, 720});
+    EXPECT_EQ(window->normalGeometry().size(), QSize(1280, 720));
+    EXPECT_TRUE(window->isMaximized());
+}
+
+TEST_F(MainWindow, FillsTheScreenByKeyAndGoesBackByEscape)
+{
+    window->setGeometry(20, 30, 1280, 640);
+    settle();
+    const QRect before = window->geometry();
+
+    QTest::keyClick(window.get(), Qt::Key_F11);
+    settle();
+    EXPECT_TRUE(window->isFullScreen());
+    EXPECT_FALSE(window->menuBar()->isVisible());
+
+    QTest::keyClick(window.get(), Qt::Key_F11);
+    settle();
+    EXPECT_FALSE(window->isFullScreen());
+    EXPECT_TRUE(window->menuBar()->isVisible());
+    EXPECT_EQ(window->geometry(), before);
+
+    QTest::keyClick(window.get(), Qt::Key_F11);
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(window->isFullScreen());
+    EXPECT_FALSE(orderNamed(u"fullScreen"_qs)->isChecked());
+}
+
+TEST_F(MainWindow, FollowsAWindowManagerThatEndsFullScreen)
+{
+    const QRect before = window->geometry();
+    window->showFullScreen();
+    settle();
+    EXPECT_TRUE(orderNamed(u"fullScreen"_qs)->isChecked());
+    EXPECT_FALSE(window->menuBar()->isVisible());
+
+    window->showNormal();
+    settle();
+    EXPECT_TRUE(window->menuBar()->isVisible());
+    EXPECT_EQ(window->geometry(), before);
+}
+
 TEST_F(MainWindow, EndsTheWorkWhenItIsClosed)
 {
     const QString left = folder.path(u"data/Brenvaldo/Temp/left.txt"_qs);
@@ -288,8 +346,13 @@ TEST_F(MainWindow, NamesEveryWidgetThatTakesTheFocus)
 TEST_F(MainWindow, OffersNoButtonWithoutAnAction)
 {
     EXPECT_TRUE(workspace.panels().window.btnPresetsHelp.actions().join(QString()).isEmpty());
-    EXPECT_FALSE(find(u"btnPresetsHelp"_qs)->isVisible());
-    EXPECT_TRUE(find(u"btnPresets"_qs)->isVisible());
+    for (const QString& section :
+         {u"btnExportHtml"_qs, u"btnFileManagement"_qs, u"btnEditPhoto"_qs}) {
+        EXPECT_FALSE(find(u"btnPresetsHelp"_qs)->isVisible());
+        EXPECT_TRUE(find(u"btnPresets"_qs)->isVisible());
+        QTest::mouseClick(find(section), Qt::LeftButton);
+        settle();
+    }
 }
 
 TEST_F(MainWindow, LeavesTheWatermarkTextForTheFontSizeByTab)
@@ -334,6 +397,48 @@ TEST_F(MainWindow, CutsNoWidgetAtTheSmallestSize)
                 << " at function " << index;
         }
     }
+}
+
+TEST_F(MainWindow, TellsThatAFunctionComesLaterAndOffersNoRun)
+{
+    auto* process = find<QPushButton>(u"btnProcess"_qs);
+    const QAction* order = orderNamed(u"hLoadImages"_qs);
+    auto* notice = find(u"laterNotice"_qs);
+    workspace.openFiles(makePhotos(2));
+    EXPECT_TRUE(process->isEnabled());
+    EXPECT_TRUE(notice->isHidden());
+
+    QTest::mouseClick(find(u"btnExportHtml"_qs), Qt::LeftButton);
+    EXPECT_EQ(process->text(), u"Process"_qs);
+    EXPECT_FALSE(process->isEnabled());
+    EXPECT_FALSE(order->isEnabled());
+    EXPECT_TRUE(notice->isVisible());
+
+    QTest::mouseClick(find(u"btnEditPhoto"_qs), Qt::LeftButton);
+    EXPECT_TRUE(process->isEnabled());
+    EXPECT_TRUE(order->isEnabled());
+    EXPECT_TRUE(notice->isHidden());
+
+    workspace.panels().vwWatermark.tbvWatermarkType.selectIndex(1);
+    EXPECT_FALSE(process->isEnabled());
+    EXPECT_TRUE(notice->isVisible());
+}
+
+TEST_F(MainWindow, RunsAFunctionThatComesLaterByItsActionAllTheSame)
+{
+    QDir().mkpath(folder.path(u"out"_qs));
+    workspace.openFiles(makePhotos(1));
+    workspace.panels().vwMainDestination.tfImageDestinationFolder.setStringValue(
+        folder.path(u"out/"_qs)
+    );
+    workspace.panels().window.pubEditPhoto.selectItemAtIndex(9);
+    workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_qs);
+    ASSERT_FALSE(find<QPushButton>(u"btnProcess"_qs)->isEnabled());
+
+    workspace.actions().send(u"cGUIcontrols.hLoadImages"_qs);
+
+    ASSERT_EQ(workspace.journal().records().size(), 1);
+    EXPECT_EQ(workspace.journal().records().first().word, u"Failed"_qs);
 }
 
 TEST_F(MainWindow, FollowsTheSchemeWhileItIsOpen)

@@ -9,7 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QSet>
 #include <QTest>
+#include <QWheelEvent>
 
 using namespace brenvaldo;
 
@@ -46,7 +49,9 @@ protected:
     controls::ImageView photo{u"myTemplatePreview"_qs};
     controls::ImageView overlay{u"myTemplateOverlayPreview"_qs};
     workspace::PhotoList photos;
-    views::PreviewView view{{.photo = photo, .overlay = overlay, .photos = photos}};
+    views::PreviewView view{{.photo = photo, .overlay = overlay, .photos = photos, .emptyText = [] {
+                                 return u"Nothing to see"_qs;
+                             }}};
 };
 
 } // namespace
@@ -137,4 +142,100 @@ TEST_F(PreviewView, ShowsTheFittedPictureWhereAPartIsNotRenderedYet)
 
     ASSERT_FALSE(view.isUpToDate());
     EXPECT_EQ(view.grab().toImage().pixelColor(590, 200), QColor(Qt::red));
+}
+
+TEST_F(PreviewView, ShowsPixelsOfAPhotoThatIsOpenedAtOneToOne)
+{
+    view.setZoom(views::PreviewView::Zoom::Pixels);
+    photo.setImage(picture(4000, 2000, Qt::red));
+    (void)drawn();
+
+    QTest::keyClick(&view, Qt::Key_Right);
+
+    ASSERT_FALSE(view.isUpToDate());
+    const QImage shown = view.grab().toImage();
+    EXPECT_EQ(shown.pixelColor(590, 200), QColor(Qt::red));
+    EXPECT_EQ(shown.pixelColor(10, 200), QColor(Qt::red));
+}
+
+TEST_F(PreviewView, GoesOnShowingThePictureWhileTheZoomChanges)
+{
+    photo.setImage(picture(4000, 2000, Qt::red));
+    (void)drawn();
+
+    view.setZoom(views::PreviewView::Zoom::Pixels);
+    ASSERT_FALSE(view.isUpToDate());
+    EXPECT_EQ(view.grab().toImage().pixelColor(4, 4), QColor(Qt::red));
+    (void)drawn();
+
+    view.setZoom(views::PreviewView::Zoom::Fit);
+    ASSERT_FALSE(view.isUpToDate());
+    EXPECT_EQ(view.grab().toImage().pixelColor(4, 4), views::colours().canvas);
+    EXPECT_EQ(view.grab().toImage().pixelColor(300, 200), QColor(Qt::red));
+}
+
+TEST_F(PreviewView, ZoomsByTheWheelAtThePointer)
+{
+    QImage marked = solid(4000, 2000, Qt::red);
+    for (int y = 0; y < 300; ++y)
+        for (int x = 0; x < 300; ++x)
+            marked.setPixelColor(x, y, Qt::blue);
+    photo.setImage(platform::Image::fromQImage(marked));
+    (void)drawn();
+    const QPointF corner(40, 70); // in the blue corner of the fitted picture
+
+    const auto turn = [&](int eighths) {
+        QWheelEvent event(
+            corner, view.mapToGlobal(corner), {}, {0, eighths}, {}, {}, Qt::NoScrollPhase, false
+        );
+        QApplication::sendEvent(&view, &event);
+    };
+    turn(120);
+    EXPECT_EQ(view.zoom(), views::PreviewView::Zoom::Pixels);
+    EXPECT_EQ(drawn().pixelColor(corner.toPoint()), QColor(Qt::blue));
+
+    turn(-60);
+    EXPECT_EQ(view.zoom(), views::PreviewView::Zoom::Pixels);
+    turn(-60);
+    EXPECT_EQ(view.zoom(), views::PreviewView::Zoom::Fit);
+}
+
+TEST_F(PreviewView, ZoomsAndMovesByKeyboard)
+{
+    QImage halves = solid(4000, 2000, Qt::red);
+    for (int y = 0; y < halves.height(); ++y)
+        for (int x = 2000; x < halves.width(); ++x)
+            halves.setPixelColor(x, y, Qt::blue);
+    photo.setImage(platform::Image::fromQImage(halves));
+
+    QTest::keyClick(&view, Qt::Key_Plus);
+    EXPECT_EQ(view.zoom(), views::PreviewView::Zoom::Pixels);
+    EXPECT_EQ(drawn().pixelColor(240, 200), QColor(Qt::red));
+    QTest::keyClick(&view, Qt::Key_Right);
+    QTest::keyClick(&view, Qt::Key_Right);
+    EXPECT_EQ(drawn().pixelColor(240, 200), QColor(Qt::blue));
+
+    QTest::keyClick(&view, Qt::Key_Minus);
+    EXPECT_EQ(view.zoom(), views::PreviewView::Zoom::Fit);
+}
+
+TEST_F(PreviewView, ShowsThatTheKeyboardHasMovedToIt)
+{
+    photo.setImage(picture(2000, 1000, Qt::red));
+    view.activateWindow();
+    EXPECT_EQ(drawn().pixelColor(1, 1), views::colours().canvas);
+
+    view.setFocus(Qt::TabFocusReason);
+
+    EXPECT_EQ(drawn().pixelColor(1, 1), views::colours().accent);
+}
+
+TEST_F(PreviewView, TellsWhyThereIsNoPicture)
+{
+    const QImage empty = drawn();
+    QSet<QRgb> inks;
+    for (int y = 0; y < empty.height(); ++y)
+        for (int x = 0; x < empty.width(); ++x)
+            inks.insert(empty.pixel(x, y));
+    EXPECT_GT(inks.size(), 20);
 }

@@ -8,7 +8,31 @@
 #include <QDBusVariant>
 #include <QStyle>
 
+#include <algorithm>
+#include <cmath>
+
 using namespace brenvaldo::views;
+
+namespace {
+
+double luminance(const QColor& colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
+        + 0.0722 * linear(colour.blueF());
+}
+
+/// 1 to 21, by the rule of the web's accessibility guidelines.
+double contrast(const QColor& one, const QColor& other)
+{
+    const double first = luminance(one) + 0.05;
+    const double second = luminance(other) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+} // namespace
 
 TEST(Theme, TakesTheSchemeFromTheDesktopsPalette)
 {
@@ -67,5 +91,11 @@ TEST(Theme, KeepsTextReadable)
         const Colours& shade = coloursOf(scheme);
         EXPECT_GT(std::abs(shade.text.lightness() - shade.window.lightness()), 180);
         EXPECT_GT(std::abs(shade.muted.lightness() - shade.window.lightness()), 110);
+        EXPECT_GE(contrast(shade.text, shade.window), 7);
+        EXPECT_GE(contrast(shade.muted, shade.window), 4.5);
+        EXPECT_GE(contrast(shade.muted, shade.field), 4.5);
+        EXPECT_GE(contrast(shade.onAccent, shade.accentGround), 4.5);
+        EXPECT_GE(contrast(shade.onAccent, shade.accentHover), 4.5);
+        EXPECT_GE(contrast(shade.accent, shade.field), 4.5);
     }
 }

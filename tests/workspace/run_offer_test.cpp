@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <workspace/function_id.h>
+#include <workspace/run_offer.h>
+
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using namespace brenvaldo;
+using workspace::RunOffer;
+namespace functionId = workspace::functionId;
+
+namespace {
+
+class RunOfferTest : public testing::Test
+{
+protected:
+    [[nodiscard]] RunOffer offerOf(const QString& function) const
+    {
+        return workspace::runOffer(function, operations, actions);
+    }
+
+    void pickFile(int index)
+    {
+        panels.window.dvVCUiMainPropertySelect.replaceViews(u"pubFileManagementSelect"_qs);
+        panels.window.pubFileManagementSelect.selectItemAtIndex(index);
+    }
+
+    void pickEdit(int index)
+    {
+        panels.window.dvVCUiMainPropertySelect.replaceViews(u"pubEditPhoto"_qs);
+        panels.window.pubEditPhoto.selectItemAtIndex(index);
+    }
+
+    panels::Panels panels;
+    workspace::BatchOperations operations;
+    controls::ActionRegistry actions;
+};
+
+} // namespace
+
+TEST_F(RunOfferTest, RunsFunctionsWhoseOperationIsThere)
+{
+    EXPECT_EQ(offerOf(functionId::cropPhotos), RunOffer::ComesLater);
+    EXPECT_EQ(offerOf(functionId::htmlExport), RunOffer::ComesLater);
+
+    operations.hCropPhotos = [](const auto&...) { return QString(); };
+
+    EXPECT_EQ(offerOf(functionId::cropPhotos), RunOffer::Run);
+    EXPECT_EQ(offerOf(functionId::htmlExport), RunOffer::ComesLater);
+}
+
+TEST_F(RunOfferTest, LeavesFunctionsWithButtonsOfTheirOwnToTheirButtons)
+{
+    EXPECT_EQ(offerOf(functionId::manSort), RunOffer::ComesLater);
+    EXPECT_EQ(offerOf(functionId::batchSort), RunOffer::ComesLater);
+    EXPECT_EQ(offerOf(functionId::batchQR), RunOffer::ComesLater);
+
+    actions.add(u"cGUIcontrols"_qs, u"hCopyFileToFolder"_qs, [](const auto&) {});
+    actions.add(u"DVFileSorterRoutine"_qs, u"hSortFiles"_qs, [](const auto&) {});
+    actions.add(u"cQRcode"_qs, u"hGenerateCode"_qs, [](const auto&) {});
+
+    EXPECT_EQ(offerOf(functionId::manSort), RunOffer::Nothing);
+    EXPECT_EQ(offerOf(functionId::batchSort), RunOffer::Message);
+    EXPECT_EQ(offerOf(functionId::batchQR), RunOffer::Message);
+}
+
+TEST_F(RunOfferTest, KnowsTheFunctionOfThePanelThatIsShown)
+{
+    pickEdit(0);
+    EXPECT_EQ(workspace::shownFunction(panels), functionId::textWM);
+    panels.vwWatermark.tbvWatermarkType.selectIndex(1);
+    EXPECT_EQ(workspace::shownFunction(panels), functionId::imageWM);
+    pickEdit(8);
+    EXPECT_EQ(workspace::shownFunction(panels), functionId::resizePhotos);
+
+    const QList<QLatin1String> sorting{
+        functionId::manSort, functionId::batchSort, functionId::batchUploadPhotos};
+    for (int tab = 0; tab < sorting.size(); ++tab) {
+        pickFile(0);
+        panels.vwFileManagementSorting.mySortTabView.selectIndex(tab);
+        EXPECT_EQ(workspace::shownFunction(panels), sorting.at(tab));
+    }
+    pickFile(3);
+    EXPECT_EQ(workspace::shownFunction(panels), functionId::batchFileConvert);
+
+    panels.window.dvVCUiMainPropertySelect.removeAllViews();
+    EXPECT_EQ(workspace::shownFunction(panels), functionId::htmlExport);
+}
