@@ -3,6 +3,7 @@
 
 #include <imaging/dv_image_handling.h>
 #include <platform/filters/photo_effect.h>
+#include <platform/graphics/fonts.h>
 #include <platform/graphics/qt_color.h>
 
 #include <algorithm>
@@ -21,7 +22,7 @@ platform::TextAttributes attributesOf(const TextWatermarkSettings& settings, QFo
     constexpr double italicObliqueness = 0.3;
     font.setPixelSize(std::max(1, settings.fontSize));
     if (settings.isBold)
-        font.setBold(true);
+        font = platform::boldFaceOf(font);
     return {
         .font = font,
         .kerning = static_cast<double>(settings.kerning),

@@ -51,4 +51,14 @@ QFont fontNamed(const QString& name)
     return QFont(name);
 }
 
+QFont boldFaceOf(const QFont& font)
+{
+    if (font.weight() >= QFont::Bold)
+        return font;
+    QFont bold = font;
+    bold.setStyleName(QString()); // counts more than the weight
+    bold.setBold(true);
+    return bold;
+}
+
 } // namespace brenvaldo::platform

@@ -17,4 +17,7 @@ namespace brenvaldo::platform {
 /// it.
 [[nodiscard]] QFont fontNamed(const QString& name);
 
+/// The bold face of the font's family with the same slant; a face that is bold or heavier stays.
+[[nodiscard]] QFont boldFaceOf(const QFont& font);
+
 } // namespace brenvaldo::platform

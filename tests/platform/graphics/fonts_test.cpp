@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/graphics/attributed_text.h>
+#include <platform/graphics/fonts.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using namespace brenvaldo::platform;
+
+namespace {
+
+QPainterPath sampleIn(QFont font)
+{
+    font.setPixelSize(80);
+    return AttributedText(u"Rags 12"_qs, {.font = font}).drawing().shape;
+}
+
+} // namespace
+
+TEST(Fonts, AreListedOnceByFamilyAndFace)
+{
+    const QStringList names = installedFontNames();
+
+    EXPECT_TRUE(names.contains(u"DejaVu Sans"_qs));
+    EXPECT_TRUE(names.contains(u"DejaVu Sans Bold"_qs));
+    EXPECT_EQ(QSet<QString>(names.begin(), names.end()).size(), names.size());
+}
+
+TEST(Fonts, OfFacesAreFoundByName)
+{
+    EXPECT_EQ(fontNamed(u"DejaVu Sans Mono"_qs).family(), u"DejaVu Sans Mono"_qs);
+    EXPECT_NE(sampleIn(fontNamed(u"DejaVu Sans"_qs)), sampleIn(fontNamed(u"DejaVu Serif"_qs)));
+    EXPECT_NE(sampleIn(fontNamed(u"DejaVu Sans"_qs)), sampleIn(fontNamed(u"DejaVu Sans Bold"_qs)));
+}
+
+TEST(Fonts, ThatAreNotInstalledHaveAStandIn)
+{
+    EXPECT_FALSE(sampleIn(fontNamed(u"No Such Font"_qs)).isEmpty());
+}
+
+TEST(Fonts, HaveTheBoldFaceOfTheirFamily)
+{
+    for (const QString& family : {u"DejaVu Sans"_qs, u"DejaVu Sans Mono"_qs, u"DejaVu Serif"_qs})
+        EXPECT_EQ(
+            sampleIn(boldFaceOf(fontNamed(family))), sampleIn(fontNamed(family + u" Bold"_qs))
+        ) << family.toStdString();
+}
+
+TEST(Fonts, ThatAreBoldStayAsTheyAre)
+{
+    const QFont bold = fontNamed(u"DejaVu Sans Bold"_qs);
+
+    EXPECT_EQ(boldFaceOf(bold), bold);
+}
