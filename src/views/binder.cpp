@@ -121,8 +121,11 @@ Binder::Binder(const controls::UserInput& input)
 void Binder::bind(UnitField& widget, controls::TextControl& control) const
 {
     followControl(widget, control, [&widget, &control] {
-        if (widget.text() != control.stringValue())
-            widget.setText(control.stringValue());
+        if (widget.text() == control.stringValue())
+            return;
+        widget.setText(control.stringValue());
+        if (!widget.hasFocus())
+            widget.setCursorPosition(0);
     });
     QObject::connect(&widget, &QLineEdit::textEdited, &widget, [&widget, &control] {
         widget.setModified(true);

@@ -9,6 +9,7 @@
 #include <controls/text_controls.h>
 
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QTabBar>
 #include <QVBoxLayout>
 
@@ -106,6 +107,9 @@ void FormRow::addFields(const FormBuilder& builder)
         filled = filled || stretches(field);
         if (m_label && !m_label->buddy())
             m_label->setBuddy(widget);
+        auto* text = qobject_cast<QLineEdit*>(widget);
+        if (text && !m_label)
+            text->setPlaceholderText(field.accessibleName);
     }
     if (!filled)
         line->addStretch(1);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "journal_window.h"
 
+#include "function_title.h"
 #include "muted_label.h"
 #include "subscriptions.h"
 #include "theme.h"
@@ -89,7 +90,7 @@ void JournalWindow::add(const workspace::RunRecord& record)
     auto* row = new QTreeWidgetItem(
         m_rows,
         {record.time.time().toString(u"HH:mm:ss"_qs),
-         record.function,
+         functionTitle(record.function),
          platform::lastPathComponent(record.source),
          record.target,
          record.word}

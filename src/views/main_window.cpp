@@ -128,11 +128,11 @@ QWidget* MainWindow::photoArea()
     auto* column = new QVBoxLayout(list);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    m_grid = new PhotoGrid(m_workspace.photos(), list);
     column->addWidget(
         new PhotoToolBar(m_commands, *m_orders.photoInfo, panels.window, m_binder, list)
     );
     column->addWidget(new Hairline(Qt::Horizontal, list));
+    m_grid = new PhotoGrid(m_workspace.photos(), list);
     column->addWidget(m_grid, 1);
     splitter->addWidget(list);
     splitter->setStretchFactor(0, 16);

@@ -3,6 +3,7 @@
 
 #include "choice_chip.h"
 #include "preview_painting.h"
+#include "shown_focus.h"
 #include "theme.h"
 
 #include <QKeyEvent>
@@ -24,12 +25,6 @@ constexpr int keyStep = 60;
 QString fileSizeOf(const workspace::cCollectionViewItem& entry)
 {
     return entry.myPhotoPxSize.section(QStringLiteral(" | "), 1);
-}
-
-bool isByKeyboard(Qt::FocusReason reason)
-{
-    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
-        || reason == Qt::ShortcutFocusReason;
 }
 
 } // namespace
@@ -196,7 +191,7 @@ void PreviewView::paintEvent(QPaintEvent*)
         const int room = m_zoomChip->x() - 2 * chipMargin - 24;
         paintCaption(painter, {chipMargin, m_zoomChip->y(), room, m_zoomChip->height()}, m_fitted);
     }
-    if (m_showsFocus)
+    if (hasFocus() && m_showsFocus)
         paintPreviewFocus(painter, rect());
 }
 
@@ -317,14 +312,10 @@ void PreviewView::keyPressEvent(QKeyEvent* event)
 
 void PreviewView::focusInEvent(QFocusEvent* event)
 {
-    m_showsFocus = isByKeyboard(event->reason());
+    m_showsFocus = showsFocus(event->reason(), m_showsFocus);
     update();
 }
 
-void PreviewView::focusOutEvent(QFocusEvent*)
-{
-    m_showsFocus = false;
-    update();
-}
+void PreviewView::focusOutEvent(QFocusEvent*) { update(); }
 
 } // namespace brenvaldo::views

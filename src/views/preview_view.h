@@ -87,7 +87,7 @@ private:
     QPointF m_centre{0.5, 0.5}; ///< point of the picture in the middle of the view, 0 to 1
     QPoint m_grip;
     int m_wheelTurn = 0; ///< eighths of a degree since the last change of zoom
-    bool m_showsFocus = false; ///< the focus came by keyboard
+    bool m_showsFocus = false; ///< the focus came by keyboard, not by a click
     platform::Subscription m_photoChanges;
     platform::Subscription m_overlayChanges;
 };

@@ -15,6 +15,7 @@ namespace {
 constexpr int rowRole = Qt::UserRole + 1;
 constexpr int visibleRows = 6;
 constexpr int lineHeight = 24;
+constexpr int narrowestColumn = 110;
 
 /// What stands behind a TAB is there for the program only.
 QString shownText(const QString& value) { return value.section(QLatin1Char('\t'), 0, 0); }
@@ -34,6 +35,7 @@ RowsTable::RowsTable(QList<panels::TableColumn> columns, QWidget* parent)
     setTabKeyNavigation(false);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
     header()->setStretchLastSection(true);
+    header()->setMinimumSectionSize(narrowestColumn);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!m_fills)
             Q_EMIT picked(selectedRow());

@@ -2,9 +2,11 @@
 #include "section_button.h"
 
 #include "icons.h"
+#include "shown_focus.h"
 #include "style_painting.h"
 #include "theme.h"
 
+#include <QFocusEvent>
 #include <QPainter>
 
 namespace brenvaldo::views {
@@ -32,17 +34,24 @@ QSize SectionButton::sizeHint() const
     return {fontMetrics().horizontalAdvance(text()) + 20, iconSide + fontMetrics().height() + 17};
 }
 
+void SectionButton::focusInEvent(QFocusEvent* event)
+{
+    m_showsFocus = showsFocus(event->reason(), m_showsFocus);
+    QAbstractButton::focusInEvent(event);
+}
+
 void SectionButton::paintEvent(QPaintEvent*)
 {
     const Colours& shade = colours();
     QPainter painter(this);
     const QColor fill
         = isChecked() ? shade.accentGround : (underMouse() ? shade.hover : shade.field);
+    const bool focused = hasFocus() && m_showsFocus;
     const QColor focusLine = isChecked() ? shade.text : shade.accent;
     paintFieldFrame(
         painter,
         rect(),
-        {.fill = fill, .line = hasFocus() ? focusLine : Qt::transparent, .focused = hasFocus()}
+        {.fill = fill, .line = focused ? focusLine : Qt::transparent, .focused = focused}
     );
     const QColor ink = isChecked() ? shade.onAccent : shade.text;
     const QRect place((width() - iconSide) / 2, 7, iconSide, iconSide);

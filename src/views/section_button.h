@@ -17,10 +17,12 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     QString m_drawing;
+    bool m_showsFocus = false;
 };
 
 } // namespace brenvaldo::views

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "segments.h"
 
+#include "shown_focus.h"
 #include "style_painting.h"
 #include "theme.h"
 
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QPainter>
 
@@ -40,11 +42,19 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        m_showsFocus = showsFocus(event->reason(), m_showsFocus);
+        QAbstractButton::focusInEvent(event);
+    }
+
     void paintEvent(QPaintEvent*) override
     {
         const Colours& shade = colours();
         QPainter painter(this);
-        paintFieldFrame(painter, rect(), {.fill = fill(), .line = line(), .focused = hasFocus()});
+        paintFieldFrame(
+            painter, rect(), {.fill = fill(), .line = line(), .focused = isFocusShown()}
+        );
         if (m_look == Segments::Look::Grid)
             return;
         const QColor ink = isChecked() ? shade.onAccent : shade.text;
@@ -53,6 +63,8 @@ protected:
     }
 
 private:
+    [[nodiscard]] bool isFocusShown() const { return hasFocus() && m_showsFocus; }
+
     [[nodiscard]] QColor fill() const
     {
         const Colours& shade = colours();
@@ -66,12 +78,13 @@ private:
 
     [[nodiscard]] QColor line() const
     {
-        if (!hasFocus())
+        if (!isFocusShown())
             return Qt::transparent;
         return isChecked() ? colours().text : colours().accent;
     }
 
     Segments::Look m_look;
+    bool m_showsFocus = false;
 };
 
 } // namespace

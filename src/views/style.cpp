@@ -72,6 +72,9 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
         return 1;
     case PM_MenuVMargin:
         return 4;
+    case PM_FocusFrameHMargin: // beside the texts of lists and tables
+    case PM_HeaderMargin:
+        return 7;
     case PM_MenuBarItemSpacing:
         return 0;
     case PM_SliderThickness:
@@ -140,6 +143,8 @@ QSize Style::sizeFromContents(
     case CT_CheckBox:
     case CT_RadioButton:
         return {base.width(), std::max(base.height(), text + 8)};
+    case CT_ItemViewItem:
+        return {base.width(), std::max(base.height(), text + 9)};
     case CT_HeaderSection:
         return {base.width() + 8, text + 10};
     default:

@@ -59,6 +59,7 @@ TEST_F(Binder, SendsTheActionOfAFieldWhenTheUserHasTypedAndLeaves)
     binder.bind(*field, control);
     show(field);
 
+    QTest::keyClick(field, Qt::Key_End);
     QTest::keyClicks(field, u"20"_qs);
     EXPECT_EQ(control.stringValue(), u"120"_qs);
     EXPECT_TRUE(sent.names.isEmpty());
@@ -66,6 +67,18 @@ TEST_F(Binder, SendsTheActionOfAFieldWhenTheUserHasTypedAndLeaves)
 
     EXPECT_EQ(sent.names, QStringList{u"tfWidth"_qs});
     EXPECT_EQ(sent.tags, QList<int>{75});
+}
+
+TEST_F(Binder, ShowsTheBeginningOfALongText)
+{
+    controls::TextField control(u"tfFolder"_qs);
+    auto* field = new views::UnitField({}, &window);
+    binder.bind(*field, control);
+    show(other);
+
+    control.setStringValue(QString(400, u'w'));
+
+    EXPECT_EQ(field->cursorPosition(), 0);
 }
 
 TEST_F(Binder, SendsNothingWhenAFieldIsLeftUntouched)

@@ -14,6 +14,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QDropEvent>
 #include <QLabel>
@@ -66,6 +67,37 @@ protected:
         }
         ADD_FAILURE() << name.toStdString();
         return nullptr;
+    }
+
+    /// Tab stops once in a group of buttons, arrows go on from there.
+    static const QWidget* stopOf(const QWidget* widget)
+    {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        return button && button->group() ? button->group()->buttons().first() : widget;
+    }
+
+    /// Every widget that Tab is to stop at.
+    QList<const QWidget*> tabStops() const
+    {
+        QList<const QWidget*> stops;
+        for (const QWidget* widget : window->findChildren<QWidget*>()) {
+            const bool isPart = widget->objectName().startsWith(u"qt_"_qs);
+            const auto policy = widget->focusPolicy();
+            if (widget->window() == window.get() && widget->isVisible() && widget->isEnabled()
+                && !isPart && (policy & Qt::TabFocus) && !widget->focusProxy())
+                stops.append(stopOf(widget));
+        }
+        return stops;
+    }
+
+    QSet<const QWidget*> walkedBy(Qt::Key key, int steps) const
+    {
+        QSet<const QWidget*> reached;
+        for (int step = 0; step < steps; ++step) {
+            reached.insert(stopOf(window->focusWidget()));
+            QTest::keyClick(window->focusWidget(), key);
+        }
+        return reached;
     }
 
     QStringList makePhotos(int count) const
@@ -340,6 +372,58 @@ TEST_F(MainWindow, NamesEveryWidgetThatTakesTheFocus)
             continue;
         EXPECT_FALSE(widget->accessibleName().isEmpty())
             << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+    }
+}
+
+TEST_F(MainWindow, ReachesEveryWidgetByTabInBothDirections)
+{
+    workspace.openFiles(makePhotos(2));
+    orderNamed(u"photoInfo"_qs)->trigger();
+    auto& functions = workspace.panels().window.pubEditPhoto;
+    for (int index = 0; index < functions.count(); ++index) {
+        functions.selectItemAtIndex(index);
+        workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_qs);
+        settle();
+        const QList<const QWidget*> expected = tabStops();
+        EXPECT_GT(expected.size(), 15);
+        const auto steps = static_cast<int>(expected.size()) * 2;
+        // Tab leads from the watermark text straight to its size; the fields between are behind it.
+        const auto reached = walkedBy(Qt::Key_Tab, steps) + walkedBy(Qt::Key_Backtab, steps);
+        for (const QWidget* widget : expected)
+            EXPECT_TRUE(reached.contains(widget))
+                << widget->metaObject()->className() << ' ' << widget->objectName().toStdString()
+                << " at function " << index;
+    }
+}
+
+TEST_F(MainWindow, LeadsTheTabKeyFromThePreviewToTheProcessButton)
+{
+    workspace.openFiles(makePhotos(2));
+    settle();
+    QStringList met;
+    find(u"myTemplatePreview"_qs)->setFocus();
+    for (int step = 0; step < 60; ++step) {
+        met.append(window->focusWidget()->objectName());
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    }
+    const QStringList stations{
+        u"myTemplatePreview"_qs,
+        u"tool.hChoosePhotos"_qs,
+        u"cbPhotoToProcess"_qs,
+        u"myPhotoCollectionView"_qs,
+        u"btnEditPhoto"_qs,
+        u"pubEditPhoto"_qs,
+        u"btnPresets"_qs,
+        u"tvWaterMarkText"_qs,
+        u"cbShowPreview"_qs,
+        u"pubFileType"_qs,
+        u"tfImageDestinationFolder"_qs,
+        u"btnProcess"_qs};
+    qsizetype last = -1;
+    for (const QString& station : stations) {
+        const qsizetype place = met.indexOf(station);
+        EXPECT_GT(place, last) << station.toStdString() << " in " << met.join(u' ').toStdString();
+        last = place;
     }
 }
 

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QTreeWidget>
 
 using namespace brenvaldo;
 
@@ -139,6 +140,8 @@ TEST(JournalWindow, ListsWhatRunsDidAndSavesItAsText)
 
     journal.add(record);
     EXPECT_EQ(window.rowCount(), 2);
+    const auto* rows = window.findChild<QTreeWidget*>();
+    EXPECT_EQ(rows->topLevelItem(0)->text(1), u"Text watermark"_qs);
     QTest::mouseClick(window.findChildren<QPushButton*>().at(0), Qt::LeftButton);
 
     const QString saved = QString::fromUtf8(test::TemporaryFolder::read(chooser.path));
