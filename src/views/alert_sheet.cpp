@@ -9,6 +9,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
 
 namespace brenvaldo::views {
@@ -16,6 +17,25 @@ namespace brenvaldo::views {
 namespace {
 
 constexpr int textWidth = 380;
+
+/// The drawing beside the text; painted anew, so that it follows the scheme.
+class AlertMark : public QWidget
+{
+public:
+    explicit AlertMark(QWidget* parent)
+        : QWidget(parent)
+    {
+        setFixedSize(36, 36);
+        setObjectName(QStringLiteral("alertMark"));
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        paintIcon(painter, QStringLiteral("alert"), rect(), colours().accent);
+    }
+};
 
 QLabel* shownText(const controls::TextField& control, QWidget* parent)
 {
@@ -57,9 +77,7 @@ AlertSheet::AlertSheet(
     grid->setContentsMargins(24, 22, 24, 18);
     grid->setHorizontalSpacing(18);
     grid->setVerticalSpacing(8);
-    auto* mark = new QLabel(this);
-    mark->setPixmap(icon(QStringLiteral("alert")).pixmap(QSize(36, 36), devicePixelRatioF()));
-    grid->addWidget(mark, 0, 0, 2, 1, Qt::AlignTop);
+    grid->addWidget(new AlertMark(this), 0, 0, 2, 1, Qt::AlignTop);
     QLabel* title = shownText(window.tfHTMLAlertTitle, this);
     QFont bold = scaledFont(font(), 1.1);
     bold.setWeight(QFont::DemiBold);

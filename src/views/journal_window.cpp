@@ -54,6 +54,7 @@ JournalWindow::JournalWindow(
     column->setContentsMargins(Metrics::margin, Metrics::margin, Metrics::margin, Metrics::margin);
     column->addLayout(m_stack, 1);
     column->addWidget(buttons());
+    enableButtons();
     for (const auto& record : journal.records())
         add(record);
     keepFor(*this, journal.recorded.connect([this](const auto& record) { add(record); }));
@@ -65,9 +66,9 @@ QWidget* JournalWindow::buttons()
     auto* line = new QHBoxLayout(area);
     line->setContentsMargins(0, 4, 0, 0);
     line->setSpacing(Metrics::gap);
-    auto* save = new QPushButton(tr("&Save as text\u2026"), area);
-    auto* clear = new QPushButton(tr("&Clear"), area);
-    auto* close = new QPushButton(tr("Close"), area);
+    auto* save = m_needRows.emplaceBack(new QPushButton(tr("&Save as text\u2026"), area));
+    auto* clear = m_needRows.emplaceBack(new QPushButton(tr("&Clear"), area));
+    auto* close = new QPushButton(tr("Cl&ose"), area);
     line->addWidget(save);
     line->addWidget(clear);
     line->addStretch(1);
@@ -100,6 +101,7 @@ void JournalWindow::add(const workspace::RunRecord& record)
     row->setToolTip(3, record.target);
     m_stack->setCurrentIndex(1);
     m_rows->scrollToItem(row);
+    enableButtons();
 }
 
 void JournalWindow::save()
@@ -118,6 +120,13 @@ void JournalWindow::clear()
     m_journal.clear();
     m_rows->clear();
     m_stack->setCurrentIndex(0);
+    enableButtons();
+}
+
+void JournalWindow::enableButtons()
+{
+    for (QPushButton* button : m_needRows)
+        button->setEnabled(rowCount() > 0);
 }
 
 } // namespace brenvaldo::views

@@ -6,6 +6,7 @@
 
 #include <QDialog>
 
+class QPushButton;
 class QStackedLayout;
 class QTreeWidget;
 
@@ -28,11 +29,13 @@ private:
     void add(const workspace::RunRecord& record);
     void save();
     void clear();
+    void enableButtons();
 
     workspace::RunJournal& m_journal;
     controls::FileChooser& m_chooser;
     QTreeWidget* m_rows;
     QStackedLayout* m_stack;
+    QList<QPushButton*> m_needRows; ///< of no use while the journal is empty
 };
 
 } // namespace brenvaldo::views

@@ -18,6 +18,7 @@ namespace brenvaldo::views {
 namespace {
 
 constexpr auto roleProperty = "buttonRole";
+constexpr int listMargin = 7;
 
 } // namespace
 
@@ -73,8 +74,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_MenuVMargin:
         return 4;
     case PM_FocusFrameHMargin: // beside the texts of lists and tables
-    case PM_HeaderMargin:
-        return 7;
+        return listMargin;
     case PM_MenuBarItemSpacing:
         return 0;
     case PM_SliderThickness:
@@ -157,6 +157,8 @@ QRect Style::subElementRect(SubElement element, const QStyleOption* option, cons
 {
     if (element == SE_LineEditContents)
         return option->rect.adjusted(7, 1, -7, -1);
+    if (element == SE_HeaderLabel)
+        return option->rect.adjusted(listMargin + 1, 0, -listMargin, 0);
     if (element == SE_TabBarTabLeftButton || element == SE_TabBarTabRightButton)
         return {};
     return QProxyStyle::subElementRect(element, option, widget);

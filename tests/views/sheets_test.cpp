@@ -8,9 +8,11 @@
 #include <views/alert_sheet.h>
 #include <views/journal_window.h>
 #include <views/panel_sheet.h>
+#include <views/theme.h>
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -68,6 +70,26 @@ TEST_F(AlertSheet, ShowsTitleAndTextWithLineBreaks)
         sheet->findChild<QLabel*>(u"tfHTMLAlertTitle"_qs)->text(), u"Missing destination."_qs
     );
     EXPECT_EQ(sheet->findChild<QLabel*>(u"tfHTMLAlertInfo"_qs)->text(), u"Please choose.\nNow."_qs);
+}
+
+TEST_F(AlertSheet, DrawsItsMarkInTheColoursOfTheScheme)
+{
+    window.show();
+    alert(u"Title"_qs, u"Text"_qs);
+    auto* mark = sheet->findChild<QWidget*>(u"alertMark"_qs);
+    const auto hasInk = [mark](const QColor& ink) {
+        const QImage picture = mark->grab().toImage();
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                if (picture.pixelColor(x, y) == ink)
+                    return true;
+        return false;
+    };
+    EXPECT_TRUE(hasInk(views::coloursOf(views::Scheme::Light).accent));
+
+    QApplication::setPalette(views::paletteOf(views::Scheme::Dark));
+    EXPECT_TRUE(hasInk(views::coloursOf(views::Scheme::Dark).accent));
+    QApplication::setPalette(QPalette());
 }
 
 TEST_F(AlertSheet, ClosesByItsButtonThroughTheAction)
@@ -140,10 +162,16 @@ TEST(JournalWindow, ListsWhatRunsDidAndSavesItAsText)
 
     journal.add(record);
     EXPECT_EQ(window.rowCount(), 2);
+    EXPECT_TRUE(window.findChildren<QPushButton*>().at(1)->isEnabled());
     const auto* rows = window.findChild<QTreeWidget*>();
     EXPECT_EQ(rows->topLevelItem(0)->text(1), u"Text watermark"_qs);
     QTest::mouseClick(window.findChildren<QPushButton*>().at(0), Qt::LeftButton);
 
     const QString saved = QString::fromUtf8(test::TemporaryFolder::read(chooser.path));
     EXPECT_EQ(saved, journal.asText());
+
+    QTest::mouseClick(window.findChildren<QPushButton*>().at(1), Qt::LeftButton);
+    EXPECT_EQ(window.rowCount(), 0);
+    EXPECT_FALSE(window.findChildren<QPushButton*>().at(0)->isEnabled());
+    EXPECT_FALSE(window.findChildren<QPushButton*>().at(1)->isEnabled());
 }
