@@ -1,26 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text_layer.h"
 
+#include <imaging/rotate_rules.h>
+
 #include <QPainter>
 #include <QTransform>
 
 #include <algorithm>
-#include <cmath>
-#include <numbers>
+#include <cstdlib>
 
 namespace brenvaldo::watermark {
 
 namespace {
 
-/// Sizes this close to a whole number are that number.
-constexpr double noise = 1e-6;
-
 /// Layers are no longer than this, whatever the size of the font; no photo is.
 constexpr double longestSide = 1 << 24;
 
-int wholePixels(double length)
+platform::PixelSize uprightSizeOf(const platform::AttributedText& text)
 {
-    return static_cast<int>(std::ceil(std::min(length, longestSide) - noise));
+    return imaging::canvasOfPoints(text.size().boundedTo(QSizeF(longestSide, longestSide)));
 }
 
 QImage transparent(const QSize& size)
@@ -37,48 +35,42 @@ void prepare(QPainter& painter)
 
 } // namespace
 
-platform::PixelSize turnedSize(QSizeF size, double degrees)
-{
-    const double radians = degrees * std::numbers::pi / 180;
-    const double sine = std::abs(std::sin(radians));
-    const double cosine = std::abs(std::cos(radians));
-    return {
-        .width = wholePixels(size.width() * cosine + size.height() * sine),
-        .height = wholePixels(size.width() * sine + size.height() * cosine)};
-}
-
 TextLayer::TextLayer(const platform::AttributedText& text, int angle)
     : m_text(text.drawing())
-    , m_uprightSize(wholePixels(text.size().width()), wholePixels(text.size().height()))
+    , m_uprightSize(uprightSizeOf(text))
     , m_angle(angle)
-    , m_size(turnedSize(m_uprightSize, angle))
+    , m_bounds(imaging::boundsOfTurned(QSizeF(m_uprightSize.width, m_uprightSize.height), angle))
+    , m_size(imaging::canvasOfPoints(m_bounds))
 {
 }
 
 QTransform TextLayer::toTurnedLayer() const
 {
     QTransform transform;
-    transform.translate(m_size.width / 2.0, m_size.height / 2.0);
+    // What the canvas has beyond the bounds lies at the right and at the top.
+    transform.translate(m_bounds.width() / 2, m_size.height - m_bounds.height() / 2);
     // The painter's y axis runs down: its positive angles turn clockwise.
     transform.rotate(-m_angle);
-    transform.translate(-m_uprightSize.width() / 2.0, -m_uprightSize.height() / 2.0);
+    transform.translate(-m_uprightSize.width / 2.0, -m_uprightSize.height / 2.0);
     return transform;
 }
+
+QRect TextLayer::uprightRect() const { return {0, 0, m_uprightSize.width, m_uprightSize.height}; }
 
 QRect TextLayer::neededBefore(const QRect& region) const
 {
     const QRect mapped = toTurnedLayer().inverted().mapRect(QRectF(region)).toAlignedRect();
-    return mapped.adjusted(-1, -1, 1, 1).intersected(QRect(QPoint(0, 0), m_uprightSize));
+    return mapped.adjusted(-1, -1, 1, 1).intersected(uprightRect());
 }
 
 QImage TextLayer::rendered(const Ink& ink, const QRect& region) const
 {
     QImage layer = transparent(region.size());
-    if (layer.isNull() || m_uprightSize.isEmpty())
+    if (layer.isNull() || !m_uprightSize.isValid())
         return layer;
     QBrush fill = ink.fill;
     if (fill.style() == Qt::TexturePattern) {
-        const int textureTop = m_uprightSize.height() - fill.textureImage().height();
+        const int textureTop = m_uprightSize.height - fill.textureImage().height();
         fill.setTransform(QTransform::fromTranslate(0, textureTop));
     }
     QPainter painter(&layer);
@@ -86,7 +78,7 @@ QImage TextLayer::rendered(const Ink& ink, const QRect& region) const
     painter.setTransform(
         toTurnedLayer() * QTransform::fromTranslate(-region.left(), -region.top())
     );
-    painter.setClipRect(QRect(QPoint(0, 0), m_uprightSize));
+    painter.setClipRect(uprightRect());
     if (ink.shadow) {
         const int reach = platform::shadowReach(ink.shadow->blurRadius)
             + std::max(std::abs(ink.shadow->xOffset), std::abs(ink.shadow->yOffset));

@@ -24,10 +24,7 @@ public:
     [[nodiscard]] platform::PixelSize size() const { return m_size; }
 
     /// Size of the layer before it is turned.
-    [[nodiscard]] platform::PixelSize uprightSize() const
-    {
-        return {.width = m_uprightSize.width(), .height = m_uprightSize.height()};
-    }
+    [[nodiscard]] platform::PixelSize uprightSize() const { return m_uprightSize; }
 
     struct Ink
     {
@@ -41,15 +38,14 @@ public:
 
 private:
     [[nodiscard]] QTransform toTurnedLayer() const;
+    [[nodiscard]] QRect uprightRect() const;
     [[nodiscard]] QRect neededBefore(const QRect& region) const;
 
     platform::TextDrawing m_text;
-    QSize m_uprightSize;
+    platform::PixelSize m_uprightSize;
     int m_angle = 0;
+    QSizeF m_bounds; ///< of the turned layer, not rounded
     platform::PixelSize m_size;
 };
-
-/// Size of the box around a box of `size` turned by `degrees`, in whole pixels.
-[[nodiscard]] platform::PixelSize turnedSize(QSizeF size, double degrees);
 
 } // namespace brenvaldo::watermark
