@@ -23,8 +23,8 @@ splicedJpeg(QByteArrayView encoded, const MetadataBlocks& blocks);
 splicedPng(QByteArrayView encoded, const MetadataBlocks& blocks);
 
 /// The EXIF block goes in at its own offsets, so that its directories and the maker note stay as
-/// they are; its first directory is merged with the one that describes the pixels. Left out: the
-/// thumbnail, the JPEG comment and JPEG segments.
+/// they are; its first directory is merged with the one that describes the pixels, and the
+/// thumbnail is kept in a Photoshop resource. Left out: the JPEG comment and JPEG segments.
 [[nodiscard]] std::optional<QByteArrayList>
 splicedTiff(QByteArrayView encoded, const MetadataBlocks& blocks);
 

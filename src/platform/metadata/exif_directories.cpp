@@ -53,14 +53,6 @@ TiffDirectory without(TiffDirectory directory, std::initializer_list<std::uint16
     return directory;
 }
 
-void swapFields(TiffDirectory& directory)
-{
-    for (TiffField& field : directory) {
-        if (field.type != tiff::Undefined)
-            field = swapped(field);
-    }
-}
-
 QByteArray serialized(const TiffDirectory& directory, std::uint64_t offset, ByteOrder order)
 {
     return directory.isEmpty() ? QByteArray() : serializedDirectory(directory, offset, order);
@@ -167,7 +159,7 @@ ExifDirectories inOrder(const ExifDirectories& directories, ByteOrder order)
         return result;
     for (TiffDirectory* directory :
          {&result.image, &result.exif, &result.gps, &result.interoperability})
-        swapFields(*directory);
+        *directory = swapped(*directory);
     return result;
 }
 

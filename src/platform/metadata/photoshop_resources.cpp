@@ -42,18 +42,6 @@ std::optional<PhotoshopResource> resourceAt(QByteArrayView block, std::uint64_t 
         .whole = *sliceOf(block, offset, end - offset)};
 }
 
-QByteArray resourceOf(PhotoshopResourceId id, const QByteArray& data)
-{
-    QByteArray resource("8BIM");
-    appendUnsigned(resource, static_cast<std::uint16_t>(id), 2, ByteOrder::Big);
-    resource.append(2, '\0');
-    appendUnsigned(resource, static_cast<std::uint64_t>(data.size()), 4, ByteOrder::Big);
-    resource.append(data);
-    if (data.size() % 2 != 0)
-        resource.append('\0');
-    return resource;
-}
-
 } // namespace
 
 QList<PhotoshopResource> photoshopResources(QByteArrayView block)
@@ -76,6 +64,18 @@ QByteArray photoshopResourceData(QByteArrayView block, PhotoshopResourceId id)
     return {};
 }
 
+QByteArray photoshopResource(PhotoshopResourceId id, const QByteArray& data)
+{
+    QByteArray resource("8BIM");
+    appendUnsigned(resource, static_cast<std::uint16_t>(id), 2, ByteOrder::Big);
+    resource.append(2, '\0');
+    appendUnsigned(resource, static_cast<std::uint64_t>(data.size()), 4, ByteOrder::Big);
+    resource.append(data);
+    if (data.size() % 2 != 0)
+        resource.append('\0');
+    return resource;
+}
+
 QByteArray photoshopBlockWithIptc(const QByteArray& block, const QByteArray& iptc)
 {
     if (iptc == photoshopResourceData(block, PhotoshopResourceId::Iptc))
@@ -90,7 +90,7 @@ QByteArray photoshopBlockWithIptc(const QByteArray& block, const QByteArray& ipt
             result.append('\0');
     }
     if (!iptc.isEmpty())
-        result.append(resourceOf(PhotoshopResourceId::Iptc, iptc));
+        result.append(photoshopResource(PhotoshopResourceId::Iptc, iptc));
     return result;
 }
 

@@ -30,6 +30,9 @@ struct PhotoshopResource
 /// The data of the first resource `id`; empty when there is none.
 [[nodiscard]] QByteArray photoshopResourceData(QByteArrayView block, PhotoshopResourceId id);
 
+/// One whole resource without a name.
+[[nodiscard]] QByteArray photoshopResource(PhotoshopResourceId id, const QByteArray& data);
+
 /// `block` with `iptc` as its IPTC resource: unchanged when it holds just that already.
 [[nodiscard]] QByteArray photoshopBlockWithIptc(const QByteArray& block, const QByteArray& iptc);
 

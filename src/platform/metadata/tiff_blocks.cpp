@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tiff_blocks.h"
+
 #include "block_readers.h"
 #include "exif_directories.h"
+#include "exif_thumbnail.h"
 #include "photoshop_resources.h"
 
 #include <algorithm>
@@ -9,7 +12,33 @@ namespace brenvaldo::platform {
 
 namespace {
 
-QByteArray copiedValue(const TiffDirectory& directory, std::uint16_t tag)
+constexpr qsizetype word = 4;
+
+/// True for a directory that holds a JPEG and no picture that a TIFF reader knows.
+bool describesThumbnail(const TiffDirectory& directory)
+{
+    return fieldOf(directory, tiff::ThumbnailOffset) && fieldOf(directory, tiff::ThumbnailLength)
+        && !fieldOf(directory, tiff::StripOffsets) && !fieldOf(directory, tiff::TileOffsets);
+}
+
+/// Takes the resource that keeps nothing but a thumbnail out of `photoshop`.
+QByteArray takeThumbnailResource(QByteArray& photoshop)
+{
+    const QList<PhotoshopResource> resources = photoshopResources(photoshop);
+    if (resources.isEmpty()
+        || resources.first().id != static_cast<std::uint16_t>(PhotoshopResourceId::Exif))
+        return {};
+    const QByteArray data = resources.first().data.toByteArray();
+    const auto block = TiffFile::open(data);
+    if (!block || !block->firstDirectory().isEmpty() || block->secondOffset() == 0)
+        return {};
+    photoshop.remove(0, resources.first().whole.size());
+    return data;
+}
+
+} // namespace
+
+QByteArray blockOf(const TiffDirectory& directory, std::uint16_t tag)
 {
     const TiffField* field = fieldOf(directory, tag);
     return field ? QByteArray(field->value.constData(), field->value.size()) : QByteArray();
@@ -18,9 +47,8 @@ QByteArray copiedValue(const TiffDirectory& directory, std::uint16_t tag)
 /// IIM data sets that a program has stored as numbers of the other byte order come out in order.
 QByteArray iptcOf(const TiffDirectory& directory)
 {
-    constexpr qsizetype word = 4;
     constexpr char dataSetMarker = '\x1C';
-    QByteArray iptc = copiedValue(directory, tiff::Iptc);
+    QByteArray iptc = blockOf(directory, tiff::Iptc);
     const bool isTurned = iptc.size() >= word && iptc.size() % word == 0 && iptc[0] != dataSetMarker
         && iptc[word - 1] == dataSetMarker;
     for (qsizetype start = 0; isTurned && start < iptc.size(); start += word)
@@ -28,7 +56,23 @@ QByteArray iptcOf(const TiffDirectory& directory)
     return withoutIptcPadding(iptc);
 }
 
-} // namespace
+void setBlock(TiffDirectory& directory, std::uint16_t tag, const QByteArray& block)
+{
+    if (!block.isEmpty())
+        replace(directory, {.tag = tag, .type = tiff::Byte, .value = block});
+}
+
+/// Other programs read and write IPTC as LONGs, whose bytes stand in the order of the data sets.
+void setIptc(TiffDirectory& directory, const QByteArray& iptc)
+{
+    if (iptc.isEmpty())
+        return;
+    const qsizetype length = (iptc.size() + word - 1) / word * word;
+    replace(
+        directory,
+        {.tag = tiff::Iptc, .type = tiff::Long, .value = iptc.leftJustified(length, '\0')}
+    );
+}
 
 MetadataBlocks readTiffBlocks(QByteArrayView bytes)
 {
@@ -37,12 +81,18 @@ MetadataBlocks readTiffBlocks(QByteArrayView bytes)
     if (!file)
         return blocks;
     const TiffDirectory image = file->firstDirectory();
-    blocks.exif = serializedExif(exifDirectoriesOf(*file));
-    blocks.xmp = copiedValue(image, tiff::Xmp);
-    blocks.photoshop = copiedValue(image, tiff::PhotoshopResources);
+    blocks.xmp = blockOf(image, tiff::Xmp);
+    blocks.photoshop = blockOf(image, tiff::PhotoshopResources);
     blocks.iptc = iptcOf(image);
     if (blocks.iptc.isEmpty())
         blocks.iptc = photoshopResourceData(blocks.photoshop, PhotoshopResourceId::Iptc);
+
+    blocks.exif = serializedExif(exifDirectoriesOf(*file));
+    const QByteArray thumbnail = takeThumbnailResource(blocks.photoshop);
+    if (!thumbnail.isEmpty())
+        blocks.exif = withThumbnailOf(thumbnail, blocks.exif);
+    else if (describesThumbnail(file->secondDirectory()))
+        blocks.exif = withThumbnailOf(bytes, blocks.exif);
     return blocks;
 }
 

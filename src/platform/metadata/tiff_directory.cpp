@@ -77,6 +77,25 @@ std::optional<TiffFile> TiffFile::open(QByteArrayView bytes)
 
 TiffDirectory TiffFile::firstDirectory() const { return directoryAt(m_firstOffset); }
 
+std::uint64_t TiffFile::secondOffset() const
+{
+    const int countWidth = m_isBig ? 8 : 2;
+    const std::uint64_t entryLength = m_isBig ? 20 : 12;
+    const auto count = unsignedAt(m_bytes, m_firstOffset, countWidth, m_order);
+    if (!count || *count > static_cast<std::uint64_t>(m_bytes.size()) / entryLength)
+        return 0;
+    const std::uint64_t end
+        = m_firstOffset + static_cast<std::uint64_t>(countWidth) + *count * entryLength;
+    const std::uint64_t next = unsignedAt(m_bytes, end, m_isBig ? 8 : 4, m_order).value_or(0);
+    return next == m_firstOffset ? 0 : next;
+}
+
+TiffDirectory TiffFile::secondDirectory() const
+{
+    const std::uint64_t offset = secondOffset();
+    return offset == 0 ? TiffDirectory() : directoryAt(offset);
+}
+
 TiffDirectory TiffFile::subDirectory(const TiffDirectory& parent, std::uint16_t tag) const
 {
     const TiffField* field = fieldOf(parent, tag);
@@ -180,6 +199,20 @@ TiffField swapped(const TiffField& field)
     for (qsizetype start = 0; start + unit <= result.value.size(); start += unit)
         std::reverse(result.value.begin() + start, result.value.begin() + start + unit);
     return result;
+}
+
+TiffDirectory swapped(const TiffDirectory& directory)
+{
+    TiffDirectory result;
+    for (const TiffField& field : directory)
+        result.append(field.type == tiff::Undefined ? field : swapped(field));
+    return result;
+}
+
+void replace(TiffDirectory& directory, const TiffField& field)
+{
+    directory.removeIf([&field](const TiffField& other) { return other.tag == field.tag; });
+    directory.append(field);
 }
 
 QByteArray serializedDirectory(TiffDirectory directory, std::uint64_t offset, ByteOrder order)

@@ -14,10 +14,13 @@ namespace brenvaldo::platform {
 namespace tiff {
 
 enum Tag : std::uint16_t {
-    StripOffsets = 273,
-    TileOffsets = 324,
     BitsPerSample = 258,
+    StripOffsets = 273,
+    StripLengths = 279,
+    TileOffsets = 324,
     SubDirectories = 330,
+    ThumbnailOffset = 513,
+    ThumbnailLength = 514,
     Xmp = 700,
     Iptc = 33723,
     PhotoshopResources = 34377,
@@ -58,8 +61,17 @@ public:
     [[nodiscard]] ByteOrder order() const { return m_order; }
     [[nodiscard]] bool isBig() const { return m_isBig; }
 
+    /// Where the directory of image 0 stands.
+    [[nodiscard]] std::uint64_t firstOffset() const { return m_firstOffset; }
+
     /// The directory of image 0. Damaged fields are left out.
     [[nodiscard]] TiffDirectory firstDirectory() const;
+
+    /// Where the directory behind that of image 0 stands; 0 when there is none.
+    [[nodiscard]] std::uint64_t secondOffset() const;
+
+    /// The directory behind that of image 0; empty when there is none.
+    [[nodiscard]] TiffDirectory secondDirectory() const;
 
     /// The directory that the first value of the field `tag` points to; empty when there is none.
     [[nodiscard]] TiffDirectory subDirectory(const TiffDirectory& parent, std::uint16_t tag) const;
@@ -86,6 +98,12 @@ longField(std::uint16_t tag, const QList<std::uint64_t>& values, ByteOrder order
 
 /// The field with its numbers in the other byte order.
 [[nodiscard]] TiffField swapped(const TiffField& field);
+
+/// The directory with all numbers in the other byte order.
+[[nodiscard]] TiffDirectory swapped(const TiffDirectory& directory);
+
+/// Puts `field` in the place of the field of its tag, if there is one.
+void replace(TiffDirectory& directory, const TiffField& field);
 
 /// Bytes of a directory that starts at `offset` of its file: entries sorted by tag, no further
 /// directory behind it, and the long values in their order.

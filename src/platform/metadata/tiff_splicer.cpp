@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_splicers.h"
 #include "exif_directories.h"
+#include "exif_thumbnail.h"
 #include "photoshop_resources.h"
+#include "tiff_blocks.h"
 #include "xmp_packet.h"
 
 #include <algorithm>
@@ -40,7 +42,9 @@ QByteArray exifFor(const TiffFile& target, const TiffDirectory& pixels, const QB
         return {};
     if (source->order() == target.order() || hasByteSamples(pixels, target.order()))
         return exif;
-    return serializedExif(inOrder(exifDirectoriesOf(*source), target.order()));
+    return withThumbnailOf(
+        exif, serializedExif(inOrder(exifDirectoriesOf(*source), target.order()))
+    );
 }
 
 /// How the encoded file is changed when its pixels move by `shift` bytes.
@@ -67,29 +71,16 @@ TiffDirectory moved(const TiffDirectory& directory, const Move& move)
     return result;
 }
 
-void replace(TiffDirectory& directory, const TiffField& field)
+/// The resources with one more that keeps the thumbnail of `exif`.
+///
+/// A directory of its own would be a second picture to other programs, or one that they can't read.
+/// The resource shows it to those that look for metadata alone.
+QByteArray withThumbnailResource(const QByteArray& photoshop, const QByteArray& exif)
 {
-    directory.removeIf([&field](const TiffField& other) { return other.tag == field.tag; });
-    directory.append(field);
-}
-
-void addBytes(TiffDirectory& directory, std::uint16_t tag, const QByteArray& bytes)
-{
-    if (!bytes.isEmpty())
-        replace(directory, {.tag = tag, .type = tiff::Byte, .value = bytes});
-}
-
-/// Other programs read and write IPTC as LONGs, whose bytes stand in the order of the data sets.
-void addIptc(TiffDirectory& directory, const QByteArray& iptc)
-{
-    constexpr qsizetype word = 4;
-    if (iptc.isEmpty())
-        return;
-    const qsizetype length = (iptc.size() + word - 1) / word * word;
-    replace(
-        directory,
-        {.tag = tiff::Iptc, .type = tiff::Long, .value = iptc.leftJustified(length, '\0')}
-    );
+    const QByteArray thumbnail = thumbnailAlone(exif);
+    if (thumbnail.isEmpty())
+        return photoshop;
+    return photoshopResource(PhotoshopResourceId::Exif, thumbnail) + photoshop;
 }
 
 } // namespace
@@ -118,9 +109,9 @@ std::optional<QByteArrayList> splicedTiff(QByteArrayView encoded, const Metadata
                 replace(directory, field);
         }
     }
-    addBytes(directory, tiff::Xmp, completeXmp(blocks));
-    addBytes(directory, tiff::PhotoshopResources, blocks.photoshop);
-    addIptc(directory, blocks.iptc);
+    setBlock(directory, tiff::Xmp, completeXmp(blocks));
+    setBlock(directory, tiff::PhotoshopResources, withThumbnailResource(blocks.photoshop, exif));
+    setIptc(directory, blocks.iptc);
     const QByteArray tail = QByteArray(static_cast<qsizetype>(directoryOffset - end), '\0')
         + serializedDirectory(directory, directoryOffset, order);
     if (end + static_cast<std::uint64_t>(tail.size()) > std::numeric_limits<std::uint32_t>::max())

@@ -321,6 +321,8 @@ INSTANTIATE_TEST_SUITE_P(
                  rawProfileChunk("iptc", photoshopResource(0x0404, iptcDataSet(120, "c")))}
             )},
         DamageCase{"Tiff", readTiffBlocks, tiffWithMetadata()},
+        DamageCase{
+            "TiffThumbnail", readTiffBlocks, exifBlock({.make = "Brand", .thumbnail = "picture"})},
         DamageCase{"Heif", readHeifBlocks, bareHeif(smallExif(), "xmp")},
         DamageCase{
             "Jpeg2000",

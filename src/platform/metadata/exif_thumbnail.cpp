@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "exif_thumbnail.h"
+
+#include "tiff_directory.h"
+
+#include <algorithm>
+#include <array>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+constexpr std::uint64_t headerLength = 8;
+constexpr std::uint64_t entryLength = 12;
+
+/// The two fields that tell where a kind of picture stands.
+struct PictureTags
+{
+    std::uint16_t offsets = 0;
+    std::uint16_t lengths = 0;
+};
+
+constexpr std::array pictureTags{
+    PictureTags{tiff::ThumbnailOffset, tiff::ThumbnailLength},
+    PictureTags{tiff::StripOffsets, tiff::StripLengths},
+};
+
+struct Range
+{
+    std::uint64_t offset = 0;
+    std::uint64_t length = 0;
+};
+
+/// The pieces of the picture that `tags` describe.
+QList<Range> pictureRanges(const TiffDirectory& directory, PictureTags tags, ByteOrder order)
+{
+    const TiffField* offsetField = fieldOf(directory, tags.offsets);
+    const TiffField* lengthField = fieldOf(directory, tags.lengths);
+    if (!offsetField || !lengthField)
+        return {};
+    const QList<std::uint64_t> offsets = unsignedValues(*offsetField, order);
+    const QList<std::uint64_t> lengths = unsignedValues(*lengthField, order);
+    QList<Range> ranges;
+    for (qsizetype i = 0; i < std::min(offsets.size(), lengths.size()); ++i)
+        ranges.append({.offset = offsets[i], .length = lengths[i]});
+    return ranges;
+}
+
+/// The directory of the thumbnail, its long values and its picture.
+QList<Range> thumbnailRanges(const TiffFile& file, std::uint64_t entryCount)
+{
+    const TiffDirectory directory = file.secondDirectory();
+    QList<Range> ranges{{.offset = file.secondOffset(), .length = 2 + entryCount * entryLength}};
+    for (const TiffField& field : directory)
+        ranges.append(
+            {.offset = field.valueOffset, .length = static_cast<std::uint64_t>(field.value.size())}
+        );
+    for (const PictureTags tags : pictureTags)
+        ranges += pictureRanges(directory, tags, file.order());
+    return ranges;
+}
+
+/// Copies what stands at `range` to the same place.
+void copyRange(QByteArray& to, QByteArrayView from, const Range& range)
+{
+    const auto bytes = sliceOf(from, range.offset, range.length);
+    if (!bytes || range.offset < headerLength)
+        return;
+    const auto place = static_cast<qsizetype>(range.offset);
+    if (to.size() < place + bytes->size())
+        to.resize(place + bytes->size(), '\0');
+    std::copy(bytes->begin(), bytes->end(), to.begin() + place);
+}
+
+void padToEven(QByteArray& block)
+{
+    if (block.size() % 2 != 0)
+        block.append('\0');
+}
+
+QByteArray emptyBlock(ByteOrder order)
+{
+    QByteArray block = tiffHeader(order, headerLength);
+    block.append(serializedDirectory({}, headerLength, order));
+    return block;
+}
+
+/// Pictures in one piece, and where those of each field start in it.
+struct Pictures
+{
+    QByteArray bytes;
+    QList<std::pair<std::uint16_t, QList<std::uint64_t>>> starts;
+};
+
+/// Left out: pictures that lie outside of `source`, or are longer than it.
+Pictures picturesOf(const TiffDirectory& directory, ByteOrder order, QByteArrayView source)
+{
+    Pictures pictures;
+    for (const PictureTags tags : pictureTags) {
+        QByteArray bytes;
+        QList<std::uint64_t> starts;
+        const QList<Range> ranges = pictureRanges(directory, tags, order);
+        for (const Range& range : ranges) {
+            const auto piece = sliceOf(source, range.offset, range.length);
+            if (!piece || bytes.size() + piece->size() > source.size())
+                break;
+            starts.append(static_cast<std::uint64_t>(pictures.bytes.size() + bytes.size()));
+            bytes.append(*piece);
+            padToEven(bytes);
+        }
+        if (starts.isEmpty() || starts.size() < ranges.size())
+            continue;
+        pictures.bytes.append(bytes);
+        pictures.starts.append({tags.offsets, starts});
+    }
+    return pictures;
+}
+
+/// Tells the directory that the pictures stand from `base` on.
+void setOffsets(
+    TiffDirectory& directory, const Pictures& pictures, std::uint64_t base, ByteOrder order
+)
+{
+    for (auto [tag, offsets] : pictures.starts) {
+        for (std::uint64_t& offset : offsets)
+            offset += base;
+        replace(directory, longField(tag, offsets, order));
+    }
+}
+
+/// Lets the first directory of `block` be followed by one at `offset`; false when it is cut off.
+bool linkSecondDirectory(QByteArray& block, const TiffFile& file, std::uint64_t offset)
+{
+    const auto count = unsignedAt(block, file.firstOffset(), 2, file.order());
+    const std::uint64_t place = file.firstOffset() + 2 + count.value_or(0) * entryLength;
+    if (!count || !sliceOf(block, place, 4))
+        return false;
+    QByteArray link;
+    appendUnsigned(link, offset, 4, file.order());
+    block.replace(static_cast<qsizetype>(place), link.size(), link);
+    return true;
+}
+
+} // namespace
+
+QByteArray thumbnailAlone(QByteArrayView exif)
+{
+    const auto file = TiffFile::open(exif);
+    if (!file || file->isBig() || file->secondDirectory().isEmpty())
+        return {};
+    const std::uint64_t offset = file->secondOffset();
+    const auto count = unsignedAt(exif, offset, 2, file->order());
+
+    QByteArray block(headerLength, '\0');
+    for (const Range& range : thumbnailRanges(*file, count.value_or(0)))
+        copyRange(block, exif, range);
+    block.append(4, '\0'); // no third directory, should the second stand last
+    padToEven(block);
+    block.replace(
+        0, headerLength, tiffHeader(file->order(), static_cast<std::uint64_t>(block.size()))
+    );
+    appendUnsigned(block, 0, 2, file->order());
+    appendUnsigned(block, offset, 4, file->order());
+    return block;
+}
+
+QByteArray withThumbnailOf(QByteArrayView source, const QByteArray& exif)
+{
+    const auto file = TiffFile::open(source);
+    if (!file || file->isBig() || file->secondDirectory().isEmpty())
+        return exif;
+    QByteArray block = exif.isEmpty() ? emptyBlock(file->order()) : exif;
+    padToEven(block);
+    const auto target = TiffFile::open(block);
+    const auto start = static_cast<std::uint64_t>(block.size());
+    if (!target || target->isBig() || !linkSecondDirectory(block, *target, start))
+        return exif;
+
+    const ByteOrder order = target->order();
+    TiffDirectory directory = file->secondDirectory();
+    const Pictures pictures = picturesOf(directory, file->order(), source);
+    if (order != file->order())
+        directory = swapped(directory);
+    setOffsets(directory, pictures, 0, order);
+    const auto length
+        = static_cast<std::uint64_t>(serializedDirectory(directory, start, order).size());
+    setOffsets(directory, pictures, start + length, order);
+    return block + serializedDirectory(directory, start, order) + pictures.bytes;
+}
+
+} // namespace brenvaldo::platform

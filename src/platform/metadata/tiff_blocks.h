@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tiff_directory.h"
+
+namespace brenvaldo::platform {
+
+// Whole metadata blocks as fields of the directory that describes a picture.
+
+/// A copy of the block in the field `tag`; empty when there is none.
+[[nodiscard]] QByteArray blockOf(const TiffDirectory& directory, std::uint16_t tag);
+
+/// The IIM data sets, in order and without padding.
+[[nodiscard]] QByteArray iptcOf(const TiffDirectory& directory);
+
+/// An empty block leaves the directory as it is.
+void setBlock(TiffDirectory& directory, std::uint16_t tag, const QByteArray& block);
+void setIptc(TiffDirectory& directory, const QByteArray& iptc);
+
+} // namespace brenvaldo::platform
