@@ -3,6 +3,8 @@
 
 #include <QtEndian>
 
+#include <cmath>
+
 namespace brenvaldo::platform {
 
 namespace {
@@ -130,6 +132,33 @@ ExifFacts readExifFacts(QByteArrayView bytes)
     facts.dotsPerInch = dotsPerInch(block, directory);
     facts.thumbnail = thumbnail(block, directory);
     return facts;
+}
+
+QByteArray exifOfResolution(double dotsPerInch)
+{
+    QByteArray block("MM\0*\0\0\0\x08\0\x03", 10);
+    const auto append = [&block](auto value) {
+        char bytes[sizeof(value)];
+        qToBigEndian(value, bytes);
+        block.append(bytes, sizeof(value));
+    };
+    constexpr quint32 denominator = 1000;
+    constexpr quint32 firstRational = 50;
+    const auto entry = [&append](quint16 tag, quint16 type, quint32 value) {
+        append(tag);
+        append(type);
+        append(quint32{1});
+        append(value);
+    };
+    entry(0x011A, 5, firstRational);
+    entry(0x011B, 5, firstRational + 8);
+    entry(0x0128, 3, quint32{2} << 16U); // inch
+    append(quint32{0});
+    for (int side = 0; side < 2; ++side) {
+        append(static_cast<quint32>(std::lround(dotsPerInch * denominator)));
+        append(denominator);
+    }
+    return block;
 }
 
 } // namespace brenvaldo::platform

@@ -19,4 +19,7 @@ struct ExifFacts
 /// Reads a TIFF structure (what follows "Exif\0\0"). Whatever is damaged in it is left out.
 [[nodiscard]] ExifFacts readExifFacts(QByteArrayView block);
 
+/// A TIFF structure that states the resolution and nothing else.
+[[nodiscard]] QByteArray exifOfResolution(double dotsPerInch);
+
 } // namespace brenvaldo::platform

@@ -2,15 +2,14 @@
 #include "color_profile.h"
 #include "deferred_pixels.h"
 #include "encoders.h"
+#include "exif_facts.h"
 #include "heif_handles.h"
 #include "memory_check.h"
 #include "region_kernel.h"
 
 #include <QFile>
-#include <QtEndian>
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 
 namespace brenvaldo::platform {
@@ -90,34 +89,6 @@ HeifEncoder fastEncoder(heif_context* context)
     return encoder;
 }
 
-/// An EXIF block that states the resolution and nothing else; the format has no other place for it.
-QByteArray resolutionBlock(double dotsPerInch)
-{
-    QByteArray block("MM\0*\0\0\0\x08\0\x03", 10);
-    const auto append = [&block](auto value) {
-        char bytes[sizeof(value)];
-        qToBigEndian(value, bytes);
-        block.append(bytes, sizeof(value));
-    };
-    constexpr quint32 denominator = 1000;
-    constexpr quint32 firstRational = 50;
-    const auto entry = [&append](quint16 tag, quint16 type, quint32 value) {
-        append(tag);
-        append(type);
-        append(quint32{1});
-        append(value);
-    };
-    entry(0x011A, 5, firstRational);
-    entry(0x011B, 5, firstRational + 8);
-    entry(0x0128, 3, quint32{2} << 16U); // inch
-    append(quint32{0});
-    for (int side = 0; side < 2; ++side) {
-        append(static_cast<quint32>(std::lround(dotsPerInch * denominator)));
-        append(denominator);
-    }
-    return block;
-}
-
 void addMetadata(
     heif_context* context,
     const heif_image_handle* handle,
@@ -169,7 +140,7 @@ void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, const QStri
     const HeifHandle handle(encoded);
     const QByteArray exif = blocks != nullptr && !blocks->exif.isEmpty()
         ? blocks->exif
-        : resolutionBlock(fitted.dotsPerInch);
+        : exifOfResolution(fitted.dotsPerInch);
     addMetadata(context.get(), encoded, exif, blocks != nullptr ? blocks->xmp : QByteArray());
 
     QFile file(path);

@@ -10,7 +10,6 @@ namespace brenvaldo::platform {
 
 namespace {
 
-constexpr std::uint64_t headerLength = 8;
 constexpr std::uint64_t entryLength = 12;
 
 /// The two fields that tell where a kind of picture stands.
@@ -64,7 +63,7 @@ QList<Range> thumbnailRanges(const TiffFile& file, std::uint64_t entryCount)
 void copyRange(QByteArray& to, QByteArrayView from, const Range& range)
 {
     const auto bytes = sliceOf(from, range.offset, range.length);
-    if (!bytes || range.offset < headerLength)
+    if (!bytes || range.offset < tiffHeaderLength)
         return;
     const auto place = static_cast<qsizetype>(range.offset);
     if (to.size() < place + bytes->size())
@@ -80,8 +79,8 @@ void padToEven(QByteArray& block)
 
 QByteArray emptyBlock(ByteOrder order)
 {
-    QByteArray block = tiffHeader(order, headerLength);
-    block.append(serializedDirectory({}, headerLength, order));
+    QByteArray block = tiffHeader(order, tiffHeaderLength);
+    block.append(serializedDirectory({}, tiffHeaderLength, order));
     return block;
 }
 
@@ -128,19 +127,6 @@ void setOffsets(
     }
 }
 
-/// Lets the first directory of `block` be followed by one at `offset`; false when it is cut off.
-bool linkSecondDirectory(QByteArray& block, const TiffFile& file, std::uint64_t offset)
-{
-    const auto count = unsignedAt(block, file.firstOffset(), 2, file.order());
-    const std::uint64_t place = file.firstOffset() + 2 + count.value_or(0) * entryLength;
-    if (!count || !sliceOf(block, place, 4))
-        return false;
-    QByteArray link;
-    appendUnsigned(link, offset, 4, file.order());
-    block.replace(static_cast<qsizetype>(place), link.size(), link);
-    return true;
-}
-
 } // namespace
 
 QByteArray thumbnailAlone(QByteArrayView exif)
@@ -151,13 +137,13 @@ QByteArray thumbnailAlone(QByteArrayView exif)
     const std::uint64_t offset = file->secondOffset();
     const auto count = unsignedAt(exif, offset, 2, file->order());
 
-    QByteArray block(headerLength, '\0');
+    QByteArray block(tiffHeaderLength, '\0');
     for (const Range& range : thumbnailRanges(*file, count.value_or(0)))
         copyRange(block, exif, range);
     block.append(4, '\0'); // no third directory, should the second stand last
     padToEven(block);
     block.replace(
-        0, headerLength, tiffHeader(file->order(), static_cast<std::uint64_t>(block.size()))
+        0, tiffHeaderLength, tiffHeader(file->order(), static_cast<std::uint64_t>(block.size()))
     );
     appendUnsigned(block, 0, 2, file->order());
     appendUnsigned(block, offset, 4, file->order());
@@ -173,7 +159,7 @@ QByteArray withThumbnailOf(QByteArrayView source, const QByteArray& exif)
     padToEven(block);
     const auto target = TiffFile::open(block);
     const auto start = static_cast<std::uint64_t>(block.size());
-    if (!target || target->isBig() || !linkSecondDirectory(block, *target, start))
+    if (!target || target->isBig() || !setSecondOffset(block, start))
         return exif;
 
     const ByteOrder order = target->order();

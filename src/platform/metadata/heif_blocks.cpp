@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
 #include "bytes.h"
+#include "exif_root_fields.h"
 #include "iso_boxes.h"
+#include "photoshop_resources.h"
+#include "tiff_blocks.h"
 
 #include <QHash>
 
@@ -166,6 +169,20 @@ void putFirst(QList<Item>& items, const QList<ItemId>& ids)
     });
 }
 
+/// Parts the blocks that stand in the EXIF block from it.
+void takeRootBlocks(MetadataBlocks& blocks)
+{
+    const auto exif = TiffFile::open(blocks.exif);
+    if (!exif)
+        return;
+    const TiffDirectory root = exif->firstDirectory();
+    blocks.iptc = iptcOf(root);
+    blocks.photoshop = blockOf(root, tiff::PhotoshopResources);
+    if (blocks.iptc.isEmpty())
+        blocks.iptc = photoshopResourceData(blocks.photoshop, PhotoshopResourceId::Iptc);
+    blocks.exif = withoutRootFields(blocks.exif, {tiff::Iptc, tiff::PhotoshopResources});
+}
+
 } // namespace
 
 MetadataBlocks readHeifBlocks(QByteArrayView file)
@@ -185,6 +202,7 @@ MetadataBlocks readHeifBlocks(QByteArrayView file)
         else if (item.type == "application/rdf+xml" && blocks.xmp.isEmpty())
             blocks.xmp = locations.dataOf(item.id);
     }
+    takeRootBlocks(blocks);
     return blocks;
 }
 

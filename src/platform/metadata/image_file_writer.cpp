@@ -2,10 +2,13 @@
 #include "image_file_writer.h"
 
 #include "block_splicers.h"
+#include "exif_root_fields.h"
 #include "iptc_to_xmp.h"
 #include "mapped_file.h"
+#include "tiff_blocks.h"
 #include "xmp_packet.h"
 
+#include <platform/graphics/exif_facts.h>
 #include <platform/storage/atomic_file.h>
 
 #include <QFile>
@@ -50,15 +53,28 @@ bool writePieces(const QByteArrayList& pieces, const QString& path)
         && file.flush();
 }
 
+/// The blocks that a HEIC takes. It holds no IPTC and no Photoshop resources of its own: they stand
+/// in the EXIF block. Programs that look for IPTC in XMP alone find it there, if it is no other's.
+MetadataBlocks blocksForHeic(const MetadataBlocks& blocks, double dotsPerInch)
+{
+    TiffDirectory fields;
+    setIptc(fields, blocks.iptc);
+    setBlock(fields, tiff::PhotoshopResources, blocks.photoshop);
+    const bool hasExif = TiffFile::open(blocks.exif).has_value();
+    MetadataBlocks result;
+    result.exif = withRootFields(hasExif ? blocks.exif : exifOfResolution(dotsPerInch), fields);
+    result.xmp = completeXmp(blocks);
+    if (result.xmp.isEmpty())
+        result.xmp = xmpFromIptc(blocks.iptc);
+    return result;
+}
+
 bool encodeWithBlocks(const Image& image, const ImageFileRequest& request, const QString& path)
 {
     EncodeOptions options{.lossyQuality = request.lossyQuality, .blocks = nullptr};
     MetadataBlocks blocks;
     if (request.metadata && request.format == FileFormat::Heic) {
-        blocks.exif = request.metadata->exif;
-        blocks.xmp = completeXmp(*request.metadata);
-        if (blocks.xmp.isEmpty())
-            blocks.xmp = xmpFromIptc(request.metadata->iptc);
+        blocks = blocksForHeic(*request.metadata, image.dotsPerInch());
         options.blocks = &blocks;
     }
     return encode(image, request.format, options, path);

@@ -14,8 +14,8 @@ struct ImageFileRequest
     FileFormat format = FileFormat::Png;
     /// 0 to 1, JPEG only; not set: the platform's default quality.
     std::optional<double> lossyQuality = {};
-    /// Metadata to carry over bit-exactly into PNG, TIFF, JPEG and HEIC; null: none. HEIC has no
-    /// place for IPTC: it becomes XMP there when there is no XMP yet.
+    /// Metadata to carry over bit-exactly into PNG, TIFF, JPEG and HEIC; null: none. In a HEIC,
+    /// IPTC becomes XMP as well when there is no XMP yet.
     const MetadataBlocks* metadata = nullptr;
 };
 

@@ -77,16 +77,26 @@ std::optional<TiffFile> TiffFile::open(QByteArrayView bytes)
 
 TiffDirectory TiffFile::firstDirectory() const { return directoryAt(m_firstOffset); }
 
-std::uint64_t TiffFile::secondOffset() const
+std::uint64_t TiffFile::firstEnd() const
 {
-    const int countWidth = m_isBig ? 8 : 2;
+    const std::uint64_t countWidth = m_isBig ? 8 : 2;
     const std::uint64_t entryLength = m_isBig ? 20 : 12;
-    const auto count = unsignedAt(m_bytes, m_firstOffset, countWidth, m_order);
+    const std::uint64_t linkWidth = m_isBig ? 8 : 4;
+    const auto count = unsignedAt(m_bytes, m_firstOffset, static_cast<int>(countWidth), m_order);
     if (!count || *count > static_cast<std::uint64_t>(m_bytes.size()) / entryLength)
         return 0;
-    const std::uint64_t end
-        = m_firstOffset + static_cast<std::uint64_t>(countWidth) + *count * entryLength;
-    const std::uint64_t next = unsignedAt(m_bytes, end, m_isBig ? 8 : 4, m_order).value_or(0);
+    const std::uint64_t length = countWidth + *count * entryLength + linkWidth;
+    return sliceOf(m_bytes, m_firstOffset, length) ? m_firstOffset + length : 0;
+}
+
+std::uint64_t TiffFile::secondOffset() const
+{
+    const int linkWidth = m_isBig ? 8 : 4;
+    const std::uint64_t end = firstEnd();
+    if (end == 0)
+        return 0;
+    const auto link = end - static_cast<std::uint64_t>(linkWidth);
+    const std::uint64_t next = unsignedAt(m_bytes, link, linkWidth, m_order).value_or(0);
     return next == m_firstOffset ? 0 : next;
 }
 
@@ -246,6 +256,18 @@ QByteArray serializedDirectory(TiffDirectory directory, std::uint64_t offset, By
     }
     appendUnsigned(entries, 0, 4, order);
     return entries + values;
+}
+
+bool setSecondOffset(QByteArray& bytes, std::uint64_t offset)
+{
+    const auto file = TiffFile::open(bytes);
+    const std::uint64_t end = file && !file->isBig() ? file->firstEnd() : 0;
+    if (end == 0)
+        return false;
+    QByteArray link;
+    appendUnsigned(link, offset, 4, file->order());
+    bytes.replace(static_cast<qsizetype>(end) - link.size(), link.size(), link);
+    return true;
 }
 
 QByteArray tiffHeader(ByteOrder order, std::uint64_t offset)

@@ -67,6 +67,9 @@ public:
     /// The directory of image 0. Damaged fields are left out.
     [[nodiscard]] TiffDirectory firstDirectory() const;
 
+    /// Where the directory of image 0 ends; 0 when it is cut off.
+    [[nodiscard]] std::uint64_t firstEnd() const;
+
     /// Where the directory behind that of image 0 stands; 0 when there is none.
     [[nodiscard]] std::uint64_t secondOffset() const;
 
@@ -109,6 +112,12 @@ void replace(TiffDirectory& directory, const TiffField& field);
 /// directory behind it, and the long values in their order.
 [[nodiscard]] QByteArray
 serializedDirectory(TiffDirectory directory, std::uint64_t offset, ByteOrder order);
+
+/// Lets the directory at `offset` follow the first one of the classic TIFF structure `bytes`, or
+/// none if it is 0. False when the first directory is cut off.
+bool setSecondOffset(QByteArray& bytes, std::uint64_t offset);
+
+constexpr qsizetype tiffHeaderLength = 8;
 
 /// The eight bytes in front of a TIFF file whose first directory stands at `offset`.
 [[nodiscard]] QByteArray tiffHeader(ByteOrder order, std::uint64_t offset);

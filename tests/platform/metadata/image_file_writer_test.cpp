@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_builder.h"
 
+#include <platform/graphics/exif_facts.h>
 #include <platform/graphics/image_source.h>
 #include <platform/metadata/image_file_writer.h>
 #include <platform/metadata/metadata_reader.h>
@@ -46,25 +47,22 @@ struct Pair
     friend void PrintTo(const Pair& pair, std::ostream* out) { *out << pair.name; }
 };
 
-bool holdsIptc(FileFormat format) { return format != FileFormat::Heic; }
-
 } // namespace
 
 class CarryOver : public testing::TestWithParam<Pair>
 {
 };
 
-TEST_P(CarryOver, KeepsEveryBlockThatBothContainersHold)
+TEST_P(CarryOver, KeepsEveryBlock)
 {
     const MetadataBlocks first = carried(cameraBlocks(), GetParam().from);
 
     const MetadataBlocks second = carried(first, GetParam().to);
 
-    const bool keepsIptc = holdsIptc(GetParam().from) && holdsIptc(GetParam().to);
     EXPECT_FALSE(second.exif.isEmpty());
     EXPECT_EQ(second.xmp, cameraBlocks().xmp);
-    EXPECT_EQ(second.iptc, keepsIptc ? cameraBlocks().iptc : QByteArray());
-    EXPECT_EQ(second.photoshop, keepsIptc ? cameraBlocks().photoshop : QByteArray());
+    EXPECT_EQ(second.iptc, cameraBlocks().iptc);
+    EXPECT_EQ(second.photoshop, cameraBlocks().photoshop);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -93,8 +91,42 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(WriteImageFile, KeepsTheExifBlockToTheBitInJpegPngAndHeic)
 {
-    for (const FileFormat format : {FileFormat::Jpeg, FileFormat::Png, FileFormat::Heic})
-        EXPECT_EQ(carried(cameraBlocks(), format).exif, cameraBlocks().exif);
+    for (const FileFormat format : {FileFormat::Jpeg, FileFormat::Png, FileFormat::Heic}) {
+        MetadataBlocks blocks;
+        blocks.exif = cameraBlocks().exif;
+
+        EXPECT_EQ(carried(blocks, format).exif, blocks.exif);
+    }
+}
+
+TEST(WriteImageFile, KeepsAllValuesOfTheExifBlockInAHeicWithIptc)
+{
+    const QByteArray before = cameraBlocks().exif;
+
+    const QByteArray after = carried(cameraBlocks(), FileFormat::Heic).exif;
+
+    EXPECT_EQ(after.first(before.size()), before);
+    EXPECT_LE(after.size(), before.size() + 1);
+}
+
+TEST(WriteImageFile, StatesTheResolutionOfAHeicThatHoldsIptcAlone)
+{
+    MetadataBlocks blocks;
+    blocks.iptc = brenvaldo::test::iptcDataSet(120, "caption");
+
+    const MetadataBlocks read = carried(blocks, FileFormat::Heic);
+
+    EXPECT_EQ(read.iptc, blocks.iptc);
+    EXPECT_EQ(readExifFacts(read.exif).dotsPerInch, 72);
+}
+
+TEST(WriteImageFile, LetsTheExifBlockNotGrowFromHeicToHeic)
+{
+    const MetadataBlocks once = carried(cameraBlocks(), FileFormat::Heic);
+
+    const MetadataBlocks thrice = carried(carried(once, FileFormat::Heic), FileFormat::Heic);
+
+    EXPECT_EQ(thrice.exif.size(), once.exif.size());
 }
 
 TEST(WriteImageFile, KeepsCommentsAndFurtherSegmentsOfAJpeg)
