@@ -290,9 +290,13 @@ QByteArray PhotoBuilder::png() const
 
 QByteArray PhotoBuilder::bmp() const
 {
-    return bmpFile(m_size, colorSamples(m_model), m_dotsPerInch, [this](int x, int y) {
-        return samplesAt(x, y);
-    });
+    return bmpFile(
+        m_size,
+        colorSamples(m_model),
+        m_dotsPerInch,
+        m_iccProfile,
+        [this](int x, int y) { return samplesAt(x, y); }
+    );
 }
 
 QByteArray PhotoBuilder::heic() const

@@ -213,8 +213,13 @@ QByteArray tiffFile(
     return bytesOf(image.tiffsave_buffer(options));
 }
 
-QByteArray
-bmpFile(QSize size, int samples, double dotsPerInch, const std::function<Samples(int, int)>& rule)
+QByteArray bmpFile(
+    QSize size,
+    int samples,
+    double dotsPerInch,
+    const QByteArray& iccProfile,
+    const std::function<Samples(int, int)>& rule
+)
 {
     QByteArray palette;
     for (int gray = 0; samples == 1 && gray < 256; ++gray)
@@ -228,7 +233,9 @@ bmpFile(QSize size, int samples, double dotsPerInch, const std::function<Samples
         }
         rows += QByteArray((4 - rows.size() % 4) % 4, '\0');
     }
-    constexpr quint32 headerSize = 40;
+    constexpr quint32 plainHeaderSize = 40;
+    constexpr quint32 newestHeaderSize = 124;
+    const quint32 headerSize = iccProfile.isEmpty() ? plainHeaderSize : newestHeaderSize;
     const auto pixelsAt = static_cast<quint32>(14 + headerSize + palette.size());
     const QByteArray perMetre = littleEndian(dotsPerMetre(dotsPerInch));
     QByteArray file = "BM";
@@ -238,7 +245,12 @@ bmpFile(QSize size, int samples, double dotsPerInch, const std::function<Samples
     file += littleEndian<quint16>(1) + littleEndian(static_cast<quint16>(samples * 8));
     file += littleEndian<quint32>(0) + littleEndian(static_cast<quint32>(rows.size()));
     file += perMetre + perMetre + littleEndian<quint32>(0) + littleEndian<quint32>(0);
-    return file + palette + rows;
+    if (iccProfile.isEmpty())
+        return file + palette + rows;
+    const auto profileAt = static_cast<quint32>(newestHeaderSize + palette.size() + rows.size());
+    file += QByteArray(16, '\0') + "DEBM" + QByteArray(52, '\0') + littleEndian(profileAt)
+        + littleEndian(static_cast<quint32>(iccProfile.size())) + littleEndian<quint32>(0);
+    return file + palette + rows + iccProfile;
 }
 
 QByteArray heicFile(const HeicContents& contents)

@@ -40,8 +40,13 @@ struct PngMetadata
 );
 
 /// 24 bits a pixel, or 8 bits with a grey palette for one sample.
-[[nodiscard]] QByteArray
-bmpFile(QSize size, int samples, double dotsPerInch, const std::function<Samples(int, int)>& rule);
+[[nodiscard]] QByteArray bmpFile(
+    QSize size,
+    int samples,
+    double dotsPerInch,
+    const QByteArray& iccProfile,
+    const std::function<Samples(int, int)>& rule
+);
 
 struct HeicContents
 {

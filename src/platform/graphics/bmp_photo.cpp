@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "color_profile.h"
 #include "deferred_pixels.h"
 #include "photo_decoder.h"
 #include "qt_pixels.h"
@@ -22,6 +23,8 @@ struct BitmapFacts
 {
     double dotsPerInch = 72;
     bool isGray = false;
+    qint64 profileOffset = 0;
+    qint64 profileSize = 0; ///< 0 without an embedded profile
     qint64 expectedSize = 0; ///< of the file; 0 when the pixels are compressed
 };
 
@@ -33,6 +36,22 @@ bool isGrayPalette(QByteArrayView palette, qsizetype entrySize)
             return false;
     }
     return palette.size() >= entrySize;
+}
+
+/// Where the profile stands; the newest form of the header alone has one.
+void readProfilePlace(const QByteArray& head, qsizetype infoAt, BitmapFacts& facts)
+{
+    constexpr quint32 newestHeaderSize = 124;
+    constexpr quint32 embedded = 0x4D424544; // "MBED"
+    constexpr qint64 longestProfile = qint64{64} << 20;
+    const char* info = head.constData() + infoAt;
+    if (head.size() < infoAt + qsizetype{newestHeaderSize}
+        || qFromLittleEndian<quint32>(info) < newestHeaderSize
+        || qFromLittleEndian<quint32>(info + 56) != embedded)
+        return;
+    const qint64 size = qFromLittleEndian<quint32>(info + 116);
+    facts.profileOffset = infoAt + qint64{qFromLittleEndian<quint32>(info + 112)};
+    facts.profileSize = size <= longestProfile ? size : 0;
 }
 
 BitmapFacts readFacts(const QByteArray& head, PixelSize size)
@@ -52,6 +71,7 @@ BitmapFacts readFacts(const QByteArray& head, PixelSize size)
     const auto perMetre = isOld ? 0 : qFromLittleEndian<qint32>(bytes + 38);
     if (perMetre > 0)
         facts.dotsPerInch = std::round(perMetre * metresPerInch);
+    readProfilePlace(head, fileHeaderSize, facts);
     const qsizetype paletteAt = fileHeaderSize + static_cast<qsizetype>(infoSize);
     if (bits <= 8 && paletteAt < static_cast<qsizetype>(pixelsAt)) {
         const qsizetype colors = qsizetype{1} << bits;
@@ -66,6 +86,14 @@ BitmapFacts readFacts(const QByteArray& head, PixelSize size)
         facts.expectedSize = pixelsAt + rowBytes * size.height;
     }
     return facts;
+}
+
+QByteArray embeddedProfile(QFile& file, const BitmapFacts& facts)
+{
+    if (facts.profileSize == 0 || !file.seek(facts.profileOffset))
+        return {};
+    const QByteArray profile = file.read(facts.profileSize);
+    return profile.size() == facts.profileSize ? profile : QByteArray();
 }
 
 /// A bitmap file; decoded whole.
@@ -94,6 +122,7 @@ public:
         m_header.colorModel = facts.isGray ? ColorModel::Gray : ColorModel::Rgb;
         m_header.hasAlpha = hasAlpha && !facts.isGray;
         m_header.dotsPerInch = facts.dotsPerInch;
+        m_iccProfile = usableProfile(embeddedProfile(file, facts), m_header.colorModel);
     }
 
     [[nodiscard]] const ImageHeader& header() const override { return m_header; }
@@ -104,6 +133,7 @@ public:
         node.colorModel = m_header.colorModel;
         node.hasAlpha = m_header.hasAlpha;
         node.dotsPerInch = m_header.dotsPerInch;
+        node.iccProfile = m_iccProfile;
         const PixelLayout layout = {
             .width = m_header.storedSize.width,
             .height = m_header.storedSize.height,
@@ -124,6 +154,7 @@ public:
 private:
     QString m_path;
     ImageHeader m_header;
+    QByteArray m_iccProfile;
 };
 
 } // namespace

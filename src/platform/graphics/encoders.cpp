@@ -4,7 +4,7 @@
 #include "color_profile.h"
 #include "inserting_file.h"
 #include "memory_check.h"
-#include "png_profile.h"
+#include "png_labels.h"
 #include "sample_conversion.h"
 
 #include <QFile>

@@ -13,7 +13,7 @@ namespace brenvaldo::platform {
 
 namespace {
 
-constexpr double millimetresPerInch = 25.4;
+constexpr double metresPerInch = 0.0254;
 constexpr double defaultDotsPerInch = 72;
 
 /// Profile of decoded pixels; empty without one.
@@ -30,7 +30,6 @@ QByteArray embeddedProfile(const vips::VImage& decoded)
 std::optional<double> wholeDotsPerInch(double pixelsPerMetre)
 {
     constexpr double noise = 1e-6;
-    constexpr double metresPerInch = millimetresPerInch / 1000;
     const double counted = std::round(pixelsPerMetre);
     const double dotsPerInch = std::round(counted * metresPerInch);
     const bool isCounted = std::abs(pixelsPerMetre - counted) < noise;
@@ -46,10 +45,7 @@ double statedDotsPerInch(const vips::VImage& decoded)
     const bool isStated = pixelsPerMillimetre != 1 || decoded.get_typeof("resolution-unit") != 0;
     if (!std::isfinite(pixelsPerMillimetre) || pixelsPerMillimetre <= 0 || !isStated)
         return defaultDotsPerInch;
-    if (const auto whole = wholeDotsPerInch(pixelsPerMillimetre * 1000))
-        return *whole;
-    constexpr double precision = 1e4; // the way through millimetres leaves noise behind
-    return std::round(pixelsPerMillimetre * millimetresPerInch * precision) / precision;
+    return dotsPerInchOf(pixelsPerMillimetre * 1000);
 }
 
 bool isLab(VipsInterpretation interpretation)
@@ -108,6 +104,14 @@ vips::VImage bare(const vips::VImage& pixels, VipsInterpretation interpretation)
 Image makeImage(ImageNode node)
 {
     return Image(std::make_shared<const ImageNode>(std::move(node)));
+}
+
+double dotsPerInchOf(double pixelsPerMetre)
+{
+    if (const auto whole = wholeDotsPerInch(pixelsPerMetre))
+        return *whole;
+    constexpr double precision = 1e4; // counting in other units leaves noise behind
+    return std::round(pixelsPerMetre * metresPerInch * precision) / precision;
 }
 
 VipsInterpretation interpretationOf(ColorModel model, VipsBandFormat format)

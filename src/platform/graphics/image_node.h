@@ -48,6 +48,9 @@ struct ImageNode
     return 0;
 }
 
+/// What a file that states this many pixels a metre means.
+[[nodiscard]] double dotsPerInchOf(double pixelsPerMetre);
+
 /// The interpretation that goes with pixels of a colour model and depth.
 [[nodiscard]] VipsInterpretation interpretationOf(ColorModel model, VipsBandFormat format);
 

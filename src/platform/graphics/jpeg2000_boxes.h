@@ -1,19 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "file_labels.h"
+
 #include <QByteArray>
 #include <QIODevice>
 
-#include <optional>
-
 namespace brenvaldo::platform {
-
-/// What the header of a file says beside the size of the picture.
-struct FileLabels
-{
-    QByteArray iccProfile = {};
-    std::optional<double> dotsPerInch = {};
-};
 
 /// The file with these labels in its header box; unchanged where the file has no such box.
 [[nodiscard]] QByteArray withLabels(const QByteArray& file, const FileLabels& labels);

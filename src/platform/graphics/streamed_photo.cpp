@@ -2,7 +2,7 @@
 #include "color_profile.h"
 #include "jpeg2000_boxes.h"
 #include "photo_decoder.h"
-#include "png_profile.h"
+#include "png_labels.h"
 
 #include <QFile>
 
@@ -95,7 +95,7 @@ FileLabels fileLabels(const QString& path, const QString& typeIdentifier)
     if (typeIdentifier == QLatin1String("public.jp2") && file.open(QIODevice::ReadOnly))
         return jpeg2000FileLabels(file);
     if (typeIdentifier == QLatin1String("public.png") && file.open(QIODevice::ReadOnly))
-        return {.iccProfile = readPngProfile(file), .dotsPerInch = {}};
+        return readPngLabels(file);
     return {};
 }
 

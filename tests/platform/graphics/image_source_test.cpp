@@ -3,6 +3,7 @@
 #include <platform/graphics/image_source.h>
 
 #include <support/case_name.h>
+#include <support/color_profiles.h>
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>
 #include <support/temporary_folder.h>
@@ -108,6 +109,30 @@ TEST(ImageSource, ReadsWholePixelsAMetreAsWholeDotsPerInch)
         EXPECT_EQ(openedPhoto(path).header().dotsPerInch, dotsPerInch);
         EXPECT_EQ(openedPhoto(path).image()->dotsPerInch(), dotsPerInch);
     }
+}
+
+TEST(ImageSource, ReadsAResolutionOfOnePixelAMillimetre)
+{
+    const TemporaryFolder folder;
+    const QString path = PhotoBuilder()
+                             .format(PhotoFormat::Png)
+                             .dotsPerInch(25.4)
+                             .write(folder.path(QStringLiteral("photo.png")));
+
+    EXPECT_EQ(openedPhoto(path).header().dotsPerInch, 25.4);
+    EXPECT_EQ(openedPhoto(path).image()->dotsPerInch(), 25.4);
+}
+
+TEST(ImageSource, ReadsTheProfileOfABitmap)
+{
+    const TemporaryFolder folder;
+    const PhotoBuilder bitmap = PhotoBuilder().format(PhotoFormat::Bmp).iccProfile(wideProfile());
+    const QString path = bitmap.write(folder.path(QStringLiteral("photo.bmp")));
+    const QString cut
+        = folder.write(QStringLiteral("cut.bmp"), bitmap.bytes().chopped(wideProfile().size() / 2));
+
+    EXPECT_EQ(openedPhoto(path).image()->iccProfile(), wideProfile());
+    EXPECT_EQ(openedPhoto(cut).image()->iccProfile(), QByteArray());
 }
 
 TEST(ImageSource, FollowsTheContentsNotTheName)

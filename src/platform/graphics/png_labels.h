@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "file_labels.h"
+
 #include <QByteArray>
 #include <QIODevice>
 
 namespace brenvaldo::platform {
 
-// The PNG library drops every profile that it finds fault with, so its chunk is read and written
-// here.
+// The PNG library drops every profile that it finds fault with, and the engine does not tell a
+// resolution of one pixel a millimetre from none: their chunks are read and written here.
 
 /// Where the chunk of the profile may stand in every file: behind signature and header.
 constexpr qint64 pngHeaderLength = 33;
@@ -15,7 +17,7 @@ constexpr qint64 pngHeaderLength = 33;
 /// The whole chunk of a profile; empty for an empty one.
 [[nodiscard]] QByteArray pngProfileChunk(const QByteArray& profile);
 
-/// The profile of the PNG at the start of `file`; empty without one or when its chunk is damaged.
-[[nodiscard]] QByteArray readPngProfile(QIODevice& file);
+/// The labels of the PNG at the start of `file`; those of damaged chunks are left out.
+[[nodiscard]] FileLabels readPngLabels(QIODevice& file);
 
 } // namespace brenvaldo::platform

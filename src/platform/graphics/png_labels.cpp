@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "png_profile.h"
+#include "png_labels.h"
+
+#include "image_node.h"
 
 #include <platform/foundation/inflate.h>
 
@@ -11,6 +13,7 @@ namespace {
 
 constexpr qint64 signatureLength = 8;
 constexpr qint64 checksumLength = 4;
+constexpr qint64 resolutionLength = 9;
 constexpr qsizetype longestChunk = qsizetype{16} << 20;
 constexpr qsizetype longestProfile = qsizetype{64} << 20;
 
@@ -32,6 +35,16 @@ QByteArray profileOf(const QByteArray& chunkData)
     return inflated(stream, longestProfile).value_or(QByteArray());
 }
 
+/// The resolution in the data of its chunk: pixels a unit in each direction, the unit.
+std::optional<double> resolutionOf(const QByteArray& chunkData)
+{
+    constexpr char metre = 1;
+    if (chunkData.size() < resolutionLength || chunkData.back() != metre)
+        return std::nullopt;
+    const auto pixelsPerMetre = qFromBigEndian<quint32>(chunkData.constData());
+    return pixelsPerMetre == 0 ? std::nullopt : std::optional(dotsPerInchOf(pixelsPerMetre));
+}
+
 } // namespace
 
 QByteArray pngProfileChunk(const QByteArray& profile)
@@ -44,19 +57,22 @@ QByteArray pngProfileChunk(const QByteArray& profile)
         + bigEndian32(crc32Of(typeAndData));
 }
 
-QByteArray readPngProfile(QIODevice& file)
+FileLabels readPngLabels(QIODevice& file)
 {
     constexpr qint64 headLength = 8;
+    FileLabels labels;
     for (qint64 offset = signatureLength; file.seek(offset);) {
         const QByteArray head = file.read(headLength);
         if (head.size() < headLength || head.endsWith("IDAT"))
-            return {};
+            break;
         const qint64 length = qFromBigEndian<quint32>(head.constData());
-        if (head.endsWith("iCCP"))
-            return length <= longestChunk ? profileOf(file.read(length)) : QByteArray();
+        if (head.endsWith("iCCP") && labels.iccProfile.isEmpty() && length <= longestChunk)
+            labels.iccProfile = profileOf(file.read(length));
+        else if (head.endsWith("pHYs") && !labels.dotsPerInch)
+            labels.dotsPerInch = resolutionOf(file.read(resolutionLength));
         offset += headLength + length + checksumLength;
     }
-    return {};
+    return labels;
 }
 
 } // namespace brenvaldo::platform
