@@ -58,7 +58,7 @@ bool writePieces(const QByteArrayList& pieces, const QString& path)
 MetadataBlocks blocksForHeic(const MetadataBlocks& blocks, double dotsPerInch)
 {
     TiffDirectory fields;
-    setIptc(fields, blocks.iptc);
+    setBlock(fields, tiff::Iptc, blocks.iptc);
     setBlock(fields, tiff::PhotoshopResources, blocks.photoshop);
     const bool hasExif = TiffFile::open(blocks.exif).has_value();
     MetadataBlocks result;

@@ -12,8 +12,6 @@ namespace brenvaldo::platform {
 
 namespace {
 
-constexpr qsizetype word = 4;
-
 /// True for a directory that holds a JPEG and no picture that a TIFF reader knows.
 bool describesThumbnail(const TiffDirectory& directory)
 {
@@ -47,6 +45,7 @@ QByteArray blockOf(const TiffDirectory& directory, std::uint16_t tag)
 /// IIM data sets that a program has stored as numbers of the other byte order come out in order.
 QByteArray iptcOf(const TiffDirectory& directory)
 {
+    constexpr qsizetype word = 4;
     constexpr char dataSetMarker = '\x1C';
     QByteArray iptc = blockOf(directory, tiff::Iptc);
     const bool isTurned = iptc.size() >= word && iptc.size() % word == 0 && iptc[0] != dataSetMarker
@@ -60,18 +59,6 @@ void setBlock(TiffDirectory& directory, std::uint16_t tag, const QByteArray& blo
 {
     if (!block.isEmpty())
         replace(directory, {.tag = tag, .type = tiff::Byte, .value = block});
-}
-
-/// Other programs read and write IPTC as LONGs, whose bytes stand in the order of the data sets.
-void setIptc(TiffDirectory& directory, const QByteArray& iptc)
-{
-    if (iptc.isEmpty())
-        return;
-    const qsizetype length = (iptc.size() + word - 1) / word * word;
-    replace(
-        directory,
-        {.tag = tiff::Iptc, .type = tiff::Long, .value = iptc.leftJustified(length, '\0')}
-    );
 }
 
 MetadataBlocks readTiffBlocks(QByteArrayView bytes)

@@ -13,8 +13,8 @@ namespace brenvaldo::platform {
 /// The IIM data sets, in order and without padding.
 [[nodiscard]] QByteArray iptcOf(const TiffDirectory& directory);
 
-/// An empty block leaves the directory as it is.
+/// Puts `block` into the field `tag`, byte for byte: IPTC that is padded to whole words would not
+/// fit the checksum that Photoshop resources hold. An empty block leaves the directory as it is.
 void setBlock(TiffDirectory& directory, std::uint16_t tag, const QByteArray& block);
-void setIptc(TiffDirectory& directory, const QByteArray& iptc);
 
 } // namespace brenvaldo::platform

@@ -111,7 +111,7 @@ std::optional<QByteArrayList> splicedTiff(QByteArrayView encoded, const Metadata
     }
     setBlock(directory, tiff::Xmp, completeXmp(blocks));
     setBlock(directory, tiff::PhotoshopResources, withThumbnailResource(blocks.photoshop, exif));
-    setIptc(directory, blocks.iptc);
+    setBlock(directory, tiff::Iptc, blocks.iptc);
     const QByteArray tail = QByteArray(static_cast<qsizetype>(directoryOffset - end), '\0')
         + serializedDirectory(directory, directoryOffset, order);
     if (end + static_cast<std::uint64_t>(tail.size()) > std::numeric_limits<std::uint32_t>::max())

@@ -244,12 +244,15 @@ TEST(SplicedTiff, TurnsTheBlockWhereThePixelsHaveAByteOrder)
     );
 }
 
-TEST(SplicedTiff, KeepsIptcWhoseLengthIsNoMultipleOfFour)
+TEST(SplicedTiff, KeepsIptcWithoutPadding)
 {
     MetadataBlocks blocks;
     blocks.iptc = iptcDataSet(120, "abcd");
 
-    EXPECT_EQ(readTiffBlocks(splicedTiffOf(encodedTiff(), blocks)).iptc, blocks.iptc);
+    const QByteArray file = splicedTiffOf(encodedTiff(), blocks);
+
+    EXPECT_EQ(fieldOf(TiffFile::open(file)->firstDirectory(), tiff::Iptc)->value, blocks.iptc);
+    EXPECT_EQ(readTiffBlocks(file).iptc, blocks.iptc);
 }
 
 TEST(SplicedTiff, WritesADamagedExifBlockNotAtAll)

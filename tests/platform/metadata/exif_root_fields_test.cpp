@@ -20,7 +20,7 @@ QByteArray caption() { return iptcDataSet(120, "a caption"); }
 TiffDirectory captionFields()
 {
     TiffDirectory fields;
-    setIptc(fields, caption());
+    setBlock(fields, tiff::Iptc, caption());
     setBlock(fields, tiff::PhotoshopResources, photoshopResource(0x0425, "digest"));
     return fields;
 }
@@ -66,7 +66,7 @@ TEST(WithRootFields, ReplacesAFieldOfTheSameTag)
 {
     const QByteArray once = withRootFields(evenBlock(), captionFields());
     TiffDirectory other;
-    setIptc(other, iptcDataSet(120, "another"));
+    setBlock(other, tiff::Iptc, iptcDataSet(120, "another"));
 
     const QByteArray twice = withRootFields(once, other);
 
