@@ -81,16 +81,16 @@ bool encodeWithBlocks(const Image& image, const ImageFileRequest& request, const
 }
 
 bool encodeAndSplice(
-    const Image& image, const ImageFileRequest& request, Splicer splicer, const QString& path
+    const Image& image, const ImageFileRequest& request, Splicer splicer, const AtomicFile& target
 )
 {
-    const AtomicFile encoded(path);
+    const TemporaryFile encoded(target.folder());
     const EncodeOptions options{.lossyQuality = request.lossyQuality, .blocks = nullptr};
-    if (!encoded.isValid() || !encode(image, request.format, options, encoded.temporaryPath()))
+    if (!encoded.isValid() || !encode(image, request.format, options, encoded.path()))
         return false;
-    const MappedFile file(encoded.temporaryPath());
+    const MappedFile file(encoded.path());
     const auto pieces = splicer(file.bytes(), *request.metadata);
-    return pieces && writePieces(*pieces, path);
+    return pieces && writePieces(*pieces, target.temporaryPath());
 }
 
 } // namespace
@@ -101,9 +101,8 @@ bool writeImageFile(const Image& image, const ImageFileRequest& request, const Q
     if (!target.isValid())
         return false;
     const Splicer splicer = request.metadata ? splicerFor(request.format) : nullptr;
-    const bool isWritten = splicer
-        ? encodeAndSplice(image, request, splicer, target.temporaryPath())
-        : encodeWithBlocks(image, request, target.temporaryPath());
+    const bool isWritten = splicer ? encodeAndSplice(image, request, splicer, target)
+                                   : encodeWithBlocks(image, request, target.temporaryPath());
     return isWritten && target.commit();
 }
 

@@ -1,13 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "atomic_file.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
-
-#include <cerrno>
-#include <cstdio>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -27,79 +22,46 @@ QString resolvedTarget(const QString& path)
     return canonical.isEmpty() ? path : canonical;
 }
 
-/// Makes an empty hidden file; its name is short, since the target's may be as long as the file
-/// system allows. Nothing when the folder refuses it.
-QString makeHiddenFile(const QDir& folder)
+/// A folder that can't be flushed only delays a name: the file stands whole in either case.
+void flushFolder(const QString& path)
 {
-    constexpr int attempts = 100;
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        const QString path = folder.filePath(
-            QStringLiteral(".brenvaldo-%1")
-                .arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0'))
-        );
-        const int file = ::open(
-            QFile::encodeName(path).constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0666
-        );
-        if (file >= 0) {
-            ::close(file);
-            return path;
-        }
-        if (errno != EEXIST)
-            return {};
-    }
-    return {};
-}
-
-bool flushToDisk(const QByteArray& path, int flags)
-{
-    const int file = ::open(path.constData(), flags | O_RDONLY | O_CLOEXEC);
-    if (file < 0)
-        return false;
-    const bool flushed = ::fsync(file) == 0;
-    return (::close(file) == 0) && flushed;
+    const int folder
+        = ::open(QFile::encodeName(path).constData(), O_DIRECTORY | O_RDONLY | O_CLOEXEC);
+    if (folder < 0)
+        return;
+    ::fsync(folder);
+    ::close(folder);
 }
 
 /// Where the process may not give files away, the owner changes; the mode is kept all the same.
-void keepModeAndOwner(const QByteArray& target, const QByteArray& replacement)
+void keepModeAndOwner(const QString& target, int replacement)
 {
     struct stat status = {};
-    if (::stat(target.constData(), &status) != 0)
+    if (::stat(QFile::encodeName(target).constData(), &status) != 0)
         return;
-    if (::chown(replacement.constData(), status.st_uid, status.st_gid) != 0)
-        static_cast<void>(
-            ::chown(replacement.constData(), static_cast<uid_t>(-1), status.st_gid) == 0
-        );
-    ::chmod(replacement.constData(), status.st_mode & 07777U);
+    if (::fchown(replacement, status.st_uid, status.st_gid) != 0)
+        static_cast<void>(::fchown(replacement, static_cast<uid_t>(-1), status.st_gid) == 0);
+    ::fchmod(replacement, status.st_mode & 07777U);
 }
 
 } // namespace
 
 AtomicFile::AtomicFile(const QString& target)
     : m_target(resolvedTarget(target))
-    , m_temporaryPath(makeHiddenFile(QFileInfo(m_target).dir()))
+    , m_file(folder())
 {
 }
 
-AtomicFile::~AtomicFile()
-{
-    if (isValid())
-        QFile::remove(m_temporaryPath);
-}
+QString AtomicFile::folder() const { return QFileInfo(m_target).path(); }
 
 bool AtomicFile::commit()
 {
-    if (!isValid())
+    if (!isValid() || ::fsync(m_file.descriptor()) != 0)
         return false;
-    const QByteArray temporary = QFile::encodeName(m_temporaryPath);
-    const QByteArray target = QFile::encodeName(m_target);
-    if (!flushToDisk(temporary, 0))
+    keepModeAndOwner(m_target, m_file.descriptor());
+    if (!m_file.moveTo(m_target))
         return false;
-    keepModeAndOwner(target, temporary);
-    if (std::rename(temporary.constData(), target.constData()) != 0)
-        return false;
-    m_temporaryPath.clear();
-    // The file stands whole in either case: a folder that can't be flushed only delays the name.
-    flushToDisk(QFile::encodeName(QFileInfo(m_target).path()), O_DIRECTORY);
+    flushFolder(folder());
     return true;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "temporary_file.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -8,29 +10,27 @@ namespace brenvaldo::platform {
 
 /// A file that appears whole at its place, or not at all.
 ///
-/// The contents are written at `temporaryPath()`, a hidden file in the target's folder; `commit`
-/// puts it in place. Without a commit the temporary file is removed.
+/// The contents are written at `temporaryPath()`; `commit` puts them in place. Without a commit
+/// nothing stays.
 class AtomicFile
 {
 public:
     explicit AtomicFile(const QString& target);
-    AtomicFile(const AtomicFile&) = delete;
-    AtomicFile& operator=(const AtomicFile&) = delete;
-    AtomicFile(AtomicFile&&) = delete;
-    AtomicFile& operator=(AtomicFile&&) = delete;
-    ~AtomicFile();
 
     /// False when no file can be made in the target's folder.
-    [[nodiscard]] bool isValid() const { return !m_temporaryPath.isEmpty(); }
-    [[nodiscard]] const QString& temporaryPath() const { return m_temporaryPath; }
+    [[nodiscard]] bool isValid() const { return m_file.isValid(); }
+    [[nodiscard]] const QString& temporaryPath() const { return m_file.path(); }
 
-    /// Flushes the file to the disk and renames it over the target; mode and owner of an existing
-    /// target stay.
+    /// The folder that the file comes to stand in.
+    [[nodiscard]] QString folder() const;
+
+    /// Flushes the file to the disk and puts it in the place of the target; mode and owner of an
+    /// existing target stay.
     [[nodiscard]] bool commit();
 
 private:
     QString m_target;
-    QString m_temporaryPath;
+    TemporaryFile m_file;
 };
 
 /// Writes `contents` as a whole file at `path`, or leaves what stands there.

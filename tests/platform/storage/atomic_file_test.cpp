@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 #include <sys/stat.h>
 
 using namespace brenvaldo::platform;
@@ -57,26 +59,35 @@ TEST(AtomicFile, ReplacesWhatStandsThere)
     EXPECT_EQ(TemporaryFolder::read(path), "new");
 }
 
-TEST(AtomicFile, WritesToAHiddenFileOfTheTargetsFolder)
-{
-    const TemporaryFolder folder;
-    const AtomicFile file(folder.path(u"photo.jpg"_qs));
-
-    ASSERT_TRUE(file.isValid());
-    const QFileInfo temporary(file.temporaryPath());
-    EXPECT_EQ(temporary.path() + u'/', folder.path());
-    EXPECT_TRUE(temporary.fileName().startsWith(u'.'));
-}
-
 TEST(AtomicFile, LeavesNothingWithoutACommit)
 {
     const TemporaryFolder folder;
     {
         const AtomicFile file(folder.path(u"photo.jpg"_qs));
-        ASSERT_EQ(allEntries(folder).size(), 1);
+        ASSERT_TRUE(file.isValid());
     }
 
     EXPECT_EQ(allEntries(folder), QStringList());
+}
+
+TEST(AtomicFile, LeavesTheOldFileAndNothingElseWhenItsProcessIsKilled)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(u"photo.jpg"_qs, "old");
+
+    EXPECT_EXIT(
+        {
+            const AtomicFile file(path);
+            QFile contents(file.temporaryPath());
+            if (contents.open(QIODevice::WriteOnly) && contents.write("half") == 4)
+                std::raise(SIGKILL);
+        },
+        testing::KilledBySignal(SIGKILL),
+        ""
+    );
+
+    EXPECT_EQ(TemporaryFolder::read(path), "old");
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
 }
 
 TEST(AtomicFile, CommitsOnce)
