@@ -19,6 +19,11 @@ QByteArrayView tailOf(QByteArrayView bytes, std::uint64_t offset)
     return bytes.sliced(static_cast<qsizetype>(offset));
 }
 
+QByteArray viewed(QByteArrayView bytes)
+{
+    return QByteArray::fromRawData(bytes.data(), bytes.size());
+}
+
 std::optional<std::uint64_t>
 unsignedAt(QByteArrayView bytes, std::uint64_t offset, int width, ByteOrder order)
 {

@@ -22,6 +22,9 @@ sliceOf(QByteArrayView bytes, std::uint64_t offset, std::uint64_t length);
 /// All bytes from `offset` on; empty beyond the end.
 [[nodiscard]] QByteArrayView tailOf(QByteArrayView bytes, std::uint64_t offset);
 
+/// The bytes as an array that does not own them: they have to outlive it.
+[[nodiscard]] QByteArray viewed(QByteArrayView bytes);
+
 /// The unsigned integer of `width` (1 to 8) bytes at `offset`.
 [[nodiscard]] std::optional<std::uint64_t>
 unsignedAt(QByteArrayView bytes, std::uint64_t offset, int width, ByteOrder order);

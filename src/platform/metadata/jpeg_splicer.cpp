@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_splicers.h"
+#include "bytes.h"
 #include "jpeg_segments.h"
 #include "photoshop_resources.h"
 #include "xmp_packet.h"
@@ -28,11 +29,6 @@ QByteArrayList metadataSegments(const MetadataBlocks& blocks)
     segments += blocks.jpegSegments;
     segments += segmentsOf(jpeg::comment, {}, blocks.comment);
     return segments;
-}
-
-QByteArray viewed(QByteArrayView bytes)
-{
-    return QByteArray::fromRawData(bytes.data(), bytes.size());
 }
 
 } // namespace

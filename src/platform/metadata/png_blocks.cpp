@@ -6,6 +6,9 @@
 
 #include <QString>
 
+#include <algorithm>
+#include <array>
+
 namespace brenvaldo::platform {
 
 namespace {
@@ -15,6 +18,14 @@ constexpr QByteArrayView profilePrefix("Raw profile type ");
 QByteArray withoutExifHeader(const QByteArray& data)
 {
     return data.startsWith(jpeg::exifHeader) ? data.sliced(jpeg::exifHeader.size()) : data;
+}
+
+bool describesColors(const PngChunk& chunk)
+{
+    static constexpr std::array types{"iCCP", "sRGB", "gAMA", "cHRM"};
+    return std::any_of(types.begin(), types.end(), [&chunk](const char* type) {
+        return chunk.type == QByteArrayView(type);
+    });
 }
 
 void fill(QByteArray& block, const QByteArray& data)
@@ -64,6 +75,10 @@ MetadataBlocks readPngBlocks(QByteArrayView file)
     for (const PngChunk& chunk : *chunks) {
         if (chunk.type == QByteArrayView("eXIf"))
             blocks.exif = withoutExifHeader(chunk.data.toByteArray());
+        else if (chunk.type == QByteArrayView("tIME"))
+            blocks.pngTextChunks.append(chunk.whole.toByteArray());
+        else if (describesColors(chunk))
+            blocks.pngColorChunks.append(chunk.whole.toByteArray());
         else if (const auto text = pngText(chunk))
             takeText(chunk, *text, blocks);
     }

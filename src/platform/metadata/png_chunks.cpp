@@ -52,6 +52,11 @@ std::optional<PngText> compressedText(const QByteArray& keyword, QByteArrayView 
 
 } // namespace
 
+PngChunk pngChunkOf(QByteArrayView whole)
+{
+    return {.type = whole.sliced(4, 4), .data = whole.sliced(8).chopped(4), .whole = whole};
+}
+
 std::optional<QList<PngChunk>> readPngChunks(QByteArrayView file)
 {
     if (!file.startsWith(signature))
@@ -63,10 +68,7 @@ std::optional<QList<PngChunk>> readPngChunks(QByteArrayView file)
         const auto whole = sliceOf(file, offset, 12 + *length);
         if (!whole)
             break;
-        const auto dataLength = static_cast<qsizetype>(*length);
-        chunks.append(
-            {.type = whole->sliced(4, 4), .data = whole->sliced(8, dataLength), .whole = *whole}
-        );
+        chunks.append(pngChunkOf(*whole));
         if (chunks.last().type == QByteArrayView("IEND"))
             break;
         offset += 12 + *length;
@@ -99,6 +101,14 @@ std::optional<PngText> pngText(const PngChunk& chunk)
     if (chunk.type == QByteArrayView("iTXt"))
         return internationalText(name, rest);
     return std::nullopt;
+}
+
+QByteArray pngProfile(const PngChunk& chunk)
+{
+    QByteArrayView rest = chunk.data;
+    if (chunk.type != QByteArrayView("iCCP") || !takeTerminated(rest) || rest.isEmpty())
+        return {};
+    return inflated(rest.sliced(1), longestText).value_or(QByteArray());
 }
 
 QByteArray pngInternationalText(QByteArrayView keyword, QByteArrayView text)

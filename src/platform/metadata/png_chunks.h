@@ -17,6 +17,11 @@ struct PngChunk
     QByteArrayView whole; ///< length, type, data and checksum
 };
 
+constexpr qsizetype pngSignatureLength = 8;
+
+/// The chunk that `whole` is.
+[[nodiscard]] PngChunk pngChunkOf(QByteArrayView whole);
+
 /// The chunks up to IEND or to damage; nothing when `file` is no PNG.
 [[nodiscard]] std::optional<QList<PngChunk>> readPngChunks(QByteArrayView file);
 
@@ -33,6 +38,9 @@ struct PngText
 
 /// Nothing for other chunks, damaged ones, and texts that inflate to an absurd size.
 [[nodiscard]] std::optional<PngText> pngText(const PngChunk& chunk);
+
+/// The ICC profile that an iCCP chunk holds; empty for other chunks and damaged ones.
+[[nodiscard]] QByteArray pngProfile(const PngChunk& chunk);
 
 /// The text of an iTXt chunk; `text` is UTF-8.
 [[nodiscard]] QByteArray pngInternationalText(QByteArrayView keyword, QByteArrayView text);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_splicers.h"
+#include "bytes.h"
 #include "photoshop_resources.h"
 #include "png_chunks.h"
+#include "tiff_directory.h"
 #include "xmp_packet.h"
 
 #include <algorithm>
@@ -32,7 +34,8 @@ bool holdsComment(const QByteArray& chunk)
 QByteArrayList metadataChunks(const MetadataBlocks& blocks)
 {
     QByteArrayList chunks;
-    if (!blocks.exif.isEmpty())
+    // The format allows no other bytes.
+    if (TiffFile::open(blocks.exif))
         chunks.append(pngChunk("eXIf", blocks.exif));
     const QByteArray xmp = completeXmp(blocks);
     if (!xmp.isEmpty())
@@ -49,6 +52,31 @@ QByteArrayList metadataChunks(const MetadataBlocks& blocks)
     return chunks;
 }
 
+QByteArray profileAmong(const QList<PngChunk>& chunks)
+{
+    for (const PngChunk& chunk : chunks) {
+        const QByteArray profile = pngProfile(chunk);
+        if (!profile.isEmpty())
+            return profile;
+    }
+    return {};
+}
+
+QByteArray profileAmong(const QByteArrayList& wholeChunks)
+{
+    QList<PngChunk> chunks;
+    for (const QByteArray& whole : wholeChunks)
+        chunks.append(pngChunkOf(whole));
+    return profileAmong(chunks);
+}
+
+/// What describes the colours of the source describes those of the encoded file as well, unless
+/// they were converted.
+bool keepsColors(const QList<PngChunk>& encoded, const QByteArrayList& colors)
+{
+    return !colors.isEmpty() && profileAmong(encoded) == profileAmong(colors);
+}
+
 } // namespace
 
 std::optional<QByteArrayList> splicedPng(QByteArrayView encoded, const MetadataBlocks& blocks)
@@ -61,9 +89,17 @@ std::optional<QByteArrayList> splicedPng(QByteArrayView encoded, const MetadataB
     });
     if (pixels == chunks->end())
         return std::nullopt;
+
+    const bool isSameColors = keepsColors(*chunks, blocks.pngColorChunks);
+    QByteArrayList pieces{viewed(encoded.first(pngSignatureLength))};
+    for (auto chunk = chunks->begin(); chunk != pixels; ++chunk) {
+        if (!isSameColors || chunk->type != QByteArrayView("iCCP"))
+            pieces.append(viewed(chunk->whole));
+    }
+    if (isSameColors)
+        pieces += blocks.pngColorChunks;
     const qsizetype place = pixels->whole.begin() - encoded.begin();
-    return QByteArrayList{QByteArray::fromRawData(encoded.data(), place)} + metadataChunks(blocks)
-        + QByteArrayList{QByteArray::fromRawData(encoded.data() + place, encoded.size() - place)};
+    return pieces + metadataChunks(blocks) + QByteArrayList{viewed(encoded.sliced(place))};
 }
 
 } // namespace brenvaldo::platform

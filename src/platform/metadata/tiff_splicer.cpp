@@ -119,8 +119,7 @@ std::optional<QByteArrayList> splicedTiff(QByteArrayView encoded, const Metadata
 
     QByteArray head = tiffHeader(order, directoryOffset) + exif.mid(headerLength);
     head.resize(static_cast<qsizetype>(headerLength + shift), '\0');
-    const QByteArrayView body = tailOf(encoded, headerLength);
-    return QByteArrayList{head, QByteArray::fromRawData(body.data(), body.size()), tail};
+    return QByteArrayList{head, viewed(tailOf(encoded, headerLength)), tail};
 }
 
 } // namespace brenvaldo::platform

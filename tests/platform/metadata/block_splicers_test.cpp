@@ -2,6 +2,7 @@
 #include "block_builder.h"
 #include "container_builder.h"
 
+#include <platform/foundation/inflate.h>
 #include <platform/metadata/block_readers.h>
 #include <platform/metadata/block_splicers.h>
 #include <platform/metadata/exif_directories.h>
@@ -45,6 +46,13 @@ QByteArray splicedTiffOf(const QByteArray& encoded, const MetadataBlocks& blocks
 QByteArray encodedTiff(int depth = 8)
 {
     return PhotoBuilder{}.format(PhotoFormat::Tiff).depth(depth).bytes();
+}
+
+QByteArray gammaChunk() { return pngChunk("gAMA", QByteArray("\0\0\xB1\x8F", 4)); }
+
+QByteArray profileChunk(const QByteArray& name, const QByteArray& profile)
+{
+    return pngChunk("iCCP", name + QByteArray(2, '\0') + deflated(profile));
 }
 
 /// The maker note of an EXIF block or a TIFF; an empty field without one.
@@ -181,6 +189,55 @@ TEST(SplicedPng, WritesACommentOnce)
     const MetadataBlocks twice = readPngBlocks(splicedPng(encoded, once)->join());
 
     EXPECT_EQ(twice.pngTextChunks, once.pngTextChunks);
+}
+
+TEST(SplicedPng, KeepsTheTimeOfAPng)
+{
+    const QByteArray time = pngChunk("tIME", QByteArray("\x07\xEA\x0B\x0F\x0A\x2C\x21", 7));
+    const MetadataBlocks blocks = readPngBlocks(barePng({time}));
+    const QByteArray encoded = barePng({});
+
+    EXPECT_EQ(
+        readPngBlocks(splicedPng(encoded, blocks)->join()).pngTextChunks, QByteArrayList{time}
+    );
+}
+
+TEST(SplicedPng, KeepsWhatDescribesColoursWithoutAProfile)
+{
+    const QByteArrayList colors{gammaChunk(), pngChunk("sRGB", QByteArray(1, '\0'))};
+    const MetadataBlocks blocks = readPngBlocks(barePng(colors));
+    const QByteArray encoded = barePng({});
+
+    EXPECT_EQ(readPngBlocks(splicedPng(encoded, blocks)->join()).pngColorChunks, colors);
+}
+
+TEST(SplicedPng, KeepsWhatDescribesColoursBesideTheSameProfile)
+{
+    const QByteArrayList colors{profileChunk("its own name", "profile"), gammaChunk()};
+    const MetadataBlocks blocks = readPngBlocks(barePng(colors));
+    const QByteArray encoded = barePng({profileChunk("ICC Profile", "profile")});
+
+    EXPECT_EQ(readPngBlocks(splicedPng(encoded, blocks)->join()).pngColorChunks, colors);
+}
+
+TEST(SplicedPng, LeavesOutWhatDescribedColoursThatWereConverted)
+{
+    const MetadataBlocks blocks = readPngBlocks(barePng({gammaChunk()}));
+    const QByteArray profile = profileChunk("ICC Profile", "another profile");
+    const QByteArray encoded = barePng({profile});
+
+    EXPECT_EQ(
+        readPngBlocks(splicedPng(encoded, blocks)->join()).pngColorChunks, QByteArrayList{profile}
+    );
+}
+
+TEST(SplicedPng, WritesADamagedExifBlockNotAtAll)
+{
+    MetadataBlocks blocks;
+    blocks.exif = "no TIFF structure";
+    const QByteArray encoded = barePng({});
+
+    EXPECT_EQ(splicedPng(encoded, blocks)->join(), encoded);
 }
 
 TEST(SplicedPng, RefusesAPngWithoutPicture)
