@@ -68,6 +68,14 @@ Samples cornerSamples(QSize size, PhotoModel model, int x, int y)
     return colors[static_cast<std::size_t>(corner)];
 }
 
+/// The engine states a resolution where there is none.
+QByteArray withoutResolutionChunk(QByteArray png)
+{
+    constexpr qsizetype chunkLength = 21;
+    const qsizetype type = png.indexOf("pHYs");
+    return type < 0 ? png : png.remove(type - 4, chunkLength);
+}
+
 } // namespace
 
 /// The pixels of a builder for the encoders.
@@ -276,16 +284,16 @@ QByteArray PhotoBuilder::png() const
     VipsBlob* blob = PhotoPixels::image(*this).pngsave_buffer(
         vips::VImage::option()->set("strip", true)->set("bitdepth", m_depth)
     );
-    QByteArray file = bytesOf(blob);
-    return file.insert(
-        pngChunksAt,
-        pngMetadata(
-            {.dotsPerInch = m_dotsPerInch,
-             .iccProfile = m_iccProfile,
-             .exif = exifBytes(),
-             .xmp = m_xmp}
-        )
-    );
+    return withoutResolutionChunk(bytesOf(blob))
+        .insert(
+            pngChunksAt,
+            pngMetadata(
+                {.dotsPerInch = m_dotsPerInch,
+                 .iccProfile = m_iccProfile,
+                 .exif = exifBytes(),
+                 .xmp = m_xmp}
+            )
+        );
 }
 
 QByteArray PhotoBuilder::bmp() const
