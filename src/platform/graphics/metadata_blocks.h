@@ -20,7 +20,8 @@ struct MetadataBlocks
     /// Further application segments of a JPEG, whole: marker, length and contents.
     QList<QByteArray> jpegSegments = {};
 
-    /// Textual chunks of a PNG other than those the blocks above were taken from, and its time, whole.
+    /// Textual chunks of a PNG other than those the blocks above were taken from, and its time,
+    /// whole.
     QList<QByteArray> pngTextChunks = {};
 
     /// Chunks of a PNG that tell what its colours are, the ICC profile among them, whole.

@@ -72,6 +72,7 @@ FileLabels readPngLabels(QIODevice& file)
             labels.dotsPerInch = resolutionOf(file.read(resolutionLength));
         offset += headLength + length + checksumLength;
     }
+    labels.dotsPerInch = labels.dotsPerInch.value_or(ImageNode().dotsPerInch);
     return labels;
 }
 

@@ -9,7 +9,8 @@
 namespace brenvaldo::platform {
 
 // The PNG library drops every profile that it finds fault with, and the engine does not tell a
-// resolution of one pixel a millimetre from none: their chunks are read and written here.
+// resolution of one pixel a millimetre from none, and takes none as a little less than 72 dots per
+// inch: their chunks are read and written here.
 
 /// Where the chunk of the profile may stand in every file: behind signature and header.
 constexpr qint64 pngHeaderLength = 33;

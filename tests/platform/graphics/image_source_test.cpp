@@ -167,12 +167,12 @@ TEST(ImageSource, TakesAMissingResolutionAs72)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(
-        openedPhoto(PhotoBuilder().write(folder.path(QStringLiteral("a.jpg"))))
-            .header()
-            .dotsPerInch,
-        72
-    );
+    for (const PhotoFormat format : {PhotoFormat::Jpeg, PhotoFormat::Png, PhotoFormat::Bmp}) {
+        const QString path
+            = PhotoBuilder().format(format).write(folder.path(QStringLiteral("photo")));
+
+        EXPECT_EQ(openedPhoto(path).header().dotsPerInch, 72);
+    }
 }
 
 TEST(ImageSource, TurnsHeicByItsOwnBoxesAlone)
