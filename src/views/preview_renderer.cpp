@@ -82,11 +82,12 @@ QImage renderedOverlay(const PreviewRequest& request, const QImage& photo)
 {
     if (!request.overlay)
         return {};
-    if (request.part || !request.photo || photo.isNull())
+    // A mark that is still to be drawn is drawn here, and not in the threads of the evaluation.
+    const auto differing
+        = request.photo ? platform::stampedPart(*request.overlay, *request.photo) : std::nullopt;
+    if (!differing || request.part || photo.isNull())
         return renderedLayer(*request.overlay, request);
-    const auto differing = platform::stampedPart(*request.overlay, *request.photo);
-    return differing ? renderedAnew(photo, *request.overlay, *differing, request.room)
-                     : renderedLayer(*request.overlay, request);
+    return renderedAnew(photo, *request.overlay, *differing, request.room);
 }
 
 } // namespace
@@ -148,6 +149,7 @@ PreviewRenderer::PreviewRenderer(QObject* parent)
     : QObject(parent)
 {
     m_worker.setMaxThreadCount(1);
+    m_worker.setExpiryTimeout(-1); // fonts are loaded anew for each thread
 }
 
 PreviewRenderer::~PreviewRenderer() { m_worker.waitForDone(); }
@@ -165,14 +167,16 @@ void PreviewRenderer::startNext()
     m_running = true;
     m_worker.start([this, request = *std::exchange(m_waiting, std::nullopt)] {
         const PreviewPicture picture = renderedPicture(request);
-        QMetaObject::invokeMethod(this, [this, picture] { take(picture); });
+        QMetaObject::invokeMethod(this, [this, picture, path = request.path] {
+            take(picture, path);
+        });
     });
 }
 
-void PreviewRenderer::take(const PreviewPicture& picture)
+void PreviewRenderer::take(const PreviewPicture& picture, const QString& path)
 {
     m_running = false;
-    if (!m_waiting)
+    if (!m_waiting || m_waiting->path == path)
         Q_EMIT rendered(picture);
     startNext();
 }

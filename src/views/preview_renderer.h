@@ -33,8 +33,9 @@ struct PreviewPicture
     QString caption;
 };
 
-/// Renders previews in a worker thread. Only the newest request counts: one that waits is replaced
-/// by a newer one.
+/// Renders previews in a worker thread, marks that are still to be drawn included. A request that
+/// waits is replaced by a newer one, so that only the newest counts. What was begun is still shown
+/// when the newer request is about the same photo: the preview goes along with a user who types on.
 class PreviewRenderer : public QObject
 {
     Q_OBJECT
@@ -57,7 +58,7 @@ private:
     [[nodiscard]] PreviewPicture renderedPicture(const PreviewRequest& request);
     [[nodiscard]] QImage renderedPhoto(const PreviewRequest& request);
     void startNext();
-    void take(const PreviewPicture& picture);
+    void take(const PreviewPicture& picture, const QString& path);
 
     std::optional<PreviewRequest> m_waiting;
     bool m_running = false;

@@ -84,7 +84,7 @@ DVWatermark::markPhoto(const WatermarkRun& run, const QString& path, const Photo
     const imaging::PictureToSave picture{
         .destination = platform::deletingPathExtension(run.destination + m_outputName),
         .typeIdentifier = typeOf(run.outputType, path),
-        .image = marked(*photo, settings, path),
+        .image = platform::stamped(*photo, markOf(*photo, settings, path)()),
         .properties = properties ? &*properties : nullptr,
         .compressionLevel = run.compressionLevel};
     finishStages(stagesOfDrawing);
@@ -123,14 +123,15 @@ std::optional<platform::Image> DVWatermark::openedForRun(const QString& path, in
     );
 }
 
-platform::Image DVWatermark::marked(
+DVWatermark::MakeMark DVWatermark::markOf(
     const platform::Image& photo, const TextWatermarkSettings& settings, const QString& path
-)
+) const
 {
-    const QString text
-        = replacingPlaceholders(settings.text, placeholderValuesOf(path, m_outputName));
-    const QFont font = platform::fontNamed(settings.fontName);
-    return platform::stamped(photo, textMark(settings, text, font, photo));
+    return [photo, settings, path, outputName = m_outputName] {
+        const QString text
+            = replacingPlaceholders(settings.text, placeholderValuesOf(path, outputName));
+        return textMark(settings, text, platform::fontNamed(settings.fontName), photo);
+    };
 }
 
 std::optional<platform::Image> DVWatermark::setWatermarkTextPreview(const QString& path)
@@ -140,7 +141,7 @@ std::optional<platform::Image> DVWatermark::setWatermarkTextPreview(const QStrin
     std::optional<platform::Image> result;
     if (!settings.text.isEmpty()) {
         if (const auto photo = m_surroundings.previewPhoto(path))
-            result = marked(*photo, settings, path);
+            result = platform::stamped(*photo, markOf(*photo, settings, path));
     }
     m_progress.hStopPB();
     return result;

@@ -6,6 +6,7 @@
 #include <controls/progress.h>
 #include <imaging/result_word.h>
 #include <platform/graphics/image.h>
+#include <platform/graphics/stamp.h>
 
 #include <QString>
 #include <QStringList>
@@ -63,20 +64,22 @@ public:
     QString setWatermarkText(const WatermarkRun& run, const PhotoDone& photoDone);
 
     /// The photo at `path` with its mark; nothing without a text or a readable photo. No file is
-    /// written.
+    /// written, and the mark is not drawn before the first pixel is asked for.
     [[nodiscard]] std::optional<platform::Image> setWatermarkTextPreview(const QString& path);
 
 private:
     enum class Step { GoOn, EndRun };
+    using MakeMark = std::function<platform::Stamp()>;
 
     Step markPhoto(const WatermarkRun& run, const QString& path, const PhotoDone& photoDone);
     Step endRun(const QString& path, const PhotoDone& photoDone);
     void finishStages(int stages);
     [[nodiscard]] std::optional<platform::Image>
     openedForRun(const QString& path, int effect) const;
-    [[nodiscard]] platform::Image marked(
+    /// Makes the mark of a photo from the settings as they are now, on any thread.
+    [[nodiscard]] MakeMark markOf(
         const platform::Image& photo, const TextWatermarkSettings& settings, const QString& path
-    );
+    ) const;
 
     Surroundings m_surroundings;
     controls::Progress m_progress;

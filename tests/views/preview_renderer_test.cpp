@@ -9,6 +9,9 @@
 #include <gtest/gtest.h>
 
 #include <QEventLoop>
+#include <QSemaphore>
+#include <QTest>
+#include <QTimer>
 
 using namespace brenvaldo;
 using platform::Stamp;
@@ -85,6 +88,134 @@ INSTANTIATE_TEST_SUITE_P(
         QPoint(0, 0), QPoint(300, 200), QPoint(620, 410), QPoint(-30, 413), QPoint(900, 900)
     )
 );
+
+namespace {
+
+/// A photo whose stamp waits to be made until it is let go.
+class HeldStamp
+{
+public:
+    explicit HeldStamp(const platform::Image& photo)
+        : m_marked(platform::stamped(photo, [state = m_state] {
+            state->begun.release();
+            state->goOn.acquire();
+            state->thread = QThread::currentThread();
+            return Stamp();
+        }))
+    {
+    }
+
+    [[nodiscard]] const platform::Image& marked() const { return m_marked; }
+    void waitUntilBegun() const { m_state->begun.acquire(); }
+    [[nodiscard]] bool hasBegun() const { return m_state->begun.available() > 0; }
+    void letGo() const { m_state->goOn.release(); }
+    [[nodiscard]] const QThread* thread() const { return m_state->thread; }
+
+private:
+    struct State
+    {
+        QSemaphore begun;
+        QSemaphore goOn;
+        const QThread* thread = nullptr;
+    };
+
+    std::shared_ptr<State> m_state = std::make_shared<State>();
+    platform::Image m_marked;
+};
+
+class BusyPreviewRenderer : public PreviewRenderer
+{
+protected:
+    BusyPreviewRenderer()
+    {
+        QObject::connect(
+            &renderer,
+            &views::PreviewRenderer::rendered,
+            &renderer,
+            [this](const views::PreviewPicture& picture) { shown.append(picture); }
+        );
+    }
+
+    void render(const platform::Image& overlay, const QString& path = u"a.png"_qs)
+    {
+        renderer.render(
+            {.photo = plain, .overlay = overlay, .room = room, .part = std::nullopt, .path = path}
+        );
+    }
+
+    bool finishes()
+    {
+        return QTest::qWaitFor([this] { return !renderer.isBusy(); }, 60000);
+    }
+
+    const platform::Image plain = photo();
+    QList<views::PreviewPicture> shown;
+};
+
+} // namespace
+
+TEST_F(BusyPreviewRenderer, MakesTheMarkOutsideOfTheMainThread)
+{
+    const HeldStamp stamp(plain);
+    render(stamp.marked());
+    stamp.waitUntilBegun();
+
+    bool wasAlive = false;
+    QTimer::singleShot(0, &renderer, [&wasAlive] { wasAlive = true; });
+    EXPECT_TRUE(QTest::qWaitFor([&wasAlive] { return wasAlive; }));
+    EXPECT_TRUE(renderer.isBusy());
+
+    stamp.letGo();
+    EXPECT_TRUE(finishes());
+    EXPECT_NE(stamp.thread(), QThread::currentThread());
+    EXPECT_EQ(shown.size(), 1);
+}
+
+TEST_F(BusyPreviewRenderer, LeavesOutRequestsThatANewerOneReplaces)
+{
+    const HeldStamp first(plain);
+    const HeldStamp replaced(plain);
+    const HeldStamp last(plain);
+    last.letGo();
+    render(first.marked());
+    first.waitUntilBegun();
+
+    render(replaced.marked());
+    render(last.marked());
+    first.letGo();
+
+    EXPECT_TRUE(finishes());
+    EXPECT_FALSE(replaced.hasBegun());
+    EXPECT_TRUE(last.hasBegun());
+}
+
+TEST_F(BusyPreviewRenderer, ShowsWhatIsFinishedWhileTheSamePhotoIsChangedOn)
+{
+    const HeldStamp first(plain);
+    render(first.marked());
+    first.waitUntilBegun();
+
+    render(platform::stamped(plain, stampAt({300, 200})));
+    first.letGo();
+
+    EXPECT_TRUE(finishes());
+    ASSERT_EQ(shown.size(), 2);
+    EXPECT_GT(test::largestDifference(shown.at(0).overlay, shown.at(1).overlay), 0);
+}
+
+TEST_F(BusyPreviewRenderer, DropsAPictureOfThePhotoBefore)
+{
+    const HeldStamp first(plain);
+    render(first.marked(), u"before.png"_qs);
+    first.waitUntilBegun();
+
+    render(platform::stamped(plain, stampAt({300, 200})), u"now.png"_qs);
+    first.letGo();
+
+    EXPECT_TRUE(finishes());
+    ASSERT_EQ(shown.size(), 1);
+    EXPECT_TRUE(shown.first().caption.startsWith(u"now.png"));
+}
 
 TEST_F(PreviewRenderer, DrawsAnotherPhotoAnew)
 {

@@ -195,6 +195,38 @@ TEST_F(TextWatermark, PreviewIsTheWrittenFilePixelByPixel)
     );
 }
 
+TEST_F(TextWatermark, PreviewDrawsTheMarkWhenItIsLookedAt)
+{
+    // The glyphs are filled with the photo, so that drawing them asks for its pixels.
+    panel.pubWatermarkTextEffect.selectItemAtIndex(7);
+    int timesAsked = 0;
+    previewPhoto = [&timesAsked](const QString&) {
+        QImage plain(120, 80, QImage::Format_RGB32);
+        plain.fill(Qt::gray);
+        return platform::stamped(platform::Image::fromQImage(plain), [&timesAsked] {
+            ++timesAsked;
+            return platform::Stamp();
+        });
+    };
+
+    const auto preview = mark.setWatermarkTextPreview(darkPhoto(QStringLiteral("a.jpg")));
+
+    ASSERT_TRUE(preview.has_value());
+    EXPECT_EQ(preview->pixelSize(), (platform::PixelSize{120, 80}));
+    EXPECT_EQ(timesAsked, 0);
+    EXPECT_FALSE(preview->toQImage().isNull());
+    EXPECT_EQ(timesAsked, 1);
+}
+
+TEST_F(TextWatermark, PreviewKeepsTheSettingsOfItsMoment)
+{
+    const auto preview = mark.setWatermarkTextPreview(darkPhoto(QStringLiteral("a.jpg")));
+
+    panel.tvWaterMarkText.setStringValue(QStringLiteral(" "));
+
+    EXPECT_EQ(preview->toQImage().pixel(60, 40), qRgb(255, 255, 255));
+}
+
 TEST_F(TextWatermark, PreviewWithoutATextIsNothing)
 {
     panel.tvWaterMarkText.setStringValue({});

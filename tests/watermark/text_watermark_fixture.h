@@ -53,19 +53,20 @@ protected:
     controls::ProgressIndicator bar{QStringLiteral("bar")};
     QString chainPrefix;
     QList<watermark::MarkedPhoto> done;
+    std::function<std::optional<platform::Image>(const QString&)> previewPhoto
+        = [](const QString& path) -> std::optional<platform::Image> {
+        const auto source = platform::ImageSource::open(path);
+        if (!source)
+            return std::nullopt;
+        return source->uprightImage({.access = platform::ImageSource::Access::Random, .atLeast = {}}
+        );
+    };
     watermark::DVWatermark mark{
         {.panel = panel,
          .bar = bar,
          .outputName
          = [this](const QString& path) { return chainPrefix + platform::lastPathComponent(path); },
-         .previewPhoto = [](const QString& path) -> std::optional<platform::Image> {
-             const auto source = platform::ImageSource::open(path);
-             if (!source)
-                 return std::nullopt;
-             return source->uprightImage(
-                 {.access = platform::ImageSource::Access::Random, .atLeast = {}}
-             );
-         }}};
+         .previewPhoto = [this](const QString& path) { return previewPhoto(path); }}};
 };
 
 } // namespace brenvaldo::test

@@ -32,8 +32,8 @@ void forEachRow(
 /// Pixels that `produce` makes, once, when the first of them is needed; they can be read in any
 /// order.
 ///
-/// `produce` is called on a worker thread and answers pixels in memory of exactly `layout`. It may
-/// throw `vips::VError`: evaluating then fails.
+/// `produce` is called on a worker thread and answers pixels of exactly `layout` that can be read
+/// in any order. It may throw: evaluating then fails.
 [[nodiscard]] vips::VImage
 deferredPixels(const PixelLayout& layout, std::function<vips::VImage()> produce);
 

@@ -5,6 +5,8 @@
 
 #include <vips/vips8>
 
+#include <functional>
+
 namespace brenvaldo::platform {
 
 /// The pixels of an `Image` and what is known about them.
@@ -20,7 +22,7 @@ struct ImageNode
     QByteArray iccProfile = {}; ///< fits the colour model, or is empty
     double dotsPerInch = 72;
     std::shared_ptr<const ImageNode> stampedOn = {}; ///< what a stamp was laid on; may be null
-    PixelRect stampedPart = {}; ///< part that differs from `stampedOn`
+    std::function<PixelRect()> stampedPart = {}; ///< part that differs from `stampedOn`; may throw
 
     /// The same picture with other pixels of the same kind.
     [[nodiscard]] ImageNode withPixels(const vips::VImage& other) const
@@ -28,6 +30,7 @@ struct ImageNode
         ImageNode node = *this;
         node.pixels = other;
         node.stampedOn = nullptr;
+        node.stampedPart = nullptr;
         return node;
     }
 };

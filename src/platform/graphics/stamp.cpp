@@ -2,12 +2,16 @@
 #include "stamp.h"
 
 #include "color_profile.h"
+#include "deferred_pixels.h"
 #include "image_node.h"
 #include "region_kernel.h"
+
+#include <platform/foundation/log.h>
 
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <mutex>
 
 namespace brenvaldo::platform {
 
@@ -152,14 +156,70 @@ vips::VImage mapped(const ImageNode& photo, const vips::VImage& layer, const Sta
     return mapRows(std::array{photo.pixels}, output, StampRows<Sample>(layer, stamp, photo));
 }
 
-PixelRect coveredPart(const Image& photo, const Stamp& stamp)
+PixelRect coveredPart(const ImageNode& photo, const Stamp& stamp)
 {
-    const QRect all(0, 0, photo.width(), photo.height());
+    if (stamp.layer.isNull())
+        return {};
+    const QRect all(0, 0, photo.pixels.width(), photo.pixels.height());
     const QRect covered = stamp.repeat == Stamp::Repeat::Tiled
         ? all
         : all.intersected(QRect(stamp.topLeft, stamp.layer.size()));
     return {
         .x = covered.x(), .y = covered.y(), .width = covered.width(), .height = covered.height()};
+}
+
+/// A photo with a stamp on it.
+struct StampedPhoto
+{
+    vips::VImage pixels;
+    PixelRect part; ///< that differs from the photo
+};
+
+StampedPhoto laidOver(const ImageNode& photo, const Stamp& stamp)
+{
+    if (stamp.layer.isNull())
+        return {.pixels = photo.pixels, .part = {}};
+    const vips::VImage layer = layerInColorsOf(stamp.layer, photo);
+    return {
+        .pixels = photo.pixels.format() == VIPS_FORMAT_USHORT ? mapped<quint16>(photo, layer, stamp)
+                                                              : mapped<quint8>(photo, layer, stamp),
+        .part = coveredPart(photo, stamp)};
+}
+
+/// A photo that gets its stamp when it is first needed.
+class PhotoToStamp
+{
+public:
+    PhotoToStamp(std::shared_ptr<const ImageNode> photo, std::function<Stamp()> makeStamp)
+        : m_photo(std::move(photo))
+        , m_makeStamp(std::move(makeStamp))
+    {
+    }
+
+    const StampedPhoto& stamped()
+    {
+        std::call_once(m_once, [this] {
+            m_stamped = laidOver(*m_photo, m_makeStamp());
+            m_makeStamp = nullptr;
+        });
+        return m_stamped;
+    }
+
+private:
+    std::shared_ptr<const ImageNode> m_photo;
+    std::function<Stamp()> m_makeStamp;
+    std::once_flag m_once;
+    StampedPhoto m_stamped;
+};
+
+Image markedImage(
+    const Image& photo, const vips::VImage& pixels, std::function<PixelRect()> stampedPart
+)
+{
+    ImageNode marked = photo.node()->withPixels(pixels);
+    marked.stampedOn = photo.node();
+    marked.stampedPart = std::move(stampedPart);
+    return makeImage(std::move(marked));
 }
 
 } // namespace
@@ -168,21 +228,31 @@ Image stamped(const Image& photo, const Stamp& stamp)
 {
     if (stamp.layer.isNull())
         return photo;
-    const ImageNode& node = *photo.node();
-    const vips::VImage layer = layerInColorsOf(stamp.layer, node);
-    ImageNode marked = node.withPixels(
-        node.pixels.format() == VIPS_FORMAT_USHORT ? mapped<quint16>(node, layer, stamp)
-                                                   : mapped<quint8>(node, layer, stamp)
-    );
-    marked.stampedOn = photo.node();
-    marked.stampedPart = coveredPart(photo, stamp);
-    return makeImage(std::move(marked));
+    const StampedPhoto marked = laidOver(*photo.node(), stamp);
+    return markedImage(photo, marked.pixels, [part = marked.part] { return part; });
+}
+
+Image stamped(const Image& photo, std::function<Stamp()> makeStamp)
+{
+    Q_ASSERT(!isSequential(photo.node()->pixels));
+    const auto marked = std::make_shared<PhotoToStamp>(photo.node(), std::move(makeStamp));
+    const auto pixels = deferredPixels(layoutOf(photo.node()->pixels), [marked] {
+        return marked->stamped().pixels;
+    });
+    return markedImage(photo, pixels, [marked] { return marked->stamped().part; });
 }
 
 std::optional<PixelRect> stampedPart(const Image& marked, const Image& photo)
 {
     const ImageNode& node = *marked.node();
-    return node.stampedOn == photo.node() ? std::optional(node.stampedPart) : std::nullopt;
+    if (node.stampedOn != photo.node())
+        return std::nullopt;
+    try {
+        return node.stampedPart();
+    } catch (const std::exception& error) {
+        log(QStringLiteral("Failed to mark a photo: ") + QString::fromUtf8(error.what()));
+        return std::nullopt;
+    }
 }
 
 } // namespace brenvaldo::platform

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPoint>
 
+#include <functional>
 #include <optional>
 
 namespace brenvaldo::platform {
@@ -29,7 +30,13 @@ struct Stamp
 /// are computed, the others are copied; tiles are found by arithmetic.
 [[nodiscard]] Image stamped(const Image& photo, const Stamp& stamp);
 
-/// The part outside of which `marked` is `photo`; nothing when it is not `photo` with a stamp.
+/// The same with a stamp that `makeStamp` makes: once, and not before the first pixel or
+/// `stampedPart` is asked for, on the thread that asks. `photo` must bear being evaluated more than
+/// once.
+[[nodiscard]] Image stamped(const Image& photo, std::function<Stamp()> makeStamp);
+
+/// The part outside of which `marked` is `photo`; nothing when it is not `photo` with a stamp, or
+/// when its stamp can't be made.
 [[nodiscard]] std::optional<PixelRect> stampedPart(const Image& marked, const Image& photo);
 
 } // namespace brenvaldo::platform
