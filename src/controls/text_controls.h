@@ -16,6 +16,10 @@ public:
     [[nodiscard]] const QString& stringValue() const { return m_text; }
     void setStringValue(const QString& text);
 
+    /// Actions sent, in this order, at each change while the user types: "class.action".
+    [[nodiscard]] const QStringList& typingActions() const { return m_typingActions; }
+    void addTypingAction(const QString& action) { m_typingActions.append(action); }
+
     [[nodiscard]] std::int32_t intValue() const;
     [[nodiscard]] std::int64_t integerValue() const;
     [[nodiscard]] float floatValue() const;
@@ -23,6 +27,7 @@ public:
 
 private:
     QString m_text;
+    QStringList m_typingActions;
 };
 
 /// A text of one line.

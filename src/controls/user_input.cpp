@@ -8,9 +8,17 @@ UserInput::UserInput(const ActionRegistry& actions)
 {
 }
 
+void UserInput::typeOn(TextControl& field, const QString& text) const
+{
+    if (field.stringValue() == text)
+        return;
+    field.setStringValue(text);
+    send(field.typingActions(), field);
+}
+
 void UserInput::type(TextControl& field, const QString& text) const
 {
-    field.setStringValue(text);
+    typeOn(field, text);
     sendActions(field);
 }
 
@@ -52,9 +60,11 @@ void UserInput::select(TableView& table, int row) const
 
 void UserInput::press(const Button& button) const { sendActions(button); }
 
-void UserInput::sendActions(const Control& control) const
+void UserInput::sendActions(const Control& control) const { send(control.actions(), control); }
+
+void UserInput::send(const QStringList& actions, const Control& control) const
 {
-    for (const QString& action : control.actions())
+    for (const QString& action : actions)
         m_actions.send(action, {.tag = control.tag(), .control = &control});
 }
 

@@ -17,6 +17,9 @@ class UserInput
 public:
     explicit UserInput(const ActionRegistry& actions);
 
+    /// Types on until the field holds `text`, without leaving it; nothing is sent when it does
+    /// already.
+    void typeOn(TextControl& field, const QString& text) const;
     /// Types `text` and leaves the field.
     void type(TextControl& field, const QString& text) const;
     void tick(CheckBox& box, int state) const;
@@ -29,6 +32,7 @@ public:
 
 private:
     void sendActions(const Control& control) const;
+    void send(const QStringList& actions, const Control& control) const;
 
     const ActionRegistry& m_actions;
 };

@@ -157,6 +157,7 @@ void TextWatermarkControls::giveTags()
 
 void TextWatermarkControls::giveActions()
 {
+    tvWaterMarkText.addTypingAction(QStringLiteral("DVWatermark.textDidChange"));
     pubPhotoProperties.addAction(QStringLiteral("DVWatermark.hInsertPhotoProperty"));
     pubFileNamePhotoProperties.addAction(QStringLiteral("cGUIcontrols.hInsertPhotoProperty"));
     scTxtAlign.addAction(QStringLiteral("DVWatermark.hTextAlignment"));

@@ -127,9 +127,9 @@ void Binder::bind(UnitField& widget, controls::TextControl& control) const
         if (!widget.hasFocus())
             widget.setCursorPosition(0);
     });
-    QObject::connect(&widget, &QLineEdit::textEdited, &widget, [&widget, &control] {
+    QObject::connect(&widget, &QLineEdit::textEdited, &widget, [this, &widget, &control] {
         widget.setModified(true);
-        control.setStringValue(widget.text());
+        m_input.typeOn(control, widget.text());
     });
     QObject::connect(&widget, &QLineEdit::editingFinished, &widget, [this, &widget, &control] {
         if (!widget.isModified())
@@ -150,10 +150,11 @@ void Binder::bind(QPlainTextEdit& widget, controls::TextView& control) const
     auto* watcher = new LeaveWatcher(widget, [this, &widget, &control] {
         m_input.type(control, widget.toPlainText());
     });
-    QObject::connect(&widget, &QPlainTextEdit::textChanged, watcher, [&widget, &control, watcher] {
+    const auto edited = [this, &widget, &control, watcher] {
         watcher->setEdited();
-        control.setStringValue(widget.toPlainText());
-    });
+        m_input.typeOn(control, widget.toPlainText());
+    };
+    QObject::connect(&widget, &QPlainTextEdit::textChanged, watcher, edited);
 }
 
 void Binder::bind(QCheckBox& widget, controls::CheckBox& control) const

@@ -133,6 +133,7 @@ struct PanelAction
 };
 
 constexpr std::array panelActions{
+    PanelAction{u"textDidChange", changesNothing, u"cbTextEntred"},
     PanelAction{u"hInsertPhotoProperty", insertsPhotoProperty, u"cbTextWatermarkMetaDataEntred"},
     PanelAction{u"hChooseWatermarkFilterType", followsFilterType, u"pubWatermarkFilterTypeEntred"},
     PanelAction{u"hCheckFadeOutBox", followsFadeOut, u"cbCheckFadeOutBoxEntred"},

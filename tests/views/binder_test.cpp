@@ -115,6 +115,28 @@ TEST_F(Binder, ShowsWhatCodeGivesAControlAndSendsNothing)
     EXPECT_FALSE(field->isVisible());
 }
 
+TEST_F(Binder, SendsTheTypingActionAtEachKey)
+{
+    controls::TextView control(u"tvText"_qs);
+    control.addTypingAction(u"test.typed"_qs);
+    QStringList typed;
+    sent.registry.add(u"test"_qs, u"typed"_qs, [&](const controls::Sender&) {
+        typed.append(control.stringValue());
+    });
+    auto* text = new views::TextArea(&window);
+    binder.bind(*text, control);
+    show(text);
+
+    QTest::keyClicks(text, u"ab"_qs);
+    QTest::keyClick(text, Qt::Key_Left);
+    QTest::keyClick(text, Qt::Key_Return);
+    QTest::keyClick(text, Qt::Key_Backspace);
+    other->setFocus();
+    control.setStringValue(u"by code"_qs);
+
+    EXPECT_EQ(typed, (QStringList{u"a"_qs, u"ab"_qs, u"a\nb"_qs, u"ab"_qs}));
+}
+
 TEST_F(Binder, SendsTheActionOfATextViewWhenItIsLeftAfterAnEdit)
 {
     controls::TextView control(u"tvText"_qs);

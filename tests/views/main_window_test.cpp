@@ -449,6 +449,30 @@ TEST_F(MainWindow, LeavesTheWatermarkTextForTheFontSizeByTab)
     EXPECT_EQ(window->focusWidget(), find(u"tfFontSize"_qs));
 }
 
+TEST_F(MainWindow, ShowsEachTypedCharacterInThePreview)
+{
+    workspace.openFiles(makePhotos(1));
+    QTest::mouseClick(find(u"cbShowPreview"_qs), Qt::LeftButton);
+    controls::ImageView& overlay = workspace.panels().window.myTemplateOverlayPreview;
+    auto* text = find(u"tvWaterMarkText"_qs);
+    text->setFocus();
+    QList<QImage> shown;
+    const auto afterKey = [&](const QString& key) {
+        QTest::keyClicks(text, key);
+        shown.append(overlay.image() ? overlay.image()->toQImage() : QImage());
+    };
+    ASSERT_FALSE(overlay.image().has_value());
+
+    afterKey(u"I"_qs);
+    afterKey(u"M"_qs);
+    QTest::keyClick(text, Qt::Key_Backspace);
+    QTest::keyClick(text, Qt::Key_Backspace);
+
+    ASSERT_FALSE(shown.first().isNull());
+    EXPECT_NE(shown.first(), shown.last());
+    EXPECT_FALSE(overlay.image().has_value());
+}
+
 TEST_F(MainWindow, HasNoMnemonicTwiceInAMenu)
 {
     for (QMenu* menu : window->menuBar()->findChildren<QMenu*>()) {

@@ -62,6 +62,7 @@ INSTANTIATE_TEST_SUITE_P(
     Table,
     WatermarkNotification,
     testing::Values(
+        PostedCase{"textDidChange", "cbTextEntred"},
         PostedCase{"hInsertPhotoProperty", "cbTextWatermarkMetaDataEntred"},
         PostedCase{"hChooseWatermarkFilterType", "pubWatermarkFilterTypeEntred"},
         PostedCase{"hCheckFadeOutBox", "cbCheckFadeOutBoxEntred"},
