@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "relief_texture.h"
 
+#include <platform/foundation/memo.h>
 #include <platform/graphics/color.h>
 
 #include <QHash>
@@ -122,9 +123,7 @@ QRgb shadeOf(const Material& material, const Vector& normal)
     );
 }
 
-} // namespace
-
-QImage reliefTexture(const QString& name)
+QImage drawnTexture(const QString& name)
 {
     const auto material = materials().find(name);
     if (material == materials().end())
@@ -141,6 +140,14 @@ QImage reliefTexture(const QString& name)
         }
     }
     return ball;
+}
+
+} // namespace
+
+QImage reliefTexture(const QString& name)
+{
+    static platform::Memo<QString, QImage> textures;
+    return textures.value(name, drawnTexture);
 }
 
 } // namespace brenvaldo::imaging

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dv_watermark.h"
 
+#include "kept_properties.h"
 #include "placeholder_values.h"
 #include "text_mark.h"
 
@@ -48,6 +49,7 @@ bool fillsWithPhoto(int effect)
 DVWatermark::DVWatermark(Surroundings surroundings)
     : m_surroundings(std::move(surroundings))
     , m_progress(m_surroundings.bar, controls::watermarkBar)
+    , m_properties(std::make_shared<KeptProperties>())
 {
 }
 
@@ -127,9 +129,9 @@ DVWatermark::MakeMark DVWatermark::markOf(
     const platform::Image& photo, const TextWatermarkSettings& settings, const QString& path
 ) const
 {
-    return [photo, settings, path, outputName = m_outputName] {
-        const QString text
-            = replacingPlaceholders(settings.text, placeholderValuesOf(path, outputName));
+    return [photo, settings, path, outputName = m_outputName, properties = m_properties] {
+        const auto values = placeholderValuesOf(path, outputName, properties);
+        const QString text = replacingPlaceholders(settings.text, values);
         return textMark(settings, text, platform::fontNamed(settings.fontName), photo);
     };
 }

@@ -12,6 +12,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace brenvaldo::panels {
@@ -19,6 +20,8 @@ struct WatermarkPanel;
 }
 
 namespace brenvaldo::watermark {
+
+class KeptProperties;
 
 /// What the batch driver gives to a watermark run.
 struct WatermarkRun
@@ -83,6 +86,7 @@ private:
 
     Surroundings m_surroundings;
     controls::Progress m_progress;
+    std::shared_ptr<KeptProperties> m_properties; ///< shared with marks that are still to be drawn
     double m_step = 0;
     QString m_outputName;
     imaging::ResultWord m_storeResult = imaging::ResultWord::Failed;

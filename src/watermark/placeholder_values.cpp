@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "placeholder_values.h"
 
-#include <platform/metadata/image_properties.h>
+#include "kept_properties.h"
 
-#include <memory>
+#include <platform/metadata/image_properties.h>
 
 namespace brenvaldo::watermark {
 
@@ -62,19 +62,19 @@ std::optional<QString> textOf(const PropertyValue& value, Placeholder::Form form
 
 } // namespace
 
-PlaceholderValue placeholderValuesOf(const QString& path, const QString& outputName)
+PlaceholderValue placeholderValuesOf(
+    const QString& path, const QString& outputName, std::shared_ptr<KeptProperties> properties
+)
 {
-    const auto properties = std::make_shared<std::optional<PropertyDictionary>>();
-    return
-        [path, outputName, properties](const Placeholder& placeholder) -> std::optional<QString> {
-            if (placeholder.source == Placeholder::Source::OutputName)
-                return outputName;
-            if (!*properties)
-                *properties = platform::imageProperties(path).value_or(PropertyDictionary());
-            const PropertyDictionary* dictionary = dictionaryOf(**properties, placeholder.source);
-            const PropertyValue* value = dictionary ? dictionary->value(placeholder.key) : nullptr;
-            return value ? textOf(*value, placeholder.form) : std::nullopt;
-        };
+    return [path, outputName, properties = std::move(properties)](const Placeholder& placeholder
+           ) -> std::optional<QString> {
+        if (placeholder.source == Placeholder::Source::OutputName)
+            return outputName;
+        const auto top = properties->of(path);
+        const PropertyDictionary* dictionary = dictionaryOf(*top, placeholder.source);
+        const PropertyValue* value = dictionary ? dictionary->value(placeholder.key) : nullptr;
+        return value ? textOf(*value, placeholder.form) : std::nullopt;
+    };
 }
 
 } // namespace brenvaldo::watermark

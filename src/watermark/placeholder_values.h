@@ -3,9 +3,16 @@
 
 #include "placeholders.h"
 
+#include <memory>
+
 namespace brenvaldo::watermark {
 
-/// The values of the photo at `path`; its metadata is read when the first of them is asked for.
-[[nodiscard]] PlaceholderValue placeholderValuesOf(const QString& path, const QString& outputName);
+class KeptProperties;
+
+/// The values of the photo at `path`, whose metadata is taken from `properties` when the first of
+/// them is asked for.
+[[nodiscard]] PlaceholderValue placeholderValuesOf(
+    const QString& path, const QString& outputName, std::shared_ptr<KeptProperties> properties
+);
 
 } // namespace brenvaldo::watermark

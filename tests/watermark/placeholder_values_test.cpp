@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <watermark/placeholder_values.h>
 
+#include <watermark/kept_properties.h>
+
 #include <support/case_name.h>
 #include <support/color_profiles.h>
 #include <support/exif_block.h>
@@ -23,12 +25,17 @@ PhotoBuilder photoWithIptc(const QByteArray& dataSets)
     return PhotoBuilder{}.jpegSegment('\xED', iptcSegmentContents(dataSets));
 }
 
+PlaceholderValue valuesOf(const QString& path)
+{
+    return placeholderValuesOf(path, u"new.jpg"_qs, std::make_shared<KeptProperties>());
+}
+
 /// `typed` with the tokens replaced by the values of the photo.
 QString shown(const QString& typed, const PhotoBuilder& photo)
 {
     const TemporaryFolder folder;
     const QString path = photo.write(folder.path(QStringLiteral("photo")));
-    return replacingPlaceholders(typed, placeholderValuesOf(path, QStringLiteral("new.jpg")));
+    return replacingPlaceholders(typed, valuesOf(path));
 }
 
 struct ValueCase
@@ -160,7 +167,7 @@ TEST(PlaceholderOfAPhoto, OfTheResolutionVanishesWhenTheFileStatesNone)
 
 TEST(PlaceholderOfAPhoto, VanishesForAFileThatCannotBeRead)
 {
-    const auto values = placeholderValuesOf(u"/no/such/photo.jpg"_qs, u"new.jpg"_qs);
+    const auto values = valuesOf(u"/no/such/photo.jpg"_qs);
 
     EXPECT_EQ(replacingPlaceholders(u"(<[IMGW]><[IMGCD]>)"_qs, values), u"()"_qs);
 }

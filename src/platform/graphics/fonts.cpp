@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fonts.h"
 
+#include <platform/foundation/memo.h>
+
 #include <QFontDatabase>
 
 namespace brenvaldo::platform {
 
 namespace {
+
+constexpr int anySize = 12;
 
 bool isPlainStyle(const QString& style)
 {
@@ -20,6 +24,19 @@ bool isPlainStyle(const QString& style)
 QString faceName(const QString& family, const QString& style)
 {
     return isPlainStyle(style) ? family : family + QLatin1Char(' ') + style;
+}
+
+QFont lookedUpFont(const QString& name)
+{
+    for (const QString& family : QFontDatabase::families()) {
+        if (!name.startsWith(family))
+            continue;
+        for (const QString& style : QFontDatabase::styles(family)) {
+            if (faceName(family, style) == name)
+                return QFontDatabase::font(family, style, anySize);
+        }
+    }
+    return QFont(name);
 }
 
 } // namespace
@@ -39,16 +56,11 @@ QStringList installedFontNames()
 
 QFont fontNamed(const QString& name)
 {
-    constexpr int anySize = 12;
-    for (const QString& family : QFontDatabase::families()) {
-        if (!name.startsWith(family))
-            continue;
-        for (const QString& style : QFontDatabase::styles(family)) {
-            if (faceName(family, style) == name)
-                return QFontDatabase::font(family, style, anySize);
-        }
-    }
-    return QFont(name);
+    static Memo<QString, QFont> fonts;
+    QFont font = fonts.value(name, lookedUpFont);
+    // Makes a copy that shares nothing: what a font loads belongs to one thread.
+    font.setPointSize(anySize);
+    return font;
 }
 
 QFont boldFaceOf(const QFont& font)
