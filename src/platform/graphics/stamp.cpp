@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "stamp.h"
 
-#include "color_profile.h"
 #include "deferred_pixels.h"
 #include "image_node.h"
 #include "region_kernel.h"
+#include "stamp_layer.h"
 
 #include <platform/foundation/log.h>
 
 #include <algorithm>
-#include <cstring>
-#include <limits>
 #include <mutex>
 
 namespace brenvaldo::platform {
@@ -19,141 +17,70 @@ namespace {
 
 int floorModulo(int value, int size) { return ((value % size) + size) % size; }
 
-/// (a * weight + b * (full - weight)) / full, rounded; exact in 32 bits for 8 and 16-bit samples.
-template <class Sample>
-Sample mixed(Sample a, Sample b, Sample weight)
-{
-    constexpr std::uint32_t full = std::numeric_limits<Sample>::max();
-    const std::uint32_t sum = std::uint32_t{a} * weight + std::uint32_t{b} * (full - weight);
-    return static_cast<Sample>((sum + full / 2) / full);
-}
-
-/// Lays one layer pixel over one opaque photo pixel.
-template <class Sample>
-void layOverOpaque(Sample* photo, const Sample* layer, int colors)
-{
-    const Sample alpha = layer[colors];
-    for (int band = 0; band < colors; ++band)
-        photo[band] = mixed(layer[band], photo[band], alpha);
-}
-
-/// Lays one layer pixel over one photo pixel with straight alpha.
-template <class Sample>
-void layOverTranslucent(Sample* photo, const Sample* layer, int colors)
-{
-    constexpr double full = std::numeric_limits<Sample>::max();
-    const double above = layer[colors] / full;
-    const double below = photo[colors] / full * (1 - above);
-    const double alpha = above + below;
-    if (alpha <= 0)
-        return;
-    for (int band = 0; band < colors; ++band)
-        photo[band]
-            = static_cast<Sample>((layer[band] * above + photo[band] * below) / alpha + 0.5);
-    photo[colors] = static_cast<Sample>(alpha * full + 0.5);
-}
-
-/// The rows of a stamp, in the colours and depth of the photo.
+/// Lays a stamp over the rows of a photo.
 template <class Sample>
 class StampRows
 {
 public:
-    StampRows(vips::VImage layer, const Stamp& stamp, const ImageNode& photo)
-        : m_layer(std::move(layer))
-        , m_width(m_layer.width())
-        , m_height(m_layer.height())
+    StampRows(const Stamp& stamp, const ImageNode& photo)
+        : m_layer(std::make_shared<const StampLayer<Sample>>(stamp.layer, photo))
         , m_topLeft(stamp.topLeft)
         , m_repeat(stamp.repeat)
-        , m_colors(colorBands(photo.colorModel))
-        , m_photoHasAlpha(photo.hasAlpha)
-        , m_samples(static_cast<const Sample*>(m_layer.data()))
+        , m_bands(photo.pixels.bands())
     {
     }
 
     void operator()(const KernelRow<1>& row) const
     {
-        const int photoBands = m_colors + (m_photoHasAlpha ? 1 : 0);
         auto* photo = row.template out<Sample>();
-        std::memcpy(
-            photo,
-            row.inputs[0],
-            static_cast<std::size_t>(row.count) * static_cast<std::size_t>(photoBands)
-                * sizeof(Sample)
-        );
-        int layerY = row.y - m_topLeft.y();
+        std::copy_n(row.template input<Sample>(0), qsizetype{row.count} * m_bands, photo);
+        const int layerY = row.y - m_topLeft.y();
         if (m_repeat == Stamp::Repeat::Tiled)
-            layerY = floorModulo(layerY, m_height);
-        if (layerY < 0 || layerY >= m_height)
-            return;
-        const Sample* layer = m_samples + std::size_t(layerY) * std::size_t(m_width) * layerBands();
-        if (m_repeat == Stamp::Repeat::Tiled)
-            layTiles(photo, layer, row.x, row.count);
-        else
-            layOnce(photo, layer, row.x, row.count);
+            layTiles(photo, floorModulo(layerY, m_layer->height()), row.x, row.count);
+        else if (layerY >= 0 && layerY < m_layer->height())
+            layOnce(photo, layerY, row.x, row.count);
     }
 
 private:
-    [[nodiscard]] std::size_t layerBands() const { return static_cast<std::size_t>(m_colors) + 1; }
-
-    void layOnce(Sample* photo, const Sample* layer, int x, int count) const
+    void layOnce(Sample* photo, int layerY, int x, int count) const
     {
         const int begin = std::max(x, m_topLeft.x());
-        const int end = std::min(x + count, m_topLeft.x() + m_width);
+        const int end = std::min(x + count, m_topLeft.x() + m_layer->width());
         if (begin < end)
-            layRun(photo, begin - x, layer, begin - m_topLeft.x(), end - begin);
+            layRun(photo, begin - x, begin - m_topLeft.x(), layerY, end - begin);
     }
 
-    void layTiles(Sample* photo, const Sample* layer, int x, int count) const
+    void layTiles(Sample* photo, int layerY, int x, int count) const
     {
-        int column = floorModulo(x - m_topLeft.x(), m_width);
+        int column = floorModulo(x - m_topLeft.x(), m_layer->width());
         for (int done = 0; done < count;) {
-            const int run = std::min(count - done, m_width - column);
-            layRun(photo, done, layer, column, run);
+            const int run = std::min(count - done, m_layer->width() - column);
+            layRun(photo, done, column, layerY, run);
             done += run;
             column = 0;
         }
     }
 
-    void layRun(Sample* photo, int photoX, const Sample* layer, int layerX, int count) const
+    void layRun(Sample* photo, int photoX, int layerX, int layerY, int count) const
     {
-        const int photoBands = m_colors + (m_photoHasAlpha ? 1 : 0);
-        photo += static_cast<std::ptrdiff_t>(photoX) * photoBands;
-        layer += static_cast<std::ptrdiff_t>(layerX) * (m_colors + 1);
-        for (int i = 0; i < count; ++i, photo += photoBands, layer += m_colors + 1) {
-            if (layer[m_colors] == 0)
-                continue;
-            if (m_photoHasAlpha)
-                layOverTranslucent(photo, layer, m_colors);
-            else
-                layOverOpaque(photo, layer, m_colors);
-        }
+        m_layer->layOver(photo + qsizetype{photoX} * m_bands, layerX, layerY, count);
     }
 
-    vips::VImage m_layer;
-    int m_width;
-    int m_height;
+    std::shared_ptr<const StampLayer<Sample>> m_layer;
     QPoint m_topLeft;
     Stamp::Repeat m_repeat;
-    int m_colors;
-    bool m_photoHasAlpha;
-    const Sample* m_samples;
+    int m_bands;
 };
 
-vips::VImage layerInColorsOf(const QImage& layer, const ImageNode& photo)
-{
-    const Image straight = Image::fromQImage(layer.convertToFormat(QImage::Format_RGBA8888));
-    return srgbLayerInColorsOf(straight.node()->pixels, photo).copy_memory();
-}
-
 template <class Sample>
-vips::VImage mapped(const ImageNode& photo, const vips::VImage& layer, const Stamp& stamp)
+vips::VImage mapped(const ImageNode& photo, const Stamp& stamp)
 {
     const KernelOutput output = {
         .bands = photo.pixels.bands(),
         .format = photo.pixels.format(),
         .interpretation = photo.pixels.interpretation(),
     };
-    return mapRows(std::array{photo.pixels}, output, StampRows<Sample>(layer, stamp, photo));
+    return mapRows(std::array{photo.pixels}, output, StampRows<Sample>(stamp, photo));
 }
 
 PixelRect coveredPart(const ImageNode& photo, const Stamp& stamp)
@@ -179,10 +106,9 @@ StampedPhoto laidOver(const ImageNode& photo, const Stamp& stamp)
 {
     if (stamp.layer.isNull())
         return {.pixels = photo.pixels, .part = {}};
-    const vips::VImage layer = layerInColorsOf(stamp.layer, photo);
+    const bool isDeep = photo.pixels.format() == VIPS_FORMAT_USHORT;
     return {
-        .pixels = photo.pixels.format() == VIPS_FORMAT_USHORT ? mapped<quint16>(photo, layer, stamp)
-                                                              : mapped<quint8>(photo, layer, stamp),
+        .pixels = isDeep ? mapped<quint16>(photo, stamp) : mapped<quint8>(photo, stamp),
         .part = coveredPart(photo, stamp)};
 }
 
@@ -242,13 +168,17 @@ Image stamped(const Image& photo, std::function<Stamp()> makeStamp)
     return markedImage(photo, pixels, [marked] { return marked->stamped().part; });
 }
 
+bool isStamped(const Image& marked, const Image& photo)
+{
+    return marked.node()->stampedOn == photo.node();
+}
+
 std::optional<PixelRect> stampedPart(const Image& marked, const Image& photo)
 {
-    const ImageNode& node = *marked.node();
-    if (node.stampedOn != photo.node())
+    if (!isStamped(marked, photo))
         return std::nullopt;
     try {
-        return node.stampedPart();
+        return marked.node()->stampedPart();
     } catch (const std::exception& error) {
         log(QStringLiteral("Failed to mark a photo: ") + QString::fromUtf8(error.what()));
         return std::nullopt;

@@ -35,6 +35,9 @@ struct Stamp
 /// once.
 [[nodiscard]] Image stamped(const Image& photo, std::function<Stamp()> makeStamp);
 
+/// True when `marked` is `photo` with a stamp on it.
+[[nodiscard]] bool isStamped(const Image& marked, const Image& photo);
+
 /// The part outside of which `marked` is `photo`; nothing when it is not `photo` with a stamp, or
 /// when its stamp can't be made.
 [[nodiscard]] std::optional<PixelRect> stampedPart(const Image& marked, const Image& photo);

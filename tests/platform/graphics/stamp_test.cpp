@@ -114,3 +114,61 @@ TEST(StampToBeMade, ThatFailsGivesNoPicture)
     EXPECT_TRUE(marked.toQImage().isNull());
     EXPECT_TRUE(log.lines().first().contains(u"no memory for the layer"_qs));
 }
+
+TEST(Stamp, LaysEachSampleOverByItsOpacity)
+{
+    const platform::Image plain = photo();
+    const QImage before = plain.toQImage();
+    const QImage layer = fadingLayer(80, 40);
+
+    const QImage marked
+        = platform::stamped(plain, Stamp{.layer = layer, .topLeft = {3, 5}}).toQImage();
+
+    const auto laidOver = [](int above, int below, int alpha) {
+        return (above * alpha + below * (255 - alpha) + 127) / 255;
+    };
+    for (int y = 0; y < layer.height(); ++y) {
+        for (int x = 0; x < layer.width(); ++x) {
+            const QRgb above = layer.pixel(x, y);
+            const QRgb below = before.pixel(x + 3, y + 5);
+            const QRgb expected = qRgb(
+                laidOver(qRed(above), qRed(below), qAlpha(above)),
+                laidOver(qGreen(above), qGreen(below), qAlpha(above)),
+                laidOver(qBlue(above), qBlue(below), qAlpha(above))
+            );
+            ASSERT_EQ(marked.pixel(x + 3, y + 5), expected) << x << ", " << y;
+        }
+    }
+}
+
+TEST(Stamp, TilesThePhotoFromItsCornerOn)
+{
+    const platform::Image plain = photo();
+    const QImage layer = fadingLayer(31, 17);
+
+    const QImage tiled
+        = platform::stamped(
+              plain, {.layer = layer, .topLeft = {-8, 40}, .repeat = Stamp::Repeat::Tiled}
+        )
+              .toQImage();
+
+    // Every copy alone, each on what the others have left.
+    platform::Image copies = plain;
+    for (int y = 40 - 3 * 17; y < plain.height(); y += 17) {
+        for (int x = -8; x < plain.width(); x += 31)
+            copies = platform::stamped(copies, Stamp{.layer = layer, .topLeft = {x, y}});
+    }
+    EXPECT_EQ(test::largestDifference(tiled, copies.toQImage()), 0);
+}
+
+TEST(Stamp, MakesTransparentPixelsAsOpaqueAsItself)
+{
+    QImage clear(90, 60, QImage::Format_RGBA8888);
+    clear.fill(QColor(10, 20, 30, 0));
+
+    const QImage marked = platform::stamped(platform::Image::fromQImage(clear), once()).toQImage();
+
+    const QRgb expected = fadingLayer(31, 17).pixel(15, 8);
+    EXPECT_EQ(qUnpremultiply(marked.pixel(35, 18)), qUnpremultiply(qPremultiply(expected)));
+    EXPECT_EQ(qAlpha(marked.pixel(19, 18)), 0);
+}
