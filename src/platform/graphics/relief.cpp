@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "relief.h"
 
+#include "blurred_plane.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <limits>
+#include <cstdint>
 
 namespace brenvaldo::platform {
 
 namespace {
-
-constexpr float farAway = 1e20F;
 
 std::size_t indexOf(const HeightField& field, int x, int y)
 {
@@ -29,6 +29,8 @@ HeightField maskOf(const QImage& layer)
     for (int y = 0; y < mask.height; ++y) {
         const auto* pixels = reinterpret_cast<const QRgb*>(layer.constScanLine(y));
         for (int x = 0; x < mask.width; ++x) {
+            if (pixels[x] == 0)
+                continue;
             const double luminance
                 = 0.2126 * qRed(pixels[x]) + 0.7152 * qGreen(pixels[x]) + 0.0722 * qBlue(pixels[x]);
             mask.heights[indexOf(mask, x, y)] = static_cast<float>(luminance / 255);
@@ -37,101 +39,75 @@ HeightField maskOf(const QImage& layer)
     return mask;
 }
 
-/// Squared distances to the nearest sample of value 0, along one line: the lower envelope of
-/// parabolas (Felzenszwalb and Huttenlocher, "Distance Transforms of Sampled Functions", 2012).
-class LineDistance
+/// Squared distance of each pixel centre of the part to the nearest centre outside of it; those
+/// beyond `reach` count as `reach`.
+class EdgeDistance
 {
 public:
-    explicit LineDistance(int longest)
-        : m_vertex(static_cast<std::size_t>(longest))
-        , m_border(static_cast<std::size_t>(longest) + 1)
-        , m_result(static_cast<std::size_t>(longest))
+    EdgeDistance(const HeightField& mask, int reach)
+        : m_width(mask.width)
+        , m_height(mask.height)
+        , m_reach(reach)
+        , m_alongRows(mask.heights.size())
     {
+        for (int y = 0; y < m_height; ++y)
+            measureAlong(&mask.heights[indexOf(mask, 0, y)], rowAt(y));
     }
 
-    const std::vector<float>& transform(const std::vector<float>& line)
+    /// Calls `take(x, squaredDistance)` for the pixels of a row of the part.
+    template <class Take>
+    void forEachInRow(int y, Take take) const
     {
-        const int size = static_cast<int>(line.size());
-        int last = 0;
-        m_vertex[0] = 0;
-        m_border[0] = -farAway;
-        m_border[1] = farAway;
-        for (int q = 1; q < size; ++q) {
-            float border = intersection(line, q, m_vertex[at(last)]);
-            while (last > 0 && border <= m_border[at(last)]) {
-                --last;
-                border = intersection(line, q, m_vertex[at(last)]);
-            }
-            ++last;
-            m_vertex[at(last)] = q;
-            m_border[at(last)] = border;
-            m_border[at(last) + 1] = farAway;
+        std::vector<std::int32_t> squared(
+            m_alongRows.begin() + offset(y), m_alongRows.begin() + offset(y + 1)
+        );
+        for (int distance = 1; distance <= m_reach; ++distance) {
+            keepNearer(y - distance, distance, squared);
+            keepNearer(y + distance, distance, squared);
         }
-        int current = 0;
-        for (int q = 0; q < size; ++q) {
-            while (m_border[at(current) + 1] < static_cast<float>(q))
-                ++current;
-            const int vertex = m_vertex[at(current)];
-            const auto offset = static_cast<float>(q - vertex);
-            m_result[at(q)] = offset * offset + line[at(vertex)];
+        for (int x = 0; x < m_width; ++x) {
+            if (squared[static_cast<std::size_t>(x)] > 0)
+                take(x, squared[static_cast<std::size_t>(x)]);
         }
-        return m_result;
     }
 
 private:
-    static std::size_t at(int index) { return static_cast<std::size_t>(index); }
-
-    static float intersection(const std::vector<float>& line, int q, int p)
+    [[nodiscard]] std::ptrdiff_t offset(int y) const
     {
-        const auto fq = static_cast<double>(line[at(q)]) + static_cast<double>(q) * q;
-        const auto fp = static_cast<double>(line[at(p)]) + static_cast<double>(p) * p;
-        return static_cast<float>((fq - fp) / (2.0 * (q - p)));
+        return static_cast<std::ptrdiff_t>(y) * m_width;
+    }
+    [[nodiscard]] std::int32_t* rowAt(int y) { return m_alongRows.data() + offset(y); }
+
+    void measureAlong(const float* mask, std::int32_t* squared) const
+    {
+        // What lies beyond the layer's border is outside.
+        std::int32_t distance = 0;
+        for (int x = 0; x < m_width; ++x) {
+            distance = mask[x] >= 0.5F ? std::min(distance + 1, m_reach) : 0;
+            squared[x] = distance;
+        }
+        distance = 0;
+        for (int x = m_width - 1; x >= 0; --x) {
+            distance = mask[x] >= 0.5F ? std::min(distance + 1, squared[x]) : 0;
+            squared[x] = distance * distance;
+        }
     }
 
-    std::vector<int> m_vertex;
-    std::vector<float> m_border;
-    std::vector<float> m_result;
+    void keepNearer(int y, std::int32_t distance, std::vector<std::int32_t>& squared) const
+    {
+        const bool isInside = y >= 0 && y < m_height;
+        const std::int32_t* row = isInside ? m_alongRows.data() + offset(y) : nullptr;
+        for (std::size_t x = 0; x < squared.size(); ++x) {
+            const std::int32_t other = (row != nullptr ? row[x] : 0) + distance * distance;
+            squared[x] = std::min(squared[x], other);
+        }
+    }
+
+    int m_width;
+    int m_height;
+    std::int32_t m_reach;
+    std::vector<std::int32_t> m_alongRows;
 };
-
-/// Distance of each pixel centre of the part to the nearest centre outside of it.
-HeightField distancesToOutside(const HeightField& mask)
-{
-    // A rim of one pixel stands for all that lies outside of the layer.
-    HeightField squared{.width = mask.width + 2, .height = mask.height + 2, .heights = {}};
-    squared.heights.resize(
-        static_cast<std::size_t>(squared.width) * static_cast<std::size_t>(squared.height)
-    );
-    for (int y = 0; y < mask.height; ++y) {
-        for (int x = 0; x < mask.width; ++x) {
-            if (mask.at(x, y) >= 0.5F)
-                squared.heights[indexOf(squared, x + 1, y + 1)] = farAway;
-        }
-    }
-    LineDistance along(std::max(squared.width, squared.height));
-    std::vector<float> line(static_cast<std::size_t>(squared.height));
-    for (int x = 0; x < squared.width; ++x) {
-        for (int y = 0; y < squared.height; ++y)
-            line[static_cast<std::size_t>(y)] = squared.at(x, y);
-        const auto& result = along.transform(line);
-        for (int y = 0; y < squared.height; ++y)
-            squared.heights[indexOf(squared, x, y)] = result[static_cast<std::size_t>(y)];
-    }
-    line.resize(static_cast<std::size_t>(squared.width));
-    HeightField distances{
-        .width = mask.width,
-        .height = mask.height,
-        .heights = std::vector<float>(mask.heights.size())};
-    for (int y = 0; y < mask.height; ++y) {
-        for (int x = 0; x < squared.width; ++x)
-            line[static_cast<std::size_t>(x)] = squared.at(x, y + 1);
-        const auto& result = along.transform(line);
-        for (int x = 0; x < mask.width; ++x) {
-            distances.heights[indexOf(distances, x, y)]
-                = std::sqrt(result[static_cast<std::size_t>(x) + 1]);
-        }
-    }
-    return distances;
-}
 
 double quarterCircle(double distance, double radius)
 {
@@ -139,34 +115,25 @@ double quarterCircle(double distance, double radius)
     return std::sqrt(1 - (1 - t) * (1 - t));
 }
 
-/// Blurs with a Gaussian of `sigma` pixels; samples beyond an edge repeat it.
-void soften(HeightField& field, double sigma)
+/// The slope of the part, before its ridge is softened.
+HeightField slopeOf(const HeightField& mask, double radius)
 {
-    const int reach = static_cast<int>(std::ceil(3 * sigma));
-    std::vector<double> kernel;
-    double sum = 0;
-    for (int offset = -reach; offset <= reach; ++offset) {
-        kernel.push_back(std::exp(-offset * offset / (2 * sigma * sigma)));
-        sum += kernel.back();
+    const int reach = static_cast<int>(std::ceil(radius + 0.5));
+    std::vector<float> heights; // by the squared distance
+    for (int squared = 0; squared <= reach * reach; ++squared)
+        heights.push_back(static_cast<float>(quarterCircle(std::sqrt(squared) - 0.5, radius)));
+    HeightField field{
+        .width = mask.width,
+        .height = mask.height,
+        .heights = std::vector<float>(mask.heights.size())};
+    const EdgeDistance distances(mask, reach);
+    for (int y = 0; y < field.height; ++y) {
+        float* row = &field.heights[indexOf(field, 0, y)];
+        distances.forEachInRow(y, [&](int x, std::int32_t squared) {
+            row[x] = heights[static_cast<std::size_t>(squared)];
+        });
     }
-    const HeightField source = field;
-    HeightField across = field;
-    const auto convolve = [&](const HeightField& from, HeightField& to, int stepX, int stepY) {
-        for (int y = 0; y < field.height; ++y) {
-            for (int x = 0; x < field.width; ++x) {
-                double value = 0;
-                for (int offset = -reach; offset <= reach; ++offset) {
-                    const int fromX = std::clamp(x + offset * stepX, 0, field.width - 1);
-                    const int fromY = std::clamp(y + offset * stepY, 0, field.height - 1);
-                    value += kernel[static_cast<std::size_t>(offset + reach)]
-                        * static_cast<double>(from.at(fromX, fromY));
-                }
-                to.heights[indexOf(to, x, y)] = static_cast<float>(value / sum);
-            }
-        }
-    };
-    convolve(source, across, 1, 0);
-    convolve(across, field, 0, 1);
+    return field;
 }
 
 struct Texel
@@ -224,12 +191,13 @@ HeightField heightFieldFromMask(const QImage& layer, double radius)
     const HeightField mask = maskOf(layer.convertToFormat(QImage::Format_ARGB32_Premultiplied));
     if (radius <= 0 || mask.heights.empty())
         return mask;
-    HeightField field = distancesToOutside(mask);
-    for (float& height : field.heights)
-        height = static_cast<float>(quarterCircle(static_cast<double>(height) - 0.5, radius));
+    HeightField field = slopeOf(mask, radius);
     const double sigma = 0.1 * radius;
-    if (sigma >= 0.5)
-        soften(field, sigma);
+    if (sigma >= 0.5) {
+        const Plane slope{
+            .width = field.width, .height = field.height, .samples = std::move(field.heights)};
+        field.heights = blurred(slope, sigma, Edge::Repeated).samples;
+    }
     for (std::size_t index = 0; index < field.heights.size(); ++index)
         field.heights[index] *= mask.heights[index];
     return field;
@@ -252,12 +220,17 @@ shadedMaterial(const HeightField& field, const QImage& layer, const QImage& shad
         const auto* pixels = reinterpret_cast<const QRgb*>(object.constScanLine(y));
         auto* shaded = reinterpret_cast<QRgb*>(result.scanLine(y));
         for (int x = 0; x < field.width; ++x) {
+            const int alpha = qAlpha(pixels[x]);
+            if (alpha == 0) {
+                shaded[x] = 0;
+                continue;
+            }
             const double slopeX = (height(x + 1, y) - height(x - 1, y)) / 2;
             const double slopeY = (height(x, y - 1) - height(x, y + 1)) / 2;
             const double length = std::sqrt(slopeX * slopeX + slopeY * slopeY + 1);
             const double u = (-slopeX / length + 1) * 0.5 * ball.width();
             const double v = (-slopeY / length + 1) * 0.5 * ball.height();
-            shaded[x] = faded(lookedUp(ball, u, v), qAlpha(pixels[x]));
+            shaded[x] = faded(lookedUp(ball, u, v), alpha);
         }
     }
     return result;

@@ -77,3 +77,24 @@ TEST(TiledShadow, EntersAtTheOtherSide)
 
     EXPECT_EQ(qAlpha(shadow.pixel(1, 9)), 255);
 }
+
+TEST(TiledShadow, IsThatOfManyCellsSideBySide)
+{
+    const QSize size(23, 17); // smaller than the blur reaches
+    const QImage cell = filled(size, {18, 3, 5, 9});
+    const Shadow shadow{.color = black, .xOffset = 4, .yOffset = -6, .blurRadius = 12};
+    constexpr int cells = 5;
+    QImage field(size * cells, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&field);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (int index = 0; index < cells * cells; ++index)
+        painter.drawImage(
+            QPoint(index % cells * size.width(), index / cells * size.height()), cell
+        );
+    painter.end();
+
+    const QImage middle = shadowLayer(field, shadow, 0)
+                              .copy(QRect(QPoint(2 * size.width(), 2 * size.height()), size));
+
+    EXPECT_EQ(tiledShadowLayer(cell, shadow), middle);
+}

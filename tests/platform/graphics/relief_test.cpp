@@ -5,6 +5,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace brenvaldo::platform;
@@ -70,6 +71,30 @@ TEST(HeightField, TakesTheLayersBorderAsOutside)
 
     EXPECT_NEAR(field.at(199, 50), field.at(100, 50), 1e-5);
     EXPECT_NEAR(field.at(150, 0), field.at(100, 50), 1e-5);
+}
+
+TEST(HeightField, RisesByTheDistanceToTheNearestPixelOutside)
+{
+    constexpr int width = 37;
+    constexpr int height = 29;
+    constexpr double radius = 4;
+    QImage layer(width, height, QImage::Format_ARGB32_Premultiplied);
+    layer.fill(Qt::white);
+    const QList<QPoint> holes{{3, 4}, {20, 7}, {21, 22}, {33, 27}};
+    for (const QPoint& hole : holes)
+        layer.setPixel(hole, 0);
+
+    const HeightField field = heightFieldFromMask(layer, radius);
+
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            double distance = std::min({x + 1, y + 1, width - x, height - y});
+            for (const QPoint& hole : holes)
+                distance = std::min(distance, std::hypot(x - hole.x(), y - hole.y()));
+            const double t = std::clamp((distance - 0.5) / radius, 0.0, 1.0);
+            ASSERT_NEAR(field.at(x, y), std::sqrt(1 - (1 - t) * (1 - t)), 1e-5) << x << ", " << y;
+        }
+    }
 }
 
 TEST(HeightField, OfRadiusZeroIsTheMask)
