@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "screen_scaling.h"
+
+#include "block_average.h"
+#include "image_node.h"
+
+#include <algorithm>
+
+namespace brenvaldo::platform {
+
+Image scaledForScreen(const Image& image, PixelSize size)
+{
+    const int side
+        = std::min({image.width() / size.width, image.height() / size.height, largestBlock});
+    if (side < 2 || image.hasAlpha())
+        return image.scaledTo(size);
+    const ImageNode& node = *image.node();
+    return makeImage(node.withPixels(blockAverages(node.pixels, side))).scaledTo(size);
+}
+
+} // namespace brenvaldo::platform

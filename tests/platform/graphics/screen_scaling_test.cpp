@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/graphics/screen_scaling.h>
+
+#include <platform/graphics/image_source.h>
+#include <support/geometry_printing.h>
+#include <support/photo_builder.h>
+#include <support/pixel_probe.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using namespace brenvaldo;
+using platform::PixelSize;
+using test::PhotoModel;
+
+namespace {
+
+class ScaledForScreen : public testing::Test
+{
+protected:
+    platform::Image photo(PhotoModel model, int depth, int width, int height)
+    {
+        const QString path
+            = test::PhotoBuilder()
+                  .size(width, height)
+                  .model(model)
+                  .depth(depth)
+                  .pixels([](int x, int y) {
+                      return test::Samples{x * 7 % 256, y * 5 % 256, (x + y) % 256, 255, 255};
+                  })
+                  .format(test::PhotoFormat::Png)
+                  .write(folder.path(QStringLiteral("a.png")));
+        return *test::openedPhoto(path).image(
+            {.access = platform::ImageSource::Access::Random, .atLeast = {}}
+        );
+    }
+
+    test::TemporaryFolder folder;
+};
+
+struct KindCase
+{
+    const char* name;
+    PhotoModel model;
+    int depth;
+};
+
+class ScaledForScreenKind : public ScaledForScreen, public testing::WithParamInterface<KindCase>
+{
+};
+
+} // namespace
+
+TEST_P(ScaledForScreenKind, AveragesWholeBlocks)
+{
+    const platform::Image image = photo(GetParam().model, GetParam().depth, 400, 240);
+    const QImage pixels = image.toQImage();
+
+    const QImage scaled = platform::scaledForScreen(image, {100, 60}).toQImage();
+
+    ASSERT_EQ(scaled.size(), QSize(100, 60));
+    for (int y = 0; y < scaled.height(); ++y) {
+        for (int x = 0; x < scaled.width(); ++x) {
+            int green = 0;
+            for (int index = 0; index < 16; ++index)
+                green += qGreen(pixels.pixel(4 * x + index % 4, 4 * y + index / 4));
+            ASSERT_NEAR(qGreen(scaled.pixel(x, y)), green / 16.0, 1) << x << ", " << y;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    ScaledForScreenKind,
+    testing::Values(
+        KindCase{"Rgb8", PhotoModel::Rgb, 8},
+        KindCase{"Gray8", PhotoModel::Gray, 8},
+        KindCase{"Rgb16", PhotoModel::Rgb, 16}
+    ),
+    [](const auto& row) { return row.param.name; }
+);
+
+TEST_F(ScaledForScreen, GivesAnySizeAndLooksLikeAScaledPicture)
+{
+    test::PhotoBuilder builder;
+    builder.size(643, 427).gradient().format(test::PhotoFormat::Png);
+    const QString path = builder.write(folder.path(QStringLiteral("b.png")));
+    const platform::Image image = *test::openedPhoto(path).image(
+        {.access = platform::ImageSource::Access::Random, .atLeast = {}}
+    );
+
+    for (const PixelSize size : {PixelSize{200, 133}, PixelSize{90, 60}, PixelSize{640, 425}}) {
+        const QImage quick = platform::scaledForScreen(image, size).toQImage();
+        EXPECT_LE(test::largestDifference(quick, image.scaledTo(size).toQImage()), 4) << size.width;
+    }
+}
+
+TEST_F(ScaledForScreen, LeavesATransparentPictureToTheOrdinaryWay)
+{
+    const platform::Image image = photo(PhotoModel::RgbAlpha, 8, 200, 120);
+    const PixelSize size{50, 30};
+
+    EXPECT_EQ(
+        test::largestDifference(
+            platform::scaledForScreen(image, size).toQImage(), image.scaledTo(size).toQImage()
+        ),
+        0
+    );
+}
