@@ -3,6 +3,7 @@
 
 #include <platform/foundation/paths.h>
 #include <platform/graphics/image_source.h>
+#include <platform/graphics/screen_scaling.h>
 #include <platform/graphics/stamp.h>
 
 #include <QPainter>
@@ -30,7 +31,7 @@ QString colourModelName(platform::ColorModel model)
 
 platform::Image fitted(const platform::Image& layer, platform::PixelSize room)
 {
-    return layer.scaledTo(fittedInto(layer.pixelSize(), room));
+    return platform::scaledForScreen(layer, fittedInto(layer.pixelSize(), room));
 }
 
 QImage renderedLayer(const platform::Image& layer, const PreviewRequest& request)
@@ -76,6 +77,13 @@ QImage renderedAnew(
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.drawImage(std::max(0, place.x), std::max(0, place.y), patch);
     return picture;
+}
+
+/// True when the overlay is the photo with its mark, so that nothing is to show through it.
+bool holdsThePhoto(const PreviewRequest& request)
+{
+    return request.photo && request.overlay
+        && platform::isStamped(*request.overlay, *request.photo);
 }
 
 QImage renderedOverlay(const PreviewRequest& request, const QImage& photo)
@@ -138,9 +146,10 @@ QImage PreviewRenderer::renderedPhoto(const PreviewRequest& request)
 PreviewPicture PreviewRenderer::renderedPicture(const PreviewRequest& request)
 {
     const QImage photo = renderedPhoto(request);
+    const QImage overlay = renderedOverlay(request, photo);
     return {
-        .photo = photo,
-        .overlay = renderedOverlay(request, photo),
+        .photo = !overlay.isNull() && holdsThePhoto(request) ? QImage() : photo,
+        .overlay = overlay,
         .part = request.part,
         .caption = photoCaption(request.path, request.fileSize)};
 }

@@ -24,7 +24,8 @@ struct PreviewRequest
     QString fileSize = {}; ///< as text; part of the caption
 };
 
-/// A rendered preview; null images stand for what is not there or can't be read.
+/// A rendered preview; null images stand for what is not there or can't be read. There is no photo
+/// below an overlay that is the photo with its mark.
 struct PreviewPicture
 {
     QImage photo;

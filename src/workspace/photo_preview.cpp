@@ -3,6 +3,7 @@
 
 #include <platform/graphics/canvas.h>
 #include <platform/graphics/image_source.h>
+#include <platform/graphics/stamp.h>
 
 #include <QFileInfo>
 
@@ -78,6 +79,8 @@ composed(const std::optional<platform::Image>& photo, const std::optional<platfo
 {
     if (!photo || !overlay)
         return photo ? photo : overlay;
+    if (platform::isStamped(*overlay, *photo))
+        return overlay;
     const platform::Image fitted = overlay->pixelSize() == photo->pixelSize()
         ? *overlay
         : overlay->scaledTo(photo->pixelSize());

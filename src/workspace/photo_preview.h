@@ -35,6 +35,7 @@ private:
 };
 
 /// `overlay` drawn over `photo` at the photo's size; the one that there is when there is only one.
+/// An overlay that is the photo with its mark stands for both, as it will be written.
 [[nodiscard]] std::optional<platform::Image> composed(
     const std::optional<platform::Image>& photo, const std::optional<platform::Image>& overlay
 );

@@ -78,6 +78,7 @@ TEST_P(PreviewRenderer, DrawsAMarkedPhotoAsIfItWereRenderedWhole)
     );
 
     ASSERT_FALSE(whole.overlay.isNull());
+    EXPECT_TRUE(onPhoto.photo.isNull());
     EXPECT_EQ(test::largestDifference(onPhoto.overlay, whole.overlay), 0);
 }
 
