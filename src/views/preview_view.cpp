@@ -82,8 +82,12 @@ void PreviewView::zoomAt(const QPointF& position, Zoom zoom)
 
 void PreviewView::takePhoto()
 {
-    m_part = {};
-    m_isFittedOld = true;
+    const auto& photo = m_sources.photo.image();
+    const auto pixels = photo ? photo->node() : nullptr;
+    if (std::exchange(m_photo, pixels) != pixels) {
+        m_part = {};
+        m_isFittedOld = true;
+    }
     renderSoon();
 }
 

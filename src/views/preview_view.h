@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 namespace brenvaldo::views {
 
@@ -80,6 +81,7 @@ private:
     PreviewRenderer m_renderer;
     PreviewPicture m_fitted; ///< the whole picture; coarse where it stands in for pixels
     PreviewPicture m_part; ///< the last rendered pixels of this photo
+    std::shared_ptr<const platform::ImageNode> m_photo; ///< that was shown last
     bool m_isFittedOld = true; ///< m_fitted belongs to the photo before
     QTimer m_soon;
     ChoiceChip* m_zoomChip;

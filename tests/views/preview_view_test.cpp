@@ -174,6 +174,24 @@ TEST_F(PreviewView, GoesOnShowingThePictureWhileTheZoomChanges)
     EXPECT_EQ(view.grab().toImage().pixelColor(300, 200), QColor(Qt::red));
 }
 
+TEST_F(PreviewView, KeepsThePixelsOfAPhotoThatIsSetAgain)
+{
+    QImage stripes = solid(4000, 2000, Qt::black);
+    for (int y = 0; y < stripes.height(); ++y)
+        for (int x = 0; x < stripes.width(); x += 2)
+            stripes.setPixelColor(x, y, Qt::white);
+    const auto same = platform::Image::fromQImage(stripes);
+    photo.setImage(same);
+    view.setZoom(views::PreviewView::Zoom::Pixels);
+    const QImage before = drawn();
+
+    photo.setImage(same);
+    overlay.clear();
+
+    ASSERT_FALSE(view.isUpToDate());
+    EXPECT_EQ(view.grab().toImage(), before);
+}
+
 TEST_F(PreviewView, ZoomsByTheWheelAtThePointer)
 {
     QImage marked = solid(4000, 2000, Qt::red);
