@@ -79,7 +79,7 @@ composed(const std::optional<platform::Image>& photo, const std::optional<platfo
 {
     if (!photo || !overlay)
         return photo ? photo : overlay;
-    if (platform::isStamped(*overlay, *photo))
+    if (platform::stampedPart(*overlay, *photo)) // draws the mark, in this thread
         return overlay;
     const platform::Image fitted = overlay->pixelSize() == photo->pixelSize()
         ? *overlay
