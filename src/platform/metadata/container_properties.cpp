@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "container_properties.h"
 
-#include "bytes.h"
 #include "exif_properties.h"
 #include "jpeg_segments.h"
 #include "png_chunks.h"
 #include "tiff_directory.h"
+#include <platform/foundation/bytes.h>
 
 #include <algorithm>
 #include <array>

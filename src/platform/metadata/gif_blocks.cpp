@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
-#include "bytes.h"
+#include <platform/foundation/bytes.h>
 
 namespace brenvaldo::platform {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
-#include "bytes.h"
 #include "exif_root_fields.h"
 #include "iso_boxes.h"
-#include "photoshop_resources.h"
 #include "tiff_blocks.h"
+#include <platform/foundation/bytes.h>
+#include <platform/graphics/photoshop_resources.h>
 
 #include <QHash>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "icc_description.h"
 
-#include "bytes.h"
 #include "exif_properties.h"
+#include <platform/foundation/bytes.h>
 
 #include <QStringDecoder>
 

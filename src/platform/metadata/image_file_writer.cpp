@@ -4,9 +4,9 @@
 #include "block_splicers.h"
 #include "exif_root_fields.h"
 #include "iptc_to_xmp.h"
-#include "mapped_file.h"
 #include "tiff_blocks.h"
 #include "xmp_packet.h"
+#include <platform/foundation/mapped_file.h>
 
 #include <platform/graphics/exif_facts.h>
 #include <platform/storage/atomic_file.h>

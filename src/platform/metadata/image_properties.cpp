@@ -5,10 +5,10 @@
 #include "exif_properties.h"
 #include "icc_description.h"
 #include "iptc_properties.h"
-#include "mapped_file.h"
 #include "metadata_reader.h"
 #include "xmp_packet.h"
 #include "xmp_values.h"
+#include <platform/foundation/mapped_file.h>
 
 #include <platform/graphics/image_source.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "iptc_properties.h"
 
-#include "bytes.h"
 #include "exif_properties.h"
 #include "xmp_values.h"
+#include <platform/foundation/bytes.h>
 
 #include <QHash>
 #include <QRegularExpression>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
-#include "bytes.h"
 #include "iso_boxes.h"
 #include "jpeg_segments.h"
-#include "photoshop_resources.h"
+#include <platform/foundation/bytes.h>
+#include <platform/graphics/photoshop_resources.h>
 
 namespace brenvaldo::platform {
 

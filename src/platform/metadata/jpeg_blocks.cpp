@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
 #include "jpeg_segments.h"
-#include "photoshop_resources.h"
+#include <platform/graphics/photoshop_resources.h>
 
 #include <algorithm>
 #include <array>

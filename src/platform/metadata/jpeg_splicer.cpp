@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_splicers.h"
-#include "bytes.h"
 #include "jpeg_segments.h"
-#include "photoshop_resources.h"
 #include "xmp_packet.h"
+#include <platform/foundation/bytes.h>
+#include <platform/graphics/photoshop_resources.h>
 
 namespace brenvaldo::platform {
 

@@ -2,7 +2,7 @@
 #include "metadata_reader.h"
 
 #include "block_readers.h"
-#include "mapped_file.h"
+#include <platform/foundation/mapped_file.h>
 
 #include <platform/graphics/type_identifier.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
 #include "jpeg_segments.h"
-#include "photoshop_resources.h"
 #include "png_chunks.h"
+#include <platform/graphics/photoshop_resources.h>
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "png_chunks.h"
 
-#include "bytes.h"
+#include <platform/foundation/bytes.h>
 
 #include <platform/foundation/inflate.h>
 

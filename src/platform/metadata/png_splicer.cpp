@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_splicers.h"
-#include "bytes.h"
-#include "photoshop_resources.h"
 #include "png_chunks.h"
 #include "tiff_directory.h"
 #include "xmp_packet.h"
+#include <platform/foundation/bytes.h>
+#include <platform/graphics/photoshop_resources.h>
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "block_readers.h"
 #include "exif_directories.h"
 #include "exif_thumbnail.h"
-#include "photoshop_resources.h"
+#include <platform/graphics/photoshop_resources.h>
 
 #include <algorithm>
 

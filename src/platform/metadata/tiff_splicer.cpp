@@ -2,9 +2,9 @@
 #include "block_splicers.h"
 #include "exif_directories.h"
 #include "exif_thumbnail.h"
-#include "photoshop_resources.h"
 #include "tiff_blocks.h"
 #include "xmp_packet.h"
+#include <platform/graphics/photoshop_resources.h>
 
 #include <algorithm>
 #include <limits>

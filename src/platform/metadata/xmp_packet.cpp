@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "xmp_packet.h"
 
-#include "bytes.h"
 #include "jpeg_segments.h"
+#include <platform/foundation/bytes.h>
 
 #include <QCryptographicHash>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "container_builder.h"
 
-#include <platform/metadata/bytes.h>
+#include <platform/foundation/bytes.h>
 #include <platform/metadata/png_chunks.h>
 
 namespace brenvaldo::test {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_builder.h"
 
+#include <platform/graphics/photoshop_resources.h>
 #include <platform/metadata/block_readers.h>
 #include <platform/metadata/block_splicers.h>
 #include <platform/metadata/exif_directories.h>
 #include <platform/metadata/exif_thumbnail.h>
-#include <platform/metadata/photoshop_resources.h>
 #include <platform/metadata/tiff_blocks.h>
 #include <support/case_name.h>
 #include <support/exif_block.h>
