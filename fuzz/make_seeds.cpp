@@ -7,6 +7,7 @@
 
 #include <support/exif_block.h>
 #include <support/photo_builder.h>
+#include <support/psd_file.h>
 
 #include <QDir>
 #include <QFile>
@@ -86,6 +87,17 @@ void addAnnotatedPhotos(const SeedFolder& seeds)
     }
 }
 
+void addLayers(const SeedFolder& seeds)
+{
+    const QList<QByteArray> channels(4, QByteArray("aabbbc", 6));
+    for (const bool isPacked : {false, true})
+        seeds.add(
+            QStringLiteral("layers%1").arg(isPacked),
+            test::psdFile({.size = {3, 2}, .channels = channels, .layers = -1, .isPacked = isPacked}
+            )
+        );
+}
+
 void addColors(const SeedFolder& seeds)
 {
     const platform::ColorComponents components{0.25F, 0.5F, 1};
@@ -105,6 +117,7 @@ int main(int argc, char** argv)
     const platform::Engine engine;
     const QString top = QFile::decodeName(argv[1]);
     addPhotos(SeedFolder(top, QStringLiteral("image_source")));
+    addLayers(SeedFolder(top, QStringLiteral("image_source")));
     for (const QString& reader :
          {QStringLiteral("metadata_blocks"), QStringLiteral("metadata_splice")}) {
         addPhotos(SeedFolder(top, reader));

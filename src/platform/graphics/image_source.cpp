@@ -34,6 +34,8 @@ std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)
         return openHeifPhoto(path, type);
     if (type == QLatin1String("com.microsoft.bmp"))
         return openBitmapPhoto(path);
+    if (isPsdType(type))
+        return openPsdPhoto(path, type);
     return nullptr;
 }
 

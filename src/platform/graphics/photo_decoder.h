@@ -50,6 +50,13 @@ openHeifPhoto(const QString& path, const QString& typeIdentifier);
 /// A bitmap file. Throws `vips::VError`.
 [[nodiscard]] std::unique_ptr<PhotoDecoder> openBitmapPhoto(const QString& path);
 
+/// True when photos of this type are read by `openPsdPhoto`.
+[[nodiscard]] bool isPsdType(const QString& typeIdentifier);
+
+/// The merged picture of a file with layers. Throws `vips::VError`.
+[[nodiscard]] std::unique_ptr<PhotoDecoder>
+openPsdPhoto(const QString& path, const QString& typeIdentifier);
+
 /// Throws when a picture of `size` is empty, or too large to be decoded whole.
 void checkDecodedWhole(PixelSize size);
 

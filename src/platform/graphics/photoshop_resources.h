@@ -10,8 +10,10 @@
 namespace brenvaldo::platform {
 
 enum class PhotoshopResourceId : std::uint16_t {
+    Resolution = 0x03ED,
     Iptc = 0x0404,
     IccProfile = 0x040F,
+    VersionInfo = 0x0421,
     Exif = 0x0422,
     Xmp = 0x0424
 };
