@@ -32,7 +32,7 @@ namespace brenvaldo::views {
 
 namespace {
 
-constexpr QSize minimumWindow(1060, 600);
+constexpr QSize smallestWindow(1024, 560);
 constexpr QSize usualWindow(1440, 900);
 
 /// Writes what the window tells of drags to standard output, each text on a line of its own.
@@ -88,7 +88,7 @@ MainWindow::MainWindow(workspace::Workspace& workspace, QtFileChooser& chooser)
     m_chooser.attachTo(this, [this](controls::Control& control, QWidget* parent) {
         return m_builder.buildField({.control = &control}, parent);
     });
-    setMinimumSize(minimumWindow);
+    setMinimumSize(smallestWindow);
     resize(usualWindow);
 }
 

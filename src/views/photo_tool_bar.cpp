@@ -31,7 +31,7 @@ PhotoToolBar::PhotoToolBar(
     : QWidget(parent)
 {
     auto* line = new QHBoxLayout(this);
-    line->setContentsMargins(12, 6, 14, 6);
+    line->setContentsMargins(12, 6, 12, 6);
     line->setSpacing(2);
     addTitled(*line, *commands.command(QStringLiteral("hChoosePhotos")));
     addTitled(*line, *commands.command(QStringLiteral("hInsertPhotos")));
@@ -51,7 +51,19 @@ PhotoToolBar::PhotoToolBar(
     addDrawn(*line, infoToggle);
     line->addStretch(1);
     addCounter(*line, window, binder);
+    m_titledWidth = line->sizeHint().width();
+    showTitles(false);
+    setMinimumWidth(line->sizeHint().width());
+    showTitles(true);
 }
+
+void PhotoToolBar::showTitles(bool shown)
+{
+    for (QPushButton* button : std::as_const(m_titled))
+        button->setText(shown ? button->accessibleName() : QString());
+}
+
+void PhotoToolBar::resizeEvent(QResizeEvent*) { showTitles(width() >= m_titledWidth); }
 
 void PhotoToolBar::addTitled(QHBoxLayout& line, QAction& command)
 {
@@ -62,6 +74,7 @@ void PhotoToolBar::addTitled(QHBoxLayout& line, QAction& command)
     setButtonRole(*button, line.isEmpty() ? ButtonRole::Plain : ButtonRole::Flat);
     connect(button, &QPushButton::clicked, &command, &QAction::trigger);
     line.addWidget(button);
+    m_titled.append(button);
 }
 
 void PhotoToolBar::addDrawn(QHBoxLayout& line, QAction& command)
@@ -80,11 +93,11 @@ void PhotoToolBar::addDrawn(QHBoxLayout& line, QAction& command)
 
 void PhotoToolBar::addGap(QHBoxLayout& line)
 {
-    line.addSpacing(5);
+    line.addSpacing(4);
     auto* mark = new Hairline(Qt::Vertical, this);
     mark->setFixedHeight(20);
     line.addWidget(mark);
-    line.addSpacing(5);
+    line.addSpacing(4);
 }
 
 void PhotoToolBar::addCounter(
@@ -95,9 +108,12 @@ void PhotoToolBar::addCounter(
     all->setAccessibleName(tr("Tick all photos"));
     binder.bind(*all, window.cbPhotoToProcess);
     line.addWidget(all);
-    line.addSpacing(10);
+    line.addSpacing(8);
     auto* count = new MutedLabel(QString(), this);
     count->setAccessibleName(tr("Number of photos"));
+    count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    count->setMinimumWidth(count->fontMetrics().horizontalAdvance(countText(QStringLiteral("1000")))
+    );
     const auto& counter = window.tfImageCount;
     followControl(*count, counter, [count, &counter] {
         count->setText(countText(counter.stringValue()));

@@ -9,10 +9,12 @@
 #include <QWidget>
 
 class QHBoxLayout;
+class QPushButton;
 
 namespace brenvaldo::views {
 
-/// The tools of the photo list above the grid, with the master tick and the counter.
+/// The tools of the photo list above the grid, with the master tick and the counter. In a narrow
+/// window they are drawings only.
 class PhotoToolBar : public QWidget
 {
     Q_OBJECT
@@ -26,11 +28,18 @@ public:
         QWidget* parent = nullptr
     );
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void showTitles(bool shown);
     void addTitled(QHBoxLayout& line, QAction& command);
     void addDrawn(QHBoxLayout& line, QAction& command);
     void addGap(QHBoxLayout& line);
     void addCounter(QHBoxLayout& line, panels::WindowControls& window, const Binder& binder);
+
+    QList<QPushButton*> m_titled; ///< show their titles while there is room for all
+    int m_titledWidth = 0;
 };
 
 /// "16 photos" for the counter's text "16"; other texts stay as they are.
