@@ -5,7 +5,24 @@
 
 #include <QStringList>
 
+#include <array>
+#include <charconv>
+
 namespace brenvaldo::imaging {
+
+namespace {
+
+/// Two decimals; a value in the middle of two goes to the even one, unlike in Qt's own texts.
+QString twoDecimals(double value)
+{
+    std::array<char, 16> digits{};
+    const auto end = std::to_chars(
+        digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, 2
+    );
+    return QString::fromLatin1(digits.data(), end.ptr - digits.data());
+}
+
+} // namespace
 
 QString DVImageHandling::hNSFileSizeToHumanNotification(double bytes)
 {
@@ -26,7 +43,7 @@ QString DVImageHandling::hNSFileSizeToHumanNotification(double bytes)
         throw platform::RangeError(
             QStringLiteral("index %1 beyond bounds [0 .. %2]").arg(unit).arg(units.size() - 1)
         );
-    return QString::number(value, 'f', 2) + units.at(unit);
+    return twoDecimals(value) + units.at(unit);
 }
 
 } // namespace brenvaldo::imaging

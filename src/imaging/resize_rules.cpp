@@ -25,6 +25,13 @@ double percentOf(int to, int from)
 
 int follow(int side, double percent) { return truncated(side * percent / 100.0); }
 
+/// A side of a covering picture. Of two equal proportions the division may lose the last pixel.
+int followToCover(int side, double percent, int box)
+{
+    const int followed = follow(side, percent);
+    return followed == box - 1 ? box : followed;
+}
+
 PixelSize byWidth(PixelSize photo, int width)
 {
     return {width, follow(photo.height, percentOf(width, photo.width))};
@@ -71,8 +78,8 @@ PixelSize coveringSize(PixelSize photo, PixelSize box)
     const double percentByWidth = percentOf(box.width, photo.width);
     const double percentByHeight = percentOf(box.height, photo.height);
     if (percentByHeight > percentByWidth)
-        return {follow(photo.width, percentByHeight), box.height};
-    return {box.width, follow(photo.height, percentByWidth)};
+        return {followToCover(photo.width, percentByHeight, box.width), box.height};
+    return {box.width, followToCover(photo.height, percentByWidth, box.height)};
 }
 
 PixelRect centredCut(PixelSize scaled, PixelSize box)

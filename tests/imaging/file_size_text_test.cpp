@@ -33,6 +33,8 @@ const FileSizeCase fileSizeCases[] = {
     {"Bytes", 512, u"512.00bytes"_qs},
     {"ExactlyOneKilobyte", 1024, u"1024.00bytes"_qs},
     {"JustAboveOneKilobyte", 1025, u"1.00KB"_qs},
+    {"MiddleAboveAnEvenHundredth", 1152, u"1.12KB"_qs},
+    {"MiddleAboveAnOddHundredth", 1408, u"1.38KB"_qs},
     {"Megabytes", 1572864, u"1.50MB"_qs},
     {"Gigabytes", 5368709120.0, u"5.00GB"_qs},
     {"ExactlyTheLastUnit", 1024 * terabyte, u"1024.00TB"_qs},

@@ -91,6 +91,7 @@ constexpr CoverCase coverCases[] = {
     {"LandscapeIntoASquare", {4000, 3000}, {1000, 1000}, {1333, 1000}, {166, 0, 1000, 1000}},
     {"PortraitIntoALandscape", {3000, 4000}, {1000, 500}, {1000, 1333}, {0, 416, 1000, 500}},
     {"SameProportions", {4000, 3000}, {400, 300}, {400, 300}, {0, 0, 400, 300}},
+    {"ProportionsThatDivideInexactly", {19, 19}, {5, 5}, {5, 5}, {0, 0, 5, 5}},
     {"SquareIntoAPortrait", {100, 100}, {30, 40}, {40, 40}, {5, 0, 30, 40}},
     {"OddExcessStaysAtTheRight", {40, 10}, {3, 2}, {8, 2}, {2, 0, 3, 2}},
     {"Enlarges", {40, 30}, {400, 400}, {533, 400}, {66, 0, 400, 400}},
