@@ -9,6 +9,7 @@
 #include <platform/storage/atomic_file.h>
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <tuple>
 
@@ -23,12 +24,26 @@ QString nameWithoutExtension(const QString& path)
     return platform::deletingPathExtension(platform::lastPathComponent(path));
 }
 
+std::optional<platform::Image> openedPhoto(const QString& path, ConversionRule::Pixels pixels)
+{
+    const auto source = ImageSource::open(path);
+    if (!source)
+        return std::nullopt;
+    return pixels == ConversionRule::Pixels::Stored ? source->image() : source->uprightImage();
+}
+
+/// True when every pixel of the photo can be computed.
+bool isWhole(const QString& path)
+{
+    const auto photo = openedPhoto(path, ConversionRule::Pixels::Stored);
+    return photo && photo->scaledTo({1, 1}).copiedToMemory();
+}
+
 bool writeConverted(
     const FileConversion::Settings& settings, const ConversionRule& rule, const QString& target
 )
 {
-    const auto source = ImageSource::open(settings.source);
-    const auto image = source ? source->image() : std::nullopt;
+    const auto image = openedPhoto(settings.source, rule.pixels);
     if (!image)
         return false;
 
@@ -52,8 +67,10 @@ convert(const FileConversion::Settings& settings, const ConversionRule& rule, co
     if (writeConverted(settings, rule, target))
         return ResultWord::Ok;
 
-    // What the metadata route writes at its end is empty when its destination has failed.
-    if (rule.route == ConversionRule::Route::Metadata)
+    // What the metadata route writes at its end is empty when the photo can't be read. A full disk
+    // leaves what stands there, and a photo is never emptied by its own conversion.
+    if (rule.route == ConversionRule::Route::Metadata
+        && QFileInfo(target) != QFileInfo(settings.source) && !isWhole(settings.source))
         std::ignore = platform::writeFileAtomically(target, {});
     return ResultWord::Failed;
 }

@@ -7,6 +7,7 @@
 
 #include <support/case_name.h>
 #include <support/exif_block.h>
+#include <support/faults.h>
 #include <support/geometry_printing.h>
 #include <support/log_lines.h>
 #include <support/pixel_probe.h>
@@ -89,7 +90,7 @@ TEST_P(FileConversionTable, WritesTheFormatOfTheType)
     EXPECT_EQ(filesOf(folder), (QStringList{u"out."_qs + row.word, u"photo.JPG"_qs}));
 }
 
-TEST_P(FileConversionTable, WorksOnStoredPixelsAndKeepsTheTagWithTheMetadata)
+TEST_P(FileConversionTable, KeepsMetadataOfTheirRouteAlone)
 {
     const ConversionCase& row = GetParam();
     if (isPdf(row))
@@ -104,8 +105,46 @@ TEST_P(FileConversionTable, WorksOnStoredPixelsAndKeepsTheTagWithTheMetadata)
     const auto blocks = readMetadataBlocks(target);
     ASSERT_TRUE(blocks);
     EXPECT_EQ(result.word, ResultWord::Ok);
-    EXPECT_EQ(openedPhoto(target).header().storedSize, (PixelSize{48, 32}));
     EXPECT_EQ(blocks->exif.contains("Maker"), row.trace == Trace::Metadata);
+}
+
+TEST_P(FileConversionTable, ShowsATurnedPhotoAsBefore)
+{
+    const ConversionCase& row = GetParam();
+    if (isPdf(row))
+        return;
+    const TemporaryFolder folder;
+    const QString source
+        = PhotoBuilder().size(48, 32).corners().orientation(6).write(folder.path(u"photo.jpg"_qs));
+    const QString target = folder.path(u"out"_qs);
+
+    const ConversionResult result
+        = FileConversion().hConvertFileType({source, row.type, u"8"_qs, target});
+
+    const auto shown = openedPhoto(target).uprightImage();
+    ASSERT_TRUE(shown);
+    EXPECT_EQ(result.word, ResultWord::Ok);
+    EXPECT_EQ(shown->pixelSize(), (PixelSize{32, 48}));
+    EXPECT_EQ(cornerColors(shown->toQImage()), "BRWG");
+}
+
+TEST_P(FileConversionTable, KeepsTheStoredPixelsWhereTheTagTravels)
+{
+    const ConversionCase& row = GetParam();
+    if (isPdf(row))
+        return;
+    const TemporaryFolder folder;
+    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
+    const QString target = folder.path(u"out"_qs);
+
+    const ConversionResult result
+        = FileConversion().hConvertFileType({source, row.type, u"8"_qs, target});
+
+    const bool isStored = row.word == u"png"_qs || row.word == u"tiff"_qs;
+    const auto header = openedPhoto(target).header();
+    EXPECT_EQ(result.word, ResultWord::Ok);
+    EXPECT_EQ(header.storedSize, isStored ? (PixelSize{48, 32}) : (PixelSize{32, 48}));
+    EXPECT_EQ(header.orientation, isStored ? 6 : 1);
 }
 
 TEST_P(FileConversionTable, LeavesAnEmptyFileOfTheMetadataRouteForAnUnreadablePhoto)
@@ -228,6 +267,51 @@ TEST(FileConversion, LeavesTheOldFileOfThePlainRouteWhenThePhotoIsDamaged)
 
     EXPECT_EQ(result.word, ResultWord::Failed);
     EXPECT_EQ(TemporaryFolder::read(target), "output of a run before");
+}
+
+TEST(FileConversion, LeavesTheOldFileOnAFullDisk)
+{
+    const TemporaryFolder folder;
+    const auto busy = [](int x, int y) { return Samples{x * y % 256, x * 7 % 256, y * 5 % 256}; };
+    const QString source
+        = PhotoBuilder().size(400, 300).pixels(busy).write(folder.path(u"photo.jpg"_qs));
+    const QString target = folder.write(u"out.png"_qs, "output of a run before");
+    ConversionResult result;
+
+    {
+        const FullDisk full(4096);
+        result = FileConversion().hConvertFileType({source, u"public.png"_qs, u"8"_qs, target});
+    }
+
+    EXPECT_EQ(result.word, ResultWord::Failed);
+    EXPECT_EQ(TemporaryFolder::read(target), "output of a run before");
+}
+
+TEST(FileConversion, NeverEmptiesADamagedPhotoThatIsItsOwnTarget)
+{
+    const TemporaryFolder folder;
+    const QByteArray whole = PhotoBuilder().format(PhotoFormat::Png).size(400, 300).bytes();
+    const QString source = folder.write(u"half.png"_qs, whole.left(whole.size() / 2));
+
+    const ConversionResult result
+        = FileConversion().hConvertFileType({source, u"public.png"_qs, u"8"_qs, source});
+
+    EXPECT_EQ(result.word, ResultWord::Failed);
+    EXPECT_EQ(TemporaryFolder::read(source), whole.left(whole.size() / 2));
+}
+
+TEST(FileConversion, LeavesAnEmptyFileOfTheMetadataRouteForADamagedPhoto)
+{
+    const TemporaryFolder folder;
+    const QByteArray whole = PhotoBuilder().size(400, 300).bytes();
+    const QString source = folder.write(u"half.jpg"_qs, whole.left(whole.size() / 2));
+    const QString target = folder.write(u"out.png"_qs, "output of a run before");
+
+    const ConversionResult result
+        = FileConversion().hConvertFileType({source, u"public.png"_qs, u"8"_qs, target});
+
+    EXPECT_EQ(result.word, ResultWord::Failed);
+    EXPECT_EQ(TemporaryFolder::read(target), QByteArray());
 }
 
 TEST(SaveAsFileType, RemovesTheSourceEvenForAWordThatItDoesNotKnow)
