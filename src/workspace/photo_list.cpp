@@ -123,7 +123,7 @@ void PhotoList::select(std::optional<int> index)
 
 const cCollectionViewItem* PhotoList::selectedEntry() const
 {
-    return m_selected ? &m_entries.at(*m_selected) : nullptr;
+    return m_selected && *m_selected < count() ? &m_entries.at(*m_selected) : nullptr;
 }
 
 } // namespace brenvaldo::workspace

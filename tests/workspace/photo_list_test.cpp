@@ -114,6 +114,23 @@ TEST(PhotoList, SelectsTheLastEntryWhenTheSelectedLastOneGoes)
     EXPECT_EQ(list.selectedIndex(), std::nullopt);
 }
 
+TEST(PhotoList, HasNoSelectedEntryThatIsGoneWhenItTellsOfAChange)
+{
+    PhotoList list;
+    fill(list, {u"a"_qs, u"b"_qs});
+    list.select(1);
+    QStringList selected;
+    const auto subscription = list.entriesChanged.connect([&] {
+        const auto* entry = list.selectedEntry();
+        selected.append(entry ? entry->myPhotoName : u"none"_qs);
+    });
+
+    list.removeAt(1);
+    list.clear();
+
+    EXPECT_EQ(selected, (QStringList{u"none"_qs, u"none"_qs}));
+}
+
 TEST(PhotoList, IgnoresIndexesOutsideOfTheList)
 {
     PhotoList list;
