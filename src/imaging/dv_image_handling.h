@@ -109,7 +109,7 @@ public:
     /// `pubScaleMaxType`.
     ///
     /// A size that nothing can be drawn at (a value of 0, an unreadable photo) writes nothing and
-    /// answers "OK".
+    /// answers "OK"; a Photoshop or PDF file that would keep its type answers "Not Supported".
     ResultWord hScalePhotosPercentage(
         const SourceAndBase& photo, int value, int maximumType, const OutputTail& tail
     );

@@ -4,6 +4,7 @@
 #include "resize_rules.h"
 #include "resolution_rules.h"
 #include "rotate_rules.h"
+#include "writer_rules.h"
 
 #include <platform/graphics/image_source.h>
 #include <platform/metadata/metadata_reader.h>
@@ -34,6 +35,12 @@ std::optional<Image> scaledPhoto(const std::optional<ImageSource>& source, Pixel
     return photo->scaledTo(target);
 }
 
+/// True for a Photoshop or PDF file that would keep its type: it is out of reach, not unreadable.
+bool isOutOfReach(const std::optional<ImageSource>& source, const OutputTail& tail)
+{
+    return !source && isNotSupported(tail.myFileType);
+}
+
 ResultWord
 saveResized(const std::optional<Image>& image, const SourceAndBase& photo, const OutputTail& tail)
 {
@@ -54,6 +61,8 @@ ResultWord DVImageHandling::hScalePhotosPercentage(
 )
 {
     const auto source = ImageSource::open(photo.source);
+    if (isOutOfReach(source, tail))
+        return m_storeResult = ResultWord::NotSupported;
     const PixelSize target = maximumTarget(uprightSize(source), value, maximumTypeAt(maximumType));
     const auto scaled = scaledPhoto(source, target);
     if (!scaled)
@@ -67,6 +76,8 @@ ResultWord DVImageHandling::hScalePhotosWidthAndHeight(
 )
 {
     const auto source = ImageSource::open(photo.source);
+    if (isOutOfReach(source, tail))
+        return m_storeResult = ResultWord::NotSupported;
     const bool covers = aspectState == 1;
     const PixelSize target = covers ? coveringSize(uprightSize(source), box) : box;
     const auto scaled = scaledPhoto(source, target);

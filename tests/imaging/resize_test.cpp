@@ -285,6 +285,28 @@ TEST(ResizeToMaximum, AnswersTheWordOfTheWriter)
     EXPECT_FALSE(files.hasOutput());
 }
 
+TEST(Resize, DoesNotSupportAPhotoshopOrPdfFileThatKeepsItsType)
+{
+    const TemporaryFolder folder;
+    OutputTail tail = pngTail();
+    DVImageHandling handling;
+
+    for (const QString& type : {u"com.adobe.photoshop-image"_qs, u"com.adobe.pdf"_qs}) {
+        tail.myFileType = type;
+        const SourceAndBase photo{
+            .source = folder.write(u"source"_qs, "8BPS"),
+            .destinationBase = folder.path(u"out"_qs)};
+        EXPECT_EQ(
+            handling.hScalePhotosPercentage(photo, 50, Percentage, tail), ResultWord::NotSupported
+        );
+        EXPECT_EQ(
+            handling.hScalePhotosWidthAndHeight(photo, {10, 10}, covering, tail),
+            ResultWord::NotSupported
+        );
+    }
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"source"_qs});
+}
+
 TEST(ResizeToMaximum, KeepsDepthColorsAndTransparency)
 {
     const Resizing files(PhotoBuilder()
