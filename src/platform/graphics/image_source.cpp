@@ -28,6 +28,10 @@ void logFault(const QString& path, const vips::VError& error)
 std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)
 {
     const QString type = typeIdentifierOfContents(path);
+    if (type == QLatin1String("public.tiff")) {
+        if (auto photo = openUnusualTiff(path))
+            return photo;
+    }
     if (isStreamedType(type))
         return openStreamedPhoto(path, type);
     if (isHeifType(type))
