@@ -40,6 +40,8 @@ std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)
         return openBitmapPhoto(path);
     if (isPsdType(type))
         return openPsdPhoto(path, type);
+    if (!type.isEmpty())
+        log(QStringLiteral("Failed to read image %1: nothing here reads %2").arg(path, type));
     return nullptr;
 }
 

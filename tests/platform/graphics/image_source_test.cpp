@@ -4,6 +4,7 @@
 
 #include <support/case_name.h>
 #include <support/color_profiles.h>
+#include <support/log_lines.h>
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>
 #include <support/temporary_folder.h>
@@ -141,6 +142,20 @@ TEST(ImageSource, FollowsTheContentsNotTheName)
     const QString path = PhotoBuilder().write(folder.path(QStringLiteral("photo.png")));
 
     EXPECT_EQ(openedPhoto(path).header().typeIdentifier, QStringLiteral("public.jpeg"));
+}
+
+TEST(ImageSource, TellsOfAnImageThatNothingReads)
+{
+    const TemporaryFolder folder;
+    const QString page = folder.write(QStringLiteral("page.pdf"), "%PDF-1.4");
+    const QString text = folder.write(QStringLiteral("notes.txt"), "no image");
+    const LogLines log;
+
+    EXPECT_FALSE(ImageSource::open(page));
+    EXPECT_FALSE(ImageSource::open(text));
+
+    ASSERT_EQ(log.lines().size(), 1);
+    EXPECT_TRUE(log.lines().first().endsWith(u"nothing here reads com.adobe.pdf"));
 }
 
 TEST(ImageSource, ReadsTheHeaderFacts)
