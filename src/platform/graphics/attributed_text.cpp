@@ -26,7 +26,8 @@ TextAttributes laidOut(TextAttributes attributes, double scale)
     attributes.kerning /= scale;
     attributes.lineSpacing /= scale;
     QFont& font = attributes.font;
-    font.setPixelSize(std::min(font.pixelSize(), largestLayout));
+    if (font.pixelSize() > largestLayout)
+        font.setPixelSize(largestLayout);
     font.setKerning(false);
     font.setLetterSpacing(QFont::AbsoluteSpacing, attributes.kerning);
     font.setHintingPreference(QFont::PreferNoHinting);
