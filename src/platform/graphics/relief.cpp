@@ -2,11 +2,11 @@
 #include "relief.h"
 
 #include "blurred_plane.h"
+#include "edge_distance.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdint>
 
 namespace brenvaldo::platform {
 
@@ -39,99 +39,40 @@ HeightField maskOf(const QImage& layer)
     return mask;
 }
 
-/// Squared distance of each pixel centre of the part to the nearest centre outside of it; those
-/// beyond `reach` count as `reach`.
-class EdgeDistance
+float quarterCircle(float distance, float radius)
 {
-public:
-    EdgeDistance(const HeightField& mask, int reach)
-        : m_width(mask.width)
-        , m_height(mask.height)
-        , m_reach(reach)
-        , m_alongRows(mask.heights.size())
-    {
-        for (int y = 0; y < m_height; ++y)
-            measureAlong(&mask.heights[indexOf(mask, 0, y)], rowAt(y));
-    }
+    if (distance <= 0 || distance >= radius)
+        return distance <= 0 ? 0 : 1;
+    const float t = 1 - distance / radius;
+    return std::sqrt(1 - t * t);
+}
 
-    /// Calls `take(x, squaredDistance)` for the pixels of a row of the part.
-    template <class Take>
-    void forEachInRow(int y, Take take) const
-    {
-        std::vector<std::int32_t> squared(
-            m_alongRows.begin() + offset(y), m_alongRows.begin() + offset(y + 1)
-        );
-        for (int distance = 1; distance <= m_reach; ++distance) {
-            keepNearer(y - distance, distance, squared);
-            keepNearer(y + distance, distance, squared);
-        }
-        for (int x = 0; x < m_width; ++x) {
-            if (squared[static_cast<std::size_t>(x)] > 0)
-                take(x, squared[static_cast<std::size_t>(x)]);
-        }
-    }
-
-private:
-    [[nodiscard]] std::ptrdiff_t offset(int y) const
-    {
-        return static_cast<std::ptrdiff_t>(y) * m_width;
-    }
-    [[nodiscard]] std::int32_t* rowAt(int y) { return m_alongRows.data() + offset(y); }
-
-    void measureAlong(const float* mask, std::int32_t* squared) const
-    {
-        // What lies beyond the layer's border is outside.
-        std::int32_t distance = 0;
-        for (int x = 0; x < m_width; ++x) {
-            distance = mask[x] >= 0.5F ? std::min(distance + 1, m_reach) : 0;
-            squared[x] = distance;
-        }
-        distance = 0;
-        for (int x = m_width - 1; x >= 0; --x) {
-            distance = mask[x] >= 0.5F ? std::min(distance + 1, squared[x]) : 0;
-            squared[x] = distance * distance;
-        }
-    }
-
-    void keepNearer(int y, std::int32_t distance, std::vector<std::int32_t>& squared) const
-    {
-        const bool isInside = y >= 0 && y < m_height;
-        const std::int32_t* row = isInside ? m_alongRows.data() + offset(y) : nullptr;
-        for (std::size_t x = 0; x < squared.size(); ++x) {
-            const std::int32_t other = (row != nullptr ? row[x] : 0) + distance * distance;
-            squared[x] = std::min(squared[x], other);
-        }
-    }
-
-    int m_width;
-    int m_height;
-    std::int32_t m_reach;
-    std::vector<std::int32_t> m_alongRows;
-};
-
-double quarterCircle(double distance, double radius)
+/// How far each pixel belongs to the part: `mask` as a fraction of its brightest sample.
+std::vector<float> coverageOf(const HeightField& mask)
 {
-    const double t = std::clamp(distance / radius, 0.0, 1.0);
-    return std::sqrt(1 - (1 - t) * (1 - t));
+    constexpr float dimmestPart = 0.5F;
+    const float brightest = *std::max_element(mask.heights.begin(), mask.heights.end());
+    std::vector<float> coverage(mask.heights.size());
+    if (brightest < dimmestPart)
+        return coverage;
+    for (std::size_t index = 0; index < coverage.size(); ++index)
+        coverage[index] = mask.heights[index] / brightest;
+    return coverage;
 }
 
 /// The slope of the part, before its ridge is softened.
 HeightField slopeOf(const HeightField& mask, double radius)
 {
-    const int reach = static_cast<int>(std::ceil(radius + 0.5));
-    std::vector<float> heights; // by the squared distance
-    for (int squared = 0; squared <= reach * reach; ++squared)
-        heights.push_back(static_cast<float>(quarterCircle(std::sqrt(squared) - 0.5, radius)));
-    HeightField field{
-        .width = mask.width,
-        .height = mask.height,
-        .heights = std::vector<float>(mask.heights.size())};
-    const EdgeDistance distances(mask, reach);
+    const std::vector<float> coverage = coverageOf(mask);
+    const EdgeDistance edge(
+        {.width = mask.width, .height = mask.height, .samples = coverage.data()},
+        static_cast<int>(std::ceil(radius + 0.5))
+    );
+    HeightField field{.width = mask.width, .height = mask.height, .heights = {}};
+    field.heights.reserve(mask.heights.size());
     for (int y = 0; y < field.height; ++y) {
-        float* row = &field.heights[indexOf(field, 0, y)];
-        distances.forEachInRow(y, [&](int x, std::int32_t squared) {
-            row[x] = heights[static_cast<std::size_t>(squared)];
-        });
+        for (const float distance : edge.ofRow(y))
+            field.heights.push_back(quarterCircle(distance, static_cast<float>(radius)));
     }
     return field;
 }
