@@ -3,11 +3,12 @@
 
 #include <platform/foundation/folders.h>
 #include <platform/foundation/log.h>
+#include <support/geometry_printing.h>
+#include <support/pixel_probe.h>
 #include <support/text_printing.h>
 
 #include <QFileInfo>
 #include <QImage>
-#include <QImageReader>
 
 #include <sys/xattr.h>
 
@@ -143,21 +144,20 @@ TEST_F(PhotoCopyPanel, EnablesTheQualityForJpegOnly)
 
 TEST_F(PhotoCopyPanel, WritesEveryImageType)
 {
-    const QList<std::pair<QString, QByteArray>> types
-        = {{u"png"_qs, "png"},
-           {u"tiff"_qs, "tiff"},
-           {u"bmp"_qs, "bmp"},
-           {u"gif"_qs, "gif"},
-           {u"jpeg"_qs, "jpeg"}};
-    for (const auto& [type, format] : types) {
+    const QList<std::pair<QString, QString>> types
+        = {{u"png"_qs, u"public.png"_qs},
+           {u"tiff"_qs, u"public.tiff"_qs},
+           {u"bmp"_qs, u"com.microsoft.bmp"_qs},
+           {u"gif"_qs, u"com.compuserve.gif"_qs},
+           {u"jpeg"_qs, u"public.jpeg"_qs}};
+    for (const auto& [type, identifier] : types) {
         answer(u"copy"_qs, type);
 
         box.hSaveDialogFile(source);
 
-        QImageReader reader(folder.path(u"copy."_qs + type));
-        reader.setDecideFormatFromContent(true);
-        EXPECT_EQ(reader.size(), QSize(7, 5)) << format.constData();
-        EXPECT_EQ(reader.format(), format);
+        const auto header = openedPhoto(folder.path(u"copy."_qs + type)).header();
+        EXPECT_EQ(header.storedSize, (platform::PixelSize{7, 5}));
+        EXPECT_EQ(header.typeIdentifier, identifier);
     }
 }
 
