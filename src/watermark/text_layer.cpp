@@ -6,9 +6,6 @@
 #include <QPainter>
 #include <QTransform>
 
-#include <algorithm>
-#include <cstdlib>
-
 namespace brenvaldo::watermark {
 
 namespace {
@@ -79,20 +76,34 @@ QImage TextLayer::rendered(const Ink& ink, const QRect& region) const
         toTurnedLayer() * QTransform::fromTranslate(-region.left(), -region.top())
     );
     painter.setClipRect(uprightRect());
-    if (ink.shadow) {
-        const int reach = platform::shadowReach(ink.shadow->blurRadius)
-            + std::max(std::abs(ink.shadow->xOffset), std::abs(ink.shadow->yOffset));
-        const QRect part = neededBefore(region.adjusted(-reach, -reach, reach, reach));
-        QImage object = transparent(part.size());
-        QPainter objectPainter(&object);
-        prepare(objectPainter);
-        objectPainter.translate(-part.topLeft());
-        m_text.draw(objectPainter, fill);
-        objectPainter.end();
-        painter.drawImage(part.topLeft(), platform::shadowLayer(object, *ink.shadow, 0));
-    }
+    if (ink.shadow)
+        drawShadow(painter, *ink.shadow, fill, neededBefore(region));
     m_text.draw(painter, fill);
     return layer;
+}
+
+void TextLayer::drawShadow(
+    QPainter& painter, platform::Shadow shadow, const QBrush& fill, const QRect& part
+) const
+{
+    const int reach = platform::shadowReach(shadow.blurRadius);
+    const QPoint shift(shadow.xOffset, -shadow.yOffset);
+    const QRect casting
+        = part.translated(-shift).adjusted(-reach, -reach, reach, reach).intersected(uprightRect());
+    QImage object = transparent(casting.size());
+    if (object.isNull())
+        return;
+    QPainter objectPainter(&object);
+    prepare(objectPainter);
+    objectPainter.translate(-casting.topLeft());
+    m_text.draw(objectPainter, fill);
+    objectPainter.end();
+    shadow.xOffset = 0;
+    shadow.yOffset = 0;
+    painter.drawImage(
+        casting.topLeft() + shift - QPoint(reach, reach),
+        platform::shadowLayer(object, shadow, reach)
+    );
 }
 
 } // namespace brenvaldo::watermark

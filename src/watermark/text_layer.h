@@ -40,6 +40,10 @@ private:
     [[nodiscard]] QTransform toTurnedLayer() const;
     [[nodiscard]] QRect uprightRect() const;
     [[nodiscard]] QRect neededBefore(const QRect& region) const;
+    /// Draws what of the shadow falls into `part` of the upright layer.
+    void drawShadow(
+        QPainter& painter, platform::Shadow shadow, const QBrush& fill, const QRect& part
+    ) const;
 
     platform::TextDrawing m_text;
     platform::PixelSize m_uprightSize;

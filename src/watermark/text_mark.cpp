@@ -6,7 +6,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace brenvaldo::watermark {
 
@@ -43,51 +42,90 @@ bool isRepeated(PixelSize cell)
         && std::max(cell.width, cell.height) <= longestDrawnSide;
 }
 
-int reachOf(const std::optional<platform::Shadow>& shadow)
+/// A picture and its place on the photo.
+struct Piece
 {
-    if (!shadow)
-        return 0;
-    return platform::shadowReach(shadow->blurRadius)
-        + std::max(std::abs(shadow->xOffset), std::abs(shadow->yOffset));
+    QImage image;
+    QPoint topLeft;
+
+    [[nodiscard]] QRect area() const { return {topLeft, image.size()}; }
+};
+
+QPoint shiftOf(const platform::Shadow& shadow) { return {shadow.xOffset, -shadow.yOffset}; }
+
+/// Where something that throws a shadow onto `photo` can stand.
+QRect castingOnto(const QRect& photo, const platform::Shadow& shadow)
+{
+    const int reach = platform::shadowReach(shadow.blurRadius);
+    return photo.translated(-shiftOf(shadow)).adjusted(-reach, -reach, reach, reach);
 }
 
-/// `layer` at the strength of the drawing fraction, on an image that is `margin` larger on every
-/// side.
-QImage faded(const QImage& layer, double fraction, int margin)
+/// The shadow that `caster` throws.
+Piece shadowOf(const Piece& caster, platform::Shadow shadow)
 {
-    QImage image = transparent(layer.size() + QSize(2 * margin, 2 * margin));
+    const int reach = platform::shadowReach(shadow.blurRadius);
+    const QPoint topLeft = caster.topLeft + shiftOf(shadow) - QPoint(reach, reach);
+    shadow.xOffset = 0;
+    shadow.yOffset = 0;
+    return {.image = platform::shadowLayer(caster.image, shadow, reach), .topLeft = topLeft};
+}
+
+/// `layer` at the strength of the drawing fraction.
+QImage faded(const QImage& layer, double fraction)
+{
+    QImage image = transparent(layer.size());
     if (image.isNull())
         return image;
     QPainter painter(&image);
     painter.setOpacity(fraction);
-    painter.drawImage(margin, margin, layer);
+    painter.drawImage(0, 0, layer);
     return image;
 }
 
-QImage above(const QImage& shadow, const QImage& object)
+/// Both pieces, the second above the first, as far as the photo shows them.
+Piece composed(const Piece& below, const Piece& above, const QRect& photo)
 {
-    QImage image = shadow;
-    QPainter(&image).drawImage(0, 0, object);
-    return image;
+    const QRect area = photo.intersected(below.area().united(above.area()));
+    QImage image = transparent(area.size());
+    if (image.isNull())
+        return {};
+    QPainter painter(&image);
+    painter.translate(-area.topLeft());
+    painter.drawImage(below.topLeft, below.image);
+    painter.drawImage(above.topLeft, above.image);
+    return {.image = image, .topLeft = area.topLeft()};
+}
+
+Stamp stampOf(const Piece& piece)
+{
+    return {.layer = piece.image, .topLeft = piece.topLeft, .repeat = Stamp::Repeat::Once};
+}
+
+/// The mark that `render` draws into an area of the photo, with its shadow.
+template <class Render>
+Stamp markWithShadow(
+    const std::optional<platform::Shadow>& shadow, const QRect& photo, const Render& render
+)
+{
+    const Piece object = render(photo);
+    if (!shadow)
+        return stampOf(object);
+    return stampOf(composed(shadowOf(render(castingOnto(photo, *shadow)), *shadow), object, photo));
 }
 
 Stamp stampOnce(const TextWatermarkSettings& settings, const TextOverlay& overlay, PixelSize photo)
 {
     const QPoint origin = anchoredOrigin(settings.placement, photo, overlay.size());
     const QPoint topLeft(origin.x(), photo.height - origin.y() - overlay.size().height);
-    const auto shadow = layerShadow(settings);
-    const int margin = reachOf(shadow);
-    const QRect seen = rectOf(photo)
-                           .adjusted(-margin, -margin, margin, margin)
-                           .translated(-topLeft)
-                           .intersected(rectOf(overlay.size()));
-    if (seen.isEmpty())
-        return {};
-    const QImage object = faded(overlay.rendered(seen), settings.opacity, margin);
-    return {
-        .layer = shadow ? above(platform::shadowLayer(object, *shadow, 0), object) : object,
-        .topLeft = topLeft + seen.topLeft() - QPoint(margin, margin),
-        .repeat = Stamp::Repeat::Once};
+    const auto render = [&](const QRect& area) -> Piece {
+        const QRect seen = area.translated(-topLeft).intersected(rectOf(overlay.size()));
+        if (seen.isEmpty())
+            return {};
+        return {
+            .image = faded(overlay.rendered(seen), settings.opacity),
+            .topLeft = topLeft + seen.topLeft()};
+    };
+    return markWithShadow(layerShadow(settings), rectOf(photo), render);
 }
 
 /// Top left corner, on the photo, of one of the cells that cover it.
@@ -115,11 +153,12 @@ Stamp repeatedCell(
         overlayInCell(cell, overlay.size()), overlay.rendered(rectOf(overlay.size()))
     );
     painter.end();
-    const auto shadow = layerShadow(settings);
-    return {
-        .layer = shadow ? above(platform::tiledShadowLayer(image, *shadow), image) : image,
-        .topLeft = {},
-        .repeat = Stamp::Repeat::Tiled};
+    if (const auto shadow = layerShadow(settings)) {
+        const Piece object{.image = image, .topLeft = {}};
+        const Piece cast{.image = platform::tiledShadowLayer(image, *shadow), .topLeft = {}};
+        image = composed(cast, object, object.area()).image;
+    }
+    return {.layer = image, .topLeft = {}, .repeat = Stamp::Repeat::Tiled};
 }
 
 /// The largest of `start`, `start` - `step`, ... that does not lie behind `edge`, one step earlier
@@ -164,14 +203,12 @@ Stamp stampTiled(const TextWatermarkSettings& settings, const TextOverlay& overl
         stamp.topLeft = corner;
         return stamp;
     }
-    const auto shadow = layerShadow(settings);
-    const int margin = reachOf(shadow);
-    const QRect area = rectOf(photo).adjusted(-margin, -margin, margin, margin);
-    const QImage object = faded(cellsOnPhoto(overlay, cell, corner, area), settings.opacity, 0);
-    return {
-        .layer = shadow ? above(platform::shadowLayer(object, *shadow, 0), object) : object,
-        .topLeft = area.topLeft(),
-        .repeat = Stamp::Repeat::Once};
+    const auto render = [&](const QRect& area) -> Piece {
+        return {
+            .image = faded(cellsOnPhoto(overlay, cell, corner, area), settings.opacity),
+            .topLeft = area.topLeft()};
+    };
+    return markWithShadow(layerShadow(settings), rectOf(photo), render);
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 
 #include <panels/text_watermark_controls.h>
 
+#include <algorithm>
+
 namespace brenvaldo::watermark {
 
 namespace {
@@ -40,11 +42,15 @@ platform::TextAlignment alignmentOfSegment(int segment)
 platform::Shadow readShadow(const panels::TextWatermarkControls& controls, double opacity)
 {
     constexpr int defaultOffset = 2;
+    static constexpr int farthest = 1 << 24; // no photo shows a shadow from there
+    const auto offset = [](const controls::TextField& field) {
+        return std::clamp(orDefault(field.intValue(), defaultOffset), -farthest, farthest);
+    };
     const int radius = controls.tfTextShadowRadius.intValue();
     return {
         .color = controls.cwShadowColor.color().withAlpha(opacity),
-        .xOffset = orDefault(controls.tfTextShadowXOffset.intValue(), defaultOffset),
-        .yOffset = orDefault(controls.tfTextShadowYOffset.intValue(), defaultOffset),
+        .xOffset = offset(controls.tfTextShadowXOffset),
+        .yOffset = offset(controls.tfTextShadowYOffset),
         .blurRadius = static_cast<double>(radius < 2 ? 1 : radius)};
 }
 

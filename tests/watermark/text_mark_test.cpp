@@ -199,6 +199,52 @@ TEST(TextMark, EmbossedCastsTheShadowOfItsWholeLayerOnThePhoto)
     EXPECT_EQ(image.pixel(box.center() + QPoint(30, 20)), qRgb(255, 0, 0));
 }
 
+TEST(TextMark, CastsAShadowThatLiesFarFromItsLayer)
+{
+    TextWatermarkSettings settings = whiteBlock();
+    settings.effect = 1;
+    settings.placement = {.anchor = 4, .xOffset = -200, .yOffset = 0, .angle = 0};
+    settings.shadow
+        = platform::Shadow{.color = {.red = 1}, .xOffset = 200, .yOffset = 0, .blurRadius = 0};
+
+    // The layer stands outside of the photo, its shadow in the middle.
+    EXPECT_EQ(markedPhoto(settings).pixel(80, 60), qRgb(255, 0, 0));
+}
+
+TEST(TextMark, WithAShadowOutOfSightIsTheMarkAlone)
+{
+    for (const int effect : {0, 1}) {
+        for (const bool isTiled : {false, true}) {
+            TextWatermarkSettings settings = whiteBlock();
+            settings.effect = effect;
+            settings.isTiled = isTiled && effect == 0;
+            settings.placement.anchor = 4;
+            const QImage plain = markedPhoto(settings);
+            settings.shadow = platform::Shadow{
+                .color = {.red = 1}, .xOffset = 1 << 24, .yOffset = -(1 << 24), .blurRadius = 3};
+
+            EXPECT_EQ(markedPhoto(settings), plain) << effect << ", " << isTiled;
+        }
+    }
+}
+
+TEST(TextMark, WithAShadowOfAnySoftnessHasNoLargerLayerThanThePhoto)
+{
+    const platform::Image photo = plainPhoto();
+    for (const double radius : {1.0, 90.0, 5000.0, 2e9}) {
+        TextWatermarkSettings settings = whiteBlock();
+        settings.effect = 1;
+        settings.placement.anchor = 4;
+        settings.shadow = platform::Shadow{.color = {.red = 1}, .blurRadius = radius};
+
+        const platform::Stamp stamp = textMark(settings, settings.text, blockFont(), photo);
+
+        EXPECT_LE(stamp.layer.width(), photo.width()) << radius;
+        EXPECT_LE(stamp.layer.height(), photo.height()) << radius;
+        EXPECT_FALSE(stamp.layer.isNull()) << radius;
+    }
+}
+
 TEST(TextMark, FilledWithThePhotoShowsItsBottomLeftCorner)
 {
     QImage image(161, 121, QImage::Format_RGB32);

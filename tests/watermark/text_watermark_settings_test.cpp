@@ -44,6 +44,19 @@ TEST(TextWatermarkSettings, ReplaceShadowOffsetsOfZeroOneByOne)
     EXPECT_DOUBLE_EQ(shadow->blurRadius, 1);
 }
 
+TEST(TextWatermarkSettings, KeepShadowOffsetsCountable)
+{
+    panels::WatermarkPanel panel;
+    panel.cbShadowCheck.setState(1);
+    panel.tfTextShadowXOffset.setStringValue(QStringLiteral("2147483647"));
+    panel.tfTextShadowYOffset.setStringValue(QStringLiteral("-2147483648"));
+
+    const auto shadow = readSettings(panel).shadow;
+
+    EXPECT_EQ(shadow->xOffset, 1 << 24);
+    EXPECT_EQ(shadow->yOffset, -(1 << 24));
+}
+
 TEST(TextWatermarkSettings, HaveNoShadowWithoutItsTick)
 {
     panels::WatermarkPanel panel;

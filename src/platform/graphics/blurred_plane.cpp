@@ -68,16 +68,55 @@ void convolve(
     }
 }
 
-void blurRow(
-    const float* row,
-    int width,
-    const std::vector<float>& kernel,
-    Edge edge,
-    std::vector<float>& padded,
-    float* out
-)
+/// Three means in a row, which look like a Gaussian; each is of `radius` samples on both sides.
+class RepeatedMean
 {
-    const int reach = static_cast<int>(kernel.size()) / 2;
+public:
+    explicit RepeatedMean(double sigma)
+        : m_radius(static_cast<int>(std::lround((std::sqrt(4 * sigma * sigma + 1) - 1) / 2)))
+    {
+    }
+
+    [[nodiscard]] int reach() const { return passes * m_radius; }
+
+    /// `out[i]` is the mean of means around `in[i + reach() * step]`, for `count` lines of `step`
+    /// samples. `in` has `2 * reach()` lines more and is used up.
+    void apply(std::vector<float>& in, std::size_t step, float* out, std::size_t count) const
+    {
+        const auto window = static_cast<std::size_t>(2 * m_radius);
+        for (std::size_t pass = passes; pass > 0; --pass)
+            mean(in, step, count + (pass - 1) * window);
+        std::copy_n(in.begin(), count * step, out);
+    }
+
+private:
+    static constexpr int passes = 3;
+
+    /// Replaces each of the first `count` lines by the mean of itself and those behind it.
+    void mean(std::vector<float>& lines, std::size_t step, std::size_t count) const
+    {
+        const auto window = static_cast<std::size_t>(2 * m_radius) + 1;
+        std::vector<double> sums(step);
+        for (std::size_t i = 0; i < (window - 1) * step; ++i)
+            sums[i % step] += static_cast<double>(lines[i]);
+        for (std::size_t line = 0; line < count; ++line) {
+            float* first = lines.data() + line * step;
+            const float* next = first + (window - 1) * step;
+            for (std::size_t i = 0; i < step; ++i) {
+                sums[i] += static_cast<double>(next[i]);
+                const double oldest = static_cast<double>(first[i]);
+                first[i] = static_cast<float>(sums[i] / static_cast<double>(window));
+                sums[i] -= oldest;
+            }
+        }
+    }
+
+    int m_radius;
+};
+
+/// The row with what lies beyond its edges, `reach` samples on both sides.
+void padRow(const float* row, int width, int reach, Edge edge, std::vector<float>& padded)
+{
     const auto beyond = [&](int x) {
         const auto source = sourceOf(x, width, edge);
         return source ? row[*source] : 0.0F;
@@ -88,17 +127,19 @@ void blurRow(
     std::copy_n(row, width, middle);
     for (int x = width; x < width + reach; ++x)
         middle[x] = beyond(x);
-    convolve(padded.data(), 1, kernel, out, static_cast<std::size_t>(width));
 }
 
-/// The rows blurred, with the rows above and below that the blur across them needs.
-Plane rowsBlurred(const Plane& plane, const std::vector<float>& kernel, Edge edge)
+/// The rows blurred, with the rows above and below that the blur across them needs. `blurRow` takes
+/// a padded row, which it may use up, and where the blurred one goes.
+template <class BlurRow>
+Plane rowsBlurred(const Plane& plane, int reach, Edge edge, const BlurRow& blurRow)
 {
-    const int reach = static_cast<int>(kernel.size()) / 2;
     Plane result = emptyPlane(plane.width, plane.height + 2 * reach);
     std::vector<float> padded(static_cast<std::size_t>(plane.width + 2 * reach));
-    for (int y = 0; y < plane.height; ++y)
-        blurRow(plane.row(y), plane.width, kernel, edge, padded, result.row(y + reach));
+    for (int y = 0; y < plane.height; ++y) {
+        padRow(plane.row(y), plane.width, reach, edge, padded);
+        blurRow(padded, result.row(y + reach));
+    }
     const auto fill = [&](int y) {
         if (const auto source = sourceOf(y, plane.height, edge))
             std::copy_n(result.row(*source + reach), plane.width, result.row(y + reach));
@@ -107,6 +148,37 @@ Plane rowsBlurred(const Plane& plane, const std::vector<float>& kernel, Edge edg
         fill(-y);
         fill(plane.height - 1 + y);
     }
+    return result;
+}
+
+Plane blurredByKernel(const Plane& plane, double sigma, Edge edge)
+{
+    const std::vector<float> kernel = gaussianKernel(sigma);
+    const auto width = static_cast<std::size_t>(plane.width);
+    const Plane rows = rowsBlurred(
+        plane,
+        static_cast<int>(kernel.size()) / 2,
+        edge,
+        [&](const std::vector<float>& padded, float* out) {
+            convolve(padded.data(), 1, kernel, out, width);
+        }
+    );
+    Plane result = emptyPlane(plane.width, plane.height);
+    for (int y = 0; y < plane.height; ++y)
+        convolve(rows.row(y), width, kernel, result.row(y), width);
+    return result;
+}
+
+Plane blurredByMeans(const Plane& plane, double sigma, Edge edge)
+{
+    const RepeatedMean means(sigma);
+    const auto width = static_cast<std::size_t>(plane.width);
+    Plane rows
+        = rowsBlurred(plane, means.reach(), edge, [&](std::vector<float>& padded, float* out) {
+              means.apply(padded, 1, out, width);
+          });
+    Plane result = emptyPlane(plane.width, plane.height);
+    means.apply(rows.samples, width, result.row(0), static_cast<std::size_t>(plane.height));
     return result;
 }
 
@@ -123,15 +195,11 @@ Plane emptyPlane(int width, int height)
 
 Plane blurred(const Plane& plane, double sigma, Edge edge)
 {
+    constexpr double longestKernel = 30; // from here on the means are faster, and as smooth
     if (sigma <= 0 || plane.samples.empty())
         return plane;
-    const std::vector<float> kernel = gaussianKernel(sigma);
-    const Plane rows = rowsBlurred(plane, kernel, edge);
-    const auto width = static_cast<std::size_t>(plane.width);
-    Plane result = emptyPlane(plane.width, plane.height);
-    for (int y = 0; y < plane.height; ++y)
-        convolve(rows.row(y), width, kernel, result.row(y), width);
-    return result;
+    return sigma < longestKernel ? blurredByKernel(plane, sigma, edge)
+                                 : blurredByMeans(plane, sigma, edge);
 }
 
 } // namespace brenvaldo::platform

@@ -33,8 +33,8 @@ enum class Edge {
     Repeated ///< the samples of the edge
 };
 
-/// The plane blurred with a Gaussian of `sigma` pixels, which ends at 3 sigma; 0 leaves it as it
-/// is.
+/// The plane blurred with a Gaussian of `sigma` pixels, which ends at about 3 sigma; 0 leaves it as
+/// it is.
 [[nodiscard]] Plane blurred(const Plane& plane, double sigma, Edge edge);
 
 } // namespace brenvaldo::platform

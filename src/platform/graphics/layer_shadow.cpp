@@ -10,6 +10,9 @@ namespace brenvaldo::platform {
 
 namespace {
 
+/// Blur radii beyond this look like it: the shadow has dissolved.
+constexpr double softest = 1000;
+
 int wrapped(int value, int size) { return ((value % size) + size) % size; }
 
 Plane shiftedAlpha(const QImage& object, QPoint shift, int width, int height, Edge edge)
@@ -64,12 +67,15 @@ shadowOf(const QImage& object, const Shadow& shadow, QPoint shift, int width, in
 {
     const QImage premultiplied = object.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const Plane alpha = shiftedAlpha(premultiplied, shift, width, height, edge);
-    return colored(blurred(alpha, shadow.blurRadius / 2, edge), shadow.color);
+    return colored(blurred(alpha, std::min(shadow.blurRadius, softest) / 2, edge), shadow.color);
 }
 
 } // namespace
 
-int shadowReach(double blurRadius) { return static_cast<int>(std::ceil(1.5 * blurRadius)); }
+int shadowReach(double blurRadius)
+{
+    return static_cast<int>(std::ceil(1.5 * std::min(blurRadius, softest)));
+}
 
 QImage shadowLayer(const QImage& object, const Shadow& shadow, int margin)
 {
