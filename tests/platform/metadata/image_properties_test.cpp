@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/metadata/exif_root_fields.h>
 #include <platform/metadata/image_properties.h>
+#include <platform/metadata/tiff_blocks.h>
 #include <support/exif_block.h>
 #include <support/iptc_block.h>
 #include <support/photo_builder.h>
@@ -48,6 +50,19 @@ TEST(ImageProperties, ShowAlphaOnlyWhereThereIsSome)
         propertiesOf(PhotoBuilder(png).model(PhotoModel::RgbAlpha)).text(property::hasAlpha),
         u"1"_qs
     );
+}
+
+TEST(ImageProperties, ShowTheIptcOfAHeic)
+{
+    TiffDirectory fields;
+    setBlock(fields, tiff::Iptc, iptcDataSet(105, "A headline"));
+    const QByteArray exif = withRootFields(exifBlock({.make = "Brand"}), fields);
+
+    const PropertyDictionary properties
+        = propertiesOf(PhotoBuilder{}.format(PhotoFormat::Heic).exif(exif));
+
+    EXPECT_EQ(nested(properties, property::iptcDictionary, u"Headline"_qs), u"A headline"_qs);
+    EXPECT_EQ(nested(properties, property::tiffDictionary, u"Make"_qs), u"Brand"_qs);
 }
 
 TEST(ImageProperties, ShowAResolutionOnlyWhereTheFileStatesOne)
