@@ -47,7 +47,7 @@ QTransform TextLayer::toTurnedLayer() const
     // What the canvas has beyond the bounds lies at the right and at the top.
     transform.translate(m_bounds.width() / 2, m_size.height - m_bounds.height() / 2);
     // The painter's y axis runs down: its positive angles turn clockwise.
-    transform.rotate(-m_angle);
+    transform.rotate(-static_cast<double>(m_angle));
     transform.translate(-m_uprightSize.width / 2.0, -m_uprightSize.height / 2.0);
     return transform;
 }

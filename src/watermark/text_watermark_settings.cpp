@@ -15,6 +15,13 @@ constexpr int lastNumberedTexture = 6;
 
 int orDefault(int value, int fallback) { return value == 0 ? fallback : value; }
 
+/// Larger offsets count as the largest that a layer can be moved by and still touch a photo.
+int offsetOf(const controls::TextField& field)
+{
+    constexpr int farthest = 1 << 24;
+    return std::clamp(field.intValue(), -farthest, farthest);
+}
+
 platform::UnderlineStyle underlineOfIndex(int index)
 {
     switch (index) {
@@ -42,15 +49,11 @@ platform::TextAlignment alignmentOfSegment(int segment)
 platform::Shadow readShadow(const panels::TextWatermarkControls& controls, double opacity)
 {
     constexpr int defaultOffset = 2;
-    static constexpr int farthest = 1 << 24; // no photo shows a shadow from there
-    const auto offset = [](const controls::TextField& field) {
-        return std::clamp(orDefault(field.intValue(), defaultOffset), -farthest, farthest);
-    };
     const int radius = controls.tfTextShadowRadius.intValue();
     return {
         .color = controls.cwShadowColor.color().withAlpha(opacity),
-        .xOffset = offset(controls.tfTextShadowXOffset),
-        .yOffset = offset(controls.tfTextShadowYOffset),
+        .xOffset = orDefault(offsetOf(controls.tfTextShadowXOffset), defaultOffset),
+        .yOffset = orDefault(offsetOf(controls.tfTextShadowYOffset), defaultOffset),
         .blurRadius = static_cast<double>(radius < 2 ? 1 : radius)};
 }
 
@@ -87,8 +90,8 @@ TextWatermarkSettings readSettings(panels::TextWatermarkControls& controls)
         .effect = controls.pubWatermarkTextEffect.indexOfSelectedItem(),
         .placement
         = {.anchor = controls.scWaterMarkPos.selectedSegment(),
-           .xOffset = controls.tfXOffset.intValue(),
-           .yOffset = controls.tfYOffset.intValue(),
+           .xOffset = offsetOf(controls.tfXOffset),
+           .yOffset = offsetOf(controls.tfYOffset),
            .angle = controls.tfWMAngle.intValue()},
         .isTiled = controls.cbTextPatternCheck.isOn()};
     if (controls.cbShadowCheck.isOn())

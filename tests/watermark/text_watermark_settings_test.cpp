@@ -57,6 +57,18 @@ TEST(TextWatermarkSettings, KeepShadowOffsetsCountable)
     EXPECT_EQ(shadow->yOffset, -(1 << 24));
 }
 
+TEST(TextWatermarkSettings, KeepOffsetsOfTheMarkCountable)
+{
+    panels::WatermarkPanel panel;
+    panel.tfXOffset.setStringValue(QStringLiteral("-2147483648"));
+    panel.tfYOffset.setStringValue(QStringLiteral("2147483647"));
+
+    const Placement placement = readSettings(panel).placement;
+
+    EXPECT_EQ(placement.xOffset, -(1 << 24));
+    EXPECT_EQ(placement.yOffset, 1 << 24);
+}
+
 TEST(TextWatermarkSettings, HaveNoShadowWithoutItsTick)
 {
     panels::WatermarkPanel panel;
