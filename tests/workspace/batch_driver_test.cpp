@@ -218,6 +218,21 @@ TEST_F(BatchDriver, TakesTickedPhotosOfTheOrientationInTheOrderOfTheList)
     );
 }
 
+TEST_F(BatchDriver, SkipsTickedEntriesThatAreNoPhotos)
+{
+    select("textWM");
+    chooseDestination();
+    photos.append(nonPhoto(u"/in/notes.txt"_qs));
+    addPhotos({u"a.jpg"_qs});
+    QStringList taken;
+    subsystems.operations.setWatermarkText
+        = [&](const watermark::WatermarkRun& run, const auto&) { taken = run.photos; };
+
+    run();
+
+    EXPECT_EQ(taken, QStringList{u"/in/a.jpg"_qs});
+}
+
 TEST_F(BatchDriver, StartsTheNumberingAfresh)
 {
     workspace::cKeepNumber::sharedNumber().myNumberString = u"17"_qs;
@@ -432,6 +447,55 @@ TEST_F(BatchDriver, TakesThePhotosOwnSizeForACropWithoutSize)
     EXPECT_EQ(crop.size, (platform::PixelSize{30, 40}));
     EXPECT_EQ(crop.cropType, u"W x H"_qs);
     EXPECT_EQ(crop.anchor, 4);
+}
+
+TEST_F(BatchDriver, ReadsTheSettingsOfATint)
+{
+    select("addTint");
+    panels.window.pubEditPhoto.selectIndex(1);
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    panels::TintPanel& panel = panels.vwAddTint;
+    panel.cwAddTint.setColor({.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 0.5});
+    panel.pubAddTintRenderMethod.selectIndex(2);
+    panel.cbAddTintDuoTone.setState(1);
+    panel.scAddTintPosition.setSelectedSegment(5);
+    panel.tfAddTintPosX.setStringValue(u"-3"_qs);
+    panel.tfAddTintPosY.setStringValue(u"4"_qs);
+    panel.tfAddTintWidth.setStringValue(u"50"_qs);
+    panel.tfAddTintHeight.setStringValue(u"60"_qs);
+    panel.cbAddTintOrigSize.setState(0);
+    panel.tfAddTintPercentage.setStringValue(u"70"_qs);
+    panel.tfAddTintPixels.setStringValue(u"80"_qs);
+    panel.pubAddTintPercentageOrient.selectIndex(1);
+    panel.cbAddTintGradient.setState(1);
+    panel.pubAddTintAngle.selectIndex(3);
+    panel.tfAddTintOpacity.setStringValue(u"90"_qs);
+    workspace::TintSettings seen;
+    subsystems.operations.addTintToImage2
+        = [&](const auto&, const workspace::TintSettings& settings, const auto&) {
+              seen = settings;
+              return u"OK"_qs;
+          };
+
+    run();
+
+    EXPECT_EQ(seen.colour, (platform::Color{.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1}));
+    EXPECT_EQ(seen.blendIndex, 2);
+    EXPECT_EQ(seen.duoToneState, 1);
+    EXPECT_EQ(seen.anchor, 5);
+    EXPECT_EQ(seen.xOffset, -3);
+    EXPECT_EQ(seen.yOffset, 4);
+    EXPECT_EQ(seen.sizeMode, panel.tbvFrameType.selectedLabel());
+    EXPECT_EQ(seen.width, 50);
+    EXPECT_EQ(seen.height, 60);
+    EXPECT_EQ(seen.originalSizeState, 0);
+    EXPECT_EQ(seen.percentage, 70);
+    EXPECT_EQ(seen.pixels, 80);
+    EXPECT_EQ(seen.percentageMode, 1);
+    EXPECT_EQ(seen.gradientState, 1);
+    EXPECT_EQ(seen.angleIndex, 3);
+    EXPECT_EQ(seen.opacity, 90);
 }
 
 TEST_F(BatchDriver, HandsTheWholeListToTheWatermark)

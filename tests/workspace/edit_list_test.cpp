@@ -136,6 +136,17 @@ TEST_F(EditList, SortsWithASelectionOnly)
     EXPECT_EQ(listedNames(), (QStringList{u"C.jpg"_qs, u"b.jpg"_qs, u"a.jpg"_qs}));
 }
 
+TEST_F(EditList, ShowsThePhotoThatSortingBringsToTheSelectedPlace)
+{
+    collectionView.hDroppedPhotos({photo(u"b.jpg"_qs, 50, 30), photo(u"a.jpg"_qs, 40, 30)});
+    ASSERT_EQ(photos.selectedIndex(), 0);
+
+    actions.send(u"setSortingModeAz"_qs);
+
+    ASSERT_TRUE(panels.window.myTemplatePreview.image());
+    EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 40);
+}
+
 TEST_F(EditList, StoresANewName)
 {
     fill({u"a.jpg"_qs, u"b.jpg"_qs});
