@@ -137,6 +137,7 @@ QWidget* MainWindow::photoArea()
     splitter->addWidget(list);
     splitter->setStretchFactor(0, 16);
     splitter->setStretchFactor(1, 9);
+    splitter->setSizes({640, 360});
     return splitter;
 }
 

@@ -259,6 +259,21 @@ TEST_F(MainWindow, OpensNoLargerThanTheScreen)
     EXPECT_TRUE(window->isMaximized());
 }
 
+TEST_F(MainWindow, GivesThePreviewMostOfTheHeightAndTheGridTwoRowsWhereThereIsRoom)
+{
+    window->resize(1600, 1000);
+    settle();
+    const auto* grid = find<views::PhotoGrid>(u"myPhotoCollectionView"_qs);
+    const int preview = find(u"myTemplatePreview"_qs)->height();
+    EXPECT_GE(grid->height(), 2 * grid->gridSize().height() - 10);
+    EXPECT_GT(preview, 1.5 * grid->height());
+
+    window->resize(1280, 720);
+    settle();
+    EXPECT_GE(grid->height(), grid->gridSize().height());
+    EXPECT_GT(find(u"myTemplatePreview"_qs)->height(), 1.5 * grid->height());
+}
+
 TEST_F(MainWindow, FillsTheScreenByKeyAndGoesBackByEscape)
 {
     window->setGeometry(20, 30, 1280, 640);
