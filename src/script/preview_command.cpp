@@ -17,6 +17,9 @@ bool writePng(const platform::Image& picture, const QString& path)
         && file.commit();
 }
 
+/// False for a damaged photo, which leaves the preview area empty.
+bool canBeDrawn(const platform::Image& picture) { return picture.copiedToMemory().has_value(); }
+
 class PreviewCommand : public Command
 {
 public:
@@ -25,14 +28,14 @@ public:
     [[nodiscard]] Misunderstanding run(const QStringList& arguments) const override
     {
         const auto picture = workspace().composedPreview();
-        if (!picture) {
-            print(QStringLiteral("preview"), {QStringLiteral("empty")});
-            return std::nullopt;
-        }
         const QString path = absolutePath(arguments.first());
-        if (!writePng(*picture, path))
+        const bool isWritten = picture && writePng(*picture, path);
+        if (picture && !isWritten && canBeDrawn(*picture))
             return QStringLiteral("the preview can't be written to \"%1\"").arg(path);
-        print(QStringLiteral("preview"), {QStringLiteral("shown")});
+        print(
+            QStringLiteral("preview"),
+            {isWritten ? QStringLiteral("shown") : QStringLiteral("empty")}
+        );
         return std::nullopt;
     }
 };

@@ -276,6 +276,22 @@ TEST_F(ScriptRun, RefusesAPreviewThatCannotBeWritten)
     EXPECT_EQ(outcome.errors, u"line 3: the preview can't be written to \"%1\"\n"_qs.arg(path));
 }
 
+TEST_F(ScriptRun, ShowsNothingOfADamagedPhotoAndGoesOn)
+{
+    const QByteArray whole = PhotoBuilder().size(220, 90).bytes();
+    const QString damaged = files().write(u"damaged.jpg"_qs, whole.left(whole.size() / 2));
+    const QString preview = folder() + u"preview.png"_qs;
+
+    const auto outcome
+        = run(lines({u"open "_qs + damaged, u"select 0"_qs, u"preview "_qs + preview, u"photos"_qs})
+        );
+
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.lines.value(0), u"preview\tempty"_qs);
+    EXPECT_EQ(outcome.lines.size(), 2);
+    EXPECT_FALSE(QFile::exists(preview));
+}
+
 TEST_F(ScriptRun, TellsWhichPanelStandsInTheWindow)
 {
     const auto outcome = run(lines(
