@@ -15,6 +15,7 @@ namespace {
 
 constexpr int margin = 3;
 constexpr int textMargin = 8; ///< between the edge of the cell and its texts
+constexpr int sizeReach = 4; ///< into that margin; "4608x3456px | 724.52KB" has to fit
 constexpr int cellWidth = 144;
 constexpr int pictureTop = 10;
 constexpr int tickSide = 16;
@@ -72,6 +73,7 @@ void paintTexts(
     painter.setPen(isTicked ? colours().text : colours().muted);
     paintLine(painter, line, index.data().toString(), Qt::ElideMiddle);
     line.translate(0, height);
+    line.adjust(-sizeReach, 0, sizeReach, 0);
     painter.setFont(scaledFont(option.font, smallScale));
     const bool isRenamed = !newName.isEmpty();
     painter.setPen(isRenamed ? colours().accent : colours().muted);
