@@ -370,12 +370,15 @@ TEST(ResizeToBox, StretchesThePhotoWithoutTheAspectCheck)
 {
     const Resizing files(corners(300, 400));
     DVImageHandling handling;
+    constexpr int mixed = -1;
 
-    const ResultWord word
-        = handling.hScalePhotosWidthAndHeight(files.photo(), {100, 50}, stretched, pngTail());
+    for (const int state : {stretched, mixed}) {
+        const ResultWord word
+            = handling.hScalePhotosWidthAndHeight(files.photo(), {100, 50}, state, pngTail());
 
-    EXPECT_EQ(word, ResultWord::Ok);
-    EXPECT_EQ(cornerColors(files.output()), "RGBW");
+        EXPECT_EQ(word, ResultWord::Ok);
+        EXPECT_EQ(cornerColors(files.output()), "RGBW");
+    }
 }
 
 TEST(ResizeToBox, AnswersTheWordOfThePhotoBeforeWhenNothingCanBeDrawn)

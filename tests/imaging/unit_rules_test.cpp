@@ -32,10 +32,12 @@ const UnitCase unitCases[] = {
     {"MillimetreTruncates", 9.99F, u"mm"_qs, 300, 117}, // 117.99
     {"Centimetre", 1.0F, u"cm"_qs, 300, 118},
     {"CentimetreTruncates", 0.5F, u"cm"_qs, 72, 14}, // 14.17
+    {"CentimetreGainsInSinglePrecision", 12.7F, u"cm"_qs, 72, 360}, // 359.99
     {"Inch", 2.0F, u"inch"_qs, 300, 600},
     {"InchLosesInSinglePrecision", 1.0F, u"inch"_qs, 72, 71},
     {"PicaRoundsDown", 1.0F, u"pica"_qs, 300, 50}, // 49.81
     {"PicaRounds", 1.0F, u"pica"_qs, 72, 12}, // 11.95
+    {"PicaNarrowsBeforeItRounds", 388.375F, u"pica"_qs, 79, 5095}, // 5094.4999
     {"NegativePicaRounds", -1.0F, u"pica"_qs, 72, -12},
     {"Punt", 13.0F, u"punt"_qs, 300, 54}, // 54.17
     {"PuntLosesInSinglePrecision", 12.0F, u"punt"_qs, 300, 49},

@@ -449,6 +449,101 @@ TEST_F(BatchDriver, TakesThePhotosOwnSizeForACropWithoutSize)
     EXPECT_EQ(crop.anchor, 4);
 }
 
+TEST_F(BatchDriver, ReadsTheSettingsOfACrop)
+{
+    select("cropPhotos");
+    panels.window.pubEditPhoto.selectIndex(9);
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    panels::CropPanel& panel = panels.vwCropPhotos;
+    panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"10"_qs);
+    panel.dvVCUiCropWxHView.tfCropHeight.setStringValue(u"20"_qs);
+    panel.dvVCUiCropMinusView.tfCropCutOff.setStringValue(u"3"_qs);
+    panel.dvVCUiCropPositionView.tfXcropOffset.setStringValue(u"4"_qs);
+    panel.dvVCUiCropPositionView.tfYcropOffset.setStringValue(u"-5"_qs);
+    workspace::CropSettings crop;
+    subsystems.operations.hCropPhotos
+        = [&](const auto&, const workspace::CropSettings& settings, const auto&) {
+              crop = settings;
+              return u"OK"_qs;
+          };
+
+    run();
+
+    EXPECT_EQ(crop.size, (platform::PixelSize{10, 20}));
+    EXPECT_EQ(crop.cutOff, 3);
+    EXPECT_EQ(crop.xOffset, 4);
+    EXPECT_EQ(crop.yOffset, -5);
+}
+
+TEST_F(BatchDriver, ReadsTheBoxOfAResize)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    panels.vwResizePhotos.pubScaleType.selectIndex(1);
+    panels::ScaleFixView& view = panels.vwResizePhotos.dvVCUiScaleFixView;
+    view.tfScaleFixWidth.setStringValue(u"10"_qs);
+    view.tfScaleFixHeight.setStringValue(u"20"_qs);
+    platform::PixelSize seen;
+    QList<int> states;
+    subsystems.operations.hScalePhotosWidthAndHeight
+        = [&](const auto&, platform::PixelSize box, int aspectState, const auto&) {
+              seen = box;
+              states.append(aspectState);
+              return u"OK"_qs;
+          };
+
+    for (const int state : {0, 1}) {
+        view.cbScaleAspectRatio.setState(state);
+        run();
+    }
+
+    EXPECT_EQ(seen, (platform::PixelSize{10, 20}));
+    EXPECT_EQ(states, (QList<int>{0, 1}));
+}
+
+TEST_F(BatchDriver, ReadsTheCommentOfAPhoto)
+{
+    select("batchExifUC");
+    addPhotos({u"a.jpg"_qs});
+    panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"At sea"_qs);
+    QList<QStringList> calls;
+    subsystems.operations.hSetExifData
+        = [&](const QString& path, const QString& comment, int clear) {
+              calls.append({path, comment, QString::number(clear)});
+              return u"OK"_qs;
+          };
+
+    for (const int state : {0, 1}) {
+        panels.vwFileManagementEXIF.cbClearBeforeAdd.setState(state);
+        run();
+    }
+
+    EXPECT_EQ(
+        calls,
+        (QList<QStringList>{
+            {u"/in/a.jpg"_qs, u"At sea"_qs, u"0"_qs}, {u"/in/a.jpg"_qs, u"At sea"_qs, u"1"_qs}})
+    );
+}
+
+TEST_F(BatchDriver, MarksWithAPictureOnEveryTabButThatOfTexts)
+{
+    select("textWM");
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    panels.vwWatermark.tbvWatermarkType.selectIndex(1);
+    int texts = 0;
+    int pictures = 0;
+    subsystems.operations.setWatermarkText = [&](const auto&, const auto&) { ++texts; };
+    subsystems.operations.setWatermarkImage = [&](const auto&, const auto&) { ++pictures; };
+
+    run();
+
+    EXPECT_EQ(texts, 0);
+    EXPECT_EQ(pictures, 1);
+}
+
 TEST_F(BatchDriver, ReadsTheSettingsOfATint)
 {
     select("addTint");
@@ -569,6 +664,7 @@ TEST_F(BatchDriver, ConvertsEveryTickedEntry)
     QStringList targets;
     subsystems.operations.hConvertFileType = [&](const workspace::Conversion& conversion) {
         targets.append(conversion.target);
+        EXPECT_EQ(conversion.compressionLevel, u"9"_qs);
         return u"OK"_qs;
     };
 
@@ -629,6 +725,8 @@ TEST_F(BatchDriver, UploadsWithTheSelectedAlbum)
     addPhotos({u"a.jpg"_qs});
     panels::SortingPanel& panel = panels.vwFileManagementSorting;
     panel.tfAddKeyword.setStringValue(u"sea"_qs);
+    panel.tfAddTitle.setStringValue(u"Title"_qs);
+    panel.tfAddDescription.setStringValue(u"Description"_qs);
     panel.cbAddToFavorite.setState(1);
     panel.theApplePhotosData.setObjects({{u"Holiday"_qs}, {u"Work"_qs}});
     QList<workspace::PhotoUpload> uploads;
@@ -645,6 +743,8 @@ TEST_F(BatchDriver, UploadsWithTheSelectedAlbum)
     EXPECT_EQ(uploads.at(0).album, QString());
     EXPECT_EQ(uploads.at(1).album, u"Work"_qs);
     EXPECT_EQ(uploads.at(1).keyword, u"sea"_qs);
+    EXPECT_EQ(uploads.at(1).title, u"Title"_qs);
+    EXPECT_EQ(uploads.at(1).description, u"Description"_qs);
     EXPECT_EQ(uploads.at(1).favourite, u"1"_qs);
 }
 
