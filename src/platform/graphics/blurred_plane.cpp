@@ -83,7 +83,7 @@ public:
     /// samples. `in` has `2 * reach()` lines more and is used up.
     void apply(std::vector<float>& in, std::size_t step, float* out, std::size_t count) const
     {
-        const auto window = static_cast<std::size_t>(2 * m_radius);
+        const auto window = 2 * static_cast<std::size_t>(m_radius);
         for (std::size_t pass = passes; pass > 0; --pass)
             mean(in, step, count + (pass - 1) * window);
         std::copy_n(in.begin(), count * step, out);
@@ -95,7 +95,7 @@ private:
     /// Replaces each of the first `count` lines by the mean of itself and those behind it.
     void mean(std::vector<float>& lines, std::size_t step, std::size_t count) const
     {
-        const auto window = static_cast<std::size_t>(2 * m_radius) + 1;
+        const auto window = 2 * static_cast<std::size_t>(m_radius) + 1;
         std::vector<double> sums(step);
         for (std::size_t i = 0; i < (window - 1) * step; ++i)
             sums[i % step] += static_cast<double>(lines[i]);
@@ -104,7 +104,7 @@ private:
             const float* next = first + (window - 1) * step;
             for (std::size_t i = 0; i < step; ++i) {
                 sums[i] += static_cast<double>(next[i]);
-                const double oldest = static_cast<double>(first[i]);
+                const auto oldest = static_cast<double>(first[i]);
                 first[i] = static_cast<float>(sums[i] / static_cast<double>(window));
                 sums[i] -= oldest;
             }
