@@ -27,9 +27,9 @@ constexpr std::array<CopyType, 7> copyTypes = {{
     {"pdf", platform::FileFormat::Pdf, Pixels::Upright, Metadata::Dropped},
     {"png", platform::FileFormat::Png, Pixels::Stored, Metadata::Kept},
     {"tiff", platform::FileFormat::Tiff, Pixels::Stored, Metadata::Kept},
-    {"bmp", platform::FileFormat::Bmp, Pixels::Upright, Metadata::Dropped},
-    {"gif", platform::FileFormat::Gif, Pixels::Upright, Metadata::Dropped},
-    {"jp2", platform::FileFormat::Jpeg2000, Pixels::Upright, Metadata::Dropped},
+    {"bmp", platform::FileFormat::Bmp, Pixels::Stored, Metadata::Dropped},
+    {"gif", platform::FileFormat::Gif, Pixels::Stored, Metadata::Dropped},
+    {"jp2", platform::FileFormat::Jpeg2000, Pixels::Stored, Metadata::Dropped},
     {"jpeg", platform::FileFormat::Jpeg, Pixels::Stored, Metadata::Kept},
 }};
 

@@ -24,8 +24,8 @@ struct PhotoCopy
 /// Writes the copy whole or not at all; an existing target is replaced.
 ///
 /// PNG, TIFF and JPEG keep the stored pixels and the metadata, the orientation among them; the
-/// other image types get the upright pixels alone, a PDF a page with them. False for another type,
-/// and when the photo can't be read or the target not be written.
+/// other image types get the stored pixels alone, a PDF a page with the upright photo. False for
+/// another type, and when the photo can't be read or the target not be written.
 [[nodiscard]] bool writePhotoCopy(const PhotoCopy& copy);
 
 } // namespace brenvaldo::files

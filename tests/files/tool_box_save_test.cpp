@@ -161,21 +161,6 @@ TEST_F(PhotoCopyPanel, WritesEveryImageType)
     }
 }
 
-TEST_F(PhotoCopyPanel, ShowsATurnedPhotoUprightInEveryImageType)
-{
-    const QString turned
-        = PhotoBuilder().size(48, 32).corners().orientation(6).write(folder.path(u"turned.jpg"_qs));
-    for (const QString& type :
-         {u"png"_qs, u"tiff"_qs, u"bmp"_qs, u"gif"_qs, u"jp2"_qs, u"jpeg"_qs}) {
-        answer(u"copy"_qs, type);
-
-        box.hSaveDialogFile(turned);
-
-        const QImage shown = uprightPixels(folder.path(u"copy."_qs + type));
-        EXPECT_EQ(cornerColors(shown), "BRWG") << type.toStdString();
-    }
-}
-
 TEST_F(PhotoCopyPanel, WritesPdfAndJpeg2000)
 {
     answer(u"copy"_qs, u"pdf"_qs);
