@@ -17,25 +17,19 @@ namespace {
 
 using Route = ConversionRule::Route;
 using Quality = ConversionRule::Quality;
-using Pixels = ConversionRule::Pixels;
 
 /// In the order in which a type identifier is tested.
 const std::array<ConversionRule, 8>& conversionRules()
 {
-    constexpr auto byDefault = Quality::PlatformDefault;
     static const std::array<ConversionRule, 8> rules{{
-        {QStringLiteral("pdf"), FileFormat::Pdf, Route::Plain, byDefault, Pixels::Upright},
-        {QStringLiteral("png"), FileFormat::Png, Route::Metadata, byDefault, Pixels::Stored},
-        {QStringLiteral("tiff"), FileFormat::Tiff, Route::Metadata, byDefault, Pixels::Stored},
-        {QStringLiteral("bmp"), FileFormat::Bmp, Route::Plain, byDefault, Pixels::Upright},
-        {QStringLiteral("gif"), FileFormat::Gif, Route::Plain, byDefault, Pixels::Upright},
-        {QStringLiteral("jpeg"),
-         FileFormat::Jpeg,
-         Route::Plain,
-         Quality::FromLevel,
-         Pixels::Upright},
-        {QStringLiteral("jp2"), FileFormat::Jpeg2000, Route::Plain, byDefault, Pixels::Upright},
-        {QStringLiteral("heic"), FileFormat::Heic, Route::Metadata, byDefault, Pixels::Upright},
+        {QStringLiteral("pdf"), FileFormat::Pdf, Route::Plain, Quality::PlatformDefault},
+        {QStringLiteral("png"), FileFormat::Png, Route::Metadata, Quality::PlatformDefault},
+        {QStringLiteral("tiff"), FileFormat::Tiff, Route::Metadata, Quality::PlatformDefault},
+        {QStringLiteral("bmp"), FileFormat::Bmp, Route::Plain, Quality::PlatformDefault},
+        {QStringLiteral("gif"), FileFormat::Gif, Route::Plain, Quality::PlatformDefault},
+        {QStringLiteral("jpeg"), FileFormat::Jpeg, Route::Plain, Quality::FromLevel},
+        {QStringLiteral("jp2"), FileFormat::Jpeg2000, Route::Plain, Quality::PlatformDefault},
+        {QStringLiteral("heic"), FileFormat::Heic, Route::Metadata, Quality::PlatformDefault},
     }};
     return rules;
 }

@@ -17,16 +17,11 @@ struct ConversionRule
         Metadata ///< with the source's metadata; a failure leaves an empty file
     };
     enum class Quality { PlatformDefault, FromLevel };
-    enum class Pixels {
-        Stored, ///< the orientation travels as a tag that readers of the format apply
-        Upright ///< the file states no orientation, or one that readers ignore
-    };
 
     QString suffix; ///< end of the type identifier, and the extension of the file
     platform::FileFormat format = platform::FileFormat::Png;
     Route route = Route::Plain;
     Quality quality = Quality::PlatformDefault;
-    Pixels pixels = Pixels::Upright;
 };
 
 /// The rule of the first suffix, in their fixed order, that ends `typeIdentifier`.

@@ -24,18 +24,16 @@ QString nameWithoutExtension(const QString& path)
     return platform::deletingPathExtension(platform::lastPathComponent(path));
 }
 
-std::optional<platform::Image> openedPhoto(const QString& path, ConversionRule::Pixels pixels)
+std::optional<platform::Image> storedPhoto(const QString& path)
 {
     const auto source = ImageSource::open(path);
-    if (!source)
-        return std::nullopt;
-    return pixels == ConversionRule::Pixels::Stored ? source->image() : source->uprightImage();
+    return source ? source->image() : std::nullopt;
 }
 
 /// True when every pixel of the photo can be computed.
 bool isWhole(const QString& path)
 {
-    const auto photo = openedPhoto(path, ConversionRule::Pixels::Stored);
+    const auto photo = storedPhoto(path);
     return photo && photo->scaledTo({1, 1}).copiedToMemory();
 }
 
@@ -43,7 +41,7 @@ bool writeConverted(
     const FileConversion::Settings& settings, const ConversionRule& rule, const QString& target
 )
 {
-    const auto image = openedPhoto(settings.source, rule.pixels);
+    const auto image = storedPhoto(settings.source);
     if (!image)
         return false;
 

@@ -18,10 +18,9 @@ struct ConversionResult
     ResultWord word = ResultWord::Failed; ///< "OK" when the whole file stands
 };
 
-/// Converts photos from file to file, without an image operation.
+/// Converts photos from file to file: stored pixels, no image operation.
 ///
-/// A photo shows as before: PNG and TIFF keep the stored pixels with the orientation as a tag, the
-/// other types get the upright pixels.
+/// The orientation is not applied; types of the metadata route keep it as a tag.
 class FileConversion
 {
 public:

@@ -14,7 +14,6 @@ namespace {
 
 using Route = ConversionRule::Route;
 using Quality = ConversionRule::Quality;
-using Pixels = ConversionRule::Pixels;
 
 struct ConversionCase
 {
@@ -23,7 +22,6 @@ struct ConversionCase
     QString word;
     FileFormat format;
     Route route;
-    Pixels pixels;
 };
 
 void PrintTo(const ConversionCase& conversionCase, std::ostream* out)
@@ -36,14 +34,14 @@ class ConversionTable : public testing::TestWithParam<ConversionCase>
 };
 
 const ConversionCase conversionCases[] = {
-    {"Pdf", u"public.pdf"_qs, u"pdf"_qs, FileFormat::Pdf, Route::Plain, Pixels::Upright},
-    {"Png", u"public.png"_qs, u"png"_qs, FileFormat::Png, Route::Metadata, Pixels::Stored},
-    {"Tiff", u"public.tiff"_qs, u"tiff"_qs, FileFormat::Tiff, Route::Metadata, Pixels::Stored},
-    {"Bmp", u"com.microsoft.bmp"_qs, u"bmp"_qs, FileFormat::Bmp, Route::Plain, Pixels::Upright},
-    {"Gif", u"com.compuserve.gif"_qs, u"gif"_qs, FileFormat::Gif, Route::Plain, Pixels::Upright},
-    {"Jpeg", u"public.jpeg"_qs, u"jpeg"_qs, FileFormat::Jpeg, Route::Plain, Pixels::Upright},
-    {"Jpeg2000", u"public.jp2"_qs, u"jp2"_qs, FileFormat::Jpeg2000, Route::Plain, Pixels::Upright},
-    {"Heic", u"public.heic"_qs, u"heic"_qs, FileFormat::Heic, Route::Metadata, Pixels::Upright},
+    {"Pdf", u"public.pdf"_qs, u"pdf"_qs, FileFormat::Pdf, Route::Plain},
+    {"Png", u"public.png"_qs, u"png"_qs, FileFormat::Png, Route::Metadata},
+    {"Tiff", u"public.tiff"_qs, u"tiff"_qs, FileFormat::Tiff, Route::Metadata},
+    {"Bmp", u"com.microsoft.bmp"_qs, u"bmp"_qs, FileFormat::Bmp, Route::Plain},
+    {"Gif", u"com.compuserve.gif"_qs, u"gif"_qs, FileFormat::Gif, Route::Plain},
+    {"Jpeg", u"public.jpeg"_qs, u"jpeg"_qs, FileFormat::Jpeg, Route::Plain},
+    {"Jpeg2000", u"public.jp2"_qs, u"jp2"_qs, FileFormat::Jpeg2000, Route::Plain},
+    {"Heic", u"public.heic"_qs, u"heic"_qs, FileFormat::Heic, Route::Metadata},
 };
 
 struct QualityCase
@@ -78,7 +76,6 @@ TEST_P(ConversionTable, TakesTheSuffixOfATypeIdentifier)
     ASSERT_TRUE(rule);
     EXPECT_EQ(rule->format, row.format);
     EXPECT_EQ(rule->route, row.route);
-    EXPECT_EQ(rule->pixels, row.pixels);
     EXPECT_EQ(
         rule->quality,
         row.format == FileFormat::Jpeg ? Quality::FromLevel : Quality::PlatformDefault

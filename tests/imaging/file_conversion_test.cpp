@@ -90,7 +90,7 @@ TEST_P(FileConversionTable, WritesTheFormatOfTheType)
     EXPECT_EQ(filesOf(folder), (QStringList{u"out."_qs + row.word, u"photo.JPG"_qs}));
 }
 
-TEST_P(FileConversionTable, KeepsMetadataOfTheirRouteAlone)
+TEST_P(FileConversionTable, WorksOnStoredPixelsAndKeepsTheTagWithTheMetadata)
 {
     const ConversionCase& row = GetParam();
     if (isPdf(row))
@@ -105,46 +105,8 @@ TEST_P(FileConversionTable, KeepsMetadataOfTheirRouteAlone)
     const auto blocks = readMetadataBlocks(target);
     ASSERT_TRUE(blocks);
     EXPECT_EQ(result.word, ResultWord::Ok);
+    EXPECT_EQ(openedPhoto(target).header().storedSize, (PixelSize{48, 32}));
     EXPECT_EQ(blocks->exif.contains("Maker"), row.trace == Trace::Metadata);
-}
-
-TEST_P(FileConversionTable, ShowsATurnedPhotoAsBefore)
-{
-    const ConversionCase& row = GetParam();
-    if (isPdf(row))
-        return;
-    const TemporaryFolder folder;
-    const QString source
-        = PhotoBuilder().size(48, 32).corners().orientation(6).write(folder.path(u"photo.jpg"_qs));
-    const QString target = folder.path(u"out"_qs);
-
-    const ConversionResult result
-        = FileConversion().hConvertFileType({source, row.type, u"8"_qs, target});
-
-    const auto shown = openedPhoto(target).uprightImage();
-    ASSERT_TRUE(shown);
-    EXPECT_EQ(result.word, ResultWord::Ok);
-    EXPECT_EQ(shown->pixelSize(), (PixelSize{32, 48}));
-    EXPECT_EQ(cornerColors(shown->toQImage()), "BRWG");
-}
-
-TEST_P(FileConversionTable, KeepsTheStoredPixelsWhereTheTagTravels)
-{
-    const ConversionCase& row = GetParam();
-    if (isPdf(row))
-        return;
-    const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
-    const QString target = folder.path(u"out"_qs);
-
-    const ConversionResult result
-        = FileConversion().hConvertFileType({source, row.type, u"8"_qs, target});
-
-    const bool isStored = row.word == u"png"_qs || row.word == u"tiff"_qs;
-    const auto header = openedPhoto(target).header();
-    EXPECT_EQ(result.word, ResultWord::Ok);
-    EXPECT_EQ(header.storedSize, isStored ? (PixelSize{48, 32}) : (PixelSize{32, 48}));
-    EXPECT_EQ(header.orientation, isStored ? 6 : 1);
 }
 
 TEST_P(FileConversionTable, LeavesAnEmptyFileOfTheMetadataRouteForAnUnreadablePhoto)
