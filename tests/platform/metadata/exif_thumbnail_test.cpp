@@ -184,7 +184,8 @@ TEST_P(ThumbnailOfATiff, StandsAtTheSameOffsetInItsResourceAndInTheFile)
     const QByteArray resource = thumbnailResource(file);
     const auto block = TiffFile::open(resource);
     ASSERT_TRUE(block.has_value());
-    const TiffField* offset = fieldOf(block->secondDirectory(), tiff::ThumbnailOffset);
+    const TiffDirectory directory = block->secondDirectory();
+    const TiffField* offset = fieldOf(directory, tiff::ThumbnailOffset);
     ASSERT_NE(offset, nullptr);
     const auto place = static_cast<qsizetype>(unsignedValues(*offset, block->order()).value(0));
     EXPECT_EQ(resource.mid(place, thumbnailBytes().size()), thumbnailBytes());
