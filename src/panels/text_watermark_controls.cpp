@@ -128,6 +128,7 @@ TextWatermarkControls::TextWatermarkControls()
              &tfTextShadowYOffset,
              &tfTextShadowRadius,
              &cwShadowColor,
+             &cwEmbossColor,
              &pubOutlineThickness})
         control->setEnabled(false);
     cwEmbossColor.setHidden(true);

@@ -66,5 +66,6 @@ TEST(WatermarkPanel, StartsWithTheFieldsOfOffBoxesDisabled)
     EXPECT_FALSE(panels.vwWatermark.tfTextShadowRadius.isEnabled());
     EXPECT_FALSE(panels.vwWatermark.pubOutlineThickness.isEnabled());
     EXPECT_TRUE(panels.vwWatermark.cwEmbossColor.isHidden());
+    EXPECT_FALSE(panels.vwWatermark.cwEmbossColor.isEnabled());
     EXPECT_FALSE(panels.vwWatermark.tfLineScreenAngle.isEnabled());
 }

@@ -29,6 +29,7 @@ struct Kind
     PhotoModel model;
     int depth;
     bool hasProfile = false;
+    const char* type = "png";
 };
 
 struct Look
@@ -79,6 +80,7 @@ constexpr std::array kinds{
     Kind{"RgbAlpha8", PhotoModel::RgbAlpha, 8},
     Kind{"Rgb16", PhotoModel::Rgb, 16},
     Kind{"RgbAlpha16", PhotoModel::RgbAlpha, 16},
+    Kind{.name = "Cmyk8", .model = PhotoModel::Cmyk, .depth = 8, .type = "tiff"},
 };
 
 class PreviewAgreement : public testing::TestWithParam<std::tuple<Kind, Look>>
@@ -99,19 +101,22 @@ protected:
         const Kind& kind = std::get<Kind>(GetParam());
         test::PhotoBuilder builder;
         builder.size(320, 200).model(kind.model).depth(kind.depth);
-        builder.format(test::PhotoFormat::Png).pixels([](int x, int y) {
+        builder.format(type() == u"tiff" ? test::PhotoFormat::Tiff : test::PhotoFormat::Png);
+        builder.pixels([](int x, int y) {
             return test::Samples{x * 255 / 319, y * 255 / 199, (x + y) % 256, (2 * x + y) % 256, 0};
         });
         if (kind.hasProfile)
             builder.iccProfile(test::wideProfile());
-        return builder.write(folder.path(u"photo.png"_qs));
+        return builder.write(folder.path(u"photo."_qs + type()));
     }
 
-    /// All samples of a picture, whatever its depth, as the bytes of a file.
+    static QString type() { return QString::fromLatin1(std::get<Kind>(GetParam()).type); }
+
+    /// All samples of a picture, whatever its depth and colour model, as the bytes of a file.
     QByteArray samplesOf(const platform::Image& image) const
     {
-        const QString path = folder.path(u"samples.png"_qs);
-        if (!platform::encode(image, platform::FileFormat::Png, {}, path))
+        const QString path = folder.path(u"samples.tiff"_qs);
+        if (!platform::encode(image, platform::FileFormat::Tiff, {}, path))
             return {};
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -124,13 +129,13 @@ protected:
         mark.setWatermarkText(
             {.photos = {path},
              .destination = target,
-             .outputType = u"public.png"_qs,
+             .outputType = u"public."_qs + type(),
              .compressionLevel = u"9"_qs,
              .fileNameText = {},
              .photoProperty = 0},
             [](const watermark::MarkedPhoto&) {}
         );
-        return *test::openedPhoto(target + u"photo.png"_qs).image();
+        return *test::openedPhoto(target + u"photo."_qs + type()).image();
     }
 
     std::optional<platform::Image> shown(const QString& path)
