@@ -6,15 +6,15 @@ namespace brenvaldo::panels {
 QStringList positionGridTitles()
 {
     return {
-        QStringLiteral("Top left"),
-        QStringLiteral("Top centre"),
-        QStringLiteral("Top right"),
-        QStringLiteral("Middle left"),
-        QStringLiteral("Centre"),
-        QStringLiteral("Middle right"),
-        QStringLiteral("Bottom left"),
-        QStringLiteral("Bottom centre"),
-        QStringLiteral("Bottom right"),
+        u"Top left"_qs,
+        u"Top centre"_qs,
+        u"Top right"_qs,
+        u"Middle left"_qs,
+        u"Centre"_qs,
+        u"Middle right"_qs,
+        u"Bottom left"_qs,
+        u"Bottom centre"_qs,
+        u"Bottom right"_qs,
     };
 }
 
@@ -28,9 +28,6 @@ QStringList frameBlendTitles()
     return {u"Normal"_qs, u"Darken"_qs, u"Lighten"_qs, u"Multiply"_qs, u"Overlay"_qs, u"Colour"_qs};
 }
 
-QString endEditingAction()
-{
-    return QStringLiteral("cCollectionViewController.controlTextDidEndEditing");
-}
+QString endEditingAction() { return u"cCollectionViewController.controlTextDidEndEditing"_qs; }
 
 } // namespace brenvaldo::panels

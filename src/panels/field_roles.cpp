@@ -14,7 +14,7 @@ void makeFunctionField(controls::TextField& field, int tag)
 void makeHexField(controls::TextField& field, int tag)
 {
     field.setTag(tag);
-    field.addAction(QStringLiteral("cColorWellHandling.controlTextDidEndEditing"));
+    field.addAction(u"cColorWellHandling.controlTextDidEndEditing"_qs);
 }
 
 } // namespace brenvaldo::panels

@@ -12,92 +12,82 @@ constexpr int firstImageWatermarkTag = 300;
 QStringList renderMethodTitles()
 {
     return {
-        QStringLiteral("Normal"),
-        QStringLiteral("Add, darker"),
-        QStringLiteral("Add, lighter"),
-        QStringLiteral("Multiply"),
-        QStringLiteral("Difference"),
-        QStringLiteral("Colour dodge"),
-        QStringLiteral("Luminosity"),
-        QStringLiteral("Colour"),
-        QStringLiteral("Exclusion"),
-        QStringLiteral("Colour burn"),
-        QStringLiteral("Soft light"),
+        u"Normal"_qs,
+        u"Add, darker"_qs,
+        u"Add, lighter"_qs,
+        u"Multiply"_qs,
+        u"Difference"_qs,
+        u"Colour dodge"_qs,
+        u"Luminosity"_qs,
+        u"Colour"_qs,
+        u"Exclusion"_qs,
+        u"Colour burn"_qs,
+        u"Soft light"_qs,
     };
 }
 
 QStringList filterTitles()
 {
     return {
-        QStringLiteral("None"),
-        QStringLiteral("Black and white"),
-        QStringLiteral("Negative"),
-        QStringLiteral("Dots"),
-        QStringLiteral("Lines"),
-        QStringLiteral("Circles"),
+        u"None"_qs,
+        u"Black and white"_qs,
+        u"Negative"_qs,
+        u"Dots"_qs,
+        u"Lines"_qs,
+        u"Circles"_qs,
     };
 }
 
 QStringList scaleTitles()
 {
     return {
-        QStringLiteral("% of the image"),
-        QStringLiteral("% of the photo's width"),
-        QStringLiteral("% of the photo's height"),
-        QStringLiteral("The image's own size"),
+        u"% of the image"_qs,
+        u"% of the photo's width"_qs,
+        u"% of the photo's height"_qs,
+        u"The image's own size"_qs,
     };
 }
 
 } // namespace
 
 ImageWatermarkControls::ImageWatermarkControls()
-    : tfWaterMarkImageFilePath(QStringLiteral("tfWaterMarkImageFilePath"))
-    , iwWaterMarkImage(QStringLiteral("iwWaterMarkImage"))
+    : tfWaterMarkImageFilePath(u"tfWaterMarkImageFilePath"_qs)
+    , iwWaterMarkImage(u"iwWaterMarkImage"_qs)
     , pubImageLookUp(
-          QStringLiteral("pubImageLookUp"),
-          {QStringLiteral("Last folder"),
-           QStringLiteral("Watermark library"),
-           QStringLiteral("Pattern library")}
+          u"pubImageLookUp"_qs, {u"Last folder"_qs, u"Watermark library"_qs, u"Pattern library"_qs}
       )
-    , cbImageFromLib(QStringLiteral("cbImageFromLib"), QStringLiteral("Image from the library"))
-    , mxImageScaleProperty(QStringLiteral("mxImageScaleProperty"), scaleTitles())
-    , tfImageScalePC(QStringLiteral("tfImageScalePC"), QStringLiteral("100"))
-    , tfImageTransparancy(QStringLiteral("tfImageTransparancy"), QStringLiteral("100"))
-    , pubRenderMethod(QStringLiteral("pubRenderMethod"), renderMethodTitles())
+    , cbImageFromLib(u"cbImageFromLib"_qs, u"Image from the library"_qs)
+    , mxImageScaleProperty(u"mxImageScaleProperty"_qs, scaleTitles())
+    , tfImageScalePC(u"tfImageScalePC"_qs, u"100"_qs)
+    , tfImageTransparancy(u"tfImageTransparancy"_qs, u"100"_qs)
+    , pubRenderMethod(u"pubRenderMethod"_qs, renderMethodTitles())
     , scImageWaterMarkPos(
-          QStringLiteral("scImageWaterMarkPos"),
+          u"scImageWaterMarkPos"_qs,
           positionGridTitles(),
           8,
           controls::SegmentedControl::Look::PositionGrid
       )
-    , tfImageXOffset(QStringLiteral("tfImageXOffset"), QStringLiteral("0"))
-    , tfImageYOffset(QStringLiteral("tfImageYOffset"), QStringLiteral("0"))
-    , tfImageWMAngle(QStringLiteral("tfImageWMAngle"), QStringLiteral("0"))
-    , cbPatternCheck(
-          QStringLiteral("cbPatternCheck"), QStringLiteral("Repeat over the whole photo")
-      )
-    , cbImageShadowCheck(QStringLiteral("cbImageShadowCheck"), QStringLiteral("Cast a shadow"))
-    , tfImageShadowXOffset(QStringLiteral("tfImageShadowXOffset"), QStringLiteral("2"))
-    , tfImageShadowYOffset(QStringLiteral("tfImageShadowYOffset"), QStringLiteral("-2"))
-    , tfImageShadowRadius(QStringLiteral("tfImageShadowRadius"), QStringLiteral("4"))
-    , cwImageShadowColor(QStringLiteral("cwImageShadowColor"))
-    , cbImageFadeOut(QStringLiteral("cbImageFadeOut"), QStringLiteral("Fade out"))
-    , tfImageFadeOutAngle(QStringLiteral("tfImageFadeOutAngle"), QStringLiteral("0"))
-    , sliderFadeOutValue(QStringLiteral("sliderFadeOutValue"), 0.0, 1.0, 0.5)
-    , cbCircularFadeOut(QStringLiteral("cbCircularFadeOut"), QStringLiteral("Circular"))
-    , cbCircularInvertFadeOut(
-          QStringLiteral("cbCircularInvertFadeOut"), QStringLiteral("From the middle")
-      )
-    , pubWatermarkFilterType(QStringLiteral("pubWatermarkFilterType"), filterTitles())
-    , tfWatermarkFilterSize(QStringLiteral("tfWatermarkFilterSize"), QStringLiteral("6"))
-    , pubWatermarkFilterSharpness(
-          QStringLiteral("pubWatermarkFilterSharpness"),
-          {QStringLiteral("Soft"), QStringLiteral("Sharp")}
-      )
-    , tfLineScreenAngle(QStringLiteral("tfLineScreenAngle"), QStringLiteral("0"))
-    , tfCenterCircularWidth(QStringLiteral("tfCenterCircularWidth"), QStringLiteral("50"))
-    , tfCenterCircularHeight(QStringLiteral("tfCenterCircularHeight"), QStringLiteral("50"))
-    , cbWMSimulationMode(QStringLiteral("cbWMSimulationMode"), QStringLiteral("Simulation"))
+    , tfImageXOffset(u"tfImageXOffset"_qs, u"0"_qs)
+    , tfImageYOffset(u"tfImageYOffset"_qs, u"0"_qs)
+    , tfImageWMAngle(u"tfImageWMAngle"_qs, u"0"_qs)
+    , cbPatternCheck(u"cbPatternCheck"_qs, u"Repeat over the whole photo"_qs)
+    , cbImageShadowCheck(u"cbImageShadowCheck"_qs, u"Cast a shadow"_qs)
+    , tfImageShadowXOffset(u"tfImageShadowXOffset"_qs, u"2"_qs)
+    , tfImageShadowYOffset(u"tfImageShadowYOffset"_qs, u"-2"_qs)
+    , tfImageShadowRadius(u"tfImageShadowRadius"_qs, u"4"_qs)
+    , cwImageShadowColor(u"cwImageShadowColor"_qs)
+    , cbImageFadeOut(u"cbImageFadeOut"_qs, u"Fade out"_qs)
+    , tfImageFadeOutAngle(u"tfImageFadeOutAngle"_qs, u"0"_qs)
+    , sliderFadeOutValue(u"sliderFadeOutValue"_qs, 0.0, 1.0, 0.5)
+    , cbCircularFadeOut(u"cbCircularFadeOut"_qs, u"Circular"_qs)
+    , cbCircularInvertFadeOut(u"cbCircularInvertFadeOut"_qs, u"From the middle"_qs)
+    , pubWatermarkFilterType(u"pubWatermarkFilterType"_qs, filterTitles())
+    , tfWatermarkFilterSize(u"tfWatermarkFilterSize"_qs, u"6"_qs)
+    , pubWatermarkFilterSharpness(u"pubWatermarkFilterSharpness"_qs, {u"Soft"_qs, u"Sharp"_qs})
+    , tfLineScreenAngle(u"tfLineScreenAngle"_qs, u"0"_qs)
+    , tfCenterCircularWidth(u"tfCenterCircularWidth"_qs, u"50"_qs)
+    , tfCenterCircularHeight(u"tfCenterCircularHeight"_qs, u"50"_qs)
+    , cbWMSimulationMode(u"cbWMSimulationMode"_qs, u"Simulation"_qs)
 {
     disableDependentControls();
     giveTags();
@@ -147,33 +137,32 @@ void ImageWatermarkControls::giveTags()
 
 void ImageWatermarkControls::giveActions()
 {
-    mxImageScaleProperty.addAction(QStringLiteral("DVWatermark.hImageWatermarkSizeEntred"));
-    pubRenderMethod.addAction(QStringLiteral("DVWatermark.hOpacityRenderMethodSelector"));
-    scImageWaterMarkPos.addAction(QStringLiteral("DVWatermark.hImageWatermarkPositionSelector"));
-    cbPatternCheck.addAction(QStringLiteral("DVWatermark.hImgPatternCheckBox"));
-    cbImageShadowCheck.addAction(QStringLiteral("DVWatermark.hImageShadowCheckBox"));
-    cwImageShadowColor.addAction(QStringLiteral("DVWatermark.hImageShadowColorEntred"));
-    cbImageFadeOut.addAction(QStringLiteral("DVWatermark.hCheckFadeOutBox"));
-    sliderFadeOutValue.addAction(QStringLiteral("DVWatermark.hSliderFadeOutImageSelector"));
-    cbCircularFadeOut.addAction(QStringLiteral("DVWatermark.hCicularFadeOut"));
-    cbCircularInvertFadeOut.addAction(QStringLiteral("DVWatermark.hCicularFadeOut"));
-    pubWatermarkFilterType.addAction(QStringLiteral("DVWatermark.hChooseWatermarkFilterType"));
-    tfWatermarkFilterSize.addAction(QStringLiteral("DVWatermark.hScreenSizeEntred"));
-    pubWatermarkFilterSharpness.addAction(QStringLiteral("DVWatermark.hScreenSharpnessEntred"));
-    cbWMSimulationMode.addAction(QStringLiteral("cGUIcontrols.hTxtSimulationModePressed"));
-    cbWMSimulationMode.addAction(QStringLiteral("cGUIcontrols.hImgSimulationModePressed"));
+    mxImageScaleProperty.addAction(u"DVWatermark.hImageWatermarkSizeEntred"_qs);
+    pubRenderMethod.addAction(u"DVWatermark.hOpacityRenderMethodSelector"_qs);
+    scImageWaterMarkPos.addAction(u"DVWatermark.hImageWatermarkPositionSelector"_qs);
+    cbPatternCheck.addAction(u"DVWatermark.hImgPatternCheckBox"_qs);
+    cbImageShadowCheck.addAction(u"DVWatermark.hImageShadowCheckBox"_qs);
+    cwImageShadowColor.addAction(u"DVWatermark.hImageShadowColorEntred"_qs);
+    cbImageFadeOut.addAction(u"DVWatermark.hCheckFadeOutBox"_qs);
+    sliderFadeOutValue.addAction(u"DVWatermark.hSliderFadeOutImageSelector"_qs);
+    cbCircularFadeOut.addAction(u"DVWatermark.hCicularFadeOut"_qs);
+    cbCircularInvertFadeOut.addAction(u"DVWatermark.hCicularFadeOut"_qs);
+    pubWatermarkFilterType.addAction(u"DVWatermark.hChooseWatermarkFilterType"_qs);
+    tfWatermarkFilterSize.addAction(u"DVWatermark.hScreenSizeEntred"_qs);
+    pubWatermarkFilterSharpness.addAction(u"DVWatermark.hScreenSharpnessEntred"_qs);
+    cbWMSimulationMode.addAction(u"cGUIcontrols.hTxtSimulationModePressed"_qs);
+    cbWMSimulationMode.addAction(u"cGUIcontrols.hImgSimulationModePressed"_qs);
 }
 
 Layout ImageWatermarkControls::imageRows()
 {
     return {
-        {Heading{QStringLiteral("Image")}},
-        {Row{.label = QStringLiteral("Image"), .fields = {{.control = &tfWaterMarkImageFilePath}}}},
+        {Heading{u"Image"_qs}},
+        {Row{.label = u"Image"_qs, .fields = {{.control = &tfWaterMarkImageFilePath}}}},
         {Row{
             .fields
-            = {{.control = &iwWaterMarkImage,
-                .accessibleName = QStringLiteral("The watermark image")}}}},
-        {Row{.label = QStringLiteral("Look in"), .fields = {{.control = &pubImageLookUp}}}},
+            = {{.control = &iwWaterMarkImage, .accessibleName = u"The watermark image"_qs}}}},
+        {Row{.label = u"Look in"_qs, .fields = {{.control = &pubImageLookUp}}}},
         {Row{.fields = {{.control = &cbImageFromLib}}}},
     };
 }
@@ -181,36 +170,32 @@ Layout ImageWatermarkControls::imageRows()
 Layout ImageWatermarkControls::scaleRows()
 {
     return {
-        {Heading{QStringLiteral("Size and blending")}},
-        {Row{.label = QStringLiteral("Measure"), .fields = {{.control = &mxImageScaleProperty}}}},
+        {Heading{u"Size and blending"_qs}},
+        {Row{.label = u"Measure"_qs, .fields = {{.control = &mxImageScaleProperty}}}},
+        {Row{.label = u"Scale"_qs, .fields = {{.control = &tfImageScalePC, .unit = u"%"_qs}}}},
         {Row{
-            .label = QStringLiteral("Scale"),
-            .fields = {{.control = &tfImageScalePC, .unit = QStringLiteral("%")}}}},
-        {Row{
-            .label = QStringLiteral("Opacity"),
-            .fields = {{.control = &tfImageTransparancy, .unit = QStringLiteral("%")}}}},
-        {Row{.label = QStringLiteral("Blend"), .fields = {{.control = &pubRenderMethod}}}},
+            .label = u"Opacity"_qs,
+            .fields = {{.control = &tfImageTransparancy, .unit = u"%"_qs}}}},
+        {Row{.label = u"Blend"_qs, .fields = {{.control = &pubRenderMethod}}}},
     };
 }
 
 Layout ImageWatermarkControls::imagePlaceRows()
 {
     return {
-        {Heading{QStringLiteral("Place")}},
-        {Row{.label = QStringLiteral("Position"), .fields = {{.control = &scImageWaterMarkPos}}}},
+        {Heading{u"Place"_qs}},
+        {Row{.label = u"Position"_qs, .fields = {{.control = &scImageWaterMarkPos}}}},
         {Row{
-            .label = QStringLiteral("Inset"),
+            .label = u"Inset"_qs,
             .fields
             = {{.control = &tfImageXOffset,
-                .unit = QStringLiteral("px across"),
-                .accessibleName = QStringLiteral("Inset from the side")},
+                .unit = u"px across"_qs,
+                .accessibleName = u"Inset from the side"_qs},
                {.control = &tfImageYOffset,
-                .unit = QStringLiteral("px down"),
-                .accessibleName = QStringLiteral("Inset from the top or bottom")}},
-            .hint = QStringLiteral("The gaps between the copies when the image is repeated.")}},
-        {Row{
-            .label = QStringLiteral("Angle"),
-            .fields = {{.control = &tfImageWMAngle, .unit = QStringLiteral("\u00b0")}}}},
+                .unit = u"px down"_qs,
+                .accessibleName = u"Inset from the top or bottom"_qs}},
+            .hint = u"The gaps between the copies when the image is repeated."_qs}},
+        {Row{.label = u"Angle"_qs, .fields = {{.control = &tfImageWMAngle, .unit = u"\u00b0"_qs}}}},
         {Row{.fields = {{.control = &cbPatternCheck}}}},
     };
 }
@@ -218,72 +203,71 @@ Layout ImageWatermarkControls::imagePlaceRows()
 Layout ImageWatermarkControls::imageShadowRows()
 {
     return {
-        {Heading{QStringLiteral("Shadow")}},
+        {Heading{u"Shadow"_qs}},
         {Row{.fields = {{.control = &cbImageShadowCheck}}}},
         {Row{
-            .label = QStringLiteral("Shift"),
+            .label = u"Shift"_qs,
             .fields
             = {{.control = &tfImageShadowXOffset,
-                .unit = QStringLiteral("px right"),
-                .accessibleName = QStringLiteral("Shift of the shadow to the right")},
+                .unit = u"px right"_qs,
+                .accessibleName = u"Shift of the shadow to the right"_qs},
                {.control = &tfImageShadowYOffset,
-                .unit = QStringLiteral("px up"),
-                .accessibleName = QStringLiteral("Shift of the shadow upward")}}}},
+                .unit = u"px up"_qs,
+                .accessibleName = u"Shift of the shadow upward"_qs}}}},
         {Row{
-            .label = QStringLiteral("Softness"),
+            .label = u"Softness"_qs,
             .fields
             = {{.control = &tfImageShadowRadius,
-                .unit = QStringLiteral("px"),
-                .accessibleName = QStringLiteral("Softness of the shadow")},
-               {.control = &cwImageShadowColor,
-                .accessibleName = QStringLiteral("Colour of the shadow")}}}},
+                .unit = u"px"_qs,
+                .accessibleName = u"Softness of the shadow"_qs},
+               {.control = &cwImageShadowColor, .accessibleName = u"Colour of the shadow"_qs}}}},
     };
 }
 
 Layout ImageWatermarkControls::fadeRows()
 {
     return {
-        {Heading{QStringLiteral("Fade")}},
+        {Heading{u"Fade"_qs}},
         {Row{
             .fields
             = {{.control = &cbImageFadeOut},
                {.control = &cbCircularFadeOut},
                {.control = &cbCircularInvertFadeOut}}}},
         {Row{
-            .label = QStringLiteral("Direction"),
-            .fields = {{.control = &tfImageFadeOutAngle, .unit = QStringLiteral("\u00b0")}}}},
-        {Row{.label = QStringLiteral("Extent"), .fields = {{.control = &sliderFadeOutValue}}}},
+            .label = u"Direction"_qs,
+            .fields = {{.control = &tfImageFadeOutAngle, .unit = u"\u00b0"_qs}}}},
+        {Row{.label = u"Extent"_qs, .fields = {{.control = &sliderFadeOutValue}}}},
     };
 }
 
 Layout ImageWatermarkControls::filterRows()
 {
     return {
-        {Heading{QStringLiteral("Filter")}},
-        {Row{.label = QStringLiteral("Filter"), .fields = {{.control = &pubWatermarkFilterType}}}},
+        {Heading{u"Filter"_qs}},
+        {Row{.label = u"Filter"_qs, .fields = {{.control = &pubWatermarkFilterType}}}},
         {Row{
-            .label = QStringLiteral("Size"),
+            .label = u"Size"_qs,
             .fields
             = {{.control = &tfWatermarkFilterSize,
-                .unit = QStringLiteral("px"),
-                .accessibleName = QStringLiteral("Size of the screen")},
+                .unit = u"px"_qs,
+                .accessibleName = u"Size of the screen"_qs},
                {.control = &pubWatermarkFilterSharpness,
-                .accessibleName = QStringLiteral("Sharpness of the screen")}}}},
+                .accessibleName = u"Sharpness of the screen"_qs}}}},
         {Row{
-            .label = QStringLiteral("Angle"),
+            .label = u"Angle"_qs,
             .fields
             = {{.control = &tfLineScreenAngle,
-                .unit = QStringLiteral("\u00b0"),
-                .accessibleName = QStringLiteral("Angle of the screen")}}}},
+                .unit = u"\u00b0"_qs,
+                .accessibleName = u"Angle of the screen"_qs}}}},
         {Row{
-            .label = QStringLiteral("Centre"),
+            .label = u"Centre"_qs,
             .fields
             = {{.control = &tfCenterCircularWidth,
-                .unit = QStringLiteral("% width"),
-                .accessibleName = QStringLiteral("Centre of the circles across")},
+                .unit = u"% width"_qs,
+                .accessibleName = u"Centre of the circles across"_qs},
                {.control = &tfCenterCircularHeight,
-                .unit = QStringLiteral("% height"),
-                .accessibleName = QStringLiteral("Centre of the circles upward")}}}},
+                .unit = u"% height"_qs,
+                .accessibleName = u"Centre of the circles upward"_qs}}}},
     };
 }
 

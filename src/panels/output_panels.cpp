@@ -4,86 +4,78 @@
 namespace brenvaldo::panels {
 
 ShowPreviewPanel::ShowPreviewPanel()
-    : PanelView(QStringLiteral("vwShowPreview"))
-    , cbShowPreview(QStringLiteral("cbShowPreview"), QStringLiteral("Show preview"))
+    : PanelView(u"vwShowPreview"_qs)
+    , cbShowPreview(u"cbShowPreview"_qs, u"Show preview"_qs)
 {
-    cbShowPreview.addAction(QStringLiteral("cCollectionViewController.hCheckboxPreviewTouched"));
+    cbShowPreview.addAction(u"cCollectionViewController.hCheckboxPreviewTouched"_qs);
     setLayout({{Row{.fields = {{.control = &cbShowPreview}}}}});
 }
 
 ApplyOnPanel::ApplyOnPanel()
-    : PanelView(QStringLiteral("vwApplyOn"))
+    : PanelView(u"vwApplyOn"_qs)
     , pubPhotoOrientation(
-          QStringLiteral("pubPhotoOrientation"),
-          {QStringLiteral("All photos"),
-           QStringLiteral("Landscape photos"),
-           QStringLiteral("Portrait photos"),
-           QStringLiteral("Square photos")}
+          u"pubPhotoOrientation"_qs,
+          {u"All photos"_qs, u"Landscape photos"_qs, u"Portrait photos"_qs, u"Square photos"_qs}
       )
 {
-    setLayout(
-        {{Row{.label = QStringLiteral("Apply on"), .fields = {{.control = &pubPhotoOrientation}}}}}
-    );
+    setLayout({{Row{.label = u"Apply on"_qs, .fields = {{.control = &pubPhotoOrientation}}}}});
 }
 
 FileTypePanel::FileTypePanel()
-    : PanelView(QStringLiteral("vwFileType"))
+    : PanelView(u"vwFileType"_qs)
     , pubFileType(
-          QStringLiteral("pubFileType"),
-          {QStringLiteral("original file type"),
-           QStringLiteral("png"),
-           QStringLiteral("tiff"),
-           QStringLiteral("bmp"),
-           QStringLiteral("gif"),
-           QStringLiteral("jpeg"),
-           QStringLiteral("jp2"),
-           QStringLiteral("heic"),
-           QStringLiteral("pdf")}
+          u"pubFileType"_qs,
+          {u"original file type"_qs,
+           u"png"_qs,
+           u"tiff"_qs,
+           u"bmp"_qs,
+           u"gif"_qs,
+           u"jpeg"_qs,
+           u"jp2"_qs,
+           u"heic"_qs,
+           u"pdf"_qs}
       )
     , pubJPEGCompressionLevel(
-          QStringLiteral("pubJPEGCompressionLevel"),
-          {QStringLiteral("1"),
-           QStringLiteral("2"),
-           QStringLiteral("3"),
-           QStringLiteral("4"),
-           QStringLiteral("5"),
-           QStringLiteral("6"),
-           QStringLiteral("7"),
-           QStringLiteral("8"),
-           QStringLiteral("9"),
-           QStringLiteral("10")},
+          u"pubJPEGCompressionLevel"_qs,
+          {u"1"_qs,
+           u"2"_qs,
+           u"3"_qs,
+           u"4"_qs,
+           u"5"_qs,
+           u"6"_qs,
+           u"7"_qs,
+           u"8"_qs,
+           u"9"_qs,
+           u"10"_qs},
           8
       )
 {
     setLayout({{Row{
-        .label = QStringLiteral("File type"),
+        .label = u"File type"_qs,
         .fields
         = {{.control = &pubFileType},
            {.control = &pubJPEGCompressionLevel,
-            .unit = QStringLiteral("Quality"),
-            .accessibleName = QStringLiteral("JPEG quality"),
+            .unit = u"Quality"_qs,
+            .accessibleName = u"JPEG quality"_qs,
             .width = Field::Width::Narrow}}}}});
 }
 
 MainDestinationPanel::MainDestinationPanel()
-    : PanelView(QStringLiteral("vwMainDestination"))
-    , tfImageDestinationFolder(QStringLiteral("tfImageDestinationFolder"))
+    : PanelView(u"vwMainDestination"_qs)
+    , tfImageDestinationFolder(u"tfImageDestinationFolder"_qs)
     , btnChooseDestination(
-          QStringLiteral("btnChooseDestination"),
-          QStringLiteral("Choose\u2026"),
-          QStringLiteral("cGUIcontrols.hChooseScalingDestinationFolder")
+          u"btnChooseDestination"_qs,
+          u"Choose\u2026"_qs,
+          u"cGUIcontrols.hChooseScalingDestinationFolder"_qs
       )
     , btnShowDestination(
-          QStringLiteral("btnShowDestination"),
-          QStringLiteral("Show"),
-          QStringLiteral("cGUIcontrols.hShowDestinationFolderInFinder")
+          u"btnShowDestination"_qs, u"Show"_qs, u"cGUIcontrols.hShowDestinationFolderInFinder"_qs
       )
 {
     setLayout({{Row{
-        .label = QStringLiteral("Destination"),
+        .label = u"Destination"_qs,
         .fields
-        = {{.control = &tfImageDestinationFolder,
-            .accessibleName = QStringLiteral("Destination folder")},
+        = {{.control = &tfImageDestinationFolder, .accessibleName = u"Destination folder"_qs},
            {.control = &btnChooseDestination, .width = Field::Width::Narrow},
            {.control = &btnShowDestination, .width = Field::Width::Narrow}}}}});
 }

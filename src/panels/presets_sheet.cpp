@@ -4,54 +4,37 @@
 namespace brenvaldo::panels {
 
 PresetsSheet::PresetsSheet()
-    : PanelView(QStringLiteral("wwPresetsWindow"))
+    : PanelView(u"wwPresetsWindow"_qs)
     , sheet(name())
-    , tfInputPDM(QStringLiteral("tfInputPDM"))
-    , btnAddPreset(
-          QStringLiteral("btnAddPreset"),
-          QStringLiteral("Save"),
-          QStringLiteral("cPresetManager.hAddPreset")
-      )
-    , thePresetsData(
-          QStringLiteral("thePresetsData"),
-          {QStringLiteral("nmPreset"), QStringLiteral("nmProces"), QStringLiteral("nmbrAction")}
-      )
-    , myPresetsTableView(QStringLiteral("myPresetsTableView"), thePresetsData)
+    , tfInputPDM(u"tfInputPDM"_qs)
+    , btnAddPreset(u"btnAddPreset"_qs, u"Save"_qs, u"cPresetManager.hAddPreset"_qs)
+    , thePresetsData(u"thePresetsData"_qs, {u"nmPreset"_qs, u"nmProces"_qs, u"nmbrAction"_qs})
+    , myPresetsTableView(u"myPresetsTableView"_qs, thePresetsData)
     , btnApplyPreset(
-          QStringLiteral("btnApplyPreset"),
-          QStringLiteral("Use these settings"),
-          QStringLiteral("cPresetManager.hApplySelectedPreset")
+          u"btnApplyPreset"_qs, u"Use these settings"_qs, u"cPresetManager.hApplySelectedPreset"_qs
       )
-    , btnRemovePreset(
-          QStringLiteral("btnRemovePreset"),
-          QStringLiteral("Remove"),
-          QStringLiteral("cPresetManager.hRemovePreset")
-      )
+    , btnRemovePreset(u"btnRemovePreset"_qs, u"Remove"_qs, u"cPresetManager.hRemovePreset"_qs)
     , btnClosePresets(
-          QStringLiteral("btnClosePresets"),
-          QStringLiteral("Close"),
-          QStringLiteral("cPresetManager.closePresetsSheetObjC")
+          u"btnClosePresets"_qs, u"Close"_qs, u"cPresetManager.closePresetsSheetObjC"_qs
       )
-    , my2ndView(QStringLiteral("my2ndView"))
+    , my2ndView(u"my2ndView"_qs)
 {
     setLayout({
-        {Heading{QStringLiteral("Keep the present settings")}},
+        {Heading{u"Keep the present settings"_qs}},
         {Row{
-            .label = QStringLiteral("Name"),
+            .label = u"Name"_qs,
             .fields
             = {{.control = &tfInputPDM}, {.control = &btnAddPreset, .width = Field::Width::Narrow}},
-            .hint
-            = QStringLiteral("Later you get all values of this function back with one click.")}},
-        {Heading{QStringLiteral("Presets")}},
+            .hint = u"Later you get all values of this function back with one click."_qs}},
+        {Heading{u"Presets"_qs}},
         {Table{
             .table = &myPresetsTableView,
             .columns
-            = {{.key = QStringLiteral("nmPreset"), .title = QStringLiteral("Name")},
-               {.key = QStringLiteral("nmProces"), .title = QStringLiteral("Function")}},
-            .accessibleName = QStringLiteral("Presets of this function"),
-            .emptyText = QStringLiteral(
-                "No presets yet. Set the values of the function, type a name above and save them."
-            ),
+            = {{.key = u"nmPreset"_qs, .title = u"Name"_qs},
+               {.key = u"nmProces"_qs, .title = u"Function"_qs}},
+            .accessibleName = u"Presets of this function"_qs,
+            .emptyText
+            = u"No presets yet. Set the values of the function, type a name above and save them."_qs,
             .useButton = &btnApplyPreset,
             .removeButton = &btnRemovePreset}},
         {Row{

@@ -4,71 +4,57 @@
 namespace brenvaldo::panels {
 
 ScaleMaxView::ScaleMaxView()
-    : PanelView(QStringLiteral("dvVCUiScaleMaxView"))
+    : PanelView(u"dvVCUiScaleMaxView"_qs)
     , pubScaleMaxType(
-          QStringLiteral("pubScaleMaxType"),
-          {QStringLiteral("Width"),
-           QStringLiteral("Height"),
-           QStringLiteral("Longest side"),
-           QStringLiteral("Percentage")},
+          u"pubScaleMaxType"_qs,
+          {u"Width"_qs, u"Height"_qs, u"Longest side"_qs, u"Percentage"_qs},
           2
       )
-    , tfScaleMaxVal(QStringLiteral("tfScaleMaxVal"))
+    , tfScaleMaxVal(u"tfScaleMaxVal"_qs)
 {
     setLayout({
-        {Row{.label = QStringLiteral("Set the"), .fields = {{.control = &pubScaleMaxType}}}},
+        {Row{.label = u"Set the"_qs, .fields = {{.control = &pubScaleMaxType}}}},
         {Row{
-            .label = QStringLiteral("To"),
+            .label = u"To"_qs,
             .fields
             = {{.control = &tfScaleMaxVal,
-                .unit = QStringLiteral("px or %"),
-                .accessibleName = QStringLiteral("Size in pixels or percent")}},
-            .hint = QStringLiteral("The other side follows, so nothing is distorted.")}},
+                .unit = u"px or %"_qs,
+                .accessibleName = u"Size in pixels or percent"_qs}},
+            .hint = u"The other side follows, so nothing is distorted."_qs}},
     });
 }
 
 ScaleFixView::ScaleFixView()
-    : PanelView(QStringLiteral("dvVCUiScaleFixView"))
-    , tfScaleFixWidth(QStringLiteral("tfScaleFixWidth"))
-    , tfScaleFixHeight(QStringLiteral("tfScaleFixHeight"))
+    : PanelView(u"dvVCUiScaleFixView"_qs)
+    , tfScaleFixWidth(u"tfScaleFixWidth"_qs)
+    , tfScaleFixHeight(u"tfScaleFixHeight"_qs)
     , btnFlipScaleFixWH(
-          QStringLiteral("btnFlipScaleFixWH"),
-          QStringLiteral("Swap width and height"),
-          QStringLiteral("cCollectionViewController.hFlipScaleFixWH")
+          u"btnFlipScaleFixWH"_qs,
+          u"Swap width and height"_qs,
+          u"cCollectionViewController.hFlipScaleFixWH"_qs
       )
-    , cbScaleAspectRatio(
-          QStringLiteral("cbScaleAspectRatio"),
-          QStringLiteral("Keep proportions, cut the excess"),
-          1
-      )
+    , cbScaleAspectRatio(u"cbScaleAspectRatio"_qs, u"Keep proportions, cut the excess"_qs, 1)
 {
     setLayout({
-        {Row{
-            .label = QStringLiteral("Width"),
-            .fields = {{.control = &tfScaleFixWidth, .unit = QStringLiteral("px")}}}},
-        {Row{
-            .label = QStringLiteral("Height"),
-            .fields = {{.control = &tfScaleFixHeight, .unit = QStringLiteral("px")}}}},
+        {Row{.label = u"Width"_qs, .fields = {{.control = &tfScaleFixWidth, .unit = u"px"_qs}}}},
+        {Row{.label = u"Height"_qs, .fields = {{.control = &tfScaleFixHeight, .unit = u"px"_qs}}}},
         {Row{.fields = {{.control = &btnFlipScaleFixWH}}}},
         {Row{
             .fields = {{.control = &cbScaleAspectRatio}},
-            .hint = QStringLiteral("Without it the photo is stretched to the box.")}},
+            .hint = u"Without it the photo is stretched to the box."_qs}},
     });
 }
 
 ResizePanel::ResizePanel()
-    : PanelView(QStringLiteral("vwResizePhotos"))
-    , pubScaleType(
-          QStringLiteral("pubScaleType"),
-          {QStringLiteral("One side or percentage"), QStringLiteral("Fixed width and height")}
-      )
-    , pubResizeType(QStringLiteral("pubResizeType"), {QStringLiteral("Resize")})
-    , dvVCUiResizeMainView(QStringLiteral("dvVCUiResizeMainView"))
+    : PanelView(u"vwResizePhotos"_qs)
+    , pubScaleType(u"pubScaleType"_qs, {u"One side or percentage"_qs, u"Fixed width and height"_qs})
+    , pubResizeType(u"pubResizeType"_qs, {u"Resize"_qs})
+    , dvVCUiResizeMainView(u"dvVCUiResizeMainView"_qs)
 {
-    pubScaleType.addAction(QStringLiteral("cGUIcontrols.hChooseScaleTypeFunction"));
+    pubScaleType.addAction(u"cGUIcontrols.hChooseScaleTypeFunction"_qs);
     dvVCUiResizeMainView.addView(dvVCUiScaleMaxView.name());
     setLayout({
-        {Row{.label = QStringLiteral("Resize to"), .fields = {{.control = &pubScaleType}}}},
+        {Row{.label = u"Resize to"_qs, .fields = {{.control = &pubScaleType}}}},
         {HolderPlace{.holder = &dvVCUiResizeMainView}},
     });
 }

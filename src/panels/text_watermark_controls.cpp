@@ -13,116 +13,102 @@ constexpr int firstTextWatermarkTag = 200;
 QStringList photoPropertyTitles()
 {
     return {
-        QStringLiteral("Date taken"),
-        QStringLiteral("User comment"),
-        QStringLiteral("Width in pixels"),
-        QStringLiteral("Height in pixels"),
-        QStringLiteral("Resolution (dpi)"),
-        QStringLiteral("File name"),
-        QStringLiteral("Colour model"),
-        QStringLiteral("Colour profile"),
-        QStringLiteral("Bits per channel"),
-        QStringLiteral("Creator"),
-        QStringLiteral("Creator's job title"),
-        QStringLiteral("Caption"),
-        QStringLiteral("Copyright notice"),
-        QStringLiteral("Headline"),
-        QStringLiteral("Keywords"),
-        QStringLiteral("Title"),
-        QStringLiteral("Source"),
-        QStringLiteral("Rights and usage terms"),
+        u"Date taken"_qs,
+        u"User comment"_qs,
+        u"Width in pixels"_qs,
+        u"Height in pixels"_qs,
+        u"Resolution (dpi)"_qs,
+        u"File name"_qs,
+        u"Colour model"_qs,
+        u"Colour profile"_qs,
+        u"Bits per channel"_qs,
+        u"Creator"_qs,
+        u"Creator's job title"_qs,
+        u"Caption"_qs,
+        u"Copyright notice"_qs,
+        u"Headline"_qs,
+        u"Keywords"_qs,
+        u"Title"_qs,
+        u"Source"_qs,
+        u"Rights and usage terms"_qs,
     };
 }
 
 QStringList textEffectTitles()
 {
     return {
-        QStringLiteral("Plain colour"),
-        QStringLiteral("Relief 1"),
-        QStringLiteral("Relief 2"),
-        QStringLiteral("Relief 3"),
-        QStringLiteral("Relief 4"),
-        QStringLiteral("Relief 5"),
-        QStringLiteral("Relief in a colour"),
-        QStringLiteral("Filled with the photo"),
-        QStringLiteral("Filled with the photo in black and white"),
-        QStringLiteral("Relief 6"),
+        u"Plain colour"_qs,
+        u"Relief 1"_qs,
+        u"Relief 2"_qs,
+        u"Relief 3"_qs,
+        u"Relief 4"_qs,
+        u"Relief 5"_qs,
+        u"Relief in a colour"_qs,
+        u"Filled with the photo"_qs,
+        u"Filled with the photo in black and white"_qs,
+        u"Relief 6"_qs,
     };
 }
 
 QStringList underlineTitles()
 {
     return {
-        QStringLiteral("No underline"),
-        QStringLiteral("Thin underline"),
-        QStringLiteral("Thick underline"),
+        u"No underline"_qs,
+        u"Thin underline"_qs,
+        u"Thick underline"_qs,
     };
 }
 
 } // namespace
 
 TextWatermarkControls::TextWatermarkControls()
-    : tvWaterMarkText(QStringLiteral("tvWaterMarkText"))
-    , pubPhotoProperties(QStringLiteral("pubPhotoProperties"), photoPropertyTitles())
-    , scTxtAlign(
-          QStringLiteral("scTxtAlign"),
-          {QStringLiteral("Left"), QStringLiteral("Centre"), QStringLiteral("Right")}
-      )
-    , cbFontList(QStringLiteral("cbFontList"), {}, -1)
-    , tfFontSize(QStringLiteral("tfFontSize"), QStringLiteral("72"))
-    , cwFontColor(QStringLiteral("cwFontColor"), {.red = 1, .green = 1, .blue = 1})
-    , cbFontBold(QStringLiteral("cbFontBold"), QStringLiteral("Bold"))
-    , cbFontItalic(QStringLiteral("cbFontItalic"), QStringLiteral("Italic"))
-    , pubTxtUnderline(QStringLiteral("pubTxtUnderline"), underlineTitles())
-    , tfKerning(QStringLiteral("tfKerning"), QStringLiteral("0"))
-    , tfLeading(QStringLiteral("tfLeading"), QStringLiteral("0"))
-    , tfFontTransparancy(QStringLiteral("tfFontTransparancy"), QStringLiteral("100"))
+    : tvWaterMarkText(u"tvWaterMarkText"_qs)
+    , pubPhotoProperties(u"pubPhotoProperties"_qs, photoPropertyTitles())
+    , scTxtAlign(u"scTxtAlign"_qs, {u"Left"_qs, u"Centre"_qs, u"Right"_qs})
+    , cbFontList(u"cbFontList"_qs, {}, -1)
+    , tfFontSize(u"tfFontSize"_qs, u"72"_qs)
+    , cwFontColor(u"cwFontColor"_qs, {.red = 1, .green = 1, .blue = 1})
+    , cbFontBold(u"cbFontBold"_qs, u"Bold"_qs)
+    , cbFontItalic(u"cbFontItalic"_qs, u"Italic"_qs)
+    , pubTxtUnderline(u"pubTxtUnderline"_qs, underlineTitles())
+    , tfKerning(u"tfKerning"_qs, u"0"_qs)
+    , tfLeading(u"tfLeading"_qs, u"0"_qs)
+    , tfFontTransparancy(u"tfFontTransparancy"_qs, u"100"_qs)
     , scWaterMarkPos(
-          QStringLiteral("scWaterMarkPos"),
+          u"scWaterMarkPos"_qs,
           positionGridTitles(),
           8,
           controls::SegmentedControl::Look::PositionGrid
       )
-    , tfXOffset(QStringLiteral("tfXOffset"), QStringLiteral("0"))
-    , tfYOffset(QStringLiteral("tfYOffset"), QStringLiteral("0"))
-    , tfWMAngle(QStringLiteral("tfWMAngle"), QStringLiteral("0"))
-    , cbTextPatternCheck(
-          QStringLiteral("cbTextPatternCheck"), QStringLiteral("Repeat over the whole photo")
-      )
-    , cbShadowCheck(QStringLiteral("cbShadowCheck"), QStringLiteral("Cast a shadow"))
-    , tfTextShadowXOffset(QStringLiteral("tfTextShadowXOffset"), QStringLiteral("2"))
-    , tfTextShadowYOffset(QStringLiteral("tfTextShadowYOffset"), QStringLiteral("-2"))
-    , tfTextShadowRadius(QStringLiteral("tfTextShadowRadius"), QStringLiteral("4"))
-    , cwShadowColor(QStringLiteral("cwShadowColor"))
-    , cbOutlineCheck(QStringLiteral("cbOutlineCheck"), QStringLiteral("Outline only"))
+    , tfXOffset(u"tfXOffset"_qs, u"0"_qs)
+    , tfYOffset(u"tfYOffset"_qs, u"0"_qs)
+    , tfWMAngle(u"tfWMAngle"_qs, u"0"_qs)
+    , cbTextPatternCheck(u"cbTextPatternCheck"_qs, u"Repeat over the whole photo"_qs)
+    , cbShadowCheck(u"cbShadowCheck"_qs, u"Cast a shadow"_qs)
+    , tfTextShadowXOffset(u"tfTextShadowXOffset"_qs, u"2"_qs)
+    , tfTextShadowYOffset(u"tfTextShadowYOffset"_qs, u"-2"_qs)
+    , tfTextShadowRadius(u"tfTextShadowRadius"_qs, u"4"_qs)
+    , cwShadowColor(u"cwShadowColor"_qs)
+    , cbOutlineCheck(u"cbOutlineCheck"_qs, u"Outline only"_qs)
     , pubOutlineThickness(
-          QStringLiteral("pubOutlineThickness"),
-          {QStringLiteral("Hairline"),
-           QStringLiteral("Thin"),
-           QStringLiteral("Medium"),
-           QStringLiteral("Thick"),
-           QStringLiteral("Heavy")}
+          u"pubOutlineThickness"_qs,
+          {u"Hairline"_qs, u"Thin"_qs, u"Medium"_qs, u"Thick"_qs, u"Heavy"_qs}
       )
-    , pubWatermarkTextEffect(QStringLiteral("pubWatermarkTextEffect"), textEffectTitles())
+    , pubWatermarkTextEffect(u"pubWatermarkTextEffect"_qs, textEffectTitles())
     , pubWatermarkTextEffectIntensity(
-          QStringLiteral("pubWatermarkTextEffectIntensity"),
-          {QStringLiteral("Light"), QStringLiteral("Medium"), QStringLiteral("Strong")},
-          1
+          u"pubWatermarkTextEffectIntensity"_qs, {u"Light"_qs, u"Medium"_qs, u"Strong"_qs}, 1
       )
-    , cwEmbossColor(QStringLiteral("cwEmbossColor"), {.red = 0.8, .green = 0.8, .blue = 0.8})
-    , tvFileName(QStringLiteral("tvFileName"))
+    , cwEmbossColor(u"cwEmbossColor"_qs, {.red = 0.8, .green = 0.8, .blue = 0.8})
+    , tvFileName(u"tvFileName"_qs)
     , pubFileNamePhotoProperties(
-          QStringLiteral("pubFileNamePhotoProperties"),
-          {QStringLiteral("Width in pixels"), QStringLiteral("Height in pixels")}
+          u"pubFileNamePhotoProperties"_qs, {u"Width in pixels"_qs, u"Height in pixels"_qs}
       )
-    , cActionsTWMArrayController(
-          QStringLiteral("cActionsTWMArrayController"), {QStringLiteral("cActions")}
-      )
-    , tvwTWMActions(QStringLiteral("tvwTWMActions"), cActionsTWMArrayController)
+    , cActionsTWMArrayController(u"cActionsTWMArrayController"_qs, {u"cActions"_qs})
+    , tvwTWMActions(u"tvwTWMActions"_qs, cActionsTWMArrayController)
 {
-    pubPhotoProperties.addAlias(QStringLiteral("pubTWMPhotoProperties"));
-    cbFontList.addAlias(QStringLiteral("cbWatermarkFont"));
-    cActionsTWMArrayController.addAlias(QStringLiteral("cActionsIWMArrayController"));
+    pubPhotoProperties.addAlias(u"pubTWMPhotoProperties"_qs);
+    cbFontList.addAlias(u"cbWatermarkFont"_qs);
+    cActionsTWMArrayController.addAlias(u"cActionsIWMArrayController"_qs);
     for (controls::Control* control : std::initializer_list<controls::Control*>{
              &tfTextShadowXOffset,
              &tfTextShadowYOffset,
@@ -158,92 +144,84 @@ void TextWatermarkControls::giveTags()
 
 void TextWatermarkControls::giveActions()
 {
-    tvWaterMarkText.addTypingAction(QStringLiteral("DVWatermark.textDidChange"));
-    pubPhotoProperties.addAction(QStringLiteral("DVWatermark.hInsertPhotoProperty"));
-    pubFileNamePhotoProperties.addAction(QStringLiteral("cGUIcontrols.hInsertPhotoProperty"));
-    scTxtAlign.addAction(QStringLiteral("DVWatermark.hTextAlignment"));
-    cbFontList.addAction(QStringLiteral("DVWatermark.hTextFontFamilyComboBox"));
-    cwFontColor.addAction(QStringLiteral("DVWatermark.hTextColorEntred"));
-    cbFontBold.addAction(QStringLiteral("DVWatermark.hTextBoldCheckBox"));
-    cbFontItalic.addAction(QStringLiteral("DVWatermark.hTextItalicCheckBox"));
-    pubTxtUnderline.addAction(QStringLiteral("DVWatermark.hUnderlineComboBox"));
-    scWaterMarkPos.addAction(QStringLiteral("DVWatermark.hTextWatermarkPositionSelector"));
-    cbTextPatternCheck.addAction(QStringLiteral("DVWatermark.hTxtPatternCheckBox"));
-    cbShadowCheck.addAction(QStringLiteral("DVWatermark.hTextShadowCheckBox"));
-    cwShadowColor.addAction(QStringLiteral("DVWatermark.hTextShadowColorEntred"));
-    cbOutlineCheck.addAction(QStringLiteral("DVWatermark.hTextOutlineCheckBox"));
-    pubOutlineThickness.addAction(QStringLiteral("DVWatermark.hTextOutlineThicknessComboBox"));
-    pubWatermarkTextEffect.addAction(QStringLiteral("DVWatermark.hAddTextWatermarkEffect"));
-    pubWatermarkTextEffectIntensity.addAction(
-        QStringLiteral("DVWatermark.hAddTextWatermarkEffectIntensity")
-    );
-    cwEmbossColor.addAction(QStringLiteral("DVWatermark.hEmbossColorEntred"));
+    tvWaterMarkText.addTypingAction(u"DVWatermark.textDidChange"_qs);
+    pubPhotoProperties.addAction(u"DVWatermark.hInsertPhotoProperty"_qs);
+    pubFileNamePhotoProperties.addAction(u"cGUIcontrols.hInsertPhotoProperty"_qs);
+    scTxtAlign.addAction(u"DVWatermark.hTextAlignment"_qs);
+    cbFontList.addAction(u"DVWatermark.hTextFontFamilyComboBox"_qs);
+    cwFontColor.addAction(u"DVWatermark.hTextColorEntred"_qs);
+    cbFontBold.addAction(u"DVWatermark.hTextBoldCheckBox"_qs);
+    cbFontItalic.addAction(u"DVWatermark.hTextItalicCheckBox"_qs);
+    pubTxtUnderline.addAction(u"DVWatermark.hUnderlineComboBox"_qs);
+    scWaterMarkPos.addAction(u"DVWatermark.hTextWatermarkPositionSelector"_qs);
+    cbTextPatternCheck.addAction(u"DVWatermark.hTxtPatternCheckBox"_qs);
+    cbShadowCheck.addAction(u"DVWatermark.hTextShadowCheckBox"_qs);
+    cwShadowColor.addAction(u"DVWatermark.hTextShadowColorEntred"_qs);
+    cbOutlineCheck.addAction(u"DVWatermark.hTextOutlineCheckBox"_qs);
+    pubOutlineThickness.addAction(u"DVWatermark.hTextOutlineThicknessComboBox"_qs);
+    pubWatermarkTextEffect.addAction(u"DVWatermark.hAddTextWatermarkEffect"_qs);
+    pubWatermarkTextEffectIntensity.addAction(u"DVWatermark.hAddTextWatermarkEffectIntensity"_qs);
+    cwEmbossColor.addAction(u"DVWatermark.hEmbossColorEntred"_qs);
 }
 
 Layout TextWatermarkControls::textRows()
 {
     return {
-        {Heading{QStringLiteral("Text")}},
-        {Row{.label = QStringLiteral("Text"), .fields = {{.control = &tvWaterMarkText}}}},
+        {Heading{u"Text"_qs}},
+        {Row{.label = u"Text"_qs, .fields = {{.control = &tvWaterMarkText}}}},
         {Row{
-            .label = QStringLiteral("Insert"),
+            .label = u"Insert"_qs,
             .fields
-            = {{.control = &pubPhotoProperties,
-                .accessibleName = QStringLiteral("Insert a photo property")}},
-            .hint = QStringLiteral("Each photo shows its own value in place of <[\u2026]>.")}},
-        {Row{.label = QStringLiteral("Align"), .fields = {{.control = &scTxtAlign}}}},
+            = {{.control = &pubPhotoProperties, .accessibleName = u"Insert a photo property"_qs}},
+            .hint = u"Each photo shows its own value in place of <[\u2026]>."_qs}},
+        {Row{.label = u"Align"_qs, .fields = {{.control = &scTxtAlign}}}},
     };
 }
 
 Layout TextWatermarkControls::fontRows()
 {
     return {
-        {Heading{QStringLiteral("Font")}},
-        {Row{.label = QStringLiteral("Font"), .fields = {{.control = &cbFontList}}}},
+        {Heading{u"Font"_qs}},
+        {Row{.label = u"Font"_qs, .fields = {{.control = &cbFontList}}}},
         {Row{
-            .label = QStringLiteral("Size"),
+            .label = u"Size"_qs,
             .fields
-            = {{.control = &tfFontSize, .unit = QStringLiteral("pt")},
-               {.control = &cwFontColor, .accessibleName = QStringLiteral("Text colour")}}}},
+            = {{.control = &tfFontSize, .unit = u"pt"_qs},
+               {.control = &cwFontColor, .accessibleName = u"Text colour"_qs}}}},
         {Row{
-            .label = QStringLiteral("Style"),
+            .label = u"Style"_qs,
             .fields
             = {{.control = &cbFontBold},
                {.control = &cbFontItalic},
-               {.control = &pubTxtUnderline, .accessibleName = QStringLiteral("Underline")}}}},
+               {.control = &pubTxtUnderline, .accessibleName = u"Underline"_qs}}}},
         {Row{
-            .label = QStringLiteral("Spacing"),
+            .label = u"Spacing"_qs,
             .fields
             = {{.control = &tfKerning,
-                .unit = QStringLiteral("pt letters"),
-                .accessibleName = QStringLiteral("Extra space between letters")},
+                .unit = u"pt letters"_qs,
+                .accessibleName = u"Extra space between letters"_qs},
                {.control = &tfLeading,
-                .unit = QStringLiteral("pt lines"),
-                .accessibleName = QStringLiteral("Extra space between lines")}}}},
+                .unit = u"pt lines"_qs,
+                .accessibleName = u"Extra space between lines"_qs}}}},
         {Row{
-            .label = QStringLiteral("Opacity"),
-            .fields = {{.control = &tfFontTransparancy, .unit = QStringLiteral("%")}}}},
+            .label = u"Opacity"_qs, .fields = {{.control = &tfFontTransparancy, .unit = u"%"_qs}}}},
     };
 }
 
 Layout TextWatermarkControls::placeRows()
 {
     return {
-        {Heading{QStringLiteral("Place")}},
-        {Row{.label = QStringLiteral("Position"), .fields = {{.control = &scWaterMarkPos}}}},
+        {Heading{u"Place"_qs}},
+        {Row{.label = u"Position"_qs, .fields = {{.control = &scWaterMarkPos}}}},
         {Row{
-            .label = QStringLiteral("Shift"),
+            .label = u"Shift"_qs,
             .fields
             = {{.control = &tfXOffset,
-                .unit = QStringLiteral("px right"),
-                .accessibleName = QStringLiteral("Shift to the right")},
-               {.control = &tfYOffset,
-                .unit = QStringLiteral("px up"),
-                .accessibleName = QStringLiteral("Shift upward")}},
-            .hint = QStringLiteral("The gaps between the copies when the text is repeated.")}},
-        {Row{
-            .label = QStringLiteral("Angle"),
-            .fields = {{.control = &tfWMAngle, .unit = QStringLiteral("\u00b0")}}}},
+                .unit = u"px right"_qs,
+                .accessibleName = u"Shift to the right"_qs},
+               {.control = &tfYOffset, .unit = u"px up"_qs, .accessibleName = u"Shift upward"_qs}},
+            .hint = u"The gaps between the copies when the text is repeated."_qs}},
+        {Row{.label = u"Angle"_qs, .fields = {{.control = &tfWMAngle, .unit = u"\u00b0"_qs}}}},
         {Row{.fields = {{.control = &cbTextPatternCheck}}}},
     };
 }
@@ -251,42 +229,39 @@ Layout TextWatermarkControls::placeRows()
 Layout TextWatermarkControls::shadowRows()
 {
     return {
-        {Heading{QStringLiteral("Shadow")}},
+        {Heading{u"Shadow"_qs}},
         {Row{.fields = {{.control = &cbShadowCheck}}}},
         {Row{
-            .label = QStringLiteral("Shift"),
+            .label = u"Shift"_qs,
             .fields
             = {{.control = &tfTextShadowXOffset,
-                .unit = QStringLiteral("px right"),
-                .accessibleName = QStringLiteral("Shift of the shadow to the right")},
+                .unit = u"px right"_qs,
+                .accessibleName = u"Shift of the shadow to the right"_qs},
                {.control = &tfTextShadowYOffset,
-                .unit = QStringLiteral("px up"),
-                .accessibleName = QStringLiteral("Shift of the shadow upward")}}}},
+                .unit = u"px up"_qs,
+                .accessibleName = u"Shift of the shadow upward"_qs}}}},
         {Row{
-            .label = QStringLiteral("Softness"),
+            .label = u"Softness"_qs,
             .fields
             = {{.control = &tfTextShadowRadius,
-                .unit = QStringLiteral("px"),
-                .accessibleName = QStringLiteral("Softness of the shadow")},
-               {.control = &cwShadowColor,
-                .accessibleName = QStringLiteral("Colour of the shadow")}}}},
+                .unit = u"px"_qs,
+                .accessibleName = u"Softness of the shadow"_qs},
+               {.control = &cwShadowColor, .accessibleName = u"Colour of the shadow"_qs}}}},
     };
 }
 
 Layout TextWatermarkControls::lookRows()
 {
     return {
-        {Heading{QStringLiteral("Look")}},
+        {Heading{u"Look"_qs}},
         {Row{
             .fields
             = {{.control = &cbOutlineCheck},
                {.control = &pubOutlineThickness,
-                .accessibleName = QStringLiteral("Thickness of the outline")}}}},
-        {Row{.label = QStringLiteral("Effect"), .fields = {{.control = &pubWatermarkTextEffect}}}},
-        {Row{
-            .label = QStringLiteral("Strength"),
-            .fields = {{.control = &pubWatermarkTextEffectIntensity}}}},
-        {Row{.label = QStringLiteral("Relief colour"), .fields = {{.control = &cwEmbossColor}}}},
+                .accessibleName = u"Thickness of the outline"_qs}}}},
+        {Row{.label = u"Effect"_qs, .fields = {{.control = &pubWatermarkTextEffect}}}},
+        {Row{.label = u"Strength"_qs, .fields = {{.control = &pubWatermarkTextEffectIntensity}}}},
+        {Row{.label = u"Relief colour"_qs, .fields = {{.control = &cwEmbossColor}}}},
     };
 }
 

@@ -4,16 +4,14 @@
 namespace brenvaldo::panels {
 
 WatermarkPanel::WatermarkPanel()
-    : PanelView(QStringLiteral("vwWatermark"))
+    : PanelView(u"vwWatermark"_qs)
     , tbvWatermarkType(
-          QStringLiteral("tbvWatermarkType"),
-          {{.identifier = QStringLiteral("1"), .label = QStringLiteral("Text")},
-           {.identifier = QStringLiteral("2"), .label = QStringLiteral("Image")}}
+          u"tbvWatermarkType"_qs,
+          {{.identifier = u"1"_qs, .label = u"Text"_qs},
+           {.identifier = u"2"_qs, .label = u"Image"_qs}}
       )
 {
-    tbvWatermarkType.addAction(
-        QStringLiteral("cCollectionViewController.tabViewdidSelectTabViewItem")
-    );
+    tbvWatermarkType.addAction(u"cCollectionViewController.tabViewdidSelectTabViewItem"_qs);
     setLayout(
         {{Pages{.tabs = &tbvWatermarkType, .pages = {textWatermarkPage(), imageWatermarkPage()}}}}
     );
