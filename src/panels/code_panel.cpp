@@ -7,11 +7,6 @@ namespace brenvaldo::panels {
 
 CodePanel::CodePanel()
     : PanelView(u"vwQRBarCode"_qs)
-    , pubCodeType(u"pubCodeType"_qs, {u"QR code"_qs, u"Code 128"_qs})
-    , tfQRtext(u"tfQRtext"_qs)
-    , tfQRDestination(u"tfQRDestination"_qs)
-    , tfQRName(u"tfQRName"_qs)
-    , tfQRSize(u"tfQRSize"_qs)
 {
     setLayout({
         {Row{.label = u"Code"_qs, .fields = {{.control = &pubCodeType}}}},

@@ -12,11 +12,11 @@ struct CodePanel : PanelView
 {
     CodePanel();
 
-    controls::PopUpButton pubCodeType;
-    controls::TextField tfQRtext;
-    controls::TextField tfQRDestination;
-    controls::TextField tfQRName;
-    controls::TextField tfQRSize;
+    controls::PopUpButton pubCodeType{u"pubCodeType"_qs, {u"QR code"_qs, u"Code 128"_qs}};
+    controls::TextField tfQRtext{u"tfQRtext"_qs};
+    controls::TextField tfQRDestination{u"tfQRDestination"_qs};
+    controls::TextField tfQRName{u"tfQRName"_qs};
+    controls::TextField tfQRSize{u"tfQRSize"_qs};
 };
 
 } // namespace brenvaldo::panels

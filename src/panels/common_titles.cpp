@@ -28,6 +28,14 @@ QStringList frameBlendTitles()
     return {u"Normal"_qs, u"Darken"_qs, u"Lighten"_qs, u"Multiply"_qs, u"Overlay"_qs, u"Colour"_qs};
 }
 
+QStringList intensityTitles()
+{
+    QStringList titles;
+    for (int tenths = 1; tenths <= 10; ++tenths)
+        titles.append(QString::number(tenths / 10.0, 'f', 1));
+    return titles;
+}
+
 QString endEditingAction() { return u"cCollectionViewController.controlTextDidEndEditing"_qs; }
 
 } // namespace brenvaldo::panels

@@ -15,6 +15,9 @@ namespace brenvaldo::panels {
 /// Blend modes of frames and borders.
 [[nodiscard]] QStringList frameBlendTitles();
 
+/// Strengths from "0.1" to "1.0".
+[[nodiscard]] QStringList intensityTitles();
+
 /// The action of a text field that selects the function its tag stands for.
 [[nodiscard]] QString endEditingAction();
 

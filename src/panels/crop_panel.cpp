@@ -2,20 +2,12 @@
 #include "crop_panel.h"
 
 #include "common_rows.h"
-#include "common_titles.h"
 #include "field_roles.h"
 
 namespace brenvaldo::panels {
 
 CropSizeView::CropSizeView()
     : PanelView(u"dvVCUiCropWxHView"_qs)
-    , tfCropWidth(u"tfCropWidth"_qs)
-    , tfCropHeight(u"tfCropHeight"_qs)
-    , btnFlipCropWH(
-          u"btnFlipCropWH"_qs,
-          u"Swap width and height"_qs,
-          u"cCollectionViewController.hFlipCropWH"_qs
-      )
 {
     makeFunctionField(tfCropWidth, 71);
     makeFunctionField(tfCropHeight, 72);
@@ -31,7 +23,6 @@ CropSizeView::CropSizeView()
 
 CropMinusView::CropMinusView()
     : PanelView(u"dvVCUiCropMinusView"_qs)
-    , tfCropCutOff(u"tfCropCutOff"_qs)
 {
     makeFunctionField(tfCropCutOff, 73);
     setLayout({
@@ -46,17 +37,6 @@ CropMinusView::CropMinusView()
 
 CropPositionView::CropPositionView()
     : PanelView(u"dvVCUiCropPositionView"_qs)
-    , scCropPosition(
-          u"scCropPosition"_qs,
-          positionGridTitles(),
-          4,
-          controls::SegmentedControl::Look::PositionGrid
-      )
-    , tfXcropOffset(u"tfXcropOffset"_qs)
-    , tfYcropOffset(u"tfYcropOffset"_qs)
-    , btnFlipCropXY(
-          u"btnFlipCropXY"_qs, u"Swap offsets"_qs, u"cCollectionViewController.hFlipCropXY"_qs
-      )
 {
     scCropPosition.addAction(u"cCollectionViewController.hCropPositionSegmentedControl"_qs);
     makeFunctionField(tfXcropOffset, 74);
@@ -70,9 +50,6 @@ CropPositionView::CropPositionView()
 
 CropPanel::CropPanel()
     : PanelView(u"vwCropPhotos"_qs)
-    , pubCropType(u"pubCropType"_qs, {u"W x H"_qs, u"%"_qs, u"px"_qs})
-    , dvVCUiCropTypeView(u"dvVCUiCropTypeView"_qs)
-    , dvVCUiCropPlaceView(u"dvVCUiCropPlaceView"_qs)
 {
     pubCropType.addAction(u"cGUIcontrols.hChooseCropTypeFunction"_qs);
     dvVCUiCropTypeView.addView(dvVCUiCropWxHView.name());

@@ -7,20 +7,6 @@ namespace brenvaldo::panels {
 
 ExifPanel::ExifPanel()
     : PanelView(u"vwFileManagementEXIF"_qs)
-    , tfExifUserComment(u"tfExifUserComment"_qs)
-    , cbClearBeforeAdd(u"cbClearBeforeAdd"_qs, u"Replace the comment that stands there"_qs)
-    , tfIPTCTitle(u"tfIPTCTitle"_qs)
-    , tfIPTCKeyWords(u"tfIPTCKeyWords"_qs)
-    , tfIPTCCaption(u"tfIPTCCaption"_qs)
-    , tfIPTCHeadline(u"tfIPTCHeadline"_qs)
-    , tfIPTCCopyRight(u"tfIPTCCopyRight"_qs)
-    , tfIPTCCopyRightTerms(u"tfIPTCCopyRightTerms"_qs)
-    , tfIPTCCreator(u"tfIPTCCreator"_qs)
-    , tfIPTCCreatorTitle(u"tfIPTCCreatorTitle"_qs)
-    , tfIPTCSourceOwner(u"tfIPTCSourceOwner"_qs)
-    , tfIPTCImageContactInfo(u"tfIPTCImageContactInfo"_qs)
-    , tfIPTCEditorContactInfo(u"tfIPTCEditorContactInfo"_qs)
-    , tfIPTCCreatorContactInfo(u"tfIPTCCreatorContactInfo"_qs)
 {
     cbClearBeforeAdd.addAlias(u"cbClearCurrentEUC"_qs);
     Row keyWords = textRow(u"Keywords"_qs, tfIPTCKeyWords);

@@ -2,22 +2,12 @@
 #include "framing_panel.h"
 
 #include "common_rows.h"
-#include "common_titles.h"
 #include "field_roles.h"
 
 namespace brenvaldo::panels {
 
 FramingPanel::FramingPanel()
     : PanelView(u"vwFraming"_qs)
-    , pubFramingType(u"pubFramingType"_qs, {u"Inside the photo"_qs, u"Around the photo"_qs})
-    , tfFramingThickness(u"tfFramingThickness"_qs, u"20"_qs)
-    , tfFramingInset(u"tfFramingInset"_qs, u"0"_qs)
-    , myNSColorWellObjFraming(u"myNSColorWellObjFraming"_qs)
-    , tfFramingHEXvalue(u"tfFramingHEXvalue"_qs, u"000000"_qs)
-    , tfFramingOpacity(u"tfFramingOpacity"_qs, u"100"_qs)
-    , pubFramingRenderMethod(u"pubFramingRenderMethod"_qs, frameBlendTitles())
-    , cbFramingGradient(u"cbFramingGradient"_qs, u"Fade out"_qs)
-    , pubFramingGradientAngle(u"pubFramingGradientAngle"_qs, gradientAngleTitles())
 {
     giveRoles();
     setLayout({

@@ -7,11 +7,6 @@ namespace brenvaldo::panels {
 
 GalleryPanel::GalleryPanel()
     : PanelView(u"vwHtmlExport"_qs)
-    , pubPhotoGalleryModel(
-          u"pubPhotoGalleryModel"_qs,
-          {u"Table, light"_qs, u"Table, dark"_qs, u"Grid"_qs, u"Table, large photos"_qs}
-      )
-    , tfHTMLfileName(u"tfHTMLfileName"_qs)
 {
     pubPhotoGalleryModel.addAlias(u"pubTemplateChoice"_qs);
     pubPhotoGalleryModel.addAction(u"cGUIcontrols.hChooseHTMLExportTemplate"_qs);

@@ -12,8 +12,10 @@ struct GalleryPanel : PanelView
 {
     GalleryPanel();
 
-    controls::PopUpButton pubPhotoGalleryModel;
-    controls::TextField tfHTMLfileName;
+    controls::PopUpButton pubPhotoGalleryModel{
+        u"pubPhotoGalleryModel"_qs,
+        {u"Table, light"_qs, u"Table, dark"_qs, u"Grid"_qs, u"Table, large photos"_qs}};
+    controls::TextField tfHTMLfileName{u"tfHTMLfileName"_qs};
 };
 
 } // namespace brenvaldo::panels

@@ -9,85 +9,9 @@ namespace {
 
 constexpr int firstImageWatermarkTag = 300;
 
-QStringList renderMethodTitles()
-{
-    return {
-        u"Normal"_qs,
-        u"Add, darker"_qs,
-        u"Add, lighter"_qs,
-        u"Multiply"_qs,
-        u"Difference"_qs,
-        u"Colour dodge"_qs,
-        u"Luminosity"_qs,
-        u"Colour"_qs,
-        u"Exclusion"_qs,
-        u"Colour burn"_qs,
-        u"Soft light"_qs,
-    };
-}
-
-QStringList filterTitles()
-{
-    return {
-        u"None"_qs,
-        u"Black and white"_qs,
-        u"Negative"_qs,
-        u"Dots"_qs,
-        u"Lines"_qs,
-        u"Circles"_qs,
-    };
-}
-
-QStringList scaleTitles()
-{
-    return {
-        u"% of the image"_qs,
-        u"% of the photo's width"_qs,
-        u"% of the photo's height"_qs,
-        u"The image's own size"_qs,
-    };
-}
-
 } // namespace
 
 ImageWatermarkControls::ImageWatermarkControls()
-    : tfWaterMarkImageFilePath(u"tfWaterMarkImageFilePath"_qs)
-    , iwWaterMarkImage(u"iwWaterMarkImage"_qs)
-    , pubImageLookUp(
-          u"pubImageLookUp"_qs, {u"Last folder"_qs, u"Watermark library"_qs, u"Pattern library"_qs}
-      )
-    , cbImageFromLib(u"cbImageFromLib"_qs, u"Image from the library"_qs)
-    , mxImageScaleProperty(u"mxImageScaleProperty"_qs, scaleTitles())
-    , tfImageScalePC(u"tfImageScalePC"_qs, u"100"_qs)
-    , tfImageTransparancy(u"tfImageTransparancy"_qs, u"100"_qs)
-    , pubRenderMethod(u"pubRenderMethod"_qs, renderMethodTitles())
-    , scImageWaterMarkPos(
-          u"scImageWaterMarkPos"_qs,
-          positionGridTitles(),
-          8,
-          controls::SegmentedControl::Look::PositionGrid
-      )
-    , tfImageXOffset(u"tfImageXOffset"_qs, u"0"_qs)
-    , tfImageYOffset(u"tfImageYOffset"_qs, u"0"_qs)
-    , tfImageWMAngle(u"tfImageWMAngle"_qs, u"0"_qs)
-    , cbPatternCheck(u"cbPatternCheck"_qs, u"Repeat over the whole photo"_qs)
-    , cbImageShadowCheck(u"cbImageShadowCheck"_qs, u"Cast a shadow"_qs)
-    , tfImageShadowXOffset(u"tfImageShadowXOffset"_qs, u"2"_qs)
-    , tfImageShadowYOffset(u"tfImageShadowYOffset"_qs, u"-2"_qs)
-    , tfImageShadowRadius(u"tfImageShadowRadius"_qs, u"4"_qs)
-    , cwImageShadowColor(u"cwImageShadowColor"_qs)
-    , cbImageFadeOut(u"cbImageFadeOut"_qs, u"Fade out"_qs)
-    , tfImageFadeOutAngle(u"tfImageFadeOutAngle"_qs, u"0"_qs)
-    , sliderFadeOutValue(u"sliderFadeOutValue"_qs, 0.0, 1.0, 0.5)
-    , cbCircularFadeOut(u"cbCircularFadeOut"_qs, u"Circular"_qs)
-    , cbCircularInvertFadeOut(u"cbCircularInvertFadeOut"_qs, u"From the middle"_qs)
-    , pubWatermarkFilterType(u"pubWatermarkFilterType"_qs, filterTitles())
-    , tfWatermarkFilterSize(u"tfWatermarkFilterSize"_qs, u"6"_qs)
-    , pubWatermarkFilterSharpness(u"pubWatermarkFilterSharpness"_qs, {u"Soft"_qs, u"Sharp"_qs})
-    , tfLineScreenAngle(u"tfLineScreenAngle"_qs, u"0"_qs)
-    , tfCenterCircularWidth(u"tfCenterCircularWidth"_qs, u"50"_qs)
-    , tfCenterCircularHeight(u"tfCenterCircularHeight"_qs, u"50"_qs)
-    , cbWMSimulationMode(u"cbWMSimulationMode"_qs, u"Simulation"_qs)
 {
     disableDependentControls();
     giveTags();

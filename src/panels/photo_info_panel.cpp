@@ -7,9 +7,6 @@ namespace brenvaldo::panels {
 
 PhotoInfoPanel::PhotoInfoPanel()
     : PanelView(u"vwPhotoInfo"_qs)
-    , tfActiveFilePath(u"tfActiveFilePath"_qs)
-    , mTree(u"mTree"_qs, {u"depth"_qs, u"key"_qs, u"val"_qs})
-    , myPropertyTreeView(u"myPropertyTreeView"_qs, mTree)
 {
     setLayout({
         {Heading{u"Photo"_qs}},

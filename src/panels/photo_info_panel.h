@@ -12,10 +12,10 @@ struct PhotoInfoPanel : PanelView
 {
     PhotoInfoPanel();
 
-    controls::TextField tfActiveFilePath;
+    controls::TextField tfActiveFilePath{u"tfActiveFilePath"_qs};
     /// The property tree from the top down: depth from 0, name and value of each property.
-    controls::ArrayController mTree;
-    controls::TableView myPropertyTreeView;
+    controls::ArrayController mTree{u"mTree"_qs, {u"depth"_qs, u"key"_qs, u"val"_qs}};
+    controls::TableView myPropertyTreeView{u"myPropertyTreeView"_qs, mTree};
 };
 
 } // namespace brenvaldo::panels

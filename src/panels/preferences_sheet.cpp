@@ -5,16 +5,6 @@ namespace brenvaldo::panels {
 
 PreferencesSheet::PreferencesSheet()
     : PanelView(u"wwPreferencesWindow"_qs)
-    , sheet(name())
-    , tfLibraryFilePath(u"tfLibraryFilePath"_qs)
-    , btnChooseLibraryDestination(
-          u"btnChooseLibraryDestination"_qs,
-          u"Choose\u2026"_qs,
-          u"cSheetControl.chooseLibraryDestination"_qs
-      )
-    , btnClosePreferences(
-          u"btnClosePreferences"_qs, u"Close"_qs, u"cSheetControl.closePreferencesSheetObjC"_qs
-      )
 {
     tfLibraryFilePath.setEnabled(false);
     setLayout({

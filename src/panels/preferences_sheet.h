@@ -12,10 +12,15 @@ struct PreferencesSheet : PanelView
 {
     PreferencesSheet();
 
-    controls::Sheet sheet; ///< named as the view is
-    controls::TextField tfLibraryFilePath;
-    controls::Button btnChooseLibraryDestination;
-    controls::Button btnClosePreferences;
+    /// Named as the view is.
+    controls::Sheet sheet{name()};
+    controls::TextField tfLibraryFilePath{u"tfLibraryFilePath"_qs};
+    controls::Button btnChooseLibraryDestination{
+        u"btnChooseLibraryDestination"_qs,
+        u"Choose\u2026"_qs,
+        u"cSheetControl.chooseLibraryDestination"_qs};
+    controls::Button btnClosePreferences{
+        u"btnClosePreferences"_qs, u"Close"_qs, u"cSheetControl.closePreferencesSheetObjC"_qs};
 };
 
 } // namespace brenvaldo::panels

@@ -5,19 +5,6 @@ namespace brenvaldo::panels {
 
 PresetsSheet::PresetsSheet()
     : PanelView(u"wwPresetsWindow"_qs)
-    , sheet(name())
-    , tfInputPDM(u"tfInputPDM"_qs)
-    , btnAddPreset(u"btnAddPreset"_qs, u"Save"_qs, u"cPresetManager.hAddPreset"_qs)
-    , thePresetsData(u"thePresetsData"_qs, {u"nmPreset"_qs, u"nmProces"_qs, u"nmbrAction"_qs})
-    , myPresetsTableView(u"myPresetsTableView"_qs, thePresetsData)
-    , btnApplyPreset(
-          u"btnApplyPreset"_qs, u"Use these settings"_qs, u"cPresetManager.hApplySelectedPreset"_qs
-      )
-    , btnRemovePreset(u"btnRemovePreset"_qs, u"Remove"_qs, u"cPresetManager.hRemovePreset"_qs)
-    , btnClosePresets(
-          u"btnClosePresets"_qs, u"Close"_qs, u"cPresetManager.closePresetsSheetObjC"_qs
-      )
-    , my2ndView(u"my2ndView"_qs)
 {
     setLayout({
         {Heading{u"Keep the present settings"_qs}},

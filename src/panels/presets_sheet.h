@@ -13,15 +13,21 @@ struct PresetsSheet : PanelView
 {
     PresetsSheet();
 
-    controls::Sheet sheet; ///< named as the view is
-    controls::TextField tfInputPDM;
-    controls::Button btnAddPreset;
-    controls::ArrayController thePresetsData;
-    controls::TableView myPresetsTableView;
-    controls::Button btnApplyPreset;
-    controls::Button btnRemovePreset;
-    controls::Button btnClosePresets;
-    controls::ImageView my2ndView; ///< a second picture, which a load of a preset clears
+    /// Named as the view is.
+    controls::Sheet sheet{name()};
+    controls::TextField tfInputPDM{u"tfInputPDM"_qs};
+    controls::Button btnAddPreset{u"btnAddPreset"_qs, u"Save"_qs, u"cPresetManager.hAddPreset"_qs};
+    controls::ArrayController thePresetsData{
+        u"thePresetsData"_qs, {u"nmPreset"_qs, u"nmProces"_qs, u"nmbrAction"_qs}};
+    controls::TableView myPresetsTableView{u"myPresetsTableView"_qs, thePresetsData};
+    controls::Button btnApplyPreset{
+        u"btnApplyPreset"_qs, u"Use these settings"_qs, u"cPresetManager.hApplySelectedPreset"_qs};
+    controls::Button btnRemovePreset{
+        u"btnRemovePreset"_qs, u"Remove"_qs, u"cPresetManager.hRemovePreset"_qs};
+    controls::Button btnClosePresets{
+        u"btnClosePresets"_qs, u"Close"_qs, u"cPresetManager.closePresetsSheetObjC"_qs};
+    /// A second picture, which a load of a preset clears.
+    controls::ImageView my2ndView{u"my2ndView"_qs};
 };
 
 } // namespace brenvaldo::panels

@@ -5,11 +5,6 @@ namespace brenvaldo::panels {
 
 ProfilePanel::ProfilePanel()
     : PanelView(u"vwProfileConversion"_qs)
-    , pubInstalledICCProfiles(u"pubInstalledICCProfiles"_qs, {})
-    , pubCPCRenderIntent(
-          u"pubCPCRenderIntent"_qs,
-          {u"perceptual"_qs, u"relative"_qs, u"absolute"_qs, u"saturation"_qs}
-      )
 {
     pubInstalledICCProfiles.addAction(u"cGUIcontrols.hCtPSelectICCProfileCallPreview"_qs);
     pubCPCRenderIntent.addAction(u"cGUIcontrols.hCtPRenderIntentCallPreview"_qs);

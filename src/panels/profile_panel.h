@@ -10,8 +10,11 @@ struct ProfilePanel : PanelView
 {
     ProfilePanel();
 
-    controls::ComboBox pubInstalledICCProfiles; ///< filled when the function is selected
-    controls::PopUpButton pubCPCRenderIntent;
+    /// Filled when the function is selected.
+    controls::ComboBox pubInstalledICCProfiles{u"pubInstalledICCProfiles"_qs, {}};
+    controls::PopUpButton pubCPCRenderIntent{
+        u"pubCPCRenderIntent"_qs,
+        {u"perceptual"_qs, u"relative"_qs, u"absolute"_qs, u"saturation"_qs}};
 };
 
 } // namespace brenvaldo::panels

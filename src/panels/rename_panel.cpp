@@ -7,10 +7,6 @@ namespace brenvaldo::panels {
 
 RenamePanel::RenamePanel()
     : PanelView(u"vwFileManagementRename"_qs)
-    , tfPrefixToAdd(u"tfPrefixToAdd"_qs)
-    , cbxPrefixMetaData(u"cbxPrefixMetaData"_qs, {})
-    , tfPostfixToAdd(u"tfPostfixToAdd"_qs)
-    , cbxPostfixMetaData(u"cbxPostfixMetaData"_qs, {})
 {
     setLayout({
         {Heading{u"Before the name"_qs}},

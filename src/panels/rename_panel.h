@@ -12,10 +12,12 @@ struct RenamePanel : PanelView
 {
     RenamePanel();
 
-    controls::TextField tfPrefixToAdd;
-    controls::ComboBox cbxPrefixMetaData; ///< filled at start
-    controls::TextField tfPostfixToAdd;
-    controls::ComboBox cbxPostfixMetaData; ///< filled at start
+    controls::TextField tfPrefixToAdd{u"tfPrefixToAdd"_qs};
+    /// Filled at start.
+    controls::ComboBox cbxPrefixMetaData{u"cbxPrefixMetaData"_qs, {}};
+    controls::TextField tfPostfixToAdd{u"tfPostfixToAdd"_qs};
+    /// Filled at start.
+    controls::ComboBox cbxPostfixMetaData{u"cbxPostfixMetaData"_qs, {}};
 };
 
 } // namespace brenvaldo::panels

@@ -5,12 +5,6 @@ namespace brenvaldo::panels {
 
 ScaleMaxView::ScaleMaxView()
     : PanelView(u"dvVCUiScaleMaxView"_qs)
-    , pubScaleMaxType(
-          u"pubScaleMaxType"_qs,
-          {u"Width"_qs, u"Height"_qs, u"Longest side"_qs, u"Percentage"_qs},
-          2
-      )
-    , tfScaleMaxVal(u"tfScaleMaxVal"_qs)
 {
     setLayout({
         {Row{.label = u"Set the"_qs, .fields = {{.control = &pubScaleMaxType}}}},
@@ -26,14 +20,6 @@ ScaleMaxView::ScaleMaxView()
 
 ScaleFixView::ScaleFixView()
     : PanelView(u"dvVCUiScaleFixView"_qs)
-    , tfScaleFixWidth(u"tfScaleFixWidth"_qs)
-    , tfScaleFixHeight(u"tfScaleFixHeight"_qs)
-    , btnFlipScaleFixWH(
-          u"btnFlipScaleFixWH"_qs,
-          u"Swap width and height"_qs,
-          u"cCollectionViewController.hFlipScaleFixWH"_qs
-      )
-    , cbScaleAspectRatio(u"cbScaleAspectRatio"_qs, u"Keep proportions, cut the excess"_qs, 1)
 {
     setLayout({
         {Row{.label = u"Width"_qs, .fields = {{.control = &tfScaleFixWidth, .unit = u"px"_qs}}}},
@@ -47,9 +33,6 @@ ScaleFixView::ScaleFixView()
 
 ResizePanel::ResizePanel()
     : PanelView(u"vwResizePhotos"_qs)
-    , pubScaleType(u"pubScaleType"_qs, {u"One side or percentage"_qs, u"Fixed width and height"_qs})
-    , pubResizeType(u"pubResizeType"_qs, {u"Resize"_qs})
-    , dvVCUiResizeMainView(u"dvVCUiResizeMainView"_qs)
 {
     pubScaleType.addAction(u"cGUIcontrols.hChooseScaleTypeFunction"_qs);
     dvVCUiResizeMainView.addView(dvVCUiScaleMaxView.name());

@@ -8,11 +8,6 @@ namespace brenvaldo::panels {
 
 RotatePanel::RotatePanel()
     : PanelView(u"vwRotatePhotos"_qs)
-    , tfRotationAngle(u"tfRotationAngle"_qs, u"0"_qs)
-    , cbRotationBackgroundColor(u"cbRotationBackgroundColor"_qs, u"Coloured canvas"_qs)
-    , cwRotationBackgroundColor(u"cwRotationBackgroundColor"_qs)
-    , tfRotationBackgroundHexColor(u"tfRotationBackgroundHexColor"_qs, u"000000"_qs)
-    , tfRotationEnlargeCanvas(u"tfRotationEnlargeCanvas"_qs, u"0"_qs)
 {
     makeFunctionField(tfRotationAngle, 81);
     cbRotationBackgroundColor.addAction(u"cGUIcontrols.hAddRotationBackGroundCallsForPreview"_qs);

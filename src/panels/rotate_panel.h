@@ -13,11 +13,13 @@ struct RotatePanel : PanelView
 {
     RotatePanel();
 
-    controls::TextField tfRotationAngle;
-    controls::CheckBox cbRotationBackgroundColor;
-    controls::ColorWell cwRotationBackgroundColor;
-    controls::TextField tfRotationBackgroundHexColor;
-    controls::TextField tfRotationEnlargeCanvas;
+    controls::TextField tfRotationAngle{u"tfRotationAngle"_qs, u"0"_qs};
+    controls::CheckBox cbRotationBackgroundColor{
+        u"cbRotationBackgroundColor"_qs, u"Coloured canvas"_qs};
+    controls::ColorWell cwRotationBackgroundColor{u"cwRotationBackgroundColor"_qs};
+    controls::TextField tfRotationBackgroundHexColor{
+        u"tfRotationBackgroundHexColor"_qs, u"000000"_qs};
+    controls::TextField tfRotationEnlargeCanvas{u"tfRotationEnlargeCanvas"_qs, u"0"_qs};
 };
 
 } // namespace brenvaldo::panels

@@ -2,28 +2,12 @@
 #include "roundings_panel.h"
 
 #include "common_rows.h"
-#include "common_titles.h"
 #include "field_roles.h"
 
 namespace brenvaldo::panels {
 
 RoundingsPanel::RoundingsPanel()
     : PanelView(u"vwRoundings"_qs)
-    , pubRCType(u"pubRCType"_qs, {u"Rounded rectangle"_qs, u"Circle"_qs, u"Ellipse"_qs})
-    , tfRCDiameter(u"tfRCDiameter"_qs, u"50"_qs)
-    , cbRCBackgroundColor(u"cbRCBackgroundColor"_qs, u"Coloured background"_qs)
-    , cwRCBackgroundColor(u"cwRCBackgroundColor"_qs)
-    , tfRCBackgroundHexColor(u"tfRCBackgroundHexColor"_qs, u"000000"_qs)
-    , tfRCEnlargeCanvas(u"tfRCEnlargeCanvas"_qs, u"0"_qs)
-    , cbRCBorderColor(u"cbRCBorderColor"_qs, u"Border"_qs)
-    , cwRCBorderColor(u"cwRCBorderColor"_qs)
-    , tfRCBorderHexColor(u"tfRCBorderHexColor"_qs, u"000000"_qs)
-    , tfRCBorderWidth(u"tfRCBorderWidth"_qs, u"10"_qs)
-    , pubRCBorderPos(u"pubRCBorderPos"_qs, {u"On the photo"_qs, u"Around the photo"_qs})
-    , tfRCOpacity(u"tfRCOpacity"_qs, u"100"_qs)
-    , pubRCRenderMethod(u"pubRCRenderMethod"_qs, frameBlendTitles())
-    , cbRCGradient(u"cbRCGradient"_qs, u"Fade out"_qs)
-    , pubRCGradientAngle(u"pubRCGradientAngle"_qs, gradientAngleTitles())
 {
     giveRoles();
     setLayout(joined({shapeRows(), borderRows()}));

@@ -7,24 +7,6 @@ namespace brenvaldo::panels {
 
 SortingPanel::SortingPanel()
     : PanelView(u"vwFileManagementSorting"_qs)
-    , mySortTabView(
-          u"mySortTabView"_qs,
-          {{.identifier = u"1"_qs, .label = u"By hand"_qs},
-           {.identifier = u"2"_qs, .label = u"Batch mode"_qs},
-           {.identifier = u"3"_qs, .label = u"Upload"_qs}}
-      )
-    , tfSortDestination01(u"tfSortDestination01"_qs)
-    , tfSortDestination02(u"tfSortDestination02"_qs)
-    , tfSortDestination03(u"tfSortDestination03"_qs)
-    , tfSortDestination04(u"tfSortDestination04"_qs)
-    , tfSortDestination05(u"tfSortDestination05"_qs)
-    , tfSortDestination06(u"tfSortDestination06"_qs)
-    , theApplePhotosData(u"theApplePhotosData"_qs, {u"photosAlbumName"_qs})
-    , myPhotosTableView(u"myPhotosTableView"_qs, theApplePhotosData)
-    , tfAddTitle(u"tfAddTitle"_qs)
-    , tfAddKeyword(u"tfAddKeyword"_qs)
-    , tfAddDescription(u"tfAddDescription"_qs)
-    , cbAddToFavorite(u"cbAddToFavorite"_qs, u"Mark as favourite"_qs)
 {
     mySortTabView.addAction(u"cGUIcontrols.tabViewdidSelectTabViewItem"_qs);
     setLayout({{Pages{

@@ -2,50 +2,12 @@
 #include "tint_panel.h"
 
 #include "common_rows.h"
-#include "common_titles.h"
 #include "field_roles.h"
 
 namespace brenvaldo::panels {
 
 TintPanel::TintPanel()
     : PanelView(u"vwAddTint"_qs)
-    , cwAddTint(u"cwAddTint"_qs)
-    , tfAddTintHexValue(u"tfAddTintHexValue"_qs, u"000000"_qs)
-    , tfAddTintOpacity(u"tfAddTintOpacity"_qs, u"50"_qs)
-    , pubAddTintRenderMethod(
-          u"pubAddTintRenderMethod"_qs,
-          {u"Normal"_qs, u"Darker"_qs, u"Lighter"_qs, u"Multiply"_qs, u"Overlay"_qs, u"Colour"_qs}
-      )
-    , cbAddTintDuoTone(u"cbAddTintDuoTone"_qs, u"Black and white photo below"_qs)
-    , cbAddTintGradient(u"cbAddTintGradient"_qs, u"Fade out"_qs)
-    , pubAddTintAngle(u"pubAddTintAngle"_qs, gradientAngleTitles())
-    , tbvFrameType(
-          u"tbvFrameType"_qs,
-          {{.identifier = u"1"_qs, .label = u"W x H"_qs},
-           {.identifier = u"2"_qs, .label = u"%"_qs},
-           {.identifier = u"3"_qs, .label = u"px"_qs}}
-      )
-    , cbAddTintOrigSize(u"cbAddTintOrigSize"_qs, u"The whole photo"_qs, 1)
-    , tfAddTintWidth(u"tfAddTintWidth"_qs)
-    , tfAddTintHeight(u"tfAddTintHeight"_qs)
-    , tfAddTintPercentage(u"tfAddTintPercentage"_qs)
-    , pubAddTintPercentageOrient(
-          u"pubAddTintPercentageOrient"_qs,
-          {u"Of the width, full height"_qs,
-           u"Of the height, full width"_qs,
-           u"Of the width, same border"_qs,
-           u"Of the height, same border"_qs,
-           u"Of width and height"_qs}
-      )
-    , tfAddTintPixels(u"tfAddTintPixels"_qs)
-    , scAddTintPosition(
-          u"scAddTintPosition"_qs,
-          positionGridTitles(),
-          4,
-          controls::SegmentedControl::Look::PositionGrid
-      )
-    , tfAddTintPosX(u"tfAddTintPosX"_qs)
-    , tfAddTintPosY(u"tfAddTintPosY"_qs)
 {
     giveRoles();
     setLayout(joined({

@@ -5,11 +5,6 @@ namespace brenvaldo::panels {
 
 WatermarkPanel::WatermarkPanel()
     : PanelView(u"vwWatermark"_qs)
-    , tbvWatermarkType(
-          u"tbvWatermarkType"_qs,
-          {{.identifier = u"1"_qs, .label = u"Text"_qs},
-           {.identifier = u"2"_qs, .label = u"Image"_qs}}
-      )
 {
     tbvWatermarkType.addAction(u"cCollectionViewController.tabViewdidSelectTabViewItem"_qs);
     setLayout(

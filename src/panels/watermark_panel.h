@@ -11,7 +11,10 @@ struct WatermarkPanel : PanelView, TextWatermarkControls, ImageWatermarkControls
 {
     WatermarkPanel();
 
-    controls::TabView tbvWatermarkType;
+    controls::TabView tbvWatermarkType{
+        u"tbvWatermarkType"_qs,
+        {{.identifier = u"1"_qs, .label = u"Text"_qs},
+         {.identifier = u"2"_qs, .label = u"Image"_qs}}};
 };
 
 } // namespace brenvaldo::panels
