@@ -1,0 +1,88 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+cmake_minimum_required(VERSION 3.25)
+# Tests CheckLayers.cmake on a tree of two libraries below a third, made anew in the folder TREE.
+set(CHECK_LAYERS "${CMAKE_CURRENT_LIST_DIR}/CheckLayers.cmake")
+
+foreach(library platform/graphics controls views views/form)
+  file(WRITE "${TREE}/src/${library}/CMakeLists.txt" "")
+endforeach()
+foreach(header platform/graphics/jpeg2000.h controls/control.h controls/parts/knob.h views/theme.h views/form/row.h)
+  file(WRITE "${TREE}/src/${header}" "")
+endforeach()
+foreach(header QtCore/QString QtCore/QtEndian QtGui/QFont QtWidgets/QLabel QtNetwork/QTcpSocket)
+  file(WRITE "${TREE}/qt/${header}" "")
+endforeach()
+set(faults "")
+
+# check(<variable> <file below src> <its text> <libraries that its library may include>): what CheckLayers says.
+function(check variable file text allowed)
+  string(REGEX MATCH "^(platform/[a-z]+|views/form|[a-z]+)" folder "${file}")
+  file(WRITE "${TREE}/src/${file}" "${text}\n")
+  execute_process(
+    COMMAND ${CMAKE_COMMAND} -DFOLDER=${folder} -DALLOWED=${allowed} -DSOURCE_DIR=${TREE}/src
+            -DQT_HEADERS=${TREE}/qt -P ${CHECK_LAYERS}
+    RESULT_VARIABLE result
+    ERROR_VARIABLE message
+  )
+  file(REMOVE "${TREE}/src/${file}")
+  if(result EQUAL 0)
+    set(message "")
+  endif()
+  string(REGEX REPLACE "[ \n]+" " " message "${message}")
+  set(${variable} "${message}" PARENT_SCOPE)
+endfunction()
+
+function(accepts file text allowed)
+  check(message "${file}" "${text}" "${allowed}")
+  if(message)
+    set(faults "${faults}\n${file} may hold ${text}, but: ${message}" PARENT_SCOPE)
+  endif()
+endfunction()
+
+function(refuses file text allowed reason)
+  check(message "${file}" "${text}" "${allowed}")
+  string(FIND "${message}" "${reason}" position)
+  if(position EQUAL -1)
+    set(faults "${faults}\n${file} may not hold ${text} (${reason}), but: ${message}" PARENT_SCOPE)
+  endif()
+endfunction()
+
+accepts(controls/a.cpp "#include <string>" "")
+accepts(controls/a.cpp "#include <QString>" "")
+accepts(controls/a.cpp "#include <QtEndian>" "")
+accepts(controls/a.cpp "#include \"control.h\"" "")
+accepts(controls/a.cpp "#include \"parts/knob.h\"" "")
+accepts(controls/a.cpp "#include <controls/parts/knob.h>" "")
+accepts(controls/parts/a.cpp "#include <platform/graphics/jpeg2000.h>" "platform/graphics")
+accepts(controls/control.cpp "#include \"control.h\"\n#include <string>" "")
+accepts(platform/graphics/a.cpp "#include <vips/vips8>" "")
+accepts(views/a.cpp "#include <QLabel>\n#include <views/form/row.h>" "controls,views/form")
+accepts(views/a.cpp "#include \"a.moc\"" "")
+
+refuses(controls/a.cpp "#include <platform/graphics/jpeg2000.h>" "" "platform/graphics is not among the libraries")
+refuses(controls/parts/a.cpp "#include <views/theme.h>" "platform/graphics" "views is not among")
+refuses(controls/a.cpp "  #  include <views/theme.h>" "" "views is not among")
+refuses(controls/a.cpp "#include \"../views/theme.h\"" "views" "name the file from the top")
+refuses(controls/a.cpp "#include <controls/../views/theme.h>" "views" "name the file from the top")
+refuses(views/a.cpp "#include <views/form/row.h>" "controls" "views/form is not among")
+refuses(views/form/a.cpp "#include <views/theme.h>" "controls" "views is not among")
+refuses(views/a.cpp "#include \"form/row.h\"" "views/form" "in angle brackets")
+refuses(controls/a.cpp "#include <controls/gone.h>" "" "there is no such file")
+refuses(controls/a.cpp "#include HEADER" "" "it names no file")
+refuses(controls/control.cpp "#include <string>\n#include \"control.h\"" "" "its own header comes first")
+
+refuses(controls/a.cpp "#include <vips/vips8>" "" "only platform/(graphics|codecs|drawing) may see it")
+refuses(controls/a.cpp "#include <sqlite3.h>" "" "only presets may see it")
+refuses(views/a.cpp "#include <tiffio.h>" "" "may see it")
+refuses(controls/a.cpp "#include <sys/stat.h>" "" "may see it")
+refuses(controls/a.cpp "#include <QLabel>" "" "may see it")
+refuses(controls/a.cpp "#include <QtWidgets>" "" "may see it")
+refuses(controls/a.cpp "#include <QtWidgets/QLabel>" "" "may see it")
+refuses(controls/a.cpp "#include <QFont>" "" "may see it")
+refuses(views/a.cpp "#include <QTcpSocket>" "" "only platform/services|app may see it")
+refuses(controls/a.cpp "#include <stranger/stranger.h>" "" "does not know it")
+refuses(controls/a.cpp "#include <QStranger>" "" "does not know it")
+
+if(faults)
+  message(FATAL_ERROR "${faults}")
+endif()
