@@ -26,9 +26,9 @@ public:
     /// A real, an integer or a boolean.
     [[nodiscard]] double number(Reference entry) const;
     [[nodiscard]] std::vector<Reference> array(Reference entry) const;
-    /// The value of `key` in a dictionary.
-    [[nodiscard]] Reference value(Reference dictionary, const std::string& key) const;
-    [[nodiscard]] bool hasKey(Reference dictionary, const std::string& key) const;
+    /// The value of `key` in the dictionary `entry`.
+    [[nodiscard]] Reference value(Reference entry, const std::string& key) const;
+    [[nodiscard]] bool hasKey(Reference entry, const std::string& key) const;
 
 private:
     struct Dictionary

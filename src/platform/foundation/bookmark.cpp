@@ -10,7 +10,7 @@ namespace {
 
 // A mark of four bytes, one byte for the version of the record, the path in UTF-8.
 constexpr QByteArrayView recordStart("BMRK\x01");
-constexpr qsizetype longestPath = 16 * 1024;
+constexpr qsizetype longestPath = qsizetype{16} * 1024;
 
 } // namespace
 

@@ -14,7 +14,7 @@ namespace brenvaldo::platform {
 
 namespace {
 
-constexpr qsizetype longestText = 16 * 1024;
+constexpr qsizetype longestText = qsizetype{16} * 1024;
 
 /// -0 as 0, and what is no finite number as 0: neither may reach an archive.
 ColorComponents normalized(ColorComponents components)

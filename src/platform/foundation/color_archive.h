@@ -26,6 +26,6 @@ using ColorComponents = std::array<float, 3>;
 ///
 /// Nothing when the text is damaged or holds anything but three finite numbers. Components outside
 /// of 0 to 1 come back as they are.
-[[nodiscard]] std::optional<ColorComponents> colorFromArchive(const QString& base64);
+[[nodiscard]] std::optional<ColorComponents> colorFromArchive(const QString& text);
 
 } // namespace brenvaldo::platform

@@ -81,7 +81,7 @@ QByteArray uidEntry(int uid)
 QByteArray floatEntry(float value)
 {
     const quint32 bits = qToBigEndian(std::bit_cast<quint32>(value));
-    QByteArray entry("\x22");
+    QByteArray entry(1, '\x22');
     return entry.append(reinterpret_cast<const char*>(&bits), sizeof bits);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "signal.h"
+#include <platform/foundation/signal.h>
 
 #include <QString>
 
