@@ -31,15 +31,21 @@ as_root()
     fi
 }
 
-# build <preset> <targets>: configures the preset when that was not done yet, and builds the targets.
-build()
+# configure <preset> <more for cmake>: configures the preset.
+configure()
 {
-    local preset=$1
-    shift
     if command -v ccache > /dev/null; then
         export CMAKE_CXX_COMPILER_LAUNCHER=ccache
         export CCACHE_SLOPPINESS=pch_defines,time_macros # what caching with precompiled headers asks for
     fi
-    [ -f "build/$preset/build.ninja" ] || cmake --preset "$preset"
+    cmake --preset "$@"
+}
+
+# build <preset> <targets>: configures the preset and builds the targets.
+build()
+{
+    local preset=$1
+    shift
+    configure "$preset"
     cmake --build --preset "$preset" --target "$@"
 }
