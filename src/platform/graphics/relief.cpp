@@ -50,10 +50,9 @@ float quarterCircle(float distance, float radius)
 /// How far each pixel belongs to the part: `mask` as a fraction of its brightest sample.
 std::vector<float> coverageOf(const HeightField& mask)
 {
-    constexpr float dimmestPart = 0.5F;
     const float brightest = *std::max_element(mask.heights.begin(), mask.heights.end());
     std::vector<float> coverage(mask.heights.size());
-    if (brightest < dimmestPart)
+    if (brightest <= 0)
         return coverage;
     for (std::size_t index = 0; index < coverage.size(); ++index)
         coverage[index] = mask.heights[index] / brightest;

@@ -99,26 +99,27 @@ TEST(HeightField, RisesByTheDistanceToTheNearestPixelOutside)
 
 TEST(HeightField, HasTheSameSlopeForATranslucentPart)
 {
-    QImage translucent(200, 101, QImage::Format_ARGB32_Premultiplied);
-    translucent.fill(Qt::transparent);
-    QPainter(&translucent).fillRect(100, 0, 100, 101, QColor(255, 255, 255, 153));
-
     const HeightField whole = heightFieldFromMask(rightHalf(200, 101), 4);
-    const HeightField field = heightFieldFromMask(translucent, 4);
+    for (const int alpha : {5, 51, 126, 128, 153}) {
+        QImage translucent(200, 101, QImage::Format_ARGB32_Premultiplied);
+        translucent.fill(Qt::transparent);
+        QPainter(&translucent).fillRect(100, 0, 100, 101, QColor(255, 255, 255, alpha));
 
-    // Heights are multiplied by the mask.
-    for (const int x : {99, 100, 102, 150})
-        EXPECT_NEAR(field.at(x, 50), 0.6 * static_cast<double>(whole.at(x, 50)), 1e-4) << x;
+        const HeightField field = heightFieldFromMask(translucent, 4);
+
+        // Heights are multiplied by the mask.
+        for (const int x : {99, 100, 102, 150})
+            EXPECT_NEAR(field.at(x, 50), alpha / 255.0 * whole.at(x, 50), 1e-4)
+                << alpha << ", " << x;
+    }
 }
 
-TEST(HeightField, OfADimPartIsFlat)
+TEST(HeightField, OfATransparentLayerIsFlat)
 {
-    QImage dim(40, 40, QImage::Format_ARGB32_Premultiplied);
-    dim.fill(QColor(100, 100, 100));
+    QImage transparent(40, 40, QImage::Format_ARGB32_Premultiplied);
+    transparent.fill(Qt::transparent);
 
-    const HeightField field = heightFieldFromMask(dim, 4);
-
-    EXPECT_FLOAT_EQ(field.at(20, 20), 0);
+    EXPECT_FLOAT_EQ(heightFieldFromMask(transparent, 4).at(20, 20), 0);
 }
 
 TEST(HeightField, OfRadiusZeroIsTheMask)
