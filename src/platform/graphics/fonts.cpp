@@ -26,6 +26,37 @@ QString faceName(const QString& family, const QString& style)
     return isPlainStyle(style) ? family : family + QLatin1Char(' ') + style;
 }
 
+/// The words of a style that tell its width and its slant, not its weight.
+QStringList shapeOf(const QString& style)
+{
+    static const QStringList weights{
+        QStringLiteral("Thin"),
+        QStringLiteral("Hairline"),
+        QStringLiteral("ExtraLight"),
+        QStringLiteral("UltraLight"),
+        QStringLiteral("Light"),
+        QStringLiteral("Medium"),
+        QStringLiteral("SemiBold"),
+        QStringLiteral("DemiBold"),
+        QStringLiteral("Bold")};
+    QStringList words = style.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    words.removeIf([](const QString& word) { return isPlainStyle(word) || weights.contains(word); }
+    );
+    words.sort();
+    return words;
+}
+
+/// The family's bold style of the same width and slant; empty without one.
+QString boldStyleOf(const QString& family, const QString& style)
+{
+    for (const QString& candidate : QFontDatabase::styles(family)) {
+        if (QFontDatabase::weight(family, candidate) == QFont::Bold
+            && shapeOf(candidate) == shapeOf(style))
+            return candidate;
+    }
+    return {};
+}
+
 QFont lookedUpFont(const QString& name)
 {
     for (const QString& family : QFontDatabase::families()) {
@@ -68,7 +99,8 @@ QFont boldFaceOf(const QFont& font)
     if (font.weight() >= QFont::Bold)
         return font;
     QFont bold = font;
-    bold.setStyleName(QString()); // counts more than the weight
+    // The name counts more than the weight; that of a face without its bold counterpart goes.
+    bold.setStyleName(boldStyleOf(font.family(), font.styleName()));
     bold.setBold(true);
     return bold;
 }

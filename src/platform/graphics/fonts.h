@@ -17,7 +17,8 @@ namespace brenvaldo::platform {
 /// it.
 [[nodiscard]] QFont fontNamed(const QString& name);
 
-/// The bold face of the font's family with the same slant; a face that is bold or heavier stays.
+/// The bold face of the font's family with the same width and slant; a face that is bold or heavier
+/// stays.
 [[nodiscard]] QFont boldFaceOf(const QFont& font);
 
 } // namespace brenvaldo::platform

@@ -46,6 +46,21 @@ TEST(Fonts, HaveTheBoldFaceOfTheirFamily)
         ) << family.toStdString();
 }
 
+TEST(Fonts, KeepTheirWidthAndSlantWhenTheyGetBold)
+{
+    const QList<std::pair<QString, QString>> faces{
+        {u"DejaVu Sans Condensed"_qs, u"DejaVu Sans Condensed Bold"_qs},
+        {u"DejaVu Serif Condensed"_qs, u"DejaVu Serif Condensed Bold"_qs},
+        {u"DejaVu Sans Condensed Oblique"_qs, u"DejaVu Sans Condensed Bold Oblique"_qs},
+        {u"DejaVu Sans Oblique"_qs, u"DejaVu Sans Bold Oblique"_qs},
+        {u"DejaVu Sans ExtraLight"_qs, u"DejaVu Sans Bold"_qs}};
+    for (const auto& [plain, bold] : faces) {
+        EXPECT_EQ(sampleIn(boldFaceOf(fontNamed(plain))), sampleIn(fontNamed(bold)))
+            << plain.toStdString();
+        EXPECT_NE(sampleIn(fontNamed(plain)), sampleIn(fontNamed(bold))) << plain.toStdString();
+    }
+}
+
 TEST(Fonts, ThatAreBoldStayAsTheyAre)
 {
     const QFont bold = fontNamed(u"DejaVu Sans Bold"_qs);
