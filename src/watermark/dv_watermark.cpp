@@ -38,12 +38,6 @@ QString typeOf(const QString& outputType, const QString& path)
         : outputType;
 }
 
-bool fillsWithPhoto(int effect)
-{
-    const TextFill fill = fillOfEffect(effect);
-    return fill == TextFill::Photo || fill == TextFill::NoirPhoto;
-}
-
 } // namespace
 
 DVWatermark::DVWatermark(Surroundings surroundings)
@@ -114,14 +108,16 @@ DVWatermark::Step DVWatermark::endRun(const QString& path, const PhotoDone& phot
     return Step::EndRun;
 }
 
-std::optional<platform::Image> DVWatermark::openedForRun(const QString& path, int effect) const
+std::optional<platform::Image>
+DVWatermark::openedForRun(const QString& path, TextEffect effect) const
 {
     using Access = platform::ImageSource::Access;
     const auto source = platform::ImageSource::open(path);
     if (!source)
         return std::nullopt;
     return source->uprightImage(
-        {.access = fillsWithPhoto(effect) ? Access::Random : Access::OnePass, .atLeast = {}}
+        {.access = traitsOf(effect).fillsWithPhoto() ? Access::Random : Access::OnePass,
+         .atLeast = {}}
     );
 }
 

@@ -78,7 +78,7 @@ private:
     Step endRun(const QString& path, const PhotoDone& photoDone);
     void finishStages(int stages);
     [[nodiscard]] std::optional<platform::Image>
-    openedForRun(const QString& path, int effect) const;
+    openedForRun(const QString& path, TextEffect effect) const;
     /// Makes the mark of a photo from the settings as they are now, on any thread.
     [[nodiscard]] MakeMark markOf(
         const platform::Image& photo, const TextWatermarkSettings& settings, const QString& path

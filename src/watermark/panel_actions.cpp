@@ -2,6 +2,7 @@
 #include "panel_actions.h"
 
 #include "placeholders.h"
+#include "text_effect.h"
 
 #include <controls/action_registry.h>
 #include <panels/watermark_panel.h>
@@ -53,8 +54,8 @@ void followsOutline(WatermarkPanel& panel)
 
 void followsEffect(WatermarkPanel& panel)
 {
-    constexpr int coloredRelief = 6;
-    const bool isColored = panel.pubWatermarkTextEffect.indexOfSelectedItem() == coloredRelief;
+    const TextEffect effect = textEffectOfIndex(panel.pubWatermarkTextEffect.indexOfSelectedItem());
+    const bool isColored = traitsOf(effect).hasReliefColor;
     panel.cwEmbossColor.setHidden(!isColored);
     panel.cwEmbossColor.setEnabled(isColored);
 }

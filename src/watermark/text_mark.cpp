@@ -33,7 +33,7 @@ QRect rectOf(PixelSize size) { return {0, 0, size.width, size.height}; }
 /// The shadow that the finished layer casts when it is drawn on the photo.
 std::optional<platform::Shadow> layerShadow(const TextWatermarkSettings& settings)
 {
-    return embosses(settings.effect) ? settings.shadow : std::nullopt;
+    return traitsOf(settings.effect).isRelief() ? settings.shadow : std::nullopt;
 }
 
 bool isRepeated(PixelSize cell)

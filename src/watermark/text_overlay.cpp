@@ -45,7 +45,7 @@ QImage photoCorner(const platform::Image& photo, PixelSize size)
 
 QBrush fillOf(const TextWatermarkSettings& settings, const platform::Image& photo, PixelSize size)
 {
-    switch (fillOfEffect(settings.effect)) {
+    switch (traitsOf(settings.effect).fill) {
     case TextFill::Color:
         return platform::qtColor(settings.fontColor.withAlpha(settings.opacity));
     case TextFill::White:
@@ -66,7 +66,7 @@ TextOverlay::TextOverlay(
     const QFont& font,
     const platform::Image& photo
 )
-    : m_effect(settings.effect)
+    : m_effect(traitsOf(settings.effect))
     , m_embossColor(settings.embossColor)
     , m_layer(
           platform::AttributedText(textToSet(settings, text), attributesOf(settings, font)),
@@ -74,13 +74,13 @@ TextOverlay::TextOverlay(
       )
     , m_ink{.fill = fillOf(settings, photo, m_layer.uprightSize()), .shadow = {}}
 {
-    if (castsGlyphShadow(settings.effect))
+    if (m_effect.castsGlyphShadow)
         m_ink.shadow = settings.shadow;
 }
 
 QImage TextOverlay::rendered(const QRect& region) const
 {
-    if (!embosses(m_effect))
+    if (!m_effect.isRelief())
         return m_layer.rendered(m_ink, region);
     const QRect whole(0, 0, size().width, size().height);
     const QRect around
@@ -93,7 +93,7 @@ QImage TextOverlay::embossed(const QImage& layer) const
 {
     constexpr float scale = 0.5;
     return imaging::DVImageHandling::embossTextWatermarkEffect(
-        layer, textureOfEffect(m_effect), m_embossColor, scale
+        layer, QString::fromUtf16(m_effect.texture), m_embossColor, scale
     );
 }
 

@@ -33,7 +33,7 @@ public:
 private:
     [[nodiscard]] QImage embossed(const QImage& layer) const;
 
-    int m_effect = 0;
+    TextEffectTraits m_effect;
     platform::Color m_embossColor;
     TextLayer m_layer;
     TextLayer::Ink m_ink;

@@ -9,10 +9,6 @@ namespace brenvaldo::watermark {
 
 namespace {
 
-constexpr int photoEffect = 7;
-constexpr int noirEffect = 8;
-constexpr int lastNumberedTexture = 6;
-
 int orDefault(int value, int fallback) { return value == 0 ? fallback : value; }
 
 /// Larger offsets count as the largest that a layer can be moved by and still touch a photo.
@@ -87,7 +83,7 @@ TextWatermarkSettings readSettings(panels::TextWatermarkControls& controls)
         .embossColor = controls.cwEmbossColor.color().withAlpha(1),
         .opacity = opacity,
         .shadow = {},
-        .effect = controls.pubWatermarkTextEffect.indexOfSelectedItem(),
+        .effect = textEffectOfIndex(controls.pubWatermarkTextEffect.indexOfSelectedItem()),
         .placement
         = {.anchor = controls.scWaterMarkPos.selectedSegment(),
            .xOffset = offsetOf(controls.tfXOffset),
@@ -98,31 +94,6 @@ TextWatermarkSettings readSettings(panels::TextWatermarkControls& controls)
         settings.shadow = readShadow(controls, opacity);
     return settings;
 }
-
-TextFill fillOfEffect(int effect)
-{
-    switch (effect) {
-    case 0:
-        return TextFill::Color;
-    case photoEffect:
-        return TextFill::Photo;
-    case noirEffect:
-        return TextFill::NoirPhoto;
-    default:
-        return TextFill::White;
-    }
-}
-
-bool embosses(int effect) { return fillOfEffect(effect) == TextFill::White; }
-
-QString textureOfEffect(int effect)
-{
-    constexpr int textureOfTheRest = 8;
-    const int number = effect >= 1 && effect <= lastNumberedTexture ? effect : textureOfTheRest;
-    return QStringLiteral("texture%1").arg(number);
-}
-
-bool castsGlyphShadow(int effect) { return effect == 0 || effect == photoEffect; }
 
 QString textToSet(const TextWatermarkSettings& settings, const QString& text)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "text_effect.h"
 #include "watermark_rules.h"
 
 #include <platform/graphics/attributed_text.h>
@@ -14,14 +15,6 @@ struct TextWatermarkControls;
 }
 
 namespace brenvaldo::watermark {
-
-/// What the glyphs are made of.
-enum class TextFill {
-    Color,
-    White, ///< to be embossed
-    Photo,
-    NoirPhoto
-};
 
 /// The text watermark as the panel's controls stand at one moment.
 struct TextWatermarkSettings
@@ -40,25 +33,13 @@ struct TextWatermarkSettings
     platform::Color embossColor;
     double opacity = 1;
     std::optional<platform::Shadow> shadow;
-    int effect = 0; ///< index of the effect's pop-up
+    TextEffect effect = TextEffect::Plain;
     Placement placement;
     bool isTiled = false;
 };
 
 /// Reads the controls. With no font selected the first one is selected and used.
 [[nodiscard]] TextWatermarkSettings readSettings(panels::TextWatermarkControls& controls);
-
-[[nodiscard]] TextFill fillOfEffect(int effect);
-
-/// True when the text is embossed after rendering.
-[[nodiscard]] bool embosses(int effect);
-
-/// Name of the shading texture of an effect that embosses.
-[[nodiscard]] QString textureOfEffect(int effect);
-
-/// True when the glyphs cast the shadow themselves. The effect of the black-and-white photo casts
-/// none.
-[[nodiscard]] bool castsGlyphShadow(int effect);
 
 /// The text that is set: an italic one gets a blank behind it, so that its last glyph is not cut.
 [[nodiscard]] QString textToSet(const TextWatermarkSettings& settings, const QString& text);

@@ -42,7 +42,7 @@ struct HardCase
     int fontSize = 20;
     const char* font = "DejaVu Sans";
     bool isTiled = false;
-    int effect = 0;
+    TextEffect effect = TextEffect::Plain;
 
     friend void PrintTo(const HardCase& row, std::ostream* out) { *out << row.name; }
 };
@@ -87,7 +87,10 @@ INSTANTIATE_TEST_SUITE_P(
             .fontSize = 2000,
             .isTiled = true},
         HardCase{
-            .name = "TwoThousandPointsEmbossed", .text = block(), .fontSize = 2000, .effect = 1},
+            .name = "TwoThousandPointsEmbossed",
+            .text = block(),
+            .fontSize = 2000,
+            .effect = TextEffect::Relief1},
         HardCase{.name = "MissingFont", .text = block(), .font = "No Such Font"},
         HardCase{.name = "RightToLeft", .text = QStringLiteral("\u0634\u0645\u0633 1")},
         HardCase{.name = "Emoji", .text = QStringLiteral("\U0001F600")},

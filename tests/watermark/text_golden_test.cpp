@@ -16,7 +16,7 @@ namespace {
 struct LookCase
 {
     const char* name;
-    int effect = 0;
+    TextEffect effect = TextEffect::Plain;
     bool hasShadow = false;
     int angle = 0;
 
@@ -75,9 +75,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         LookCase{.name = "shadow", .hasShadow = true},
         LookCase{.name = "shadow-turned", .hasShadow = true, .angle = 20},
-        LookCase{.name = "emboss-gold", .effect = 2},
-        LookCase{.name = "emboss-colour", .effect = 6},
-        LookCase{.name = "emboss-shadow", .effect = 3, .hasShadow = true}
+        LookCase{.name = "emboss-gold", .effect = TextEffect::Relief2},
+        LookCase{.name = "emboss-colour", .effect = TextEffect::ColoredRelief},
+        LookCase{.name = "emboss-shadow", .effect = TextEffect::Relief3, .hasShadow = true}
     ),
     [](const auto& row) { return QString::fromLatin1(row.param.name).remove(u'-').toStdString(); }
 );

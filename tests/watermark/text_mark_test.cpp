@@ -64,7 +64,7 @@ TEST(TextMark, HasTranslucentGlyphsForAllEffectsButThoseOfThePhoto)
     TextWatermarkSettings settings = whiteBlock();
     settings.opacity = 0.6;
     for (int effect = 0; effect <= 10; ++effect) {
-        settings.effect = effect;
+        settings.effect = textEffectOfIndex(effect);
         const QImage layer = wholeLayer(overlayOf(settings));
 
         const bool isPhoto = effect == 7 || effect == 8;
@@ -163,7 +163,7 @@ TEST(TextMark, FilledWithTheBlackAndWhitePhotoShowsItsGrays)
     ground.fill(qRgb(200, 90, 40));
     const platform::Image photo = platform::Image::fromQImage(ground);
     TextWatermarkSettings settings = whiteBlock();
-    settings.effect = 8;
+    settings.effect = TextEffect::NoirPhoto;
     settings.placement.anchor = 4;
 
     const QRgb middle = markedPhoto(settings, photo).pixel(80, 60);
@@ -175,7 +175,7 @@ TEST(TextMark, FilledWithTheBlackAndWhitePhotoShowsItsGrays)
 TEST(TextMark, FilledWithTheBlackAndWhitePhotoCastsNoShadow)
 {
     TextWatermarkSettings settings = whiteBlock();
-    settings.effect = 8;
+    settings.effect = TextEffect::NoirPhoto;
     settings.placement.anchor = 4;
     const QImage plain = markedPhoto(settings);
     settings.shadow
@@ -187,7 +187,7 @@ TEST(TextMark, FilledWithTheBlackAndWhitePhotoCastsNoShadow)
 TEST(TextMark, EmbossedCastsTheShadowOfItsWholeLayerOnThePhoto)
 {
     TextWatermarkSettings settings = whiteBlock();
-    settings.effect = 1;
+    settings.effect = TextEffect::Relief1;
     settings.placement.anchor = 4;
     const QRect box = changedBox(markedPhoto(settings));
     settings.shadow
@@ -202,7 +202,7 @@ TEST(TextMark, EmbossedCastsTheShadowOfItsWholeLayerOnThePhoto)
 TEST(TextMark, CastsAShadowThatLiesFarFromItsLayer)
 {
     TextWatermarkSettings settings = whiteBlock();
-    settings.effect = 1;
+    settings.effect = TextEffect::Relief1;
     settings.placement = {.anchor = 4, .xOffset = -200, .yOffset = 0, .angle = 0};
     settings.shadow
         = platform::Shadow{.color = {.red = 1}, .xOffset = 200, .yOffset = 0, .blurRadius = 0};
@@ -213,17 +213,17 @@ TEST(TextMark, CastsAShadowThatLiesFarFromItsLayer)
 
 TEST(TextMark, WithAShadowOutOfSightIsTheMarkAlone)
 {
-    for (const int effect : {0, 1}) {
+    for (const TextEffect effect : {TextEffect::Plain, TextEffect::Relief1}) {
         for (const bool isTiled : {false, true}) {
             TextWatermarkSettings settings = whiteBlock();
             settings.effect = effect;
-            settings.isTiled = isTiled && effect == 0;
+            settings.isTiled = isTiled && effect == TextEffect::Plain;
             settings.placement.anchor = 4;
             const QImage plain = markedPhoto(settings);
             settings.shadow = platform::Shadow{
                 .color = {.red = 1}, .xOffset = 1 << 24, .yOffset = -(1 << 24), .blurRadius = 3};
 
-            EXPECT_EQ(markedPhoto(settings), plain) << effect << ", " << isTiled;
+            EXPECT_EQ(markedPhoto(settings), plain) << static_cast<int>(effect) << ", " << isTiled;
         }
     }
 }
@@ -233,7 +233,7 @@ TEST(TextMark, WithAShadowOfAnySoftnessHasNoLargerLayerThanThePhoto)
     const platform::Image photo = plainPhoto();
     for (const double radius : {1.0, 90.0, 5000.0, 2e9}) {
         TextWatermarkSettings settings = whiteBlock();
-        settings.effect = 1;
+        settings.effect = TextEffect::Relief1;
         settings.placement.anchor = 4;
         settings.shadow = platform::Shadow{.color = {.red = 1}, .blurRadius = radius};
 
@@ -254,7 +254,7 @@ TEST(TextMark, FilledWithThePhotoShowsItsBottomLeftCorner)
     }
     const platform::Image photo = platform::Image::fromQImage(image);
     TextWatermarkSettings settings = whiteBlock();
-    settings.effect = 7;
+    settings.effect = TextEffect::Photo;
     settings.placement.anchor = 2;
     const TextOverlay overlay(settings, settings.text, blockFont(), photo);
     const QRect block = blockOnItsLayer(settings);

@@ -8,6 +8,7 @@
 
 using namespace brenvaldo;
 using namespace brenvaldo::test;
+using watermark::TextEffect;
 using watermark::TextWatermarkSettings;
 
 namespace {
@@ -62,7 +63,7 @@ struct TilesCase
     int yOffset = 0;
     int angle = 0;
     double opacity = 1;
-    int effect = 0;
+    TextEffect effect = TextEffect::Plain;
     platform::PixelSize photo{.width = 161, .height = 121};
 
     friend void PrintTo(const TilesCase& row, std::ostream* out) { *out << row.name; }
@@ -101,7 +102,7 @@ INSTANTIATE_TEST_SUITE_P(
         TilesCase{.name = "GapsLargerThanThePhoto", .xOffset = 180, .yOffset = 130},
         TilesCase{.name = "Turned", .xOffset = 4, .yOffset = 2, .angle = 30},
         TilesCase{.name = "Translucent", .xOffset = 4, .yOffset = 2, .opacity = 0.5},
-        TilesCase{.name = "Embossed", .xOffset = 4, .yOffset = 2, .effect = 2},
+        TilesCase{.name = "Embossed", .xOffset = 4, .yOffset = 2, .effect = TextEffect::Relief2},
         TilesCase{.name = "SmallPhoto", .xOffset = 4, .photo = {.width = 11, .height = 9}}
     ),
     [](const auto& row) { return row.param.name; }

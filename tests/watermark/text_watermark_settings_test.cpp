@@ -28,20 +28,112 @@ TEST(TextWatermarkSettings, TakeAFontSizeOfZeroAsTwentyFour)
     EXPECT_EQ(readSettings(panel).fontSize, 24);
 }
 
+TEST(TextWatermarkSettings, ReadEachControl)
+{
+    panels::WatermarkPanel panel;
+    panel.tvWaterMarkText.setStringValue(QStringLiteral("A text"));
+    panel.cbFontList.setTitles({QStringLiteral("Alpha"), QStringLiteral("Beta")});
+    panel.cbFontList.selectItemAtIndex(1);
+    panel.tfFontSize.setStringValue(QStringLiteral("31"));
+    panel.tfKerning.setStringValue(QStringLiteral("-3"));
+    panel.tfLeading.setStringValue(QStringLiteral("17"));
+    panel.cbFontBold.setState(1);
+    panel.cbFontItalic.setState(1);
+    panel.pubTxtUnderline.selectItemAtIndex(1);
+    panel.scTxtAlign.setSelectedSegment(1);
+    panel.cbOutlineCheck.setState(1);
+    panel.pubOutlineThickness.selectItemAtIndex(3);
+    panel.cwFontColor.setColor({.red = 0.1, .green = 0.2, .blue = 0.3});
+    panel.cwEmbossColor.setColor({.red = 0.4, .green = 0.5, .blue = 0.6, .alpha = 0.25});
+    panel.tfFontTransparancy.setStringValue(QStringLiteral("80"));
+    panel.cbShadowCheck.setState(1);
+    panel.cwShadowColor.setColor({.red = 0.7, .green = 0.8, .blue = 0.9});
+    panel.tfTextShadowXOffset.setStringValue(QStringLiteral("5"));
+    panel.tfTextShadowYOffset.setStringValue(QStringLiteral("-6"));
+    panel.tfTextShadowRadius.setStringValue(QStringLiteral("7"));
+    panel.pubWatermarkTextEffect.selectItemAtIndex(4);
+    panel.scWaterMarkPos.setSelectedSegment(3);
+    panel.tfXOffset.setStringValue(QStringLiteral("11"));
+    panel.tfYOffset.setStringValue(QStringLiteral("-12"));
+    panel.tfWMAngle.setStringValue(QStringLiteral("-13"));
+    panel.cbTextPatternCheck.setState(1);
+
+    const TextWatermarkSettings settings = readSettings(panel);
+
+    EXPECT_EQ(settings.text, QStringLiteral("A text"));
+    EXPECT_EQ(settings.fontName, QStringLiteral("Beta"));
+    EXPECT_EQ(settings.fontSize, 31);
+    EXPECT_EQ(settings.kerning, -3);
+    EXPECT_EQ(settings.leading, 17);
+    EXPECT_TRUE(settings.isBold);
+    EXPECT_TRUE(settings.isItalic);
+    EXPECT_EQ(settings.underline, platform::UnderlineStyle::Single);
+    EXPECT_EQ(settings.alignment, platform::TextAlignment::Center);
+    EXPECT_EQ(settings.strokeWidth, 5);
+    EXPECT_EQ(settings.fontColor, (platform::Color{.red = 0.1, .green = 0.2, .blue = 0.3}));
+    EXPECT_EQ(
+        settings.embossColor, (platform::Color{.red = 0.4, .green = 0.5, .blue = 0.6, .alpha = 1})
+    );
+    EXPECT_EQ(settings.opacity, 0.8);
+    ASSERT_TRUE(settings.shadow.has_value());
+    EXPECT_EQ(
+        settings.shadow->color,
+        (platform::Color{.red = 0.7, .green = 0.8, .blue = 0.9, .alpha = 0.8})
+    );
+    EXPECT_EQ(settings.shadow->xOffset, 5);
+    EXPECT_EQ(settings.shadow->yOffset, -6);
+    EXPECT_EQ(settings.shadow->blurRadius, 7);
+    EXPECT_EQ(settings.effect, TextEffect::Relief4);
+    EXPECT_EQ(settings.placement.anchor, 3);
+    EXPECT_EQ(settings.placement.xOffset, 11);
+    EXPECT_EQ(settings.placement.yOffset, -12);
+    EXPECT_EQ(settings.placement.angle, -13);
+    EXPECT_TRUE(settings.isTiled);
+}
+
+TEST(TextWatermarkSettings, HaveNothingSwitchedOnWithoutTicks)
+{
+    panels::WatermarkPanel panel;
+
+    const TextWatermarkSettings settings = readSettings(panel);
+
+    EXPECT_FALSE(settings.isBold);
+    EXPECT_FALSE(settings.isItalic);
+    EXPECT_FALSE(settings.isTiled);
+    EXPECT_FALSE(settings.shadow.has_value());
+    EXPECT_EQ(settings.strokeWidth, 0);
+}
+
 TEST(TextWatermarkSettings, ReplaceShadowOffsetsOfZeroOneByOne)
 {
     panels::WatermarkPanel panel;
     panel.cbShadowCheck.setState(1);
     panel.tfTextShadowXOffset.setStringValue(QStringLiteral("0"));
     panel.tfTextShadowYOffset.setStringValue(QStringLiteral("-7"));
-    panel.tfTextShadowRadius.setStringValue(QStringLiteral("1"));
+    const auto first = readSettings(panel).shadow;
+    panel.tfTextShadowXOffset.setStringValue(QStringLiteral("9"));
+    panel.tfTextShadowYOffset.setStringValue(QStringLiteral("0"));
+    const auto second = readSettings(panel).shadow;
 
-    const auto shadow = readSettings(panel).shadow;
+    EXPECT_EQ(first->xOffset, 2);
+    EXPECT_EQ(first->yOffset, -7);
+    EXPECT_EQ(second->xOffset, 9);
+    EXPECT_EQ(second->yOffset, 2);
+}
 
-    ASSERT_TRUE(shadow.has_value());
-    EXPECT_EQ(shadow->xOffset, 2);
-    EXPECT_EQ(shadow->yOffset, -7);
-    EXPECT_DOUBLE_EQ(shadow->blurRadius, 1);
+TEST(TextWatermarkSettings, TakeAShadowRadiusBelowTwoAsOne)
+{
+    panels::WatermarkPanel panel;
+    panel.cbShadowCheck.setState(1);
+    const auto radius = [&panel](const QString& text) {
+        panel.tfTextShadowRadius.setStringValue(text);
+        return readSettings(panel).shadow->blurRadius;
+    };
+
+    EXPECT_EQ(radius(QStringLiteral("-3")), 1);
+    EXPECT_EQ(radius(QStringLiteral("0")), 1);
+    EXPECT_EQ(radius(QStringLiteral("1")), 1);
+    EXPECT_EQ(radius(QStringLiteral("2")), 2);
 }
 
 TEST(TextWatermarkSettings, KeepShadowOffsetsCountable)
@@ -69,13 +161,6 @@ TEST(TextWatermarkSettings, KeepOffsetsOfTheMarkCountable)
     EXPECT_EQ(placement.yOffset, 1 << 24);
 }
 
-TEST(TextWatermarkSettings, HaveNoShadowWithoutItsTick)
-{
-    panels::WatermarkPanel panel;
-
-    EXPECT_FALSE(readSettings(panel).shadow.has_value());
-}
-
 TEST(TextWatermarkSettings, GiveTheShadowTheTextsOpacity)
 {
     panels::WatermarkPanel panel;
@@ -98,16 +183,34 @@ TEST(TextWatermarkSettings, UseTheOutlineOnlyWithItsTick)
     EXPECT_DOUBLE_EQ(readSettings(panel).strokeWidth, 3);
 }
 
-TEST(TextWatermarkSettings, MapUnderlineAndAlignment)
+TEST(TextWatermarkSettings, MapUnderlines)
 {
+    using platform::UnderlineStyle;
     panels::WatermarkPanel panel;
-    panel.pubTxtUnderline.selectItemAtIndex(2);
-    panel.scTxtAlign.setSelectedSegment(2);
+    const auto underline = [&panel](int index) {
+        panel.pubTxtUnderline.selectItemAtIndex(index);
+        return readSettings(panel).underline;
+    };
 
-    const TextWatermarkSettings settings = readSettings(panel);
+    EXPECT_EQ(underline(0), UnderlineStyle::None);
+    EXPECT_EQ(underline(1), UnderlineStyle::Single);
+    EXPECT_EQ(underline(2), UnderlineStyle::Thick);
+    EXPECT_EQ(underline(-1), UnderlineStyle::Thick);
+}
 
-    EXPECT_EQ(settings.underline, platform::UnderlineStyle::Thick);
-    EXPECT_EQ(settings.alignment, platform::TextAlignment::Right);
+TEST(TextWatermarkSettings, MapAlignments)
+{
+    using platform::TextAlignment;
+    panels::WatermarkPanel panel;
+    const auto alignment = [&panel](int segment) {
+        panel.scTxtAlign.setSelectedSegment(segment);
+        return readSettings(panel).alignment;
+    };
+
+    EXPECT_EQ(alignment(0), TextAlignment::Left);
+    EXPECT_EQ(alignment(1), TextAlignment::Center);
+    EXPECT_EQ(alignment(2), TextAlignment::Right);
+    EXPECT_EQ(alignment(-1), TextAlignment::Right);
 }
 
 TEST(TextWatermarkSettings, AppendOneBlankToAnItalicText)
@@ -118,50 +221,3 @@ TEST(TextWatermarkSettings, AppendOneBlankToAnItalicText)
     settings.isItalic = true;
     EXPECT_EQ(textToSet(settings, QStringLiteral("abc")), QStringLiteral("abc "));
 }
-
-namespace {
-
-struct EffectCase
-{
-    const char* name;
-    int effect;
-    TextFill fill;
-    bool castsGlyphShadow;
-    const char* texture;
-
-    friend void PrintTo(const EffectCase& row, std::ostream* out) { *out << row.name; }
-};
-
-class TextEffect : public testing::TestWithParam<EffectCase>
-{
-};
-
-} // namespace
-
-TEST_P(TextEffect, FollowsTheTable)
-{
-    const EffectCase& row = GetParam();
-
-    EXPECT_EQ(fillOfEffect(row.effect), row.fill);
-    EXPECT_EQ(castsGlyphShadow(row.effect), row.castsGlyphShadow);
-    EXPECT_EQ(embosses(row.effect), *row.texture != '\0');
-    if (embosses(row.effect)) {
-        EXPECT_EQ(textureOfEffect(row.effect), QString::fromLatin1(row.texture));
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table,
-    TextEffect,
-    testing::Values(
-        EffectCase{"Color", 0, TextFill::Color, true, ""},
-        EffectCase{"First", 1, TextFill::White, false, "texture1"},
-        EffectCase{"Fifth", 5, TextFill::White, false, "texture5"},
-        EffectCase{"ColouredBall", 6, TextFill::White, false, "texture6"},
-        EffectCase{"Photo", 7, TextFill::Photo, true, ""},
-        EffectCase{"NoirPhotoHasNoGlyphShadow", 8, TextFill::NoirPhoto, false, ""},
-        EffectCase{"Ninth", 9, TextFill::White, false, "texture8"},
-        EffectCase{"Beyond", 12, TextFill::White, false, "texture8"}
-    ),
-    brenvaldo::test::CaseName()
-);
