@@ -2,12 +2,10 @@
 #include "encoders.h"
 
 #include "color_profile.h"
-#include "inserting_file.h"
+#include "engine_target.h"
 #include "memory_check.h"
 #include "png_labels.h"
 #include "sample_conversion.h"
-
-#include <QFile>
 
 namespace brenvaldo::platform {
 
@@ -54,25 +52,25 @@ ImageNode fittedTo(const ImageNode& node, const FormatLimits& limits)
     return fitted;
 }
 
-void encodePng(const ImageNode& node, const QString& path)
+void encodePng(const ImageNode& node, OutputFile& file)
 {
     const ImageNode fitted = fittedTo(node, {.colors = ColorSupport::SrgbInsteadOfCmyk});
-    InsertingFile file(path, {.at = pngHeaderLength, .bytes = pngProfileChunk(fitted.iccProfile)});
+    EngineTarget way(file, {.at = pngHeaderLength, .bytes = pngProfileChunk(fitted.iccProfile)});
     withResolution(fitted).pngsave_target(
-        file.target(),
+        way.target(),
         vips::VImage::option()
             ->set("compression", 1)
             ->set("filter", VIPS_FOREIGN_PNG_FILTER_SUB)
             ->set("bitdepth", fitted.pixels.format() == VIPS_FORMAT_USHORT ? 16 : 8)
     );
-    file.finish();
 }
 
-void encodeTiff(const ImageNode& node, const QString& path)
+void encodeTiff(const ImageNode& node, OutputFile& file)
 {
     // Deflate takes four times as long for files of the same size.
-    labelled(node).tiffsave(
-        QFile::encodeName(path).constData(),
+    EngineTarget way(file);
+    labelled(node).tiffsave_target(
+        way.target(),
         vips::VImage::option()
             ->set("compression", VIPS_FOREIGN_TIFF_COMPRESSION_LZW)
             ->set("predictor", VIPS_FOREIGN_TIFF_PREDICTOR_HORIZONTAL)
@@ -80,7 +78,7 @@ void encodeTiff(const ImageNode& node, const QString& path)
     );
 }
 
-void encodeGif(const ImageNode& node, const QString& path)
+void encodeGif(const ImageNode& node, OutputFile& file)
 {
     const ImageNode fitted
         = fittedTo(node, {.depth = DepthSupport::EightBits, .colors = ColorSupport::Srgb});
@@ -88,9 +86,8 @@ void encodeGif(const ImageNode& node, const QString& path)
     checkMemoryForWholePicture(fitted, bytesPerPixel);
     // The higher efforts take five times as long for a palette that is hardly told apart.
     constexpr int effort = 3;
-    fitted.pixels.gifsave(
-        QFile::encodeName(path).constData(), vips::VImage::option()->set("effort", effort)
-    );
+    EngineTarget way(file);
+    fitted.pixels.gifsave_target(way.target(), vips::VImage::option()->set("effort", effort));
 }
 
 } // namespace brenvaldo::platform

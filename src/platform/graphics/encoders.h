@@ -4,22 +4,23 @@
 #include "image_destination.h"
 #include "image_node.h"
 
-#include <QString>
+#include <platform/foundation/output_file.h>
 
 namespace brenvaldo::platform {
 
-// One encoder a format, each writing the file at `path` anew. They throw `vips::VError` when the
-// pixels can't be computed or the file can't be written.
+// One encoder a format, each writing into `file`. They throw `vips::VError` when the pixels can't
+// be computed or the format can't hold them. Whether every byte was taken is known to the file
+// alone: some of the libraries behind them forget it.
 
-void encodeJpeg(const ImageNode& node, std::optional<double> quality, const QString& path);
-void encodePng(const ImageNode& node, const QString& path);
-void encodeTiff(const ImageNode& node, const QString& path);
-void encodeGif(const ImageNode& node, const QString& path);
-void encodeJpeg2000(const ImageNode& node, const QString& path);
-void encodeBmp(const ImageNode& node, const QString& path);
-void encodePdf(const ImageNode& node, const QString& path);
+void encodeJpeg(const ImageNode& node, std::optional<double> quality, OutputFile& file);
+void encodePng(const ImageNode& node, OutputFile& file);
+void encodeTiff(const ImageNode& node, OutputFile& file);
+void encodeGif(const ImageNode& node, OutputFile& file);
+void encodeJpeg2000(const ImageNode& node, OutputFile& file);
+void encodeBmp(const ImageNode& node, OutputFile& file);
+void encodePdf(const ImageNode& node, OutputFile& file);
 /// `blocks` may be null.
-void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, const QString& path);
+void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, OutputFile& file);
 
 /// What a format can hold.
 enum class AlphaSupport { Keeps, Flattens };

@@ -7,8 +7,6 @@
 #include "memory_check.h"
 #include "region_kernel.h"
 
-#include <QFile>
-
 #include <algorithm>
 #include <cstring>
 
@@ -110,7 +108,7 @@ heif_error writeToFile(heif_context* /*context*/, const void* bytes, std::size_t
 {
     const auto length = static_cast<qint64>(size);
     const bool isWritten
-        = static_cast<QFile*>(file)->write(static_cast<const char*>(bytes), length) == length;
+        = static_cast<OutputFile*>(file)->write(static_cast<const char*>(bytes), length) == length;
     if (isWritten)
         return {heif_error_Ok, heif_suberror_Unspecified, ""};
     return {
@@ -121,7 +119,7 @@ heif_error writeToFile(heif_context* /*context*/, const void* bytes, std::size_t
 
 } // namespace
 
-void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, const QString& path)
+void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, OutputFile& file)
 {
     const ImageNode fitted = fittedToHeic(node);
     constexpr int bytesPerPixel
@@ -143,13 +141,8 @@ void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, const QStri
         : exifOfResolution(fitted.dotsPerInch);
     addMetadata(context.get(), encoded, exif, blocks != nullptr ? blocks->xmp : QByteArray());
 
-    QFile file(path);
     heif_writer writer = {1, writeToFile};
-    if (!file.open(QIODevice::WriteOnly))
-        throw vips::VError("the file can't be written");
     checkHeif(heif_context_write(context.get(), &writer, &file));
-    if (!file.flush())
-        throw vips::VError("the file can't be written");
 }
 
 } // namespace brenvaldo::platform

@@ -10,26 +10,26 @@ namespace brenvaldo::platform {
 namespace {
 
 void encodeAs(
-    const ImageNode& node, FileFormat format, const EncodeOptions& options, const QString& path
+    const ImageNode& node, FileFormat format, const EncodeOptions& options, OutputFile& file
 )
 {
     switch (format) {
     case FileFormat::Png:
-        return encodePng(node, path);
+        return encodePng(node, file);
     case FileFormat::Tiff:
-        return encodeTiff(node, path);
+        return encodeTiff(node, file);
     case FileFormat::Jpeg:
-        return encodeJpeg(node, options.lossyQuality, path);
+        return encodeJpeg(node, options.lossyQuality, file);
     case FileFormat::Gif:
-        return encodeGif(node, path);
+        return encodeGif(node, file);
     case FileFormat::Jpeg2000:
-        return encodeJpeg2000(node, path);
+        return encodeJpeg2000(node, file);
     case FileFormat::Heic:
-        return encodeHeic(node, options.blocks, path);
+        return encodeHeic(node, options.blocks, file);
     case FileFormat::Bmp:
-        return encodeBmp(node, path);
+        return encodeBmp(node, file);
     case FileFormat::Pdf:
-        return encodePdf(node, path);
+        return encodePdf(node, file);
     }
 }
 
@@ -40,11 +40,17 @@ bool encode(
 )
 {
     vips_error_clear();
+    OutputFile file(path);
     try {
-        encodeAs(*image.node(), format, options, path);
+        if (file.isWhole())
+            encodeAs(*image.node(), format, options, file);
+        // What the encoders themselves say of refused bytes can't be trusted.
+        if (!file.finish())
+            throw vips::VError(file.fault().toStdString());
         return true;
     } catch (const vips::VError& error) {
-        log(QStringLiteral("Failed to encode %1: %2").arg(path, faultText(error)));
+        const QString reason = file.isWhole() ? faultText(error) : file.fault();
+        log(QStringLiteral("Failed to encode a picture: ") + reason);
         return false;
     }
 }

@@ -2,11 +2,9 @@
 #include "encoders.h"
 #include "jpeg2000_boxes.h"
 
-#include <QFile>
-
 namespace brenvaldo::platform {
 
-void encodeJpeg2000(const ImageNode& node, const QString& path)
+void encodeJpeg2000(const ImageNode& node, OutputFile& file)
 {
     constexpr int signalToNoise = 48; // decibels; no visible loss
     const ImageNode fitted = fittedTo(node, {.colors = ColorSupport::SrgbInsteadOfCmyk});
@@ -19,12 +17,9 @@ void encodeJpeg2000(const ImageNode& node, const QString& path)
     const QByteArray plain(static_cast<const char*>(bytes), static_cast<qsizetype>(size));
     vips_area_unref(VIPS_AREA(blob));
 
-    const QByteArray labelled
-        = withLabels(plain, {.iccProfile = fitted.iccProfile, .dotsPerInch = fitted.dotsPerInch});
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(labelled) != labelled.size()
-        || !file.flush())
-        throw vips::VError("the file can't be written");
+    file.write(
+        withLabels(plain, {.iccProfile = fitted.iccProfile, .dotsPerInch = fitted.dotsPerInch})
+    );
 }
 
 } // namespace brenvaldo::platform

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "encoders.h"
-#include "inserting_file.h"
+#include "engine_target.h"
 
 #include <algorithm>
 #include <cmath>
@@ -54,19 +54,19 @@ QByteArray profileSegments(const QByteArray& profile)
 
 } // namespace
 
-void encodeJpeg(const ImageNode& node, std::optional<double> quality, const QString& path)
+void encodeJpeg(const ImageNode& node, std::optional<double> quality, OutputFile& file)
 {
     const ImageNode fitted
         = fittedTo(node, {.alpha = AlphaSupport::Flattens, .depth = DepthSupport::EightBits});
     const double asked = quality.value_or(defaultQuality);
     constexpr qint64 startLength = 2;
-    InsertingFile file(
-        path,
+    EngineTarget way(
+        file,
         {.at = startLength,
          .bytes = densitySegment(fitted.dotsPerInch) + profileSegments(fitted.iccProfile)}
     );
     fitted.pixels.jpegsave_target(
-        file.target(),
+        way.target(),
         vips::VImage::option()
             ->set("Q", static_cast<int>(std::clamp(std::lround(asked * 100), 1L, 100L)))
             ->set("strip", true)
@@ -77,7 +77,6 @@ void encodeJpeg(const ImageNode& node, std::optional<double> quality, const QStr
                                               : VIPS_FOREIGN_SUBSAMPLE_ON
             )
     );
-    file.finish();
 }
 
 } // namespace brenvaldo::platform
