@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "atomic_file.h"
 
+#include <platform/foundation/log.h>
+#include <platform/foundation/output_file.h>
+
 #include <QFile>
 #include <QFileInfo>
+
+#include <cerrno>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -20,6 +25,18 @@ QString resolvedTarget(const QString& path)
         return path;
     const QString canonical = file.canonicalFilePath();
     return canonical.isEmpty() ? path : canonical;
+}
+
+/// Folders, devices and pipes are never replaced by a file.
+bool isPlainFileOrFree(const QString& path)
+{
+    struct stat status = {};
+    return ::stat(QFile::encodeName(path).constData(), &status) != 0 || S_ISREG(status.st_mode);
+}
+
+void logFault(const QString& target, const QString& reason)
+{
+    log(QStringLiteral("Failed to write %1: %2").arg(target, reason));
 }
 
 /// A folder that can't be flushed only delays a name: the file stands whole in either case.
@@ -48,19 +65,27 @@ void keepModeAndOwner(const QString& target, int replacement)
 
 AtomicFile::AtomicFile(const QString& target)
     : m_target(resolvedTarget(target))
-    , m_file(folder())
 {
+    if (!isPlainFileOrFree(m_target)) {
+        logFault(target, QStringLiteral("something else than a plain file stands there"));
+        return;
+    }
+    m_file.emplace(folder());
+    if (!isValid())
+        logFault(target, qt_error_string(errno));
 }
 
 QString AtomicFile::folder() const { return QFileInfo(m_target).path(); }
 
-bool AtomicFile::commit()
+bool AtomicFile::commit(Existing existing)
 {
-    if (!isValid() || ::fsync(m_file.descriptor()) != 0)
+    if (!isValid())
         return false;
-    keepModeAndOwner(m_target, m_file.descriptor());
-    if (!m_file.moveTo(m_target))
+    keepModeAndOwner(m_target, m_file->descriptor());
+    if (::fsync(m_file->descriptor()) != 0 || !m_file->moveTo(m_target, existing)) {
+        logFault(m_target, qt_error_string(errno));
         return false;
+    }
     flushFolder(folder());
     return true;
 }
@@ -70,11 +95,12 @@ bool writeFileAtomically(const QString& path, const QByteArray& contents)
     AtomicFile target(path);
     if (!target.isValid())
         return false;
-    QFile file(target.temporaryPath());
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()
-        || !file.flush())
+    OutputFile file(target.temporaryPath());
+    file.write(contents);
+    if (!file.finish()) {
+        logFault(path, file.fault());
         return false;
-    file.close();
+    }
     return target.commit();
 }
 

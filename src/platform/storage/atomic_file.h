@@ -6,31 +6,36 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 namespace brenvaldo::platform {
 
 /// A file that appears whole at its place, or not at all.
 ///
 /// The contents are written at `temporaryPath()`; `commit` puts them in place. Without a commit
-/// nothing stays.
+/// nothing stays. A link that leads to a file is kept: that file is the target.
 class AtomicFile
 {
 public:
     explicit AtomicFile(const QString& target);
 
-    /// False when no file can be made in the target's folder.
-    [[nodiscard]] bool isValid() const { return m_file.isValid(); }
-    [[nodiscard]] const QString& temporaryPath() const { return m_file.path(); }
+    using Existing = TemporaryFile::Existing;
+
+    /// False when no file can be made in the target's folder, or something else than a plain file
+    /// has the target's name. The log tells why.
+    [[nodiscard]] bool isValid() const { return m_file && m_file->isValid(); }
+    [[nodiscard]] const QString& temporaryPath() const { return m_file->path(); }
 
     /// The folder that the file comes to stand in.
     [[nodiscard]] QString folder() const;
 
     /// Flushes the file to the disk and puts it in the place of the target; mode and owner of an
-    /// existing target stay.
-    [[nodiscard]] bool commit();
+    /// existing target stay. The log tells why it failed.
+    [[nodiscard]] bool commit(Existing existing = Existing::Replaced);
 
 private:
     QString m_target;
-    TemporaryFile m_file;
+    std::optional<TemporaryFile> m_file;
 };
 
 /// Writes `contents` as a whole file at `path`, or leaves what stands there.

@@ -2,13 +2,10 @@
 #include "file_copy.h"
 
 #include "atomic_file.h"
-
-#include <QFile>
+#include "file_descriptor.h"
 
 #include <array>
 #include <cerrno>
-#include <utility>
-#include <vector>
 
 #include <fcntl.h>
 #include <sys/sendfile.h>
@@ -19,32 +16,6 @@
 namespace brenvaldo::platform {
 
 namespace {
-
-class FileDescriptor
-{
-public:
-    FileDescriptor(const QString& path, int flags)
-        : m_descriptor(::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC))
-    {
-    }
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
-    FileDescriptor(FileDescriptor&&) = delete;
-    FileDescriptor& operator=(FileDescriptor&&) = delete;
-    ~FileDescriptor()
-    {
-        if (isOpen())
-            ::close(m_descriptor);
-    }
-
-    [[nodiscard]] bool isOpen() const { return m_descriptor >= 0; }
-    [[nodiscard]] int get() const { return m_descriptor; }
-    /// False when the file system reports a late failure.
-    [[nodiscard]] bool close() { return ::close(std::exchange(m_descriptor, -1)) == 0; }
-
-private:
-    int m_descriptor;
-};
 
 bool copyContents(int source, int target)
 {
@@ -103,7 +74,18 @@ bool copyPlainFile(const SourceAndTarget& paths)
         return false;
     copyExtendedAttributes(source.get(), target.get());
     copyModeAndDates(status, target.get());
-    return target.close() && file.commit();
+    return target.close() && file.commit(AtomicFile::Existing::Kept);
+}
+
+void copyFolderAttributes(const SourceAndTarget& folders)
+{
+    const FileDescriptor source(folders.source, O_RDONLY | O_DIRECTORY);
+    const FileDescriptor target(folders.target, O_RDONLY | O_DIRECTORY);
+    struct stat status = {};
+    if (!source.isOpen() || !target.isOpen() || ::fstat(source.get(), &status) != 0)
+        return;
+    copyExtendedAttributes(source.get(), target.get());
+    copyModeAndDates(status, target.get());
 }
 
 } // namespace brenvaldo::platform

@@ -9,4 +9,7 @@ namespace brenvaldo::platform {
 /// target must be free.
 [[nodiscard]] bool copyPlainFile(const SourceAndTarget& paths);
 
+/// Gives a copied folder the dates, mode and extended attributes of its source.
+void copyFolderAttributes(const SourceAndTarget& folders);
+
 } // namespace brenvaldo::platform

@@ -2,7 +2,10 @@
 #include "file_system.h"
 
 #include "file_copy.h"
+#include "free_name.h"
+#include "hidden_file.h"
 
+#include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 
 #include <QDir>
@@ -58,17 +61,6 @@ bool copyFolderContents(const SourceAndTarget& paths)
     return true;
 }
 
-void copyFolderModeAndDates(const SourceAndTarget& paths)
-{
-    struct stat status = {};
-    if (::stat(QFile::encodeName(paths.source).constData(), &status) != 0)
-        return;
-    const QByteArray target = QFile::encodeName(paths.target);
-    ::chmod(target.constData(), status.st_mode & 0777U);
-    const timespec dates[] = {status.st_atim, status.st_mtim};
-    ::utimensat(AT_FDCWD, target.constData(), dates, 0);
-}
-
 bool copyFolder(const SourceAndTarget& paths)
 {
     if (standsInside(paths.target, paths.source) || !QFileInfo(paths.source).isReadable()
@@ -78,7 +70,7 @@ bool copyFolder(const SourceAndTarget& paths)
         removeItem(paths.target);
         return false;
     }
-    copyFolderModeAndDates(paths);
+    copyFolderAttributes(paths);
     return true;
 }
 
@@ -88,6 +80,58 @@ bool copyToFreePlace(const SourceAndTarget& paths)
     if (source.isSymLink())
         return copyLink(paths);
     return source.isDir() ? copyFolder(paths) : copyPlainFile(paths);
+}
+
+/// As the system demands it of a folder that is moved within a volume.
+bool isWritableFolder(const std::filesystem::path& folder)
+{
+    return ::faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+/// True when every folder in the item lets its entries go. What is half removed could not be
+/// brought back.
+bool canBeEmptied(const QString& path)
+{
+    namespace fs = std::filesystem;
+    const fs::path top = nativePath(path);
+    std::error_code error;
+    if (!fs::is_directory(fs::symlink_status(top, error)))
+        return true;
+    if (!isWritableFolder(top))
+        return false;
+    for (fs::recursive_directory_iterator entry(top, error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (fs::is_directory(entry->symlink_status(error)) && !isWritableFolder(entry->path()))
+            return false;
+    }
+    return !error;
+}
+
+/// Takes the source out of its folder before anything of it is removed: where that is not allowed,
+/// it is still whole.
+bool removeSource(const QString& source)
+{
+    const QString item = appendingPathComponent(source, {});
+    const QByteArray name = QFile::encodeName(item);
+    const QString hidden
+        = hiddenName(QFileInfo(item).path(), [&name](const QByteArray& hiddenPath) {
+              return renameToFreeName(name, hiddenPath);
+          });
+    if (hidden.isEmpty())
+        return false;
+    if (!removeItem(hidden))
+        log(QStringLiteral("Failed to remove all of %1").arg(hidden));
+    return true;
+}
+
+bool moveByCopy(const SourceAndTarget& paths)
+{
+    if (!canBeEmptied(paths.source) || !copyToFreePlace(paths))
+        return false;
+    if (removeSource(paths.source))
+        return true;
+    removeItem(paths.target);
+    return false;
 }
 
 QDateTime dateOf(const statx_timestamp& stamp)
@@ -123,11 +167,10 @@ bool moveItem(const SourceAndTarget& paths)
 {
     if (paths.target.isEmpty() || isTaken(paths.target))
         return false;
-    std::error_code error;
-    std::filesystem::rename(nativePath(paths.source), nativePath(paths.target), error);
-    if (error != std::errc::cross_device_link)
-        return !error;
-    return copyToFreePlace(paths) && removeItem(paths.source);
+    const QByteArray target = QFile::encodeName(paths.target);
+    if (renameToFreeName(QFile::encodeName(paths.source), target))
+        return true;
+    return errno == EXDEV && moveByCopy(paths);
 }
 
 bool createSymbolicLink(const SourceAndTarget& paths)

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "temporary_file.h"
 
-#include <QDir>
+#include "free_name.h"
+#include "hidden_file.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
 
 #include <cerrno>
 #include <cstdio>
-#include <functional>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace brenvaldo::platform {
@@ -19,22 +20,11 @@ namespace {
 
 constexpr mode_t modeBeforeMask = 0666;
 
-/// Tries hidden names of `folder` until `make` succeeds with one, or fails for another reason than
-/// that it is taken. The names are short: those of targets may be as long as a name can be.
-QString hiddenName(const QString& folder, const std::function<bool(const QByteArray&)>& make)
+/// A file that is about to be removed as abandoned has lost its name by the time it is claimed.
+bool hasName(int descriptor)
 {
-    constexpr int attempts = 100;
-    for (int attempt = 0; attempt < attempts; ++attempt) {
-        const QString path = QDir(folder).filePath(
-            QStringLiteral(".brenvaldo-%1")
-                .arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0'))
-        );
-        if (make(QFile::encodeName(path)))
-            return path;
-        if (errno != EEXIST)
-            break;
-    }
-    return {};
+    struct stat status = {};
+    return ::fstat(descriptor, &status) == 0 && status.st_nlink > 0;
 }
 
 bool giveName(const QByteArray& descriptorPath, const QByteArray& name)
@@ -85,7 +75,8 @@ bool TemporaryFile::makeNameless(const QString& folder)
     if (m_descriptor < 0)
         return false;
     m_path = QStringLiteral("/proc/self/fd/%1").arg(m_descriptor);
-    if (::access(QFile::encodeName(m_path).constData(), W_OK) == 0)
+    // On its way over another file it has a hidden name for a moment.
+    if (::access(QFile::encodeName(m_path).constData(), W_OK) == 0 && claimHiddenFile(m_descriptor))
         return true;
     close();
     return false;
@@ -96,23 +87,40 @@ void TemporaryFile::makeHidden(const QString& folder)
     m_path = hiddenName(folder, [this](const QByteArray& name) {
         m_descriptor
             = ::open(name.constData(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, modeBeforeMask);
-        return isValid();
+        if (!isValid())
+            return false;
+        if (claimHiddenFile(m_descriptor) && hasName(m_descriptor))
+            return true;
+        close();
+        errno = EEXIST;
+        return false;
     });
     m_isHidden = isValid();
 }
 
-bool TemporaryFile::moveTo(const QString& target)
+bool TemporaryFile::moveTo(const QString& target, Existing existing)
 {
-    const QByteArray source = QFile::encodeName(m_path);
-    const QByteArray name = QFile::encodeName(target);
-    const bool isMoved = m_isHidden
-        ? std::rename(source.constData(), name.constData()) == 0
-        : giveName(source, name) || (errno == EEXIST && replaceName(source, target));
+    const bool isMoved = existing == Existing::Kept ? takeFreeName(target) : takeName(target);
     if (isMoved) {
         m_isHidden = false;
         close();
     }
     return isMoved;
+}
+
+bool TemporaryFile::takeFreeName(const QString& target) const
+{
+    const QByteArray source = QFile::encodeName(m_path);
+    const QByteArray name = QFile::encodeName(target);
+    return m_isHidden ? renameToFreeName(source, name) : giveName(source, name);
+}
+
+bool TemporaryFile::takeName(const QString& target) const
+{
+    const QByteArray source = QFile::encodeName(m_path);
+    const QByteArray name = QFile::encodeName(target);
+    return m_isHidden ? std::rename(source.constData(), name.constData()) == 0
+                      : giveName(source, name) || (errno == EEXIST && replaceName(source, target));
 }
 
 void TemporaryFile::close()

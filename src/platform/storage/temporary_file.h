@@ -8,7 +8,8 @@ namespace brenvaldo::platform {
 /// An empty file of a folder's file system to write into by its path.
 ///
 /// It has no name in the folder where the file system knows such files: nothing of it stays even
-/// when the process is killed. Elsewhere it is a hidden file. It goes away with this object.
+/// when the process is killed. Elsewhere it is a hidden file, and what stays of it is found by
+/// `removeAbandonedFiles`. It goes away with this object.
 class TemporaryFile
 {
 public:
@@ -30,13 +31,18 @@ public:
 
     [[nodiscard]] int descriptor() const { return m_descriptor; }
 
-    /// Gives the file the name `target` of the same file system, in the place of what has it. No
-    /// other process ever finds `target` missing or unfinished. On success this object is done.
-    [[nodiscard]] bool moveTo(const QString& target);
+    /// What becomes of a file that has the name already.
+    enum class Existing { Replaced, Kept };
+
+    /// Gives the file the name `target` of the same file system. No other process ever finds
+    /// `target` missing or unfinished. On success this object is done.
+    [[nodiscard]] bool moveTo(const QString& target, Existing existing = Existing::Replaced);
 
 private:
     [[nodiscard]] bool makeNameless(const QString& folder);
     void makeHidden(const QString& folder);
+    [[nodiscard]] bool takeFreeName(const QString& target) const;
+    [[nodiscard]] bool takeName(const QString& target) const;
     void close();
 
     int m_descriptor = -1;

@@ -4,17 +4,89 @@
 #include "file_system.h"
 
 #include <platform/foundation/folders.h>
+#include <platform/foundation/log.h>
+#include <platform/foundation/paths.h>
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QUrl>
 
 namespace brenvaldo::platform {
 
-bool moveToTrash(const QString& path)
+namespace {
+
+/// The user's own trash, whose folders nobody else can look into.
+QString madeTrashFolder(const QString& name)
+{
+    const QString trash
+        = appendingPathComponent(applicationSupportFolder(), QStringLiteral("Trash"));
+    const QString folder = appendingPathComponent(trash, name);
+    constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    QDir().mkdir(trash, ownerOnly);
+    QDir().mkdir(folder, ownerOnly);
+    return folder;
+}
+
+QByteArray informationOn(const QString& path)
+{
+    return "[Trash Info]\nPath=" + QUrl::toPercentEncoding(path, "/") + "\nDeletionDate="
+        + QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")).toLatin1()
+        + '\n';
+}
+
+/// Takes the first free one of "name", "name 2", "name 3" and so on by making its file in `folder`.
+QString takenName(const QString& folder, const QString& name, const QByteArray& information)
+{
+    constexpr int most = 10000;
+    for (int number = 1; number <= most; ++number) {
+        const QString tried = number == 1 ? name : name + u' ' + QString::number(number);
+        QFile file(appendingPathComponent(folder, tried + QStringLiteral(".trashinfo")));
+        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+            file.write(information);
+            return tried;
+        }
+        if (!file.exists())
+            break;
+    }
+    return {};
+}
+
+/// Qt looks at what a link leads to: whether that exists, and on which volume.
+bool moveLinkToTrash(const QString& link)
+{
+    const QString files = madeTrashFolder(QStringLiteral("files"));
+    const QString informations = madeTrashFolder(QStringLiteral("info"));
+    const QFileInfo item(link);
+    const QString name
+        = takenName(informations, item.fileName(), informationOn(item.absoluteFilePath()));
+    if (name.isEmpty())
+        return false;
+    if (moveItem({.source = link, .target = appendingPathComponent(files, name)}))
+        return true;
+    removeItem(appendingPathComponent(informations, name + QStringLiteral(".trashinfo")));
+    return false;
+}
+
+bool moveItemToTrash(const QString& path)
 {
     // Without its data folder Qt moves the file into the current folder and calls it success.
-    if (!fileExists(path) || !createFolder(applicationSupportFolder()))
+    if (path.isEmpty() || !createFolder(applicationSupportFolder()))
         return false;
-    return QFile::moveToTrash(path);
+    if (QFileInfo(path).isSymLink())
+        return moveLinkToTrash(path);
+    return fileExists(path) && QFile::moveToTrash(path);
+}
+
+} // namespace
+
+bool moveToTrash(const QString& path)
+{
+    const bool isMoved = moveItemToTrash(path);
+    if (!isMoved)
+        log(QStringLiteral("Failed to move %1 to the trash").arg(path));
+    return isMoved;
 }
 
 } // namespace brenvaldo::platform
