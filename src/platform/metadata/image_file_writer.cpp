@@ -6,14 +6,12 @@
 #include "iptc_to_xmp.h"
 #include "tiff_blocks.h"
 #include "xmp_packet.h"
+#include <platform/foundation/log.h>
 #include <platform/foundation/mapped_file.h>
+#include <platform/foundation/output_file.h>
 
 #include <platform/graphics/exif_facts.h>
 #include <platform/storage/atomic_file.h>
-
-#include <QFile>
-
-#include <algorithm>
 
 namespace brenvaldo::platform {
 
@@ -43,14 +41,12 @@ Splicer splicerFor(FileFormat format)
 
 bool writePieces(const QByteArrayList& pieces, const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate)
-        && std::all_of(
-               pieces.begin(),
-               pieces.end(),
-               [&file](const QByteArray& piece) { return file.write(piece) == piece.size(); }
-        )
-        && file.flush();
+    OutputFile file(path);
+    for (const QByteArray& piece : pieces)
+        file.write(piece);
+    if (!file.finish())
+        log(QStringLiteral("Failed to write metadata: ") + file.fault());
+    return file.isWhole();
 }
 
 /// The blocks that a HEIC takes. It holds no IPTC and no Photoshop resources of its own: they stand
@@ -86,10 +82,12 @@ bool encodeAndSplice(
 {
     const TemporaryFile encoded(target.folder());
     const EncodeOptions options{.lossyQuality = request.lossyQuality, .blocks = nullptr};
-    if (!encoded.isValid() || !encode(image, request.format, options, encoded.path()))
+    if (!encode(image, request.format, options, encoded.path()))
         return false;
     const MappedFile file(encoded.path());
     const auto pieces = splicer(file.bytes(), *request.metadata);
+    if (!pieces)
+        log(QStringLiteral("Failed to write metadata: the file can't hold it"));
     return pieces && writePieces(*pieces, target.temporaryPath());
 }
 
@@ -103,6 +101,8 @@ bool writeImageFile(const Image& image, const ImageFileRequest& request, const Q
     const Splicer splicer = request.metadata ? splicerFor(request.format) : nullptr;
     const bool isWritten = splicer ? encodeAndSplice(image, request, splicer, target)
                                    : encodeWithBlocks(image, request, target.temporaryPath());
+    if (!isWritten)
+        log(QStringLiteral("Failed to write ") + path);
     return isWritten && target.commit();
 }
 
