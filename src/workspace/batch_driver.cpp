@@ -5,6 +5,8 @@
 #include "preview_switch.h"
 #include "selected_function.h"
 
+#include <platform/storage/hidden_file.h>
+
 namespace brenvaldo::workspace {
 
 void cGUIcontrols::hLoadImages()
@@ -13,6 +15,7 @@ void cGUIcontrols::hLoadImages()
     const QString function = cSelectedFunction::sharedModel().myString.value_or(QString());
     cKeepNumber::sharedNumber().myNumberString = u"0"_qs;
     const QString destination = m_panels.vwMainDestination.tfImageDestinationFolder.stringValue();
+    platform::removeAbandonedFiles(destination);
     if (function == functionId::manSort)
         return;
     if (function == functionId::batchSort)
