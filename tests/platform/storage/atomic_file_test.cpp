@@ -2,6 +2,7 @@
 #include <platform/storage/atomic_file.h>
 
 #include <support/faults.h>
+#include <support/log_lines.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
 
@@ -16,6 +17,7 @@
 
 using namespace brenvaldo::platform;
 using brenvaldo::test::FullDisk;
+using brenvaldo::test::LogLines;
 using brenvaldo::test::setMode;
 using brenvaldo::test::TemporaryFolder;
 using brenvaldo::test::WithoutPrivileges;
@@ -34,6 +36,28 @@ struct stat statusOf(const QString& path)
     if (::stat(QFile::encodeName(path).constData(), &status) != 0)
         qFatal("no such file");
     return status;
+}
+
+/// Expects that nothing can be written at `path`, nor at a link to it, and that it stays.
+void expectRefused(const QString& path)
+{
+    const QString link = path + u".link"_qs;
+    ASSERT_TRUE(QFile::link(path, link));
+    const struct stat before = statusOf(path);
+    const LogLines log;
+
+    EXPECT_FALSE(writeFileAtomically(path, "new"));
+    EXPECT_FALSE(writeFileAtomically(link, "new"));
+
+    EXPECT_EQ(statusOf(path).st_ino, before.st_ino);
+    EXPECT_EQ(statusOf(path).st_mode, before.st_mode);
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(
+        log.lines(),
+        (QStringList{
+            u"Failed to write %1: something else than a plain file stands there"_qs.arg(path),
+            u"Failed to write %1: something else than a plain file stands there"_qs.arg(link)})
+    );
 }
 
 } // namespace
@@ -171,20 +195,61 @@ TEST(AtomicFile, FailsWithoutItsFolder)
     const TemporaryFolder folder;
     const QString path = folder.path(u"missing/photo.jpg"_qs);
 
+    const LogLines log;
     EXPECT_FALSE(AtomicFile(path).isValid());
     EXPECT_FALSE(writeFileAtomically(path, "a"));
     EXPECT_EQ(allEntries(folder), QStringList());
+    const QString line = u"Failed to write %1: No such file or directory"_qs.arg(path);
+    EXPECT_EQ(log.lines(), (QStringList{line, line}));
 }
 
-TEST(AtomicFile, FailsWhereAFolderStands)
+TEST(AtomicFile, RefusesTheNameOfAFolder)
 {
     const TemporaryFolder folder;
     QDir().mkpath(folder.path(u"target"_qs));
 
-    EXPECT_FALSE(writeFileAtomically(folder.path(u"target"_qs), "a"));
+    expectRefused(folder.path(u"target"_qs));
+}
 
-    EXPECT_EQ(allEntries(folder), QStringList{u"target"_qs});
-    EXPECT_TRUE(QFileInfo(folder.path(u"target"_qs)).isDir());
+TEST(AtomicFile, RefusesTheNameOfAPipe)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.path(u"pipe.png"_qs);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+
+    expectRefused(path);
+}
+
+TEST(AtomicFile, RefusesTheNameOfASocket)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.path(u"socket.png"_qs);
+    ASSERT_EQ(::mknod(QFile::encodeName(path).constData(), S_IFSOCK | 0600, 0), 0);
+
+    expectRefused(path);
+}
+
+TEST(AtomicFile, TakesTheNameOfABrokenLink)
+{
+    const TemporaryFolder folder;
+    const QString link = folder.path(u"link.png"_qs);
+    ASSERT_TRUE(QFile::link(folder.path(u"missing"_qs), link));
+
+    EXPECT_TRUE(writeFileAtomically(link, "new"));
+
+    EXPECT_EQ(TemporaryFolder::read(link), "new");
+}
+
+TEST(AtomicFile, KeepsWhatAppearedMeanwhileWhenToldSo)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.path(u"photo.jpg"_qs);
+    AtomicFile file(path);
+    ASSERT_EQ(folder.write(u"photo.jpg"_qs, "of another"), path);
+
+    EXPECT_FALSE(file.commit(AtomicFile::Existing::Kept));
+
+    EXPECT_EQ(TemporaryFolder::read(path), "of another");
 }
 
 TEST(AtomicFile, FailsInAReadOnlyFolder)
@@ -207,10 +272,12 @@ TEST(AtomicFile, LeavesTheOldFileOnAFullDisk)
 {
     const TemporaryFolder folder;
     const QString path = folder.write(u"photo.jpg"_qs, "old");
+    const LogLines log;
     {
         const FullDisk disk(4096);
         EXPECT_FALSE(writeFileAtomically(path, QByteArray(100000, 'x')));
     }
+    EXPECT_EQ(log.lines(), QStringList{u"Failed to write %1: File too large"_qs.arg(path)});
 
     EXPECT_EQ(TemporaryFolder::read(path), "old");
     EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});

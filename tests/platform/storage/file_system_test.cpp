@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/xattr.h>
 
 using namespace brenvaldo::platform;
@@ -127,6 +129,28 @@ TEST(CopyItem, CopiesAFolderWithAllItHolds)
     EXPECT_EQ(allEntries(folder.path(u"copy"_qs)), allEntries(tree));
     EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy/inner/b.txt"_qs)), "b");
     EXPECT_TRUE(QFileInfo(folder.path(u"copy/link"_qs)).isSymLink());
+}
+
+TEST(CopyItem, GivesCopiedFoldersTheirDatesModesAndAttributes)
+{
+    const TemporaryFolder folder;
+    const QString tree = makeTree(folder);
+    const QByteArray inner = QFile::encodeName(tree + u"/inner"_qs);
+    ASSERT_EQ(::setxattr(inner.constData(), "user.label", "6", 1, 0), 0);
+    setMode(tree + u"/inner"_qs, 0750);
+    const timespec dates[] = {{1'000'000'000, 0}, {1'100'000'000, 0}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, inner.constData(), dates, 0), 0);
+
+    EXPECT_TRUE(copyItem({.source = tree, .target = folder.path(u"copy"_qs)}));
+
+    const QByteArray copy = QFile::encodeName(folder.path(u"copy/inner"_qs));
+    struct stat status = {};
+    ASSERT_EQ(::stat(copy.constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, 0750U);
+    EXPECT_EQ(status.st_mtim.tv_sec, 1'100'000'000);
+    char label = 0;
+    EXPECT_EQ(::getxattr(copy.constData(), "user.label", &label, 1), 1);
+    EXPECT_EQ(label, '6');
 }
 
 TEST(CopyItem, CopiesALinkAsALink)
@@ -248,6 +272,73 @@ TEST(MoveItem, CrossesVolumes)
     EXPECT_EQ(TemporaryFolder::read(target + u"/inner/b.txt"_qs), "b");
 }
 
+TEST(MoveItem, LeavesNoSecondCopyOfAFileThatMustStayOnItsVolume)
+{
+    const TemporaryFolder folder;
+    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
+    setMode(shared.path(), 0777);
+    createFolder(folder.path(u"locked"_qs));
+    const QString source = folder.write(u"locked/source"_qs, "a");
+    setMode(source, 0644);
+    setMode(folder.path(u"locked"_qs), 0555);
+    setMode(folder.path(), 0755);
+    {
+        const WithoutPrivileges user;
+        EXPECT_FALSE(moveItem({.source = source, .target = shared.filePath(u"moved"_qs)}));
+    }
+
+    EXPECT_EQ(allEntries(folder.path(u"locked"_qs)), QStringList{u"source"_qs});
+    EXPECT_EQ(TemporaryFolder::read(source), "a");
+    EXPECT_EQ(allEntries(shared.path()), QStringList());
+    setMode(folder.path(u"locked"_qs), 0755);
+}
+
+TEST(MoveItem, TakesNothingOfAFolderAwayThatMustStayOnItsVolume)
+{
+    const TemporaryFolder folder;
+    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
+    setMode(shared.path(), 0777);
+    const QString tree = makeTree(folder);
+    setMode(folder.path(), 0777);
+    setMode(tree, 0777);
+    setMode(tree + u"/inner"_qs, 0555);
+    {
+        const WithoutPrivileges user;
+        EXPECT_FALSE(moveItem({.source = tree, .target = shared.filePath(u"moved"_qs)}));
+    }
+
+    EXPECT_EQ(allEntries(tree).size(), 4);
+    EXPECT_EQ(TemporaryFolder::read(tree + u"/inner/b.txt"_qs), "b");
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"tree"_qs});
+    EXPECT_EQ(allEntries(shared.path()), QStringList());
+    setMode(tree + u"/inner"_qs, 0755);
+}
+
+TEST(MoveItem, LeavesNothingBesideTheSourceAcrossVolumes)
+{
+    const TemporaryFolder folder;
+    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
+    const QString source = folder.write(u"source"_qs, "a");
+
+    EXPECT_TRUE(moveItem({.source = source, .target = shared.filePath(u"moved"_qs)}));
+
+    EXPECT_EQ(allEntries(folder.path()), QStringList());
+    EXPECT_EQ(allEntries(shared.path()), QStringList{u"moved"_qs});
+}
+
+TEST(MoveItem, MovesALinkAcrossVolumesAndNotWhatItLeadsTo)
+{
+    const TemporaryFolder folder;
+    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
+    QFile::link(u"nowhere"_qs, folder.path(u"link"_qs));
+
+    EXPECT_TRUE(moveItem({.source = folder.path(u"link"_qs), .target = shared.filePath(u"moved"_qs)}
+    ));
+
+    EXPECT_EQ(allEntries(folder.path()), QStringList());
+    EXPECT_TRUE(QFileInfo(shared.filePath(u"moved"_qs)).isSymLink());
+}
+
 TEST(MoveItem, ReplacesNothing)
 {
     const TemporaryFolder folder;
@@ -309,6 +400,33 @@ TEST(FileAttributes, TellSizeAndDates)
     EXPECT_LT(qAbs(attributes->creationDate.secsTo(now)), 60);
     EXPECT_LT(qAbs(attributes->modificationDate.secsTo(now)), 60);
     EXPECT_EQ(fileAttributes(folder.path(u"missing"_qs)), std::nullopt);
+}
+
+TEST(FileAttributes, AreThoseOfALinkItself)
+{
+    const TemporaryFolder folder;
+    const QString file = folder.write(u"file"_qs, "a long text behind a short link");
+    const QString link = folder.path(u"link"_qs);
+    QFile::link(u"file"_qs, link);
+    const timespec dates[] = {{1'000'000'000, 0}, {1'100'000'000, 0}};
+    ASSERT_EQ(
+        ::utimensat(AT_FDCWD, QFile::encodeName(link).constData(), dates, AT_SYMLINK_NOFOLLOW), 0
+    );
+
+    const auto attributes = fileAttributes(link);
+
+    ASSERT_TRUE(attributes);
+    EXPECT_LT(attributes->size, 31);
+    EXPECT_EQ(attributes->modificationDate.toSecsSinceEpoch(), 1'100'000'000);
+}
+
+TEST(FolderEntries, ListBrokenLinks)
+{
+    const TemporaryFolder folder;
+    QFile::link(u"nowhere"_qs, folder.path(u"broken"_qs));
+
+    EXPECT_EQ(relativePaths(folderEntries(folder.path()), folder), QStringList{u"broken"_qs});
+    EXPECT_EQ(relativePaths(folderTree(folder.path()), folder), QStringList{u"broken"_qs});
 }
 
 TEST(FolderEntries, LeaveHiddenFilesOut)

@@ -94,6 +94,20 @@ TEST_P(TemporaryFileForm, StaysTemporaryWhereItCanNotGo)
     EXPECT_EQ(allEntries(folder), QStringList{u"taken"_qs});
 }
 
+TEST_P(TemporaryFileForm, TakesNoNameThatIsToBeKept)
+{
+    const TemporaryFolder folder;
+    const QString taken = folder.write(u"taken.jpg"_qs, "old");
+    TemporaryFile file(folder.path(), GetParam().form);
+    ASSERT_TRUE(fill(file, "new"));
+
+    EXPECT_FALSE(file.moveTo(taken, TemporaryFile::Existing::Kept));
+    EXPECT_TRUE(file.moveTo(folder.path(u"free.jpg"_qs), TemporaryFile::Existing::Kept));
+
+    EXPECT_EQ(TemporaryFolder::read(taken), "old");
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"free.jpg"_qs)), "new");
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Forms,
     TemporaryFileForm,

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/storage/hidden_file.h>
+
+#include <platform/storage/temporary_file.h>
+
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace brenvaldo::platform;
+using brenvaldo::test::TemporaryFolder;
+
+namespace {
+
+QStringList allEntries(const TemporaryFolder& folder)
+{
+    return QDir(folder.path())
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+}
+
+} // namespace
+
+TEST(RemoveAbandonedFiles, RemovesWhatNoProcessUses)
+{
+    const TemporaryFolder folder;
+    static_cast<void>(folder.write(u".brenvaldo-0123abcd"_qs, "half a picture"));
+    static_cast<void>(folder.write(u".brenvaldo-ffffffff"_qs, ""));
+
+    removeAbandonedFiles(folder.path());
+
+    EXPECT_EQ(allEntries(folder), QStringList());
+}
+
+TEST(RemoveAbandonedFiles, KeepsTheFilesOfLivingProcesses)
+{
+    const TemporaryFolder folder;
+    TemporaryFile file(folder.path(), TemporaryFile::Form::Hidden);
+    ASSERT_EQ(allEntries(folder).size(), 1);
+
+    removeAbandonedFiles(folder.path());
+
+    ASSERT_EQ(allEntries(folder).size(), 1);
+    EXPECT_TRUE(file.moveTo(folder.path(u"photo.jpg"_qs)));
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+}
+
+TEST(RemoveAbandonedFiles, KeepsTheFileThatIsJustAboutToReplaceAnother)
+{
+    const TemporaryFolder folder;
+    const TemporaryFile file(folder.path());
+    const QString hidden = folder.path(u".brenvaldo-01234567"_qs);
+    const int linked = ::linkat(
+        AT_FDCWD,
+        QFile::encodeName(file.path()).constData(),
+        AT_FDCWD,
+        QFile::encodeName(hidden).constData(),
+        AT_SYMLINK_FOLLOW
+    );
+    ASSERT_EQ(linked, 0);
+
+    removeAbandonedFiles(folder.path());
+
+    EXPECT_TRUE(allEntries(folder).contains(u".brenvaldo-01234567"_qs));
+}
+
+TEST(RemoveAbandonedFiles, KeepsWhatTheProgramDidNotMake)
+{
+    const TemporaryFolder folder;
+    QDir().mkpath(folder.path(u".brenvaldo-00000001"_qs));
+    ASSERT_TRUE(QFile::link(u"nowhere"_qs, folder.path(u".brenvaldo-00000002"_qs)));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.path(u".brenvaldo-00000003"_qs)), 0600), 0);
+    static_cast<void>(folder.write(u".brenvaldo-notes.txt"_qs, ""));
+    static_cast<void>(folder.write(u".brenvaldo-000000004"_qs, ""));
+    static_cast<void>(folder.write(u"x.brenvaldo-00000005"_qs, ""));
+    const QStringList before = allEntries(folder);
+    ASSERT_EQ(before.size(), 6);
+
+    removeAbandonedFiles(folder.path());
+
+    EXPECT_EQ(allEntries(folder), before);
+}
+
+TEST(RemoveAbandonedFiles, KeepsTheFilesOfOtherUsers)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(u".brenvaldo-00000001"_qs, "");
+    const bool isGivenAway = ::chown(QFile::encodeName(path).constData(), 1234, 1234) == 0;
+
+    removeAbandonedFiles(folder.path());
+
+    EXPECT_EQ(QFile::exists(path), isGivenAway);
+}
+
+TEST(RemoveAbandonedFiles, DoesNothingWithoutAFolder)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(u".brenvaldo-00000001"_qs, "");
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder.path());
+
+    removeAbandonedFiles(QString());
+    removeAbandonedFiles(folder.path(u"missing"_qs));
+
+    QDir::setCurrent(before);
+    EXPECT_TRUE(QFile::exists(path));
+}
