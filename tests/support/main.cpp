@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "surroundings.h"
+
 #include <platform/graphics/engine.h>
 
 #include <QGuiApplication>
@@ -7,7 +9,7 @@
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const brenvaldo::test::Surroundings surroundings;
     const brenvaldo::platform::Engine engine;
     const QGuiApplication application(argc, argv);
     testing::InitGoogleMock(&argc, argv);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/surroundings.h"
+
 #include <platform/graphics/engine.h>
 #include <views/theme.h>
 
@@ -8,7 +10,7 @@
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const brenvaldo::test::Surroundings surroundings;
     const brenvaldo::platform::Engine engine;
     QApplication application(argc, argv);
     brenvaldo::views::applyTheme(application);

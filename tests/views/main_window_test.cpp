@@ -468,7 +468,10 @@ TEST_F(MainWindow, ShowsEachTypedCharacterInThePreview)
 {
     workspace.openFiles(makePhotos(1));
     QTest::mouseClick(find(u"cbShowPreview"_qs), Qt::LeftButton);
-    controls::ImageView& overlay = workspace.panels().window.myTemplateOverlayPreview;
+    auto& panels = workspace.panels();
+    panels.vwWatermark.cbFontList.selectItemWithObjectValue(u"DejaVu Sans"_qs);
+    panels.vwWatermark.tfFontSize.setStringValue(u"12"_qs); // small enough for the photo
+    controls::ImageView& overlay = panels.window.myTemplateOverlayPreview;
     auto* text = find(u"tvWaterMarkText"_qs);
     text->setFocus();
     QList<QImage> shown;
