@@ -39,10 +39,14 @@ struct SavePanel
     QString message = {};
     QString suggestedName = {};
     QStringList allowedTypes = {}; ///< extensions; they may change when an accessory does
-    bool allowsOtherTypes = true;
+    bool allowsOtherTypes = true; ///< a name that has an extension keeps it
     QString startFolder = {};
     QList<Accessory> accessories = {};
 };
+
+/// `path` as the panel hands it over: with the first allowed type, unless it has a type that the
+/// panel takes.
+[[nodiscard]] QString withAllowedType(const QString& path, const SavePanel& panel);
 
 /// Asks the user for files; a window shows panels, a script answers from its queue.
 class FileChooser
@@ -57,6 +61,7 @@ public:
 
     /// The chosen paths; nothing when the panel was not answered with OK.
     [[nodiscard]] virtual std::optional<QStringList> open(const OpenPanel& panel) = 0;
+    /// `panel` stays the caller's: what an accessory changes in it holds at once.
     [[nodiscard]] virtual std::optional<QString> save(const SavePanel& panel) = 0;
 };
 

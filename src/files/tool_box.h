@@ -81,7 +81,8 @@ public:
     void hSaveNSDataWriteDialogFile(const QByteArray& contents, const QString& suggestedName) const;
 
     /// Imports a chain of actions: the file's name without extension, a TAB, 65 blanks, a TAB and
-    /// the file's text. The panel starts in `folder`, or where it stood last when that is "".
+    /// the file's text, which is "" for a file that is no UTF-8. The panel starts in `folder`, or
+    /// where it stood last when that is "".
     [[nodiscard]] QString hReadNSDataInFile(const QString& folder) const;
 
     /// Asks for a folder and a project name, and answers both.

@@ -59,12 +59,10 @@ QString cToolBox::hReadNSDataInFile(const QString& folder) const
     if (!chosen || chosen->isEmpty())
         return {};
     const QString path = chosen->last();
-    const auto contents = platform::readTextFile(path);
-    if (!contents)
-        return {};
+    const QString contents = platform::readTextFile(path).value_or(QString());
     const QString name = platform::deletingPathExtension(platform::lastPathComponent(path));
     constexpr int blanks = 65;
-    return name + u'\t' + QString(blanks, u' ') + u'\t' + *contents;
+    return name + u'\t' + QString(blanks, u' ') + u'\t' + contents;
 }
 
 QStringList cToolBox::hSaveProjectDialog()

@@ -12,15 +12,6 @@ namespace brenvaldo::files {
 
 namespace {
 
-/// The path as a panel hands it over that refuses other types: with the first allowed one, unless
-/// it has one of them.
-QString withAllowedExtension(const QString& path, const QStringList& allowedTypes)
-{
-    if (allowedTypes.contains(platform::pathExtension(path), Qt::CaseInsensitive))
-        return path;
-    return platform::appendingPathExtension(path, allowedTypes.first());
-}
-
 void logFailure(const QString& path)
 {
     platform::log(QStringLiteral("Can't write \"%1\"").arg(path));
@@ -38,7 +29,7 @@ QString cToolBox::savedTo(const controls::SavePanel& panel, const QByteArray& co
     const auto chosen = m_surroundings.chooser.save(panel);
     if (!chosen)
         return {};
-    const QString path = withAllowedExtension(*chosen, panel.allowedTypes);
+    const QString path = controls::withAllowedType(*chosen, panel);
     if (!platform::writeFileAtomically(path, contents))
         logFailure(path);
     return path;
@@ -101,7 +92,7 @@ void cToolBox::hSaveDialogFile(const QString& source)
     const auto chosen = m_surroundings.chooser.save(m_panel);
     if (!chosen)
         return;
-    const QString target = withAllowedExtension(*chosen, m_panel.allowedTypes);
+    const QString target = controls::withAllowedType(*chosen, m_panel);
     const bool written = writePhotoCopy(
         {.source = source, .target = target, .type = m_fileType, .compression = m_compressionType}
     );

@@ -1,12 +1,64 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt_file_chooser.h"
 
+#include <controls/control.h>
+
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
+
+#include <vector>
 
 namespace brenvaldo::views {
+
+namespace {
+
+/// Completes the typed name before it asks whether that file may be replaced: the toolkit asks
+/// first, and completes no name that has a dot.
+class SaveDialog : public QFileDialog
+{
+public:
+    SaveDialog(QWidget* parent, const controls::SavePanel& panel)
+        : QFileDialog(parent)
+        , m_panel(panel)
+    {
+        setAcceptMode(AcceptSave);
+        setFileMode(AnyFile);
+        filterByType();
+        for (const auto& accessory : panel.accessories)
+            m_choices.push_back(accessory.control->changed.connect([this] { filterByType(); }));
+    }
+
+protected:
+    void accept() override
+    {
+        completeName();
+        QFileDialog::accept();
+    }
+
+private:
+    void filterByType()
+    {
+        if (!m_panel.allowedTypes.isEmpty())
+            setNameFilter(nameFilter(m_panel.allowedTypes));
+    }
+
+    void completeName()
+    {
+        auto* const field = findChild<QLineEdit*>(u"fileNameEdit"_qs);
+        const bool namesFolder = QFileInfo(selectedFiles().value(0)).isDir();
+        if (field && !namesFolder)
+            field->setText(controls::withAllowedType(field->text(), m_panel));
+    }
+
+    const controls::SavePanel& m_panel;
+    std::vector<platform::Subscription> m_choices;
+};
+
+} // namespace
 
 QString nameFilter(const QStringList& types)
 {
@@ -55,14 +107,8 @@ std::optional<QStringList> QtFileChooser::open(const controls::OpenPanel& panel)
 
 std::optional<QString> QtFileChooser::save(const controls::SavePanel& panel)
 {
-    QFileDialog dialog(m_window);
+    SaveDialog dialog(m_window, panel);
     prepare(dialog, panel.message, panel.startFolder);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    if (!panel.allowedTypes.isEmpty()) {
-        dialog.setNameFilter(nameFilter(panel.allowedTypes));
-        dialog.setDefaultSuffix(panel.allowedTypes.first());
-    }
     dialog.selectFile(panel.suggestedName);
     addAccessories(dialog, panel.accessories);
     const auto paths = run(dialog);

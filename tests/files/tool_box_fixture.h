@@ -27,11 +27,13 @@ public:
     {
         saved.push_back(panel);
         beforeAnswer();
+        typesAtAnswer = panel.allowedTypes;
         return saveAnswer;
     }
 
     std::vector<controls::OpenPanel> opened;
     std::vector<controls::SavePanel> saved;
+    QStringList typesAtAnswer; ///< what the latest save panel allowed in the end
     std::optional<QStringList> openAnswer; ///< nothing cancels
     std::optional<QString> saveAnswer;
     std::function<void()> beforeAnswer = [] {}; ///< what the user does in the panel

@@ -75,6 +75,7 @@ TEST_F(ToolBox, SavesDataAsAnActionFile)
 
     box.hSaveNSDataWriteDialogFile("\x01\x02", u"a"_qs);
 
+    EXPECT_EQ(chooser.saved[0].suggestedName, u"a"_qs);
     EXPECT_EQ(TemporaryFolder::read(folder.path(u"a.c-action"_qs)), "\x01\x02");
 }
 
@@ -140,6 +141,17 @@ TEST_F(PhotoCopyPanel, EnablesTheQualityForJpegOnly)
     answer(u"b"_qs, u"jpeg"_qs);
     box.hSaveDialogFile(source);
     EXPECT_TRUE(box.pubJPEGcompression.isEnabled());
+}
+
+TEST_F(PhotoCopyPanel, AllowsTheTypeThatIsPickedWhileItIsOpen)
+{
+    answer(u"copy"_qs, u"png"_qs);
+
+    box.hSaveDialogFile(source);
+
+    EXPECT_EQ(chooser.saved[0].allowedTypes, QStringList{u"jpeg"_qs});
+    EXPECT_EQ(chooser.typesAtAnswer, QStringList{u"png"_qs});
+    EXPECT_TRUE(QFileInfo::exists(folder.path(u"copy.png"_qs)));
 }
 
 TEST_F(PhotoCopyPanel, WritesEveryImageType)

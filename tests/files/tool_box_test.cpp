@@ -110,11 +110,11 @@ TEST_F(ToolBox, OpensTheActionPanelInItsDefaultFolder)
     EXPECT_EQ(chooser.opened[0].startFolder, u""_qs);
 }
 
-TEST_F(ToolBox, ReadsNoRowFromWhatIsNoText)
+TEST_F(ToolBox, ReadsARowWithoutATextFromWhatIsNoText)
 {
-    chooser.openAnswer = QStringList{folder.write(u"a.c-action"_qs, "\xFF\xFF")};
+    chooser.openAnswer = QStringList{folder.write(u"a.c-action"_qs, "Strip\t\xFF\xFF")};
 
-    EXPECT_EQ(box.hReadNSDataInFile(u""_qs), u""_qs);
+    EXPECT_EQ(box.hReadNSDataInFile(u""_qs), u"a\t"_qs + QString(65, u' ') + u'\t');
 }
 
 TEST_F(ToolBox, AsksForAFolderAndAProjectName)

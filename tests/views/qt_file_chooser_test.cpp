@@ -13,6 +13,8 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 
 using namespace brenvaldo;
@@ -116,6 +118,69 @@ TEST_F(QtFileChooser, AddsTheExtensionToTheNameOfASavedFile)
     const auto path = chooser.save({.allowedTypes = {u"txt"_qs}, .startFolder = place});
 
     EXPECT_EQ(path, QDir(place).filePath(u"list.txt"_qs));
+}
+
+TEST_F(QtFileChooser, AsksBeforeItReplacesAFileWhoseTypeWasNotTyped)
+{
+    const QString taken = folder.write(u"v1.2.c-action"_qs, "old");
+    QString question;
+    whenOpen([&](QFileDialog& dialog) {
+        QTimer::singleShot(0, &context, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            question = box->text();
+            box->button(QMessageBox::No)->click();
+        });
+        typeName(dialog, u"v1.2"_qs);
+        accept(dialog);
+        dialog.reject();
+    });
+
+    const auto path = chooser.save(
+        {.allowedTypes = {u"c-action"_qs}, .allowsOtherTypes = false, .startFolder = place}
+    );
+
+    EXPECT_FALSE(path);
+    EXPECT_TRUE(question.contains(u"v1.2.c-action"_qs)) << question.toStdString();
+}
+
+TEST_F(QtFileChooser, OpensAFolderThatIsTypedIntoASavePanel)
+{
+    ASSERT_TRUE(QDir(place).mkdir(u"inner"_qs));
+    QString opened;
+    whenOpen([&](QFileDialog& dialog) {
+        typeName(dialog, u"inner"_qs);
+        accept(dialog);
+        opened = dialog.directory().path();
+        dialog.reject();
+    });
+
+    EXPECT_FALSE(chooser.save({.allowedTypes = {u"txt"_qs}, .startFolder = place}));
+
+    EXPECT_EQ(opened, QDir(place).filePath(u"inner"_qs));
+}
+
+TEST_F(QtFileChooser, FollowsTheTypeThatAnAccessoryPicks)
+{
+    controls::PopUpButton type(u"pubFileType"_qs, {u"jpeg"_qs, u"png"_qs});
+    controls::SavePanel panel
+        = {.allowedTypes = {u"jpeg"_qs},
+           .allowsOtherTypes = false,
+           .startFolder = place,
+           .accessories = {{.label = u"File type"_qs, .control = &type}}};
+    const auto subscription
+        = type.changed.connect([&] { panel.allowedTypes = {type.titleOfSelectedItem()}; });
+    QStringList filters;
+    whenOpen([&](QFileDialog& dialog) {
+        type.selectItemAtIndex(1);
+        filters = dialog.nameFilters();
+        typeName(dialog, u"copy"_qs);
+        accept(dialog);
+    });
+
+    EXPECT_EQ(chooser.save(panel), QDir(place).filePath(u"copy.png"_qs));
+
+    EXPECT_EQ(filters, QStringList(u"Files (*.png *.PNG)"_qs));
 }
 
 TEST_F(QtFileChooser, ShowsAccessoriesWithTheirLabels)
