@@ -25,6 +25,8 @@ void keepOpen(std::optional<Connection> connection)
         open.push_back(std::move(*connection));
 }
 
+using Step = Statement::Step;
+
 QString presetsTable() { return u"Presets"_qs; }
 
 /// The values of the present row behind `ID`, joined by "|".
@@ -34,6 +36,18 @@ QString rowText(const Statement& statement)
     for (int column = 1; column <= columnCount; ++column)
         values.append(statement.text(column).value_or(QString()));
     return values.join(QLatin1Char('|'));
+}
+
+/// The values by column, the last row's over the earlier ones; nothing when not all can be read.
+std::optional<PresetValues> valuesOfAllRows(const Statement& statement)
+{
+    PresetValues values;
+    Step step = statement.step();
+    for (; step == Step::Row; step = statement.step()) {
+        for (int column = 1; column < statement.dataCount(); ++column)
+            values.insert(statement.columnName(column), statement.text(column).value_or(QString()));
+    }
+    return step == Step::Done ? std::optional(values) : std::nullopt;
 }
 
 QStringList completeValues(const PresetRow& row)
@@ -141,7 +155,7 @@ std::optional<QString> dbViewController::checkPresetNameFromTableNamed(
     const QString text
         = selectStatement(u"*"_qs, table, {{nameColumn, name}, {processColumn, process}});
     if (const auto statement = m_myDb->prepare(text)) {
-        while (statement->step())
+        while (statement->step() == Step::Row)
             m_myPresetExist = statement->text(1);
     }
     close();
@@ -157,7 +171,7 @@ std::optional<QStringList> dbViewController::checkForActionType(
     if (const auto statement
         = m_myDb->prepare(selectStatement(u"*"_qs, table, {{column, value}}))) {
         QStringList rows;
-        while (statement->step())
+        while (statement->step() == Step::Row)
             rows.append(rowText(*statement));
         if (!rows.isEmpty())
             m_myPresetsArrayToPass = rows;
@@ -166,20 +180,17 @@ std::optional<QStringList> dbViewController::checkForActionType(
     return m_myPresetsArrayToPass;
 }
 
-PresetValues dbViewController::getSelectedPreset(const QString& table, const QString& name)
+std::optional<PresetValues>
+dbViewController::getSelectedPreset(const QString& table, const QString& name)
 {
-    PresetValues values;
     if (!open())
-        return values;
+        return PresetValues();
+    std::optional<PresetValues> values;
     const QString text = selectStatement(u"*"_qs, table, {{u"NameOfPreset"_qs, name}});
-    if (const auto statement = m_myDb->prepare(text)) {
-        while (statement->step()) {
-            for (int column = 1; column < statement->dataCount(); ++column)
-                values.insert(
-                    statement->columnName(column), statement->text(column).value_or(QString())
-                );
-        }
-    }
+    if (const auto statement = m_myDb->prepare(text))
+        values = valuesOfAllRows(*statement);
+    else if (m_myDb->failedByStatement())
+        values = PresetValues();
     close();
     return values;
 }
@@ -194,7 +205,7 @@ std::optional<QString> dbViewController::removePresetFromDatabase(
         const auto statement = m_myDb->prepare(deleteStatement(table, {column, value}));
         if (!statement)
             m_myPresetExist = u"preset not found"_qs;
-        else if (statement->step())
+        else if (statement->step() == Step::Row)
             m_myPresetExist = u"preset removed"_qs;
     }
     close();
@@ -206,7 +217,7 @@ void dbViewController::getAllRowsFromTableNamed(const QString& table)
     if (!open())
         return;
     if (const auto statement = m_myDb->prepare(selectStatement(u"*"_qs, table))) {
-        while (statement->step()) { }
+        while (statement->step() == Step::Row) { }
     }
     close();
 }
@@ -230,7 +241,7 @@ QByteArray dbViewController::LoadImagesFromSql(const QString& url)
 {
     const QString text = selectStatement(u"IMAGE"_qs, u"IMAGES"_qs, {{u"URL"_qs, url}});
     const auto statement = m_myDb ? m_myDb->prepare(text) : std::nullopt;
-    return statement && statement->step() ? statement->blob(0) : QByteArray();
+    return statement && statement->step() == Step::Row ? statement->blob(0) : QByteArray();
 }
 
 void dbViewController::creatTableIfNotExist() const { }
@@ -263,7 +274,7 @@ QByteArray dbViewController::hGetBookMarkedFolders(
         selected, table, {{firstColumn, firstValue}, {secondColumn, secondValue}}
     );
     if (const auto statement = m_myDb->prepare(text)) {
-        while (statement->step())
+        while (statement->step() == Step::Row)
             m_mySearchValue4 = statement->blob(1);
     }
     close();

@@ -65,8 +65,11 @@ public:
     [[nodiscard]] std::optional<QStringList>
     checkForActionType(const QString& table, const QString& column, const QString& value);
 
-    /// The values of all rows of that name, the last row's over the earlier ones.
-    [[nodiscard]] PresetValues getSelectedPreset(const QString& table, const QString& name);
+    /// The values of all rows of that name, the last row's over the earlier ones; empty when there
+    /// is none, the file can't be opened or the statement is no valid one. Nothing when the file is
+    /// damaged or stays locked.
+    [[nodiscard]] std::optional<PresetValues>
+    getSelectedPreset(const QString& table, const QString& name);
 
     /// "preset not found" when the statement is no valid one, nothing otherwise.
     std::optional<QString>

@@ -98,7 +98,10 @@ void cPresetManager::hApplySelectedPreset()
     if (!record)
         return;
     const QString name = sheet.thePresetsData.value(row, u"nmPreset"_qs);
-    loadValuesFromDB(*record, dbViewController().getSelectedPreset(u"Presets"_qs, name));
+    if (const auto values = dbViewController().getSelectedPreset(u"Presets"_qs, name))
+        loadValuesFromDB(*record, *values);
+    else
+        platform::log(u"The preset can't be read: "_qs + name);
 }
 
 void cPresetManager::closePresetsSheetObjC() { m_panels.wwPresetsWindow.sheet.close(); }

@@ -20,7 +20,8 @@ public:
 
     void registerActions(controls::ActionRegistry& actions);
 
-    // The actions. Adding, listing and applying return at once for a function without a record.
+    // The actions. Adding, listing and applying return at once for a function without a record. A
+    // preset that can't be read at the moment changes no control.
     void hAddPreset();
     void hLoadPreset();
     void hRemovePreset();

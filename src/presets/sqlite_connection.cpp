@@ -16,6 +16,7 @@ std::optional<Connection> Connection::open(const QString& path)
     Connection connection(handle);
     if (status != SQLITE_OK)
         return std::nullopt;
+    sqlite3_busy_timeout(handle, static_cast<int>(patience.count()));
     return connection;
 }
 
@@ -36,12 +37,27 @@ std::optional<Statement> Connection::prepare(const QString& text) const
     return statement;
 }
 
+bool Connection::failedByStatement() const
+{
+    return sqlite3_errcode(m_handle.get()) == SQLITE_ERROR;
+}
+
 QString Connection::errorMessage() const
 {
     return QString::fromUtf8(sqlite3_errmsg(m_handle.get()));
 }
 
-bool Statement::step() const { return sqlite3_step(m_handle.get()) == SQLITE_ROW; }
+Statement::Step Statement::step() const
+{
+    switch (sqlite3_step(m_handle.get())) {
+    case SQLITE_ROW:
+        return Step::Row;
+    case SQLITE_DONE:
+        return Step::Done;
+    default:
+        return Step::Failed;
+    }
+}
 
 int Statement::dataCount() const { return sqlite3_data_count(m_handle.get()); }
 

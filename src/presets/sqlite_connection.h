@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -14,10 +15,13 @@ namespace brenvaldo::presets {
 
 class Statement;
 
-/// An open SQLite file; closed with the object.
+/// An open SQLite file; closed with the object. What another process has locked is waited for.
 class Connection
 {
 public:
+    /// How long a connection made from now on waits for a lock.
+    static inline std::chrono::milliseconds patience{5000};
+
     /// Nothing when the file can't be opened. A file that does not exist is made.
     [[nodiscard]] static std::optional<Connection> open(const QString& path);
 
@@ -26,6 +30,9 @@ public:
 
     /// Compiles the first statement of `text`; nothing when that fails.
     [[nodiscard]] std::optional<Statement> prepare(const QString& text) const;
+
+    /// True when the last failure lies in the statement, not in the file or in a lock on it.
+    [[nodiscard]] bool failedByStatement() const;
 
     /// What the last failure was.
     [[nodiscard]] QString errorMessage() const;
@@ -48,8 +55,10 @@ private:
 class Statement
 {
 public:
-    /// True when a row is there to be read.
-    [[nodiscard]] bool step() const;
+    enum class Step { Row, Done, Failed };
+
+    /// Goes on to the next row.
+    [[nodiscard]] Step step() const;
 
     /// Columns of the present row.
     [[nodiscard]] int dataCount() const;

@@ -18,6 +18,7 @@
 using namespace brenvaldo;
 using presets::dbViewController;
 using presets::PresetRow;
+using presets::PresetValues;
 
 namespace {
 
@@ -46,6 +47,7 @@ QString field(const QString& name, int position)
 {
     return dbViewController()
         .getSelectedPreset(u"Presets"_qs, name)
+        .value_or(PresetValues())
         .value(presets::fieldName(position));
 }
 
@@ -127,7 +129,7 @@ TEST(PresetsFile, IsTakenAsItStandsWhenItExists)
     EXPECT_EQ(failureOf([] { insert(rowNamed(u"A"_qs)); }), u"Error updating table."_qs);
     EXPECT_FALSE(check(u"A"_qs));
     EXPECT_FALSE(listOf(u"TextWM"_qs));
-    EXPECT_TRUE(dbViewController().getSelectedPreset(u"Presets"_qs, u"A"_qs).isEmpty());
+    EXPECT_EQ(dbViewController().getSelectedPreset(u"Presets"_qs, u"A"_qs), PresetValues());
     EXPECT_EQ(
         dbViewController().removePresetFromDatabase(u"Presets"_qs, u"NameOfPreset"_qs, u"A"_qs),
         u"preset not found"_qs
@@ -201,7 +203,7 @@ TEST_F(NewPresets, GiveNothingForAProcessWithoutRows) { EXPECT_FALSE(listOf(u"Te
 
 TEST_F(NewPresets, GiveAnEmptyDictionaryForAnUnknownName)
 {
-    EXPECT_TRUE(dbViewController().getSelectedPreset(u"Presets"_qs, u"A"_qs).isEmpty());
+    EXPECT_EQ(dbViewController().getSelectedPreset(u"Presets"_qs, u"A"_qs), PresetValues());
 }
 
 TEST_F(NewPresets, MixTheRowsOfOneNameWithTheLastOnTop)
@@ -211,7 +213,8 @@ TEST_F(NewPresets, MixTheRowsOfOneNameWithTheLastOnTop)
     other[4] = u"last"_qs;
     insert(other);
 
-    const auto values = dbViewController().getSelectedPreset(u"Presets"_qs, u"A"_qs);
+    const auto values
+        = dbViewController().getSelectedPreset(u"Presets"_qs, u"A"_qs).value_or(PresetValues());
 
     EXPECT_EQ(values.value(u"Process"_qs), u"filters"_qs);
     EXPECT_EQ(values.value(u"StrField4"_qs), u"last"_qs);
@@ -248,7 +251,7 @@ TEST_F(NewPresets, StoreADoubledApostropheAsOne)
 
     EXPECT_EQ(m_file.rows("select NameOfPreset from Presets"), QStringList(u"it's"_qs));
     EXPECT_EQ(
-        dbViewController().getSelectedPreset(u"Presets"_qs, u"it''s"_qs).value(u"Process"_qs),
+        dbViewController().getSelectedPreset(u"Presets"_qs, u"it''s"_qs)->value(u"Process"_qs),
         u"TextWM"_qs
     );
 }
@@ -318,7 +321,7 @@ TEST_F(NewPresets, CannotBeWrittenWhileAnotherProgramHoldsTheFile)
         EXPECT_EQ(failureOf([] { insert(rowNamed(u"B"_qs)); }), u"Error updating table."_qs);
         EXPECT_FALSE(check(u"A"_qs));
         EXPECT_FALSE(listOf(u"TextWM"_qs));
-        EXPECT_TRUE(dbViewController().getSelectedPreset(u"Presets"_qs, u"A"_qs).isEmpty());
+        EXPECT_FALSE(dbViewController().getSelectedPreset(u"Presets"_qs, u"A"_qs));
     }
     insert(rowNamed(u"B"_qs));
 
@@ -369,7 +372,7 @@ TEST(PresetsFile, ThatCannotBeOpenedIsToldAtOnce)
     EXPECT_EQ(failureOf([] { insert(rowNamed(u"A"_qs)); }), u"Presets Db failed to open."_qs);
     EXPECT_FALSE(check(u"A"_qs));
     EXPECT_FALSE(listOf(u"TextWM"_qs));
-    EXPECT_TRUE(dbViewController().getSelectedPreset(u"Presets"_qs, u"A"_qs).isEmpty());
+    EXPECT_EQ(dbViewController().getSelectedPreset(u"Presets"_qs, u"A"_qs), PresetValues());
 }
 
 TEST_F(NewPresets, CannotTakeATableWhoseStatementIsBroken)

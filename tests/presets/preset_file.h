@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <presets/sqlite_connection.h>
+
 #include "support/environment.h"
 #include "support/temporary_folder.h"
 
@@ -39,13 +41,28 @@ public:
     };
     using Connection = std::unique_ptr<sqlite3, Close>;
 
-    /// Keeps the file locked against every other connection while the result lives.
-    [[nodiscard]] Connection locked() const
+    /// Keeps the file locked against every other connection, and those from waiting long, while the
+    /// result lives.
+    class Lock
     {
-        Connection connection = open();
-        sqlite3_exec(connection.get(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
-        return connection;
-    }
+    public:
+        explicit Lock(Connection connection)
+            : m_connection(std::move(connection))
+        {
+            sqlite3_exec(m_connection.get(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+            presets::Connection::patience = std::chrono::milliseconds(20);
+        }
+        Lock(const Lock&) = delete;
+        Lock& operator=(const Lock&) = delete;
+        Lock(Lock&&) = delete;
+        Lock& operator=(Lock&&) = delete;
+        ~Lock() { presets::Connection::patience = m_patience; }
+
+    private:
+        Connection m_connection;
+        std::chrono::milliseconds m_patience = presets::Connection::patience;
+    };
+    [[nodiscard]] Lock locked() const { return Lock(open()); }
 
 private:
     [[nodiscard]] Connection open() const

@@ -7,9 +7,24 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 using namespace brenvaldo;
 using controls::ActionRegistry;
 using test::PresetsBench;
+
+namespace {
+
+/// A picture for the second view.
+platform::Image picture()
+{
+    QImage pixels(3, 2, QImage::Format_RGB32);
+    pixels.fill(Qt::white);
+    return platform::Image::fromQImage(pixels);
+}
+
+} // namespace
 
 TEST(PresetManager, ListsWhatWasSaved)
 {
@@ -231,12 +246,99 @@ TEST(PresetManager, SwitchesTheSecondViewAndTheSimulationOffBeforeALoad)
 {
     PresetsBench bench;
     bench.save(u"A"_qs);
+    bench.panels.wwPresetsWindow.my2ndView.setImage(picture());
     bench.panels.vwWatermark.cbWMSimulationMode.setState(1);
 
     bench.apply(0);
 
     EXPECT_EQ(bench.panels.vwWatermark.cbWMSimulationMode.state(), 0);
     EXPECT_FALSE(bench.panels.wwPresetsWindow.my2ndView.image());
+}
+
+TEST(PresetManager, LeavesTheSecondViewWhenItLoadsAFilter)
+{
+    PresetsBench bench;
+    bench.function = u"filters"_qs;
+    bench.save(u"A"_qs);
+    bench.panels.wwPresetsWindow.my2ndView.setImage(picture());
+    bench.panels.vwWatermark.cbWMSimulationMode.setState(1);
+
+    bench.apply(0);
+
+    EXPECT_EQ(bench.panels.vwWatermark.cbWMSimulationMode.state(), 0);
+    EXPECT_TRUE(bench.panels.wwPresetsWindow.my2ndView.image());
+}
+
+TEST(PresetManager, ChangesNothingWhileTheFileIsLocked)
+{
+    PresetsBench bench;
+    bench.function = u"resizePhotos"_qs;
+    bench.save(u"A"_qs);
+    auto& size = bench.panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal;
+    size.setStringValue(u"1234"_qs);
+    bench.panels.vwWatermark.cbWMSimulationMode.setState(1);
+    const auto lock = bench.file.locked();
+
+    bench.apply(0);
+
+    EXPECT_EQ(size.stringValue(), u"1234"_qs);
+    EXPECT_EQ(bench.panels.vwWatermark.cbWMSimulationMode.state(), 1);
+}
+
+TEST(PresetManager, ChangesNothingWhenTheFileIsDamaged)
+{
+    PresetsBench bench;
+    bench.function = u"resizePhotos"_qs;
+    bench.save(u"A"_qs);
+    auto& size = bench.panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal;
+    size.setStringValue(u"1234"_qs);
+    (void)bench.file.folder().write(u"DravothCom/Brenvaldo9.sql"_qs, QByteArray(16384, 'x'));
+
+    bench.apply(0);
+
+    EXPECT_EQ(size.stringValue(), u"1234"_qs);
+}
+
+TEST(PresetManager, EmptiesTheControlsForANameThatNoStatementCanHold)
+{
+    PresetsBench bench;
+    bench.function = u"resizePhotos"_qs;
+    bench.save(u"it''s"_qs);
+    auto& size = bench.panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal;
+    size.setStringValue(u"1234"_qs);
+
+    bench.apply(0);
+
+    EXPECT_EQ(bench.listed(), QStringList(u"it's"_qs));
+    EXPECT_EQ(size.stringValue(), u""_qs);
+}
+
+TEST(PresetManager, LosesNoPresetThatAnotherProgramAddsToo)
+{
+    constexpr int each = 60;
+    const PresetsBench bench;
+    std::vector<pid_t> programs;
+    for (int program = 0; program < 3; ++program) {
+        programs.push_back(fork());
+        if (programs.back() != 0)
+            continue;
+        // A process of its own: locks are not seen within one.
+        for (int preset = 0; preset < each; ++preset) {
+            presets::PresetRow row;
+            row.fill(u"%1-%2"_qs.arg(program).arg(preset));
+            presets::dbViewController().insertSortingPresetToDB01(row);
+        }
+        _exit(0);
+    }
+
+    for (const pid_t program : programs) {
+        int status = -1;
+        waitpid(program, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_EQ(
+        bench.file.rows("select count(distinct NameOfPreset) from Presets"), QStringList(u"180"_qs)
+    );
 }
 
 TEST(PresetManager, KnowsItsFiveActions)

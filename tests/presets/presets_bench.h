@@ -57,6 +57,7 @@ struct PresetsBench
     {
         return presets::dbViewController()
             .getSelectedPreset(u"Presets"_qs, name)
+            .value_or(presets::PresetValues())
             .value(u"StrField%1"_qs.arg(position));
     }
 };
