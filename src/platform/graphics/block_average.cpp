@@ -129,7 +129,7 @@ private:
                .top = y * m_side,
                .width = area.width * m_side,
                .height = m_side};
-        if (vips_region_prepare(scratch.region, &blocks) != 0)
+        if (!prepare(scratch.region, blocks))
             return false;
         const int bands = m_pixels.bands();
         scratch.row.clear(static_cast<std::size_t>(blocks.width) * static_cast<std::size_t>(bands));
@@ -139,6 +139,15 @@ private:
             );
         scratch.row.average(m_side, bands, averages, area.width);
         return true;
+    }
+
+    /// Rows below the last blocks are in no average, but damage in them counts.
+    bool prepare(VipsRegion* region, VipsRect blocks) const
+    {
+        const int below = m_pixels.height() - VIPS_RECT_BOTTOM(&blocks);
+        if (below < m_side)
+            blocks.height += below;
+        return vips_region_prepare(region, &blocks) == 0;
     }
 
     vips::VImage m_pixels;

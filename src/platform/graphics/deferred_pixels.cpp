@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "deferred_pixels.h"
 
+#include "evaluation.h"
 #include "image_node.h"
 
 #include <mutex>
@@ -90,15 +91,6 @@ void setLayout(VipsImage* image, const PixelLayout& layout)
     );
 }
 
-using TakeRow = std::function<void(const uchar*, int)>;
-
-int takeRows(VipsRegion* region, VipsRect* area, void* take)
-{
-    for (int y = area->top; y < VIPS_RECT_BOTTOM(area); ++y)
-        (*static_cast<const TakeRow*>(take))(VIPS_REGION_ADDR(region, 0, y), y);
-    return 0;
-}
-
 } // namespace
 
 PixelLayout layoutOf(const vips::VImage& pixels)
@@ -121,13 +113,6 @@ vips::VImage newMemoryPixels(const PixelLayout& layout)
     return pixels;
 }
 
-void forEachRow(const vips::VImage& pixels, const TakeRow& take)
-{
-    TakeRow taker = take;
-    if (vips_sink_disc(pixels.get_image(), takeRows, &taker) != 0)
-        throw vips::VError();
-}
-
 vips::VImage deferredPixels(const PixelLayout& layout, std::function<vips::VImage()> produce)
 {
     auto deferred = std::make_unique<Deferred>(layout, std::move(produce));
@@ -146,7 +131,7 @@ vips::VImage randomAccess(const vips::VImage& pixels)
 {
     if (!isSequential(pixels))
         return pixels;
-    return deferredPixels(layoutOf(pixels), [pixels] { return pixels.copy_memory(); });
+    return deferredPixels(layoutOf(pixels), [pixels] { return copiedToMemory(pixels); });
 }
 
 } // namespace brenvaldo::platform

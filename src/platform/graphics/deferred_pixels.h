@@ -24,11 +24,6 @@ struct PixelLayout
 /// Pixels in memory, not set yet.
 [[nodiscard]] vips::VImage newMemoryPixels(const PixelLayout& layout);
 
-/// Computes `pixels` and hands over each row, from the top down, on one thread at a time.
-void forEachRow(
-    const vips::VImage& pixels, const std::function<void(const uchar* row, int y)>& take
-);
-
 /// Pixels that `produce` makes, once, when the first of them is needed; they can be read in any
 /// order.
 ///

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "color_profile.h"
-#include "deferred_pixels.h"
 #include "encoders.h"
+#include "evaluation.h"
 #include "exif_facts.h"
 #include "heif_handles.h"
 #include "memory_check.h"

@@ -2,6 +2,7 @@
 #include "image.h"
 
 #include "deferred_pixels.h"
+#include "evaluation.h"
 #include "image_node.h"
 
 #include <platform/foundation/log.h>
@@ -72,7 +73,7 @@ Image Image::flipped(Axis axis) const
 std::optional<Image> Image::copiedToMemory() const
 {
     try {
-        return makeImage(m_node->withPixels(m_node->pixels.copy_memory()));
+        return makeImage(m_node->withPixels(platform::copiedToMemory(m_node->pixels)));
     } catch (const vips::VError& error) {
         log(QStringLiteral("Failed to compute the pixels of an image: ") + faultText(error));
         return std::nullopt;

@@ -2,6 +2,7 @@
 #include "image_destination.h"
 
 #include "encoders.h"
+#include "evaluation.h"
 
 #include <platform/foundation/log.h>
 
@@ -42,8 +43,10 @@ bool encode(
     vips_error_clear();
     OutputFile file(path);
     try {
-        if (file.isWhole())
-            encodeAs(*image.node(), format, options, file);
+        evaluate(image.node()->pixels, [&](const vips::VImage& watched) {
+            if (file.isWhole())
+                encodeAs(image.node()->withPixels(watched), format, options, file);
+        });
         // What the encoders themselves say of refused bytes can't be trusted.
         if (!file.finish())
             throw vips::VError(file.fault().toStdString());

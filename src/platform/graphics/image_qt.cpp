@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "color_profile.h"
+#include "evaluation.h"
 #include "image.h"
 #include "image_node.h"
 #include "qt_pixels.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "color_profile.h"
 #include "deferred_pixels.h"
+#include "evaluation.h"
 #include "exif_facts.h"
 #include "photo_decoder.h"
 #include "photoshop_resources.h"
@@ -211,7 +212,7 @@ public:
         node.pixels = deferredPixels(layout, [path = m_path, format] {
             const MappedFile mapped(path);
             const PsdFile file = readPsdFile(mapped.bytes());
-            return colorsOf(file, storedSamples(file)).cast(format).copy_memory();
+            return copiedToMemory(colorsOf(file, storedSamples(file)).cast(format));
         });
         return node;
     }

@@ -2,7 +2,7 @@
 #include "stamp_layer.h"
 
 #include "color_profile.h"
-#include "deferred_pixels.h"
+#include "evaluation.h"
 
 #include <algorithm>
 #include <limits>

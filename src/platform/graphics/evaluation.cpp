@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "evaluation.h"
+
+#include <atomic>
+#include <memory>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+/// The last node of a pipeline.
+class WatchedPixels
+{
+public:
+    using Fault = std::shared_ptr<std::atomic<bool>>;
+
+    WatchedPixels(vips::VImage pixels, Fault fault)
+        : m_pixels(std::move(pixels))
+        , m_fault(std::move(fault))
+    {
+    }
+
+    static void* start(VipsImage* /*out*/, void* watched, void* /*unused*/)
+    {
+        return vips_region_new(self(watched)->m_pixels.get_image());
+    }
+
+    static int
+    generate(VipsRegion* out, void* source, void* watched, void* /*unused*/, gboolean* /*stop*/)
+    {
+        auto* region = static_cast<VipsRegion*>(source);
+        const VipsRect area = out->valid;
+        if (vips_region_prepare(region, &area) == 0
+            && vips_region_region(out, region, &area, area.left, area.top) == 0)
+            return 0;
+        *self(watched)->m_fault = true;
+        return -1;
+    }
+
+    static int stop(void* source, void* /*watched*/, void* /*unused*/)
+    {
+        g_object_unref(source);
+        return 0;
+    }
+
+    static void release(VipsImage* /*out*/, gpointer watched)
+    {
+        const std::unique_ptr<WatchedPixels> owned(self(watched));
+    }
+
+private:
+    static WatchedPixels* self(void* watched) { return static_cast<WatchedPixels*>(watched); }
+
+    vips::VImage m_pixels;
+    Fault m_fault;
+};
+
+vips::VImage watchedPixels(const vips::VImage& pixels, const WatchedPixels::Fault& fault)
+{
+    const vips::VImage out(vips_image_new());
+    VipsImage* image = out.get_image();
+    WatchedPixels* watched = std::make_unique<WatchedPixels>(pixels, fault).release();
+    g_signal_connect(image, "close", G_CALLBACK(&WatchedPixels::release), watched);
+    if (vips_image_pipelinev(image, VIPS_DEMAND_STYLE_ANY, pixels.get_image(), nullptr) != 0
+        || vips_image_generate(
+               image,
+               &WatchedPixels::start,
+               &WatchedPixels::generate,
+               &WatchedPixels::stop,
+               watched,
+               nullptr
+           ) != 0)
+        throw vips::VError();
+    return out;
+}
+
+using TakeRow = std::function<void(const unsigned char*, int)>;
+
+int takeRows(VipsRegion* region, VipsRect* area, void* take)
+{
+    for (int y = area->top; y < VIPS_RECT_BOTTOM(area); ++y)
+        (*static_cast<const TakeRow*>(take))(VIPS_REGION_ADDR(region, 0, y), y);
+    return 0;
+}
+
+} // namespace
+
+void evaluate(
+    const vips::VImage& pixels, const std::function<void(const vips::VImage& watched)>& sink
+)
+{
+    const auto fault = std::make_shared<std::atomic<bool>>(false);
+    sink(watchedPixels(pixels, fault));
+    if (*fault)
+        throw vips::VError("a part of the picture can't be computed");
+}
+
+vips::VImage copiedToMemory(const vips::VImage& pixels)
+{
+    vips::VImage copy;
+    evaluate(pixels, [&copy](const vips::VImage& watched) { copy = watched.copy_memory(); });
+    return copy;
+}
+
+void forEachRow(const vips::VImage& pixels, const TakeRow& take)
+{
+    TakeRow taker = take;
+    evaluate(pixels, [&taker](const vips::VImage& watched) {
+        if (vips_sink_disc(watched.get_image(), takeRows, &taker) != 0)
+            throw vips::VError();
+    });
+}
+
+} // namespace brenvaldo::platform
