@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "file_handling.h"
 
+#include <platform/containers/type_identifier.h>
 #include <platform/foundation/paths.h>
-#include <platform/graphics/type_identifier.h>
 
 namespace brenvaldo::files {
 

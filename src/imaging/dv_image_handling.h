@@ -4,9 +4,9 @@
 #include "output_tail.h"
 #include "result_word.h"
 
+#include <platform/containers/metadata_blocks.h>
 #include <platform/graphics/color.h>
 #include <platform/graphics/image.h>
-#include <platform/graphics/metadata_blocks.h>
 
 #include <QImage>
 #include <QString>

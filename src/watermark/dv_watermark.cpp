@@ -12,8 +12,9 @@
 #include <platform/foundation/paths.h>
 #include <platform/graphics/fonts.h>
 #include <platform/graphics/image_source.h>
-#include <platform/graphics/type_identifier.h>
 #include <platform/metadata/metadata_reader.h>
+
+#include <platform/containers/type_identifier.h>
 
 namespace brenvaldo::watermark {
 

@@ -7,7 +7,8 @@
 #include <platform/foundation/numbers.h>
 #include <platform/foundation/paths.h>
 #include <platform/graphics/image_source.h>
-#include <platform/graphics/type_identifier.h>
+
+#include <platform/containers/type_identifier.h>
 
 namespace brenvaldo::workspace {
 

@@ -2,7 +2,7 @@
 #include <imaging/dv_image_handling.h>
 #include <imaging/file_conversion.h>
 
-#include <platform/graphics/type_identifier.h>
+#include <platform/containers/type_identifier.h>
 #include <platform/metadata/metadata_reader.h>
 
 #include <support/case_name.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <imaging/dv_image_handling.h>
 
-#include <platform/graphics/type_identifier.h>
+#include <platform/containers/type_identifier.h>
 #include <platform/metadata/metadata_reader.h>
 
 #include <support/case_name.h>

@@ -2,7 +2,8 @@
 #include "exif_facts.h"
 #include "image_source.h"
 #include "photo_decoder.h"
-#include "type_identifier.h"
+
+#include <platform/containers/type_identifier.h>
 
 #include <QFile>
 #include <QTransform>

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "image.h"
-#include "metadata_blocks.h"
+
+#include <platform/containers/metadata_blocks.h>
 
 #include <QString>
 

@@ -3,8 +3,8 @@
 
 #include "deferred_pixels.h"
 #include "photo_decoder.h"
-#include "type_identifier.h"
 
+#include <platform/containers/type_identifier.h>
 #include <platform/foundation/log.h>
 
 #include <functional>

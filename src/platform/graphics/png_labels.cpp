@@ -3,7 +3,7 @@
 
 #include "image_node.h"
 
-#include <platform/foundation/inflate.h>
+#include <platform/containers/inflate.h>
 
 #include <QtEndian>
 

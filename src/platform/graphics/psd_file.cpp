@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "psd_file.h"
 
-#include "photoshop_resources.h"
-
-#include <platform/foundation/bytes.h>
+#include <platform/containers/bytes.h>
+#include <platform/containers/photoshop_resources.h>
 
 #include <vips/vips8>
 

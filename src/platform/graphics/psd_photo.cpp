@@ -4,11 +4,11 @@
 #include "evaluation.h"
 #include "exif_facts.h"
 #include "photo_decoder.h"
-#include "photoshop_resources.h"
 #include "psd_samples.h"
 
-#include <platform/foundation/bytes.h>
-#include <platform/foundation/mapped_file.h>
+#include <platform/containers/bytes.h>
+#include <platform/containers/mapped_file.h>
+#include <platform/containers/photoshop_resources.h>
 
 #include <QtEndian>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "psd_samples.h"
 
-#include <platform/foundation/bytes.h>
+#include <platform/containers/bytes.h>
 
 #include <vips/vips8>
 

@@ -2,10 +2,11 @@
 #include "container_properties.h"
 
 #include "exif_properties.h"
-#include "jpeg_segments.h"
-#include "png_chunks.h"
-#include "tiff_directory.h"
-#include <platform/foundation/bytes.h>
+
+#include <platform/containers/bytes.h>
+#include <platform/containers/jpeg_segments.h>
+#include <platform/containers/png_chunks.h>
+#include <platform/containers/tiff_directory.h>
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "property_dictionary.h"
-#include "tiff_directory.h"
+
+#include <platform/containers/tiff_directory.h>
 
 namespace brenvaldo::platform {
 

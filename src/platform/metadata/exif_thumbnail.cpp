@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "exif_thumbnail.h"
 
-#include "tiff_directory.h"
+#include <platform/containers/tiff_directory.h>
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
-#include <platform/foundation/bytes.h>
+
+#include <platform/containers/bytes.h>
 
 namespace brenvaldo::platform {
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
 #include "exif_root_fields.h"
-#include "iso_boxes.h"
 #include "tiff_blocks.h"
-#include <platform/foundation/bytes.h>
-#include <platform/graphics/photoshop_resources.h>
+
+#include <platform/containers/bytes.h>
+#include <platform/containers/iso_boxes.h>
+#include <platform/containers/photoshop_resources.h>
 
 #include <QHash>
 

@@ -2,7 +2,8 @@
 #include "icc_description.h"
 
 #include "exif_properties.h"
-#include <platform/foundation/bytes.h>
+
+#include <platform/containers/bytes.h>
 
 #include <QStringDecoder>
 

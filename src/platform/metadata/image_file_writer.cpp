@@ -6,10 +6,10 @@
 #include "iptc_to_xmp.h"
 #include "tiff_blocks.h"
 #include "xmp_packet.h"
-#include <platform/foundation/log.h>
-#include <platform/foundation/mapped_file.h>
-#include <platform/foundation/output_file.h>
 
+#include <platform/containers/mapped_file.h>
+#include <platform/foundation/log.h>
+#include <platform/foundation/output_file.h>
 #include <platform/graphics/exif_facts.h>
 #include <platform/storage/atomic_file.h>
 

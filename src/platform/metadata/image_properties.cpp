@@ -8,8 +8,8 @@
 #include "metadata_reader.h"
 #include "xmp_packet.h"
 #include "xmp_values.h"
-#include <platform/foundation/mapped_file.h>
 
+#include <platform/containers/mapped_file.h>
 #include <platform/graphics/image_source.h>
 
 #include <array>

@@ -3,7 +3,8 @@
 
 #include "exif_properties.h"
 #include "xmp_values.h"
-#include <platform/foundation/bytes.h>
+
+#include <platform/containers/bytes.h>
 
 #include <QHash>
 #include <QRegularExpression>

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
-#include "jpeg_segments.h"
-#include <platform/graphics/photoshop_resources.h>
+
+#include <platform/containers/jpeg_segments.h>
+#include <platform/containers/photoshop_resources.h>
 
 #include <algorithm>
 #include <array>

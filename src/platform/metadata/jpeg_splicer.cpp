@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_splicers.h"
-#include "jpeg_segments.h"
 #include "xmp_packet.h"
-#include <platform/foundation/bytes.h>
-#include <platform/graphics/photoshop_resources.h>
+
+#include <platform/containers/bytes.h>
+#include <platform/containers/jpeg_segments.h>
+#include <platform/containers/photoshop_resources.h>
 
 namespace brenvaldo::platform {
 

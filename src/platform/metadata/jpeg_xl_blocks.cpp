@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
-#include "iso_boxes.h"
+
+#include <platform/containers/iso_boxes.h>
 
 namespace brenvaldo::platform {
 

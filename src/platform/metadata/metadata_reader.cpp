@@ -2,9 +2,9 @@
 #include "metadata_reader.h"
 
 #include "block_readers.h"
-#include <platform/foundation/mapped_file.h>
 
-#include <platform/graphics/type_identifier.h>
+#include <platform/containers/mapped_file.h>
+#include <platform/containers/type_identifier.h>
 
 #include <array>
 

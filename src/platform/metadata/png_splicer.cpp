@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_splicers.h"
-#include "png_chunks.h"
-#include "tiff_directory.h"
 #include "xmp_packet.h"
-#include <platform/foundation/bytes.h>
-#include <platform/graphics/photoshop_resources.h>
+
+#include <platform/containers/bytes.h>
+#include <platform/containers/photoshop_resources.h>
+#include <platform/containers/png_chunks.h>
+#include <platform/containers/tiff_directory.h>
 
 #include <algorithm>
 

@@ -4,7 +4,8 @@
 #include "block_readers.h"
 #include "exif_directories.h"
 #include "exif_thumbnail.h"
-#include <platform/graphics/photoshop_resources.h>
+
+#include <platform/containers/photoshop_resources.h>
 
 #include <algorithm>
 

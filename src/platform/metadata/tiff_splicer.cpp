@@ -4,7 +4,8 @@
 #include "exif_thumbnail.h"
 #include "tiff_blocks.h"
 #include "xmp_packet.h"
-#include <platform/graphics/photoshop_resources.h>
+
+#include <platform/containers/photoshop_resources.h>
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
-#include "jpeg_segments.h"
-#include <platform/foundation/bytes.h>
+
+#include <platform/containers/bytes.h>
+#include <platform/containers/jpeg_segments.h>
 
 namespace brenvaldo::platform {
 

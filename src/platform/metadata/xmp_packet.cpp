@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "xmp_packet.h"
 
-#include "jpeg_segments.h"
-#include <platform/foundation/bytes.h>
+#include <platform/containers/bytes.h>
+#include <platform/containers/jpeg_segments.h>
 
 #include <QCryptographicHash>
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_builder.h"
 
-#include <platform/metadata/jpeg_segments.h>
+#include <platform/containers/jpeg_segments.h>
+
 #include <support/exif_block.h>
 #include <support/iptc_block.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <platform/graphics/metadata_blocks.h>
+#include <platform/containers/metadata_blocks.h>
 
 #include <QByteArray>
 

@@ -2,11 +2,11 @@
 #include "block_builder.h"
 #include "container_builder.h"
 
-#include <platform/foundation/inflate.h>
+#include <platform/containers/inflate.h>
+#include <platform/containers/jpeg_segments.h>
+#include <platform/containers/png_chunks.h>
 #include <platform/metadata/block_readers.h>
 #include <platform/metadata/exif_directories.h>
-#include <platform/metadata/jpeg_segments.h>
-#include <platform/metadata/png_chunks.h>
 #include <support/case_name.h>
 #include <support/exif_block.h>
 #include <support/iptc_block.h>

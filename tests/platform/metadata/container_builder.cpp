@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "container_builder.h"
 
-#include <platform/foundation/bytes.h>
-#include <platform/metadata/png_chunks.h>
+#include <platform/containers/bytes.h>
+#include <platform/containers/png_chunks.h>
 
 namespace brenvaldo::test {
 

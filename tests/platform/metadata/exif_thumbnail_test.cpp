@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_builder.h"
 
-#include <platform/graphics/photoshop_resources.h>
+#include <platform/containers/photoshop_resources.h>
 #include <platform/metadata/block_readers.h>
 #include <platform/metadata/block_splicers.h>
 #include <platform/metadata/exif_directories.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "iso_boxes.h"
 
-#include <platform/foundation/bytes.h>
+#include "bytes.h"
 
 namespace brenvaldo::platform {
 

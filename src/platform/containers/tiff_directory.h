@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <platform/foundation/bytes.h>
+#include "bytes.h"
 
 #include <QByteArray>
 #include <QList>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <platform/graphics/type_identifier.h>
+#include <platform/containers/type_identifier.h>
 
 #include <support/case_name.h>
 #include <support/photo_builder.h>

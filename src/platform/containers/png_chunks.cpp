@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "png_chunks.h"
 
-#include <platform/foundation/bytes.h>
-
-#include <platform/foundation/inflate.h>
+#include "bytes.h"
+#include "inflate.h"
 
 namespace brenvaldo::platform {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photoshop_resources.h"
 
-#include <platform/foundation/bytes.h>
+#include "bytes.h"
 
 #include <algorithm>
 #include <array>
