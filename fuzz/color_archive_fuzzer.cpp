@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <platform/foundation/color_archive.h>
+#include <platform/archives/color_archive.h>
 
 #include <cstdlib>
 

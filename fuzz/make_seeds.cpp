@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Writes the seeds of the fuzz targets that read binary data: make_seeds FOLDER.
 
-#include <platform/foundation/bookmark.h>
-#include <platform/foundation/color_archive.h>
+#include <platform/archives/bookmark.h>
+#include <platform/archives/color_archive.h>
 #include <platform/graphics/engine.h>
 
 #include <support/exif_block.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bookmarks.h"
 
-#include <platform/foundation/bookmark.h>
+#include <platform/archives/bookmark.h>
 
 namespace brenvaldo::presets {
 

@@ -3,7 +3,7 @@
 
 #include "bookmarks.h"
 
-#include <platform/foundation/color_archive.h>
+#include <platform/archives/color_archive.h>
 #include <platform/foundation/numbers.h>
 #include <platform/graphics/image_source.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <platform/foundation/bookmark.h>
+#include <platform/archives/bookmark.h>
 
 #include "support/temporary_folder.h"
 #include "support/text_printing.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <platform/foundation/color_archive.h>
+#include <platform/archives/color_archive.h>
 
 #include <ostream>
 #include <string>
