@@ -17,13 +17,10 @@ std::string ArchiveReader::text(std::uint64_t length)
 std::uint64_t ArchiveReader::number(std::uint64_t size, ByteOrder order)
 {
     refuseUnless(size >= 1 && size <= 8);
-    std::uint64_t value = 0;
-    for (std::uint64_t index = 0; index < size; ++index) {
-        const std::uint64_t next = byte();
-        value
-            = order == ByteOrder::BigEndian ? (value << 8U) | next : value | (next << (8U * index));
-    }
-    return value;
+    const auto value = unsignedAt(m_data, 0, static_cast<int>(size), order);
+    refuseUnless(value.has_value());
+    m_data = m_data.sliced(static_cast<qsizetype>(size));
+    return *value;
 }
 
 } // namespace brenvaldo::platform

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <platform/containers/bytes.h>
+
 #include <QByteArrayView>
 
 #include <cstdint>
@@ -19,8 +21,6 @@ inline void refuseUnless(bool sound)
     if (!sound)
         throw DamagedArchive();
 }
-
-enum class ByteOrder { LittleEndian, BigEndian };
 
 /// Takes bytes off the front of `data`; raises `DamagedArchive` instead of reading past the end.
 class ArchiveReader

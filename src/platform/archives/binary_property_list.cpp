@@ -42,7 +42,7 @@ Marker marker(ArchiveReader& reader)
 std::int64_t integer(ArchiveReader& reader, std::uint8_t exponent)
 {
     refuseUnless(exponent <= 3);
-    return static_cast<std::int64_t>(reader.number(1ULL << exponent, ByteOrder::BigEndian));
+    return static_cast<std::int64_t>(reader.number(1ULL << exponent, ByteOrder::Big));
 }
 
 /// The number of elements of a text or container of that kind.
@@ -61,10 +61,8 @@ double real(ArchiveReader& reader, std::uint8_t exponent)
 {
     refuseUnless(exponent == 2 || exponent == 3);
     if (exponent == 2)
-        return std::bit_cast<float>(
-            static_cast<std::uint32_t>(reader.number(4, ByteOrder::BigEndian))
-        );
-    return std::bit_cast<double>(reader.number(8, ByteOrder::BigEndian));
+        return std::bit_cast<float>(static_cast<std::uint32_t>(reader.number(4, ByteOrder::Big)));
+    return std::bit_cast<double>(reader.number(8, ByteOrder::Big));
 }
 
 } // namespace
@@ -78,15 +76,15 @@ BinaryPropertyList::BinaryPropertyList(QByteArrayView data)
     (void)trailer.text(6);
     const std::uint64_t offsetSize = trailer.byte();
     m_referenceSize = trailer.byte();
-    const std::uint64_t count = trailer.number(8, ByteOrder::BigEndian);
-    m_top = trailer.number(8, ByteOrder::BigEndian);
-    const std::uint64_t table = trailer.number(8, ByteOrder::BigEndian);
+    const std::uint64_t count = trailer.number(8, ByteOrder::Big);
+    m_top = trailer.number(8, ByteOrder::Big);
+    const std::uint64_t table = trailer.number(8, ByteOrder::Big);
 
     const auto size = static_cast<std::uint64_t>(m_objects.size());
     refuseUnless(count >= 1 && count <= mostEntries && table <= size);
     ArchiveReader offsets(m_objects.sliced(static_cast<qsizetype>(table)));
     for (std::uint64_t entry = 0; entry < count; ++entry)
-        m_offsets.push_back(offsets.number(offsetSize, ByteOrder::BigEndian));
+        m_offsets.push_back(offsets.number(offsetSize, ByteOrder::Big));
 }
 
 ArchiveReader BinaryPropertyList::reader(Reference entry) const
@@ -103,7 +101,7 @@ BinaryPropertyList::references(std::uint64_t count, ArchiveReader& from) const
     refuseUnless(count <= mostEntries);
     std::vector<Reference> found;
     for (std::uint64_t index = 0; index < count; ++index)
-        found.push_back(from.number(m_referenceSize, ByteOrder::BigEndian));
+        found.push_back(from.number(m_referenceSize, ByteOrder::Big));
     return found;
 }
 
@@ -119,7 +117,7 @@ std::uint64_t BinaryPropertyList::uid(Reference entry) const
     ArchiveReader from = reader(entry);
     const Marker head = marker(from);
     refuseUnless(head.kind == uidKind);
-    return from.number(head.size + 1U, ByteOrder::BigEndian);
+    return from.number(head.size + 1U, ByteOrder::Big);
 }
 
 double BinaryPropertyList::number(Reference entry) const

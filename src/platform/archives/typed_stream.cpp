@@ -293,8 +293,7 @@ ColorComponents componentsOfTypedStream(QByteArrayView stream)
         QByteArrayView(littleEndianSignature.data(), littleEndianSignature.size())
     );
     const auto body = stream.sliced(littleEndianSignature.size());
-    return TypedStreamReader(body, littleEndian ? ByteOrder::LittleEndian : ByteOrder::BigEndian)
-        .colorArray();
+    return TypedStreamReader(body, littleEndian ? ByteOrder::Little : ByteOrder::Big).colorArray();
 }
 
 bool isTypedStream(QByteArrayView data)
