@@ -28,9 +28,15 @@ QStringList textsOf(const Exiv2::Xmpdatum& datum)
     const Exiv2::Value& value = datum.value();
     if (const auto* alternatives = dynamic_cast<const Exiv2::LangAltValue*>(&value))
         return {defaultText(*alternatives)};
+    // Only an array counts its elements: a single value counts its bytes.
+    const auto* array = dynamic_cast<const Exiv2::XmpArrayValue*>(&value);
+    if (!array) {
+        const QString single = textOf(value.toString(0));
+        return single.isEmpty() ? QStringList() : QStringList(single);
+    }
     QStringList texts;
-    for (long i = 0; i < value.count(); ++i)
-        texts.append(textOf(value.toString(i)));
+    for (long i = 0; i < array->count(); ++i)
+        texts.append(textOf(array->toString(i)));
     return texts;
 }
 

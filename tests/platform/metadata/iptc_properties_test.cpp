@@ -149,6 +149,39 @@ TEST(IptcProperties, ShowsTheArtistAsAByline)
     );
 }
 
+TEST(IptcProperties, ShowsTheCreatorsTitleOfXmpOnce)
+{
+    const PropertyDictionary iptc
+        = fromXmp("<photoshop:AuthorsPosition>Editor</photoshop:AuthorsPosition>");
+
+    EXPECT_EQ(iptc.text(text("BylineTitle")), text("(\n    Editor\n)"));
+}
+
+TEST(XmpValues, HoldALongTextOnce)
+{
+    const QByteArray letters(5000, 'a');
+    const XmpValues values(packetOf(
+        "<photoshop:Credit>" + letters + "</photoshop:Credit><photoshop:City></photoshop:City>"
+    ));
+
+    const QStringList texts = values.texts("Xmp.photoshop.Credit");
+
+    ASSERT_EQ(texts.size(), 1);
+    EXPECT_EQ(texts.first().size(), 5000);
+    EXPECT_EQ(values.texts("Xmp.photoshop.City"), QStringList());
+}
+
+TEST(XmpValues, HoldEachElementOfAnArray)
+{
+    const XmpValues values(packetOf(
+        "<dc:creator><rdf:Seq><rdf:li>Jane</rdf:li><rdf:li>Joe</rdf:li></rdf:Seq></dc:creator>"
+        "<dc:subject><rdf:Bag/></dc:subject>"
+    ));
+
+    EXPECT_EQ(values.texts("Xmp.dc.creator"), QStringList({text("Jane"), text("Joe")}));
+    EXPECT_EQ(values.texts("Xmp.dc.subject"), QStringList());
+}
+
 TEST(XmpValues, AreNoneInADamagedPacket)
 {
     EXPECT_TRUE(
