@@ -64,6 +64,8 @@ bool SingleInstance::listen()
     return m_server.listen(m_path);
 }
 
+void SingleInstance::stopListening() { m_server.close(); }
+
 void SingleInstance::take()
 {
     QLocalSocket* socket = m_server.nextPendingConnection();
@@ -80,8 +82,17 @@ void SingleInstance::take()
             return;
         socket->write("taken");
         socket->flush();
-        filesArrived(files);
+        tellLater(files);
     });
+}
+
+/// The observers deliver events, in which a sender that has hung up takes its socket along: the
+/// slot of the socket must be left by then.
+void SingleInstance::tellLater(const QStringList& files)
+{
+    QMetaObject::invokeMethod(
+        &m_server, [this, files] { filesArrived(files); }, Qt::QueuedConnection
+    );
 }
 
 } // namespace brenvaldo::app

@@ -21,11 +21,15 @@ public:
     /// Takes the files of later starts; a socket that a crashed program left behind is replaced.
     bool listen();
 
+    /// Lets later starts open a window of their own.
+    void stopListening();
+
     /// Absolute paths, maybe none: the second start wants at least the window.
     platform::Signal<const QStringList&> filesArrived;
 
 private:
     void take();
+    void tellLater(const QStringList& files);
 
     QString m_path;
     QLocalServer m_server;

@@ -6,9 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDataStream>
 #include <QElapsedTimer>
+#include <QLocalSocket>
 
 #include <atomic>
+#include <functional>
 #include <thread>
 
 using namespace brenvaldo;
@@ -23,12 +26,18 @@ protected:
     {
         std::optional<bool> answer;
         std::thread second([&] { answer = app::SingleInstance(path).handOver(files); });
-        QElapsedTimer clock;
-        clock.start();
-        while (!answer && clock.elapsed() < 5000)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        deliverEventsUntil([&] { return answer.has_value(); });
         second.join();
         return answer.value_or(false);
+    }
+
+    /// Gives up after some seconds.
+    static void deliverEventsUntil(const std::function<bool()>& isDone)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        while (!isDone() && clock.elapsed() < 5000)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     }
 
     test::TemporaryFolder folder;
@@ -51,8 +60,44 @@ TEST_F(SingleInstance, GivesTheFilesOfASecondStartToTheFirst)
         = first.filesArrived.connect([&](const auto& files) { arrived = files; });
 
     EXPECT_TRUE(handOverFromSecondStart({u"/a/b c.jpg"_qs, u"/d/\u00e4.png"_qs}));
+    deliverEventsUntil([&] { return !arrived.isEmpty(); });
 
     EXPECT_EQ(arrived, (QStringList{u"/a/b c.jpg"_qs, u"/d/\u00e4.png"_qs}));
+}
+
+TEST_F(SingleInstance, OutlivesASecondStartThatHangsUpAtOnce)
+{
+    app::SingleInstance first(path);
+    ASSERT_TRUE(first.listen());
+    QStringList arrived;
+    const auto subscription = first.filesArrived.connect([&](const auto& files) {
+        // As the filling of the list does, until the hung up socket is gone.
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+        arrived = files;
+    });
+
+    QLocalSocket second;
+    second.connectToServer(path);
+    ASSERT_TRUE(second.waitForConnected());
+    QDataStream stream(&second);
+    stream.setVersion(QDataStream::Qt_6_4);
+    stream << QStringList{u"/a.jpg"_qs};
+    second.flush();
+    second.abort();
+    deliverEventsUntil([&] { return !arrived.isEmpty(); });
+
+    EXPECT_EQ(arrived, QStringList{u"/a.jpg"_qs});
+}
+
+TEST_F(SingleInstance, LetsLaterStartsOpenAWindowOfTheirOwnOnceItHasStoppedListening)
+{
+    app::SingleInstance first(path);
+    ASSERT_TRUE(first.listen());
+
+    first.stopListening();
+
+    EXPECT_FALSE(app::SingleInstance(path).handOver({}));
+    EXPECT_TRUE(app::SingleInstance(path).listen());
 }
 
 TEST_F(SingleInstance, WaitsForAProgramThatIsBusy)
