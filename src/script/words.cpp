@@ -120,7 +120,8 @@ private:
 
 Words wordsOfLine(QByteArrayView line)
 {
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    // Without a state, so that a sequence that the line's end cuts off is a fault.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder(line);
     if (decoder.hasError())
         return {.fault = QStringLiteral("the line is not UTF-8")};

@@ -92,7 +92,9 @@ INSTANTIATE_TEST_SUITE_P(
         FaultyLine{"BackslashAtTheEnd", "\"a\\", u"a quote is not closed"_qs},
         FaultyLine{"UnknownEscape", R"("\x")", u"unknown escape \\x"_qs},
         FaultyLine{"WordsGluedToQuotes", "\"a\"b", u"a blank is missing after a quoted word"_qs},
-        FaultyLine{"InvalidUtf8", "set tf \xFF", u"the line is not UTF-8"_qs}
+        FaultyLine{"InvalidUtf8", "set tf \xFF", u"the line is not UTF-8"_qs},
+        FaultyLine{"UnfinishedUtf8", "set tf Andr\xE9", u"the line is not UTF-8"_qs},
+        FaultyLine{"UnfinishedLongUtf8", "set tf a\xF0\x9F\x98", u"the line is not UTF-8"_qs}
     ),
     nameOfRow
 );
