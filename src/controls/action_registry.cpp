@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "action_registry.h"
 
+#include <platform/foundation/handled_exception.h>
 #include <platform/foundation/log.h>
 
 namespace brenvaldo::controls {
@@ -33,7 +34,8 @@ ActionRegistry::Sent ActionRegistry::send(const QString& name, const Sender& sen
     try {
         (*found.first())(sender);
         return Sent::Done;
-    } catch (const platform::Exception& exception) {
+    } catch (...) {
+        const platform::Exception exception = platform::handledException();
         platform::log(name + QStringLiteral(": ") + exception.reason());
         exceptionRaised(exception);
         return Sent::Raised;

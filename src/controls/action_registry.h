@@ -23,8 +23,8 @@ struct Sender
 
 /// All actions of the program by class and name, such as "cGUIcontrols.hLoadImages".
 ///
-/// An action is the border of failures: an exception raised in it is logged with its reason, told
-/// to the observers of `exceptionRaised`, and ends the action only.
+/// An action is the border of failures: an exception raised in it, of whatever type, is logged with
+/// its reason, told to the observers of `exceptionRaised`, and ends the action only.
 class ActionRegistry
 {
 public:

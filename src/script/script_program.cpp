@@ -3,6 +3,7 @@
 
 #include "words.h"
 
+#include <platform/foundation/handled_exception.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/run_loop.h>
 
@@ -67,7 +68,8 @@ Misunderstanding ScriptProgram::carryOut(QByteArrayView line)
         const Misunderstanding misunderstanding = m_commands.run(found.words);
         platform::pumpEvents(longestPause);
         return misunderstanding;
-    } catch (const platform::Exception& exception) {
+    } catch (...) {
+        const platform::Exception exception = platform::handledException();
         platform::log(found.words.first() + QStringLiteral(": ") + exception.reason());
         m_watcher.report(exception);
         return std::nullopt;
