@@ -829,3 +829,213 @@ TEST_F(BatchDriver, TellsAllPathsOfTheList)
         guiControls.hGetPhotosFromArrayController(), (QStringList{u"/in/a.jpg"_qs, u"/in/b.txt"_qs})
     );
 }
+
+TEST_F(BatchDriver, TakesPhotosOfTheHiddenFilterForChangesInPlace)
+{
+    addPhotos({u"wide.jpg"_qs, u"unticked.jpg"_qs});
+    addPhotos({u"tall.jpg"_qs}, u"P"_qs);
+    photos.append(nonPhoto(u"/in/notes.txt"_qs));
+    photos.setTick(1, 0);
+    panels.vwApplyOn.pubPhotoOrientation.selectIndex(1);
+    QStringList taken;
+    subsystems.operations.uploadToPhotos = [&](const workspace::PhotoUpload& upload) {
+        taken.append(u"upload "_qs + upload.path);
+        return u"OK"_qs;
+    };
+    subsystems.operations.hSetExifData = [&](const QString& path, const QString&, int) {
+        taken.append(u"comment "_qs + path);
+        return u"OK"_qs;
+    };
+
+    for (const char* function : {"batchUploadPhotos", "batchExifUC"}) {
+        select(function);
+        run();
+    }
+
+    EXPECT_EQ(taken, (QStringList{u"upload /in/wide.jpg"_qs, u"comment /in/wide.jpg"_qs}));
+}
+
+TEST_F(BatchDriver, MovesTheBarOfEveryRunByWholeThousandths)
+{
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    const auto seesBar = [this](const auto&...) {
+        bar.append(panels.window.myProgressBar.doubleValue());
+        return u"OK"_qs;
+    };
+    subsystems.operations.uploadToPhotos = seesBar;
+    subsystems.operations.hSetExifData = seesBar;
+    subsystems.operations.hGetRenamePropertyValues = seesBar;
+    subsystems.operations.hConvertFileType = seesBar;
+
+    for (const char* function :
+         {"batchUploadPhotos", "batchExifUC", "fileRenaming", "batchFileConvert"}) {
+        bar.clear();
+        select(function);
+        run();
+        EXPECT_EQ(bar, (QList<double>{333, 666, 999})) << function;
+        EXPECT_TRUE(panels.window.myProgressBar.isHidden()) << function;
+    }
+}
+
+TEST_F(BatchDriver, ReadsTheArgumentsOfAChangeInPlaceBeforeTheBarGoesUp)
+{
+    addPhotos({u"a.jpg"_qs});
+    panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"before"_qs);
+    panels.vwFileManagementSorting.tfAddTitle.setStringValue(u"before"_qs);
+    const auto subscription = panels.window.myProgressBar.changed.connect([this] {
+        if (panels.window.myProgressBar.doubleValue() == 0)
+            return;
+        panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"after"_qs);
+        panels.vwFileManagementSorting.tfAddTitle.setStringValue(u"after"_qs);
+    });
+    QStringList read;
+    subsystems.operations.uploadToPhotos = [&](const workspace::PhotoUpload& upload) {
+        read.append(upload.title);
+        return u"OK"_qs;
+    };
+    subsystems.operations.hSetExifData = [&](const QString&, const QString& comment, int) {
+        read.append(comment);
+        return u"OK"_qs;
+    };
+
+    select("batchExifUC");
+    run();
+    panels.vwFileManagementSorting.tfAddTitle.setStringValue(u"before"_qs);
+    select("batchUploadPhotos");
+    run();
+
+    EXPECT_EQ(read, (QStringList{u"before"_qs, u"before"_qs}));
+}
+
+TEST_F(BatchDriver, EndsARunOfAnIndexBeyondThePopUp)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    panels.window.pubEditPhoto.setTitles(
+        panels.window.pubEditPhoto.titles() + QStringList(u"Eleventh"_qs)
+    );
+    panels.window.pubEditPhoto.selectIndex(10);
+    run();
+
+    EXPECT_TRUE(alerts.isEmpty());
+    EXPECT_TRUE(bases.isEmpty());
+    EXPECT_TRUE(journal.records().isEmpty());
+}
+
+TEST_F(BatchDriver, AddsToAChainWithoutAPath)
+{
+    QList<workspace::RenameRequest> requests;
+    subsystems.operations.hGetRenamePropertyValues = [&](const workspace::RenameRequest& request) {
+        requests.append(request);
+        return u"OK"_qs;
+    };
+
+    actions.send(u"hCalledCActionFunc"_qs);
+
+    ASSERT_EQ(requests.size(), 1);
+    EXPECT_EQ(requests.first().path, QString());
+    EXPECT_EQ(requests.first().function, u"CActionFunction"_qs);
+    EXPECT_EQ(requests.first().previewState, 0);
+    EXPECT_EQ(requests.first().index, 0);
+    EXPECT_TRUE(journal.records().isEmpty());
+}
+
+TEST_F(BatchDriver, AsksTheChainForANameWithPathAndName)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    panels.vwWatermark.cActionsTWMArrayController.addObject({u"Prefix"_qs, u"x"_qs});
+    QList<QStringList> asked;
+    subsystems.operations.hRenameTWMFile
+        = [&](const QString& path, const QString& name, const QList<QStringList>& chain) {
+              asked.append({path, name, chain.first().join(u'+')});
+              return name;
+          };
+
+    run();
+
+    EXPECT_EQ(
+        asked, QList<QStringList>{(QStringList{u"/in/a.jpg"_qs, u"a.jpg"_qs, u"Prefix+x"_qs})}
+    );
+}
+
+TEST_F(BatchDriver, RunsAgainInsideOfARun)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    panels.vwShowPreview.cbShowPreview.setState(1);
+    QStringList order;
+    subsystems.operations.hScalePhotosPercentage
+        = [&](const imaging::SourceAndBase& photo, int, int, const auto&) {
+              order.append(photo.destinationBase);
+              if (order.size() == 1)
+                  run();
+              return u"OK"_qs;
+          };
+
+    run();
+
+    EXPECT_EQ(order, (QStringList{u"/out/a"_qs, u"/out/a"_qs, u"/out/b"_qs, u"/out/b"_qs}));
+    EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
+    EXPECT_TRUE(panels.window.myProgressBar.isHidden());
+}
+
+TEST_F(BatchDriver, ReadsEveryTypeOfAMaximum)
+{
+    selectResize();
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    for (const int type : {0, 1, 3}) {
+        panels.vwResizePhotos.dvVCUiScaleMaxView.pubScaleMaxType.selectIndex(type);
+        run();
+    }
+
+    EXPECT_EQ(values, (QList<QList<int>>{{100, 0}, {100, 1}, {100, 3}}));
+}
+
+TEST_F(BatchDriver, ReadsTheChoicesOfACrop)
+{
+    select("cropPhotos");
+    panels.window.pubEditPhoto.selectIndex(9);
+    chooseDestination();
+    addPhotos({u"missing.jpg"_qs});
+    panels.vwCropPhotos.dvVCUiCropPositionView.scCropPosition.setSelectedSegment(7);
+    panels.vwCropPhotos.pubCropType.selectIndex(1);
+    workspace::CropSettings crop;
+    subsystems.operations.hCropPhotos
+        = [&](const auto&, const workspace::CropSettings& settings, const auto&) {
+              crop = settings;
+              return u"OK"_qs;
+          };
+
+    run();
+
+    EXPECT_EQ(crop.size, (platform::PixelSize{0, 0}));
+    EXPECT_EQ(crop.anchor, 7);
+    EXPECT_EQ(crop.cropType, u"%"_qs);
+}
+
+TEST_F(BatchDriver, ReadsTheSizeModeOfATint)
+{
+    select("addTint");
+    panels.window.pubEditPhoto.selectIndex(1);
+    chooseDestination();
+    addPhotos({u"a.jpg"_qs});
+    QStringList modes;
+    subsystems.operations.addTintToImage2
+        = [&](const auto&, const workspace::TintSettings& settings, const auto&) {
+              modes.append(settings.sizeMode);
+              return u"OK"_qs;
+          };
+
+    for (const int tab : {0, 1}) {
+        panels.vwAddTint.tbvFrameType.selectIndex(tab);
+        run();
+    }
+
+    EXPECT_EQ(modes, (QStringList{u"W x H"_qs, u"%"_qs}));
+}
