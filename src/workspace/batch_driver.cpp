@@ -5,6 +5,7 @@
 #include "preview_switch.h"
 #include "selected_function.h"
 
+#include <files/keep_number.h>
 #include <platform/storage/hidden_file.h>
 
 namespace brenvaldo::workspace {
@@ -13,7 +14,7 @@ void cGUIcontrols::hLoadImages()
 {
     const PreviewSwitchedOff preview(m_panels.vwShowPreview.cbShowPreview);
     const QString function = cSelectedFunction::sharedModel().myString.value_or(QString());
-    cKeepNumber::sharedNumber().myNumberString = u"0"_qs;
+    files::cKeepNumber::sharedNumber().myNumberString = u"0"_qs;
     const QString destination = m_panels.vwMainDestination.tfImageDestinationFolder.stringValue();
     platform::removeAbandonedFiles(destination);
     if (function == functionId::manSort)

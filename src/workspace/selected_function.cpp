@@ -9,10 +9,4 @@ cSelectedFunction& cSelectedFunction::sharedModel()
     return model;
 }
 
-cKeepNumber& cKeepNumber::sharedNumber()
-{
-    static cKeepNumber number;
-    return number;
-}
-
 } // namespace brenvaldo::workspace

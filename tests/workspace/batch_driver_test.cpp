@@ -3,6 +3,7 @@
 
 #include <workspace/batch_rules.h>
 
+#include <files/keep_number.h>
 #include <platform/foundation/log.h>
 
 #include <support/case_name.h>
@@ -235,11 +236,11 @@ TEST_F(BatchDriver, SkipsTickedEntriesThatAreNoPhotos)
 
 TEST_F(BatchDriver, StartsTheNumberingAfresh)
 {
-    workspace::cKeepNumber::sharedNumber().myNumberString = u"17"_qs;
+    files::cKeepNumber::sharedNumber().myNumberString = u"17"_qs;
 
     run();
 
-    EXPECT_EQ(workspace::cKeepNumber::sharedNumber().myNumberString, u"0"_qs);
+    EXPECT_EQ(files::cKeepNumber::sharedNumber().myNumberString, u"0"_qs);
 }
 
 TEST_F(BatchDriver, KeepsThePreviewOffDuringARun)
