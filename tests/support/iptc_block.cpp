@@ -1,21 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "iptc_block.h"
 
-#include <QtEndian>
+#include "integer_bytes.h"
 
 namespace brenvaldo::test {
-
-namespace {
-
-template <class Number>
-QByteArray bigEndian(Number value)
-{
-    QByteArray bytes(sizeof(Number), '\0');
-    qToBigEndian(value, bytes.data());
-    return bytes;
-}
-
-} // namespace
 
 QByteArray iptcDataSet(int number, const QByteArray& value)
 {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo_containers.h"
 
+#include "integer_bytes.h"
+
 #include <libheif/heif.h>
 
-#include <QtEndian>
 
 #include <cmath>
 #include <cstring>
@@ -12,22 +13,6 @@
 namespace brenvaldo::test {
 
 namespace {
-
-template <typename Integer>
-QByteArray bigEndian(Integer value)
-{
-    QByteArray bytes(sizeof(Integer), '\0');
-    qToBigEndian(value, bytes.data());
-    return bytes;
-}
-
-template <typename Integer>
-QByteArray littleEndian(Integer value)
-{
-    QByteArray bytes(sizeof(Integer), '\0');
-    qToLittleEndian(value, bytes.data());
-    return bytes;
-}
 
 quint32 checksum(const QByteArray& bytes)
 {

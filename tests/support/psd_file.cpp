@@ -8,7 +8,7 @@ namespace brenvaldo::test {
 namespace {
 
 template <typename Number>
-QByteArray bigEndian(qint64 value)
+QByteArray bigEndianOf(qint64 value)
 {
     QByteArray bytes(sizeof(Number), '\0');
     qToBigEndian(static_cast<Number>(value), bytes.data());
@@ -17,7 +17,7 @@ QByteArray bigEndian(qint64 value)
 
 QByteArray section(const QByteArray& contents, bool isWide = false)
 {
-    return (isWide ? bigEndian<quint64>(contents.size()) : bigEndian<quint32>(contents.size()))
+    return (isWide ? bigEndianOf<quint64>(contents.size()) : bigEndianOf<quint32>(contents.size()))
         + contents;
 }
 
@@ -45,8 +45,8 @@ QByteArray packedSamples(const PsdContents& contents)
         const qsizetype rowBytes = channel.size() / contents.size.height();
         for (int y = 0; y < contents.size.height(); ++y) {
             const QByteArray row = packed(channel.mid(y * rowBytes, rowBytes));
-            lengths += contents.isLarge ? bigEndian<quint32>(row.size())
-                                        : bigEndian<quint16>(row.size());
+            lengths += contents.isLarge ? bigEndianOf<quint32>(row.size())
+                                        : bigEndianOf<quint16>(row.size());
             rows += row;
         }
     }
@@ -58,24 +58,24 @@ QByteArray packedSamples(const PsdContents& contents)
 QByteArray psdResource(std::uint16_t id, const QByteArray& data)
 {
     const QByteArray padding(data.size() % 2, '\0');
-    return "8BIM" + bigEndian<quint16>(id) + QByteArray(2, '\0') + section(data) + padding;
+    return "8BIM" + bigEndianOf<quint16>(id) + QByteArray(2, '\0') + section(data) + padding;
 }
 
 QByteArray psdFile(const PsdContents& contents)
 {
     QByteArray layers;
     if (contents.layers != 0)
-        layers = section(bigEndian<quint16>(contents.layers), contents.isLarge);
+        layers = section(bigEndianOf<quint16>(contents.layers), contents.isLarge);
     const int compression
         = contents.compression >= 0 ? contents.compression : (contents.isPacked ? 1 : 0);
     const QByteArray samples
         = contents.isPacked ? packedSamples(contents) : contents.channels.join();
-    return "8BPS" + bigEndian<quint16>(contents.isLarge ? 2 : 1) + QByteArray(6, '\0')
-        + bigEndian<quint16>(contents.channels.size()) + bigEndian<quint32>(contents.size.height())
-        + bigEndian<quint32>(contents.size.width()) + bigEndian<quint16>(contents.bitsPerSample)
-        + bigEndian<quint16>(contents.mode) + section(contents.palette)
-        + section(contents.resources) + section(layers, contents.isLarge)
-        + bigEndian<quint16>(compression) + samples;
+    return "8BPS" + bigEndianOf<quint16>(contents.isLarge ? 2 : 1) + QByteArray(6, '\0')
+        + bigEndianOf<quint16>(contents.channels.size())
+        + bigEndianOf<quint32>(contents.size.height()) + bigEndianOf<quint32>(contents.size.width())
+        + bigEndianOf<quint16>(contents.bitsPerSample) + bigEndianOf<quint16>(contents.mode)
+        + section(contents.palette) + section(contents.resources)
+        + section(layers, contents.isLarge) + bigEndianOf<quint16>(compression) + samples;
 }
 
 } // namespace brenvaldo::test

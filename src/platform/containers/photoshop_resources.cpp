@@ -10,15 +10,18 @@ namespace brenvaldo::platform {
 
 namespace {
 
-constexpr std::array signatures{"8BIM", "PHUT", "DCSR", "AgHg", "MeSa"};
+constexpr std::array resourceSignatures{"8BIM", "PHUT", "DCSR", "AgHg", "MeSa"};
 constexpr qsizetype longestPadding = 3;
 
 std::optional<PhotoshopResource> resourceAt(QByteArrayView block, std::uint64_t offset)
 {
     const auto signature = sliceOf(block, offset, 4);
-    if (!signature || std::none_of(signatures.begin(), signatures.end(), [&](const char* known) {
-            return *signature == QByteArrayView(known, 4);
-        }))
+    if (!signature
+        || std::none_of(
+            resourceSignatures.begin(),
+            resourceSignatures.end(),
+            [&](const char* known) { return *signature == QByteArrayView(known, 4); }
+        ))
         return std::nullopt;
 
     const auto id = unsignedAt(block, offset + 4, 2, ByteOrder::Big);
