@@ -4,7 +4,6 @@
 #include <imaging/rotate_rules.h>
 
 #include <QPainter>
-#include <QTransform>
 
 namespace brenvaldo::watermark {
 
@@ -56,7 +55,7 @@ QRect TextLayer::uprightRect() const { return {0, 0, m_uprightSize.width, m_upri
 
 QRect TextLayer::neededBefore(const QRect& region) const
 {
-    const QRect mapped = toTurnedLayer().inverted().mapRect(QRectF(region)).toAlignedRect();
+    const QRect mapped = toUprightLayer().mapRect(QRectF(region)).toAlignedRect();
     return mapped.adjusted(-1, -1, 1, 1).intersected(uprightRect());
 }
 
@@ -83,13 +82,10 @@ QImage TextLayer::rendered(const Ink& ink, const QRect& region) const
 }
 
 void TextLayer::drawShadow(
-    QPainter& painter, platform::Shadow shadow, const QBrush& fill, const QRect& part
+    QPainter& painter, const platform::Shadow& shadow, const QBrush& fill, const QRect& part
 ) const
 {
-    const int reach = platform::shadowReach(shadow.blurRadius);
-    const QPoint shift(shadow.xOffset, -shadow.yOffset);
-    const QRect casting
-        = part.translated(-shift).adjusted(-reach, -reach, reach, reach).intersected(uprightRect());
+    const QRect casting = platform::castingInto(part, shadow).intersected(uprightRect());
     QImage object = transparent(casting.size());
     if (object.isNull())
         return;
@@ -98,12 +94,9 @@ void TextLayer::drawShadow(
     objectPainter.translate(-casting.topLeft());
     m_text.draw(objectPainter, fill);
     objectPainter.end();
-    shadow.xOffset = 0;
-    shadow.yOffset = 0;
-    painter.drawImage(
-        casting.topLeft() + shift - QPoint(reach, reach),
-        platform::shadowLayer(object, shadow, reach)
-    );
+    const platform::PlacedLayer cast
+        = platform::shadowOf({.image = object, .topLeft = casting.topLeft()}, shadow);
+    painter.drawImage(cast.topLeft, cast.image);
 }
 
 } // namespace brenvaldo::watermark

@@ -8,6 +8,7 @@
 #include <QBrush>
 #include <QImage>
 #include <QRect>
+#include <QTransform>
 
 #include <optional>
 
@@ -26,6 +27,9 @@ public:
     /// Size of the layer before it is turned.
     [[nodiscard]] platform::PixelSize uprightSize() const { return m_uprightSize; }
 
+    /// From the turned layer to the one before it was turned.
+    [[nodiscard]] QTransform toUprightLayer() const { return toTurnedLayer().inverted(); }
+
     struct Ink
     {
         QBrush fill; ///< a texture starts at the layer's bottom left corner
@@ -42,7 +46,7 @@ private:
     [[nodiscard]] QRect neededBefore(const QRect& region) const;
     /// Draws what of the shadow falls into `part` of the upright layer.
     void drawShadow(
-        QPainter& painter, platform::Shadow shadow, const QBrush& fill, const QRect& part
+        QPainter& painter, const platform::Shadow& shadow, const QBrush& fill, const QRect& part
     ) const;
 
     platform::TextDrawing m_text;

@@ -12,6 +12,7 @@ namespace brenvaldo::watermark {
 namespace {
 
 using platform::PixelSize;
+using platform::PlacedLayer;
 using platform::Stamp;
 
 /// Cells up to this many pixels are repeated by the stamp; larger ones are drawn where the photo
@@ -42,34 +43,6 @@ bool isRepeated(PixelSize cell)
         && std::max(cell.width, cell.height) <= longestDrawnSide;
 }
 
-/// A picture and its place on the photo.
-struct Piece
-{
-    QImage image;
-    QPoint topLeft;
-
-    [[nodiscard]] QRect area() const { return {topLeft, image.size()}; }
-};
-
-QPoint shiftOf(const platform::Shadow& shadow) { return {shadow.xOffset, -shadow.yOffset}; }
-
-/// Where something that throws a shadow onto `photo` can stand.
-QRect castingOnto(const QRect& photo, const platform::Shadow& shadow)
-{
-    const int reach = platform::shadowReach(shadow.blurRadius);
-    return photo.translated(-shiftOf(shadow)).adjusted(-reach, -reach, reach, reach);
-}
-
-/// The shadow that `caster` throws.
-Piece shadowOf(const Piece& caster, platform::Shadow shadow)
-{
-    const int reach = platform::shadowReach(shadow.blurRadius);
-    const QPoint topLeft = caster.topLeft + shiftOf(shadow) - QPoint(reach, reach);
-    shadow.xOffset = 0;
-    shadow.yOffset = 0;
-    return {.image = platform::shadowLayer(caster.image, shadow, reach), .topLeft = topLeft};
-}
-
 /// `layer` at the strength of the drawing fraction.
 QImage faded(const QImage& layer, double fraction)
 {
@@ -82,42 +55,31 @@ QImage faded(const QImage& layer, double fraction)
     return image;
 }
 
-/// Both pieces, the second above the first, as far as the photo shows them.
-Piece composed(const Piece& below, const Piece& above, const QRect& photo)
-{
-    const QRect area = photo.intersected(below.area().united(above.area()));
-    QImage image = transparent(area.size());
-    if (image.isNull())
-        return {};
-    QPainter painter(&image);
-    painter.translate(-area.topLeft());
-    painter.drawImage(below.topLeft, below.image);
-    painter.drawImage(above.topLeft, above.image);
-    return {.image = image, .topLeft = area.topLeft()};
-}
-
-Stamp stampOf(const Piece& piece)
+Stamp stampOf(const PlacedLayer& piece)
 {
     return {.layer = piece.image, .topLeft = piece.topLeft, .repeat = Stamp::Repeat::Once};
 }
 
-/// The mark that `render` draws into an area of the photo, with its shadow.
+/// The mark that `render` draws into an area of the photo, with the shadow of its layer.
 template <class Render>
-Stamp markWithShadow(
-    const std::optional<platform::Shadow>& shadow, const QRect& photo, const Render& render
-)
+PlacedLayer shownIn(const QRect& area, const TextWatermarkSettings& settings, const Render& render)
 {
-    const Piece object = render(photo);
-    if (!shadow)
-        return stampOf(object);
-    return stampOf(composed(shadowOf(render(castingOnto(photo, *shadow)), *shadow), object, photo));
+    const auto shadow = layerShadow(settings);
+    return shadow ? platform::withShadow(render, *shadow, area) : render(area);
+}
+
+/// Place of the overlay's top left corner on the photo.
+QPoint
+overlayCorner(const TextWatermarkSettings& settings, const TextOverlay& overlay, PixelSize photo)
+{
+    const QPoint origin = anchoredOrigin(settings.placement, photo, overlay.size());
+    return {origin.x(), photo.height - origin.y() - overlay.size().height};
 }
 
 Stamp stampOnce(const TextWatermarkSettings& settings, const TextOverlay& overlay, PixelSize photo)
 {
-    const QPoint origin = anchoredOrigin(settings.placement, photo, overlay.size());
-    const QPoint topLeft(origin.x(), photo.height - origin.y() - overlay.size().height);
-    const auto render = [&](const QRect& area) -> Piece {
+    const QPoint topLeft = overlayCorner(settings, overlay, photo);
+    const auto render = [&](const QRect& area) -> PlacedLayer {
         const QRect seen = area.translated(-topLeft).intersected(rectOf(overlay.size()));
         if (seen.isEmpty())
             return {};
@@ -125,7 +87,7 @@ Stamp stampOnce(const TextWatermarkSettings& settings, const TextOverlay& overla
             .image = faded(overlay.rendered(seen), settings.opacity),
             .topLeft = topLeft + seen.topLeft()};
     };
-    return markWithShadow(layerShadow(settings), rectOf(photo), render);
+    return stampOf(shownIn(rectOf(photo), settings, render));
 }
 
 /// Top left corner, on the photo, of one of the cells that cover it.
@@ -142,9 +104,13 @@ QPoint overlayInCell(const TileCell& cell, PixelSize overlay)
     return {cell.layerOrigin.x(), cell.size.height - cell.layerOrigin.y() - overlay.height};
 }
 
-Stamp repeatedCell(
-    const TextWatermarkSettings& settings, const TextOverlay& overlay, const TileCell& cell
-)
+TileCell cellOf(const TextWatermarkSettings& settings, const TextOverlay& overlay)
+{
+    return tileCell(overlay.size(), settings.placement.xOffset, settings.placement.yOffset);
+}
+
+QImage
+drawnCell(const TextWatermarkSettings& settings, const TextOverlay& overlay, const TileCell& cell)
 {
     QImage image = transparent({cell.size.width, cell.size.height});
     QPainter painter(&image);
@@ -152,13 +118,7 @@ Stamp repeatedCell(
     painter.drawImage(
         overlayInCell(cell, overlay.size()), overlay.rendered(rectOf(overlay.size()))
     );
-    painter.end();
-    if (const auto shadow = layerShadow(settings)) {
-        const Piece object{.image = image, .topLeft = {}};
-        const Piece cast{.image = platform::tiledShadowLayer(image, *shadow), .topLeft = {}};
-        image = composed(cast, object, object.area()).image;
-    }
-    return {.layer = image, .topLeft = {}, .repeat = Stamp::Repeat::Tiled};
+    return image;
 }
 
 /// The largest of `start`, `start` - `step`, ... that does not lie behind `edge`, one step earlier
@@ -173,6 +133,8 @@ QImage
 cellsOnPhoto(const TextOverlay& overlay, const TileCell& cell, QPoint corner, const QRect& area)
 {
     QImage image = transparent(area.size());
+    if (image.isNull())
+        return image;
     QPainter painter(&image);
     painter.translate(-area.topLeft());
     for (int y = lastStepBefore(corner.y(), area.top(), cell.size.height); y <= area.bottom();
@@ -191,24 +153,163 @@ cellsOnPhoto(const TextOverlay& overlay, const TileCell& cell, QPoint corner, co
     return image;
 }
 
+/// A part of `cell` repeated without end, one of which stands at `topLeft` of the part.
+QImage repeated(const QImage& cell, QPoint topLeft, const QSize& part)
+{
+    QImage image = transparent(part);
+    if (image.isNull())
+        return image;
+    QPainter painter(&image);
+    painter.setBrushOrigin(topLeft);
+    painter.fillRect(image.rect(), QBrush(cell));
+    return image;
+}
+
+/// The rectangle of the photo that the cells are drawn in.
+QRect tiledArea(PixelSize overlay, PixelSize photo)
+{
+    const TileSpan across = tileSpan(photo.width, overlay.width);
+    const TileSpan along = tileSpan(photo.height, overlay.height);
+    const int top = photo.height + along.overhang - along.length;
+    return {-across.overhang, top, across.length, along.length};
+}
+
+/// What is left of `whole` around `inner`, which lies in it: stripes above, below and beside.
+QList<QRect> stripesAround(const QRect& inner, const QRect& whole)
+{
+    if (inner.isEmpty())
+        return {whole};
+    const QRect rows(whole.left(), inner.top(), whole.width(), inner.height());
+    QList<QRect> stripes{
+        {whole.topLeft(), rows.topRight() - QPoint(0, 1)},
+        {rows.bottomLeft() + QPoint(0, 1), whole.bottomRight()},
+        {rows.topLeft(), inner.bottomLeft() - QPoint(1, 0)},
+        {inner.topRight() + QPoint(1, 0), rows.bottomRight()}};
+    stripes.removeIf([](const QRect& stripe) { return stripe.isEmpty(); });
+    return stripes;
+}
+
+/// Lays the shadow of the cells that are drawn in `tiled` into `stamp`, which repeats their cell.
+void castShadow(
+    Stamp& stamp, const platform::Shadow& shadow, const QRect& tiled, const QRect& photo
+)
+{
+    if (!platform::castingInto(photo, shadow).intersects(tiled))
+        return;
+    const QImage cell = stamp.layer;
+    const auto render = [&](const QRect& area) -> PlacedLayer {
+        const QRect drawn = area.intersected(tiled);
+        return {
+            .image = repeated(cell, stamp.topLeft - drawn.topLeft(), drawn.size()),
+            .topLeft = drawn.topLeft()};
+    };
+    stamp.layer = platform::cellWithShadow(cell, shadow);
+    // The cells end not far outside of the photo: near its edges their shadow is another.
+    const QRect even = platform::inEvenShadowOf(tiled, shadow).intersected(photo);
+    for (const QRect& stripe : stripesAround(even, photo)) {
+        const PlacedLayer piece = platform::withShadow(render, shadow, stripe);
+        stamp.patches.append({.layer = piece.image, .topLeft = piece.topLeft});
+    }
+}
+
+Stamp stampRepeated(
+    const TextWatermarkSettings& settings,
+    const TextOverlay& overlay,
+    const TileCell& cell,
+    PixelSize photo
+)
+{
+    Stamp stamp{
+        .layer = drawnCell(settings, overlay, cell),
+        .topLeft = cellCorner(cell, overlay.size(), photo),
+        .repeat = Stamp::Repeat::Tiled};
+    if (const auto shadow = layerShadow(settings))
+        castShadow(stamp, *shadow, tiledArea(overlay.size(), photo), rectOf(photo));
+    return stamp;
+}
+
 Stamp stampTiled(const TextWatermarkSettings& settings, const TextOverlay& overlay, PixelSize photo)
 {
-    const TileCell cell
-        = tileCell(overlay.size(), settings.placement.xOffset, settings.placement.yOffset);
+    const TileCell cell = cellOf(settings, overlay);
     if (!cell.size.isValid())
         return {};
+    if (isRepeated(cell.size))
+        return stampRepeated(settings, overlay, cell, photo);
     const QPoint corner = cellCorner(cell, overlay.size(), photo);
-    if (isRepeated(cell.size)) {
-        Stamp stamp = repeatedCell(settings, overlay, cell);
-        stamp.topLeft = corner;
-        return stamp;
-    }
-    const auto render = [&](const QRect& area) -> Piece {
+    const QRect tiled = tiledArea(overlay.size(), photo);
+    const auto render = [&](const QRect& area) -> PlacedLayer {
+        const QRect drawn = area.intersected(tiled);
         return {
-            .image = faded(cellsOnPhoto(overlay, cell, corner, area), settings.opacity),
-            .topLeft = area.topLeft()};
+            .image = faded(cellsOnPhoto(overlay, cell, corner, drawn), settings.opacity),
+            .topLeft = drawn.topLeft()};
     };
-    return markWithShadow(layerShadow(settings), rectOf(photo), render);
+    return stampOf(shownIn(rectOf(photo), settings, render));
+}
+
+/// How the picture lies on a stamp of `overlay`.
+Stamp::Texture textureOn(
+    const Stamp& stamp,
+    const TextWatermarkSettings& settings,
+    const TextOverlay& overlay,
+    PixelSize photo
+)
+{
+    Stamp::Texture texture{
+        .picture = *overlay.picture(), .share = {}, .toPicture = overlay.toPicture()};
+    if (!settings.isTiled) {
+        texture.origin = overlayCorner(settings, overlay, photo) - stamp.topLeft;
+        return texture;
+    }
+    const TileCell cell = cellOf(settings, overlay);
+    const QPoint inCell = overlayInCell(cell, overlay.size());
+    texture.toPicture = QTransform::fromTranslate(-inCell.x(), -inCell.y()) * texture.toPicture;
+    texture.origin = cellCorner(cell, overlay.size(), photo) - stamp.topLeft;
+    texture.period = {cell.size.width, cell.size.height};
+    return texture;
+}
+
+/// Takes from `layer`, drawn in black, what its twin in white is brighter by: the share of the ink.
+QImage takenInk(QImage& layer, const QImage& white)
+{
+    QImage share(layer.size(), QImage::Format_Grayscale8);
+    for (int y = 0; y < layer.height(); ++y) {
+        auto* rest = reinterpret_cast<QRgb*>(layer.scanLine(y));
+        const auto* twin = reinterpret_cast<const QRgb*>(white.constScanLine(y));
+        uchar* shares = share.scanLine(y);
+        for (int x = 0; x < layer.width(); ++x) {
+            shares[x] = static_cast<uchar>(std::max(0, qRed(twin[x]) - qRed(rest[x])));
+            const int alpha = std::max(0, qAlpha(rest[x]) - shares[x]);
+            rest[x] = qRgba(
+                std::min(qRed(rest[x]), alpha),
+                std::min(qGreen(rest[x]), alpha),
+                std::min(qBlue(rest[x]), alpha),
+                alpha
+            );
+        }
+    }
+    return share;
+}
+
+Stamp placed(const TextWatermarkSettings& settings, const TextOverlay& overlay, PixelSize photo)
+{
+    if (!overlay.size().isValid())
+        return {};
+    return settings.isTiled ? stampTiled(settings, overlay, photo)
+                            : stampOnce(settings, overlay, photo);
+}
+
+/// The mark whose glyphs show the overlay's picture.
+Stamp filledStamp(
+    const TextWatermarkSettings& settings, const TextOverlay& overlay, PixelSize photo
+)
+{
+    Stamp stamp = placed(settings, overlay, photo);
+    if (stamp.layer.isNull())
+        return stamp;
+    const Stamp white = placed(settings, overlay.inkedWith(Qt::white), photo);
+    stamp.texture = textureOn(stamp, settings, overlay, photo);
+    stamp.texture->share = takenInk(stamp.layer, white.layer);
+    return stamp;
 }
 
 } // namespace
@@ -221,10 +322,12 @@ Stamp textMark(
 )
 {
     const TextOverlay overlay(settings, text, font, photo);
-    if (!overlay.size().isValid())
+    if (overlay.picture())
+        return filledStamp(settings, overlay, photo.pixelSize());
+    // Glyphs that a damaged photo should fill can't be drawn.
+    if (traitsOf(settings.effect).fillsWithPhoto())
         return {};
-    return settings.isTiled ? stampTiled(settings, overlay, photo.pixelSize())
-                            : stampOnce(settings, overlay, photo.pixelSize());
+    return placed(settings, overlay, photo.pixelSize());
 }
 
 } // namespace brenvaldo::watermark

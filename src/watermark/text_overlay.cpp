@@ -6,6 +6,8 @@
 #include <platform/graphics/fonts.h>
 #include <platform/graphics/qt_color.h>
 
+#include <QPainter>
+
 #include <algorithm>
 
 namespace brenvaldo::watermark {
@@ -34,28 +36,44 @@ platform::TextAttributes attributesOf(const TextWatermarkSettings& settings, QFo
 }
 
 /// The photo's bottom left corner, as large as the text that it fills at the most.
-QImage photoCorner(const platform::Image& photo, PixelSize size)
+std::optional<platform::Image> photoCorner(const platform::Image& photo, PixelSize size)
 {
     const int height = std::min(size.height, photo.height());
-    const auto corner = photo.croppedTo(
+    return photo.croppedTo(
         {.x = 0, .y = photo.height() - height, .width = size.width, .height = height}
     );
-    return corner ? corner->toQImage() : QImage();
 }
 
-QBrush fillOf(const TextWatermarkSettings& settings, const platform::Image& photo, PixelSize size)
+/// What fills the glyphs in place of a colour.
+std::optional<platform::Image>
+pictureOf(TextFill fill, const platform::Image& photo, PixelSize size)
 {
-    switch (traitsOf(settings.effect).fill) {
-    case TextFill::Color:
-        return platform::qtColor(settings.fontColor.withAlpha(settings.opacity));
-    case TextFill::White:
-        return platform::qtColor({.red = 1, .green = 1, .blue = 1, .alpha = settings.opacity});
-    case TextFill::Photo:
-        return {photoCorner(photo, size)};
-    case TextFill::NoirPhoto:
-        return {platform::photoEffectNoir(photoCorner(photo, size))};
-    }
-    return {};
+    if (fill != TextFill::Photo && fill != TextFill::NoirPhoto)
+        return std::nullopt;
+    const auto corner = photoCorner(photo, size);
+    if (!corner)
+        return std::nullopt;
+    return fill == TextFill::NoirPhoto ? platform::photoEffectNoir(*corner).copiedToMemory()
+                                       : corner->copiedToMemory();
+}
+
+QBrush fillOf(const TextWatermarkSettings& settings)
+{
+    const platform::Color white{.red = 1, .green = 1, .blue = 1};
+    const bool isWhite = traitsOf(settings.effect).fill == TextFill::White;
+    return platform::qtColor((isWhite ? white : settings.fontColor).withAlpha(settings.opacity));
+}
+
+/// `color` as opaque as `picture`.
+QBrush inkAsOpaqueAs(const platform::Image& picture, const QColor& color)
+{
+    if (!picture.hasAlpha())
+        return color;
+    QImage texture = picture.toQImage();
+    QPainter painter(&texture);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(texture.rect(), color);
+    return {texture};
 }
 
 } // namespace
@@ -72,8 +90,11 @@ TextOverlay::TextOverlay(
           platform::AttributedText(textToSet(settings, text), attributesOf(settings, font)),
           settings.placement.angle
       )
-    , m_ink{.fill = fillOf(settings, photo, m_layer.uprightSize()), .shadow = {}}
+    , m_picture(pictureOf(m_effect.fill, photo, m_layer.uprightSize()))
+    , m_ink{.fill = fillOf(settings), .shadow = {}}
 {
+    if (m_picture)
+        m_ink.fill = inkAsOpaqueAs(*m_picture, Qt::black);
     if (m_effect.castsGlyphShadow)
         m_ink.shadow = settings.shadow;
 }
@@ -87,6 +108,19 @@ QImage TextOverlay::rendered(const QRect& region) const
         = region.adjusted(-reliefReach, -reliefReach, reliefReach, reliefReach).intersected(whole);
     const QImage raised = embossed(m_layer.rendered(m_ink, around));
     return raised.copy(region.translated(-around.topLeft()));
+}
+
+QTransform TextOverlay::toPicture() const
+{
+    const int pictureTop = m_layer.uprightSize().height - m_picture->height();
+    return m_layer.toUprightLayer() * QTransform::fromTranslate(0, -pictureTop);
+}
+
+TextOverlay TextOverlay::inkedWith(const QColor& color) const
+{
+    TextOverlay inked = *this;
+    inked.m_ink.fill = inkAsOpaqueAs(*m_picture, color);
+    return inked;
 }
 
 QImage TextOverlay::embossed(const QImage& layer) const

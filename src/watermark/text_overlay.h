@@ -7,6 +7,7 @@
 #include <platform/graphics/image.h>
 
 #include <QFont>
+#include <QTransform>
 
 namespace brenvaldo::watermark {
 
@@ -27,8 +28,18 @@ public:
     [[nodiscard]] platform::PixelSize size() const { return m_layer.size(); }
 
     /// The part of the layer inside of `region` (origin at its top left corner), premultiplied
-    /// ARGB.
+    /// ARGB. Glyphs that the photo fills are black.
     [[nodiscard]] QImage rendered(const QRect& region) const;
+
+    /// What fills the glyphs, repeated without end, in the photo's colours and depth; nothing where
+    /// a colour does, or when the photo turns out to be damaged.
+    [[nodiscard]] const std::optional<platform::Image>& picture() const { return m_picture; }
+
+    /// From the layer to the pixels of the picture.
+    [[nodiscard]] QTransform toPicture() const;
+
+    /// The same overlay with glyphs of another colour, as opaque as the picture.
+    [[nodiscard]] TextOverlay inkedWith(const QColor& color) const;
 
 private:
     [[nodiscard]] QImage embossed(const QImage& layer) const;
@@ -36,6 +47,7 @@ private:
     TextEffectTraits m_effect;
     platform::Color m_embossColor;
     TextLayer m_layer;
+    std::optional<platform::Image> m_picture;
     TextLayer::Ink m_ink;
 };
 

@@ -168,7 +168,7 @@ TEST(TextMark, FilledWithTheBlackAndWhitePhotoShowsItsGrays)
 
     const QRgb middle = markedPhoto(settings, photo).pixel(80, 60);
 
-    EXPECT_EQ(middle, platform::photoEffectNoir(ground).pixel(0, 0));
+    EXPECT_EQ(middle, platform::photoEffectNoir(photo).toQImage().pixel(0, 0));
     EXPECT_EQ(qRed(middle), qBlue(middle));
 }
 
@@ -217,7 +217,7 @@ TEST(TextMark, WithAShadowOutOfSightIsTheMarkAlone)
         for (const bool isTiled : {false, true}) {
             TextWatermarkSettings settings = whiteBlock();
             settings.effect = effect;
-            settings.isTiled = isTiled && effect == TextEffect::Plain;
+            settings.isTiled = isTiled;
             settings.placement.anchor = 4;
             const QImage plain = markedPhoto(settings);
             settings.shadow = platform::Shadow{

@@ -19,10 +19,11 @@ int floorModulo(int value, int size) { return ((value % size) + size) % size; }
 /// is too long.
 int overhang(int photo, int layer) { return ((photo / layer + 1) * layer - photo) / 2; }
 
-/// The photo covered with cells, each pixel looked up in the cell by the rules of tiling.
-QImage expectedTiles(const TextWatermarkSettings& settings, const platform::Image& photo)
+/// The pattern of `size` pixels whose bottom left corner is that of a cell, each pixel looked up in
+/// the cell by the rules of tiling.
+QImage
+expectedPattern(const TextWatermarkSettings& settings, const QImage& layer, const QSize& size)
 {
-    const QImage layer = wholeLayer(overlayOf(settings, photo));
     const int xGap = settings.placement.xOffset;
     const int yGap = settings.placement.yOffset;
     const QSize cellSize(layer.width() + xGap, layer.height() + yGap);
@@ -30,20 +31,44 @@ QImage expectedTiles(const TextWatermarkSettings& settings, const platform::Imag
     cell.fill(Qt::transparent);
     QPainter(&cell).drawImage(xGap / 2, cell.height() - yGap / 2 - layer.height(), layer);
 
-    QImage cells(photo.width(), photo.height(), QImage::Format_ARGB32_Premultiplied);
-    for (int row = 0; row < cells.height(); ++row) {
-        const int y = photo.height() - 1 - row + overhang(photo.height(), layer.height());
-        for (int column = 0; column < cells.width(); ++column) {
-            const int x = column + overhang(photo.width(), layer.width());
-            const int cellRow = cell.height() - 1 - floorModulo(y, cell.height());
-            cells.setPixel(column, row, cell.pixel(floorModulo(x, cell.width()), cellRow));
-        }
+    QImage pattern(size, QImage::Format_ARGB32_Premultiplied);
+    for (int row = 0; row < pattern.height(); ++row) {
+        const int cellRow
+            = cell.height() - 1 - floorModulo(pattern.height() - 1 - row, cell.height());
+        for (int column = 0; column < pattern.width(); ++column)
+            pattern.setPixel(column, row, cell.pixel(floorModulo(column, cell.width()), cellRow));
     }
+    return pattern;
+}
+
+/// The photo below a pattern of one tile more than fits in each direction, with the shadow of that.
+QImage expectedTiles(const TextWatermarkSettings& settings, const platform::Image& photo)
+{
+    const QImage layer = wholeLayer(overlayOf(settings, photo));
+    const int left = -overhang(photo.width(), layer.width());
+    const int below = overhang(photo.height(), layer.height());
+    const QSize size(
+        (photo.width() / layer.width() + 1) * layer.width(),
+        (photo.height() / layer.height() + 1) * layer.height()
+    );
+    const QPoint topLeft(left, photo.height() + below - size.height());
+    QImage pattern(size, QImage::Format_ARGB32_Premultiplied);
+    pattern.fill(Qt::transparent);
+    QPainter fader(&pattern);
+    fader.setOpacity(settings.opacity);
+    fader.drawImage(0, 0, expectedPattern(settings, layer, size));
+    fader.end();
+
     QImage expected = photo.toQImage();
     QPainter painter(&expected);
-    painter.setOpacity(settings.opacity);
-    painter.drawImage(0, 0, cells);
-    painter.end();
+    if (settings.shadow && settings.effect == TextEffect::Relief2) {
+        constexpr int margin = 60;
+        painter.drawImage(
+            topLeft - QPoint(margin, margin),
+            platform::shadowLayer(pattern, *settings.shadow, margin)
+        );
+    }
+    painter.drawImage(topLeft, pattern);
     return expected;
 }
 
@@ -65,6 +90,7 @@ struct TilesCase
     double opacity = 1;
     TextEffect effect = TextEffect::Plain;
     platform::PixelSize photo{.width = 161, .height = 121};
+    std::optional<platform::Shadow> shadow = {};
 
     friend void PrintTo(const TilesCase& row, std::ostream* out) { *out << row.name; }
 };
@@ -83,6 +109,7 @@ TEST_P(TextMarkTiles, CoverThePhotoPixelByPixel)
     settings.placement.angle = row.angle;
     settings.opacity = row.opacity;
     settings.effect = row.effect;
+    settings.shadow = row.shadow;
     const platform::Image photo = plainPhoto(row.photo.width, row.photo.height);
 
     const QImage found = markedPhoto(settings, photo);
@@ -103,6 +130,27 @@ INSTANTIATE_TEST_SUITE_P(
         TilesCase{.name = "Turned", .xOffset = 4, .yOffset = 2, .angle = 30},
         TilesCase{.name = "Translucent", .xOffset = 4, .yOffset = 2, .opacity = 0.5},
         TilesCase{.name = "Embossed", .xOffset = 4, .yOffset = 2, .effect = TextEffect::Relief2},
+        TilesCase{
+            .name = "EmbossedWithASharpShadow",
+            .xOffset = 9,
+            .yOffset = 9,
+            .effect = TextEffect::Relief2,
+            .shadow = platform::Shadow{.color = {.red = 1}, .xOffset = 4, .yOffset = -3}},
+        TilesCase{
+            .name = "EmbossedWithAShadowFromAfar",
+            .xOffset = 9,
+            .yOffset = 9,
+            .effect = TextEffect::Relief2,
+            .shadow = platform::
+                Shadow{.color = {.red = 1}, .xOffset = -50, .yOffset = 30, .blurRadius = 6}},
+        TilesCase{
+            .name = "EmbossedTranslucentWithASoftShadow",
+            .xOffset = 9,
+            .yOffset = 9,
+            .opacity = 0.5,
+            .effect = TextEffect::Relief2,
+            .shadow
+            = platform::Shadow{.color = {.red = 1}, .xOffset = 1, .yOffset = 1, .blurRadius = 30}},
         TilesCase{.name = "SmallPhoto", .xOffset = 4, .photo = {.width = 11, .height = 9}}
     ),
     [](const auto& row) { return row.param.name; }
@@ -150,4 +198,28 @@ TEST(TextMark, TilesLargerThanThePhotoStandWhereSmallOnesWould)
     EXPECT_EQ(different, 0);
     EXPECT_GT(changedPixels(found), 1000);
     EXPECT_LT(changedPixels(found), photo.width() * photo.height() - 1000);
+}
+
+TEST(TextMark, TilesLargerThanThePhotoCastTheirShadow)
+{
+    TextWatermarkSettings settings = tiledBlock(-100, 20);
+    settings.text = block() + QLatin1Char(' ');
+    settings.fontSize = 5000;
+    settings.effect = TextEffect::Relief1;
+    const QImage plain = markedPhoto(settings);
+    settings.shadow
+        = platform::Shadow{.color = {.red = 1}, .xOffset = 30, .yOffset = 0, .blurRadius = 0};
+
+    const QImage found = markedPhoto(settings);
+
+    const int row = found.height() / 2;
+    int edge = 0; // the first column right of the block
+    while (isChanged(plain.pixel(edge, row)))
+        ++edge;
+    ASSERT_GT(edge, 0);
+    ASSERT_LT(edge + 40, found.width());
+    EXPECT_EQ(found.pixel(edge - 3, row), plain.pixel(edge - 3, row));
+    EXPECT_EQ(found.pixel(edge + 1, row), qRgb(255, 0, 0));
+    EXPECT_EQ(found.pixel(edge + 28, row), qRgb(255, 0, 0));
+    EXPECT_EQ(found.pixel(edge + 32, row), photoColor);
 }

@@ -3,6 +3,8 @@
 
 #include "blurred_plane.h"
 
+#include <QPainter>
+
 #include <algorithm>
 #include <cmath>
 
@@ -62,12 +64,30 @@ QImage colored(const Plane& plane, const Color& color)
     return layer;
 }
 
-QImage
-shadowOf(const QImage& object, const Shadow& shadow, QPoint shift, int width, int height, Edge edge)
+QImage castShadow(
+    const QImage& object, const Shadow& shadow, QPoint shift, int width, int height, Edge edge
+)
 {
     const QImage premultiplied = object.convertToFormat(QImage::Format_ARGB32_Premultiplied);
     const Plane alpha = shiftedAlpha(premultiplied, shift, width, height, edge);
     return colored(blurred(alpha, std::min(shadow.blurRadius, softest) / 2, edge), shadow.color);
+}
+
+QPoint shiftOf(const Shadow& shadow) { return {shadow.xOffset, -shadow.yOffset}; }
+
+/// Both layers, the second above the first, as far as `area` shows them.
+PlacedLayer composed(const PlacedLayer& below, const PlacedLayer& above, const QRect& area)
+{
+    const QRect shown = area.intersected(below.area().united(above.area()));
+    QImage image(shown.size(), QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return {};
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.translate(-shown.topLeft());
+    painter.drawImage(below.topLeft, below.image);
+    painter.drawImage(above.topLeft, above.image);
+    return {.image = image, .topLeft = shown.topLeft()};
 }
 
 } // namespace
@@ -80,15 +100,52 @@ int shadowReach(double blurRadius)
 QImage shadowLayer(const QImage& object, const Shadow& shadow, int margin)
 {
     const QPoint shift(margin + shadow.xOffset, margin - shadow.yOffset);
-    return shadowOf(
+    return castShadow(
         object, shadow, shift, object.width() + 2 * margin, object.height() + 2 * margin, Edge::Zero
     );
 }
 
+PlacedLayer shadowOf(const PlacedLayer& caster, const Shadow& shadow)
+{
+    const int reach = shadowReach(shadow.blurRadius);
+    Shadow inPlace = shadow;
+    inPlace.xOffset = 0;
+    inPlace.yOffset = 0;
+    return {
+        .image = shadowLayer(caster.image, inPlace, reach),
+        .topLeft = caster.topLeft + shiftOf(shadow) - QPoint(reach, reach)};
+}
+
+QRect castingInto(const QRect& area, const Shadow& shadow)
+{
+    const int reach = shadowReach(shadow.blurRadius);
+    return area.translated(-shiftOf(shadow)).adjusted(-reach, -reach, reach, reach);
+}
+
+QRect inEvenShadowOf(const QRect& area, const Shadow& shadow)
+{
+    const int reach = shadowReach(shadow.blurRadius);
+    const QRect even = area.translated(shiftOf(shadow)).adjusted(reach, reach, -reach, -reach);
+    return even.isEmpty() ? QRect() : even;
+}
+
+PlacedLayer withShadow(
+    const std::function<PlacedLayer(const QRect&)>& render, const Shadow& shadow, const QRect& area
+)
+{
+    return composed(shadowOf(render(castingInto(area, shadow)), shadow), render(area), area);
+}
+
+QImage cellWithShadow(const QImage& cell, const Shadow& shadow)
+{
+    const PlacedLayer object{.image = cell, .topLeft = {}};
+    return composed({.image = tiledShadowLayer(cell, shadow), .topLeft = {}}, object, object.area())
+        .image;
+}
+
 QImage tiledShadowLayer(const QImage& cell, const Shadow& shadow)
 {
-    const QPoint shift(shadow.xOffset, -shadow.yOffset);
-    return shadowOf(cell, shadow, shift, cell.width(), cell.height(), Edge::Wrapped);
+    return castShadow(cell, shadow, shiftOf(shadow), cell.width(), cell.height(), Edge::Wrapped);
 }
 
 } // namespace brenvaldo::platform

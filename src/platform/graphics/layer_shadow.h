@@ -5,6 +5,9 @@
 
 #include <QImage>
 #include <QPoint>
+#include <QRect>
+
+#include <functional>
 
 namespace brenvaldo::platform {
 
@@ -19,6 +22,34 @@ struct Shadow
 
 /// Pixels by which a shadow of that blur reaches beyond the shifted object: 3 sigma.
 [[nodiscard]] int shadowReach(double blurRadius);
+
+/// A picture (premultiplied ARGB) and its place in a drawing whose y axis runs down.
+struct PlacedLayer
+{
+    QImage image;
+    QPoint topLeft;
+
+    [[nodiscard]] QRect area() const { return {topLeft, image.size()}; }
+};
+
+/// The shadow that `caster` throws.
+[[nodiscard]] PlacedLayer shadowOf(const PlacedLayer& caster, const Shadow& shadow);
+
+/// Where something that throws a shadow into `area` can stand.
+[[nodiscard]] QRect castingInto(const QRect& area, const Shadow& shadow);
+
+/// Where an object that fills all of `area` throws a shadow as if it had no edges; empty when the
+/// shadow is too soft for that.
+[[nodiscard]] QRect inEvenShadowOf(const QRect& area, const Shadow& shadow);
+
+/// An object above its shadow, as far as `area` shows them. `render` draws the part of the object
+/// inside of a rectangle; it is asked for what can be seen and for what casts the shadow.
+[[nodiscard]] PlacedLayer withShadow(
+    const std::function<PlacedLayer(const QRect&)>& render, const Shadow& shadow, const QRect& area
+);
+
+/// `cell` above the shadow of all the cells that it is repeated to without end.
+[[nodiscard]] QImage cellWithShadow(const QImage& cell, const Shadow& shadow);
 
 /// The shadow that `object` (premultiplied ARGB) casts, as a premultiplied layer of `object`'s size
 /// grown by `margin` on every side. What falls outside is cut off.

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <vector>
 
 namespace brenvaldo::platform {
 
@@ -17,57 +18,123 @@ namespace {
 
 int floorModulo(int value, int size) { return ((value % size) + size) % size; }
 
+/// A layer at its place on a photo.
+template <class Sample>
+struct LaidLayer
+{
+    std::shared_ptr<const StampLayer<Sample>> layer;
+    QPoint topLeft;
+
+    LaidLayer(
+        const QImage& image,
+        QPoint place,
+        const ImageNode& photo,
+        const std::optional<Stamp::Texture>& texture = {}
+    )
+        : layer(std::make_shared<const StampLayer<Sample>>(image, texture, photo))
+        , topLeft(place)
+    {
+    }
+
+    [[nodiscard]] bool meetsRow(int y) const
+    {
+        return y >= topLeft.y() && y < topLeft.y() + layer->height();
+    }
+    [[nodiscard]] int begin() const { return topLeft.x(); }
+    [[nodiscard]] int end() const { return topLeft.x() + layer->width(); }
+};
+
 /// Lays a stamp over the rows of a photo.
 template <class Sample>
 class StampRows
 {
 public:
     StampRows(const Stamp& stamp, const ImageNode& photo)
-        : m_layer(std::make_shared<const StampLayer<Sample>>(stamp.layer, photo))
-        , m_topLeft(stamp.topLeft)
+        : m_mark(stamp.layer, stamp.topLeft, photo, stamp.texture)
         , m_repeat(stamp.repeat)
         , m_bands(photo.pixels.bands())
     {
+        for (const Stamp::Patch& patch : stamp.patches) {
+            if (!patch.layer.isNull())
+                m_patches.emplace_back(patch.layer, patch.topLeft, photo);
+        }
     }
 
     void operator()(const KernelRow<1>& row) const
     {
         auto* photo = row.template out<Sample>();
         std::copy_n(row.template input<Sample>(0), qsizetype{row.count} * m_bands, photo);
-        const int layerY = row.y - m_topLeft.y();
         if (m_repeat == Stamp::Repeat::Tiled)
-            layTiles(photo, floorModulo(layerY, m_layer->height()), row.x, row.count);
-        else if (layerY >= 0 && layerY < m_layer->height())
-            layOnce(photo, layerY, row.x, row.count);
+            layTilesAndPatches({photo, row.x, row.x + row.count, row.y});
+        else
+            layOnce(m_mark, {photo, row.x, row.x + row.count, row.y});
     }
 
 private:
-    void layOnce(Sample* photo, int layerY, int x, int count) const
+    /// Pixels of one row of the photo, from `begin` to before `end`.
+    struct Span
     {
-        const int begin = std::max(x, m_topLeft.x());
-        const int end = std::min(x + count, m_topLeft.x() + m_layer->width());
-        if (begin < end)
-            layRun(photo, begin - x, begin - m_topLeft.x(), layerY, end - begin);
+        Sample* pixels;
+        int begin;
+        int end;
+        int y;
+    };
+
+    Span part(const Span& span, int begin, int end) const
+    {
+        return {span.pixels + qsizetype{begin - span.begin} * m_bands, begin, end, span.y};
     }
 
-    void layTiles(Sample* photo, int layerY, int x, int count) const
+    void layTilesAndPatches(const Span& span) const
     {
-        int column = floorModulo(x - m_topLeft.x(), m_layer->width());
-        for (int done = 0; done < count;) {
-            const int run = std::min(count - done, m_layer->width() - column);
-            layRun(photo, done, column, layerY, run);
-            done += run;
+        for (int x = span.begin; x < span.end;) {
+            int next = span.end; // where another patch begins
+            const LaidLayer<Sample>* patch = nullptr;
+            for (const LaidLayer<Sample>& candidate : m_patches) {
+                if (!candidate.meetsRow(span.y))
+                    continue;
+                if (candidate.begin() > x)
+                    next = std::min(next, candidate.begin());
+                else if (candidate.end() > x)
+                    patch = &candidate;
+            }
+            const int end = patch != nullptr ? std::min(span.end, patch->end()) : next;
+            if (patch != nullptr)
+                layOnce(*patch, part(span, x, end));
+            else
+                layTiles(part(span, x, end));
+            x = end;
+        }
+    }
+
+    void layOnce(const LaidLayer<Sample>& laid, const Span& span) const
+    {
+        const int begin = std::max(span.begin, laid.begin());
+        const int end = std::min(span.end, laid.end());
+        if (laid.meetsRow(span.y) && begin < end)
+            laid.layer->layOver(
+                part(span, begin, end).pixels,
+                begin - laid.begin(),
+                span.y - laid.topLeft.y(),
+                end - begin
+            );
+    }
+
+    void layTiles(const Span& span) const
+    {
+        const StampLayer<Sample>& layer = *m_mark.layer;
+        const int row = floorModulo(span.y - m_mark.topLeft.y(), layer.height());
+        int column = floorModulo(span.begin - m_mark.topLeft.x(), layer.width());
+        for (int x = span.begin; x < span.end;) {
+            const int count = std::min(span.end - x, layer.width() - column);
+            layer.layOver(part(span, x, x + count).pixels, column, row, count);
+            x += count;
             column = 0;
         }
     }
 
-    void layRun(Sample* photo, int photoX, int layerX, int layerY, int count) const
-    {
-        m_layer->layOver(photo + qsizetype{photoX} * m_bands, layerX, layerY, count);
-    }
-
-    std::shared_ptr<const StampLayer<Sample>> m_layer;
-    QPoint m_topLeft;
+    LaidLayer<Sample> m_mark;
+    std::vector<LaidLayer<Sample>> m_patches;
     Stamp::Repeat m_repeat;
     int m_bands;
 };

@@ -4,7 +4,10 @@
 #include "image.h"
 
 #include <QImage>
+#include <QList>
 #include <QPoint>
+#include <QSize>
+#include <QTransform>
 
 #include <functional>
 #include <optional>
@@ -22,6 +25,25 @@ struct Stamp
     QImage layer; ///< sRGB, with alpha; a null layer leaves no mark
     QPoint topLeft; ///< place on the photo, whose origin is its top left corner; may lie outside
     Repeat repeat = Repeat::Once;
+
+    /// A picture that shows in parts of the layer, in its own colours and depth.
+    struct Texture
+    {
+        Image picture; ///< in memory; repeated without end
+        QImage share; ///< 8-bit grey, as large as the layer: opacity that is added to the layer's
+        QTransform toPicture; ///< from what the layer shows, whose top left corner is `origin`
+        QPoint origin = {};
+        QSize period = {}; ///< what the layer shows begins anew after so many pixels; empty: never
+    };
+    std::optional<Texture> texture = {};
+
+    /// A part of the photo where another layer stands instead of the repeated one.
+    struct Patch
+    {
+        QImage layer; ///< as large as the part
+        QPoint topLeft;
+    };
+    QList<Patch> patches = {}; ///< of a tiled stamp; they don't overlap
 };
 
 /// `photo` with the stamp on it; its size, depth, colour model, alpha and profile stay.

@@ -2,7 +2,9 @@
 #include "stamp_layer.h"
 
 #include "color_profile.h"
+#include "deferred_pixels.h"
 #include "evaluation.h"
+#include "layer_texture.h"
 
 #include <algorithm>
 #include <limits>
@@ -47,7 +49,9 @@ mix(Sample* __restrict photo,
 } // namespace
 
 template <class Sample>
-StampLayer<Sample>::StampLayer(const QImage& layer, const ImageNode& photo)
+StampLayer<Sample>::StampLayer(
+    const QImage& layer, const std::optional<Stamp::Texture>& texture, const ImageNode& photo
+)
     : m_width(layer.width())
     , m_height(layer.height())
     , m_colors(colorBands(photo.colorModel))
@@ -56,10 +60,26 @@ StampLayer<Sample>::StampLayer(const QImage& layer, const ImageNode& photo)
     , m_weights(m_samples.size())
 {
     const Image straight = Image::fromQImage(layer.convertToFormat(QImage::Format_RGBA8888));
-    forEachRow(
-        srgbLayerInColorsOf(straight.node()->pixels, photo),
-        [this](const uchar* row, int y) { takeRow(reinterpret_cast<const Sample*>(row), y); }
-    );
+    takeRows(srgbLayerInColorsOf(straight.node()->pixels, photo), texture, photo);
+}
+
+template <class Sample>
+void StampLayer<Sample>::takeRows(
+    const vips::VImage& layer, const std::optional<Stamp::Texture>& texture, const ImageNode& photo
+)
+{
+    const auto samples = [](const uchar* row) { return reinterpret_cast<const Sample*>(row); };
+    if (!texture) {
+        forEachRow(layer, [&](const uchar* row, int y) { takeRow(samples(row), y); });
+        return;
+    }
+    const LayerTexture<Sample> filling(*texture, photo);
+    std::vector<Sample> filled(static_cast<std::size_t>(m_width * (m_colors + 1)));
+    forEachRow(layer, [&](const uchar* row, int y) {
+        std::copy_n(samples(row), filled.size(), filled.begin());
+        filling.addTo(filled.data(), y);
+        takeRow(filled.data(), y);
+    });
 }
 
 template <class Sample>

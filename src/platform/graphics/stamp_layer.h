@@ -15,7 +15,9 @@ class StampLayer
 {
 public:
     /// Throws `vips::VError` when the colours can't be brought to those of the photo.
-    StampLayer(const QImage& layer, const ImageNode& photo);
+    StampLayer(
+        const QImage& layer, const std::optional<Stamp::Texture>& texture, const ImageNode& photo
+    );
 
     [[nodiscard]] int width() const { return m_width; }
     [[nodiscard]] int height() const { return m_height; }
@@ -32,6 +34,11 @@ private:
     };
 
     [[nodiscard]] std::size_t sampleAt(int x, int y) const;
+    void takeRows(
+        const vips::VImage& layer,
+        const std::optional<Stamp::Texture>& texture,
+        const ImageNode& photo
+    );
     void takeRow(const Sample* row, int y);
     void takeRuns(const Sample* row);
     void layRun(Sample* photo, std::size_t first, int count) const;

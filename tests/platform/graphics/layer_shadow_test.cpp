@@ -98,3 +98,45 @@ TEST(TiledShadow, IsThatOfManyCellsSideBySide)
 
     EXPECT_EQ(tiledShadowLayer(cell, shadow), middle);
 }
+
+TEST(ObjectWithShadow, ShowsTheShadowOfWhatStandsOutsideOfTheArea)
+{
+    // A square far to the left of what is shown.
+    const PlacedLayer square{.image = filled({10, 10}, {0, 0, 10, 10}), .topLeft = {-100, 5}};
+    const auto render = [&square](const QRect& area) -> PlacedLayer {
+        return area.intersects(square.area()) ? square : PlacedLayer{};
+    };
+    const Shadow shadow{.color = {.red = 1}, .xOffset = 103, .yOffset = -2, .blurRadius = 0};
+
+    const PlacedLayer shown = withShadow(render, shadow, {0, 0, 40, 30});
+
+    const QPoint corner = QPoint(3, 7) - shown.topLeft;
+    EXPECT_EQ(shown.image.pixel(corner), qRgb(255, 0, 0));
+    EXPECT_EQ(shown.image.pixel(corner + QPoint(9, 9)), qRgb(255, 0, 0));
+    EXPECT_TRUE(QRect(0, 0, 40, 30).contains(shown.area()));
+}
+
+TEST(ObjectWithShadow, StandsAboveItsShadow)
+{
+    const PlacedLayer square{.image = filled({10, 10}, {0, 0, 10, 10}), .topLeft = {5, 5}};
+    const Shadow shadow{.color = {.red = 1}, .xOffset = 4, .yOffset = -4, .blurRadius = 0};
+
+    const PlacedLayer shown
+        = withShadow([&square](const QRect&) { return square; }, shadow, {0, 0, 40, 30});
+
+    EXPECT_EQ(shown.area(), QRect(5, 5, 14, 14));
+    EXPECT_EQ(shown.image.pixel(9, 9), qRgb(255, 255, 255));
+    EXPECT_EQ(shown.image.pixel(10, 10), qRgb(255, 0, 0));
+    EXPECT_EQ(qAlpha(shown.image.pixel(13, 3)), 0);
+}
+
+TEST(ObjectWithShadow, IsEvenlyShadedAwayFromTheEdgesOfWhatCastsIt)
+{
+    const QRect area(0, 0, 100, 80);
+
+    EXPECT_EQ(
+        inEvenShadowOf(area, {.xOffset = 10, .yOffset = 5, .blurRadius = 4}),
+        QRect(QPoint(16, 1), QPoint(103, 68))
+    );
+    EXPECT_EQ(inEvenShadowOf(area, {.blurRadius = 60}), QRect());
+}
