@@ -1,0 +1,296 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "marked_text.h"
+
+#include <platform/graphics/image_destination.h>
+#include <support/case_name.h>
+#include <support/color_profiles.h>
+#include <support/photo_builder.h>
+#include <support/pixel_probe.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+using namespace brenvaldo;
+using namespace brenvaldo::test;
+using namespace brenvaldo::watermark;
+
+namespace {
+
+constexpr int topLeft = 0;
+constexpr int centre = 4;
+constexpr int bottomLeft = 6;
+
+struct KindCase
+{
+    const char* name;
+    PhotoModel model;
+    int depth;
+    bool isWide = false;
+
+    friend void PrintTo(const KindCase& row, std::ostream* out) { *out << row.name; }
+};
+
+class TextFilledWithThePhoto : public testing::TestWithParam<KindCase>
+{
+protected:
+    /// A photo with levels of its full depth: enlarged from a few pixels.
+    [[nodiscard]] platform::Image photo() const
+    {
+        const KindCase& row = GetParam();
+        PhotoBuilder builder;
+        builder.size(16, 12).model(row.model).depth(row.depth).format(PhotoFormat::Tiff);
+        builder.pixels([](int x, int y) {
+            return Samples{x * 16, 255 - y * 20, (x + y) * 9, 100 + x, 90};
+        });
+        if (row.isWide)
+            builder.iccProfile(wideProfile());
+        const QString path = builder.write(folder.path(QStringLiteral("photo.tif")));
+        return openedPhoto(path).image()->scaledTo({160, 120}).copiedToMemory().value();
+    }
+
+    /// All samples, whatever their depth and colour model.
+    [[nodiscard]] QByteArray samplesOf(const platform::Image& image) const
+    {
+        const QString path = folder.path(QStringLiteral("samples.tiff"));
+        if (!platform::encode(image, platform::FileFormat::Tiff, {}, path))
+            return {};
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    TemporaryFolder folder;
+};
+
+platform::Image marked(const TextWatermarkSettings& settings, const platform::Image& photo)
+{
+    return platform::stamped(photo, textMark(settings, settings.text, blockFont(), photo));
+}
+
+TextWatermarkSettings blockOfThePhoto(int fontSize = 40, int anchor = bottomLeft)
+{
+    TextWatermarkSettings settings = whiteBlock();
+    settings.effect = TextEffect::Photo;
+    settings.fontSize = fontSize;
+    settings.placement.anchor = anchor;
+    return settings;
+}
+
+/// Red tells the column, green the row.
+platform::Image coordinates()
+{
+    QImage image(161, 121, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, qRgb(x, y, 200));
+    }
+    return platform::Image::fromQImage(image);
+}
+
+} // namespace
+
+TEST_P(TextFilledWithThePhoto, IsThePhotoWhereItStandsOnTheCornerThatFillsIt)
+{
+    const platform::Image plain = photo();
+
+    EXPECT_EQ(samplesOf(marked(blockOfThePhoto(), plain)), samplesOf(plain));
+    EXPECT_NE(samplesOf(marked(blockOfThePhoto(40, centre), plain)), samplesOf(plain));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    TextFilledWithThePhoto,
+    testing::Values(
+        KindCase{"Rgb8", PhotoModel::Rgb, 8},
+        KindCase{"WideRgb8", PhotoModel::Rgb, 8, true},
+        KindCase{"WideRgb16", PhotoModel::Rgb, 16, true},
+        KindCase{"Gray16", PhotoModel::Gray, 16},
+        KindCase{"Cmyk8", PhotoModel::Cmyk, 8}
+    ),
+    CaseName()
+);
+
+TEST(TextFill, OfAWideGamutPhotoIsAsSaturatedAsThePhoto)
+{
+    const TemporaryFolder folder;
+    const QString path = PhotoBuilder()
+                             .size(120, 80)
+                             .solid({0, 255, 0})
+                             .iccProfile(wideProfile())
+                             .format(PhotoFormat::Png)
+                             .write(folder.path(QStringLiteral("a.png")));
+    const platform::Image photo = openedPhoto(path).image()->copiedToMemory().value();
+    const QString target = folder.path(QStringLiteral("b.png"));
+
+    ASSERT_TRUE(platform::encode(
+        marked(blockOfThePhoto(40, centre), photo), platform::FileFormat::Png, {}, target
+    ));
+
+    EXPECT_EQ(QImage(target).pixel(60, 40), qRgb(0, 255, 0));
+}
+
+TEST(TextFill, InBlackAndWhiteHasTheLevelsOfADeepPhoto)
+{
+    const TemporaryFolder folder;
+    const QString path = PhotoBuilder()
+                             .size(120, 80)
+                             .depth(16)
+                             .solid({200, 100, 50})
+                             .format(PhotoFormat::Png)
+                             .write(folder.path(QStringLiteral("a.png")));
+    const platform::Image photo = openedPhoto(path).image()->copiedToMemory().value();
+    TextWatermarkSettings settings = blockOfThePhoto(40, centre);
+    settings.effect = TextEffect::NoirPhoto;
+    const QString target = folder.path(QStringLiteral("b.png"));
+
+    ASSERT_TRUE(platform::encode(marked(settings, photo), platform::FileFormat::Png, {}, target));
+
+    const QRgba64 middle = QImage(target).pixelColor(60, 40).rgba64();
+    EXPECT_NEAR(middle.red(), 27882, 1);
+    EXPECT_EQ(middle.green(), middle.red());
+    EXPECT_EQ(middle.blue(), middle.red());
+}
+
+TEST(TextFill, TallerThanThePhotoStartsAtTheBottomLeft)
+{
+    const platform::Image photo = coordinates();
+
+    const QImage found = marked(blockOfThePhoto(400), photo).toQImage();
+
+    EXPECT_EQ(largestDifference(found, photo.toQImage()), 0);
+}
+
+TEST(TextFill, BeginsAnewBehindThePhotosEdges)
+{
+    const platform::Image photo = coordinates();
+    TextWatermarkSettings settings = blockOfThePhoto(400);
+    settings.placement.xOffset = -50;
+    settings.placement.yOffset = -30;
+
+    const QImage found = marked(settings, photo).toQImage();
+
+    EXPECT_EQ(found.pixel(20, 100), qRgb(70, 70, 200));
+    EXPECT_EQ(found.pixel(120, 20), qRgb(9, 111, 200));
+}
+
+TEST(TextFill, TurnsWithItsLayer)
+{
+    const platform::Image photo = coordinates();
+    TextWatermarkSettings settings = blockOfThePhoto(40, topLeft);
+    const QRect upright = blockOnItsLayer(settings);
+    const platform::PixelSize layer = overlayOf(settings, photo).size();
+    settings.placement.angle = 180;
+
+    const QImage found = marked(settings, photo).toQImage();
+
+    const QPoint inBlock = upright.center();
+    const QPoint turned(layer.width - 1 - inBlock.x(), layer.height - 1 - inBlock.y());
+    const QRgb pixel = found.pixel(turned);
+    EXPECT_NEAR(qRed(pixel), inBlock.x(), 1);
+    EXPECT_NEAR(qGreen(pixel), photo.height() - layer.height + inBlock.y(), 1);
+}
+
+TEST(TextFill, IsTheSameInEachTile)
+{
+    const platform::Image photo = coordinates();
+    TextWatermarkSettings settings = blockOfThePhoto(40);
+    settings.isTiled = true;
+    settings.placement.xOffset = 8;
+    settings.placement.yOffset = 6;
+    const platform::PixelSize layer = overlayOf(settings, photo).size();
+    const QImage found = marked(settings, photo).toQImage();
+
+    const TileSpan across = tileSpan(photo.width(), layer.width);
+    const TileSpan along = tileSpan(photo.height(), layer.height);
+    const QPoint inBlock = blockOnItsLayer(settings).center();
+    for (const int column : {0, 1, 2}) {
+        // The second row of cells from below, each with half of the gap around the layer.
+        const QPoint corner(
+            column * (layer.width + 8) + 4 - across.overhang,
+            photo.height() + along.overhang - (layer.height + 6) - 3 - layer.height
+        );
+        const QRgb pixel = found.pixel(corner + inBlock);
+        EXPECT_NEAR(qRed(pixel), inBlock.x(), 1) << column;
+        EXPECT_NEAR(qGreen(pixel), photo.height() - layer.height + inBlock.y(), 1) << column;
+    }
+}
+
+TEST(TextFill, OfATileLargerThanThePhotoIsThatOfSmallOnes)
+{
+    const platform::Image photo = coordinates();
+    TextWatermarkSettings settings = blockOfThePhoto(5000);
+    settings.isTiled = true;
+    const platform::PixelSize layer = overlayOf(settings, photo).size();
+    ASSERT_GT(layer.width * layer.height, 16'000'000);
+
+    const QImage found = marked(settings, photo).toQImage();
+
+    // From the layer's bottom left corner, which lies outside.
+    const int x = 80 + tileSpan(photo.width(), layer.width).overhang;
+    const int y = 60 + tileSpan(photo.height(), layer.height).overhang;
+    EXPECT_EQ(found.pixel(80, 120 - 60), qRgb(x % 161, 120 - y % 121, 200));
+}
+
+TEST(TextFill, HasTheStrengthOfTheOpacityOnce)
+{
+    QImage ground(161, 121, QImage::Format_RGB32);
+    ground.fill(qRgb(10, 20, 30));
+    for (int y = 60; y < 121; ++y) {
+        for (int x = 0; x < 80; ++x)
+            ground.setPixel(x, y, qRgb(210, 120, 230)); // what fills the glyphs
+    }
+    TextWatermarkSettings settings = blockOfThePhoto(40, 2);
+    settings.opacity = 0.5;
+
+    const QImage found = marked(settings, platform::Image::fromQImage(ground)).toQImage();
+
+    const QRgb pixel = found.pixel(changedBox(found.copy(81, 0, 80, 60)).center() + QPoint(81, 0));
+    EXPECT_NEAR(qRed(pixel), 110, 1);
+    EXPECT_NEAR(qGreen(pixel), 70, 1);
+    EXPECT_NEAR(qBlue(pixel), 130, 1);
+}
+
+TEST(TextFill, IsAsTransparentAsThePhoto)
+{
+    QImage ground(161, 121, QImage::Format_ARGB32);
+    ground.fill(qRgba(10, 20, 30, 255));
+    for (int y = 60; y < 121; ++y) {
+        for (int x = 0; x < 80; ++x)
+            ground.setPixel(x, y, qRgba(200, 100, 50, 102));
+    }
+    const platform::Image photo = platform::Image::fromQImage(ground);
+
+    const QImage found = marked(blockOfThePhoto(40, 2), photo).toQImage();
+
+    const QRgb pixel = found.pixel(changedBox(found.copy(81, 0, 80, 60)).center() + QPoint(81, 0));
+    EXPECT_NEAR(qRed(pixel), 10 + 190 * 0.4, 1);
+    EXPECT_NEAR(qGreen(pixel), 20 + 80 * 0.4, 1);
+    EXPECT_NEAR(qBlue(pixel), 30 + 20 * 0.4, 1);
+}
+
+TEST(TextFill, StandsAboveItsOwnShadow)
+{
+    const platform::Image photo = coordinates();
+    TextWatermarkSettings settings = blockOfThePhoto(40);
+    settings.text = block() + QLatin1Char(' ');
+    settings.shadow
+        = platform::Shadow{.color = {.red = 1}, .xOffset = 4, .yOffset = 0, .blurRadius = 0};
+
+    const QImage found = marked(settings, photo).toQImage();
+
+    int red = 0;
+    int others = 0;
+    for (int y = 0; y < found.height(); ++y) {
+        for (int x = 0; x < found.width(); ++x) {
+            const QRgb pixel = found.pixel(x, y);
+            if (pixel == qRgb(255, 0, 0))
+                ++red;
+            else
+                others += pixel == qRgb(x, y, 200) ? 0 : 1;
+        }
+    }
+    EXPECT_GT(red, 60); // a stripe beside the block
+    EXPECT_LT(others, red); // its soft edges
+}
