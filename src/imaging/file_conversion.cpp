@@ -3,6 +3,7 @@
 
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
+#include <platform/graphics/image_destination.h>
 #include <platform/graphics/image_source.h>
 #include <platform/metadata/image_file_writer.h>
 #include <platform/metadata/metadata_reader.h>
@@ -31,10 +32,20 @@ std::optional<platform::Image> storedPhoto(const QString& path)
 }
 
 /// True when every pixel of the photo can be computed.
-bool isWhole(const QString& path)
+bool isWhole(const platform::Image& photo)
+{
+    return photo.scaledTo({1, 1}).copiedToMemory().has_value();
+}
+
+/// True when no picture of that format can be made of the file: it is no photo, or the encoder
+/// fails without a disk, too. A damaged photo is another matter.
+bool isRefused(const QString& path, platform::FileFormat format)
 {
     const auto photo = storedPhoto(path);
-    return photo && photo->scaledTo({1, 1}).copiedToMemory();
+    if (!photo)
+        return true;
+    return isWhole(*photo)
+        && !platform::encode(*storedPhoto(path), format, {}, QStringLiteral("/dev/null"));
 }
 
 bool writeConverted(
@@ -65,10 +76,11 @@ convert(const FileConversion::Settings& settings, const ConversionRule& rule, co
     if (writeConverted(settings, rule, target))
         return ResultWord::Ok;
 
-    // What the metadata route writes at its end is empty when the photo can't be read. A full disk
-    // leaves what stands there, and a photo is never emptied by its own conversion.
+    // What the metadata route writes at its end is empty when its destination failed. A full disk
+    // and a damaged photo leave what stands there, and so does a photo that is its own target.
     if (rule.route == ConversionRule::Route::Metadata
-        && QFileInfo(target) != QFileInfo(settings.source) && !isWhole(settings.source))
+        && QFileInfo(target) != QFileInfo(settings.source)
+        && isRefused(settings.source, rule.format))
         std::ignore = platform::writeFileAtomically(target, {});
     return ResultWord::Failed;
 }

@@ -237,16 +237,20 @@ TEST(FileConversion, LeavesTheOldFileOnAFullDisk)
     const auto busy = [](int x, int y) { return Samples{x * y % 256, x * 7 % 256, y * 5 % 256}; };
     const QString source
         = PhotoBuilder().size(400, 300).pixels(busy).write(folder.path(u"photo.jpg"_qs));
-    const QString target = folder.write(u"out.png"_qs, "output of a run before");
-    ConversionResult result;
+    for (const QString& type : {u"png"_qs, u"tiff"_qs, u"heic"_qs}) {
+        const QString target = folder.write(u"out."_qs + type, "output of a run before");
+        ConversionResult result;
 
-    {
-        const FullDisk full(4096);
-        result = FileConversion().hConvertFileType({source, u"public.png"_qs, u"8"_qs, target});
+        {
+            const FullDisk full(4096);
+            result
+                = FileConversion().hConvertFileType({source, u"public."_qs + type, u"8"_qs, target}
+                );
+        }
+
+        EXPECT_EQ(result.word, ResultWord::Failed) << type.toStdString();
+        EXPECT_EQ(TemporaryFolder::read(target), "output of a run before") << type.toStdString();
     }
-
-    EXPECT_EQ(result.word, ResultWord::Failed);
-    EXPECT_EQ(TemporaryFolder::read(target), "output of a run before");
 }
 
 TEST(FileConversion, NeverEmptiesADamagedPhotoThatIsItsOwnTarget)
@@ -262,18 +266,48 @@ TEST(FileConversion, NeverEmptiesADamagedPhotoThatIsItsOwnTarget)
     EXPECT_EQ(TemporaryFolder::read(source), whole.left(whole.size() / 2));
 }
 
-TEST(FileConversion, LeavesAnEmptyFileOfTheMetadataRouteForADamagedPhoto)
+TEST(FileConversion, LeavesTheOldFileOfTheMetadataRouteWhenThePhotoIsDamaged)
 {
     const TemporaryFolder folder;
     const QByteArray whole = PhotoBuilder().size(400, 300).bytes();
     const QString source = folder.write(u"half.jpg"_qs, whole.left(whole.size() / 2));
-    const QString target = folder.write(u"out.png"_qs, "output of a run before");
+    for (const QString& type : {u"png"_qs, u"tiff"_qs, u"heic"_qs}) {
+        const QString target = folder.write(u"out."_qs + type, "output of a run before");
+
+        const ConversionResult result
+            = FileConversion().hConvertFileType({source, u"public."_qs + type, u"8"_qs, target});
+
+        EXPECT_EQ(result.word, ResultWord::Failed);
+        EXPECT_EQ(TemporaryFolder::read(target), "output of a run before");
+    }
+}
+
+TEST(FileConversion, LeavesAnEmptyFileOfTheMetadataRouteWhenTheEncoderRefusesThePicture)
+{
+    const TemporaryFolder folder;
+    const QString source // higher than a HEIC can be
+        = PhotoBuilder().size(1, 65537).format(PhotoFormat::Png).write(folder.path(u"long.png"_qs));
+    const QString target = folder.write(u"out.heic"_qs, "output of a run before");
 
     const ConversionResult result
-        = FileConversion().hConvertFileType({source, u"public.png"_qs, u"8"_qs, target});
+        = FileConversion().hConvertFileType({source, u"public.heic"_qs, u"8"_qs, target});
 
     EXPECT_EQ(result.word, ResultWord::Failed);
     EXPECT_EQ(TemporaryFolder::read(target), QByteArray());
+}
+
+TEST(FileConversion, NeverEmptiesAPhotoThatIsItsOwnTargetForARefusingEncoder)
+{
+    const TemporaryFolder folder;
+    const QString source
+        = PhotoBuilder().size(1, 65537).format(PhotoFormat::Png).write(folder.path(u"long.png"_qs));
+    const QByteArray before = TemporaryFolder::read(source);
+
+    const ConversionResult result
+        = FileConversion().hConvertFileType({source, u"public.heic"_qs, u"8"_qs, source});
+
+    EXPECT_EQ(result.word, ResultWord::Failed);
+    EXPECT_EQ(TemporaryFolder::read(source), before);
 }
 
 TEST(SaveAsFileType, RemovesTheSourceEvenForAWordThatItDoesNotKnow)
