@@ -2,6 +2,7 @@
 #include <metadata/metadata_texts.h>
 #include <metadata/mmeta.h>
 #include <support/case_name.h>
+#include <support/color_profiles.h>
 #include <support/exif_block.h>
 #include <support/iptc_block.h>
 #include <support/photo_builder.h>
@@ -39,6 +40,32 @@ PhotoBuilder photoWithIptc(const QByteArray& dataSets)
     return PhotoBuilder{}.jpegSegment('\xED', test::iptcSegmentContents(dataSets));
 }
 
+/// The fields that IPTC data sets have no place for stand in XMP.
+PhotoBuilder photoWithEveryIptcField()
+{
+    return photoWithComment("hello")
+        .jpegSegment(
+            '\xED',
+            test::iptcSegmentContents(
+                iptcDataSet(5, "title") + iptcDataSet(25, "a") + iptcDataSet(25, "b")
+                + iptcDataSet(120, "caption") + iptcDataSet(105, "headline")
+                + iptcDataSet(116, "(c) Jane") + iptcDataSet(80, "Jane") + iptcDataSet(85, "Editor")
+                + iptcDataSet(115, "source") + iptcDataSet(118, "contact")
+                + iptcDataSet(122, "writer")
+            )
+        )
+        .xmp("<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
+             "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description "
+             "rdf:about='' xmlns:xmpRights='http://ns.adobe.com/xap/1.0/rights/' "
+             "xmlns:Iptc4xmpCore='http://iptc.org/std/Iptc4xmpCore/1.0/xmlns/'>"
+             "<xmpRights:UsageTerms><rdf:Alt><rdf:li xml:lang='x-default'>ask</rdf:li></rdf:Alt>"
+             "</xmpRights:UsageTerms>"
+             "<Iptc4xmpCore:CreatorContactInfo rdf:parseType='Resource'>"
+             "<Iptc4xmpCore:CiAdrCity>Bern</Iptc4xmpCore:CiAdrCity>"
+             "<Iptc4xmpCore:CiEmailWork>jane@example.org</Iptc4xmpCore:CiEmailWork>"
+             "</Iptc4xmpCore:CreatorContactInfo></rdf:Description></rdf:RDF></x:xmpmeta>");
+}
+
 class Meta : public testing::Test
 {
 protected:
@@ -61,6 +88,25 @@ protected:
         return m_panels.vwPhotoInfo.mTree.arrangedObjects();
     }
 
+    /// The texts of the twelve IPTC fields, in the order of their panel.
+    [[nodiscard]] QStringList shownIptc() const
+    {
+        const panels::ExifPanel& panel = m_panels.vwFileManagementEXIF;
+        return {
+            panel.tfIPTCTitle.stringValue(),
+            panel.tfIPTCKeyWords.stringValue(),
+            panel.tfIPTCCaption.stringValue(),
+            panel.tfIPTCHeadline.stringValue(),
+            panel.tfIPTCCopyRight.stringValue(),
+            panel.tfIPTCCopyRightTerms.stringValue(),
+            panel.tfIPTCCreator.stringValue(),
+            panel.tfIPTCCreatorTitle.stringValue(),
+            panel.tfIPTCSourceOwner.stringValue(),
+            panel.tfIPTCImageContactInfo.stringValue(),
+            panel.tfIPTCEditorContactInfo.stringValue(),
+            panel.tfIPTCCreatorContactInfo.stringValue()};
+    }
+
     test::TemporaryFolder m_folder;
     panels::Panels m_panels;
     mMeta m_meta{m_panels};
@@ -74,6 +120,7 @@ TEST_F(Meta, ShowsThatAPhotoWithoutExifHasNoCommentAndStillItsTree)
 
     m_meta.hiDoNothing(path);
 
+    EXPECT_EQ(m_panels.vwPhotoInfo.tfActiveFilePath.stringValue(), path);
     EXPECT_EQ(shownComment(), metadata::notSupportedOrAvailableText());
     EXPECT_TRUE(shownRows().contains(QStringList({u"0"_qs, u"PixelWidth"_qs, u"47"_qs})));
 }
@@ -123,7 +170,12 @@ TEST_F(Meta, GivesANestedDictionaryAsANodeWithSortedChildren)
 
 TEST_F(Meta, AnswersTheComment)
 {
-    EXPECT_EQ(mMeta::hGetExifUc(jpeg(photoWithComment("hello")), userComment), u"hello"_qs);
+    const QString path = jpeg(photoWithComment("hello"));
+
+    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), u"hello"_qs);
+    EXPECT_EQ(
+        mMeta::hGetExifUcFromSource(*mMeta::getMyImageSource(path), userComment), u"hello"_qs
+    );
 }
 
 TEST_F(Meta, TakesACommentOfBlanksForNone)
@@ -160,6 +212,9 @@ TEST_F(Meta, AnswersTheDateForEveryOtherName)
 
     EXPECT_EQ(mMeta::hGetExifUc(path, creationDate), u"2026:11:15 10:44:33"_qs);
     EXPECT_EQ(mMeta::hGetExifUc(path, u"anything"_qs), u"2026:11:15 10:44:33"_qs);
+    const auto source = *mMeta::getMyImageSource(path);
+    EXPECT_EQ(mMeta::hGetExifUcFromSource(source, creationDate), u"2026:11:15 10:44:33"_qs);
+    EXPECT_EQ(mMeta::hGetExifUcFromSource(source, u"anything"_qs), u"2026:11:15 10:44:33"_qs);
 }
 
 TEST_F(Meta, AnswersTheIptcTimeInPlaceOfAnEmptyDate)
@@ -273,65 +328,43 @@ INSTANTIATE_TEST_SUITE_P(
     test::CaseName{}
 );
 
-TEST_F(Meta, FillsTheIptcFields)
+TEST_F(Meta, FillsTheIptcFieldsAndEmptiesThemForAPhotoWithoutIptc)
 {
-    const QString path = jpeg(photoWithComment("hello").jpegSegment(
-        '\xED',
-        test::iptcSegmentContents(
-            iptcDataSet(5, "title") + iptcDataSet(25, "a") + iptcDataSet(25, "b")
-            + iptcDataSet(120, "caption") + iptcDataSet(116, "(c) Jane") + iptcDataSet(80, "Jane")
-            + iptcDataSet(85, "Editor") + iptcDataSet(115, "source") + iptcDataSet(118, "contact")
-            + iptcDataSet(122, "writer")
-        )
-    ));
+    const QString full = write(photoWithEveryIptcField(), u"full.jpg"_qs);
+    const QString empty = write(PhotoBuilder{}, u"empty.jpg"_qs);
 
-    const QString answer = m_meta.hGetMetaData(path);
-
-    const panels::ExifPanel& panel = m_panels.vwFileManagementEXIF;
-    EXPECT_EQ(answer, u"OK"_qs);
+    EXPECT_EQ(m_meta.hGetMetaData(full), u"OK"_qs);
     EXPECT_EQ(shownComment(), u"hello"_qs);
-    EXPECT_EQ(panel.tfIPTCTitle.stringValue(), u"title"_qs);
-    EXPECT_EQ(panel.tfIPTCKeyWords.stringValue(), u"a;b;"_qs);
-    EXPECT_EQ(panel.tfIPTCCaption.stringValue(), u"caption"_qs);
-    EXPECT_EQ(panel.tfIPTCHeadline.stringValue(), QString());
-    EXPECT_EQ(panel.tfIPTCCopyRight.stringValue(), u"(c) Jane"_qs);
-    EXPECT_EQ(panel.tfIPTCCreator.stringValue(), u"Jane"_qs);
-    EXPECT_EQ(panel.tfIPTCCreatorTitle.stringValue(), u"Editor"_qs);
-    EXPECT_EQ(panel.tfIPTCSourceOwner.stringValue(), u"source"_qs);
-    EXPECT_EQ(panel.tfIPTCImageContactInfo.stringValue(), u"contact"_qs);
-    EXPECT_EQ(panel.tfIPTCEditorContactInfo.stringValue(), u"writer"_qs);
-}
+    EXPECT_EQ(
+        shownIptc(),
+        (QStringList{
+            u"title"_qs,
+            u"a;b;"_qs,
+            u"caption"_qs,
+            u"headline"_qs,
+            u"(c) Jane"_qs,
+            u"ask"_qs,
+            u"Jane"_qs,
+            u"Editor"_qs,
+            u"source"_qs,
+            u"contact"_qs,
+            u"writer"_qs,
+            u"Bern; jane@example.org"_qs})
+    );
 
-TEST_F(Meta, FillsTheFieldsThatOnlyXmpHas)
-{
-    const QString path = jpeg(PhotoBuilder{}.xmp(
-        "<x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF "
-        "xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'><rdf:Description rdf:about='' "
-        "xmlns:xmpRights='http://ns.adobe.com/xap/1.0/rights/' "
-        "xmlns:Iptc4xmpCore='http://iptc.org/std/Iptc4xmpCore/1.0/xmlns/'>"
-        "<xmpRights:UsageTerms><rdf:Alt><rdf:li xml:lang='x-default'>ask</rdf:li></rdf:Alt>"
-        "</xmpRights:UsageTerms>"
-        "<Iptc4xmpCore:CreatorContactInfo rdf:parseType='Resource'>"
-        "<Iptc4xmpCore:CiAdrCity>Bern</Iptc4xmpCore:CiAdrCity>"
-        "<Iptc4xmpCore:CiEmailWork>jane@example.org</Iptc4xmpCore:CiEmailWork>"
-        "</Iptc4xmpCore:CreatorContactInfo></rdf:Description></rdf:RDF></x:xmpmeta>"
-    ));
-
-    m_meta.hGetMetaData(path);
-
-    const panels::ExifPanel& panel = m_panels.vwFileManagementEXIF;
-    EXPECT_EQ(panel.tfIPTCCopyRightTerms.stringValue(), u"ask"_qs);
-    EXPECT_EQ(panel.tfIPTCCreatorContactInfo.stringValue(), u"Bern; jane@example.org"_qs);
-}
-
-TEST_F(Meta, EmptiesTheIptcFieldsForAPhotoWithoutIptc)
-{
-    m_meta.hGetMetaData(jpeg(photoWithIptc(iptcDataSet(5, "title"))));
-
-    m_meta.hGetMetaData(write(PhotoBuilder{}, u"b.jpg"_qs));
-
-    EXPECT_EQ(m_panels.vwFileManagementEXIF.tfIPTCTitle.stringValue(), QString());
+    EXPECT_EQ(m_meta.hGetMetaData(empty), u"OK"_qs);
     EXPECT_EQ(shownComment(), QString());
+    EXPECT_EQ(shownIptc(), QStringList(12));
+}
+
+TEST_F(Meta, EmptiesTheIptcFieldsForAFileThatIsNoImage)
+{
+    m_meta.hGetMetaData(write(photoWithEveryIptcField(), u"full.jpg"_qs));
+
+    EXPECT_EQ(m_meta.hGetMetaData(text()), u"OK"_qs);
+
+    EXPECT_EQ(shownComment(), QString());
+    EXPECT_EQ(shownIptc(), QStringList(12));
 }
 
 TEST_F(Meta, AnswersStoredAndUprightSizes)
@@ -347,10 +380,33 @@ TEST_F(Meta, AnswersStoredAndUprightSizes)
 
 TEST_F(Meta, NamesTheColourSpaceOfAPhotoWithoutAProfile)
 {
+    using test::PhotoModel;
+    const auto tiff = [this](PhotoModel model) {
+        return write(PhotoBuilder{}.model(model).format(PhotoFormat::Tiff), u"a.tif"_qs);
+    };
+
     EXPECT_EQ(mMeta::hGetColorProfile(jpeg(PhotoBuilder{})), u"sRGB IEC61966-2.1"_qs);
     EXPECT_EQ(
-        mMeta::hGetColorProfile(jpeg(PhotoBuilder{}.model(test::PhotoModel::Gray))),
+        mMeta::hGetColorProfile(jpeg(PhotoBuilder{}.model(PhotoModel::Gray))),
         u"Generic Gray Gamma 2.2 Profile"_qs
     );
+    EXPECT_EQ(mMeta::hGetColorProfile(tiff(PhotoModel::Cmyk)), u"Generic CMYK Profile"_qs);
     EXPECT_EQ(mMeta::hGetColorProfile(text()), QString());
+}
+
+TEST_F(Meta, NamesTheProfileOfAPhotoThatHasOne)
+{
+    const QString wide = write(
+        PhotoBuilder{}.format(PhotoFormat::Png).iccProfile(test::wideProfile()), u"wide.png"_qs
+    );
+    const QString gray = write(
+        PhotoBuilder{}
+            .format(PhotoFormat::Png)
+            .model(test::PhotoModel::Gray)
+            .iccProfile(test::grayProfile()),
+        u"gray.png"_qs
+    );
+
+    EXPECT_EQ(mMeta::hGetColorProfile(wide), u"RGB built-in"_qs);
+    EXPECT_EQ(mMeta::hGetColorProfile(gray), u"gray built-in"_qs);
 }
