@@ -131,65 +131,175 @@ TEST_F(WatermarkPanelActions, EnableTheThicknessWithTheOutline)
     EXPECT_FALSE(panel.pubOutlineThickness.isEnabled());
 }
 
-TEST_F(WatermarkPanelActions, EnableTheShadowFieldsWithTheirBox)
+TEST_F(WatermarkPanelActions, EnableTheFieldsOfTheTextShadowWithTheirBox)
 {
+    const auto enabled = [this] {
+        return QList<bool>{
+            panel.tfTextShadowXOffset.isEnabled(),
+            panel.tfTextShadowYOffset.isEnabled(),
+            panel.tfTextShadowRadius.isEnabled(),
+            panel.cwShadowColor.isEnabled()};
+    };
+
     panel.cbShadowCheck.setState(1);
     send("hTextShadowCheckBox");
-    EXPECT_TRUE(panel.tfTextShadowXOffset.isEnabled());
-    EXPECT_TRUE(panel.cwShadowColor.isEnabled());
+    EXPECT_EQ(enabled(), QList<bool>(4, true));
 
     panel.cbShadowCheck.setState(0);
     send("hTextShadowCheckBox");
-    EXPECT_FALSE(panel.tfTextShadowRadius.isEnabled());
+    EXPECT_EQ(enabled(), QList<bool>(4, false));
+}
+
+TEST_F(WatermarkPanelActions, EnableTheFieldsOfTheImageShadowWithTheirBox)
+{
+    const auto enabled = [this] {
+        return QList<bool>{
+            panel.tfImageShadowXOffset.isEnabled(),
+            panel.tfImageShadowYOffset.isEnabled(),
+            panel.tfImageShadowRadius.isEnabled(),
+            panel.cwImageShadowColor.isEnabled()};
+    };
+
+    panel.cbImageShadowCheck.setState(1);
+    send("hImageShadowCheckBox");
+    EXPECT_EQ(enabled(), QList<bool>(4, true));
+
+    panel.cbImageShadowCheck.setState(0);
+    send("hImageShadowCheckBox");
+    EXPECT_EQ(enabled(), QList<bool>(4, false));
 }
 
 TEST_F(WatermarkPanelActions, ShowTheReliefColourForItsEffectOnly)
 {
-    panel.pubWatermarkTextEffect.selectItemAtIndex(6);
-    send("hAddTextWatermarkEffect");
-    EXPECT_FALSE(panel.cwEmbossColor.isHidden());
-    EXPECT_TRUE(panel.cwEmbossColor.isEnabled());
+    for (int index = 0; index <= 9; ++index) {
+        panel.cwEmbossColor.setHidden(index == 6);
+        panel.cwEmbossColor.setEnabled(index != 6);
+        panel.pubWatermarkTextEffect.selectItemAtIndex(index);
 
-    panel.pubWatermarkTextEffect.selectItemAtIndex(5);
-    send("hAddTextWatermarkEffect");
-    EXPECT_TRUE(panel.cwEmbossColor.isHidden());
+        send("hAddTextWatermarkEffect");
+
+        EXPECT_EQ(panel.cwEmbossColor.isHidden(), index != 6) << index;
+        EXPECT_EQ(panel.cwEmbossColor.isEnabled(), index == 6) << index;
+    }
 }
 
 TEST_F(WatermarkPanelActions, AlignTheTextViewLikeTheMark)
 {
-    panel.scTxtAlign.setSelectedSegment(1);
-    send("hTextAlignment");
-    EXPECT_EQ(panel.tvWaterMarkText.alignment(), controls::TextView::Alignment::Center);
+    using Alignment = controls::TextView::Alignment;
+    const auto aligned = [this](int segment) {
+        panel.scTxtAlign.setSelectedSegment(segment);
+        send("hTextAlignment");
+        return panel.tvWaterMarkText.alignment();
+    };
+
+    EXPECT_EQ(aligned(1), Alignment::Center);
+    EXPECT_EQ(aligned(0), Alignment::Left);
+    EXPECT_EQ(aligned(2), Alignment::Right);
+    EXPECT_EQ(aligned(-1), Alignment::Right);
 }
 
 TEST_F(WatermarkPanelActions, FixTheScaleForTheOtherSizes)
 {
-    panel.tfImageScalePC.setStringValue(QStringLiteral("40"));
-    panel.cbPatternCheck.setState(1);
-    panel.mxImageScaleProperty.selectRow(3);
+    for (const int row : {-1, 3, 4}) {
+        panel.tfImageScalePC.setStringValue(QStringLiteral("40"));
+        panel.tfImageScalePC.setEnabled(true);
+        panel.cbPatternCheck.setState(1);
+        panel.mxImageScaleProperty.selectRow(row);
 
-    send("hImageWatermarkSizeEntred");
+        send("hImageWatermarkSizeEntred");
 
-    EXPECT_EQ(panel.tfImageScalePC.stringValue(), QStringLiteral("100"));
-    EXPECT_FALSE(panel.tfImageScalePC.isEnabled());
-    EXPECT_EQ(panel.cbPatternCheck.state(), 0);
+        EXPECT_EQ(panel.tfImageScalePC.stringValue(), QStringLiteral("100")) << row;
+        EXPECT_FALSE(panel.tfImageScalePC.isEnabled()) << row;
+        EXPECT_EQ(panel.cbPatternCheck.state(), 0) << row;
+    }
 }
 
-TEST_F(WatermarkPanelActions, FollowTheFadeOutBoxes)
+TEST_F(WatermarkPanelActions, LeaveTheScaleToTheSizesThatHaveOne)
 {
-    panel.cbImageFadeOut.setState(1);
-    send("hCheckFadeOutBox");
-    EXPECT_TRUE(panel.tfImageFadeOutAngle.isEnabled());
-    EXPECT_TRUE(panel.sliderFadeOutValue.isEnabled());
+    for (const int row : {0, 1, 2}) {
+        panel.tfImageScalePC.setStringValue(QStringLiteral("40"));
+        panel.tfImageScalePC.setEnabled(false);
+        panel.cbPatternCheck.setState(1);
+        panel.mxImageScaleProperty.selectRow(row);
 
+        send("hImageWatermarkSizeEntred");
+
+        EXPECT_EQ(panel.tfImageScalePC.stringValue(), QStringLiteral("40")) << row;
+        EXPECT_TRUE(panel.tfImageScalePC.isEnabled()) << row;
+        EXPECT_EQ(panel.cbPatternCheck.state(), 1) << row;
+    }
+}
+
+namespace {
+
+struct FadeOutCase
+{
+    const char* name;
+    int fades;
+    int isCircular;
+    bool angle;
+    bool others; ///< the slider and both boxes of the circle
+
+    friend void PrintTo(const FadeOutCase& row, std::ostream* out) { *out << row.name; }
+};
+
+class WatermarkFadeOut : public WatermarkPanelActions,
+                         public testing::WithParamInterface<FadeOutCase>
+{
+};
+
+} // namespace
+
+TEST_P(WatermarkFadeOut, EnablesItsControls)
+{
+    const FadeOutCase& row = GetParam();
+    panel.cbImageFadeOut.setState(row.fades);
+    panel.cbCircularFadeOut.setState(row.isCircular);
+    for (controls::Control* control : std::initializer_list<controls::Control*>{
+             &panel.tfImageFadeOutAngle,
+             &panel.sliderFadeOutValue,
+             &panel.cbCircularFadeOut,
+             &panel.cbCircularInvertFadeOut})
+        control->setEnabled(!row.others);
+    if (row.others)
+        panel.tfImageFadeOutAngle.setEnabled(!row.angle);
+
+    send("hCheckFadeOutBox");
+
+    EXPECT_EQ(panel.tfImageFadeOutAngle.isEnabled(), row.angle);
+    EXPECT_EQ(panel.sliderFadeOutValue.isEnabled(), row.others);
+    EXPECT_EQ(panel.cbCircularFadeOut.isEnabled(), row.others);
+    EXPECT_EQ(panel.cbCircularInvertFadeOut.isEnabled(), row.others);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    WatermarkFadeOut,
+    testing::Values(
+        FadeOutCase{"Straight", 1, 0, true, true},
+        FadeOutCase{"CircularHasNoAngle", 1, 1, false, true},
+        FadeOutCase{"Off", 0, 0, false, false},
+        FadeOutCase{"OffWithTheCircleTicked", 0, 1, false, false}
+    ),
+    brenvaldo::test::CaseName()
+);
+
+TEST_F(WatermarkPanelActions, ExchangeTheAngleForTheCirclesInversion)
+{
+    panel.tfImageFadeOutAngle.setEnabled(true);
+    panel.cbCircularInvertFadeOut.setEnabled(false);
+    panel.pubOutlineThickness.setEnabled(false);
     panel.cbCircularFadeOut.setState(1);
     send("hCicularFadeOut");
     EXPECT_FALSE(panel.tfImageFadeOutAngle.isEnabled());
     EXPECT_TRUE(panel.cbCircularInvertFadeOut.isEnabled());
+    EXPECT_FALSE(panel.pubOutlineThickness.isEnabled());
 
-    panel.cbImageFadeOut.setState(0);
-    send("hCheckFadeOutBox");
-    EXPECT_FALSE(panel.cbCircularFadeOut.isEnabled());
+    panel.cbCircularFadeOut.setState(0);
+    send("hCicularFadeOut");
+    EXPECT_TRUE(panel.tfImageFadeOutAngle.isEnabled());
+    EXPECT_FALSE(panel.cbCircularInvertFadeOut.isEnabled());
+    EXPECT_TRUE(panel.pubOutlineThickness.isEnabled());
 }
 
 namespace {
@@ -215,6 +325,11 @@ class WatermarkFilterType : public WatermarkPanelActions,
 TEST_P(WatermarkFilterType, EnablesItsFields)
 {
     panel.pubWatermarkFilterType.selectItemAtIndex(GetParam().type);
+    panel.tfWatermarkFilterSize.setEnabled(!GetParam().size);
+    panel.pubWatermarkFilterSharpness.setEnabled(!GetParam().size);
+    panel.tfCenterCircularWidth.setEnabled(!GetParam().centre);
+    panel.tfCenterCircularHeight.setEnabled(!GetParam().centre);
+    panel.tfLineScreenAngle.setEnabled(!GetParam().angle);
 
     send("hChooseWatermarkFilterType");
 
@@ -238,3 +353,30 @@ INSTANTIATE_TEST_SUITE_P(
     ),
     brenvaldo::test::CaseName()
 );
+
+TEST_F(WatermarkPanelActions, LeaveTheControlsAsTheyAreForAFilterThatIsNotKnown)
+{
+    QStringList titles;
+    for (int index = 0; index < 8; ++index)
+        titles.append(QString::number(index));
+    panel.pubWatermarkFilterType.setTitles(titles);
+    const std::initializer_list<controls::Control*> controls{
+        &panel.tfWatermarkFilterSize,
+        &panel.pubWatermarkFilterSharpness,
+        &panel.tfCenterCircularWidth,
+        &panel.tfCenterCircularHeight,
+        &panel.tfLineScreenAngle};
+    for (const int index : {-1, 6, 7}) {
+        panel.pubWatermarkFilterType.selectItemAtIndex(index);
+        for (const bool isEnabled : {true, false}) {
+            for (controls::Control* control : controls)
+                control->setEnabled(isEnabled);
+
+            send("hChooseWatermarkFilterType");
+
+            for (const controls::Control* control : controls)
+                EXPECT_EQ(control->isEnabled(), isEnabled)
+                    << index << control->name().toStdString();
+        }
+    }
+}

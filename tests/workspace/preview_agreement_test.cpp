@@ -70,7 +70,100 @@ constexpr std::array looks{
         [](panels::WatermarkPanel& panel) { panel.tfFontTransparancy.setStringValue(u"60"_qs); }},
     Look{
         "FilledWithThePhoto",
+        [](panels::WatermarkPanel& panel) { panel.pubWatermarkTextEffect.selectItemAtIndex(7); }},
+    Look{
+        "FilledWithTheBlackAndWhitePhoto",
         [](panels::WatermarkPanel& panel) { panel.pubWatermarkTextEffect.selectItemAtIndex(8); }},
+};
+
+/// What further settings make of the plain look.
+constexpr std::array settings{
+    Look{
+        "EmbossedInAColour",
+        [](panels::WatermarkPanel& panel) { panel.pubWatermarkTextEffect.selectItemAtIndex(6); }},
+    Look{
+        "EmbossedInAnotherColour",
+        [](panels::WatermarkPanel& panel) {
+            panel.pubWatermarkTextEffect.selectItemAtIndex(6);
+            panel.cwEmbossColor.setColor({.red = 1, .green = 0, .blue = 0.2});
+        }},
+    Look{
+        "EmbossedWithTheLastRelief",
+        [](panels::WatermarkPanel& panel) { panel.pubWatermarkTextEffect.selectItemAtIndex(9); }},
+    Look{
+        "EmbossedAndTiled",
+        [](panels::WatermarkPanel& panel) {
+            embossed(panel);
+            tiled(panel);
+        }},
+    Look{
+        "ShadowedInAColour",
+        [](panels::WatermarkPanel& panel) {
+            shadowed(panel);
+            panel.cwShadowColor.setColor({.red = 1, .green = 0, .blue = 0});
+        }},
+    Look{
+        "ShadowedFromFar",
+        [](panels::WatermarkPanel& panel) {
+            shadowed(panel);
+            panel.tfTextShadowXOffset.setStringValue(u"9"_qs);
+        }},
+    Look{
+        "ShadowedFromAbove",
+        [](panels::WatermarkPanel& panel) {
+            shadowed(panel);
+            panel.tfTextShadowYOffset.setStringValue(u"-9"_qs);
+        }},
+    Look{
+        "ShadowedSharply",
+        [](panels::WatermarkPanel& panel) {
+            shadowed(panel);
+            panel.tfTextShadowRadius.setStringValue(u"1"_qs);
+        }},
+    Look{"Bold", [](panels::WatermarkPanel& panel) { panel.cbFontBold.setState(1); }},
+    Look{"Italic", [](panels::WatermarkPanel& panel) { panel.cbFontItalic.setState(1); }},
+    Look{
+        "UnderlinedThinly",
+        [](panels::WatermarkPanel& panel) { panel.pubTxtUnderline.selectItemAtIndex(1); }},
+    Look{
+        "UnderlinedThickly",
+        [](panels::WatermarkPanel& panel) { panel.pubTxtUnderline.selectItemAtIndex(2); }},
+    Look{"Outlined", [](panels::WatermarkPanel& panel) { panel.cbOutlineCheck.setState(1); }},
+    Look{
+        "OutlinedHeavily",
+        [](panels::WatermarkPanel& panel) {
+            panel.cbOutlineCheck.setState(1);
+            panel.pubOutlineThickness.selectItemAtIndex(4);
+        }},
+    Look{"Kerned", [](panels::WatermarkPanel& panel) { panel.tfKerning.setStringValue(u"5"_qs); }},
+    Look{"Leaded", [](panels::WatermarkPanel& panel) { panel.tfLeading.setStringValue(u"20"_qs); }},
+    Look{"Centred", [](panels::WatermarkPanel& panel) { panel.scTxtAlign.setSelectedSegment(1); }},
+    Look{
+        "RightAligned",
+        [](panels::WatermarkPanel& panel) { panel.scTxtAlign.setSelectedSegment(2); }},
+    Look{
+        "Coloured",
+        [](panels::WatermarkPanel& panel) {
+            panel.cwFontColor.setColor({.red = 0, .green = 0.2, .blue = 0.9});
+        }},
+    Look{
+        "Smaller",
+        [](panels::WatermarkPanel& panel) { panel.tfFontSize.setStringValue(u"40"_qs); }},
+    Look{
+        "InAnotherFont",
+        [](panels::WatermarkPanel& panel) { panel.cbFontList.selectItemAtIndex(1); }},
+    Look{
+        "OfAnotherText",
+        [](panels::WatermarkPanel& panel) {
+            panel.tvWaterMarkText.setStringValue(u"Mark <[IMGH]>\nof it"_qs);
+        }},
+    Look{
+        "AtTheTop",
+        [](panels::WatermarkPanel& panel) { panel.scWaterMarkPos.setSelectedSegment(1); }},
+    Look{
+        "MovedRight",
+        [](panels::WatermarkPanel& panel) { panel.tfXOffset.setStringValue(u"7"_qs); }},
+    Look{"MovedUp", [](panels::WatermarkPanel& panel) { panel.tfYOffset.setStringValue(u"7"_qs); }},
 };
 
 constexpr std::array kinds{
@@ -83,15 +176,21 @@ constexpr std::array kinds{
     Kind{.name = "Cmyk8", .model = PhotoModel::Cmyk, .depth = 8, .type = "tiff"},
 };
 
+/// A mark of two lines of different lengths in the middle.
+void showPlainMark(panels::WatermarkPanel& panel)
+{
+    panel.cbFontList.setTitles({u"DejaVu Sans"_qs, u"DejaVu Serif"_qs});
+    panel.tvWaterMarkText.setStringValue(u"Mark <[IMGW]>\nof it"_qs);
+    panel.tfFontSize.setStringValue(u"48"_qs);
+    panel.scWaterMarkPos.setSelectedSegment(4);
+}
+
 class PreviewAgreement : public testing::TestWithParam<std::tuple<Kind, Look>>
 {
 protected:
     PreviewAgreement()
     {
-        panel.cbFontList.setTitles({u"DejaVu Sans"_qs});
-        panel.tvWaterMarkText.setStringValue(u"Mark <[IMGW]>"_qs);
-        panel.tfFontSize.setStringValue(u"48"_qs);
-        panel.scWaterMarkPos.setSelectedSegment(4);
+        showPlainMark(panel);
         std::get<Look>(GetParam()).choose(panel);
     }
 
@@ -176,3 +275,35 @@ INSTANTIATE_TEST_SUITE_P(
         return std::string(std::get<Kind>(row.param).name) + std::get<Look>(row.param).name;
     }
 );
+
+TEST(Preview, HasALookOfItsOwnForEachSetting)
+{
+    const test::TemporaryFolder folder;
+    const QString photo = test::PhotoBuilder()
+                              .size(320, 200)
+                              .gradient()
+                              .format(test::PhotoFormat::Png)
+                              .write(folder.path(u"photo.png"_qs));
+    QList<QPair<std::string, QImage>> seen;
+    const auto look = [&](const Look& chosen) {
+        panels::WatermarkPanel panel;
+        controls::ProgressIndicator bar{u"bar"_qs};
+        workspace::PreviewPhotos photos;
+        watermark::DVWatermark mark{
+            {.panel = panel,
+             .bar = bar,
+             .outputName = platform::lastPathComponent,
+             .previewPhoto = [&photos](const QString& path) { return photos.photo(path); }}};
+        showPlainMark(panel);
+        chosen.choose(panel);
+        const QImage shown = mark.setWatermarkTextPreview(photo)->toQImage();
+        for (const auto& [name, image] : seen)
+            EXPECT_GT(test::largestDifference(shown, image), 8) << chosen.name << ", " << name;
+        seen.append({chosen.name, shown});
+    };
+
+    for (const Look& chosen : looks)
+        look(chosen);
+    for (const Look& chosen : settings)
+        look(chosen);
+}
