@@ -315,7 +315,7 @@ TEST(PresetManager, EmptiesTheControlsForANameThatNoStatementCanHold)
 
 TEST(PresetManager, LosesNoPresetThatAnotherProgramAddsToo)
 {
-    constexpr int each = 60;
+    constexpr int each = 20;
     const PresetsBench bench;
     std::vector<pid_t> programs;
     for (int program = 0; program < 3; ++program) {
@@ -337,7 +337,7 @@ TEST(PresetManager, LosesNoPresetThatAnotherProgramAddsToo)
         EXPECT_EQ(status, 0);
     }
     EXPECT_EQ(
-        bench.file.rows("select count(distinct NameOfPreset) from Presets"), QStringList(u"180"_qs)
+        bench.file.rows("select count(distinct NameOfPreset) from Presets"), QStringList(u"60"_qs)
     );
 }
 

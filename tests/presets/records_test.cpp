@@ -36,60 +36,62 @@ protected:
 
 } // namespace
 
-TEST_F(TextWatermarkRecord, GivesEverySettingBack)
+TEST_F(TextWatermarkRecord, ShowsTheDestinationAsTheToolTipToo)
 {
     destination.setStringValue(bench.file.folder().path());
-    text.scWaterMarkPos.setSelectedSegment(3);
-    text.tfFontSize.setStringValue(u"48"_qs);
-    text.cbFontBold.setState(1);
-    text.cwFontColor.setColor({.red = 1, .green = 0.5, .blue = 0.25});
-    text.pubTxtUnderline.selectItemAtIndex(2);
-    text.tvWaterMarkText.setStringValue(u"\u00a9 <[IMGFN]>\nsecond line"_qs);
-    text.cbFontList.selectItemAtIndex(1);
-    text.scTxtAlign.setSelectedSegment(2);
-    bench.panels.vwFileType.pubJPEGCompressionLevel.selectItemAtIndex(4);
     bench.save(u"A"_qs);
+    destination.setToolTip(u""_qs);
 
-    destination.setStringValue(u""_qs);
-    text.scWaterMarkPos.setSelectedSegment(0);
-    text.tfFontSize.setStringValue(u"1"_qs);
-    text.cbFontBold.setState(0);
-    text.cwFontColor.setColor({});
-    text.pubTxtUnderline.selectItemAtIndex(0);
-    text.tvWaterMarkText.setStringValue(u""_qs);
-    text.cbFontList.selectItemAtIndex(0);
-    text.scTxtAlign.setSelectedSegment(0);
-    bench.panels.vwFileType.pubJPEGCompressionLevel.selectItemAtIndex(0);
     bench.apply(0);
 
-    EXPECT_EQ(destination.stringValue(), bench.file.folder().path());
     EXPECT_EQ(destination.toolTip(), bench.file.folder().path());
-    EXPECT_EQ(text.scWaterMarkPos.selectedSegment(), 3);
-    EXPECT_EQ(text.tfFontSize.stringValue(), u"48"_qs);
-    EXPECT_EQ(text.cbFontBold.state(), 1);
-    EXPECT_EQ(text.cwFontColor.color(), (platform::Color{.red = 1, .green = 0.5, .blue = 0.25}));
-    EXPECT_EQ(text.pubTxtUnderline.indexOfSelectedItem(), 2);
-    EXPECT_EQ(text.tvWaterMarkText.stringValue(), u"\u00a9 <[IMGFN]>\nsecond line"_qs);
-    EXPECT_EQ(text.cbFontList.objectValueOfSelectedItem(), u"Liberation Serif"_qs);
-    EXPECT_EQ(text.scTxtAlign.selectedSegment(), 2);
-    EXPECT_EQ(bench.panels.vwFileType.pubJPEGCompressionLevel.indexOfSelectedItem(), 4);
 }
 
-TEST_F(TextWatermarkRecord, KeepsEachSettingAtItsPosition)
+TEST_F(TextWatermarkRecord, KeepsAColorWithoutItsAlpha)
 {
-    text.tfFontSize.setStringValue(u"48"_qs);
-    text.cbTextPatternCheck.setState(1);
-    bench.panels.vwFileType.pubFileType.selectItemAtIndex(5);
     text.cwFontColor.setColor({.red = 0.2, .green = 0.2, .blue = 0.2, .alpha = 0.1});
     bench.save(u"A"_qs);
 
-    EXPECT_EQ(bench.stored(u"A"_qs, 4), u""_qs);
-    EXPECT_EQ(bench.stored(u"A"_qs, 6), u"48"_qs);
     EXPECT_EQ(bench.stored(u"A"_qs, 16), platform::colorArchive({0.2F, 0.2F, 0.2F}));
-    EXPECT_EQ(bench.stored(u"A"_qs, 27), u"DejaVu Sans"_qs);
-    EXPECT_EQ(bench.stored(u"A"_qs, 33), u"1"_qs);
-    EXPECT_EQ(bench.stored(u"A"_qs, 34), u"5"_qs);
-    EXPECT_EQ(bench.stored(u"A"_qs, 36), u""_qs);
+}
+
+TEST_F(TextWatermarkRecord, TakesNoFontThatIsNotInstalled)
+{
+    bench.save(u"A"_qs);
+    text.cbFontList.setTitles({u"Inter"_qs});
+
+    bench.apply(0);
+
+    EXPECT_EQ(text.cbFontList.indexOfSelectedItem(), -1);
+}
+
+TEST_F(TextWatermarkRecord, KeepsADestinationThatIsARelativePathAsAnAbsoluteOne)
+{
+    const QString folder = QDir::currentPath();
+    QDir::setCurrent(bench.file.folder().path());
+    destination.setStringValue(u"DravothCom"_qs);
+    bench.save(u"A"_qs);
+    QDir::setCurrent(folder);
+
+    bench.apply(0);
+
+    EXPECT_EQ(destination.stringValue(), bench.file.folder().path(u"DravothCom/"_qs));
+}
+
+TEST_F(TextWatermarkRecord, TakesWhatIsMissingInTheRowOfAnotherFunctionAsZero)
+{
+    bench.function = u"resizePhotos"_qs;
+    bench.save(u"A"_qs);
+    bench.function = u"textWM"_qs;
+    text.cbFontBold.setState(1);
+    text.scTxtAlign.setSelectedSegment(2);
+    text.tfFontSize.setStringValue(u"48"_qs);
+
+    bench.apply(0);
+
+    EXPECT_EQ(text.cbFontBold.state(), 0);
+    EXPECT_EQ(text.tfFontSize.stringValue(), u""_qs);
+    EXPECT_EQ(text.scTxtAlign.selectedSegment(), 0);
 }
 
 TEST_F(TextWatermarkRecord, LosesTheFormOfATextThatIsANumber)
@@ -257,11 +259,12 @@ TEST_F(TextWatermarkRecord, ChangesNothingForIndexesThatDoNotExist)
     text.scWaterMarkPos.setSelectedSegment(4);
     bench.save(u"A"_qs);
     (void)bench.file.rows("update Presets set StrField5 = '44', StrField28 = '99'");
+    text.pubWatermarkTextEffect.selectItemAtIndex(3);
 
     bench.apply(0);
 
     EXPECT_EQ(text.scWaterMarkPos.selectedSegment(), 4);
-    EXPECT_EQ(text.pubWatermarkTextEffect.indexOfSelectedItem(), 0);
+    EXPECT_EQ(text.pubWatermarkTextEffect.indexOfSelectedItem(), 3);
 }
 
 TEST_F(ResizeRecord, KeepsTheFieldsOfTheMaximumModeOnly)

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "record_bench.h"
+
+#include <platform/foundation/bookmark.h>
+#include <platform/foundation/color_archive.h>
+
+#include "support/text_printing.h"
+
+#include <QDir>
+
+namespace brenvaldo::test {
+
+namespace {
+
+constexpr int columns = 102;
+constexpr QStringView fontList = u"cbWatermarkFont";
+
+QString colorText(const platform::Color& color)
+{
+    return u"%1 %2 %3"_qs.arg(color.red).arg(color.green).arg(color.blue);
+}
+
+platform::ColorComponents componentsOf(const QString& text)
+{
+    const QStringList parts = text.split(u' ');
+    return {parts[0].toFloat(), parts[1].toFloat(), parts[2].toFloat()};
+}
+
+void selectTab(controls::TabView& tabs, const QString& label)
+{
+    for (int index = 0; index < tabs.tabs().size(); ++index) {
+        if (tabs.tabs()[index].label == label)
+            tabs.selectIndex(index);
+    }
+}
+
+void giveColor(controls::ColorWell& well, const QString& text)
+{
+    const auto [red, green, blue] = componentsOf(text);
+    well.setColor({.red = red, .green = green, .blue = blue});
+}
+
+} // namespace
+
+Positions joined(Positions positions, const Positions& more)
+{
+    positions.insert(positions.end(), more.begin(), more.end());
+    return positions;
+}
+
+RecordBench::RecordBench(const QString& id, const QString& process, const QString& action)
+    : m_process(process)
+    , m_action(action)
+{
+    function = id;
+    QDir(file.folder().path()).mkdir(u"one"_qs);
+    QDir(file.folder().path()).mkdir(u"two"_qs);
+    panels.vwProfileConversion.pubInstalledICCProfiles.setTitles(
+        {u"Adobe RGB"_qs, u"Display P3"_qs, u"Grey"_qs, u"sRGB"_qs}
+    );
+}
+
+controls::Control& RecordBench::control(const QString& name) const
+{
+    controls::Control* const found = panels.control(name);
+    if (!found)
+        qFatal("no control is called %s", qPrintable(name));
+    return *found;
+}
+
+void RecordBench::give(const QString& name, const QString& value)
+{
+    controls::Control& target = control(name);
+    if (auto* text = dynamic_cast<controls::TextControl*>(&target))
+        text->setStringValue(value);
+    else if (auto* box = dynamic_cast<controls::CheckBox*>(&target))
+        box->setState(value.toInt());
+    else if (name == fontList)
+        panels.vwWatermark.cbFontList.selectItemWithObjectValue(value);
+    else if (auto* list = dynamic_cast<controls::IndexedControl*>(&target))
+        list->selectIndex(value.toInt());
+    else if (auto* tabs = dynamic_cast<controls::TabView*>(&target))
+        selectTab(*tabs, value);
+    else if (auto* well = dynamic_cast<controls::ColorWell*>(&target))
+        giveColor(*well, value);
+    ASSERT_EQ(read(name), value) << name.toStdString() << " can't have the value";
+}
+
+QString RecordBench::read(const QString& name) const
+{
+    const controls::Control& source = control(name);
+    if (const auto* text = dynamic_cast<const controls::TextControl*>(&source))
+        return text->stringValue();
+    if (const auto* box = dynamic_cast<const controls::CheckBox*>(&source))
+        return QString::number(box->state());
+    if (name == fontList)
+        return panels.vwWatermark.cbFontList.objectValueOfSelectedItem();
+    if (const auto* list = dynamic_cast<const controls::IndexedControl*>(&source))
+        return QString::number(list->selectedIndex());
+    if (const auto* tabs = dynamic_cast<const controls::TabView*>(&source))
+        return tabs->selectedLabel();
+    if (const auto* well = dynamic_cast<const controls::ColorWell*>(&source))
+        return colorText(well->color());
+    return {};
+}
+
+void RecordBench::give(const Positions& positions, Round round)
+{
+    for (const Position& position : positions)
+        give(position.control, position.in(round));
+}
+
+QString RecordBench::otherValue(const Position& position, Round round) const
+{
+    if (dynamic_cast<const controls::CheckBox*>(&control(position.control)))
+        return position.in(round) == u"1" ? u"0"_qs : u"1"_qs;
+    return position.in(round == Round::First ? Round::Second : Round::First);
+}
+
+void RecordBench::giveOther(const Positions& positions, Round round)
+{
+    for (const Position& position : positions)
+        give(position.control, otherValue(position, round));
+}
+
+void RecordBench::load(Round round, const Effects& effects)
+{
+    for (const Effect& effect : effects)
+        control(effect.control).setEnabled(!effect.in(round));
+    apply(round == Round::First ? 0 : 1);
+    for (const Effect& effect : effects)
+        EXPECT_EQ(control(effect.control).isEnabled(), effect.in(round))
+            << effect.control.toStdString();
+}
+
+QString RecordBench::nameOf(Round round) { return round == Round::First ? u"A"_qs : u"B"_qs; }
+
+QString RecordBench::storedFormOf(const QString& name, const QString& value) const
+{
+    if (dynamic_cast<const controls::ColorWell*>(&control(name)))
+        return platform::colorArchive(componentsOf(value));
+    if (name == u"tfImageDestinationFolder" || name == u"tfWaterMarkImageFilePath") {
+        const QString path = QDir::cleanPath(value);
+        return QString::fromLatin1(platform::bookmarkFor(path).value_or(QByteArray()).toBase64());
+    }
+    return value;
+}
+
+void RecordBench::expectRow(Round round, const Positions& positions) const
+{
+    QStringList expected(columns, u""_qs);
+    expected[0] = nameOf(round);
+    expected[1] = m_process;
+    expected[2] = m_action;
+    for (const Position& position : positions)
+        expected[position.place] = storedFormOf(position.control, position.in(round));
+
+    const QString query = u"select * from Presets where NameOfPreset = '%1'"_qs.arg(nameOf(round));
+    const QStringList rows = file.rows(query.toUtf8().constData());
+    ASSERT_EQ(rows.size(), 1);
+    const QStringList row = rows.first().split(u'|');
+    for (int place = 0; place < columns; ++place)
+        EXPECT_EQ(row.value(place + 1), expected[place]) << "StrField" << place;
+}
+
+void RecordBench::expectValues(Round round, const Positions& positions) const
+{
+    for (const Position& position : positions)
+        EXPECT_EQ(read(position.control), position.in(round)) << position.control.toStdString();
+}
+
+void RecordBench::expectOther(Round round, const Positions& positions) const
+{
+    for (const Position& position : positions)
+        EXPECT_EQ(read(position.control), otherValue(position, round))
+            << position.control.toStdString();
+}
+
+void RecordBench::expectKept(const Positions& positions, const Effects& effects)
+{
+    for (const Round round : {Round::First, Round::Second}) {
+        give(positions, round);
+        saveRound(round);
+        expectRow(round, positions);
+    }
+    for (const Round round : {Round::First, Round::Second}) {
+        giveOther(positions, round);
+        load(round, effects);
+        expectValues(round, positions);
+    }
+}
+
+Position RecordBench::destination() const
+{
+    return {
+        3,
+        u"tfImageDestinationFolder"_qs,
+        file.folder().path(u"one/"_qs),
+        file.folder().path(u"two/"_qs)};
+}
+
+Positions RecordBench::commonPositions() const
+{
+    return {
+        destination(),
+        {21, u"pubPhotoOrientation"_qs, u"1"_qs, u"3"_qs},
+        {23, u"pubFileType"_qs, u"6"_qs, u"2"_qs},
+        {24, u"pubJPEGCompressionLevel"_qs, u"8"_qs, u"4"_qs},
+    };
+}
+
+} // namespace brenvaldo::test
