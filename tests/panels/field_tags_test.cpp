@@ -25,6 +25,19 @@ class FieldTags : public testing::TestWithParam<TagRange>
 {
 };
 
+struct TaggedFields
+{
+    const char* name;
+    int firstTag;
+    QStringList fields; ///< in the order of their tags
+};
+
+void PrintTo(const TaggedFields& tagged, std::ostream* out) { *out << tagged.name; }
+
+class WatermarkFields : public testing::TestWithParam<TaggedFields>
+{
+};
+
 struct HexField
 {
     const char* name;
@@ -66,7 +79,6 @@ INSTANTIATE_TEST_SUITE_P(
     FieldTags,
     testing::Values(
         TagRange{"Tint", {u"vwAddTint"_qs}, 400, 499},
-        TagRange{"Watermark", {u"vwWatermark"_qs}, 200, 399},
         TagRange{"Framing", {u"vwFraming"_qs}, 151, 199},
         TagRange{"Roundings", {u"vwRoundings"_qs}, 101, 150},
         TagRange{"Rotation", {u"vwRotatePhotos"_qs}, 81, 100},
@@ -83,6 +95,59 @@ INSTANTIATE_TEST_SUITE_P(
              u"vwFiltersUnsharpView"_qs},
             51,
             70}
+    ),
+    test::CaseName{}
+);
+
+TEST_P(WatermarkFields, SelectTheFunctionOfTheirTab)
+{
+    const panels::Panels panels;
+    int tag = GetParam().firstTag;
+
+    for (const QString& name : GetParam().fields) {
+        const controls::Control* field = panels.control(name);
+        ASSERT_NE(field, nullptr) << name.toStdString();
+        EXPECT_EQ(field->tag(), tag++) << name.toStdString();
+        EXPECT_TRUE(
+            field->actions().contains(u"cCollectionViewController.controlTextDidEndEditing"_qs)
+        ) << name.toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Panels,
+    WatermarkFields,
+    testing::Values(
+        TaggedFields{
+            "Text",
+            200,
+            {u"tvWaterMarkText"_qs,
+             u"tfFontSize"_qs,
+             u"tfKerning"_qs,
+             u"tfLeading"_qs,
+             u"tfFontTransparancy"_qs,
+             u"tfXOffset"_qs,
+             u"tfYOffset"_qs,
+             u"tfWMAngle"_qs,
+             u"tfTextShadowXOffset"_qs,
+             u"tfTextShadowYOffset"_qs,
+             u"tfTextShadowRadius"_qs}},
+        TaggedFields{
+            "Image",
+            300,
+            {u"tfImageScalePC"_qs,
+             u"tfImageTransparancy"_qs,
+             u"tfImageXOffset"_qs,
+             u"tfImageYOffset"_qs,
+             u"tfImageWMAngle"_qs,
+             u"tfImageShadowXOffset"_qs,
+             u"tfImageShadowYOffset"_qs,
+             u"tfImageShadowRadius"_qs,
+             u"tfImageFadeOutAngle"_qs,
+             u"tfWatermarkFilterSize"_qs,
+             u"tfLineScreenAngle"_qs,
+             u"tfCenterCircularWidth"_qs,
+             u"tfCenterCircularHeight"_qs}}
     ),
     test::CaseName{}
 );

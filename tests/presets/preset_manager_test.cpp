@@ -2,7 +2,9 @@
 #include "presets_bench.h"
 
 #include <platform/foundation/exceptions.h>
+#include <presets/image_records.h>
 
+#include "support/log_lines.h"
 #include "support/text_printing.h"
 
 #include <gtest/gtest.h>
@@ -36,6 +38,28 @@ TEST(PresetManager, ListsWhatWasSaved)
     EXPECT_EQ(bench.listed(), QStringList({u"A"_qs, u"B"_qs}));
     EXPECT_EQ(bench.listed(u"nmProces"_qs), QStringList({u"TextWM"_qs, u"TextWM"_qs}));
     EXPECT_TRUE(bench.listed(u"nmbrAction"_qs).first().startsWith(u"|Watermark|"_qs));
+}
+
+TEST(PresetManager, LogsTheFunctionWhoseSettingsItSaves)
+{
+    PresetsBench bench;
+    const test::LogLines log;
+
+    bench.save(u"A"_qs);
+    bench.function = u"batchFileConvert"_qs;
+    bench.save(u"B"_qs);
+
+    EXPECT_EQ(log.lines(), QStringList({u"myFunc: textWM"_qs, u"myFunc: batchFileConvert"_qs}));
+}
+
+TEST(PresetManager, AnswersTheNameAsTyped)
+{
+    PresetsBench bench;
+    bench.save(u"A"_qs);
+
+    EXPECT_EQ(bench.manager.addValuesToDB(presets::resizeRecord(bench.panels)), u"A"_qs);
+    EXPECT_EQ(bench.manager.addValuesToDB(presets::resizeRecord(bench.panels)), u"A"_qs);
+    EXPECT_EQ(bench.listed(), QStringList({u"A"_qs, u"A_[x]"_qs}));
 }
 
 TEST(PresetManager, MarksATakenNameOnceOnly)

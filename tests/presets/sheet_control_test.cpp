@@ -3,6 +3,7 @@
 #include <presets/default_patterns.h>
 #include <presets/sheet_control.h>
 
+#include "support/log_lines.h"
 #include "support/temporary_folder.h"
 #include "support/text_printing.h"
 
@@ -128,6 +129,46 @@ TEST_F(SheetControl, KeepsWhatIsInAChosenFolderAndCopiesNoPatterns)
     EXPECT_TRUE(defaults.value(u"SupportFilesDestination"_qs));
 }
 
+TEST_F(SheetControl, ForgetsTheFolderOfBeforeWhenAnotherIsChosen)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"old"_qs));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"new"_qs));
+    chooser.answer = {folder.path(u"old"_qs)};
+    sheets.setLibraryDestination();
+    EXPECT_TRUE(chooser.lastPanel.canCreateDirectories);
+    chooser.answer = {folder.path(u"new"_qs)};
+
+    sheets.chooseLibraryDestination();
+
+    const QString root = folder.path(u"new/Dravoth_SupportFiles"_qs);
+    EXPECT_TRUE(chooser.lastPanel.canCreateDirectories);
+    EXPECT_FALSE(chooser.lastPanel.choosesFiles);
+    EXPECT_EQ(preferences.tfLibraryFilePath.stringValue(), folder.path(u"new"_qs));
+    EXPECT_EQ(defaults.text(u"PatternsDestination"_qs), root + u"/Patterns"_qs);
+    EXPECT_EQ(defaults.text(u"WatermarksDestination"_qs), root + u"/Watermarks"_qs);
+    EXPECT_EQ(defaults.text(u"CActionsDestination"_qs), root + u"/C-Actions"_qs);
+    const auto bookmark = defaults.value(u"SupportFilesDestination"_qs);
+    ASSERT_TRUE(bookmark);
+    EXPECT_EQ(
+        presets::DVbookmarks().urlForBookmark(bookmark->toByteArray())->toLocalFile(),
+        folder.path(u"new"_qs)
+    );
+    EXPECT_TRUE(QDir(folder.path(u"old/Dravoth_SupportFiles/Watermarks"_qs)).exists());
+}
+
+TEST_F(SheetControl, ChangesNothingWhenAnotherFolderIsNotChosen)
+{
+    chooser.answer = {folder.path()};
+    sheets.setLibraryDestination();
+    const auto before = defaults.value(u"SupportFilesDestination"_qs);
+    chooser.answer = std::nullopt;
+
+    sheets.chooseLibraryDestination();
+
+    EXPECT_EQ(defaults.value(u"SupportFilesDestination"_qs), before);
+    EXPECT_EQ(preferences.tfLibraryFilePath.stringValue() + QLatin1Char('/'), folder.path());
+}
+
 TEST_F(SheetControl, ShowsTheFolderInThePreferences)
 {
     chooser.answer = {folder.path()};
@@ -167,8 +208,10 @@ TEST_F(SheetControl, OpensThePreferencesWithoutAFolder)
 
 TEST_F(SheetControl, ShowsAndClosesTheAlertOfSuccess)
 {
+    const test::LogLines log;
     actions.send(u"cSheetControl.hCallAlertSheet"_qs);
     EXPECT_EQ(alert, QStringList({u"Dju!"_qs, u"'t is gelukt! Hoera!"_qs}));
+    EXPECT_EQ(log.lines(), QStringList(u"hCallAlertSheet"_qs));
 
     panels.window.wwAlertWindow.open();
     actions.send(u"cSheetControl.closeAlertSheet"_qs);

@@ -48,6 +48,25 @@ TEST(FullScreenWindow, FillsTheFirstScreenAndGoesBack)
     EXPECT_TRUE(fullScreen.isMenuBarShown());
 }
 
+TEST(FullScreenWindow, GoesBackToWhereItWasMoved)
+{
+    const QRectF moved(300, 200, 640, 480);
+    workspace::DVFFullScreen fullScreen(contents, [] { return QList<QRectF>{screen}; });
+    fullScreen.setFrame(moved);
+
+    fullScreen.toggleFullscreen();
+    EXPECT_EQ(fullScreen.originalRect(), moved);
+    fullScreen.toggleFullscreen();
+    EXPECT_EQ(fullScreen.frame(), moved);
+
+    fullScreen.setFrame(contents);
+    fullScreen.setFullscreenEnabled(1);
+    EXPECT_EQ(fullScreen.originalRect(), contents);
+    fullScreen.setFullscreenEnabled(2);
+    EXPECT_EQ(fullScreen.frame(), contents);
+    EXPECT_EQ(fullScreen.fullscreenState(), 0);
+}
+
 TEST(FullScreenWindow, KeepsTheEarlierFrameWhenItIsEnabledTwice)
 {
     workspace::DVFFullScreen fullScreen(contents, [] { return QList<QRectF>{screen}; });

@@ -2,8 +2,6 @@
 #include "controller_fixture.h"
 
 #include <workspace/app_delegate.h>
-#include <workspace/metadata_keys.h>
-#include <workspace/preview_notifications.h>
 #include <workspace/workspace.h>
 
 #include <support/environment.h>
@@ -13,6 +11,96 @@
 using namespace brenvaldo;
 
 namespace {
+
+/// What the interface says when a control of the watermark panel changes.
+const QStringList& notificationNames()
+{
+    static const QStringList names{
+        u"cbTextShadowCheckBoxEntred"_qs,
+        u"cbTextOutlineCheckBoxEntred"_qs,
+        u"cbTextItalicCheckBoxEntred"_qs,
+        u"cbTextBoldCheckBoxEntred"_qs,
+        u"cbTextOutlineThicknessEntred"_qs,
+        u"cbTextWatermarkPositionEntred"_qs,
+        u"cbTextFontFamilyEntred"_qs,
+        u"cbTextEntred"_qs,
+        u"cbTextShadowColorEntred"_qs,
+        u"cbTextColorEntred"_qs,
+        u"cbTxtPatternCheckBoxEntred"_qs,
+        u"cbImageWatermarkPositionEntred"_qs,
+        u"pubOpacityRenderMethodEntred"_qs,
+        u"cbCheckFadeOutBoxEntred"_qs,
+        u"srSliderFadeOutImageEntred"_qs,
+        u"cbImageShadowCheckBoxEntred"_qs,
+        u"cwImageShadowColorEntred"_qs,
+        u"mxImageWatermarkSizeEntred"_qs,
+        u"pubWatermarkFilterTypeEntred"_qs,
+        u"pubScreenSizeEntred"_qs,
+        u"tfScreenSizeEntred"_qs,
+        u"pubScreenSharpnessEntred"_qs,
+        u"btnChooseWatermarkImageEntred"_qs,
+        u"cbTextWatermarkMetaDataEntred"_qs,
+        u"cbUnderlineComboBoxEntred"_qs,
+        u"cbTextWatermarkAlignment"_qs,
+        u"cbImagePatternCheckBoxEntred"_qs,
+        u"pubWatermarkTextEffectEntred"_qs,
+        u"pubWatermarkTextEffectIntensityEntred"_qs,
+        u"cbCircularFadeOutEntred"_qs,
+        u"cwEmbossColorEntred"_qs};
+    return names;
+}
+
+/// The attributes of a file that its new name may take up; the first stands for none.
+const QStringList& metadataNames()
+{
+    static const QStringList names{
+        u""_qs,
+        u"AcquisitionMake"_qs,
+        u"AcquisitionModel"_qs,
+        u"BitsPerSample"_qs,
+        u"ColorSpace"_qs,
+        u"ContentCreationDate"_qs,
+        u"ContentModificationDate"_qs,
+        u"ContentType"_qs,
+        u"Creator"_qs,
+        u"Description"_qs,
+        u"DisplayName"_qs,
+        u"EXIFVersion"_qs,
+        u"ExposureMode"_qs,
+        u"ExposureTimeSeconds"_qs,
+        u"FlashOnOff"_qs,
+        u"FNumber"_qs,
+        u"FocalLength"_qs,
+        u"FSContentChangeDate"_qs,
+        u"FSCreationDate"_qs,
+        u"FSCreatorCode"_qs,
+        u"FSFinderFlags"_qs,
+        u"FSHasCustomIcon"_qs,
+        u"FSInvisible"_qs,
+        u"FSIsExtensionHidden"_qs,
+        u"FSIsStationery"_qs,
+        u"FSLabel"_qs,
+        u"FSName"_qs,
+        u"FSNodeCount"_qs,
+        u"FSOwnerGroupID"_qs,
+        u"FSOwnerUserID"_qs,
+        u"FSSize"_qs,
+        u"FSTypeCode"_qs,
+        u"HasAlphaChannel"_qs,
+        u"ISOSpeed"_qs,
+        u"Kind"_qs,
+        u"LastUsedDate"_qs,
+        u"Orientation"_qs,
+        u"PixelCount"_qs,
+        u"PixelHeight"_qs,
+        u"PixelWidth"_qs,
+        u"ProfileName"_qs,
+        u"RedEyeOnOff"_qs,
+        u"ResolutionHeightDPI"_qs,
+        u"ResolutionWidthDPI"_qs,
+        u"WhiteBalance"_qs};
+    return names;
+}
 
 class WorkspaceTest : public testing::Test
 {
@@ -38,27 +126,39 @@ protected:
 
 TEST_F(WorkspaceTest, StartsInItsFirstState)
 {
+    panels::Panels& panels = program.panels();
+    auto& resize = panels.vwResizePhotos;
+    resize.pubResizeType.setTitles({u"a"_qs, u"b"_qs});
+    resize.pubResizeType.selectItemAtIndex(1);
+    resize.pubScaleType.selectItemAtIndex(1);
+    resize.pubScaleType.setHidden(true);
+    panels.window.myTemplatePreview.setImage(
+        platform::Image::fromQImage(QImage(3, 2, QImage::Format_RGB32))
+    );
+    ASSERT_EQ(resize.pubScaleType.selectedIndex(), 1);
+
     program.start();
 
-    const panels::Panels& panels = program.panels();
     EXPECT_EQ(workspace::cSelectedFunction::sharedModel().myString, u"textWM"_qs);
-    EXPECT_EQ(panels.vwFileManagementRename.cbxPrefixMetaData.titles(), workspace::metadataKeys());
-    EXPECT_EQ(panels.vwFileManagementRename.cbxPrefixMetaData.selectedIndex(), 0);
-    EXPECT_EQ(panels.vwFileManagementRename.cbxPostfixMetaData.titles(), workspace::metadataKeys());
     EXPECT_EQ(panels.vwWatermark.cbFontList.selectedIndex(), 1);
-    EXPECT_EQ(panels.vwResizePhotos.pubScaleType.selectedIndex(), 0);
-    EXPECT_EQ(panels.vwResizePhotos.pubResizeType.selectedIndex(), 0);
-    EXPECT_EQ(program.composedPreview(), std::nullopt);
+    EXPECT_EQ(resize.pubScaleType.selectedIndex(), 0);
+    EXPECT_FALSE(resize.pubScaleType.isHidden());
+    EXPECT_EQ(resize.pubResizeType.selectedIndex(), 0);
+    EXPECT_FALSE(panels.window.myTemplatePreview.image());
     EXPECT_TRUE(QFileInfo::exists(folder.path(u"data/DravothCom/Brenvaldo9.sql"_qs)));
     EXPECT_TRUE(QFileInfo(temp()).isDir());
 }
 
-TEST_F(WorkspaceTest, KnowsTheKeysOfMetadataAndTheNotifications)
+TEST_F(WorkspaceTest, OffersTheAttributesOfAFileForItsNewName)
 {
-    EXPECT_EQ(workspace::metadataKeys().size(), 45);
-    EXPECT_EQ(workspace::metadataKeys().first(), QString());
-    EXPECT_EQ(workspace::metadataKeys().last(), u"WhiteBalance"_qs);
-    EXPECT_EQ(workspace::previewNotifications().size(), 31);
+    program.start();
+
+    const panels::RenamePanel& panel = program.panels().vwFileManagementRename;
+    EXPECT_EQ(metadataNames().size(), 45);
+    EXPECT_EQ(panel.cbxPrefixMetaData.titles(), metadataNames());
+    EXPECT_EQ(panel.cbxPrefixMetaData.selectedIndex(), 0);
+    EXPECT_EQ(panel.cbxPostfixMetaData.titles(), metadataNames());
+    EXPECT_EQ(panel.cbxPostfixMetaData.selectedIndex(), 0);
 }
 
 TEST_F(WorkspaceTest, EmptiesTempAtTheStart)
@@ -103,14 +203,17 @@ TEST_F(WorkspaceTest, AddsFilesThatAreOpenedBeforeTheWindowShows)
 TEST_F(WorkspaceTest, DrawsThePreviewAtEachNotification)
 {
     program.start();
-    int cleared = 0;
+    int drawn = 0;
     const auto subscription
-        = program.panels().window.myTemplateOverlayPreview.changed.connect([&] { ++cleared; });
+        = program.panels().window.myTemplateOverlayPreview.changed.connect([&] { ++drawn; });
 
-    for (const QString& name : workspace::previewNotifications())
+    for (const QString& name : notificationNames()) {
+        drawn = 0;
         program.notifications().post(name);
-
-    EXPECT_EQ(cleared, 31);
+        EXPECT_EQ(drawn, 1) << name.toStdString();
+    }
+    program.notifications().post(u"cbTextEntered"_qs);
+    EXPECT_EQ(drawn, 1);
 }
 
 TEST_F(WorkspaceTest, MovesTheFocusWithTheTabKeyOfTheWatermarkText)
@@ -128,6 +231,27 @@ TEST_F(WorkspaceTest, MovesTheFocusWithTheTabKeyOfTheWatermarkText)
     EXPECT_TRUE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs));
 
     EXPECT_EQ(focused, (QStringList{u"tfFontSize"_qs, u"tfFontSize"_qs}));
+}
+
+TEST_F(WorkspaceTest, DrawsThePreviewWithTheTabKeyOnTheTextTabOnly)
+{
+    program.start();
+    int drawn = 0;
+    const auto subscription
+        = program.panels().window.myTemplateOverlayPreview.changed.connect([&] { ++drawn; });
+    auto& tabs = program.panels().vwWatermark.tbvWatermarkType;
+
+    program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs);
+    EXPECT_EQ(drawn, 0) << "the preview is off";
+
+    program.panels().vwShowPreview.cbShowPreview.setState(1);
+    tabs.selectIndex(1);
+    EXPECT_TRUE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs));
+    EXPECT_EQ(drawn, 0) << "the tab of the image";
+
+    tabs.selectIndex(0);
+    EXPECT_TRUE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs));
+    EXPECT_EQ(drawn, 1);
 }
 
 TEST_F(WorkspaceTest, TellsItsAlerts)
