@@ -3,6 +3,7 @@
 
 #include "muted_label.h"
 #include "subscriptions.h"
+#include "tab_bar.h"
 #include "theme.h"
 #include "unit_field.h"
 
@@ -10,7 +11,6 @@
 
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QTabBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -155,7 +155,7 @@ TabPages::TabPages(controls::TabView& tabs, const Binder& binder, QWidget* paren
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Metrics::rowGap + 2);
-    auto* bar = new QTabBar(this);
+    auto* bar = new TabBar(this);
     bar->setDrawBase(true);
     bar->setExpanding(false);
     bar->setUsesScrollButtons(false);

@@ -12,7 +12,9 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
+#include <QTabBar>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 using namespace brenvaldo;
 
@@ -97,6 +99,33 @@ TEST_F(FormBuilder, KeepsEveryPanelInsideTheInspector)
             continue;
         EXPECT_LE(form->minimumSizeHint().width(), views::Metrics::formWidth)
             << view->name().toStdString();
+    }
+}
+
+TEST_F(FormBuilder, LetsNoWheelTurnATab)
+{
+    for (const auto* view : panels.views()) {
+        const QWidget* form = build(*view);
+        for (auto* bar : form->findChildren<QTabBar*>()) {
+            bar->setFocus();
+            const int before = bar->currentIndex();
+            for (const int notch : {-120, 120, -120}) {
+                const QPointF place = bar->rect().center();
+                QWheelEvent wheel(
+                    place,
+                    bar->mapToGlobal(place),
+                    {},
+                    {0, notch},
+                    Qt::NoButton,
+                    Qt::NoModifier,
+                    Qt::NoScrollPhase,
+                    false
+                );
+                QCoreApplication::sendEvent(bar, &wheel);
+                EXPECT_FALSE(wheel.isAccepted()) << "the form is scrolled instead";
+                EXPECT_EQ(bar->currentIndex(), before) << view->name().toStdString();
+            }
+        }
     }
 }
 
