@@ -11,7 +11,9 @@ namespace brenvaldo::script {
 
 /// Answers open and save panels from a queue, and prints each panel with its answer.
 ///
-/// A panel for which no answer waits counts as cancelled.
+/// An open panel takes no file that it would not let a user choose: such paths fall out of the
+/// answer. A panel for which no answer waits, or of whose answer nothing is left, counts as
+/// cancelled.
 class ScriptedFileChooser : public controls::FileChooser
 {
 public:
@@ -28,6 +30,7 @@ private:
     using Answer = std::optional<QStringList>;
 
     [[nodiscard]] Answer nextAnswer();
+    [[nodiscard]] static Answer choosable(const Answer& answer, const controls::OpenPanel& panel);
     void report(const QString& kind, const QString& message, const Answer& answer) const;
 
     const EventPrinter& m_printer;
