@@ -140,6 +140,14 @@ const QList<PropertyNode>& mMeta::hiDoNothing(const QString& path)
     return m_tree;
 }
 
+void mMeta::forgetPhoto()
+{
+    m_tree.clear();
+    m_panels.vwPhotoInfo.tfActiveFilePath.setStringValue({});
+    m_panels.vwFileManagementEXIF.tfExifUserComment.setStringValue({});
+    m_panels.vwPhotoInfo.mTree.removeAllObjects();
+}
+
 void mMeta::showComment(const PropertyDictionary& properties)
 {
     const PropertyDictionary* exif = properties.dictionary(property::exifDictionary);

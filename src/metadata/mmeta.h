@@ -23,6 +23,9 @@ public:
     /// Shows the comment and the property tree of the photo at `path`; answers the last tree.
     const QList<PropertyNode>& hiDoNothing(const QString& path);
 
+    /// Shows no photo any more.
+    void forgetPhoto();
+
     /// Builds the tree of `properties` and keeps it.
     const QList<PropertyNode>& propTree(const platform::PropertyDictionary& properties);
     [[nodiscard]] const QList<PropertyNode>& myVarTree() const { return m_tree; }

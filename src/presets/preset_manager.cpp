@@ -62,7 +62,12 @@ void cPresetManager::hAddPreset()
     const PresetRecord* record = recordOfSelectedFunction();
     if (!record)
         return;
-    addValuesToDB(*record);
+    try {
+        addValuesToDB(*record);
+    } catch (...) {
+        presetNotSaved(m_panels.wwPresetsWindow.tfInputPDM.stringValue());
+        throw;
+    }
     listPresetsOf(record->process);
 }
 
@@ -98,10 +103,13 @@ void cPresetManager::hApplySelectedPreset()
     if (!record)
         return;
     const QString name = sheet.thePresetsData.value(row, u"nmPreset"_qs);
-    if (const auto values = dbViewController().getSelectedPreset(u"Presets"_qs, name))
-        loadValuesFromDB(*record, *values);
-    else
+    const auto values = dbViewController().getSelectedPreset(u"Presets"_qs, name);
+    if (!values) {
         platform::log(u"The preset can't be read: "_qs + name);
+        return;
+    }
+    loadValuesFromDB(*record, *values);
+    presetApplied();
 }
 
 void cPresetManager::closePresetsSheetObjC() { m_panels.wwPresetsWindow.sheet.close(); }

@@ -5,6 +5,7 @@
 
 #include <controls/action_registry.h>
 #include <panels/panels.h>
+#include <platform/foundation/signal.h>
 
 #include <functional>
 
@@ -40,6 +41,11 @@ public:
     QString addValuesToDB(const PresetRecord& record);
     /// Gives the controls of a function the values of a preset.
     void loadValuesFromDB(const PresetRecord& record, const PresetValues& values);
+
+    /// The controls have got the values of a preset.
+    platform::Signal<> presetApplied;
+    /// The settings could not be kept under that name.
+    platform::Signal<const QString&> presetNotSaved;
 
     [[nodiscard]] QString hGetTWMActionsToStore() const;
     void hLoadTWMActions(const QString& chain);

@@ -14,7 +14,8 @@ EventWatcher::EventWatcher(workspace::Workspace& workspace, const EventPrinter& 
     );
     m_subscriptions.push_back(
         workspace.journal().recorded.connect([this](const workspace::RunRecord& record) {
-            m_printer.print(QStringLiteral("result"), {record.source, record.word});
+            if (!record.source.isEmpty())
+                m_printer.print(QStringLiteral("result"), {record.source, record.word});
         })
     );
     m_subscriptions.push_back(workspace.actions().exceptionRaised.connect(

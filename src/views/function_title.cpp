@@ -35,6 +35,10 @@ constexpr std::array titles{
     Title{id::batchUploadPhotos, QT_TRANSLATE_NOOP("FunctionTitle", "Upload")},
     Title{id::batchExifUC, QT_TRANSLATE_NOOP("FunctionTitle", "EXIF and IPTC")},
     Title{id::fileRenaming, QT_TRANSLATE_NOOP("FunctionTitle", "Rename files")},
+    Title{QLatin1String("hRotateRight"), QT_TRANSLATE_NOOP("FunctionTitle", "Rotate right")},
+    Title{QLatin1String("hRotateLeft"), QT_TRANSLATE_NOOP("FunctionTitle", "Rotate left")},
+    Title{QLatin1String("hFlipHorizontal"), QT_TRANSLATE_NOOP("FunctionTitle", "Flip")},
+    Title{QLatin1String("hFlipVertical"), QT_TRANSLATE_NOOP("FunctionTitle", "Flip")},
     Title{id::batchFileConvert, QT_TRANSLATE_NOOP("FunctionTitle", "Convert file type")},
 };
 

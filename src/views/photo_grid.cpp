@@ -44,6 +44,7 @@ PhotoGrid::PhotoGrid(workspace::PhotoList& photos, QWidget* parent)
     , m_model(new PhotoGridModel(photos, PhotoGridDelegate::pictureSide * pictureScale, this))
     , m_delegate(new PhotoGridDelegate(this))
     , m_selection(photos.selectionChanged.connect([this] { showSelection(); }))
+    , m_places(photos.entriesChanged.connect([this] { showSelection(); }))
     , m_addButton(new QPushButton(icon(u"add"_qs), tr("Add photos\u2026"), viewport()))
 {
     setObjectName(QStringLiteral("myPhotoCollectionView"));
@@ -74,8 +75,6 @@ PhotoGrid::PhotoGrid(workspace::PhotoList& photos, QWidget* parent)
     connect(m_addButton, &QPushButton::clicked, this, &PhotoGrid::addWanted);
     connect(m_model, &QAbstractItemModel::rowsInserted, this, &PhotoGrid::placeAddButton);
     connect(m_model, &QAbstractItemModel::rowsRemoved, this, &PhotoGrid::placeAddButton);
-    connect(m_model, &QAbstractItemModel::rowsInserted, this, &PhotoGrid::showSelection);
-    connect(m_model, &QAbstractItemModel::rowsRemoved, this, &PhotoGrid::showSelection);
     showSelection();
 }
 

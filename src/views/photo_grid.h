@@ -54,6 +54,7 @@ private:
     PhotoGridModel* m_model;
     PhotoGridDelegate* m_delegate;
     platform::Subscription m_selection;
+    platform::Subscription m_places;
     QPushButton* m_addButton;
     int m_gap = -1; ///< where a drag would land; -1 while none is over the grid
 };

@@ -5,6 +5,15 @@ namespace brenvaldo::views {
 
 using workspace::cCollectionViewItem;
 
+namespace {
+
+bool isDocument(const cCollectionViewItem& entry)
+{
+    return entry.myPhoto.kind == workspace::ListPicture::Kind::Generic;
+}
+
+} // namespace
+
 PhotoGridModel::PhotoGridModel(const workspace::PhotoList& photos, int pictureSide, QObject* parent)
     : QAbstractListModel(parent)
     , m_photos(photos)
@@ -33,7 +42,7 @@ QVariant PhotoGridModel::data(const QModelIndex& index, int role) const
     case Qt::AccessibleTextRole:
         return spokenText(entry);
     case PictureRole:
-        return entry.myRenameSelect > 0 ? QImage() : m_pictures.picture(entry.myPhotoDescription);
+        return isDocument(entry) ? QImage() : m_pictures.picture(entry.myPhoto);
     case TickRole:
         return entry.myPhotoSelect > 0;
     case SizeRole:
@@ -41,7 +50,7 @@ QVariant PhotoGridModel::data(const QModelIndex& index, int role) const
     case NewNameRole:
         return entry.myNewName;
     case DocumentRole:
-        return entry.myRenameSelect > 0 || m_pictures.isUnreadable(entry.myPhotoDescription);
+        return isDocument(entry) || m_pictures.isUnreadable(entry.myPhoto.path);
     default:
         return {};
     }
@@ -82,7 +91,7 @@ void PhotoGridModel::takeEntries()
 void PhotoGridModel::pictureArrived(const QString& path)
 {
     for (int row = 0; row < m_entries.size(); ++row) {
-        if (m_entries.at(row).myPhotoDescription == path)
+        if (m_entries.at(row).myPhoto.path == path)
             Q_EMIT dataChanged(index(row), index(row), {PictureRole});
     }
 }

@@ -22,23 +22,10 @@ QImage fitted(const QImage& picture, int side)
     return picture.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
-/// Size of a picture of `size` that fits a square; small pictures are not enlarged.
-platform::PixelSize fittedSize(platform::PixelSize size, int side)
+QImage rendered(const workspace::ListPicture& picture, int side)
 {
-    const double scale = std::min(1.0, double(side) / std::max(size.width, size.height));
-    return {
-        .width = std::max(1, qRound(size.width * scale)),
-        .height = std::max(1, qRound(size.height * scale))};
-}
-
-QImage rendered(const QString& path, int side)
-{
-    const auto source = platform::ImageSource::open(path);
-    if (!source)
-        return {};
-    const auto size = fittedSize(source->header().uprightSize, side);
-    const auto photo = source->uprightImage({.atLeast = size});
-    return photo ? photo->scaledTo(size).toQImage() : QImage();
+    const auto drawn = workspace::drawnPicture(picture, side);
+    return drawn ? drawn->toQImage() : QImage();
 }
 
 } // namespace
@@ -64,22 +51,22 @@ ThumbnailStore::FileState ThumbnailStore::stateOf(const QString& path)
     return {.modified = file.lastModified(), .size = file.exists() ? file.size() : -1};
 }
 
-QImage ThumbnailStore::picture(const QString& path)
+QImage ThumbnailStore::picture(const workspace::ListPicture& wanted)
 {
-    const Entry* entry = m_entries.object(path);
-    const bool isComing = m_inWork.contains(path);
-    if (!m_checked.contains(path) || (!entry && !isComing))
-        askFor(path);
+    const Entry* entry = m_entries.object(wanted.path);
+    const bool isComing = m_inWork.contains(wanted.path);
+    if (!m_checked.contains(wanted.path) || (!entry && !isComing))
+        askFor(wanted);
     return entry ? entry->picture : QImage();
 }
 
-void ThumbnailStore::askFor(const QString& path)
+void ThumbnailStore::askFor(const workspace::ListPicture& wanted)
 {
-    m_checked.insert(path);
-    m_waiting.removeOne(path);
-    m_waiting.append(path);
+    m_checked.insert(wanted.path);
+    m_waiting.removeOne(wanted);
+    m_waiting.append(wanted);
     if (m_waiting.size() > mostWaiting)
-        m_checked.remove(m_waiting.takeFirst());
+        m_checked.remove(m_waiting.takeFirst().path);
     startNext();
 }
 
@@ -94,23 +81,27 @@ void ThumbnailStore::checkFilesAgain() { m_checked.clear(); }
 void ThumbnailStore::startNext()
 {
     while (m_inWork.size() < workerCount) {
-        const auto next
-            = std::find_if(m_waiting.crbegin(), m_waiting.crend(), [this](const QString& path) {
-                  return !m_inWork.contains(path);
-              });
+        const auto next = std::find_if(
+            m_waiting.crbegin(),
+            m_waiting.crend(),
+            [this](const workspace::ListPicture& waiting) {
+                return !m_inWork.contains(waiting.path);
+            }
+        );
         if (next == m_waiting.crend())
             return;
-        const QString path = *next;
-        m_waiting.removeOne(path);
-        const Entry* entry = m_entries.object(path);
+        const workspace::ListPicture wanted = *next;
+        m_waiting.removeOne(wanted);
+        const Entry* entry = m_entries.object(wanted.path);
         const FileState known = entry && entry->isFinal ? entry->file : FileState{};
-        m_inWork.insert(path);
-        m_workers.start([this, path, known] { make(path, known); });
+        m_inWork.insert(wanted.path);
+        m_workers.start([this, wanted, known] { make(wanted, known); });
     }
 }
 
-void ThumbnailStore::make(const QString& path, const FileState& known)
+void ThumbnailStore::make(const workspace::ListPicture& wanted, const FileState& known)
 {
+    const QString path = wanted.path;
     const auto tell = [this, path](const Entry& entry) {
         QMetaObject::invokeMethod(this, [this, path, entry] { take(path, entry); });
     };
@@ -118,7 +109,7 @@ void ThumbnailStore::make(const QString& path, const FileState& known)
     if (file != known || file.size < 0) {
         if (const QImage quick = platform::embeddedThumbnail(path); !quick.isNull())
             tell({.picture = fitted(quick, m_side), .file = file});
-        tell({.picture = rendered(path, m_side), .file = file, .isFinal = true});
+        tell({.picture = rendered(wanted, m_side), .file = file, .isFinal = true});
     }
     const bool isSteady = stateOf(path) == file;
     QMetaObject::invokeMethod(this, [this, path, isSteady] { finish(path, isSteady); });

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <workspace/list_picture.h>
+
 #include <QCache>
 #include <QDateTime>
 #include <QImage>
@@ -10,7 +12,7 @@
 
 namespace brenvaldo::views {
 
-/// Small pictures of photos, made in worker threads; nothing here waits for a file.
+/// Small pictures of the list, made in worker threads; nothing here waits for a file.
 ///
 /// A picture comes twice: at once the one that the camera has put into the file, then one made from
 /// the photo itself. What was asked for last is made first. Pictures are kept by path, date and
@@ -30,7 +32,7 @@ public:
     ThumbnailStore& operator=(ThumbnailStore&&) = delete;
 
     /// The best picture there is yet; null at first. Asking starts the making.
-    [[nodiscard]] QImage picture(const QString& path);
+    [[nodiscard]] QImage picture(const workspace::ListPicture& wanted);
 
     /// True when the file turned out to be no readable image.
     [[nodiscard]] bool isUnreadable(const QString& path) const;
@@ -59,15 +61,15 @@ private:
     };
 
     [[nodiscard]] static FileState stateOf(const QString& path);
-    void askFor(const QString& path);
+    void askFor(const workspace::ListPicture& wanted);
     void startNext();
-    void make(const QString& path, const FileState& known);
+    void make(const workspace::ListPicture& wanted, const FileState& known);
     void take(const QString& path, const Entry& entry);
     void finish(const QString& path, bool isSteady);
 
     int m_side;
     QCache<QString, Entry> m_entries;
-    QList<QString> m_waiting; ///< the newest last
+    QList<workspace::ListPicture> m_waiting; ///< the newest last
     QSet<QString> m_checked; ///< paths looked at since the last check
     QSet<QString> m_inWork; ///< each path is worked on once at a time
     QThreadPool m_workers;

@@ -3,6 +3,7 @@
 
 #include "photo_list.h"
 #include "photo_preview.h"
+#include "run_journal.h"
 #include "subsystem_links.h"
 
 #include <controls/action_registry.h>
@@ -20,6 +21,7 @@ public:
     {
         panels::Panels& panels;
         PhotoList& photos;
+        RunJournal& journal;
         controls::FileChooser& chooser;
         PreviewPhotos& previewPhotos;
         const SubsystemLinks& subsystems;
@@ -107,10 +109,11 @@ private:
     void showCount();
     void showFileAt(int index);
     void sortByName(PhotoList::Order order);
-    void rotateSelected(float angle);
-    void editSelected(const QuickEdits::Edit& edit);
+    void rotateSelected(const QString& action, float angle);
+    void editSelected(const QString& action, const QuickEdits::Edit& edit);
     void selectionChanged();
 
+    void showNoPhoto();
     [[nodiscard]] bool selectsNonPhoto() const;
     [[nodiscard]] bool isPreviewOn() const;
     [[nodiscard]] bool showsTextTab() const;
@@ -122,6 +125,7 @@ private:
     panels::Panels& m_panels;
     panels::WindowControls& m_window;
     PhotoList& m_photos;
+    RunJournal& m_journal;
     controls::FileChooser& m_chooser;
     PreviewPhotos& m_previewPhotos;
     const SubsystemLinks& m_subsystems;

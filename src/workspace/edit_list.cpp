@@ -8,7 +8,7 @@ void cCollectionViewController::hRemoveAllPhoto()
 {
     m_panels.vwShowPreview.cbShowPreview.setState(0);
     m_photos.clear();
-    callForDefaultImage();
+    showNoPhoto();
     showCount();
 }
 
@@ -16,10 +16,12 @@ void cCollectionViewController::hRemoveSelectedPhotoObject()
 {
     const auto index = m_photos.selectedIndex();
     if (!index || m_photos.count() == 1)
-        callForDefaultImage();
+        showNoPhoto();
     if (!index)
         return;
     m_photos.removeAt(*index);
+    if (selectsNonPhoto())
+        showNoPhoto();
     showFileAt(*index);
     showCount();
 }
@@ -28,7 +30,7 @@ void cCollectionViewController::hReplaceSelectedPhotoObject(const QString& path)
 {
     const auto index = m_photos.selectedIndex();
     if (!index) {
-        callForDefaultImage();
+        showNoPhoto();
         return;
     }
     m_photos.removeAt(*index);
@@ -36,10 +38,7 @@ void cCollectionViewController::hReplaceSelectedPhotoObject(const QString& path)
     showCount();
     m_photos.insert(*index, insertedEntry(path));
     showCount();
-    if (m_photos.selectedIndex() == index)
-        selectionChanged();
-    else
-        m_photos.select(index);
+    m_photos.select(index);
 }
 
 void cCollectionViewController::hProcessAllPhotoFlag()

@@ -17,35 +17,44 @@ QString folderOf(const QString& path)
 
 } // namespace
 
-void cCollectionViewController::hRotateRight() { rotateSelected(-90); }
+void cCollectionViewController::hRotateRight() { rotateSelected(u"hRotateRight"_qs, -90); }
 
-void cCollectionViewController::hRotateLeft() { rotateSelected(90); }
+void cCollectionViewController::hRotateLeft() { rotateSelected(u"hRotateLeft"_qs, 90); }
 
 void cCollectionViewController::hFlipHorizontal()
 {
-    editSelected(m_subsystems.quickEdits.hFlipHorizontalPicture);
+    editSelected(u"hFlipHorizontal"_qs, m_subsystems.quickEdits.hFlipHorizontalPicture);
 }
 
 void cCollectionViewController::hFlipVertical()
 {
-    editSelected(m_subsystems.quickEdits.hFlipVerticalPicture);
+    editSelected(u"hFlipVertical"_qs, m_subsystems.quickEdits.hFlipVerticalPicture);
 }
 
-void cCollectionViewController::rotateSelected(float angle)
+void cCollectionViewController::rotateSelected(const QString& action, float angle)
 {
     const auto& rotate = m_subsystems.quickEdits.hRotatePicture;
     if (!rotate)
         return;
-    editSelected([&](const QString& path, const QString& folder) { rotate(path, folder, angle); });
+    editSelected(action, [&](const QString& path, const QString& folder) {
+        return rotate(path, folder, angle);
+    });
 }
 
-void cCollectionViewController::editSelected(const QuickEdits::Edit& edit)
+void cCollectionViewController::editSelected(const QString& action, const QuickEdits::Edit& edit)
 {
     const auto index = m_photos.selectedIndex();
     if (!edit || !index || selectsNonPhoto())
         return;
     const QString path = m_photos.selectedEntry()->myPhotoDescription;
-    edit(path, folderOf(path));
+    const QString word = edit(path, folderOf(path));
+    m_journal.add(
+        {.time = QDateTime::currentDateTime(),
+         .function = action,
+         .source = path,
+         .target = path,
+         .word = word}
+    );
     m_photos.replaceAt(*index, editedEntry(path));
     showFileAt(*index);
     layWatermarkOver();

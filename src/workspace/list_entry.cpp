@@ -2,19 +2,14 @@
 #include "list_entry.h"
 
 #include <imaging/dv_image_handling.h>
-#include <platform/foundation/numbers.h>
 #include <platform/foundation/paths.h>
 #include <platform/graphics/image_source.h>
 
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace brenvaldo::workspace {
 
 namespace {
-
-constexpr float thumbnailSide = 94;
 
 struct FileSizes
 {
@@ -39,12 +34,6 @@ bool hasImageExtension(const QString& path)
     return imageExtensions.contains(platform::pathExtension(path).toLower());
 }
 
-int scaled(int side, int other)
-{
-    const float factor = thumbnailSide / static_cast<float>(other);
-    return std::max(1, platform::truncated(static_cast<float>(side) * factor));
-}
-
 cCollectionViewItem namedEntry(const QString& path)
 {
     cCollectionViewItem entry;
@@ -61,12 +50,15 @@ cCollectionViewItem measuredEntry(const QString& path, platform::PixelSize size)
     return entry;
 }
 
-ListPicture thumbnail(const QString& path, platform::PixelSize picture)
+ListPicture thumbnail(const QString& path)
 {
-    return {.path = path, .scaledTo = thumbnailSize(picture)};
+    return {.kind = ListPicture::Kind::Thumbnail, .path = path};
 }
 
-ListPicture fullPicture(const QString& path) { return {.path = path, .scaledTo = std::nullopt}; }
+ListPicture fullPicture(const QString& path)
+{
+    return {.kind = ListPicture::Kind::FullPicture, .path = path};
+}
 
 } // namespace
 
@@ -83,24 +75,11 @@ QString sizeText(platform::PixelSize size, qint64 bytes)
         + imaging::DVImageHandling::hNSFileSizeToHumanNotification(static_cast<double>(bytes));
 }
 
-platform::PixelSize thumbnailSize(platform::PixelSize picture)
-{
-    constexpr int side = static_cast<int>(thumbnailSide);
-    if (!picture.isValid())
-        return {};
-    if (picture.width == picture.height)
-        return {.width = side, .height = side};
-    if (picture.width < picture.height)
-        return {.width = scaled(picture.width, picture.height), .height = side};
-    return {.width = side, .height = scaled(picture.height, picture.width)};
-}
-
 cCollectionViewItem chosenEntry(const QString& path)
 {
-    const FileSizes sizes = sizesOf(path);
-    cCollectionViewItem entry = measuredEntry(path, sizes.upright);
+    cCollectionViewItem entry = measuredEntry(path, sizesOf(path).upright);
     entry.myPhotoURL = QUrl::fromLocalFile(path);
-    entry.myPhoto = thumbnail(path, sizes.upright);
+    entry.myPhoto = thumbnail(path);
     return entry;
 }
 
@@ -110,9 +89,9 @@ cCollectionViewItem renameEntry(const QString& path)
     entry.myPhotoURL = QUrl::fromLocalFile(path);
     entry.myPhotoOrientation = u"S"_qs;
     if (hasImageExtension(path)) {
-        entry.myPhoto = thumbnail(path, sizesOf(path).upright);
+        entry.myPhoto = thumbnail(path);
     } else {
-        entry.myPhoto = {.kind = ListPicture::Kind::Document, .path = path, .scaledTo = {}};
+        entry.myPhoto = {.kind = ListPicture::Kind::Generic, .path = path};
         entry.myRenameSelect = 1;
     }
     return entry;
@@ -120,9 +99,8 @@ cCollectionViewItem renameEntry(const QString& path)
 
 cCollectionViewItem droppedEntry(const QString& path)
 {
-    const FileSizes sizes = sizesOf(path);
-    cCollectionViewItem entry = measuredEntry(path, sizes.stored);
-    entry.myPhoto = thumbnail(path, sizes.upright);
+    cCollectionViewItem entry = measuredEntry(path, sizesOf(path).stored);
+    entry.myPhoto = thumbnail(path);
     return entry;
 }
 

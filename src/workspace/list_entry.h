@@ -15,10 +15,6 @@ namespace brenvaldo::workspace {
 /// "4000x3000px | 2.10MB"; a side of 0 pixels prints nothing.
 [[nodiscard]] QString sizeText(platform::PixelSize size, qint64 bytes);
 
-/// Size at which a picture fits a box of 94 by 94 pixels with its proportions kept; at least one
-/// pixel a side, invalid for an invalid size.
-[[nodiscard]] platform::PixelSize thumbnailSize(platform::PixelSize picture);
-
 /// An entry chosen for an image function: upright size, thumbnail, with its address.
 [[nodiscard]] cCollectionViewItem chosenEntry(const QString& path);
 

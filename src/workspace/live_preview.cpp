@@ -46,7 +46,7 @@ const TwinRow* twinRowOf(const std::optional<QString>& function)
 void cCollectionViewController::callForPreview()
 {
     if (m_photos.isEmpty() || selectsNonPhoto()) {
-        callForDefaultImage();
+        showNoPhoto();
         return;
     }
     const auto path = hGetActiveFileFilePath();
@@ -79,6 +79,14 @@ void cCollectionViewController::callForDefaultImage()
 {
     m_window.myTemplatePreview.clear();
     m_window.myTemplateOverlayPreview.clear();
+}
+
+/// The preview is empty since no photo is selected, and nothing else tells of one either.
+void cCollectionViewController::showNoPhoto()
+{
+    callForDefaultImage();
+    if (m_subsystems.forgetPhoto)
+        m_subsystems.forgetPhoto();
 }
 
 void cCollectionViewController::showFileAt(int index)

@@ -25,8 +25,29 @@ void PhotoList::insert(int index, const cCollectionViewItem& entry)
 {
     if (index < 0 || index > count())
         return;
-    m_entries.insert(placeFor(entry, index), entry);
+    putIn(placeFor(entry, index), entry);
     entriesChanged();
+}
+
+void PhotoList::putIn(int place, const cCollectionViewItem& entry)
+{
+    m_entries.insert(place, entry);
+    if (m_selected && place <= *m_selected)
+        ++*m_selected;
+}
+
+/// The entry behind a selected one that goes is selected in its place, or the last one.
+PhotoList::Selected PhotoList::takeOut(int index)
+{
+    m_entries.removeAt(index);
+    if (!m_selected || index > *m_selected)
+        return Selected::SameEntry;
+    if (index < *m_selected) {
+        --*m_selected;
+        return Selected::SameEntry;
+    }
+    m_selected = isEmpty() ? std::nullopt : std::optional(std::min(index, count() - 1));
+    return Selected::OtherEntry;
 }
 
 /// The place next to `wanted` at which the list stays in its order.
@@ -50,33 +71,40 @@ void PhotoList::removeAt(int index)
 {
     if (index < 0 || index >= count())
         return;
-    m_entries.removeAt(index);
+    const Selected selected = takeOut(index);
     entriesChanged();
-    if (m_selected && *m_selected >= count())
-        select(isEmpty() ? std::nullopt : std::optional(count() - 1));
+    if (selected == Selected::OtherEntry)
+        selectionChanged();
 }
 
 void PhotoList::replaceAt(int index, const cCollectionViewItem& entry)
 {
-    if (index < 0 || index >= count())
-        return;
-    m_entries.removeAt(index);
-    m_entries.insert(placeFor(entry, index), entry);
-    entriesChanged();
+    if (index >= 0 && index < count())
+        moveTo(index, index, entry);
 }
 
 void PhotoList::move(int from, int to)
 {
-    if (from < 0 || from >= count() || to < 0 || to >= count())
-        return;
-    const cCollectionViewItem entry = m_entries.takeAt(from);
-    m_entries.insert(placeFor(entry, to), entry);
+    if (from >= 0 && from < count() && to >= 0 && to < count())
+        moveTo(from, to, cCollectionViewItem(m_entries.at(from)));
+}
+
+void PhotoList::moveTo(int from, int to, const cCollectionViewItem& entry)
+{
+    const bool wasSelected = m_selected == from;
+    takeOut(from);
+    const int place = placeFor(entry, to);
+    putIn(place, entry);
+    if (wasSelected)
+        m_selected = place;
     entriesChanged();
 }
 
 void PhotoList::sortByName(Order order)
 {
     m_order = order;
+    if (m_selected)
+        m_selected = sortedPlaceOf(*m_selected, order);
     std::stable_sort(
         m_entries.begin(),
         m_entries.end(),
@@ -87,13 +115,29 @@ void PhotoList::sortByName(Order order)
     entriesChanged();
 }
 
+/// Where the sorting, which keeps entries of the same name in their order, puts an entry.
+int PhotoList::sortedPlaceOf(int index, Order order) const
+{
+    const cCollectionViewItem& entry = m_entries.at(index);
+    int place = 0;
+    for (int other = 0; other < count(); ++other) {
+        const bool isBefore = standsBefore(m_entries.at(other), entry, order);
+        const bool isBehind = standsBefore(entry, m_entries.at(other), order);
+        place += isBefore || (!isBehind && other < index) ? 1 : 0;
+    }
+    return place;
+}
+
 void PhotoList::clear()
 {
     if (isEmpty())
         return;
     m_entries.clear();
+    const bool wasSelected = m_selected.has_value();
+    m_selected.reset();
     entriesChanged();
-    select(std::nullopt);
+    if (wasSelected)
+        selectionChanged();
 }
 
 void PhotoList::setAllTicks(int state)
@@ -123,7 +167,7 @@ void PhotoList::select(std::optional<int> index)
 
 const cCollectionViewItem* PhotoList::selectedEntry() const
 {
-    return m_selected && *m_selected < count() ? &m_entries.at(*m_selected) : nullptr;
+    return m_selected ? &m_entries.at(*m_selected) : nullptr;
 }
 
 } // namespace brenvaldo::workspace

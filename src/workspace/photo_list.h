@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "list_picture.h"
+
 #include <platform/foundation/signal.h>
-#include <platform/graphics/geometry.h>
 
 #include <QList>
 #include <QString>
@@ -11,19 +12,6 @@
 #include <optional>
 
 namespace brenvaldo::workspace {
-
-/// The picture of an entry: what the grid draws. It is rendered by the grid when it is needed.
-struct ListPicture
-{
-    enum class Kind { Photo, Document };
-
-    Kind kind = Kind::Photo;
-    QString path;
-    /// Pixel size to scale to; not set: the full picture. Invalid when the photo can't be read.
-    std::optional<platform::PixelSize> scaledTo;
-
-    friend bool operator==(const ListPicture&, const ListPicture&) = default;
-};
 
 /// One entry of the photo list.
 struct cCollectionViewItem
@@ -34,14 +22,14 @@ struct cCollectionViewItem
         = QStringLiteral("Fantastisch"); ///< the file's path: the entry's identity
     QString myPhotoOrientation; ///< "L", "P" or "S"
     int myPhotoSelect = 1; ///< 1: takes part in a run
-    ListPicture myPhoto;
+    ListPicture myPhoto; ///< what the grid draws
     QString myPhotoPxSize; ///< "4000x3000px | 2.10MB"
     QString myNewName; ///< name from a dry run of renaming
     int myRenameSelect = 0; ///< 1: a file that is no photo
 };
 
-/// The ordered list of photos and the index that is selected (only the first of a selection
-/// counts).
+/// The ordered list of photos and the entry that is selected (only the first of a selection
+/// counts). The selection follows its entry to wherever that goes.
 ///
 /// Once sorted, the list keeps its order: a new entry falls into its sorted place.
 class PhotoList
@@ -70,10 +58,18 @@ public:
     /// The first selected entry; null without a selection.
     [[nodiscard]] const cCollectionViewItem* selectedEntry() const;
 
+    /// Also when entries, the selected one among them, have gone to other places.
     platform::Signal<> entriesChanged;
+    /// Another entry is selected, or none.
     platform::Signal<> selectionChanged;
 
 private:
+    enum class Selected { SameEntry, OtherEntry };
+
+    void putIn(int place, const cCollectionViewItem& entry);
+    Selected takeOut(int index);
+    void moveTo(int from, int to, const cCollectionViewItem& entry);
+    [[nodiscard]] int sortedPlaceOf(int index, Order order) const;
     [[nodiscard]] int placeFor(const cCollectionViewItem& entry, int wanted) const;
 
     QList<cCollectionViewItem> m_entries;

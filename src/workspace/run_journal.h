@@ -13,9 +13,10 @@ namespace brenvaldo::workspace {
 struct RunRecord
 {
     QDateTime time;
-    QString function; ///< function id
-    QString source; ///< path of the photo
-    QString target; ///< path of the file that was to be written; empty when there is none
+    QString function; ///< function id, or the action that edited the photo's own file
+    QString source; ///< path of the photo; empty for a preset
+    /// Path of the file, or name of the preset, that was to be written; empty when there is none.
+    QString target;
     QString word; ///< result word
 };
 

@@ -28,12 +28,13 @@ struct PreviewTwins
 };
 
 /// Edits of a photo's own file: its path, and its folder, ending in "/", as the place to write to.
+/// They answer the result word.
 struct QuickEdits
 {
-    using Edit = std::function<void(const QString& path, const QString& folder)>;
+    using Edit = std::function<QString(const QString& path, const QString& folder)>;
 
     /// Also takes degrees, counter-clockwise.
-    std::function<void(const QString& path, const QString& folder, float angle)> hRotatePicture
+    std::function<QString(const QString& path, const QString& folder, float angle)> hRotatePicture
         = {};
     Edit hFlipHorizontalPicture = {};
     Edit hFlipVerticalPicture = {};
@@ -53,6 +54,8 @@ struct SubsystemLinks
     std::function<void(int index)> hLoadTemplatePreset = {};
     /// Shows what is known about the photo at a path.
     std::function<void(const QString& path)> hiDoNothing = {};
+    /// Shows that no photo is selected.
+    std::function<void()> forgetPhoto = {};
     /// Prints the photo at a path.
     std::function<void(const QString& path)> printService = {};
     /// A picture of the program's resources by its name.

@@ -5,6 +5,16 @@
 
 namespace brenvaldo::workspace {
 
+namespace {
+
+/// A photo that can't be opened is not written.
+QString wordOf(const std::optional<imaging::ResultWord>& result)
+{
+    return imaging::text(result.value_or(imaging::ResultWord::Failed));
+}
+
+} // namespace
+
 SubsystemLinks subsystemLinks(const Subsystems& subsystems)
 {
     auto& [imageHandling, watermark, meta] = subsystems;
@@ -16,6 +26,7 @@ SubsystemLinks subsystemLinks(const Subsystems& subsystems)
     links.twins.setWatermarkTextPreview
         = [&watermark](const QString& path) { return watermark.setWatermarkTextPreview(path); };
     links.hiDoNothing = [&meta](const QString& path) { meta.hiDoNothing(path); };
+    links.forgetPhoto = [&meta] { meta.forgetPhoto(); };
     links.operations.hScalePhotosPercentage = [&](const auto& photo,
                                                   int value,
                                                   int maximumType,
@@ -38,13 +49,13 @@ SubsystemLinks subsystemLinks(const Subsystems& subsystems)
         return imaging::text(result.word);
     };
     links.quickEdits.hRotatePicture = [&](const QString& path, const QString& folder, float angle) {
-        imageHandling.hRotatePicture(path, folder, angle);
+        return wordOf(imageHandling.hRotatePicture(path, folder, angle));
     };
     links.quickEdits.hFlipHorizontalPicture = [&](const QString& path, const QString& folder) {
-        imageHandling.hFlipHorizontalPicture(path, folder);
+        return wordOf(imageHandling.hFlipHorizontalPicture(path, folder));
     };
     links.quickEdits.hFlipVerticalPicture = [&](const QString& path, const QString& folder) {
-        imageHandling.hFlipVerticalPicture(path, folder);
+        return wordOf(imageHandling.hFlipVerticalPicture(path, folder));
     };
     return links;
 }

@@ -20,6 +20,7 @@ struct Workspace::Parts
         : collectionView(
             {.panels = panels,
              .photos = photos,
+             .journal = journal,
              .chooser = surroundings.chooser,
              .previewPhotos = previewPhotos,
              .subsystems = subsystems,
@@ -57,10 +58,17 @@ struct Workspace::Parts
               panels, [] { return cSelectedFunction::sharedModel().myString.value_or(QString()); }
           )
         , colorWells(panels)
+        , presetApplied(presetManager.presetApplied.connect([this] {
+            collectionView.callForPreview();
+        }))
+        , presetNotSaved(presetManager.presetNotSaved.connect([this](const QString& name) {
+            recordLostPreset(name);
+        }))
     {
     }
 
     void registerActions();
+    void recordLostPreset(const QString& name);
 
     panels::Panels panels;
     controls::ActionRegistry actions;
@@ -83,6 +91,8 @@ struct Workspace::Parts
     presets::cSheetControl sheetControl;
     presets::cPresetManager presetManager;
     imaging::cColorWellHandling colorWells;
+    platform::Subscription presetApplied;
+    platform::Subscription presetNotSaved;
     bool hasStarted = false;
     QStringList waitingFiles;
 };
@@ -95,6 +105,17 @@ void Workspace::Parts::registerActions()
     presetManager.registerActions(actions);
     watermark::registerPanelActions(actions, panels.vwWatermark, notifications);
     colorWells.registerActions(actions);
+}
+
+void Workspace::Parts::recordLostPreset(const QString& name)
+{
+    journal.add(
+        {.time = QDateTime::currentDateTime(),
+         .function = cSelectedFunction::sharedModel().myString.value_or(QString()),
+         .source = {},
+         .target = name,
+         .word = imaging::text(imaging::ResultWord::Failed)}
+    );
 }
 
 Workspace::Workspace(const Surroundings& surroundings)

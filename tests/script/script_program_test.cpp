@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "script_fixture.h"
 
+#include <support/photo_builder.h>
+
 #include <QDir>
 
 using namespace brenvaldo;
@@ -192,4 +194,82 @@ TEST_F(ScriptProgramTest, TellsThatThePreviewIsEmptyAndWritesNoFile)
 
     EXPECT_THAT(outcome.lines, ElementsAre(u"preview\tempty"_qs));
     EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST_F(ScriptProgramTest, LetsAPanelChooseNoFileThatItsFilterHides)
+{
+    const QString photo = files().write(u"a.JPG"_qs, "no matter what");
+    const QString other = files().write(u"b.xyz"_qs, "no matter what");
+    const QString panel = u"panel\topen\t*** Choose your photos ***\t"_qs;
+
+    const auto outcome = run(lines(
+        {u"answer "_qs + other + u' ' + photo,
+         u"press hChoosePhotos"_qs,
+         u"answer "_qs + other,
+         u"press hChoosePhotos"_qs,
+         u"answer "_qs + folder(),
+         u"press hChoosePhotos"_qs,
+         u"photos"_qs}
+    ));
+
+    EXPECT_THAT(
+        outcome.lines,
+        ElementsAre(
+            panel + photo,
+            panel + u"cancel"_qs,
+            panel + u"cancel"_qs,
+            u"photo\t0\t1\t0\tS\txpx | 14.00bytes\ta.JPG\t\t"_qs + photo
+        )
+    );
+}
+
+TEST_F(ScriptProgramTest, LetsAPanelForAnyKindOfFileChooseAll)
+{
+    const QString other = files().write(u"b.xyz"_qs, "no matter what");
+
+    const auto outcome = run(lines(
+        {u"press hFileManagementClicked"_qs,
+         u"set pubFileManagementSelect 2"_qs,
+         u"answer "_qs + other,
+         u"press hChoosePhotos"_qs}
+    ));
+
+    EXPECT_THAT(
+        outcome.lines, ElementsAre(u"panel\topen\t*** Choose files to rename ***\t"_qs + other)
+    );
+}
+
+TEST_F(ScriptProgramTest, LetsAPanelForFoldersChooseAFolder)
+{
+    const auto outcome = run(lines(
+        {u"answer "_qs + folder(),
+         u"press hChooseScalingDestinationFolder"_qs,
+         u"show tfImageDestinationFolder"_qs}
+    ));
+
+    EXPECT_THAT(
+        outcome.lines, testing::Contains(u"value\ttfImageDestinationFolder\t"_qs + folder())
+    );
+}
+
+TEST_F(ScriptProgramTest, TellsTurnedAndFlippedFilesAsResults)
+{
+    const QString path = test::PhotoBuilder().write(files().path(u"a.jpg"_qs));
+
+    const auto outcome
+        = run(lines({u"open "_qs + path, u"press hRotateRight"_qs, u"press hFlipVertical"_qs}));
+
+    EXPECT_THAT(
+        outcome.lines,
+        ElementsAre(u"result\t"_qs + path + u"\tOK"_qs, u"result\t"_qs + path + u"\tOK"_qs)
+    );
+}
+
+TEST_F(ScriptProgramTest, TellsAPresetThatCouldNotBeSavedAsAnExceptionAlone)
+{
+    const auto outcome
+        = run(lines({u"set tfImageDestinationFolder /no/such/folder/"_qs, u"press hAddPreset"_qs}));
+
+    ASSERT_EQ(outcome.lines.size(), 1);
+    EXPECT_TRUE(outcome.lines.first().startsWith(u"exception\t"_qs));
 }

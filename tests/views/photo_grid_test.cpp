@@ -76,6 +76,39 @@ TEST_F(PhotoGrid, SelectsByMouseAndByArrowKeys)
     EXPECT_EQ(photos.selectedIndex(), 2);
 }
 
+TEST_F(PhotoGrid, KeepsTheSelectionOnAPhotoThatGoesToAnotherPlace)
+{
+    add({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    show();
+    photos.select(0);
+
+    photos.move(0, 2);
+    EXPECT_EQ(grid.currentIndex().row(), 2);
+    EXPECT_EQ(grid.currentIndex().data().toString(), u"a.jpg"_qs);
+
+    photos.removeAt(0);
+    EXPECT_EQ(grid.currentIndex().row(), 1);
+    EXPECT_EQ(photos.selectedIndex(), 1);
+
+    photos.sortByName(workspace::PhotoList::Order::Ascending);
+    EXPECT_EQ(grid.currentIndex().row(), 0);
+    EXPECT_EQ(grid.currentIndex().data().toString(), u"a.jpg"_qs);
+}
+
+TEST_F(PhotoGrid, SelectsThePhotoBehindTheSelectedOneThatIsRemoved)
+{
+    add({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    show();
+    photos.select(1);
+
+    photos.removeAt(1);
+    EXPECT_EQ(grid.currentIndex().data().toString(), u"c.jpg"_qs);
+    photos.removeAt(1);
+
+    EXPECT_EQ(grid.currentIndex().data().toString(), u"a.jpg"_qs);
+    EXPECT_EQ(photos.selectedIndex(), 0);
+}
+
 TEST_F(PhotoGrid, FollowsTheSelectionOfTheList)
 {
     add({u"a.jpg"_qs, u"b.jpg"_qs});

@@ -22,11 +22,13 @@ protected:
     /// Waits until a picture of `path` is there, or the file has turned out unreadable.
     QImage awaited(const QString& path)
     {
-        const auto isThere
-            = [&] { return !store.picture(path).isNull() || store.isUnreadable(path); };
+        const auto isThere = [&] {
+            return !store.picture(workspace::ListPicture{.path = path}).isNull()
+                || store.isUnreadable(path);
+        };
         const bool came = QTest::qWaitFor(isThere, patience);
         EXPECT_TRUE(came);
-        return store.picture(path);
+        return store.picture(workspace::ListPicture{.path = path});
     }
 
     test::TemporaryFolder folder;
@@ -40,10 +42,10 @@ TEST_F(ThumbnailStore, AnswersAtOnceAndTellsWhenThePictureIsThere)
     const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_qs));
     QSignalSpy arrived(&store, &views::ThumbnailStore::arrived);
 
-    EXPECT_TRUE(store.picture(path).isNull());
+    EXPECT_TRUE(store.picture(workspace::ListPicture{.path = path}).isNull());
     ASSERT_TRUE(arrived.wait());
 
-    EXPECT_EQ(store.picture(path).size(), QSize(94, 66));
+    EXPECT_EQ(store.picture(workspace::ListPicture{.path = path}).size(), QSize(94, 66));
 }
 
 TEST_F(ThumbnailStore, TurnsPhotosUpright)
@@ -54,11 +56,11 @@ TEST_F(ThumbnailStore, TurnsPhotosUpright)
     EXPECT_EQ(awaited(path).size(), QSize(66, 94));
 }
 
-TEST_F(ThumbnailStore, DoesNotEnlargeSmallPhotos)
+TEST_F(ThumbnailStore, FitsSmallPhotosIntoTheirBoxToo)
 {
     const QString path = test::PhotoBuilder{}.size(47, 33).write(folder.path(u"a.png"_qs));
 
-    EXPECT_EQ(awaited(path).size(), QSize(47, 33));
+    EXPECT_EQ(awaited(path).size(), QSize(94, 66));
 }
 
 TEST_F(ThumbnailStore, KnowsFilesThatAreNoPhotos)
@@ -78,7 +80,9 @@ TEST_F(ThumbnailStore, MakesANewPictureWhenTheFileHasChanged)
     test::PhotoBuilder{}.size(330, 470).write(path);
     store.checkFilesAgain();
 
-    EXPECT_TRUE(QTest::qWaitFor([&] { return store.picture(path).height() == 94; }, patience));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return store.picture(workspace::ListPicture{.path = path}).height() == 94; }, patience
+    ));
 }
 
 TEST_F(ThumbnailStore, MakesThePictureOfAFileThatIsWrittenWhileItIsRead)
@@ -88,15 +92,16 @@ TEST_F(ThumbnailStore, MakesThePictureOfAFileThatIsWrittenWhileItIsRead)
         const QString name = QStringLiteral("%1.jpg").arg(round);
         const QString path = folder.write(name, whole.first(whole.size() / 2));
         store.checkFilesAgain();
-        (void)store.picture(path);
+        (void)store.picture(workspace::ListPicture{.path = path});
         QThread::msleep(static_cast<unsigned long>(round));
 
         (void)folder.write(name, whole);
         store.checkFilesAgain();
         for (int asked = 0; asked < 3; ++asked)
-            (void)store.picture(path);
+            (void)store.picture(workspace::ListPicture{.path = path});
 
-        const auto isReadable = [&] { return store.picture(path).height() == side; };
+        const auto isReadable
+            = [&] { return store.picture(workspace::ListPicture{.path = path}).height() == side; };
         ASSERT_TRUE(QTest::qWaitFor(isReadable, patience)) << "in round " << round;
         QTest::qWait(2 * round);
         ASSERT_TRUE(isReadable()) << "in round " << round;
@@ -109,7 +114,7 @@ TEST_F(ThumbnailStore, EndsWhilePicturesAreStillToCome)
     for (int index = 0; index < 20; ++index) {
         const QString name = QStringLiteral("%1.jpg").arg(index);
         const QString path = test::PhotoBuilder{}.size(900, 700).write(folder.path(name));
-        EXPECT_TRUE(brief->picture(path).isNull());
+        EXPECT_TRUE(brief->picture(workspace::ListPicture{.path = path}).isNull());
     }
 
     brief->deleteLater();

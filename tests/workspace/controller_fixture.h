@@ -128,6 +128,7 @@ protected:
     workspace::cCollectionViewController collectionView{
         {.panels = panels,
          .photos = photos,
+         .journal = journal,
          .chooser = chooser,
          .previewPhotos = previewPhotos,
          .subsystems = subsystems,

@@ -8,6 +8,40 @@ namespace {
 class EditList : public test::ControllerTest
 {
 protected:
+    /// Three photos of different widths, none of them selected, with what is told of them.
+    void fillWithPhotos()
+    {
+        collectionView.hDroppedPhotos(
+            {photo(u"b.jpg"_qs, 20, 10), photo(u"c.jpg"_qs, 40, 30), photo(u"d.jpg"_qs, 60, 40)}
+        );
+        photos.select(std::nullopt);
+        subsystems.hiDoNothing
+            = [this](const QString& path) { described.append(path.section(u'/', -1)); };
+        subsystems.forgetPhoto = [this] { described.append(u"none"_qs); };
+    }
+
+    [[nodiscard]] int shownWidth() const
+    {
+        const auto& shown = panels.window.myTemplatePreview.image();
+        return shown ? shown->width() : 0;
+    }
+
+    /// The rows of the Run Journal, with names in the place of paths.
+    [[nodiscard]] QStringList journalRows() const
+    {
+        QStringList rows;
+        for (const workspace::RunRecord& record : journal.records())
+            rows.append(QStringList{
+                record.function,
+                record.source.section(u'/', -1),
+                record.target.section(u'/', -1),
+                record.word}
+                            .join(u' '));
+        return rows;
+    }
+
+    QStringList described;
+
     void fill(const QStringList& names)
     {
         for (const QString& name : names)
@@ -29,6 +63,109 @@ TEST_F(EditList, RemovesTheSelectedEntry)
     EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"c.jpg"_qs}));
     EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"2"_qs);
     EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 60);
+}
+
+TEST_F(EditList, TellsOfThePhotoThatTakesThePlaceOfARemovedOne)
+{
+    fillWithPhotos();
+    photos.select(1);
+
+    actions.send(u"hRemoveSelectedObject"_qs);
+    EXPECT_EQ(photos.selectedIndex(), 1);
+    EXPECT_EQ(shownWidth(), 60);
+
+    actions.send(u"hRemoveSelectedObject"_qs);
+    EXPECT_EQ(photos.selectedIndex(), 0);
+    EXPECT_EQ(shownWidth(), 20);
+
+    EXPECT_EQ(described, (QStringList{u"c.jpg"_qs, u"d.jpg"_qs, u"b.jpg"_qs}));
+}
+
+TEST_F(EditList, TellsOfNoPhotoOnceTheListIsEmpty)
+{
+    fillWithPhotos();
+    photos.select(0);
+    actions.send(u"hRemoveAllPhoto"_qs);
+    EXPECT_EQ(described, (QStringList{u"b.jpg"_qs, u"none"_qs}));
+
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    actions.send(u"hRemoveSelectedObject"_qs);
+
+    EXPECT_EQ(described.mid(2), (QStringList{u"a.jpg"_qs, u"none"_qs}));
+}
+
+TEST_F(EditList, ShowsAndTellsOfNoPhotoWhenAFileThatIsNoneIsSelectedByARemoval)
+{
+    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    fillWithPhotos();
+    for (int removal = 0; removal < 3; ++removal) {
+        photos.select(photos.count() - 1);
+        actions.send(u"hRemoveSelectedObject"_qs);
+    }
+
+    EXPECT_EQ(photos.selectedIndex(), 0);
+    EXPECT_EQ(shownWidth(), 0);
+    EXPECT_EQ(described.last(), u"none"_qs);
+}
+
+TEST_F(EditList, TurnsThePhotoThatIsShownWhereverOthersFallIn)
+{
+    QStringList turned;
+    subsystems.quickEdits.hRotatePicture = [&](const QString& path, const auto&, float) {
+        turned.append(path.section(u'/', -1));
+        return u"OK"_qs;
+    };
+    fillWithPhotos();
+    photos.select(0);
+    actions.send(u"setSortingModeAz"_qs);
+    ASSERT_EQ(shownWidth(), 20);
+
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs, 80, 60)});
+    actions.send(u"hRotateRight"_qs);
+    EXPECT_EQ(photos.selectedIndex(), 1);
+    EXPECT_EQ(shownWidth(), 20);
+
+    actions.send(u"hRemoveSelectedObject"_qs);
+
+    EXPECT_EQ(turned, QStringList{u"b.jpg"_qs});
+    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"c.jpg"_qs, u"d.jpg"_qs}));
+}
+
+TEST_F(EditList, KeepsTheSelectionOnThePhotoThatADragMoves)
+{
+    fillWithPhotos();
+    photos.select(0);
+
+    collectionView.acceptDrop({0}, 3);
+
+    EXPECT_EQ(listedNames(), (QStringList{u"c.jpg"_qs, u"d.jpg"_qs, u"b.jpg"_qs}));
+    EXPECT_EQ(photos.selectedIndex(), 2);
+    EXPECT_EQ(collectionView.hGetActiveFileFilePath(), folder.path(u"b.jpg"_qs));
+    EXPECT_EQ(shownWidth(), 20);
+    EXPECT_EQ(described, QStringList{u"b.jpg"_qs});
+}
+
+TEST_F(EditList, KeepsASortedListSortedUnderADrag)
+{
+    fill({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    photos.select(0);
+    actions.send(u"setSortingModeAz"_qs);
+
+    collectionView.acceptDrop({2}, 0);
+
+    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs}));
+}
+
+TEST_F(EditList, KeepsTheOrderForTheNextPhotosAfterRemovingAll)
+{
+    fill({u"b.jpg"_qs, u"a.jpg"_qs});
+    photos.select(0);
+    actions.send(u"setSortingModezA"_qs);
+
+    actions.send(u"hRemoveAllPhoto"_qs);
+    fill({u"a.jpg"_qs, u"c.jpg"_qs, u"b.jpg"_qs});
+
+    EXPECT_EQ(listedNames(), (QStringList{u"c.jpg"_qs, u"b.jpg"_qs, u"a.jpg"_qs}));
 }
 
 TEST_F(EditList, ShowsAnEmptyPreviewAfterTheLastEntry)
@@ -76,13 +213,33 @@ TEST_F(EditList, ReplacesTheSelectedEntry)
 
     EXPECT_EQ(listedNames(), (QStringList{u"new.jpg"_qs, u"b.jpg"_qs}));
     EXPECT_EQ(photos.selectedIndex(), 0);
-    EXPECT_EQ(photos.entries().first().myPhoto.scaledTo, std::nullopt);
+    EXPECT_EQ(photos.entries().first().myPhoto.kind, workspace::ListPicture::Kind::FullPicture);
     EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 70);
+}
+
+TEST_F(EditList, ShowsTheNextFileAndCountsItWhileItReplacesAnEntry)
+{
+    fillWithPhotos();
+    photos.select(0);
+    QStringList seen;
+    const auto counter = panels.window.tfImageCount.changed.connect([&] {
+        seen.append(
+            panels.window.tfImageCount.stringValue() + u' ' + QString::number(shownWidth())
+        );
+    });
+
+    collectionView.hReplaceSelectedPhotoObject(photo(u"new.jpg"_qs, 70, 50));
+
+    EXPECT_EQ(seen, (QStringList{u"2 40"_qs, u"3 40"_qs}));
+    EXPECT_EQ(shownWidth(), 70);
+    EXPECT_EQ(described.last(), u"new.jpg"_qs);
 }
 
 TEST_F(EditList, ReplacesNothingWithoutASelection)
 {
-    fill({u"a.jpg"_qs});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    photos.select(std::nullopt);
+    ASSERT_TRUE(showsPhoto());
 
     collectionView.hReplaceSelectedPhotoObject(u"/gone/new.jpg"_qs);
 
@@ -145,6 +302,33 @@ TEST_F(EditList, ShowsThePhotoThatSortingBringsToTheSelectedPlace)
 
     ASSERT_TRUE(panels.window.myTemplatePreview.image());
     EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 40);
+}
+
+TEST_F(EditList, TellsOfThePhotoThatSortingBringsToTheSelectedPlace)
+{
+    fillWithPhotos();
+    photos.select(0);
+
+    actions.send(u"setSortingModezA"_qs);
+
+    EXPECT_EQ(shownWidth(), 60);
+    EXPECT_EQ(described, (QStringList{u"b.jpg"_qs, u"d.jpg"_qs}));
+}
+
+TEST_F(EditList, KeepsThePlaceOfAnEntryThatGetsANewNameAmongOthersOfItsName)
+{
+    for (const QString& path : {u"/1/a.jpg"_qs, u"/2/a.jpg"_qs, u"/3/a.jpg"_qs})
+        photos.append(entry(path, u"L"_qs));
+    photos.select(0);
+    actions.send(u"setSortingModeAz"_qs);
+
+    collectionView.hUpdateCollectionViewItem(u"renamed.jpg"_qs, 1);
+
+    EXPECT_EQ(
+        guiControls.hGetPhotosFromArrayController(),
+        (QStringList{u"/1/a.jpg"_qs, u"/2/a.jpg"_qs, u"/3/a.jpg"_qs})
+    );
+    EXPECT_EQ(photos.entries().at(1).myNewName, u"renamed.jpg"_qs);
 }
 
 TEST_F(EditList, StoresANewName)
@@ -214,6 +398,7 @@ TEST_F(EditList, TurnsTheSelectedFileInItsFolder)
         = [&](const QString& file, const QString& target, float angle) {
               calls.append(file + u' ' + target + u' ' + QString::number(double(angle)));
               (void)test::PhotoBuilder().size(30, 40).write(file);
+              return u"OK"_qs;
           };
 
     actions.send(u"hRotateRight"_qs);
@@ -228,30 +413,46 @@ TEST_F(EditList, TurnsTheSelectedFileInItsFolder)
     EXPECT_TRUE(edited.myPhotoPxSize.startsWith(u"30x40px | "_qs));
     EXPECT_EQ(edited.myPhotoOrientation, u"P"_qs);
     EXPECT_EQ(edited.myPhotoSelect, 1);
-    EXPECT_EQ(edited.myPhoto.scaledTo, std::nullopt);
+    EXPECT_EQ(edited.myPhoto.kind, workspace::ListPicture::Kind::FullPicture);
     EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 30);
     EXPECT_EQ(photos.selectedIndex(), 0);
+    EXPECT_EQ(
+        journalRows(),
+        (QStringList{u"hRotateRight a.jpg a.jpg OK"_qs, u"hRotateLeft a.jpg a.jpg OK"_qs})
+    );
 }
 
 TEST_F(EditList, MirrorsTheSelectedFile)
 {
     collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
     QStringList calls;
-    subsystems.quickEdits.hFlipHorizontalPicture
-        = [&](const QString&, const QString&) { calls.append(u"horizontal"_qs); };
-    subsystems.quickEdits.hFlipVerticalPicture
-        = [&](const QString&, const QString&) { calls.append(u"vertical"_qs); };
+    subsystems.quickEdits.hFlipHorizontalPicture = [&](const QString&, const QString&) {
+        calls.append(u"horizontal"_qs);
+        return u"OK"_qs;
+    };
+    subsystems.quickEdits.hFlipVerticalPicture = [&](const QString&, const QString&) {
+        calls.append(u"vertical"_qs);
+        return u"Not Supported"_qs;
+    };
 
     actions.send(u"hFlipHorizontal"_qs);
     actions.send(u"hFlipVertical"_qs);
 
     EXPECT_EQ(calls, (QStringList{u"horizontal"_qs, u"vertical"_qs}));
+    EXPECT_EQ(
+        journalRows(),
+        (QStringList{
+            u"hFlipHorizontal a.jpg a.jpg OK"_qs, u"hFlipVertical a.jpg a.jpg Not Supported"_qs})
+    );
 }
 
 TEST_F(EditList, TurnsNoFileThatIsNoPhotoAndNoneWithoutASelection)
 {
     int calls = 0;
-    subsystems.quickEdits.hRotatePicture = [&](const auto&, const auto&, float) { ++calls; };
+    subsystems.quickEdits.hRotatePicture = [&](const auto&, const auto&, float) {
+        ++calls;
+        return u"OK"_qs;
+    };
     photos.append(nonPhoto(u"/gone/a.txt"_qs));
 
     actions.send(u"hRotateRight"_qs);
@@ -265,7 +466,7 @@ TEST_F(EditList, LaysAWatermarkOverATurnedPhotoWhateverTheFunction)
 {
     int textTwins = 0;
     int imageTwins = 0;
-    subsystems.quickEdits.hRotatePicture = [](const auto&, const auto&, float) {};
+    subsystems.quickEdits.hRotatePicture = [](const auto&, const auto&, float) { return u"OK"_qs; };
     subsystems.twins.setWatermarkTextPreview = countingTwin(textTwins);
     subsystems.twins.setWatermarkImagePreview = countingTwin(imageTwins);
     collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});

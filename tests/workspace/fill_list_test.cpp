@@ -7,6 +7,20 @@ namespace {
 
 class FillList : public test::ControllerTest
 {
+protected:
+    /// The texts of the counter while `add` runs, each with the state of the preview's box.
+    [[nodiscard]] QStringList counted(const std::function<void()>& add)
+    {
+        QStringList seen;
+        const auto counter = panels.window.tfImageCount.changed.connect([&] {
+            seen.append(
+                panels.window.tfImageCount.stringValue() + u' '
+                + QString::number(panels.vwShowPreview.cbShowPreview.state())
+            );
+        });
+        add();
+        return seen;
+    }
 };
 
 } // namespace
@@ -49,6 +63,9 @@ TEST_F(FillList, AsksForFilesOfAnyKindToRename)
 
     EXPECT_EQ(chooser.panels.first().message, u"*** Choose files to rename ***"_qs);
     EXPECT_TRUE(chooser.panels.first().allowedTypes.isEmpty());
+    EXPECT_TRUE(chooser.panels.first().allowsMultipleSelection);
+    EXPECT_TRUE(chooser.panels.first().choosesFiles);
+    EXPECT_FALSE(chooser.panels.first().choosesDirectories);
     EXPECT_EQ(photos.entries().at(0).myRenameSelect, 1);
     EXPECT_EQ(photos.entries().at(1).myRenameSelect, 0);
     EXPECT_EQ(photos.entries().at(1).myPhotoOrientation, u"S"_qs);
@@ -139,6 +156,39 @@ TEST_F(FillList, AddsDroppedFilesWhateverTheyAre)
     EXPECT_EQ(photos.selectedIndex(), 0);
 }
 
+TEST_F(FillList, CountsTheListAloneWhileItAddsDroppedFilesWithoutAPreview)
+{
+    photos.append(entry(u"/gone/x.jpg"_qs, u"L"_qs));
+    panels.vwShowPreview.cbShowPreview.setState(1);
+
+    const QStringList seen = counted([&] {
+        collectionView.hDroppedPhotos({photo(u"a.jpg"_qs), photo(u"b.jpg"_qs)});
+    });
+
+    EXPECT_EQ(seen, (QStringList{u"2 0"_qs, u"3 0"_qs}));
+}
+
+TEST_F(FillList, CountsTheListWhileItInsertsPhotosWithoutAPreview)
+{
+    photos.append(entry(u"/gone/x.jpg"_qs, u"L"_qs));
+    panels.vwShowPreview.cbShowPreview.setState(1);
+    chooser.answers = {QStringList{photo(u"a.jpg"_qs), photo(u"b.jpg"_qs)}};
+
+    const QStringList seen = counted([&] { actions.send(u"hInsertPhotos"_qs); });
+
+    EXPECT_EQ(seen, (QStringList{u"2 0"_qs, u"3 0"_qs}));
+}
+
+TEST_F(FillList, AddsNoFurtherFileOnceTheProgramEnds)
+{
+    const auto closing
+        = photos.entriesChanged.connect([&] { panels.window.myProgressBar.askToEnd(); });
+
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs), photo(u"b.jpg"_qs)});
+
+    EXPECT_EQ(listedNames(), QStringList{u"a.jpg"_qs});
+}
+
 TEST_F(FillList, TurnsAPhotoOnlyWhenItIsChosen)
 {
     const QString path
@@ -162,7 +212,7 @@ TEST_F(FillList, InsertsPhotosAtTheEndWithTheirFullPicture)
 
     EXPECT_EQ(chooser.panels.first().message, u"*** Choose your photos ***"_qs);
     EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"b.jpg"_qs}));
-    EXPECT_EQ(photos.entries().last().myPhoto.scaledTo, std::nullopt);
+    EXPECT_EQ(photos.entries().last().myPhoto.kind, workspace::ListPicture::Kind::FullPicture);
     EXPECT_FALSE(photos.entries().last().myPhotoURL.isEmpty());
     EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
     EXPECT_TRUE(panels.window.myProgressBar.isHidden());

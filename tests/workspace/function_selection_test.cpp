@@ -237,6 +237,8 @@ TEST_F(FunctionSelection, ShowsTheGallery)
     int loaded = -1;
     subsystems.hLoadTemplatePreset = [&](int index) { loaded = index; };
     panels.vwHtmlExport.pubPhotoGalleryModel.selectIndex(3);
+    pickManagement(3);
+    ASSERT_FALSE(showsPresets());
 
     user.press(panels.window.btnExportHtml);
 
@@ -302,14 +304,96 @@ TEST_F(FunctionSelection, SwapsTheFieldsOfCropping)
     EXPECT_THAT(crop.dvVCUiCropTypeView.views(), ElementsAre(u"dvVCUiCropWxHView"_qs));
 }
 
-TEST_F(FunctionSelection, KeepsThePlaceOfACropInItsPanel)
+TEST_F(FunctionSelection, PutsThePlaceOfACropBesideTheFieldsOfResizing)
 {
     panels::CropPanel& crop = panels.vwCropPhotos;
-    pickEdit(9);
+    pickEdit(8);
 
     user.pick(crop.pubCropType, 1);
 
+    EXPECT_THAT(
+        panels.vwResizePhotos.dvVCUiResizeMainView.views(),
+        ElementsAre(u"dvVCUiScaleMaxView"_qs, u"dvVCUiCropPositionView"_qs)
+    );
     EXPECT_TRUE(panels.isShown(crop.dvVCUiCropPositionView));
+}
+
+TEST_F(FunctionSelection, DrawsThePreviewOfAnotherCropTypeWhileItIsOn)
+{
+    int crops = 0;
+    subsystems.twins.hCropPhotosPreview = countingTwin(crops);
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    pickEdit(9);
+
+    user.pick(panels.vwCropPhotos.pubCropType, 1);
+    EXPECT_EQ(crops, 0);
+
+    panels.vwShowPreview.cbShowPreview.setState(1);
+    user.pick(panels.vwCropPhotos.pubCropType, 2);
+    EXPECT_EQ(crops, 1);
+}
+
+TEST_F(FunctionSelection, DrawsNoPreviewOfAnotherCropTypeWhileItIsOff)
+{
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    pickEdit(9);
+    panels.window.myTemplatePreview.clear();
+
+    user.pick(panels.vwCropPhotos.pubCropType, 1);
+
+    EXPECT_FALSE(showsPhoto());
+}
+
+TEST_F(FunctionSelection, ShowsThePlainPhotoAgainWhenAnotherFunctionIsChosen)
+{
+    int twins = 0;
+    subsystems.twins.hAddFramePreview = countingTwin(twins);
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    const auto showFrame = [this] {
+        pickEdit(2);
+        user.tick(panels.vwShowPreview.cbShowPreview, 1);
+        return showsOverlay() && !showsPhoto();
+    };
+
+    ASSERT_TRUE(showFrame());
+    pickEdit(1);
+    EXPECT_TRUE(showsPhoto());
+    EXPECT_FALSE(showsOverlay());
+
+    ASSERT_TRUE(showFrame());
+    pickManagement(2);
+    EXPECT_TRUE(showsPhoto());
+    EXPECT_FALSE(showsOverlay());
+}
+
+TEST_F(
+    FunctionSelection, ShowsThePresetButtonsAndChangesNothingElseAtAnIndexOutsideOfTheEditFunctions
+)
+{
+    pickManagement(3);
+    const QStringList before = holderViews();
+    panels.window.pubEditPhoto.selectItemAtIndex(-1);
+
+    guiControls.hGetMainEditFunction();
+
+    EXPECT_EQ(function(), u"batchFileConvert"_qs);
+    EXPECT_EQ(holderViews(), before);
+    EXPECT_TRUE(showsPresets());
+}
+
+TEST_F(FunctionSelection, ChangesNothingAtAnIndexOutsideOfTheFileManagement)
+{
+    pickManagement(3);
+    const QStringList before = holderViews();
+    panels.window.pubFileManagementSelect.selectItemAtIndex(-1);
+    panels.vwShowPreview.cbShowPreview.setState(1);
+
+    guiControls.hGetMainFileManagementFunction();
+
+    EXPECT_EQ(function(), u"batchFileConvert"_qs);
+    EXPECT_EQ(holderViews(), before);
+    EXPECT_FALSE(showsPresets());
+    EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
 }
 
 TEST_F(FunctionSelection, SelectsCroppingByATextEditInOneOfItsFields)
@@ -321,6 +405,20 @@ TEST_F(FunctionSelection, SelectsCroppingByATextEditInOneOfItsFields)
 
     EXPECT_EQ(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset.tag(), 75);
     EXPECT_EQ(function(), u"cropPhotos"_qs);
+}
+
+TEST_F(FunctionSelection, DrawsThePreviewOfTheFunctionThatATextEditSelects)
+{
+    int crops = 0;
+    subsystems.twins.hCropPhotosPreview = countingTwin(crops);
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    select("framing");
+    panels.vwShowPreview.cbShowPreview.setState(1);
+
+    user.type(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset, u"12"_qs);
+
+    EXPECT_EQ(crops, 1);
+    EXPECT_TRUE(showsOverlay());
 }
 
 TEST_F(FunctionSelection, IgnoresTextEditsWithoutPhotos)

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <workspace/list_entry.h>
 
-#include <support/case_name.h>
-#include <support/geometry_printing.h>
 #include <support/photo_builder.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
@@ -15,19 +13,6 @@ using namespace brenvaldo;
 using workspace::ListPicture;
 
 namespace {
-
-struct Thumbnail
-{
-    const char* name;
-    platform::PixelSize photo;
-    platform::PixelSize thumbnail;
-};
-
-void PrintTo(const Thumbnail& thumbnail, std::ostream* out) { *out << thumbnail.name; }
-
-class Thumbnails : public testing::TestWithParam<Thumbnail>
-{
-};
 
 class ListEntry : public testing::Test
 {
@@ -42,25 +27,6 @@ protected:
 };
 
 } // namespace
-
-TEST_P(Thumbnails, FitABoxOf94Pixels)
-{
-    EXPECT_EQ(workspace::thumbnailSize(GetParam().photo), GetParam().thumbnail);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    ListEntry,
-    Thumbnails,
-    testing::Values(
-        Thumbnail{"Tall", {94, 188}, {47, 94}},
-        Thumbnail{"Wide", {4000, 3000}, {94, 70}},
-        Thumbnail{"Square", {3000, 3000}, {94, 94}},
-        Thumbnail{"SmallSquare", {1, 1}, {94, 94}},
-        Thumbnail{"Thread", {1, 4000}, {1, 94}},
-        Thumbnail{"Unreadable", {0, 0}, {0, 0}}
-    ),
-    test::CaseName{}
-);
 
 TEST_F(ListEntry, TellsSizesWithoutBlanks)
 {
@@ -87,26 +53,30 @@ TEST_F(ListEntry, TakesAChosenPhotoAsItShows)
     EXPECT_EQ(entry.myPhotoSelect, 1);
     EXPECT_EQ(entry.myRenameSelect, 0);
     EXPECT_EQ(entry.myNewName, QString());
-    EXPECT_EQ(entry.myPhoto.scaledTo, (platform::PixelSize{70, 94}));
+    EXPECT_EQ(entry.myPhoto, (ListPicture{ListPicture::Kind::Thumbnail, path}));
 }
 
 TEST_F(ListEntry, TakesADroppedPhotoAsItIsStored)
 {
-    const auto entry = workspace::droppedEntry(turnedPhoto());
+    const QString path = turnedPhoto();
+
+    const auto entry = workspace::droppedEntry(path);
 
     EXPECT_EQ(entry.myPhotoOrientation, u"L"_qs);
     EXPECT_TRUE(entry.myPhotoPxSize.startsWith(u"40x30px | "_qs));
     EXPECT_TRUE(entry.myPhotoURL.isEmpty());
-    EXPECT_EQ(entry.myPhoto.scaledTo, (platform::PixelSize{70, 94}));
+    EXPECT_EQ(entry.myPhoto, (ListPicture{ListPicture::Kind::Thumbnail, path}));
 }
 
 TEST_F(ListEntry, KeepsTheFullPictureOfAnInsertedPhoto)
 {
-    const auto entry = workspace::insertedEntry(turnedPhoto());
+    const QString path = turnedPhoto();
+
+    const auto entry = workspace::insertedEntry(path);
 
     EXPECT_EQ(entry.myPhotoOrientation, u"L"_qs);
     EXPECT_FALSE(entry.myPhotoURL.isEmpty());
-    EXPECT_EQ(entry.myPhoto.scaledTo, std::nullopt);
+    EXPECT_EQ(entry.myPhoto, (ListPicture{ListPicture::Kind::FullPicture, path}));
 }
 
 TEST_F(ListEntry, MarksATextFileForRenaming)
@@ -115,11 +85,29 @@ TEST_F(ListEntry, MarksATextFileForRenaming)
 
     const auto entry = workspace::renameEntry(path);
 
-    EXPECT_EQ(entry.myPhoto.kind, ListPicture::Kind::Document);
+    EXPECT_EQ(entry.myPhoto.kind, ListPicture::Kind::Generic);
     EXPECT_EQ(entry.myRenameSelect, 1);
     EXPECT_EQ(entry.myPhotoSelect, 1);
     EXPECT_EQ(entry.myPhotoOrientation, u"S"_qs);
     EXPECT_EQ(entry.myPhotoPxSize, QString());
+}
+
+TEST_F(ListEntry, KnowsThePhotosAmongTheFilesToRenameByEightExtensions)
+{
+    for (const char* extension :
+         {"bmp", "gif", "png", "jpg", "jpeg", "tif", "tiff", "heic", "HEIC"}) {
+        const QString path = u"/gone/a."_qs + QString::fromLatin1(extension);
+        EXPECT_EQ(workspace::renameEntry(path).myRenameSelect, 0) << extension;
+    }
+    for (const char* extension : {"webp", "psd", "pdf", "jp2", ""}) {
+        const QString path = u"/gone/a."_qs + QString::fromLatin1(extension);
+        EXPECT_EQ(workspace::renameEntry(path).myRenameSelect, 1) << extension;
+    }
+}
+
+TEST_F(ListEntry, KeepsTheAddressOfAFileToRename)
+{
+    EXPECT_EQ(workspace::renameEntry(u"/gone/a.txt"_qs).myPhotoURL, QUrl(u"file:///gone/a.txt"_qs));
 }
 
 TEST_F(ListEntry, TakesAPhotoForRenamingAsSquareWithoutSize)
@@ -128,8 +116,7 @@ TEST_F(ListEntry, TakesAPhotoForRenamingAsSquareWithoutSize)
 
     const auto entry = workspace::renameEntry(path);
 
-    EXPECT_EQ(entry.myPhoto.kind, ListPicture::Kind::Photo);
-    EXPECT_EQ(entry.myPhoto.scaledTo, (platform::PixelSize{94, 70}));
+    EXPECT_EQ(entry.myPhoto, (ListPicture{ListPicture::Kind::Thumbnail, path}));
     EXPECT_EQ(entry.myRenameSelect, 0);
     EXPECT_EQ(entry.myPhotoOrientation, u"S"_qs);
     EXPECT_EQ(entry.myPhotoPxSize, QString());
@@ -142,7 +129,7 @@ TEST_F(ListEntry, GivesAnUnreadablePhotoAnEntryWithoutPicture)
     for (const auto& entry : {workspace::chosenEntry(path), workspace::droppedEntry(path)}) {
         EXPECT_EQ(entry.myPhotoOrientation, u"S"_qs);
         EXPECT_EQ(entry.myPhotoPxSize, u"xpx | 2.00KB"_qs);
-        EXPECT_EQ(entry.myPhoto.scaledTo, platform::PixelSize{});
+        EXPECT_FALSE(workspace::drawnPicture(entry.myPhoto, 94));
         EXPECT_EQ(entry.myRenameSelect, 0);
     }
 }

@@ -176,7 +176,11 @@ TEST_F(LivePreview, FollowsTheSelection)
 
 TEST_F(LivePreview, LogsThatNothingIsSelected)
 {
+    int twins = 0;
+    subsystems.twins.setWatermarkTextPreview = countingTwin(twins);
     addPhotoWithPreview();
+    collectionView.callForPreview();
+    ASSERT_TRUE(showsOverlay());
     QStringList lines;
     platform::setLogSink([&](const QString& line) { lines.append(line); });
 

@@ -101,6 +101,73 @@ TEST(PhotoList, TellsOfASelectionThatChangesOnly)
     EXPECT_EQ(changes, 2);
 }
 
+TEST(PhotoList, KeepsTheSelectionOnItsEntryWhereverItGoes)
+{
+    PhotoList list;
+    fill(list, {u"b"_qs, u"c"_qs, u"d"_qs});
+    list.select(1);
+    int changes = 0;
+    const auto subscription = list.selectionChanged.connect([&] { ++changes; });
+    const auto selected = [&] { return list.selectedEntry()->myPhotoName; };
+
+    list.insert(0, named(u"e"_qs));
+    EXPECT_EQ(selected(), u"c"_qs);
+    list.insert(3, named(u"f"_qs));
+    EXPECT_EQ(selected(), u"c"_qs);
+    list.removeAt(0);
+    EXPECT_EQ(selected(), u"c"_qs);
+    list.removeAt(3);
+    EXPECT_EQ(selected(), u"c"_qs);
+    list.move(0, 2);
+    EXPECT_EQ(selected(), u"c"_qs);
+    list.move(2, 0);
+    EXPECT_EQ(selected(), u"c"_qs);
+    list.move(1, 2);
+    EXPECT_EQ(selected(), u"c"_qs);
+    list.replaceAt(2, named(u"c"_qs));
+    EXPECT_EQ(selected(), u"c"_qs);
+    list.sortByName(PhotoList::Order::Descending);
+    EXPECT_EQ(selected(), u"c"_qs);
+    list.append(named(u"z"_qs));
+    EXPECT_EQ(selected(), u"c"_qs);
+    EXPECT_EQ(list.selectedIndex(), 2);
+    EXPECT_EQ(changes, 0);
+}
+
+TEST(PhotoList, KeepsTheSelectionAmongEntriesOfTheSameName)
+{
+    PhotoList list;
+    for (const int size : {1, 2, 3, 4}) {
+        auto entry = named(size == 4 ? u"a"_qs : u"b"_qs);
+        entry.myPhotoPxSize = QString::number(size);
+        list.append(entry);
+    }
+    list.select(1);
+
+    list.sortByName(PhotoList::Order::Ascending);
+
+    EXPECT_EQ(list.selectedIndex(), 2);
+    EXPECT_EQ(list.selectedEntry()->myPhotoPxSize, u"2"_qs);
+}
+
+TEST(PhotoList, TellsThatAnotherEntryIsSelectedWhenTheSelectedOneGoes)
+{
+    PhotoList list;
+    fill(list, {u"a"_qs, u"b"_qs, u"c"_qs});
+    list.select(1);
+    QStringList selected;
+    const auto subscription = list.selectionChanged.connect([&] {
+        const auto* entry = list.selectedEntry();
+        selected.append(entry ? entry->myPhotoName : u"none"_qs);
+    });
+
+    list.removeAt(1);
+    list.removeAt(1);
+    list.clear();
+
+    EXPECT_EQ(selected, (QStringList{u"c"_qs, u"a"_qs, u"none"_qs}));
+}
+
 TEST(PhotoList, SelectsTheLastEntryWhenTheSelectedLastOneGoes)
 {
     PhotoList list;
@@ -128,7 +195,7 @@ TEST(PhotoList, HasNoSelectedEntryThatIsGoneWhenItTellsOfAChange)
     list.removeAt(1);
     list.clear();
 
-    EXPECT_EQ(selected, (QStringList{u"none"_qs, u"none"_qs}));
+    EXPECT_EQ(selected, (QStringList{u"a"_qs, u"none"_qs}));
 }
 
 TEST(PhotoList, IgnoresIndexesOutsideOfTheList)

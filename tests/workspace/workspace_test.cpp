@@ -186,6 +186,82 @@ TEST_F(WorkspaceTest, EmptiesTempWithTheLastWindow)
     EXPECT_TRUE(program.delegate().applicationShouldTerminateAfterLastWindowClosed());
 }
 
+TEST_F(WorkspaceTest, EndsARunAfterThePhotoInHandAndEmptiesTempThen)
+{
+    program.start();
+    QDir().mkpath(folder.path(u"out"_qs));
+    program.openFiles({
+        test::PhotoBuilder().write(folder.path(u"a.jpg"_qs)),
+        test::PhotoBuilder().write(folder.path(u"b.jpg"_qs)),
+    });
+    panels::Panels& panels = program.panels();
+    const controls::UserInput user(program.actions());
+    user.pick(panels.window.pubFileManagementSelect, 3);
+    user.type(panels.vwMainDestination.tfImageDestinationFolder, folder.path(u"out/"_qs));
+    leaveInTemp(u"work.jpg"_qs);
+    const auto closing = program.journal().recorded.connect([&](const workspace::RunRecord&) {
+        program.lastWindowClosed();
+        EXPECT_FALSE(QDir(temp()).isEmpty()) << "the run may still need it";
+    });
+
+    user.press(panels.window.btnProcess);
+
+    EXPECT_EQ(program.journal().records().size(), 1);
+    EXPECT_TRUE(QDir(temp()).isEmpty());
+}
+
+TEST_F(WorkspaceTest, DrawsThePreviewOnceWhenAPresetIsLoaded)
+{
+    program.start();
+    panels::Panels& panels = program.panels();
+    const controls::UserInput user(program.actions());
+    user.pick(panels.window.pubEditPhoto, 8);
+    panels.wwPresetsWindow.tfInputPDM.setStringValue(u"small"_qs);
+    program.actions().send(u"hAddPreset"_qs);
+    panels.wwPresetsWindow.myPresetsTableView.selectRow(0);
+    int drawn = 0;
+    const auto subscription
+        = panels.window.myTemplateOverlayPreview.changed.connect([&] { ++drawn; });
+
+    program.actions().send(u"hApplySelectedPreset"_qs);
+
+    EXPECT_EQ(drawn, 1);
+}
+
+TEST_F(WorkspaceTest, NotesAPresetThatCouldNotBeSavedInTheRunJournal)
+{
+    program.start();
+    program.panels().vwWatermark.cbFontList.selectItemAtIndex(-1);
+    program.panels().wwPresetsWindow.tfInputPDM.setStringValue(u"Gold tiles"_qs);
+
+    EXPECT_EQ(program.actions().send(u"hAddPreset"_qs), controls::ActionRegistry::Sent::Raised);
+
+    ASSERT_EQ(program.journal().records().size(), 1);
+    const workspace::RunRecord& record = program.journal().records().first();
+    EXPECT_EQ(record.function, u"textWM"_qs);
+    EXPECT_EQ(record.source, QString());
+    EXPECT_EQ(record.target, u"Gold tiles"_qs);
+    EXPECT_EQ(record.word, u"Failed"_qs);
+    EXPECT_TRUE(record.time.isValid());
+}
+
+TEST_F(WorkspaceTest, DescribesNoPhotoThatIsGone)
+{
+    program.start();
+    const panels::Panels& panels = program.panels();
+    const QString path = test::PhotoBuilder().write(folder.path(u"a.jpg"_qs));
+    program.openFiles({path});
+    ASSERT_EQ(panels.vwPhotoInfo.tfActiveFilePath.stringValue(), path);
+    ASSERT_FALSE(panels.vwPhotoInfo.mTree.arrangedObjects().isEmpty());
+    ASSERT_NE(panels.vwFileManagementEXIF.tfExifUserComment.stringValue(), QString());
+
+    program.actions().send(u"hRemoveAllPhoto"_qs);
+
+    EXPECT_EQ(panels.vwPhotoInfo.tfActiveFilePath.stringValue(), QString());
+    EXPECT_TRUE(panels.vwPhotoInfo.mTree.arrangedObjects().isEmpty());
+    EXPECT_EQ(panels.vwFileManagementEXIF.tfExifUserComment.stringValue(), QString());
+}
+
 TEST_F(WorkspaceTest, AddsFilesThatAreOpenedBeforeTheWindowShows)
 {
     const QString path
