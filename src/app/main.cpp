@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "single_instance.h"
 
+#include <platform/foundation/toolkit_notes.h>
 #include <platform/foundation/user_defaults.h>
 #include <platform/graphics/engine.h>
 #include <views/desktop_scheme.h>
@@ -41,6 +42,7 @@ void nameProgram()
 
 int main(int argc, char** argv)
 {
+    platform::keepToolkitNotesAway();
     const platform::Engine engine;
     QApplication application(argc, argv);
     nameProgram();
@@ -59,6 +61,9 @@ int main(int argc, char** argv)
     views::MainWindow window(workspace, chooser);
     const auto laterFiles = instance.filesArrived.connect([&window](const QStringList& later) {
         window.openFiles(later);
+    });
+    QObject::connect(&window, &views::MainWindow::closed, [&instance] {
+        instance.stopListening();
     });
     window.openInto(window.screen()->availableSize());
     views::DesktopScheme scheme;

@@ -44,7 +44,8 @@ void Progress::hStopPB()
 }
 
 RunningProgress::RunningProgress(ProgressIndicator& bar, const BarRhythm& rhythm)
-    : m_progress(bar, rhythm)
+    : m_bar(bar)
+    , m_progress(bar, rhythm)
 {
     m_progress.hInitialisePB();
 }

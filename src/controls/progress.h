@@ -56,7 +56,11 @@ public:
     /// As `Progress::hProgressPB`.
     void advance(double step);
 
+    /// To be looked at before each photo: the program ends, and the run with it.
+    [[nodiscard]] bool isAskedToEnd() const { return m_bar.isAskedToEnd(); }
+
 private:
+    const ProgressIndicator& m_bar;
     Progress m_progress;
 };
 

@@ -44,11 +44,16 @@ public:
     void startAnimation();
     void stopAnimation();
 
+    /// Nobody waits for the run any more: it is to end after the photo in hand.
+    void askToEnd() { m_askedToEnd = true; }
+    [[nodiscard]] bool isAskedToEnd() const { return m_askedToEnd; }
+
 private:
     double m_maximum = 100;
     double m_value = 0;
     bool m_animating = false;
     bool m_indeterminate = false;
+    bool m_askedToEnd = false;
 };
 
 } // namespace brenvaldo::controls

@@ -42,6 +42,10 @@ public:
     /// Comes to the front and adds files that another start of the program was given.
     void openFiles(const QStringList& paths);
 
+Q_SIGNALS:
+    /// The program ends, after the photo in hand when a run is on.
+    void closed();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;

@@ -56,7 +56,7 @@ QString DVWatermark::setWatermarkText(const WatermarkRun& run, const PhotoDone& 
     m_step = static_cast<int>(controls::watermarkBar.maximum) / (photos * stagesPerPhoto);
     const controls::RunningProgress shown(m_surroundings.bar, controls::watermarkBar);
     for (const QString& path : run.photos) {
-        if (markPhoto(run, path, photoDone) == Step::EndRun)
+        if (shown.isAskedToEnd() || markPhoto(run, path, photoDone) == Step::EndRun)
             return ioFailure();
     }
     return m_storeResult == imaging::ResultWord::Ok ? m_outputName : ioFailure();

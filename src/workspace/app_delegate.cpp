@@ -99,7 +99,17 @@ void AppDelegate::applicationopenFiles(const QStringList& paths)
 
 bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed()
 {
-    prepareTemp();
+    controls::ProgressIndicator& bar = m_panels.window.myProgressBar;
+    bar.askToEnd();
+    if (!bar.isAnimating())
+        prepareTemp();
+    else
+        m_endOfRun = bar.changed.connect([this, &bar] {
+            if (bar.isAnimating())
+                return;
+            prepareTemp();
+            m_endOfRun = {};
+        });
     return true;
 }
 

@@ -31,7 +31,8 @@ public:
     /// Adds files that were opened with the program.
     void applicationopenFiles(const QStringList& paths);
 
-    /// Empties `Temp`; the program ends with its last window.
+    /// Empties `Temp`, after the photo in hand when a run is on; the program ends with its last
+    /// window.
     bool applicationShouldTerminateAfterLastWindowClosed();
 
     void callForWMPreview();
@@ -56,6 +57,7 @@ private:
     cGUIcontrols& m_guiControls;
     cCollectionViewController& m_collectionView;
     std::vector<platform::Subscription> m_previewNotifications;
+    platform::Subscription m_endOfRun;
 };
 
 } // namespace brenvaldo::workspace

@@ -76,6 +76,8 @@ void cGUIcontrols::runUpload()
             .description = panel.tfAddDescription.stringValue(),
             .favourite = QString::number(panel.cbAddToFavorite.state())};
         bar.advance(step);
+        if (bar.isAskedToEnd())
+            return;
         const QString word
             = wordOf(m_subsystems.operations.uploadToPhotos, functionId::batchUploadPhotos, upload);
         record(functionId::batchUploadPhotos, {.source = path, .target = {}, .word = word});
@@ -94,6 +96,8 @@ void cGUIcontrols::runExif()
         const QString comment = panel.tfExifUserComment.stringValue();
         const int clearState = panel.cbClearBeforeAdd.state();
         bar.advance(step);
+        if (bar.isAskedToEnd())
+            return;
         const QString word = wordOf(
             m_subsystems.operations.hSetExifData, functionId::batchExifUC, path, comment, clearState
         );
@@ -121,6 +125,8 @@ void cGUIcontrols::runRenaming(int previewState, const QString& destination)
     controls::RunningProgress bar = shownBar();
     for (const TakenPhoto& photo : taken) {
         bar.advance(step);
+        if (bar.isAskedToEnd())
+            return;
         hCalledRenameFilesFunc(photo.path, previewState, photo.index);
     }
 }
@@ -166,6 +172,8 @@ void cGUIcontrols::runConversion(const QString& destination)
     controls::RunningProgress bar = shownBar();
     for (const QString& path : photos) {
         bar.advance(step);
+        if (bar.isAskedToEnd())
+            return;
         const PhotoOutput output = outputOf(path, destination, choice);
         const Conversion conversion{
             .source = path,

@@ -73,6 +73,8 @@ void cCollectionViewController::addAll(
         if (counter == Counter::ListCount)
             showCount();
         bar.advance(100 / count);
+        if (bar.isAskedToEnd())
+            return;
     }
     showCount();
 }

@@ -121,6 +121,8 @@ void cGUIcontrols::runEach(
     controls::RunningProgress bar = shownBar();
     for (const QString& path : photos) {
         bar.advance(step);
+        if (bar.isAskedToEnd())
+            return;
         const PhotoOutput output = outputOf(path, destination, choice);
         const auto word = runPhoto(output);
         if (!word)

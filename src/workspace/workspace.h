@@ -55,7 +55,8 @@ public:
     /// end.
     void openFiles(const QStringList& paths);
 
-    /// Empties the folder of temporary files; the program ends after it.
+    /// Ends a run after the photo in hand and empties the folder of temporary files; the program
+    /// ends after it.
     void lastWindowClosed();
 
     /// The preview area at full pixel size, the overlay drawn over the photo; nothing while both

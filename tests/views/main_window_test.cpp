@@ -24,6 +24,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QSet>
+#include <QSignalSpy>
 #include <QTest>
 #include <QUrl>
 
@@ -321,6 +322,26 @@ TEST_F(MainWindow, EndsTheWorkWhenItIsClosed)
     window->close();
 
     EXPECT_FALSE(QFile::exists(left));
+}
+
+TEST_F(MainWindow, EndsARunAfterThePhotoInHandWhenItIsClosed)
+{
+    QDir().mkpath(folder.path(u"out"_qs));
+    window->openFiles(makePhotos(3));
+    panels::Panels& panels = workspace.panels();
+    panels.window.pubFileManagementSelect.selectIndex(3);
+    workspace.actions().send(u"hChooseMainFileManagementFunction"_qs);
+    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(folder.path(u"out/"_qs));
+    QSignalSpy closed(window.get(), &views::MainWindow::closed);
+    const auto closing = workspace.journal().recorded.connect([&](const workspace::RunRecord&) {
+        window->close();
+    });
+
+    QTest::mouseClick(find(u"btnProcess"_qs), Qt::LeftButton);
+
+    EXPECT_EQ(closed.size(), 1);
+    EXPECT_EQ(workspace.journal().records().size(), 1);
+    EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(MainWindow, KeepsAndUsesPresetsByKeyboard)

@@ -88,6 +88,22 @@ TEST_F(TextWatermark, OfPlaceholdersThatResolveToNothingGoesOn)
     EXPECT_NEAR(qRed(test::storedPixels(done.value(0).target).pixel(60, 40)), 10, 3);
 }
 
+TEST_F(TextWatermark, EndsAfterThePhotoInHandWhenTheProgramEnds)
+{
+    const QString first = darkPhoto(QStringLiteral("a.jpg"));
+    const QString second = darkPhoto(QStringLiteral("b.jpg"));
+    const auto closing = bar.changed.connect([this] {
+        if (bar.doubleValue() > 0)
+            bar.askToEnd();
+    });
+
+    EXPECT_EQ(run({first, second}), QStringLiteral("IOFailure"));
+
+    ASSERT_EQ(done.size(), 1);
+    EXPECT_EQ(done.first().word, QStringLiteral("OK"));
+    EXPECT_TRUE(bar.isHidden());
+}
+
 TEST_F(TextWatermark, OfAnUnreadablePhotoEndsTheRun)
 {
     const QString good = darkPhoto(QStringLiteral("a.jpg"));
