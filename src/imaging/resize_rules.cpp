@@ -85,8 +85,8 @@ PixelSize coveringSize(PixelSize photo, PixelSize box)
 PixelRect centredCut(PixelSize scaled, PixelSize box)
 {
     return {
-        (scaled.width - box.width) / 2,
-        (scaled.height - box.height) / 2,
+        static_cast<int>((std::int64_t{scaled.width} - box.width) / 2),
+        static_cast<int>((std::int64_t{scaled.height} - box.height) / 2),
         box.width,
         box.height,
     };

@@ -16,6 +16,7 @@
 
 #include <QDir>
 
+#include <limits>
 #include <map>
 
 using namespace brenvaldo::imaging;
@@ -379,6 +380,21 @@ TEST(ResizeToBox, StretchesThePhotoWithoutTheAspectCheck)
         EXPECT_EQ(word, ResultWord::Ok);
         EXPECT_EQ(cornerColors(files.output()), "RGBW");
     }
+}
+
+TEST(ResizeToBox, FailsForSidesFarBelowNothing)
+{
+    constexpr int farthest = std::numeric_limits<int>::min();
+    const Resizing files(grey(40, 30));
+    for (const PixelSize box : {PixelSize{farthest, 5}, PixelSize{5, farthest}}) {
+        DVImageHandling handling;
+
+        EXPECT_EQ(
+            handling.hScalePhotosWidthAndHeight(files.photo(), box, covering, pngTail()),
+            ResultWord::Failed
+        );
+    }
+    EXPECT_FALSE(files.hasOutput());
 }
 
 TEST(ResizeToBox, AnswersTheWordOfThePhotoBeforeWhenNothingCanBeDrawn)

@@ -73,4 +73,28 @@ QByteArray grayProfile()
     return saved(profile);
 }
 
+QByteArray emptyProfile()
+{
+    cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
+    cmsSetProfileVersion(profile, 4.3);
+    cmsSetDeviceClass(profile, cmsSigDisplayClass);
+    cmsSetColorSpace(profile, cmsSigRgbData);
+    cmsSetPCS(profile, cmsSigXYZData);
+    return saved(profile);
+}
+
+QByteArray scannerProfile()
+{
+    cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
+    cmsSetProfileVersion(profile, 4.3);
+    cmsSetDeviceClass(profile, cmsSigInputClass);
+    cmsSetColorSpace(profile, cmsSigRgbData);
+    cmsSetPCS(profile, cmsSigLabData);
+    cmsPipeline* colors = cmsPipelineAlloc(nullptr, 3, 3);
+    cmsPipelineInsertStage(colors, cmsAT_BEGIN, cmsStageAllocToneCurves(nullptr, 3, nullptr));
+    cmsWriteTag(profile, cmsSigAToB0Tag, colors);
+    cmsPipelineFree(colors);
+    return saved(profile);
+}
+
 } // namespace brenvaldo::test

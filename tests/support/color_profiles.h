@@ -19,4 +19,10 @@ namespace brenvaldo::test {
 /// A profile of grey with a gamma of 1.8.
 [[nodiscard]] QByteArray grayProfile();
 
+/// A profile of RGB that can be read and tells nothing.
+[[nodiscard]] QByteArray emptyProfile();
+
+/// A profile of RGB as scanners have it: tells what colours mean, but not how to make them.
+[[nodiscard]] QByteArray scannerProfile();
+
 } // namespace brenvaldo::test

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "type_identifier.h"
 
+#include <platform/foundation/regular_file.h>
+
 #include <QByteArrayView>
 #include <QFile>
 
@@ -106,7 +108,7 @@ bool isPortableAnymap(QByteArrayView head)
 QString typeIdentifierOfContents(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (!openRegularFile(file))
         return {};
     const QByteArray head = file.read(64);
     if (head.size() >= 12 && head.sliced(4, 4) == "ftyp")

@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "regular_file.h"
+
 #include <QByteArrayView>
 #include <QFile>
 #include <QString>
 
 namespace brenvaldo::platform {
 
-/// The bytes of a file, without reading what nobody looks at.
+/// The bytes of a regular file, without reading what nobody looks at.
 class MappedFile
 {
 public:
     explicit MappedFile(const QString& path)
         : m_file(path)
     {
-        if (m_file.open(QIODevice::ReadOnly) && m_file.size() > 0)
+        if (openRegularFile(m_file) && m_file.size() > 0)
             m_start = m_file.map(0, m_file.size());
     }
 

@@ -4,6 +4,8 @@
 #include "photo_decoder.h"
 #include "qt_pixels.h"
 
+#include <platform/foundation/regular_file.h>
+
 #include <QFile>
 #include <QImageReader>
 #include <QtEndian>
@@ -105,7 +107,7 @@ public:
     {
         QFile file(m_path);
         QImageReader reader(&file, "bmp");
-        if (!file.open(QIODevice::ReadOnly) || !reader.canRead())
+        if (!openRegularFile(file) || !reader.canRead())
             throw vips::VError("no bitmap header");
         const QSize size = reader.size();
         const bool hasAlpha = reader.imageFormat() == QImage::Format_ARGB32;

@@ -78,11 +78,13 @@ Image over(const Image& base, const Image& overlay)
     Q_ASSERT(base.pixelSize() == overlay.pixelSize());
     Q_ASSERT(overlay.hasAlpha() && overlay.colorModel() == ColorModel::Rgb);
     const ImageNode& node = *base.node();
-    const vips::VImage layer = srgbLayerInColorsOf(overlay.node()->pixels, node);
-    return makeImage(node.withPixels(
-        node.pixels.format() == VIPS_FORMAT_USHORT ? composed<quint16>(node, layer)
-                                                   : composed<quint8>(node, layer)
-    ));
+    return builtImage(node, base.pixelSize(), [&] {
+        const vips::VImage layer = srgbLayerInColorsOf(overlay.node()->pixels, node);
+        return node.withPixels(
+            node.pixels.format() == VIPS_FORMAT_USHORT ? composed<quint16>(node, layer)
+                                                       : composed<quint8>(node, layer)
+        );
+    });
 }
 
 } // namespace brenvaldo::platform

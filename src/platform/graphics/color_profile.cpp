@@ -21,6 +21,7 @@ struct TransformDeleter
 {
     void operator()(void* transform) const { cmsDeleteTransform(transform); }
 };
+using Transform = std::unique_ptr<void, TransformDeleter>;
 
 cmsColorSpaceSignature signatureOf(ColorModel model)
 {
@@ -96,24 +97,31 @@ struct Side
     VipsBandFormat format;
 };
 
+/// Null when the profiles lack what a conversion needs.
+Transform transformBetween(const Side& from, const Side& to, cmsUInt32Number flags)
+{
+    const bool hasAlpha = (flags & cmsFLAGS_COPY_ALPHA) != 0;
+    return Transform(cmsCreateTransform(
+        from.profile.get(),
+        sampleLayout(from.model, hasAlpha, from.format),
+        to.profile.get(),
+        sampleLayout(to.model, hasAlpha, to.format),
+        INTENT_RELATIVE_COLORIMETRIC,
+        flags
+    ));
+}
+
 /// `pixels` taken from one side to the other; the alpha is only brought to the other depth.
 vips::VImage
 transformed(const vips::VImage& pixels, const Side& from, const Side& to, bool hasAlpha)
 {
     if (!from.profile || !to.profile)
         throw vips::VError("no colour profile for the conversion");
-    const std::shared_ptr<void> transform(
-        cmsCreateTransform(
-            from.profile.get(),
-            sampleLayout(from.model, hasAlpha, from.format),
-            to.profile.get(),
-            sampleLayout(to.model, hasAlpha, to.format),
-            INTENT_RELATIVE_COLORIMETRIC,
-            // The one-pixel cache is not safe when several threads share a transform.
-            cmsFLAGS_NOCACHE | cmsFLAGS_BLACKPOINTCOMPENSATION
-                | (hasAlpha ? cmsFLAGS_COPY_ALPHA : 0U)
-        ),
-        TransformDeleter()
+    const std::shared_ptr<void> transform = transformBetween(
+        from,
+        to,
+        // The one-pixel cache is not safe when several threads share a transform.
+        cmsFLAGS_NOCACHE | cmsFLAGS_BLACKPOINTCOMPENSATION | (hasAlpha ? cmsFLAGS_COPY_ALPHA : 0U)
     );
     if (!transform)
         throw vips::VError("the colour profiles don't go together");
@@ -129,6 +137,28 @@ transformed(const vips::VImage& pixels, const Side& from, const Side& to, bool h
     });
 }
 
+/// Tells whether a conversion can be made; a readable header alone doesn't mean it.
+bool isPossible(const Side& from, const Side& to)
+{
+    constexpr cmsUInt32Number noTables = cmsFLAGS_NOOPTIMIZE; // quick to make, slow to use
+    return transformBetween(from, to, noTables) != nullptr;
+}
+
+/// The profile of a photo that is drawn on. Those of scanners tell what their colours mean, but not
+/// how to make them.
+Profile drawableProfile(const ImageNode& photo)
+{
+    const Profile srgb = assumedProfile(ColorModel::Rgb);
+    Profile own = profileOf(photo);
+    const bool isAssumed = photo.iccProfile.isEmpty();
+    if (isAssumed
+        || isPossible(
+            {srgb, ColorModel::Rgb, VIPS_FORMAT_UCHAR}, {own, photo.colorModel, VIPS_FORMAT_UCHAR}
+        ))
+        return own;
+    return assumedProfile(photo.colorModel);
+}
+
 } // namespace
 
 QByteArray usableProfile(const QByteArray& profile, ColorModel model)
@@ -138,7 +168,11 @@ QByteArray usableProfile(const QByteArray& profile, ColorModel model)
     const Profile opened = openProfile(profile);
     if (!opened || cmsGetColorSpace(opened.get()) != signatureOf(model))
         return {};
-    return profile;
+    const Profile srgb = assumedProfile(ColorModel::Rgb);
+    const bool isUsable = isPossible(
+        {opened, model, VIPS_FORMAT_UCHAR}, {srgb, ColorModel::Rgb, VIPS_FORMAT_UCHAR}
+    );
+    return isUsable ? profile : QByteArray();
 }
 
 ImageNode convertedToSrgb(const ImageNode& node)
@@ -167,7 +201,7 @@ vips::VImage srgbLayerInColorsOf(const vips::VImage& layer, const ImageNode& tar
         && format == VIPS_FORMAT_UCHAR)
         return layer;
     const Profile srgb = assumedProfile(ColorModel::Rgb);
-    const Profile colors = profileOf(target);
+    const Profile colors = drawableProfile(target);
     return transformed(
         layer, {srgb, ColorModel::Rgb, VIPS_FORMAT_UCHAR}, {colors, target.colorModel, format}, true
     );

@@ -5,6 +5,8 @@
 
 #include <platform/containers/type_identifier.h>
 
+#include <platform/foundation/regular_file.h>
+
 #include <QFile>
 #include <QTransform>
 #include <QtEndian>
@@ -66,7 +68,7 @@ JpegHead readJpegHead(const QString& path)
     static const QByteArray exifLabel("Exif\0\0", 6);
     JpegHead head;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!openRegularFile(file))
         return head;
     file.skip(2);
     while (const auto segment = nextSegment(file)) {
@@ -148,7 +150,7 @@ QImage embeddedThumbnail(const QString& path)
         return {};
     try {
         return heifThumbnail(path);
-    } catch (const vips::VError&) {
+    } catch (const std::exception&) {
         return {};
     }
 }

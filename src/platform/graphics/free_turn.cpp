@@ -37,20 +37,25 @@ double opaqueSample(const vips::VImage& pixels)
     return pixels.format() == VIPS_FORMAT_USHORT ? 65535 : 255;
 }
 
-} // namespace
-
-Image freelyTurned(const Image& image, const FreeTurn& turn)
+ImageNode turnedNode(ImageNode node, const FreeTurn& turn)
 {
-    ImageNode node = *image.node();
     node.pixels = randomAccess(node.pixels);
     if (!node.hasAlpha && turn.corners == FreeCorners::Transparent) {
         node.pixels = node.pixels.bandjoin(opaqueSample(node.pixels));
         node.hasAlpha = true;
     }
     if (!node.hasAlpha)
-        return makeImage(node.withPixels(turnedPixels(node.pixels, turn)));
+        return node.withPixels(turnedPixels(node.pixels, turn));
     const vips::VImage turned = turnedPixels(premultipliedPixels(node.pixels), turn);
-    return makeImage(node.withPixels(straightPixels(turned, node.pixels.format())));
+    return node.withPixels(straightPixels(turned, node.pixels.format()));
+}
+
+} // namespace
+
+Image freelyTurned(const Image& image, const FreeTurn& turn)
+{
+    const ImageNode& node = *image.node();
+    return builtImage(node, turn.canvas, [&] { return turnedNode(node, turn); });
 }
 
 } // namespace brenvaldo::platform

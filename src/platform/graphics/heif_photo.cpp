@@ -5,6 +5,8 @@
 #include "heif_handles.h"
 #include "photo_decoder.h"
 
+#include <platform/foundation/regular_file.h>
+
 #include <QFile>
 #include <QtEndian>
 
@@ -89,7 +91,7 @@ PixelSize sizeOf(const heif_image* decoded)
 bool mentionsQuarterTurn(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!openRegularFile(file))
         return false;
     constexpr qint64 roomOfBoxes = qint64{1} << 20;
     const QByteArray head = file.read(roomOfBoxes);

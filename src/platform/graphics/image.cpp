@@ -42,15 +42,22 @@ Image Image::withDotsPerInch(double dotsPerInch) const
 
 std::optional<Image> Image::croppedTo(const PixelRect& rect) const
 {
-    const int left = std::max(rect.x, 0);
-    const int top = std::max(rect.y, 0);
-    const int right = static_cast<int>(std::min<qint64>(qint64{rect.x} + rect.width, width()));
-    const int bottom = static_cast<int>(std::min<qint64>(qint64{rect.y} + rect.height, height()));
+    const qint64 left = std::max(rect.x, 0);
+    const qint64 top = std::max(rect.y, 0);
+    const qint64 right = std::min<qint64>(qint64{rect.x} + rect.width, width());
+    const qint64 bottom = std::min<qint64>(qint64{rect.y} + rect.height, height());
     if (left >= right || top >= bottom)
         return std::nullopt;
-    return makeImage(
-        m_node->withPixels(m_node->pixels.extract_area(left, top, right - left, bottom - top))
-    );
+    const PixelRect part
+        = {.x = static_cast<int>(left),
+           .y = static_cast<int>(top),
+           .width = static_cast<int>(right - left),
+           .height = static_cast<int>(bottom - top)};
+    return builtImage(*m_node, {part.width, part.height}, [&] {
+        return m_node->withPixels(
+            m_node->pixels.extract_area(part.x, part.y, part.width, part.height)
+        );
+    });
 }
 
 Image Image::turned(QuarterTurn turn) const
@@ -58,23 +65,28 @@ Image Image::turned(QuarterTurn turn) const
     const VipsAngle angle = turn == QuarterTurn::Clockwise ? VIPS_ANGLE_D90
         : turn == QuarterTurn::Half                        ? VIPS_ANGLE_D180
                                                            : VIPS_ANGLE_D270;
-    return makeImage(m_node->withPixels(randomAccess(m_node->pixels).rot(angle)));
+    const PixelSize size = turn == QuarterTurn::Half ? pixelSize() : PixelSize{height(), width()};
+    return builtImage(*m_node, size, [&] {
+        return m_node->withPixels(randomAccess(m_node->pixels).rot(angle));
+    });
 }
 
 Image Image::flipped(Axis axis) const
 {
     const vips::VImage& pixels = m_node->pixels;
-    return makeImage(m_node->withPixels(
-        axis == Axis::Horizontal ? pixels.flip(VIPS_DIRECTION_HORIZONTAL)
-                                 : randomAccess(pixels).flip(VIPS_DIRECTION_VERTICAL)
-    ));
+    return builtImage(*m_node, pixelSize(), [&] {
+        return m_node->withPixels(
+            axis == Axis::Horizontal ? pixels.flip(VIPS_DIRECTION_HORIZONTAL)
+                                     : randomAccess(pixels).flip(VIPS_DIRECTION_VERTICAL)
+        );
+    });
 }
 
 std::optional<Image> Image::copiedToMemory() const
 {
     try {
         return makeImage(m_node->withPixels(platform::copiedToMemory(m_node->pixels)));
-    } catch (const vips::VError& error) {
+    } catch (const std::exception& error) {
         log(QStringLiteral("Failed to compute the pixels of an image: ") + faultText(error));
         return std::nullopt;
     }

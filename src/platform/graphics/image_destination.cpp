@@ -51,7 +51,7 @@ bool encode(
         if (!file.finish())
             throw vips::VError(file.fault().toStdString());
         return true;
-    } catch (const vips::VError& error) {
+    } catch (const std::exception& error) {
         const QString reason = file.isWhole() ? faultText(error) : file.fault();
         log(QStringLiteral("Failed to encode a picture: ") + reason);
         return false;

@@ -4,6 +4,7 @@
 #include "color_profile.h"
 #include "deferred_pixels.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <optional>
@@ -106,6 +107,21 @@ Image makeImage(ImageNode node)
     return Image(std::make_shared<const ImageNode>(std::move(node)));
 }
 
+Image builtImage(const ImageNode& original, PixelSize size, const std::function<ImageNode()>& build)
+{
+    try {
+        return makeImage(build());
+    } catch (const std::exception& error) {
+        PixelLayout layout = layoutOf(original.pixels);
+        layout.width = std::clamp(size.width, 1, VIPS_MAX_COORD - 1);
+        layout.height = std::clamp(size.height, 1, VIPS_MAX_COORD - 1);
+        const auto fail = [reason = faultText(error)]() -> vips::VImage {
+            throw vips::VError(reason.toStdString());
+        };
+        return makeImage(original.withPixels(deferredPixels(layout, fail)));
+    }
+}
+
 double dotsPerInchOf(double pixelsPerMetre)
 {
     if (const auto whole = wholeDotsPerInch(pixelsPerMetre))
@@ -154,7 +170,7 @@ bool isSequential(const vips::VImage& pixels)
     return vips_image_is_sequential(pixels.get_image()) != FALSE;
 }
 
-QString faultText(const vips::VError& error)
+QString faultText(const std::exception& error)
 {
     const QString text = QString::fromUtf8(vips_error_buffer()).simplified();
     vips_error_clear();

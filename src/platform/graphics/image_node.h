@@ -37,6 +37,13 @@ struct ImageNode
 
 [[nodiscard]] Image makeImage(ImageNode node);
 
+/// The picture that `build` makes of `original`, of `size`.
+///
+/// What can't be built is a picture all the same: evaluating it fails, with the reason, as it does
+/// for a damaged photo. No exception leaves.
+[[nodiscard]] Image
+builtImage(const ImageNode& original, PixelSize size, const std::function<ImageNode()>& build);
+
 [[nodiscard]] constexpr int colorBands(ColorModel model)
 {
     switch (model) {
@@ -68,6 +75,6 @@ struct ImageNode
 [[nodiscard]] bool isSequential(const vips::VImage& pixels);
 
 /// What went wrong, in one line; empties the engine's error buffer for the next job.
-[[nodiscard]] QString faultText(const vips::VError& error);
+[[nodiscard]] QString faultText(const std::exception& error);
 
 } // namespace brenvaldo::platform

@@ -110,7 +110,7 @@ QImage Image::toQImage() const
     try {
         const QImage image = evaluatedQImage(*m_node);
         return hasAlpha() ? image : image.convertToFormat(QImage::Format_RGB32);
-    } catch (const vips::VError& error) {
+    } catch (const std::exception& error) {
         log(QStringLiteral("Failed to draw an image: ") + faultText(error));
         return {};
     }

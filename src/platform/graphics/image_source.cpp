@@ -20,7 +20,7 @@ struct ImageSource::State
 
 namespace {
 
-void logFault(const QString& path, const vips::VError& error)
+void logFault(const QString& path, const std::exception& error)
 {
     log(QStringLiteral("Failed to read image %1: %2").arg(path, faultText(error)));
 }
@@ -69,7 +69,7 @@ decoded(const QString& path, ImageSource::Access access, const std::function<Ima
         if (access == ImageSource::Access::OnePass)
             return makeImage(node);
         return makeImage(node.withPixels(randomAccess(node.pixels)));
-    } catch (const vips::VError& error) {
+    } catch (const std::exception& error) {
         logFault(path, error);
         return std::nullopt;
     }
@@ -90,7 +90,7 @@ std::optional<ImageSource> ImageSource::open(const QString& path)
         if (!decoder)
             return std::nullopt;
         return ImageSource(std::make_shared<const State>(State{path, std::move(decoder)}));
-    } catch (const vips::VError& error) {
+    } catch (const std::exception& error) {
         logFault(path, error);
         return std::nullopt;
     }

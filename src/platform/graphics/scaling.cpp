@@ -44,6 +44,14 @@ vips::VImage resampled(const vips::VImage& pixels, PixelSize size)
     return trimmedTo(scaled, size);
 }
 
+ImageNode scaledNode(const ImageNode& node, PixelSize size)
+{
+    if (!node.hasAlpha)
+        return node.withPixels(resampled(node.pixels, size));
+    const vips::VImage scaled = resampled(premultipliedPixels(node.pixels), size);
+    return node.withPixels(straightPixels(scaled, node.pixels.format()));
+}
+
 } // namespace
 
 Image Image::scaledTo(PixelSize size) const
@@ -51,11 +59,7 @@ Image Image::scaledTo(PixelSize size) const
     Q_ASSERT(size.isValid());
     if (size == pixelSize())
         return *this;
-    const vips::VImage& pixels = m_node->pixels;
-    if (!hasAlpha())
-        return makeImage(m_node->withPixels(resampled(pixels, size)));
-    const vips::VImage scaled = resampled(premultipliedPixels(pixels), size);
-    return makeImage(m_node->withPixels(straightPixels(scaled, pixels.format())));
+    return builtImage(*m_node, size, [&] { return scaledNode(*m_node, size); });
 }
 
 } // namespace brenvaldo::platform

@@ -15,7 +15,10 @@ Image scaledForScreen(const Image& image, PixelSize size)
     if (side < 2 || image.hasAlpha())
         return image.scaledTo(size);
     const ImageNode& node = *image.node();
-    return makeImage(node.withPixels(blockAverages(node.pixels, side))).scaledTo(size);
+    const PixelSize blocks = {image.width() / side, image.height() / side};
+    return builtImage(
+               node, blocks, [&] { return node.withPixels(blockAverages(node.pixels, side)); }
+    ).scaledTo(size);
 }
 
 } // namespace brenvaldo::platform

@@ -205,14 +205,13 @@ private:
     StampedPhoto m_stamped;
 };
 
-Image markedImage(
-    const Image& photo, const vips::VImage& pixels, std::function<PixelRect()> stampedPart
-)
+ImageNode
+markedNode(const Image& photo, const vips::VImage& pixels, std::function<PixelRect()> stampedPart)
 {
     ImageNode marked = photo.node()->withPixels(pixels);
     marked.stampedOn = photo.node();
     marked.stampedPart = std::move(stampedPart);
-    return makeImage(std::move(marked));
+    return marked;
 }
 
 } // namespace
@@ -221,18 +220,22 @@ Image stamped(const Image& photo, const Stamp& stamp)
 {
     if (stamp.layer.isNull())
         return photo;
-    const StampedPhoto marked = laidOver(*photo.node(), stamp);
-    return markedImage(photo, marked.pixels, [part = marked.part] { return part; });
+    return builtImage(*photo.node(), photo.pixelSize(), [&] {
+        const StampedPhoto marked = laidOver(*photo.node(), stamp);
+        return markedNode(photo, marked.pixels, [part = marked.part] { return part; });
+    });
 }
 
 Image stamped(const Image& photo, std::function<Stamp()> makeStamp)
 {
     Q_ASSERT(!isSequential(photo.node()->pixels));
     const auto marked = std::make_shared<PhotoToStamp>(photo.node(), std::move(makeStamp));
-    const auto pixels = deferredPixels(layoutOf(photo.node()->pixels), [marked] {
-        return marked->stamped().pixels;
+    return builtImage(*photo.node(), photo.pixelSize(), [&] {
+        const auto pixels = deferredPixels(layoutOf(photo.node()->pixels), [marked] {
+            return marked->stamped().pixels;
+        });
+        return markedNode(photo, pixels, [marked] { return marked->stamped().part; });
     });
-    return markedImage(photo, pixels, [marked] { return marked->stamped().part; });
 }
 
 bool isStamped(const Image& marked, const Image& photo)

@@ -4,6 +4,8 @@
 #include "photo_decoder.h"
 #include "png_labels.h"
 
+#include <platform/foundation/regular_file.h>
+
 #include <QFile>
 
 #include <array>
@@ -92,9 +94,9 @@ FileLabels jpeg2000FileLabels(QIODevice& file)
 FileLabels fileLabels(const QString& path, const QString& typeIdentifier)
 {
     QFile file(path);
-    if (typeIdentifier == QLatin1String("public.jp2") && file.open(QIODevice::ReadOnly))
+    if (typeIdentifier == QLatin1String("public.jp2") && openRegularFile(file))
         return jpeg2000FileLabels(file);
-    if (typeIdentifier == QLatin1String("public.png") && file.open(QIODevice::ReadOnly))
+    if (typeIdentifier == QLatin1String("public.png") && openRegularFile(file))
         return readPngLabels(file);
     return {};
 }

@@ -13,6 +13,8 @@
 
 #include <gmock/gmock.h>
 
+#include <sys/stat.h>
+
 namespace brenvaldo {
 namespace {
 
@@ -341,6 +343,28 @@ TEST(ImageSource, DoesNotOpenWhatIsNoImage)
     EXPECT_FALSE(ImageSource::open(folder.write(QStringLiteral("b.jpg"), "a line of text")));
     EXPECT_FALSE(ImageSource::open(folder.path(QStringLiteral("missing.jpg"))));
     EXPECT_FALSE(ImageSource::open(folder.path()));
+}
+
+TEST(ImageSource, DoesNotWaitForAPipe)
+{
+    const TemporaryFolder folder;
+    const QString pipe = folder.path(QStringLiteral("a.jpg"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+
+    EXPECT_FALSE(ImageSource::open(pipe));
+    EXPECT_TRUE(embeddedThumbnail(pipe).isNull());
+}
+
+TEST(ImageSource, DropsAProfileThatTellsNothing)
+{
+    const TemporaryFolder folder;
+    const QString path = PhotoBuilder()
+                             .format(PhotoFormat::Png)
+                             .iccProfile(emptyProfile())
+                             .write(folder.path(QStringLiteral("a.png")));
+
+    EXPECT_EQ(openedPhoto(path).image()->iccProfile(), QByteArray());
+    EXPECT_FALSE(storedPixels(path).isNull());
 }
 
 /// A JPEG whose frame header claims another size.

@@ -3,11 +3,14 @@
 
 #include <support/case_name.h>
 #include <support/color_profiles.h>
+#include <support/log_lines.h>
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>
 #include <support/temporary_folder.h>
 
 #include <gmock/gmock.h>
+
+#include <limits>
 
 namespace brenvaldo {
 namespace {
@@ -203,6 +206,23 @@ TEST_F(ImageTest, CropsToNothingOutside)
     EXPECT_FALSE(image.croppedTo({47, 0, 10, 10}));
     EXPECT_FALSE(image.croppedTo({-10, 0, 10, 10}));
     EXPECT_FALSE(image.croppedTo({3, 3, 0, 10}));
+}
+
+TEST_F(ImageTest, CropsToNothingBehindEdgesFarAway)
+{
+    constexpr int farthest = std::numeric_limits<int>::min();
+    const Image image = imageOf(PhotoBuilder());
+
+    EXPECT_FALSE(image.croppedTo({farthest / 2, 0, farthest, 5}));
+    EXPECT_FALSE(image.croppedTo({0, farthest / 2, 5, farthest}));
+}
+
+TEST_F(ImageTest, OfAnImpossibleSizeFailsWhenItIsDrawn)
+{
+    const LogLines log;
+
+    EXPECT_TRUE(imageOf(PhotoBuilder()).scaledTo({2'000'000'000, 10}).toQImage().isNull());
+    EXPECT_EQ(log.lines().size(), 1);
 }
 
 TEST_F(ImageTest, CanBeEvaluatedAgainOnceInMemory)

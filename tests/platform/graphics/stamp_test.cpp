@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/graphics/image_destination.h>
 #include <platform/graphics/stamp.h>
 
+#include <support/color_profiles.h>
 #include <support/geometry_printing.h>
 #include <support/log_lines.h>
 #include <support/pixel_probe.h>
+#include <support/temporary_folder.h>
 #include <support/text_printing.h>
 
 #include <gtest/gtest.h>
@@ -139,6 +142,30 @@ TEST(Stamp, LaysEachSampleOverByItsOpacity)
             ASSERT_EQ(marked.pixel(x + 3, y + 5), expected) << x << ", " << y;
         }
     }
+}
+
+TEST(Stamp, IsLaidOnAPhotoWithAProfileThatCannotBeDrawnIn)
+{
+    const test::TemporaryFolder folder;
+    const QString path = test::PhotoBuilder()
+                             .size(90, 60)
+                             .solid({10, 20, 30})
+                             .format(test::PhotoFormat::Png)
+                             .iccProfile(test::scannerProfile())
+                             .write(folder.path(QStringLiteral("a.png")));
+    QImage red(90, 60, QImage::Format_RGBA8888);
+    red.fill(Qt::red);
+
+    const auto marked
+        = platform::stamped(*test::openedPhoto(path).image(), Stamp{.layer = red, .topLeft = {}});
+
+    EXPECT_EQ(marked.iccProfile(), test::scannerProfile());
+    EXPECT_EQ(
+        platform::encode(
+            marked, platform::FileFormat::Png, {}, folder.path(QStringLiteral("b.png"))
+        ),
+        true
+    );
 }
 
 TEST(Stamp, TilesThePhotoFromItsCornerOn)
