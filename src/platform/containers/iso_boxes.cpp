@@ -28,7 +28,9 @@ QList<IsoBox> isoBoxes(QByteArrayView bytes)
         const auto whole = sliceOf(bytes, offset, length);
         if (!whole || length < headLength)
             break;
-        boxes.append({.type = whole->sliced(4, 4), .payload = tailOf(*whole, headLength)});
+        boxes.append(
+            {.type = whole->sliced(4, 4), .payload = tailOf(*whole, headLength), .whole = *whole}
+        );
         offset += length;
     }
     return boxes;

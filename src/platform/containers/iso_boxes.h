@@ -12,6 +12,7 @@ struct IsoBox
 {
     QByteArrayView type; ///< four letters
     QByteArrayView payload;
+    QByteArrayView whole; ///< length, type and payload
 };
 
 /// The boxes that stand side by side in `bytes`, up to the first that is damaged.

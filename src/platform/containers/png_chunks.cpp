@@ -49,14 +49,8 @@ std::optional<PngText> compressedText(const QByteArray& keyword, QByteArrayView 
                 : std::nullopt;
 }
 
-} // namespace
-
-PngChunk pngChunkOf(QByteArrayView whole)
-{
-    return {.type = whole.sliced(4, 4), .data = whole.sliced(8).chopped(4), .whole = whole};
-}
-
-std::optional<QList<PngChunk>> readPngChunks(QByteArrayView file)
+/// The chunks up to the first of type `last`, or to damage.
+std::optional<QList<PngChunk>> chunksUpTo(QByteArrayView file, QByteArrayView last)
 {
     if (!file.startsWith(signature))
         return std::nullopt;
@@ -68,11 +62,28 @@ std::optional<QList<PngChunk>> readPngChunks(QByteArrayView file)
         if (!whole)
             break;
         chunks.append(pngChunkOf(*whole));
-        if (chunks.last().type == QByteArrayView("IEND"))
+        if (chunks.last().type == last)
             break;
         offset += 12 + *length;
     }
     return chunks;
+}
+
+} // namespace
+
+PngChunk pngChunkOf(QByteArrayView whole)
+{
+    return {.type = whole.sliced(4, 4), .data = whole.sliced(8).chopped(4), .whole = whole};
+}
+
+std::optional<QList<PngChunk>> readPngChunks(QByteArrayView file)
+{
+    return chunksUpTo(file, "IEND");
+}
+
+std::optional<QList<PngChunk>> readPngHeadChunks(QByteArrayView file)
+{
+    return chunksUpTo(file, "IDAT");
 }
 
 QByteArray pngChunk(QByteArrayView type, QByteArrayView data)

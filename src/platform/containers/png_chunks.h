@@ -25,6 +25,9 @@ constexpr qsizetype pngSignatureLength = 8;
 /// The chunks up to IEND or to damage; nothing when `file` is no PNG.
 [[nodiscard]] std::optional<QList<PngChunk>> readPngChunks(QByteArrayView file);
 
+/// The chunks in front of the picture data; nothing when `file` is no PNG.
+[[nodiscard]] std::optional<QList<PngChunk>> readPngHeadChunks(QByteArrayView file);
+
 /// Makes a whole chunk.
 [[nodiscard]] QByteArray pngChunk(QByteArrayView type, QByteArrayView data);
 

@@ -48,6 +48,8 @@ TypeWidth widthOf(std::uint64_t type)
 
 } // namespace
 
+int tiffTypeWidth(std::uint16_t type) { return widthOf(type).size; }
+
 const TiffField* fieldOf(const TiffDirectory& directory, std::uint16_t tag)
 {
     const auto found = std::find_if(directory.begin(), directory.end(), [tag](const auto& field) {
@@ -175,7 +177,7 @@ std::optional<TiffField> TiffFile::fieldAt(std::uint64_t offset) const
 
 QList<std::uint64_t> unsignedValues(const TiffField& field, ByteOrder order)
 {
-    const int width = widthOf(field.type).size;
+    const int width = tiffTypeWidth(field.type);
     QList<std::uint64_t> values;
     std::uint64_t offset = 0;
     while (width > 0) {

@@ -16,7 +16,11 @@ namespace tiff {
 enum Tag : std::uint16_t {
     BitsPerSample = 258,
     StripOffsets = 273,
+    Orientation = 274,
     StripLengths = 279,
+    HorizontalResolution = 282,
+    VerticalResolution = 283,
+    ResolutionUnit = 296,
     TileOffsets = 324,
     SubDirectories = 330,
     ThumbnailOffset = 513,
@@ -32,9 +36,25 @@ enum Tag : std::uint16_t {
     InteroperabilityDirectory = 40965
 };
 
-enum Type : std::uint16_t { Byte = 1, Short = 3, Long = 4, Undefined = 7 };
+enum Type : std::uint16_t {
+    Byte = 1,
+    Ascii = 2,
+    Short = 3,
+    Long = 4,
+    Rational = 5,
+    SignedByte = 6,
+    Undefined = 7,
+    SignedShort = 8,
+    SignedLong = 9,
+    SignedRational = 10,
+    Float = 11,
+    Double = 12
+};
 
 } // namespace tiff
+
+/// Bytes of one number of that type; 0 when there is no such type.
+[[nodiscard]] int tiffTypeWidth(std::uint16_t type);
 
 /// One entry of a directory. `value` is in the byte order of its file, and may point into it.
 struct TiffField

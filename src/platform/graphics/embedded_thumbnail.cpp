@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "exif_facts.h"
 #include "image_source.h"
 #include "photo_decoder.h"
 
+#include <platform/containers/exif_facts.h>
 #include <platform/containers/type_identifier.h>
 
 #include <platform/foundation/regular_file.h>

@@ -7,8 +7,10 @@
 #include "memory_check.h"
 #include "region_kernel.h"
 
+#include <QFile>
 #include <algorithm>
 #include <cstring>
+#include <platform/containers/exif_facts.h>
 
 namespace brenvaldo::platform {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "color_profile.h"
 #include "deferred_pixels.h"
-#include "exif_facts.h"
 #include "heif_handles.h"
 #include "photo_decoder.h"
 
+#include <platform/containers/exif_facts.h>
 #include <platform/foundation/regular_file.h>
 
 #include <QFile>

@@ -1,53 +1,41 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "jpeg2000_boxes.h"
 
-#include <QByteArrayView>
-#include <QtEndian>
+#include <platform/containers/bytes.h>
+#include <platform/containers/iso_boxes.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace brenvaldo::platform {
 
 namespace {
 
-constexpr qsizetype boxHeaderSize = 8;
 constexpr qsizetype colorFieldsSize = 3; ///< in front of a profile: method, precedence, accuracy
 constexpr char restrictedProfile = 2;
 constexpr double metresPerInch = 0.0254;
 
-template <typename Integer>
-QByteArray bigEndian(Integer value)
+QByteArray bigEndian(std::uint64_t value, int width)
 {
-    QByteArray bytes(sizeof(Integer), '\0');
-    qToBigEndian(value, bytes.data());
+    QByteArray bytes;
+    appendUnsigned(bytes, value, width, ByteOrder::Big);
     return bytes;
 }
 
 QByteArray box(const char* type, const QByteArray& contents)
 {
-    return bigEndian(static_cast<quint32>(contents.size() + boxHeaderSize)) + type + contents;
+    constexpr qsizetype lengthAndType = 8;
+    return bigEndian(static_cast<std::uint64_t>(contents.size() + lengthAndType), 4) + type
+        + contents;
 }
 
-struct BoxPlace
+/// The first box of that type; null when there is none.
+const IsoBox* findBox(const QList<IsoBox>& boxes, QByteArrayView type)
 {
-    qsizetype at;
-    qsizetype size; ///< with the header
-};
-
-/// The first box of a type between `from` and `to`; boxes of 64-bit or open size end the search.
-std::optional<BoxPlace>
-findBox(QByteArrayView bytes, QByteArrayView type, qsizetype from, qsizetype to)
-{
-    qsizetype at = from;
-    while (at + boxHeaderSize <= to) {
-        const qsizetype size = qFromBigEndian<quint32>(bytes.data() + at);
-        if (size < boxHeaderSize || size > to - at)
-            return std::nullopt;
-        if (bytes.sliced(at + 4, 4) == type)
-            return BoxPlace{at, size};
-        at += size;
-    }
-    return std::nullopt;
+    const auto found = std::find_if(boxes.begin(), boxes.end(), [type](const IsoBox& candidate) {
+        return candidate.type == type;
+    });
+    return found == boxes.end() ? nullptr : &*found;
 }
 
 /// Capture resolution as numerator, denominator and a power of ten, dots a metre, down and across.
@@ -61,8 +49,8 @@ QByteArray resolutionBox(double dotsPerInch)
         numerator /= 10;
         ++exponent;
     }
-    const QByteArray ratio
-        = bigEndian(static_cast<quint16>(std::lround(numerator))) + bigEndian(denominator);
+    const QByteArray ratio = bigEndian(static_cast<std::uint64_t>(std::lround(numerator)), 2)
+        + bigEndian(denominator, 2);
     return box("res ", box("resc", ratio + ratio + QByteArray(2, exponent)));
 }
 
@@ -73,95 +61,72 @@ QByteArray profileBox(const QByteArray& profile)
     );
 }
 
-/// The profile among the contents of a header box.
-QByteArray embeddedProfile(const QByteArray& header)
+/// The profile among the boxes of a header.
+QByteArray embeddedProfile(const QList<IsoBox>& header)
 {
-    const auto color = findBox(header, "colr", 0, header.size());
-    if (!color || color->size <= boxHeaderSize + colorFieldsSize)
+    const QByteArrayView color = isoBox(header, "colr");
+    if (color.size() <= colorFieldsSize)
         return {};
-    const char method = header.at(color->at + boxHeaderSize);
     constexpr char anyProfile = 3;
-    if (method != restrictedProfile && method != anyProfile)
-        return {};
-    const qsizetype skipped = boxHeaderSize + colorFieldsSize;
-    return header.mid(color->at + skipped, color->size - skipped);
+    const char method = color.front();
+    const bool holdsProfile = method == restrictedProfile || method == anyProfile;
+    return holdsProfile ? color.sliced(colorFieldsSize).toByteArray() : QByteArray();
 }
 
-std::optional<double> captureResolution(const QByteArray& header)
+std::optional<double> captureResolution(const QList<IsoBox>& header)
 {
-    const auto resolution = findBox(header, "res ", 0, header.size());
-    if (!resolution)
+    const QByteArrayView capture = isoBox(isoBoxes(isoBox(header, "res ")), "resc");
+    const auto numerator = unsignedAt(capture, 4, 2, ByteOrder::Big);
+    const auto denominator = unsignedAt(capture, 6, 2, ByteOrder::Big);
+    const auto exponent = unsignedAt(capture, 9, 1, ByteOrder::Big);
+    if (!numerator || !denominator || !exponent)
         return std::nullopt;
-    const auto capture = findBox(
-        header, "resc", resolution->at + boxHeaderSize, resolution->at + resolution->size
-    );
-    constexpr qsizetype captureSize = 18;
-    if (!capture || capture->size < captureSize)
-        return std::nullopt;
-    const char* fields = header.constData() + capture->at + boxHeaderSize;
-    const double numerator = qFromBigEndian<quint16>(fields + 4);
-    const double denominator = qFromBigEndian<quint16>(fields + 6);
-    const double dotsPerMetre = numerator / denominator * std::pow(10, fields[9]);
+    const double dotsPerMetre = static_cast<double>(*numerator) / static_cast<double>(*denominator)
+        * std::pow(10, static_cast<std::int8_t>(*exponent));
     if (!std::isfinite(dotsPerMetre) || dotsPerMetre <= 0)
         return std::nullopt;
     return std::round(dotsPerMetre * metresPerInch * 100) / 100;
 }
 
-bool endsWithEndMarker(QIODevice& file)
-{
-    return file.seek(file.size() - 2) && file.read(2) == QByteArrayView("\xFF\xD9", 2);
-}
+bool endsWithEndMarker(QByteArrayView file) { return file.endsWith(QByteArrayView("\xFF\xD9")); }
 
 } // namespace
 
 QByteArray withLabels(const QByteArray& file, const FileLabels& labels)
 {
-    const auto header = findBox(file, "jp2h", 0, file.size());
+    const QList<IsoBox> boxes = isoBoxes(file);
+    const IsoBox* header = findBox(boxes, "jp2h");
     if (!header)
         return file;
-    QByteArray contents = file.mid(header->at + boxHeaderSize, header->size - boxHeaderSize);
-    const auto color = findBox(contents, "colr", 0, contents.size());
-    if (color && !labels.iccProfile.isEmpty())
-        contents.replace(color->at, color->size, profileBox(labels.iccProfile));
+    QByteArray contents;
+    bool needsProfile = !labels.iccProfile.isEmpty();
+    for (const IsoBox& part : isoBoxes(header->payload)) {
+        const bool isReplaced = needsProfile && part.type == QByteArrayView("colr");
+        contents += isReplaced ? profileBox(labels.iccProfile) : part.whole.toByteArray();
+        needsProfile = needsProfile && !isReplaced;
+    }
     if (labels.dotsPerInch)
         contents += resolutionBox(*labels.dotsPerInch);
-    return file.first(header->at) + box("jp2h", contents) + file.mid(header->at + header->size);
+    const qsizetype start = header->whole.begin() - QByteArrayView(file).begin();
+    return file.first(start) + box("jp2h", contents) + file.sliced(start + header->whole.size());
 }
 
-FileLabels readLabels(const QByteArray& head)
+FileLabels readLabels(QByteArrayView file)
 {
-    const auto header = findBox(head, "jp2h", 0, head.size());
-    if (!header)
-        return {};
-    const QByteArray contents = head.mid(header->at + boxHeaderSize, header->size - boxHeaderSize);
-    return {.iccProfile = embeddedProfile(contents), .dotsPerInch = captureResolution(contents)};
+    const QList<IsoBox> header = isoBoxes(isoBox(isoBoxes(file), "jp2h"));
+    return {.iccProfile = embeddedProfile(header), .dotsPerInch = captureResolution(header)};
 }
 
-bool holdsWholeCodeStream(QIODevice& file)
+bool holdsWholeCodeStream(QByteArrayView file)
 {
-    constexpr qsizetype largeHeaderSize = 16;
-    constexpr qint64 extendsToTheEnd = 0;
-    constexpr qint64 hasLargeSize = 1;
-    qint64 at = 0;
-    while (file.seek(at)) {
-        const QByteArray head = file.read(largeHeaderSize);
-        if (head.startsWith(QByteArrayView("\xFF\x4F", 2)))
-            return endsWithEndMarker(file);
-        if (head.size() < largeHeaderSize)
-            return false;
-        qint64 size = qFromBigEndian<quint32>(head.constData());
-        const bool isCodeStream = head.sliced(4, 4) == "jp2c";
-        if (size == extendsToTheEnd)
-            return isCodeStream && endsWithEndMarker(file);
-        if (size == hasLargeSize)
-            size = qFromBigEndian<qint64>(head.constData() + boxHeaderSize);
-        if (size < boxHeaderSize || size > file.size() - at)
-            return false;
-        if (isCodeStream)
-            return true;
-        at += size;
-    }
-    return false;
+    if (file.startsWith("\xFF\x4F"))
+        return endsWithEndMarker(file);
+    const QList<IsoBox> boxes = isoBoxes(file);
+    const IsoBox* codeStream = findBox(boxes, "jp2c");
+    if (!codeStream)
+        return false;
+    const bool isOpen = codeStream->whole.startsWith(QByteArrayView("\0\0\0\0", 4));
+    return !isOpen || endsWithEndMarker(file);
 }
 
 } // namespace brenvaldo::platform

@@ -4,17 +4,17 @@
 #include "file_labels.h"
 
 #include <QByteArray>
-#include <QIODevice>
+#include <QByteArrayView>
 
 namespace brenvaldo::platform {
 
 /// The file with these labels in its header box; unchanged where the file has no such box.
 [[nodiscard]] QByteArray withLabels(const QByteArray& file, const FileLabels& labels);
 
-/// The labels of the file that begins with `head`.
-[[nodiscard]] FileLabels readLabels(const QByteArray& head);
+/// The labels in the header box of the file.
+[[nodiscard]] FileLabels readLabels(QByteArrayView file);
 
-/// True when the code stream of the open file reaches its end; false for a file that was cut off.
-[[nodiscard]] bool holdsWholeCodeStream(QIODevice& file);
+/// True when the code stream of the file reaches its end; false for a file that was cut off.
+[[nodiscard]] bool holdsWholeCodeStream(QByteArrayView file);
 
 } // namespace brenvaldo::platform

@@ -3,46 +3,23 @@
 
 #include "image_node.h"
 
+#include <platform/containers/bytes.h>
 #include <platform/containers/inflate.h>
-
-#include <QtEndian>
+#include <platform/containers/png_chunks.h>
 
 namespace brenvaldo::platform {
 
 namespace {
 
-constexpr qint64 signatureLength = 8;
-constexpr qint64 checksumLength = 4;
-constexpr qint64 resolutionLength = 9;
-constexpr qsizetype longestChunk = qsizetype{16} << 20;
-constexpr qsizetype longestProfile = qsizetype{64} << 20;
-
-QByteArray bigEndian32(quint32 value)
-{
-    QByteArray bytes(sizeof(value), '\0');
-    qToBigEndian(value, bytes.data());
-    return bytes;
-}
-
-/// The profile in the data of its chunk: a name, a zero, the method zero, a zlib stream.
-QByteArray profileOf(const QByteArray& chunkData)
-{
-    const qsizetype nameEnd = chunkData.indexOf('\0');
-    constexpr qsizetype endAndMethod = 2;
-    if (nameEnd < 0 || nameEnd + endAndMethod > chunkData.size())
-        return {};
-    const auto stream = QByteArrayView(chunkData).sliced(nameEnd + endAndMethod);
-    return inflated(stream, longestProfile).value_or(QByteArray());
-}
-
 /// The resolution in the data of its chunk: pixels a unit in each direction, the unit.
-std::optional<double> resolutionOf(const QByteArray& chunkData)
+std::optional<double> resolutionOf(const PngChunk& chunk)
 {
-    constexpr char metre = 1;
-    if (chunkData.size() < resolutionLength || chunkData.back() != metre)
+    constexpr std::uint64_t metre = 1;
+    const auto pixelsPerUnit = unsignedAt(chunk.data, 0, 4, ByteOrder::Big).value_or(0);
+    const bool isMetric = unsignedAt(chunk.data, 8, 1, ByteOrder::Big) == metre;
+    if (chunk.type != QByteArrayView("pHYs") || !isMetric || pixelsPerUnit == 0)
         return std::nullopt;
-    const auto pixelsPerMetre = qFromBigEndian<quint32>(chunkData.constData());
-    return pixelsPerMetre == 0 ? std::nullopt : std::optional(dotsPerInchOf(pixelsPerMetre));
+    return dotsPerInchOf(static_cast<double>(pixelsPerUnit));
 }
 
 } // namespace
@@ -51,26 +28,17 @@ QByteArray pngProfileChunk(const QByteArray& profile)
 {
     if (profile.isEmpty())
         return {};
-    const QByteArray data = QByteArray("ICC Profile\0\0", 13) + deflated(profile);
-    const QByteArray typeAndData = "iCCP" + data;
-    return bigEndian32(static_cast<quint32>(data.size())) + typeAndData
-        + bigEndian32(crc32Of(typeAndData));
+    return pngChunk("iCCP", QByteArray("ICC Profile\0\0", 13) + deflated(profile));
 }
 
-FileLabels readPngLabels(QIODevice& file)
+FileLabels readPngLabels(QByteArrayView file)
 {
-    constexpr qint64 headLength = 8;
     FileLabels labels;
-    for (qint64 offset = signatureLength; file.seek(offset);) {
-        const QByteArray head = file.read(headLength);
-        if (head.size() < headLength || head.endsWith("IDAT"))
-            break;
-        const qint64 length = qFromBigEndian<quint32>(head.constData());
-        if (head.endsWith("iCCP") && labels.iccProfile.isEmpty() && length <= longestChunk)
-            labels.iccProfile = profileOf(file.read(length));
-        else if (head.endsWith("pHYs") && !labels.dotsPerInch)
-            labels.dotsPerInch = resolutionOf(file.read(resolutionLength));
-        offset += headLength + length + checksumLength;
+    for (const PngChunk& chunk : readPngHeadChunks(file).value_or(QList<PngChunk>())) {
+        if (labels.iccProfile.isEmpty())
+            labels.iccProfile = pngProfile(chunk);
+        if (!labels.dotsPerInch)
+            labels.dotsPerInch = resolutionOf(chunk);
     }
     labels.dotsPerInch = labels.dotsPerInch.value_or(ImageNode().dotsPerInch);
     return labels;

@@ -4,7 +4,7 @@
 #include "file_labels.h"
 
 #include <QByteArray>
-#include <QIODevice>
+#include <QByteArrayView>
 
 namespace brenvaldo::platform {
 
@@ -18,7 +18,7 @@ constexpr qint64 pngHeaderLength = 33;
 /// The whole chunk of a profile; empty for an empty one.
 [[nodiscard]] QByteArray pngProfileChunk(const QByteArray& profile);
 
-/// The labels of the PNG at the start of `file`; those of damaged chunks are left out.
-[[nodiscard]] FileLabels readPngLabels(QIODevice& file);
+/// The labels of the PNG; those of damaged chunks are left out.
+[[nodiscard]] FileLabels readPngLabels(QByteArrayView file);
 
 } // namespace brenvaldo::platform

@@ -7,6 +7,7 @@
 #include "psd_samples.h"
 
 #include <platform/containers/bytes.h>
+#include <platform/containers/exif_facts.h>
 #include <platform/containers/mapped_file.h>
 #include <platform/containers/photoshop_resources.h>
 

@@ -4,9 +4,7 @@
 #include "photo_decoder.h"
 #include "png_labels.h"
 
-#include <platform/foundation/regular_file.h>
-
-#include <QFile>
+#include <platform/containers/mapped_file.h>
 
 #include <array>
 
@@ -80,24 +78,21 @@ void checkSize(const vips::VImage& decoded, bool isJpeg)
         throw vips::VError("the picture is too large");
 }
 
-FileLabels jpeg2000FileLabels(QIODevice& file)
+FileLabels jpeg2000FileLabels(QByteArrayView file)
 {
     // The decoder fills what is missing and now and then forgets to say so.
     if (!holdsWholeCodeStream(file))
         throw vips::VError("the code stream is cut off");
-    file.seek(0);
-    constexpr qint64 headLength = qint64{4} << 20; // leaves room for a large profile
-    return readLabels(file.read(headLength));
+    return readLabels(file);
 }
 
 /// What the engine doesn't read from the header of a file.
 FileLabels fileLabels(const QString& path, const QString& typeIdentifier)
 {
-    QFile file(path);
-    if (typeIdentifier == QLatin1String("public.jp2") && openRegularFile(file))
-        return jpeg2000FileLabels(file);
-    if (typeIdentifier == QLatin1String("public.png") && openRegularFile(file))
-        return readPngLabels(file);
+    if (typeIdentifier == QLatin1String("public.jp2"))
+        return jpeg2000FileLabels(MappedFile(path).bytes());
+    if (typeIdentifier == QLatin1String("public.png"))
+        return readPngLabels(MappedFile(path).bytes());
     return {};
 }
 

@@ -3,106 +3,35 @@
 
 #include "exif_tables.h"
 
+#include <platform/containers/tiff_numbers.h>
+
 #include <QStringDecoder>
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 
 namespace brenvaldo::platform {
 
 namespace {
 
-enum NumberType : std::uint16_t {
-    Ascii = 2,
-    Rational = 5,
-    SignedByte = 6,
-    SignedShort = 8,
-    SignedLong = 9,
-    SignedRational = 10,
-    Float = 11,
-    Double = 12
-};
-
 constexpr qsizetype characterCodeLength = 8;
 
-int widthOf(std::uint16_t type)
+PropertyValue valueOf(const TiffNumber& number)
 {
-    switch (type) {
-    case tiff::Short:
-    case SignedShort:
-        return 2;
-    case tiff::Long:
-    case SignedLong:
-    case Float:
-        return 4;
-    case Rational:
-    case SignedRational:
-    case Double:
-        return 8;
-    default:
-        return 1;
-    }
-}
-
-std::uint64_t rawAt(const TiffField& field, std::uint64_t offset, int width, ByteOrder order)
-{
-    return unsignedAt(field.value, offset, width, order).value_or(0);
-}
-
-/// Numerator by denominator; nothing when the denominator is 0.
-std::optional<double> rationalAt(const TiffField& field, std::uint64_t offset, ByteOrder order)
-{
-    const auto numerator = static_cast<std::uint32_t>(rawAt(field, offset, 4, order));
-    const auto denominator = static_cast<std::uint32_t>(rawAt(field, offset + 4, 4, order));
-    if (denominator == 0)
-        return std::nullopt;
-    if (field.type == Rational)
-        return static_cast<double>(numerator) / denominator;
-    return static_cast<double>(static_cast<std::int32_t>(numerator))
-        / static_cast<std::int32_t>(denominator);
-}
-
-/// The number at `offset`; nothing for a fraction by 0.
-std::optional<PropertyValue> numberAt(const TiffField& field, std::uint64_t offset, ByteOrder order)
-{
-    const std::uint64_t raw = rawAt(field, offset, widthOf(field.type), order);
-    switch (field.type) {
-    case Rational:
-    case SignedRational: {
-        const auto value = rationalAt(field, offset, order);
-        return value ? std::optional(PropertyValue(*value)) : std::nullopt;
-    }
-    case SignedByte:
-        return PropertyValue(qint64{static_cast<std::int8_t>(raw)});
-    case SignedShort:
-        return PropertyValue(qint64{static_cast<std::int16_t>(raw)});
-    case SignedLong:
-        return PropertyValue(qint64{static_cast<std::int32_t>(raw)});
-    case Float: {
-        const double value = std::bit_cast<float>(static_cast<std::uint32_t>(raw));
-        return std::isfinite(value) ? std::optional(PropertyValue(value)) : std::nullopt;
-    }
-    case Double: {
-        const auto value = std::bit_cast<double>(raw);
-        return std::isfinite(value) ? std::optional(PropertyValue(value)) : std::nullopt;
-    }
-    default:
-        return PropertyValue(static_cast<qint64>(raw));
-    }
+    return std::visit([](auto value) { return PropertyValue(value); }, number);
 }
 
 /// All numbers of the field; one that is not known, a fraction by 0, counts 0. Empty when none is
 /// known.
 PropertyValue::Array numbersOf(const TiffField& field, ByteOrder order)
 {
-    const int width = widthOf(field.type);
+    const int width = tiffTypeWidth(field.type);
     PropertyValue::Array numbers;
     bool isAnyKnown = false;
     for (qsizetype offset = 0; offset + width <= field.value.size(); offset += width) {
-        const auto number = numberAt(field, static_cast<std::uint64_t>(offset), order);
+        const auto number = tiffNumberAt(field, static_cast<std::uint64_t>(offset), order);
         isAnyKnown = isAnyKnown || number.has_value();
-        numbers.append(number.value_or(PropertyValue(0)));
+        numbers.append(number ? valueOf(*number) : PropertyValue(0));
     }
     return isAnyKnown ? numbers : PropertyValue::Array();
 }
@@ -115,7 +44,7 @@ std::optional<PropertyValue> arrayOf(const TiffField& field, ByteOrder order)
 
 std::optional<PropertyValue> plainOf(const TiffField& field, ByteOrder order)
 {
-    if (field.type == Ascii)
+    if (field.type == tiff::Ascii)
         return PropertyValue(metadataText(field.value));
     const PropertyValue::Array numbers = numbersOf(field, order);
     if (numbers.isEmpty())
@@ -144,18 +73,17 @@ std::optional<PropertyValue> versionOf(const TiffField& field)
 QList<double> threeParts(const TiffField& field, ByteOrder order)
 {
     constexpr int parts = 3;
-    const bool isFraction = field.type == Rational || field.type == SignedRational;
-    if (!isFraction || field.value.size() < widthOf(Rational))
+    const int width = tiffTypeWidth(tiff::Rational);
+    const bool isFraction = field.type == tiff::Rational || field.type == tiff::SignedRational;
+    if (!isFraction || field.value.size() < width)
         return {};
     QList<double> values;
     for (int i = 0; i < parts; ++i) {
-        const auto offset = static_cast<std::uint64_t>(i) * 8;
-        const bool isThere = sliceOf(field.value, offset, 8).has_value();
-        const auto value = isThere ? rationalAt(field, offset, order) : std::optional(0.0);
+        const auto value = tiffNumberAt(field, static_cast<std::uint64_t>(i * width), order);
         // A camera without a fix writes fractions by 0 for the parts that it does not know.
         if (!value && i == 0)
             return {};
-        values.append(value.value_or(0));
+        values.append(value ? std::get<double>(*value) : 0);
     }
     return values;
 }
@@ -196,16 +124,16 @@ std::optional<PropertyValue> propertyOf(const TiffField& field, ExifRule rule, B
     case ExifRule::FirstByte:
         return field.value.isEmpty()
             ? std::nullopt
-            : std::optional(PropertyValue(static_cast<int>(rawAt(field, 0, 1, order))));
+            : std::optional(PropertyValue(int{static_cast<std::uint8_t>(field.value.front())}));
     case ExifRule::Version:
         return versionOf(field);
     case ExifRule::Comment:
-        return field.type == Ascii ? PropertyValue(metadataText(field.value))
-                                   : PropertyValue(userCommentText(field.value, order));
+        return field.type == tiff::Ascii ? PropertyValue(metadataText(field.value))
+                                         : PropertyValue(userCommentText(field.value, order));
     case ExifRule::Degrees:
         return degreesOf(field, order);
     case ExifRule::TimeOfDay:
-        return field.type == Ascii ? plainOf(field, order) : timeOf(field, order);
+        return field.type == tiff::Ascii ? plainOf(field, order) : timeOf(field, order);
     }
     return std::nullopt;
 }

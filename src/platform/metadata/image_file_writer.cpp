@@ -7,6 +7,7 @@
 #include "tiff_blocks.h"
 #include "xmp_packet.h"
 
+#include <platform/containers/exif_facts.h>
 #include <platform/containers/mapped_file.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/output_file.h>
