@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "record_bench.h"
 
-#include <platform/foundation/bookmark.h>
-#include <platform/foundation/color_archive.h>
+#include <platform/archives/bookmark.h>
+#include <platform/archives/color_archive.h>
 
 #include "support/text_printing.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "record_bench.h"
 
-#include <platform/foundation/color_archive.h>
+#include <platform/archives/color_archive.h>
 
 #include "support/photo_builder.h"
 #include "support/text_printing.h"

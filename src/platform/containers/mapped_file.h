@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "regular_file.h"
+#include <platform/foundation/regular_file.h>
 
 #include <QByteArrayView>
 #include <QFile>

@@ -2,15 +2,16 @@
 #include "color_profile.h"
 #include "encoders.h"
 #include "evaluation.h"
-#include "exif_facts.h"
 #include "heif_handles.h"
 #include "memory_check.h"
 #include "region_kernel.h"
 
+#include <platform/containers/exif_facts.h>
+
 #include <QFile>
+
 #include <algorithm>
 #include <cstring>
-#include <platform/containers/exif_facts.h>
 
 namespace brenvaldo::platform {
 

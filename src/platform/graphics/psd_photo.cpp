@@ -2,7 +2,6 @@
 #include "color_profile.h"
 #include "deferred_pixels.h"
 #include "evaluation.h"
-#include "exif_facts.h"
 #include "photo_decoder.h"
 #include "psd_samples.h"
 

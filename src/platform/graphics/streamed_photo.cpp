@@ -6,6 +6,8 @@
 
 #include <platform/containers/mapped_file.h>
 
+#include <QFile>
+
 #include <array>
 
 namespace brenvaldo::platform {

@@ -11,7 +11,6 @@
 #include <platform/containers/mapped_file.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/output_file.h>
-#include <platform/graphics/exif_facts.h>
 #include <platform/storage/atomic_file.h>
 
 namespace brenvaldo::platform {

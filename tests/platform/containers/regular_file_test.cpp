@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <platform/foundation/mapped_file.h>
+#include <platform/containers/mapped_file.h>
 #include <platform/foundation/regular_file.h>
 
 #include <support/temporary_folder.h>
