@@ -2,7 +2,7 @@
 #pragma once
 
 #include "output_tail.h"
-#include "result_word.h"
+#include "picture_to_save.h"
 
 #include <platform/containers/metadata_blocks.h>
 #include <platform/graphics/color.h>
@@ -19,16 +19,6 @@ class AttributedText;
 }
 
 namespace brenvaldo::imaging {
-
-/// What a writer gets.
-struct PictureToSave
-{
-    QString destination; ///< path without extension; `hSaveToNewImageFile` takes the whole path
-    QString typeIdentifier;
-    std::optional<platform::Image> image; ///< without a picture the writing fails
-    const platform::MetadataBlocks* properties = nullptr; ///< metadata of the source; may be null
-    QString compressionLevel = {}; ///< ignored by `hSaveToNewImageFile`
-};
 
 /// The image operations: access to photos, sizes and resolutions, the writers, and the operations
 /// on single photos.
@@ -109,8 +99,8 @@ public:
     /// `pubScaleMaxType`.
     ///
     /// A size that nothing can be drawn at (a value of 0, an unreadable photo) writes nothing and
-    /// answers "OK"; a Photoshop or PDF file that would keep its type answers "Not Supported".
-    ResultWord hScalePhotosPercentage(
+    /// answers "OK"; a Photoshop or PDF file that would keep its type is not supported.
+    [[nodiscard]] static Outcome hScalePhotosPercentage(
         const SourceAndBase& photo, int value, int maximumType, const OutputTail& tail
     );
 
@@ -118,7 +108,7 @@ public:
     /// box and the excess is cut off, otherwise it is stretched.
     ///
     /// A size that nothing can be drawn at writes nothing and answers the word of the photo before.
-    ResultWord hScalePhotosWidthAndHeight(
+    [[nodiscard]] static Outcome hScalePhotosWidthAndHeight(
         const SourceAndBase& photo, platform::PixelSize box, int aspectState, const OutputTail& tail
     );
 
@@ -166,7 +156,11 @@ public:
         const platform::Color& ground
     );
 
-    /// The result word of the last save; "Failed" before the first.
+    /// Saves what an operation answered, where that is a picture; the photo's word.
+    ResultWord finish(const Outcome& outcome);
+
+    /// The result word of the last save; "Failed" before the first. Watermarks and conversions,
+    /// which have writers of their own, leave it.
     [[nodiscard]] ResultWord storeResult() const { return m_storeResult; }
 
 private:

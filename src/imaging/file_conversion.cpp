@@ -48,69 +48,98 @@ bool isRefused(const QString& path, platform::FileFormat format)
         && !platform::encode(*storedPhoto(path), format, {}, QStringLiteral("/dev/null"));
 }
 
-bool writeConverted(
-    const FileConversion::Settings& settings, const ConversionRule& rule, const QString& target
-)
+bool writeConverted(const PictureToSave& picture, const ConversionRule& rule)
 {
-    const auto image = storedPhoto(settings.source);
-    if (!image)
+    if (!picture.image)
         return false;
 
     platform::ImageFileRequest request;
     request.format = rule.format;
     if (rule.quality == ConversionRule::Quality::FromLevel)
-        request.lossyQuality = conversionQuality(settings.compressionLevel);
-    std::optional<platform::MetadataBlocks> properties;
-    if (rule.route == ConversionRule::Route::Metadata)
-        properties = platform::readMetadataBlocks(settings.source);
-    if (properties)
-        request.metadata = &*properties;
-    return platform::writeImageFile(*image, request, target);
+        request.lossyQuality = conversionQuality(picture.compressionLevel);
+    if (picture.properties)
+        request.metadata = &*picture.properties;
+    return platform::writeImageFile(*picture.image, request, picture.destination);
 }
 
-ResultWord
-convert(const FileConversion::Settings& settings, const ConversionRule& rule, const QString& target)
+ResultWord write(const PictureToSave& picture, const ConversionRule& rule)
 {
     if (rule.format == platform::FileFormat::Heic)
         platform::log(QStringLiteral("Convert: save as heic"));
-    if (writeConverted(settings, rule, target))
+    if (writeConverted(picture, rule))
         return ResultWord::Ok;
 
     // What the metadata route writes at its end is empty when its destination failed. A full disk
     // and a damaged photo leave what stands there, and so does a photo that is its own target.
     if (rule.route == ConversionRule::Route::Metadata
-        && QFileInfo(target) != QFileInfo(settings.source)
-        && isRefused(settings.source, rule.format))
-        std::ignore = platform::writeFileAtomically(target, {});
+        && QFileInfo(picture.destination) != QFileInfo(picture.source)
+        && isRefused(picture.source, rule.format))
+        std::ignore = platform::writeFileAtomically(picture.destination, {});
     return ResultWord::Failed;
 }
 
-ConversionResult
-run(const FileConversion::Settings& settings,
+ResultWord writeByType(const PictureToSave& picture)
+{
+    return write(picture, *conversionRuleForType(picture.typeIdentifier));
+}
+
+ResultWord writeByWord(const PictureToSave& picture)
+{
+    return write(picture, *conversionRuleForWord(picture.typeIdentifier));
+}
+
+/// The photo as the rule wants it; nothing for a type that no rule knows.
+std::optional<PictureToSave> converted(
+    const FileConversion::Settings& settings,
     const std::optional<ConversionRule>& rule,
-    const QString& target)
+    PictureToSave::Writer writer
+)
+{
+    if (!rule)
+        return std::nullopt;
+    PictureToSave picture{
+        .destination = settings.destination,
+        .typeIdentifier = settings.type,
+        .image = storedPhoto(settings.source),
+        .compressionLevel = settings.compressionLevel,
+        .writer = writer,
+        .source = settings.source};
+    if (rule->route == ConversionRule::Route::Metadata)
+        picture.properties = platform::readMetadataBlocks(settings.source);
+    return picture;
+}
+
+ConversionResult
+saved(const FileConversion::Settings& settings, const std::optional<PictureToSave>& picture)
 {
     return {
-        .saveURL = QUrl::fromLocalFile(target),
+        .saveURL = QUrl::fromLocalFile(settings.destination),
         .type = settings.type,
         .name = nameWithoutExtension(settings.source),
-        .word = rule ? convert(settings, *rule, target) : ResultWord::Failed,
+        .word = picture ? save(*picture) : ResultWord::Failed,
     };
 }
 
 } // namespace
 
+Outcome FileConversion::conversion(const Settings& settings)
+{
+    const auto picture = converted(settings, conversionRuleForType(settings.type), writeByType);
+    return picture ? Outcome(*picture) : ResultWord::Failed;
+}
+
 ConversionResult FileConversion::hConvertFileType(const Settings& settings) const
 {
-    return run(settings, conversionRuleForType(settings.type), settings.destination);
+    return saved(settings, converted(settings, conversionRuleForType(settings.type), writeByType));
 }
 
 ConversionResult FileConversion::hSaveAsFileType(const Settings& settings) const
 {
-    const QString target = settings.destination + nameWithoutExtension(settings.source)
-        + QLatin1Char('.') + settings.type;
-    const ConversionResult result = run(settings, conversionRuleForWord(settings.type), target);
-    if (target != settings.source)
+    Settings whole = settings;
+    whole.destination += nameWithoutExtension(settings.source) + QLatin1Char('.') + settings.type;
+    const ConversionResult result
+        = saved(whole, converted(whole, conversionRuleForWord(whole.type), writeByWord));
+    if (whole.destination != settings.source)
         QFile::remove(settings.source);
     return result;
 }

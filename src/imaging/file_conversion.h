@@ -2,7 +2,7 @@
 #pragma once
 
 #include "conversion_rules.h"
-#include "result_word.h"
+#include "picture_to_save.h"
 
 #include <QString>
 #include <QUrl>
@@ -31,6 +31,9 @@ public:
         QString compressionLevel = {};
         QString destination; ///< whole path, or folder ending in "/" of `hSaveAsFileType`
     };
+
+    /// The picture that `hConvertFileType` writes; "Failed" for an unknown type.
+    [[nodiscard]] static Outcome conversion(const Settings& settings);
 
     /// Writes the photo to `destination` as the format that the type identifier ends with; an
     /// unknown type writes nothing.

@@ -40,12 +40,11 @@ std::optional<Image> storedPhoto(const QString& path)
 ResultWord
 saveEdited(const std::optional<Image>& image, const QString& source, const QString& folder)
 {
-    const auto properties = platform::readMetadataBlocks(source);
     return DVImageHandling::hSaveToNewImageFile({
         .destination = folder + platform::lastPathComponent(source),
         .typeIdentifier = typeOfExtension(source),
         .image = image,
-        .properties = properties ? &*properties : nullptr,
+        .properties = platform::readMetadataBlocks(source),
     });
 }
 

@@ -7,7 +7,6 @@
 #include "writer_rules.h"
 
 #include <platform/graphics/image_source.h>
-#include <platform/metadata/metadata_reader.h>
 
 #include <cmath>
 
@@ -36,56 +35,42 @@ std::optional<Image> scaledPhoto(const std::optional<ImageSource>& source, Pixel
 }
 
 /// True for a Photoshop or PDF file that would keep its type: it is out of reach, not unreadable.
+/// It ends in a picture that is none, since the writer has the word for its type.
 bool isOutOfReach(const std::optional<ImageSource>& source, const OutputTail& tail)
 {
     return !source && isNotSupported(tail.myFileType);
 }
 
-ResultWord
-saveResized(const std::optional<Image>& image, const SourceAndBase& photo, const OutputTail& tail)
-{
-    const auto properties = platform::readMetadataBlocks(photo.source);
-    return DVImageHandling::hSaveToNewImageFileX({
-        .destination = photo.destinationBase,
-        .typeIdentifier = tail.myFileType,
-        .image = image,
-        .properties = properties ? &*properties : nullptr,
-        .compressionLevel = tail.compressionLevel,
-    });
-}
-
 } // namespace
 
-ResultWord DVImageHandling::hScalePhotosPercentage(
+Outcome DVImageHandling::hScalePhotosPercentage(
     const SourceAndBase& photo, int value, int maximumType, const OutputTail& tail
 )
 {
     const auto source = ImageSource::open(photo.source);
     if (isOutOfReach(source, tail))
-        return m_storeResult = ResultWord::NotSupported;
+        return outputPicture(std::nullopt, photo, tail);
     const PixelSize target = maximumTarget(uprightSize(source), value, maximumTypeAt(maximumType));
     const auto scaled = scaledPhoto(source, target);
     if (!scaled)
         return ResultWord::Ok;
-    m_storeResult = saveResized(scaled, photo, tail);
-    return m_storeResult;
+    return outputPicture(scaled, photo, tail);
 }
 
-ResultWord DVImageHandling::hScalePhotosWidthAndHeight(
+Outcome DVImageHandling::hScalePhotosWidthAndHeight(
     const SourceAndBase& photo, PixelSize box, int aspectState, const OutputTail& tail
 )
 {
     const auto source = ImageSource::open(photo.source);
     if (isOutOfReach(source, tail))
-        return m_storeResult = ResultWord::NotSupported;
+        return outputPicture(std::nullopt, photo, tail);
     const bool covers = aspectState == 1;
     const PixelSize target = covers ? coveringSize(uprightSize(source), box) : box;
     const auto scaled = scaledPhoto(source, target);
     if (!scaled)
-        return m_storeResult;
+        return WordOfPictureBefore{};
     const auto result = covers ? scaled->croppedTo(centredCut(target, box)) : scaled;
-    m_storeResult = saveResized(result, photo, tail);
-    return m_storeResult;
+    return outputPicture(result, photo, tail);
 }
 
 std::optional<Image> DVImageHandling::hScalePictureBase(const Image& image, float factor)

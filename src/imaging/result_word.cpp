@@ -12,6 +12,12 @@ QString text(ResultWord word)
         return QStringLiteral("Failed");
     case ResultWord::NotSupported:
         return QStringLiteral("Not Supported");
+    case ResultWord::IoFailure:
+        return QStringLiteral("IOFailure");
+    case ResultWord::Exists:
+        return QStringLiteral("EXISTS");
+    case ResultWord::None:
+        return {};
     }
     return {};
 }

@@ -14,15 +14,15 @@ platform::ImageFileRequest fileRequest(const WriterRule& rule, const PictureToSa
 {
     platform::ImageFileRequest request;
     request.format = rule.format;
-    if (rule.properties == WriterRule::Properties::Carried)
-        request.metadata = picture.properties;
+    if (rule.properties == WriterRule::Properties::Carried && picture.properties)
+        request.metadata = &*picture.properties;
     // The quality travels in a copy of the properties: without them there is nothing to put it in.
     if (rule.quality == WriterRule::Quality::FromLevel && picture.properties)
         request.lossyQuality = writerQuality(picture.compressionLevel);
     return request;
 }
 
-ResultWord save(Writer writer, const PictureToSave& picture)
+ResultWord write(Writer writer, const PictureToSave& picture)
 {
     if (isNotSupported(picture.typeIdentifier))
         return ResultWord::NotSupported;
@@ -46,17 +46,30 @@ ResultWord save(Writer writer, const PictureToSave& picture)
 
 ResultWord DVImageHandling::hSaveToNewImageFileX(const PictureToSave& picture)
 {
-    return save(Writer::Batch, picture);
+    return write(Writer::Batch, picture);
 }
 
 ResultWord DVImageHandling::hSaveToNewImageFileMPR(const PictureToSave& picture)
 {
-    return save(Writer::Watermark, picture);
+    return write(Writer::Watermark, picture);
 }
 
 ResultWord DVImageHandling::hSaveToNewImageFile(const PictureToSave& picture)
 {
-    return save(Writer::WholePath, picture);
+    return write(Writer::WholePath, picture);
+}
+
+ResultWord DVImageHandling::finish(const Outcome& outcome)
+{
+    if (const auto* word = std::get_if<ResultWord>(&outcome))
+        return *word;
+    const auto* picture = std::get_if<PictureToSave>(&outcome);
+    if (!picture)
+        return m_storeResult;
+    const ResultWord word = save(*picture);
+    if (picture->writer == hSaveToNewImageFileX)
+        m_storeResult = word;
+    return word;
 }
 
 } // namespace brenvaldo::imaging

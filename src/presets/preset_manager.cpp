@@ -2,37 +2,17 @@
 #include "preset_manager.h"
 
 #include "action_chain.h"
-#include "image_records.h"
-#include "watermark_records.h"
 
 #include <platform/foundation/log.h>
 
 namespace brenvaldo::presets {
 
-namespace {
-
-QHash<QString, PresetRecord> recordsOf(panels::Panels& panels)
-{
-    return {
-        {u"textWM"_qs, textWatermarkRecord(panels)},
-        {u"imageWM"_qs, imageWatermarkRecord(panels)},
-        {u"addTint"_qs, tintRecord(panels)},
-        {u"framing"_qs, framingRecord(panels)},
-        {u"roundings"_qs, roundingsRecord(panels)},
-        {u"profileConversion"_qs, profileRecord(panels)},
-        {u"rotatePhotos"_qs, rotationRecord(panels)},
-        {u"resizePhotos"_qs, resizeRecord(panels)},
-        {u"cropPhotos"_qs, cropRecord(panels)},
-        {u"filters"_qs, filterRecord(panels)},
-    };
-}
-
-} // namespace
-
-cPresetManager::cPresetManager(panels::Panels& panels, std::function<QString()> selectedFunction)
+cPresetManager::cPresetManager(
+    panels::Panels& panels, std::function<QString()> selectedFunction, SelectedRecord selectedRecord
+)
     : m_panels(panels)
     , m_selectedFunction(std::move(selectedFunction))
-    , m_records(recordsOf(panels))
+    , m_selectedRecord(std::move(selectedRecord))
 {
 }
 
@@ -50,16 +30,10 @@ void cPresetManager::registerActions(controls::ActionRegistry& actions)
     add(u"closePresetsSheetObjC"_qs, &cPresetManager::closePresetsSheetObjC);
 }
 
-const PresetRecord* cPresetManager::recordOfSelectedFunction() const
-{
-    const auto found = m_records.constFind(m_selectedFunction());
-    return found == m_records.constEnd() ? nullptr : &*found;
-}
-
 void cPresetManager::hAddPreset()
 {
     platform::log(u"myFunc: "_qs + m_selectedFunction());
-    const PresetRecord* record = recordOfSelectedFunction();
+    const PresetRecord* record = m_selectedRecord();
     if (!record)
         return;
     try {
@@ -73,7 +47,7 @@ void cPresetManager::hAddPreset()
 
 void cPresetManager::hLoadPreset()
 {
-    const PresetRecord* record = recordOfSelectedFunction();
+    const PresetRecord* record = m_selectedRecord();
     if (!record)
         return;
     m_panels.wwPresetsWindow.sheet.open();
@@ -99,7 +73,7 @@ void cPresetManager::hApplySelectedPreset()
     const int row = sheet.myPresetsTableView.selectedRow();
     if (row < 0)
         return;
-    const PresetRecord* record = recordOfSelectedFunction();
+    const PresetRecord* record = m_selectedRecord();
     if (!record)
         return;
     const QString name = sheet.thePresetsData.value(row, u"nmPreset"_qs);
@@ -136,6 +110,8 @@ void cPresetManager::loadValuesFromDB(const PresetRecord& record, const PresetVa
     if (record.before != Before::Nothing)
         m_panels.vwWatermark.cbWMSimulationMode.setState(0);
     restore(record, values);
+    if (record.afterLoad)
+        record.afterLoad();
 }
 
 void cPresetManager::listPresetsOf(const QString& process)

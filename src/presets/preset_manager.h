@@ -16,8 +16,15 @@ namespace brenvaldo::presets {
 class cPresetManager
 {
 public:
+    /// Answers the record of the function that the user has chosen; null when it has none.
+    using SelectedRecord = std::function<const PresetRecord*()>;
+
     /// `selectedFunction` answers the id of the function that the user has chosen.
-    cPresetManager(panels::Panels& panels, std::function<QString()> selectedFunction);
+    cPresetManager(
+        panels::Panels& panels,
+        std::function<QString()> selectedFunction,
+        SelectedRecord selectedRecord
+    );
 
     void registerActions(controls::ActionRegistry& actions);
 
@@ -51,12 +58,11 @@ public:
     void hLoadTWMActions(const QString& chain);
 
 private:
-    [[nodiscard]] const PresetRecord* recordOfSelectedFunction() const;
     void listPresetsOf(const QString& process);
 
     panels::Panels& m_panels;
     std::function<QString()> m_selectedFunction;
-    QHash<QString, PresetRecord> m_records; ///< by function id
+    SelectedRecord m_selectedRecord;
     unsigned m_myLogCounter = 0;
 };
 

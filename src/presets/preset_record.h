@@ -47,6 +47,7 @@ struct PresetRecord
     QString action;
     Before before;
     std::vector<RecordField> fields;
+    std::function<void()> afterLoad = {}; ///< what a load ends with
 };
 
 /// The row that keeps the present settings under `name`; positions without a setting are "".

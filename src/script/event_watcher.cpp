@@ -15,7 +15,7 @@ EventWatcher::EventWatcher(workspace::Workspace& workspace, const EventPrinter& 
     m_subscriptions.push_back(
         workspace.journal().recorded.connect([this](const workspace::RunRecord& record) {
             if (!record.source.isEmpty())
-                m_printer.print(QStringLiteral("result"), {record.source, record.word});
+                m_printer.print(QStringLiteral("result"), {record.source, text(record.word)});
         })
     );
     m_subscriptions.push_back(workspace.actions().exceptionRaised.connect(

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "function_title.h"
 
-#include <workspace/function_id.h>
+#include <workspace/functions/functions.h>
 
 #include <QCoreApplication>
 
@@ -12,46 +12,38 @@ namespace brenvaldo::views {
 
 namespace {
 
-namespace id = workspace::functionId;
-
-struct Title
+/// A change of a photo's own file, by the action that made it.
+struct Edit
 {
-    QLatin1String function;
-    const char* text;
+    QLatin1String action;
+    const char* title;
 };
 
-constexpr std::array titles{
-    Title{id::textWM, QT_TRANSLATE_NOOP("FunctionTitle", "Text watermark")},
-    Title{id::imageWM, QT_TRANSLATE_NOOP("FunctionTitle", "Image watermark")},
-    Title{id::addTint, QT_TRANSLATE_NOOP("FunctionTitle", "Tint")},
-    Title{id::framing, QT_TRANSLATE_NOOP("FunctionTitle", "Frame")},
-    Title{id::roundings, QT_TRANSLATE_NOOP("FunctionTitle", "Rounded corners")},
-    Title{id::profileConversion, QT_TRANSLATE_NOOP("FunctionTitle", "Colour profile")},
-    Title{id::faces, QT_TRANSLATE_NOOP("FunctionTitle", "Cut out faces")},
-    Title{id::rotatePhotos, QT_TRANSLATE_NOOP("FunctionTitle", "Rotate")},
-    Title{id::filters, QT_TRANSLATE_NOOP("FunctionTitle", "Filters")},
-    Title{id::resizePhotos, QT_TRANSLATE_NOOP("FunctionTitle", "Resize")},
-    Title{id::cropPhotos, QT_TRANSLATE_NOOP("FunctionTitle", "Crop")},
-    Title{id::batchUploadPhotos, QT_TRANSLATE_NOOP("FunctionTitle", "Upload")},
-    Title{id::batchExifUC, QT_TRANSLATE_NOOP("FunctionTitle", "EXIF and IPTC")},
-    Title{id::fileRenaming, QT_TRANSLATE_NOOP("FunctionTitle", "Rename files")},
-    Title{QLatin1String("hRotateRight"), QT_TRANSLATE_NOOP("FunctionTitle", "Rotate right")},
-    Title{QLatin1String("hRotateLeft"), QT_TRANSLATE_NOOP("FunctionTitle", "Rotate left")},
-    Title{QLatin1String("hFlipHorizontal"), QT_TRANSLATE_NOOP("FunctionTitle", "Flip")},
-    Title{QLatin1String("hFlipVertical"), QT_TRANSLATE_NOOP("FunctionTitle", "Flip")},
-    Title{id::batchFileConvert, QT_TRANSLATE_NOOP("FunctionTitle", "Convert file type")},
+constexpr std::array edits{
+    Edit{QLatin1String("hRotateRight"), QT_TRANSLATE_NOOP("FunctionTitle", "Rotate right")},
+    Edit{QLatin1String("hRotateLeft"), QT_TRANSLATE_NOOP("FunctionTitle", "Rotate left")},
+    Edit{QLatin1String("hFlipHorizontal"), QT_TRANSLATE_NOOP("FunctionTitle", "Flip")},
+    Edit{QLatin1String("hFlipVertical"), QT_TRANSLATE_NOOP("FunctionTitle", "Flip")},
 };
+
+/// The plain title of a function or an action; null for what has none.
+const char* titleOf(const QString& name)
+{
+    static const workspace::Functions functions(workspace::functions());
+    if (const workspace::Function* row = functions.withId(name))
+        return row->title;
+    const auto edit = std::find_if(edits.begin(), edits.end(), [&](const Edit& candidate) {
+        return name == candidate.action;
+    });
+    return edit == edits.end() ? nullptr : edit->title;
+}
 
 } // namespace
 
 QString functionTitle(const QString& function)
 {
-    const auto found = std::find_if(titles.begin(), titles.end(), [&](const Title& title) {
-        return function == title.function;
-    });
-    if (found == titles.end())
-        return function;
-    return QCoreApplication::translate("FunctionTitle", found->text);
+    const char* title = titleOf(function);
+    return title ? QCoreApplication::translate("FunctionTitle", title) : function;
 }
 
 } // namespace brenvaldo::views

@@ -214,9 +214,8 @@ void Inspector::followRun()
     keepFor(*this, m_workspace.photos().entriesChanged.connect(follow));
     keepFor(*this, m_panels.vwApplyOn.pubPhotoOrientation.changed.connect(follow));
     keepFor(*this, m_panels.vwWatermark.tbvWatermarkType.changed.connect(follow));
-    keepFor(*this, m_panels.vwFileManagementSorting.mySortTabView.changed.connect(follow));
     keepFor(*this, window.dvVCUiMainPropertyView.changed.connect(follow));
-    keepFor(*this, window.dvVCUiApplyOnPropertyView.changed.connect(follow));
+    keepFor(*this, m_workspace.functionSelected().connect(follow));
     showRun();
 }
 
@@ -224,7 +223,7 @@ void Inspector::showRun()
 {
     using workspace::RunOffer;
     const RunOffer offer = m_workspace.runOffer();
-    const int photos = offer == RunOffer::Run ? photosOfRun(m_panels, m_workspace.photos()) : 0;
+    const qsizetype photos = offer == RunOffer::Run ? m_workspace.photosOfRun().size() : 0;
     const bool isOffered = offer == RunOffer::Run || offer == RunOffer::Message;
     m_process->setText(runTitle(photos));
     m_process->setAccessibleName(m_process->text());

@@ -94,7 +94,7 @@ void JournalWindow::add(const workspace::RunRecord& record)
          functionTitle(record.function),
          platform::lastPathComponent(record.source),
          record.target,
-         record.word}
+         text(record.word)}
     );
     row->setToolTip(0, record.time.toString(Qt::ISODate));
     row->setToolTip(2, record.source);

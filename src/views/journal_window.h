@@ -2,7 +2,7 @@
 #pragma once
 
 #include <controls/file_chooser.h>
-#include <workspace/run_journal.h>
+#include <workspace/run/run_journal.h>
 
 #include <QDialog>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview_hint.h"
 
-#include <workspace/function_id.h>
-#include <workspace/run_offer.h>
+#include <workspace/functions/function_id.h>
+#include <workspace/functions/shown_function.h>
 
 #include <QCoreApplication>
 

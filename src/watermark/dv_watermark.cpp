@@ -29,7 +29,7 @@ constexpr int stagesOfWriting = 1;
 constexpr int stagesPerPhoto = stagesOfNaming + stagesOfReadingSettings + stagesOfOpening
     + stagesOfDrawing + stagesOfWriting;
 
-QString ioFailure() { return QStringLiteral("IOFailure"); }
+QString ioFailure() { return imaging::text(imaging::ResultWord::IoFailure); }
 
 /// The type that is written for a photo.
 QString typeOf(const QString& outputType, const QString& path)
@@ -48,7 +48,7 @@ DVWatermark::DVWatermark(Surroundings surroundings)
 {
 }
 
-QString DVWatermark::setWatermarkText(const WatermarkRun& run, const PhotoDone& photoDone)
+QString DVWatermark::setWatermarkText(const WatermarkRun& run, imaging::PictureSink& sink)
 {
     if (run.photos.isEmpty())
         return ioFailure();
@@ -56,44 +56,48 @@ QString DVWatermark::setWatermarkText(const WatermarkRun& run, const PhotoDone& 
     m_step = static_cast<int>(controls::watermarkBar.maximum) / (photos * stagesPerPhoto);
     const controls::RunningProgress shown(m_surroundings.bar, controls::watermarkBar);
     for (const QString& path : run.photos) {
-        if (shown.isAskedToEnd() || markPhoto(run, path, photoDone) == Step::EndRun)
+        if (shown.isAskedToEnd())
             return ioFailure();
+        if (markPhoto(run, path, sink) == Step::EndRun) {
+            sink.take({.source = path, .target = {}, .outcome = imaging::ResultWord::IoFailure});
+            return ioFailure();
+        }
     }
-    return m_storeResult == imaging::ResultWord::Ok ? m_outputName : ioFailure();
+    return sink.lastWord() == imaging::ResultWord::Ok ? m_outputName : ioFailure();
 }
 
 DVWatermark::Step
-DVWatermark::markPhoto(const WatermarkRun& run, const QString& path, const PhotoDone& photoDone)
+DVWatermark::markPhoto(const WatermarkRun& run, const QString& path, imaging::PictureSink& sink)
 {
     m_outputName = m_surroundings.outputName(path);
     finishStages(stagesOfNaming);
     const TextWatermarkSettings settings = readSettings(m_surroundings.panel);
     if (settings.text.isEmpty()) {
         platform::log(QStringLiteral("no watermark text"));
-        return endRun(path, photoDone);
+        return Step::EndRun;
     }
     finishStages(stagesOfReadingSettings);
     const std::optional<platform::Image> photo = openedForRun(path, settings.effect);
     if (!photo)
-        return endRun(path, photoDone);
-    const auto properties = platform::readMetadataBlocks(path);
+        return Step::EndRun;
+    auto properties = platform::readMetadataBlocks(path);
     finishStages(stagesOfOpening);
     const imaging::PictureToSave picture{
         .destination = platform::deletingPathExtension(run.destination + m_outputName),
         .typeIdentifier = typeOf(run.outputType, path),
         .image = platform::stamped(*photo, markOf(*photo, settings, path)()),
-        .properties = properties ? &*properties : nullptr,
-        .compressionLevel = run.compressionLevel};
+        .properties = std::move(properties),
+        .compressionLevel = run.compressionLevel,
+        .writer = imaging::DVImageHandling::hSaveToNewImageFileMPR};
     finishStages(stagesOfDrawing);
-    m_storeResult = imaging::DVImageHandling::hSaveToNewImageFileMPR(picture);
-    finishStages(stagesOfWriting);
-    photoDone(
+    sink.take(
         {.source = path,
          .target = imaging::writtenPath(
              imaging::Writer::Watermark, picture.destination, picture.typeIdentifier
          ),
-         .word = imaging::text(m_storeResult)}
+         .outcome = picture}
     );
+    finishStages(stagesOfWriting);
     return Step::GoOn;
 }
 
@@ -101,12 +105,6 @@ void DVWatermark::finishStages(int stages)
 {
     for (int stage = 0; stage < stages; ++stage)
         m_progress.hProgressPB(m_step);
-}
-
-DVWatermark::Step DVWatermark::endRun(const QString& path, const PhotoDone& photoDone)
-{
-    photoDone({.source = path, .target = {}, .word = ioFailure()});
-    return Step::EndRun;
 }
 
 std::optional<platform::Image>

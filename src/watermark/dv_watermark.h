@@ -4,7 +4,7 @@
 #include "text_watermark_settings.h"
 
 #include <controls/progress.h>
-#include <imaging/result_word.h>
+#include <imaging/picture_sink.h>
 #include <platform/graphics/image.h>
 #include <platform/graphics/stamp.h>
 
@@ -34,16 +34,6 @@ struct WatermarkRun
     int photoProperty = 0; ///< not used by the text watermark
 };
 
-/// How one photo of a run ended.
-struct MarkedPhoto
-{
-    QString source;
-    QString target; ///< path that was to be written; empty when the run ended before
-    QString word; ///< result word, or "IOFailure" for the photo that ended the run
-};
-
-using PhotoDone = std::function<void(const MarkedPhoto&)>;
-
 /// Draws the watermarks of the panel on photos, for runs and for the preview.
 class DVWatermark
 {
@@ -60,11 +50,12 @@ public:
 
     explicit DVWatermark(Surroundings surroundings);
 
-    /// Marks every photo of the run with the text and writes it into the destination.
+    /// Marks every photo of the run with the text, for the destination.
     ///
     /// Answers the last output name when the last photo was written, "IOFailure" otherwise. An
-    /// empty text and an unreadable photo end the run; what was written before stays.
-    QString setWatermarkText(const WatermarkRun& run, const PhotoDone& photoDone);
+    /// empty text and an unreadable photo end the run with that word for the photo; what was
+    /// written before stays.
+    QString setWatermarkText(const WatermarkRun& run, imaging::PictureSink& sink);
 
     /// The photo at `path` with its mark; nothing without a text or a readable photo. No file is
     /// written, and the mark is not drawn before the first pixel is asked for.
@@ -74,8 +65,7 @@ private:
     enum class Step { GoOn, EndRun };
     using MakeMark = std::function<platform::Stamp()>;
 
-    Step markPhoto(const WatermarkRun& run, const QString& path, const PhotoDone& photoDone);
-    Step endRun(const QString& path, const PhotoDone& photoDone);
+    Step markPhoto(const WatermarkRun& run, const QString& path, imaging::PictureSink& sink);
     void finishStages(int stages);
     [[nodiscard]] std::optional<platform::Image>
     openedForRun(const QString& path, TextEffect effect) const;
@@ -89,7 +79,6 @@ private:
     std::shared_ptr<KeptProperties> m_properties; ///< shared with marks that are still to be drawn
     double m_step = 0;
     QString m_outputName;
-    imaging::ResultWord m_storeResult = imaging::ResultWord::Failed;
 };
 
 } // namespace brenvaldo::watermark

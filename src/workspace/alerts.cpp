@@ -13,6 +13,4 @@ void cGUIcontrols::hAlertWindow(const QString& title, const QString& text)
 
 void cGUIcontrols::closeApplicationAlertSheetObjC() { m_window.wwAlertWindow.close(); }
 
-void cGUIcontrols::show(const Message& message) { hAlertWindow(message.title, message.text); }
-
 } // namespace brenvaldo::workspace

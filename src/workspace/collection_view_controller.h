@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "neighbours.h"
 #include "photo_list.h"
 #include "photo_preview.h"
 #include "run_journal.h"
@@ -10,6 +11,7 @@
 #include <controls/file_chooser.h>
 #include <controls/progress.h>
 #include <panels/panels.h>
+#include <workspace/functions/functions.h>
 
 namespace brenvaldo::workspace {
 
@@ -24,7 +26,9 @@ public:
         RunJournal& journal;
         controls::FileChooser& chooser;
         PreviewPhotos& previewPhotos;
-        const SubsystemLinks& subsystems;
+        const Functions& functions;
+        const Subsystems& subsystems;
+        const Neighbours& neighbours;
         std::function<void(const QString& title, const QString& text)> hAlertWindow;
     };
 
@@ -116,8 +120,7 @@ private:
     void showNoPhoto();
     [[nodiscard]] bool selectsNonPhoto() const;
     [[nodiscard]] bool isPreviewOn() const;
-    [[nodiscard]] bool showsTextTab() const;
-    void showTwin(const QString& path);
+    void showEffect(const QString& path);
     void layWatermarkOver();
     void swapTexts(controls::TextField& first, controls::TextField& second);
     [[nodiscard]] std::optional<platform::Image> imageNamed(const QString& name) const;
@@ -128,7 +131,9 @@ private:
     RunJournal& m_journal;
     controls::FileChooser& m_chooser;
     PreviewPhotos& m_previewPhotos;
-    const SubsystemLinks& m_subsystems;
+    const Functions& m_functions;
+    const Subsystems& m_subsystems;
+    const Neighbours& m_neighbours;
     std::function<void(const QString&, const QString&)> m_hAlertWindow;
     platform::Subscription m_selection;
 };

@@ -23,17 +23,17 @@ void cCollectionViewController::hRotateLeft() { rotateSelected(u"hRotateLeft"_qs
 
 void cCollectionViewController::hFlipHorizontal()
 {
-    editSelected(u"hFlipHorizontal"_qs, m_subsystems.quickEdits.hFlipHorizontalPicture);
+    editSelected(u"hFlipHorizontal"_qs, m_neighbours.quickEdits.hFlipHorizontalPicture);
 }
 
 void cCollectionViewController::hFlipVertical()
 {
-    editSelected(u"hFlipVertical"_qs, m_subsystems.quickEdits.hFlipVerticalPicture);
+    editSelected(u"hFlipVertical"_qs, m_neighbours.quickEdits.hFlipVerticalPicture);
 }
 
 void cCollectionViewController::rotateSelected(const QString& action, float angle)
 {
-    const auto& rotate = m_subsystems.quickEdits.hRotatePicture;
+    const auto& rotate = m_neighbours.quickEdits.hRotatePicture;
     if (!rotate)
         return;
     editSelected(action, [&](const QString& path, const QString& folder) {
@@ -47,7 +47,7 @@ void cCollectionViewController::editSelected(const QString& action, const QuickE
     if (!edit || !index || selectsNonPhoto())
         return;
     const QString path = m_photos.selectedEntry()->myPhotoDescription;
-    const QString word = edit(path, folderOf(path));
+    const imaging::ResultWord word = edit(path, folderOf(path));
     m_journal.add(
         {.time = QDateTime::currentDateTime(),
          .function = action,

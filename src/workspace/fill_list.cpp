@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "collection_view_controller.h"
-#include "driver_messages.h"
-#include "function_id.h"
 #include "list_entry.h"
 #include "preview_switch.h"
 #include "selected_function.h"
+
+#include <workspace/functions/function_id.h>
+#include <workspace/run/driver_messages.h>
 
 namespace brenvaldo::workspace {
 

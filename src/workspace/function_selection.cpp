@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "function_id.h"
 #include "gui_controls.h"
 #include "selected_function.h"
+
+#include <workspace/functions/function_id.h>
 
 namespace brenvaldo::workspace {
 
@@ -21,7 +22,7 @@ void change(controls::Holder& holder, HolderChange change, const panels::PanelVi
     }
 }
 
-void store(const QString& function) { cSelectedFunction::sharedModel().myString = function; }
+void store(const QString& function) { cSelectedFunction::sharedModel().select(function); }
 
 } // namespace
 
@@ -30,7 +31,7 @@ void cGUIcontrols::hSetInitialView()
     store(functionId::textWM);
     pressSection(m_window.btnEditPhoto);
     m_window.dvVCUiMainPropertySelect.replaceViews(m_window.pubEditPhoto.name());
-    applyHolders(editFunctionAt(0)->holders);
+    applyHolders(m_functions.at(Section::EditPhoto, 0)->holders);
     applyPresetButtons(PresetButtons::Show);
 }
 
@@ -53,15 +54,10 @@ void cGUIcontrols::hExportHTMLClicked()
 {
     pressSection(m_window.btnExportHtml);
     m_window.dvVCUiMainPropertySelect.removeAllViews();
-    applyHolders(
-        {QLatin1String("vwHtmlExport"),
-         HolderChange::Empty,
-         HolderChange::Fill,
-         HolderChange::Empty,
-         HolderChange::Fill}
-    );
-    store(functionId::htmlExport);
-    applyPresetButtons(PresetButtons::Show);
+    const Function* gallery = m_functions.at(Section::Gallery, 0);
+    applyHolders(gallery->holders);
+    store(gallery->id);
+    applyPresetButtons(gallery->presetButtons);
     hChooseHTMLExportTemplate();
 }
 
@@ -89,8 +85,8 @@ void cGUIcontrols::hChooseMainFileManagementFunction() { hGetMainFileManagementF
 void cGUIcontrols::hChooseHTMLExportTemplate()
 {
     m_collectionView.callForTemplatePreview();
-    if (m_subsystems.hLoadTemplatePreset)
-        m_subsystems.hLoadTemplatePreset(
+    if (m_neighbours.hLoadTemplatePreset)
+        m_neighbours.hLoadTemplatePreset(
             m_panels.vwHtmlExport.pubPhotoGalleryModel.indexOfSelectedItem()
         );
 }
@@ -98,60 +94,41 @@ void cGUIcontrols::hChooseHTMLExportTemplate()
 void cGUIcontrols::hGetMainEditFunction()
 {
     m_panels.vwShowPreview.cbShowPreview.setState(0);
-    if (const FunctionRow* row = editFunctionAt(m_window.pubEditPhoto.indexOfSelectedItem())) {
-        if (row->id == functionId::textWM)
-            m_collectionView.tabViewdidSelectTabViewItem();
-        else
-            store(row->id);
+    const int index = m_window.pubEditPhoto.indexOfSelectedItem();
+    if (const Function* function = m_functions.chosenAt(Section::EditPhoto, index, m_panels)) {
+        store(function->id);
         m_collectionView.callForPreview();
-        applyHolders(row->holders);
-        if (row->id == functionId::profileConversion && m_subsystems.hGetColorProfiles)
-            m_subsystems.hGetColorProfiles();
-        if (row->id == functionId::resizePhotos)
-            m_panels.vwResizePhotos.dvVCUiResizeMainView.replaceViews(
-                m_panels.vwResizePhotos.dvVCUiScaleMaxView.name()
-            );
-        if (row->id == functionId::cropPhotos)
-            m_panels.vwCropPhotos.dvVCUiCropTypeView.replaceViews(
-                m_panels.vwCropPhotos.dvVCUiCropWxHView.name()
-            );
+        applyHolders(function->holders);
+        if (function->whenShown)
+            function->whenShown(m_subsystems);
     }
     applyPresetButtons(PresetButtons::Show);
 }
 
 void cGUIcontrols::hGetMainFileManagementFunction()
 {
-    const FunctionRow* row
-        = fileManagementFunctionAt(m_window.pubFileManagementSelect.indexOfSelectedItem());
-    if (!row)
+    const int index = m_window.pubFileManagementSelect.indexOfSelectedItem();
+    const Function* function = m_functions.chosenAt(Section::FileManagement, index, m_panels);
+    if (!function)
         return;
     m_panels.vwShowPreview.cbShowPreview.setState(0);
-    const bool isBatchSort = row->id == functionId::manSort && isBatchSortTab();
-    store(isBatchSort ? functionId::batchSort : row->id);
+    store(function->id);
     m_collectionView.callForPreview();
-    applyHolders(row->holders);
-    if (isBatchSort)
-        m_window.dvVCUiMainDestinationPropertyView.addView(m_panels.vwMainDestination.name());
-    applyPresetButtons(row->presetButtons);
+    applyHolders(function->holders);
+    applyPresetButtons(function->presetButtons);
 }
 
 void cGUIcontrols::tabViewdidSelectTabViewItem()
 {
-    const QString& identifier = m_panels.vwFileManagementSorting.mySortTabView.selectedIdentifier();
-    m_window.dvVCUiMainDestinationPropertyView.removeAllViews();
-    if (isBatchSortTab())
-        m_window.dvVCUiMainDestinationPropertyView.addView(m_panels.vwMainDestination.name());
-    if (identifier == u"1")
-        store(functionId::manSort);
-    else if (identifier == u"2")
-        store(functionId::batchSort);
-    else
-        store(functionId::batchUploadPhotos);
-}
-
-bool cGUIcontrols::isBatchSortTab() const
-{
-    return m_panels.vwFileManagementSorting.mySortTabView.selectedLabel() == u"Batch mode";
+    const Function* function = m_functions.shownAt(Section::FileManagement, 0, m_panels);
+    if (!function)
+        return;
+    change(
+        m_window.dvVCUiMainDestinationPropertyView,
+        function->holders.destination,
+        m_panels.vwMainDestination
+    );
+    store(function->id);
 }
 
 void cGUIcontrols::applyHolders(const HolderPlan& plan)

@@ -36,13 +36,26 @@ cGUIcontrols::cGUIcontrols(const Links& links)
     : m_panels(links.panels)
     , m_window(links.panels.window)
     , m_photos(links.photos)
-    , m_journal(links.journal)
     , m_chooser(links.chooser)
     , m_desktop(links.desktop)
     , m_notifications(links.notifications)
+    , m_functions(links.functions)
     , m_subsystems(links.subsystems)
+    , m_neighbours(links.neighbours)
     , m_collectionView(links.collectionView)
     , m_alertShown(links.alertShown)
+    , m_driver(
+          {.subsystems = links.subsystems,
+           .functions = links.functions,
+           .neighbours = links.neighbours,
+           .photos = links.photos,
+           .journal = links.journal,
+           .alert = [this](const Message& message) { hAlertWindow(message.title, message.text); },
+           .hUpdateCollectionViewItem =
+               [this](const QString& newName, int index) {
+                   m_collectionView.hUpdateCollectionViewItem(newName, index);
+               }}
+      )
 {
 }
 
@@ -83,8 +96,10 @@ void cGUIcontrols::registerDriverActions(controls::ActionRegistry& actions)
     const auto add = [&](const QString& name, void (cGUIcontrols::*action)()) {
         actions.add(className, name, [this, action](const auto&) { (this->*action)(); });
     };
-    add(u"hLoadImages"_qs, &cGUIcontrols::hLoadImages);
-    add(u"hCalledCActionFunc"_qs, &cGUIcontrols::hCalledCActionFunc);
+    actions.add(className, u"hLoadImages"_qs, [this](const auto&) { m_driver.hLoadImages(); });
+    actions.add(className, u"hCalledCActionFunc"_qs, [this](const auto&) {
+        m_driver.hCalledCActionFunc();
+    });
     add(u"hChooseScalingDestinationFolder"_qs, &cGUIcontrols::hChooseScalingDestinationFolder);
     add(u"hShowDestinationFolderInFinder"_qs, &cGUIcontrols::hShowDestinationFolderInFinder);
     add(u"closeApplicationAlertSheetObjC"_qs, &cGUIcontrols::closeApplicationAlertSheetObjC);

@@ -2,13 +2,10 @@
 #pragma once
 
 #include "collection_view_controller.h"
-#include "driver_messages.h"
-#include "function_table.h"
-#include "run_journal.h"
 
-#include <controls/progress.h>
 #include <platform/foundation/notification_center.h>
 #include <platform/storage/desktop.h>
+#include <workspace/run/batch_driver.h>
 
 namespace brenvaldo::workspace {
 
@@ -25,7 +22,9 @@ public:
         controls::FileChooser& chooser;
         platform::Desktop& desktop;
         const platform::NotificationCenter& notifications;
-        const SubsystemLinks& subsystems;
+        const Functions& functions;
+        const Subsystems& subsystems;
+        const Neighbours& neighbours;
         cCollectionViewController& collectionView;
         platform::Signal<const QString&, const QString&>& alertShown;
     };
@@ -53,19 +52,12 @@ public:
 
     // Batch driver
 
-    /// The whole run of the process button; it is over when the call returns.
-    void hLoadImages();
-    /// Renames one entry of the list, or shows its new name when `previewState` is 1.
-    void hCalledRenameFilesFunc(const QString& path, int previewState, int index);
-    void hCalledCActionFunc();
+    /// The run of the process button.
+    [[nodiscard]] BatchDriver& driver() { return m_driver; }
     void hChooseScalingDestinationFolder();
     void hShowDestinationFolderInFinder();
-    /// Name of the file that a run writes for a photo: its own, or that of the chain of C-Actions.
-    [[nodiscard]] QString outputName(const QString& path) const;
     /// Paths of all entries in the order of the list.
     [[nodiscard]] QStringList hGetPhotosFromArrayController() const;
-    /// The photos that the last run of an image function or a gallery took.
-    [[nodiscard]] const QStringList& mySelectedImagesNSArray() const { return m_selectedImages; }
 
     // Alerts
 
@@ -90,60 +82,11 @@ public:
     void hPrintOrigPicture();
 
 private:
-    struct TakenPhoto
-    {
-        QString path;
-        int index = 0; ///< in the photo list
-    };
-    struct PhotoOutput
-    {
-        imaging::SourceAndBase photo;
-        imaging::OutputTail tail;
-    };
-    /// What all files of a run are written as, read once before its loop.
-    struct OutputChoice
-    {
-        QString type;
-        QString compressionLevel;
-    };
-    using RunPhoto = std::function<std::optional<QString>(const PhotoOutput&)>;
-
     // Function selection
     void applyHolders(const HolderPlan& plan);
     void applyPresetButtons(PresetButtons change);
     void pressSection(controls::Button& pressed);
     void showSection(controls::PopUpButton& functions);
-    [[nodiscard]] bool isBatchSortTab() const;
-
-    // Batch driver
-    void show(const Message& message);
-    void runUpload();
-    void runExif();
-    void runRenaming(int previewState, const QString& destination);
-    void runOnPhotos(const QString& function, const QString& destination);
-    void runConversion(const QString& destination);
-    void runEditFunction(const QStringList& photos, const QString& destination);
-    void runWatermark(const QStringList& photos, const QString& destination);
-    void runGallery(const QStringList& photos, const QString& destination);
-    void runEach(
-        const QLatin1String& function,
-        const QStringList& photos,
-        const QString& destination,
-        const RunPhoto& runPhoto
-    );
-    [[nodiscard]] RunPhoto photoRunAt(int editIndex);
-    [[nodiscard]] std::optional<QString> resized(const PhotoOutput& output);
-    [[nodiscard]] QString resizedToMaximum(const PhotoOutput& output);
-    [[nodiscard]] std::optional<QString> resizedToBox(const PhotoOutput& output);
-    [[nodiscard]] QString cropped(const PhotoOutput& output) const;
-    [[nodiscard]] TintSettings tintSettings() const;
-    [[nodiscard]] QStringList takenByFullRule() const;
-    [[nodiscard]] QStringList takenByTick() const;
-    [[nodiscard]] OutputChoice outputChoice() const;
-    [[nodiscard]] PhotoOutput
-    outputOf(const QString& path, const QString& destination, const OutputChoice& choice) const;
-    [[nodiscard]] controls::RunningProgress shownBar();
-    void record(const QLatin1String& function, const PhotoOutcome& outcome);
 
     // Controls of the panels
     void registerFunctionActions(controls::ActionRegistry& actions);
@@ -155,14 +98,15 @@ private:
     panels::Panels& m_panels;
     panels::WindowControls& m_window;
     PhotoList& m_photos;
-    RunJournal& m_journal;
     controls::FileChooser& m_chooser;
     platform::Desktop& m_desktop;
     const platform::NotificationCenter& m_notifications;
-    const SubsystemLinks& m_subsystems;
+    const Functions& m_functions;
+    const Subsystems& m_subsystems;
+    const Neighbours& m_neighbours;
     cCollectionViewController& m_collectionView;
     platform::Signal<const QString&, const QString&>& m_alertShown;
-    QStringList m_selectedImages;
+    BatchDriver m_driver;
 };
 
 } // namespace brenvaldo::workspace

@@ -1,47 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "collection_view_controller.h"
-#include "function_id.h"
 #include "selected_function.h"
 
 #include <platform/foundation/log.h>
-
-#include <array>
+#include <workspace/functions/function_id.h>
 
 namespace brenvaldo::workspace {
-
-namespace {
-
-/// What a function's effect does to the plain photo below it.
-enum class Photo { Stays, Goes };
-
-struct TwinRow
-{
-    QLatin1String id;
-    PreviewTwin PreviewTwins::*twin;
-    Photo photo;
-};
-
-constexpr std::array twinRows{
-    TwinRow{functionId::textWM, &PreviewTwins::setWatermarkTextPreview, Photo::Stays},
-    TwinRow{functionId::imageWM, &PreviewTwins::setWatermarkImagePreview, Photo::Stays},
-    TwinRow{functionId::addTint, &PreviewTwins::addTintToImage2Preview, Photo::Stays},
-    TwinRow{functionId::framing, &PreviewTwins::hAddFramePreview, Photo::Goes},
-    TwinRow{functionId::roundings, &PreviewTwins::hAddRoundingsPreview, Photo::Goes},
-    TwinRow{functionId::profileConversion, &PreviewTwins::convertColorSpaceToPreview, Photo::Stays},
-    TwinRow{functionId::rotatePhotos, &PreviewTwins::hRotatePicturesPreview, Photo::Goes},
-    TwinRow{functionId::filters, &PreviewTwins::hAddFilterPreview, Photo::Goes},
-    TwinRow{functionId::cropPhotos, &PreviewTwins::hCropPhotosPreview, Photo::Stays},
-};
-
-const TwinRow* twinRowOf(const std::optional<QString>& function)
-{
-    const auto* found = std::find_if(twinRows.begin(), twinRows.end(), [&](const TwinRow& row) {
-        return function == row.id;
-    });
-    return found == twinRows.end() ? nullptr : found;
-}
-
-} // namespace
 
 void cCollectionViewController::callForPreview()
 {
@@ -59,20 +23,18 @@ void cCollectionViewController::callForPreview()
         return;
     }
     if (isPreviewOn())
-        showTwin(*path);
+        showEffect(*path);
 }
 
-void cCollectionViewController::showTwin(const QString& path)
+void cCollectionViewController::showEffect(const QString& path)
 {
-    const TwinRow* row = twinRowOf(cSelectedFunction::sharedModel().myString);
-    if (!row)
+    const Function* function
+        = m_functions.withId(cSelectedFunction::sharedModel().myString.value_or(QString()));
+    if (!function || !function->preview)
         return;
-    const PreviewTwin& twin = m_subsystems.twins.*(row->twin);
-    if (!twin)
-        return;
-    if (row->photo == Photo::Goes)
+    if (function->photoBelow == PhotoBelow::Goes)
         m_window.myTemplatePreview.clear();
-    m_window.myTemplateOverlayPreview.setImage(twin(path));
+    m_window.myTemplateOverlayPreview.setImage(function->preview(m_subsystems, path));
 }
 
 void cCollectionViewController::callForDefaultImage()
@@ -109,8 +71,8 @@ void cCollectionViewController::selectionChanged()
         return;
     }
     callForPreview();
-    if (m_subsystems.hiDoNothing)
-        m_subsystems.hiDoNothing(*path);
+    if (m_neighbours.hiDoNothing)
+        m_neighbours.hiDoNothing(*path);
 }
 
 bool cCollectionViewController::selectsNonPhoto() const
@@ -153,7 +115,7 @@ void cCollectionViewController::callForTemplatePreview()
 
 std::optional<platform::Image> cCollectionViewController::imageNamed(const QString& name) const
 {
-    return m_subsystems.imageNamed ? m_subsystems.imageNamed(name) : std::nullopt;
+    return m_neighbours.imageNamed ? m_neighbours.imageNamed(name) : std::nullopt;
 }
 
 } // namespace brenvaldo::workspace

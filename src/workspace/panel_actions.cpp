@@ -143,8 +143,8 @@ void cGUIcontrols::switchSimulationOff() { m_panels.vwWatermark.cbWMSimulationMo
 void cGUIcontrols::hPrintOrigPicture()
 {
     const QString path = m_window.tfOriginalPictureStrRef.stringValue();
-    if (!path.isEmpty() && m_subsystems.printService)
-        m_subsystems.printService(path);
+    if (!path.isEmpty() && m_neighbours.printService)
+        m_neighbours.printService(path);
 }
 
 } // namespace brenvaldo::workspace

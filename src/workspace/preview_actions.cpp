@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "collection_view_controller.h"
-#include "function_id.h"
-#include "function_table.h"
 #include "selected_function.h"
+
+#include <workspace/functions/function_id.h>
 
 namespace brenvaldo::workspace {
 
@@ -58,31 +58,25 @@ void cCollectionViewController::layWatermarkOver()
 {
     m_window.myTemplateOverlayPreview.clear();
     const auto path = hGetActiveFileFilePath();
-    const PreviewTwin& twin = showsTextTab() ? m_subsystems.twins.setWatermarkTextPreview
-                                             : m_subsystems.twins.setWatermarkImagePreview;
-    if (isPreviewOn() && path && twin)
-        m_window.myTemplateOverlayPreview.setImage(twin(*path));
-}
-
-bool cCollectionViewController::showsTextTab() const
-{
-    return m_panels.vwWatermark.tbvWatermarkType.selectedLabel() == u"Text";
+    const Function* watermark = m_functions.shownAt(Section::EditPhoto, 0, m_panels);
+    if (isPreviewOn() && path && watermark->preview)
+        m_window.myTemplateOverlayPreview.setImage(watermark->preview(m_subsystems, *path));
 }
 
 void cCollectionViewController::tabViewdidSelectTabViewItem()
 {
     const bool isText = m_panels.vwWatermark.tbvWatermarkType.selectedIdentifier() == u"1";
-    cSelectedFunction::sharedModel().myString = isText ? functionId::textWM : functionId::imageWM;
+    cSelectedFunction::sharedModel().select(isText ? functionId::textWM : functionId::imageWM);
 }
 
 void cCollectionViewController::controlTextDidEndEditing(int tag)
 {
     if (m_photos.isEmpty() || selectsNonPhoto())
         return;
-    const auto function = functionOfFieldTag(tag);
+    const Function* function = m_functions.ofFieldTag(tag);
     if (!function)
         return;
-    cSelectedFunction::sharedModel().myString = *function;
+    cSelectedFunction::sharedModel().select(function->id);
     callForPreview();
 }
 

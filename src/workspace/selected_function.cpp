@@ -9,4 +9,10 @@ cSelectedFunction& cSelectedFunction::sharedModel()
     return model;
 }
 
+void cSelectedFunction::select(const QString& function)
+{
+    myString = function;
+    changed();
+}
+
 } // namespace brenvaldo::workspace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <platform/foundation/signal.h>
+
 #include <QString>
 
 #include <optional>
@@ -18,7 +20,12 @@ public:
 
     [[nodiscard]] static cSelectedFunction& sharedModel();
 
+    /// Stores the id and tells it.
+    void select(const QString& function);
+
     std::optional<QString> myString; ///< not set before the first selection
+
+    platform::Signal<> changed;
 
 private:
     cSelectedFunction() = default;

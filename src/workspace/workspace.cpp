@@ -5,29 +5,71 @@
 #include "gui_controls.h"
 #include "photo_preview.h"
 #include "selected_function.h"
-#include "subsystem_wiring.h"
 
 #include <imaging/color_well_handling.h>
+#include <imaging/dv_image_handling.h>
+#include <metadata/mmeta.h>
 #include <presets/preset_manager.h>
 #include <presets/sheet_control.h>
+#include <watermark/dv_watermark.h>
 #include <watermark/panel_actions.h>
+#include <workspace/functions/preset_records.h>
+#include <workspace/run/photos_of_run.h>
 
 namespace brenvaldo::workspace {
 
+namespace {
+
+/// A photo that can't be opened is not written.
+imaging::ResultWord wordOf(const std::optional<imaging::ResultWord>& result)
+{
+    return result.value_or(imaging::ResultWord::Failed);
+}
+
+QuickEdits quickEditsOf(imaging::DVImageHandling& imageHandling)
+{
+    return {
+        .hRotatePicture = [&](const QString& path, const QString& folder, float angle
+                          ) { return wordOf(imageHandling.hRotatePicture(path, folder, angle)); },
+        .hFlipHorizontalPicture
+        = [&](const QString& path, const QString& folder
+          ) { return wordOf(imageHandling.hFlipHorizontalPicture(path, folder)); },
+        .hFlipVerticalPicture
+        = [&](const QString& path, const QString& folder
+          ) { return wordOf(imageHandling.hFlipVerticalPicture(path, folder)); }};
+}
+
+Neighbours neighboursOf(imaging::DVImageHandling& imageHandling, metadata::mMeta& meta)
+{
+    Neighbours neighbours;
+    neighbours.quickEdits = quickEditsOf(imageHandling);
+    neighbours.hiDoNothing = [&](const QString& path) { meta.hiDoNothing(path); };
+    neighbours.forgetPhoto = [&meta] { meta.forgetPhoto(); };
+    return neighbours;
+}
+
+} // namespace
+
 struct Workspace::Parts
 {
-    Parts(const Surroundings& surroundings, platform::Signal<const QString&, const QString&>& alert)
-        : collectionView(
-            {.panels = panels,
-             .photos = photos,
-             .journal = journal,
-             .chooser = surroundings.chooser,
-             .previewPhotos = previewPhotos,
-             .subsystems = subsystems,
-             .hAlertWindow = [this](
-                                 const QString& title, const QString& text
-                             ) { guiControls.hAlertWindow(title, text); }}
-        )
+    Parts(
+        const Surroundings& surroundings,
+        const Functions& rows,
+        platform::Signal<const QString&, const QString&>& alert
+    )
+        : functions(rows)
+        , collectionView(
+              {.panels = panels,
+               .photos = photos,
+               .chooser = surroundings.chooser,
+               .previewPhotos = previewPhotos,
+               .functions = functions,
+               .subsystems = subsystems,
+               .neighbours = neighbours,
+               .hAlertWindow = [this](
+                                   const QString& title, const QString& text
+                               ) { guiControls.hAlertWindow(title, text); }}
+          )
         , guiControls(
               {.panels = panels,
                .photos = photos,
@@ -35,7 +77,9 @@ struct Workspace::Parts
                .chooser = surroundings.chooser,
                .desktop = surroundings.desktop,
                .notifications = notifications,
+               .functions = functions,
                .subsystems = subsystems,
+               .neighbours = neighbours,
                .collectionView = collectionView,
                .alertShown = alert}
           )
@@ -55,7 +99,9 @@ struct Workspace::Parts
               }
           )
         , presetManager(
-              panels, [] { return cSelectedFunction::sharedModel().myString.value_or(QString()); }
+              panels,
+              selectedFunction,
+              [this] { return presetRecords.recordOf(selectedFunction()); }
           )
         , colorWells(panels)
         , presetApplied(presetManager.presetApplied.connect([this] {
@@ -69,7 +115,10 @@ struct Workspace::Parts
 
     void registerActions();
     void recordLostPreset(const QString& name);
+    [[nodiscard]] static QString selectedFunction();
+    [[nodiscard]] const Function* functionOfRun() const;
 
+    Functions functions;
     panels::Panels panels;
     controls::ActionRegistry actions;
     PhotoList photos;
@@ -81,10 +130,12 @@ struct Workspace::Parts
     watermark::DVWatermark watermark{
         {.panel = panels.vwWatermark,
          .bar = panels.window.myProgressBar,
-         .outputName = [this](const QString& path) { return guiControls.outputName(path); },
+         .outputName
+         = [this](const QString& path) { return guiControls.driver().outputName(path); },
          .previewPhoto = [this](const QString& path) { return previewPhotos.photo(path); }}};
-    SubsystemLinks subsystems
-        = subsystemLinks({.imageHandling = imageHandling, .watermark = watermark, .meta = meta});
+    Subsystems subsystems{.panels = panels, .imageHandling = imageHandling, .watermark = watermark};
+    Neighbours neighbours = neighboursOf(imageHandling, meta);
+    PresetRecords presetRecords{functions, subsystems};
     cCollectionViewController collectionView;
     cGUIcontrols guiControls;
     AppDelegate delegate;
@@ -111,15 +162,30 @@ void Workspace::Parts::recordLostPreset(const QString& name)
 {
     journal.add(
         {.time = QDateTime::currentDateTime(),
-         .function = cSelectedFunction::sharedModel().myString.value_or(QString()),
+         .function = selectedFunction(),
          .source = {},
          .target = name,
-         .word = imaging::text(imaging::ResultWord::Failed)}
+         .word = imaging::ResultWord::Failed}
     );
 }
 
+QString Workspace::Parts::selectedFunction()
+{
+    return cSelectedFunction::sharedModel().myString.value_or(QString());
+}
+
+const Function* Workspace::Parts::functionOfRun() const
+{
+    return workspace::functionOfRun(functions, selectedFunction(), panels);
+}
+
 Workspace::Workspace(const Surroundings& surroundings)
-    : m_parts(std::make_unique<Parts>(surroundings, alertShown))
+    : Workspace(surroundings, Functions(functions()))
+{
+}
+
+Workspace::Workspace(const Surroundings& surroundings, const Functions& functions)
+    : m_parts(std::make_unique<Parts>(surroundings, functions, alertShown))
 {
     m_parts->registerActions();
 }
@@ -164,9 +230,20 @@ std::optional<platform::Image> Workspace::composedPreview() const
 
 RunOffer Workspace::runOffer() const
 {
-    return workspace::runOffer(
-        shownFunction(m_parts->panels), m_parts->subsystems.operations, m_parts->actions
-    );
+    return workspace::runOffer(m_parts->functionOfRun(), m_parts->actions);
+}
+
+QStringList Workspace::photosOfRun() const
+{
+    const Function* function = m_parts->functionOfRun();
+    if (!function)
+        return {};
+    return workspace::photosOfRun(function->run, m_parts->photos, m_parts->panels);
+}
+
+platform::Signal<>& Workspace::functionSelected()
+{
+    return cSelectedFunction::sharedModel().changed;
 }
 
 controls::ArrayController* Workspace::rowsOf(const QString& tableName)

@@ -2,8 +2,6 @@
 #pragma once
 
 #include "photo_list.h"
-#include "run_journal.h"
-#include "run_offer.h"
 
 #include <controls/action_registry.h>
 #include <controls/file_chooser.h>
@@ -11,12 +9,15 @@
 #include <platform/foundation/notification_center.h>
 #include <platform/foundation/user_defaults.h>
 #include <platform/storage/desktop.h>
+#include <workspace/run/run_journal.h>
+#include <workspace/run/run_offer.h>
 
 #include <memory>
 
 namespace brenvaldo::workspace {
 
 class AppDelegate;
+class Functions;
 class cCollectionViewController;
 
 /// What a program gives to the workspace: a window asks and shows, a script answers and prints.
@@ -33,6 +34,8 @@ class Workspace
 {
 public:
     explicit Workspace(const Surroundings& surroundings);
+    /// With functions of its own.
+    Workspace(const Surroundings& surroundings, const Functions& functions);
     Workspace(const Workspace&) = delete;
     Workspace& operator=(const Workspace&) = delete;
     Workspace(Workspace&&) = delete;
@@ -63,8 +66,14 @@ public:
     /// views are empty.
     [[nodiscard]] std::optional<platform::Image> composedPreview() const;
 
-    /// What the process button is good for with the panels as they are shown.
+    /// What a press of the process button is good for as the program stands.
     [[nodiscard]] RunOffer runOffer() const;
+
+    /// Paths of the photos that a press would take.
+    [[nodiscard]] QStringList photosOfRun() const;
+
+    /// Another function may be selected.
+    [[nodiscard]] platform::Signal<>& functionSelected();
 
     /// The rows behind a table of that name; null when there is no such table.
     [[nodiscard]] controls::ArrayController* rowsOf(const QString& tableName);

@@ -199,7 +199,7 @@ TEST(FileConversion, AgreesWithTheWritersOnLevelNineAlone)
             {.destination = folder.path(u"written"_qs),
              .typeIdentifier = u"public.jpeg"_qs,
              .image = openedPhoto(source).image(),
-             .properties = &*properties,
+             .properties = properties,
              .compressionLevel = level}
         );
         EXPECT_EQ(word, ResultWord::Ok);

@@ -53,6 +53,34 @@ OutputTail jpegTail()
     return tail;
 }
 
+/// Resizes as a run does: what the operation answers is saved at once.
+class SavingHandling
+{
+public:
+    ResultWord hScalePhotosPercentage(
+        const SourceAndBase& photo, int value, int maximumType, const OutputTail& tail
+    )
+    {
+        return m_handling.finish(
+            DVImageHandling::hScalePhotosPercentage(photo, value, maximumType, tail)
+        );
+    }
+
+    ResultWord hScalePhotosWidthAndHeight(
+        const SourceAndBase& photo, PixelSize box, int aspectState, const OutputTail& tail
+    )
+    {
+        return m_handling.finish(
+            DVImageHandling::hScalePhotosWidthAndHeight(photo, box, aspectState, tail)
+        );
+    }
+
+    [[nodiscard]] ResultWord storeResult() const { return m_handling.storeResult(); }
+
+private:
+    DVImageHandling m_handling;
+};
+
 /// A folder with one photo, `source`, and its target "out".
 class Resizing
 {
@@ -177,7 +205,7 @@ TEST_P(ResizeToMaximum, WritesThePhotoAtItsNewSize)
 {
     const MaximumCase& row = GetParam();
     const Resizing files(greyPhoto(row.photo));
-    DVImageHandling handling;
+    SavingHandling handling;
 
     const ResultWord word
         = handling.hScalePhotosPercentage(files.photo(), row.value, row.type, pngTail());
@@ -192,7 +220,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, ResizeToMaximum, testing::ValuesIn(maximumCases),
 TEST(ResizeToMaximum, MeasuresAndWritesTheUprightPhoto)
 {
     const Resizing files(PhotoBuilder().size(400, 300).corners().orientation(6));
-    DVImageHandling handling;
+    SavingHandling handling;
 
     const ResultWord word = handling.hScalePhotosPercentage(files.photo(), 40, Height, pngTail());
 
@@ -204,7 +232,7 @@ TEST(ResizeToMaximum, MeasuresAndWritesTheUprightPhoto)
 TEST(ResizeToMaximum, LeavesTheSourcesMetadataUncorrected)
 {
     const Resizing files(grey(400, 300).exif(exifBlock({.orientation = 6, .make = "Maker"})));
-    DVImageHandling handling;
+    SavingHandling handling;
 
     const ResultWord word
         = handling.hScalePhotosPercentage(files.photo(), 50, Percentage, jpegTail());
@@ -221,7 +249,7 @@ TEST(ResizeToMaximum, LeavesTheSourcesMetadataUncorrected)
 TEST(ResizeToMaximum, WritesNothingAndAnswersOkForAValueOfZero)
 {
     const Resizing files(grey(40, 30));
-    DVImageHandling handling;
+    SavingHandling handling;
 
     for (const MaximumTypeIndex type : {Width, Height, LongestSide, Percentage})
         EXPECT_EQ(
@@ -237,7 +265,7 @@ TEST(ResizeToMaximum, WritesNothingAndAnswersOkForAnUnreadablePhoto)
     const SourceAndBase photo{
         .source = folder.write(u"note.jpg"_qs, "this is no photo"),
         .destinationBase = folder.path(u"out"_qs)};
-    DVImageHandling handling;
+    SavingHandling handling;
 
     for (const MaximumTypeIndex type : {Width, Height, LongestSide, Percentage})
         EXPECT_EQ(handling.hScalePhotosPercentage(photo, 100, type, pngTail()), ResultWord::Ok);
@@ -248,7 +276,7 @@ TEST(ResizeToMaximum, WritesNothingAndAnswersOkForAnUnreadablePhoto)
 TEST(ResizeToMaximum, WritesNothingAndAnswersOkForASizeBeyondAllContexts)
 {
     const Resizing files(grey(40, 30));
-    DVImageHandling handling;
+    SavingHandling handling;
 
     EXPECT_EQ(
         handling.hScalePhotosPercentage(files.photo(), 1'000'000, Width, pngTail()), ResultWord::Ok
@@ -263,7 +291,7 @@ TEST(ResizeToMaximum, FailsForAPhotoThatIsDamagedInside)
     const SourceAndBase photo{
         .source = folder.write(u"half.jpg"_qs, whole.left(whole.size() / 2)),
         .destinationBase = folder.path(u"out"_qs)};
-    DVImageHandling handling;
+    SavingHandling handling;
 
     EXPECT_EQ(
         handling.hScalePhotosPercentage(photo, 100, LongestSide, pngTail()), ResultWord::Failed
@@ -275,7 +303,7 @@ TEST(ResizeToMaximum, AnswersTheWordOfTheWriter)
 {
     const Resizing files(grey(40, 30));
     OutputTail tail = pngTail();
-    DVImageHandling handling;
+    SavingHandling handling;
 
     tail.myFileType = u"com.adobe.pdf"_qs;
     EXPECT_EQ(
@@ -290,7 +318,7 @@ TEST(Resize, DoesNotSupportAPhotoshopOrPdfFileThatKeepsItsType)
 {
     const TemporaryFolder folder;
     OutputTail tail = pngTail();
-    DVImageHandling handling;
+    SavingHandling handling;
 
     for (const QString& type : {u"com.adobe.photoshop-image"_qs, u"com.adobe.pdf"_qs}) {
         tail.myFileType = type;
@@ -316,7 +344,7 @@ TEST(ResizeToMaximum, KeepsDepthColorsAndTransparency)
                              .depth(16)
                              .size(40, 30)
                              .solid({200, 100, 50, 128}));
-    DVImageHandling handling;
+    SavingHandling handling;
 
     const ResultWord word
         = handling.hScalePhotosPercentage(files.photo(), 50, Percentage, pngTail());
@@ -334,7 +362,7 @@ TEST_P(ResizeToBox, WritesExactlyTheBox)
 {
     const FixedCase& row = GetParam();
     const Resizing files(greyPhoto(row.photo));
-    DVImageHandling handling;
+    SavingHandling handling;
 
     const ResultWord word
         = handling.hScalePhotosWidthAndHeight(files.photo(), row.box, row.aspectState, pngTail());
@@ -354,7 +382,7 @@ TEST(ResizeToBox, CutsTheExcessOffEquallyOnBothSides)
                             : Samples{0, 255, 0};
     };
     const Resizing files(PhotoBuilder().format(PhotoFormat::Png).size(160, 80).pixels(stripes));
-    DVImageHandling handling;
+    SavingHandling handling;
 
     const ResultWord word
         = handling.hScalePhotosWidthAndHeight(files.photo(), {44, 40}, covering, pngTail());
@@ -370,7 +398,7 @@ TEST(ResizeToBox, CutsTheExcessOffEquallyOnBothSides)
 TEST(ResizeToBox, StretchesThePhotoWithoutTheAspectCheck)
 {
     const Resizing files(corners(300, 400));
-    DVImageHandling handling;
+    SavingHandling handling;
     constexpr int mixed = -1;
 
     for (const int state : {stretched, mixed}) {
@@ -402,7 +430,7 @@ TEST(ResizeToBox, AnswersTheWordOfThePhotoBeforeWhenNothingCanBeDrawn)
     const Resizing files(grey(40, 30));
     const SourceAndBase unreadable{
         .source = files.path(u"missing.jpg"_qs), .destinationBase = files.path(u"other"_qs)};
-    DVImageHandling handling;
+    SavingHandling handling;
     const auto resize = [&](const SourceAndBase& photo, PixelSize box, int aspectState) {
         return handling.hScalePhotosWidthAndHeight(photo, box, aspectState, pngTail());
     };

@@ -48,7 +48,7 @@ public:
             .destination = path(name),
             .typeIdentifier = type,
             .image = openedPhoto(m_source).image(),
-            .properties = &m_properties,
+            .properties = m_properties,
             .compressionLevel = u"9"_qs,
         };
     }
@@ -279,9 +279,9 @@ TEST(Writer, HasNoPlaceForTheLevelWithoutProperties)
     const Output output;
     PictureToSave low = output.picture(u"low"_qs, u"public.jpeg"_qs);
     low.compressionLevel = u"1"_qs;
-    low.properties = nullptr;
+    low.properties = std::nullopt;
     PictureToSave high = output.picture(u"high"_qs, u"public.jpeg"_qs);
-    high.properties = nullptr;
+    high.properties = std::nullopt;
 
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileX(low), ResultWord::Ok);
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileX(high), ResultWord::Ok);

@@ -4,9 +4,28 @@
 #include "preset_file.h"
 
 #include <controls/action_registry.h>
+#include <presets/image_records.h>
 #include <presets/preset_manager.h>
+#include <presets/watermark_records.h>
 
 namespace brenvaldo::test {
+
+/// The records of the functions that have one, by function id.
+inline QHash<QString, presets::PresetRecord> recordsOf(panels::Panels& panels)
+{
+    return {
+        {u"textWM"_qs, presets::textWatermarkRecord(panels)},
+        {u"imageWM"_qs, presets::imageWatermarkRecord(panels)},
+        {u"addTint"_qs, presets::tintRecord(panels)},
+        {u"framing"_qs, presets::framingRecord(panels)},
+        {u"roundings"_qs, presets::roundingsRecord(panels)},
+        {u"profileConversion"_qs, presets::profileRecord(panels)},
+        {u"rotatePhotos"_qs, presets::rotationRecord(panels)},
+        {u"resizePhotos"_qs, presets::resizeRecord(panels)},
+        {u"cropPhotos"_qs, presets::cropRecord(panels)},
+        {u"filters"_qs, presets::filterRecord(panels)},
+    };
+}
 
 /// The controls, a new presets file and the manager between them.
 struct PresetsBench
@@ -21,7 +40,14 @@ struct PresetsBench
     PresetFile file;
     panels::Panels panels;
     QString function = u"textWM"_qs;
-    presets::cPresetManager manager{panels, [this] { return function; }};
+    QHash<QString, presets::PresetRecord> records = recordsOf(panels);
+    presets::cPresetManager manager{
+        panels,
+        [this] { return function; },
+        [this]() -> const presets::PresetRecord* {
+            const auto found = records.constFind(function);
+            return found == records.constEnd() ? nullptr : &*found;
+        }};
     controls::ActionRegistry actions;
 
     /// Saves the present settings under `name`, as a press of the button does.

@@ -155,7 +155,7 @@ TEST(JournalWindow, ListsWhatRunsDidAndSavesItAsText)
         .function = u"textWM"_qs,
         .source = u"/photos/a.jpg"_qs,
         .target = u"/out/a.jpg"_qs,
-        .word = u"OK"_qs};
+        .word = imaging::ResultWord::Ok};
     journal.add(record);
     views::JournalWindow window(journal, chooser);
     window.show();

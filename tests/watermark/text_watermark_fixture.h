@@ -8,6 +8,7 @@
 #include <platform/foundation/paths.h>
 #include <platform/graphics/image_source.h>
 #include <support/photo_builder.h>
+#include <support/saving_sink.h>
 #include <support/temporary_folder.h>
 
 #include <gtest/gtest.h>
@@ -38,7 +39,7 @@ protected:
              .compressionLevel = QStringLiteral("9"),
              .fileNameText = {},
              .photoProperty = 0},
-            [this](const watermark::MarkedPhoto& photo) { done.append(photo); }
+            sink
         );
     }
 
@@ -52,7 +53,8 @@ protected:
     panels::WatermarkPanel panel;
     controls::ProgressIndicator bar{QStringLiteral("bar")};
     QString chainPrefix;
-    QList<watermark::MarkedPhoto> done;
+    SavingSink sink;
+    const QList<FinishedPhoto>& done = sink.done;
     std::function<std::optional<platform::Image>(const QString&)> previewPhoto
         = [](const QString& path) -> std::optional<platform::Image> {
         const auto source = platform::ImageSource::open(path);

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controller_fixture.h"
 
-#include <workspace/batch_rules.h>
+#include <workspace/functions/photo_upload.h>
+#include <workspace/functions/watermark_run.h>
+#include <workspace/run/batch_rules.h>
 
 #include <files/keep_number.h>
+#include <metadata/comment_settings.h>
 #include <platform/foundation/log.h>
 
 #include <support/case_name.h>
@@ -41,27 +44,24 @@ protected:
         select("resizePhotos");
         panels.window.pubEditPhoto.selectIndex(8);
         panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"100"_qs);
-        subsystems.operations.hScalePhotosPercentage
-            = [this](const auto& photo, int value, int type, const auto& tail) {
-                  bases.append(photo.destinationBase);
-                  tails.append(tail);
-                  values.append({value, type});
-                  bar.append(panels.window.myProgressBar.doubleValue());
-                  return u"OK"_qs;
-              };
+        runs("resizePhotos", [this](const workspace::PhotoOutput& output) {
+            bases.append(output.photo.destinationBase);
+            tails.append(output.tail);
+            bar.append(panels.window.myProgressBar.doubleValue());
+            return imaging::ResultWord::Ok;
+        });
     }
     [[nodiscard]] QStringList words() const
     {
         QStringList found;
         for (const auto& record : journal.records())
-            found.append(record.word);
+            found.append(text(record.word));
         return found;
     }
 
     QStringList log;
     QStringList bases;
     QList<imaging::OutputTail> tails;
-    QList<QList<int>> values;
     QList<double> bar;
 };
 
@@ -215,7 +215,8 @@ TEST_F(BatchDriver, TakesTickedPhotosOfTheOrientationInTheOrderOfTheList)
 
     EXPECT_EQ(bases, (QStringList{u"/out/b"_qs, u"/out/a"_qs}));
     EXPECT_EQ(
-        guiControls.mySelectedImagesNSArray(), (QStringList{u"/in/b.jpg"_qs, u"/in/a.jpg"_qs})
+        guiControls.driver().mySelectedImagesNSArray(),
+        (QStringList{u"/in/b.jpg"_qs, u"/in/a.jpg"_qs})
     );
 }
 
@@ -226,8 +227,7 @@ TEST_F(BatchDriver, SkipsTickedEntriesThatAreNoPhotos)
     photos.append(nonPhoto(u"/in/notes.txt"_qs));
     addPhotos({u"a.jpg"_qs});
     QStringList taken;
-    subsystems.operations.setWatermarkText
-        = [&](const watermark::WatermarkRun& run, const auto&) { taken = run.photos; };
+    worksOn("textWM", [&](const auto& list) { taken = list.paths; });
 
     run();
 
@@ -250,10 +250,10 @@ TEST_F(BatchDriver, KeepsThePreviewOffDuringARun)
     addPhotos({u"a.jpg"_qs});
     panels.vwShowPreview.cbShowPreview.setState(1);
     bool wasOn = true;
-    subsystems.operations.hScalePhotosPercentage = [&](const auto&, int, int, const auto&) {
+    runs("resizePhotos", [&](const auto&) {
         wasOn = panels.vwShowPreview.cbShowPreview.isOn();
-        return u"OK"_qs;
-    };
+        return imaging::ResultWord::Ok;
+    });
 
     run();
 
@@ -267,10 +267,9 @@ TEST_F(BatchDriver, PutsThePreviewBackAfterAFault)
     chooseDestination();
     addPhotos({u"a.jpg"_qs});
     panels.vwShowPreview.cbShowPreview.setState(1);
-    subsystems.operations.hScalePhotosPercentage
-        = [](const auto&, int, int, const auto&) -> QString {
+    runs("resizePhotos", [](const auto&) -> imaging::ResultWord {
         throw platform::RangeError(u"index 3 beyond bounds"_qs);
-    };
+    });
 
     run();
 
@@ -285,12 +284,12 @@ TEST_F(BatchDriver, WritesAllPhotosInTheTypeThatWasChosenBeforeTheLoop)
     addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
     panels.vwFileType.pubFileType.selectIndex(1);
     panels.vwFileType.pubJPEGCompressionLevel.selectIndex(3);
-    subsystems.operations.hScalePhotosPercentage = [this](const auto&, int, int, const auto& tail) {
-        tails.append(tail);
+    runs("resizePhotos", [this](const workspace::PhotoOutput& output) {
+        tails.append(output.tail);
         panels.vwFileType.pubFileType.selectIndex(2);
         panels.vwFileType.pubJPEGCompressionLevel.selectIndex(0);
-        return u"OK"_qs;
-    };
+        return imaging::ResultWord::Ok;
+    });
 
     run();
 
@@ -350,7 +349,7 @@ TEST_F(BatchDriver, NamesOutputsByTheChainOfActions)
     chooseDestination();
     addPhotos({u"a.jpg"_qs});
     panels.vwWatermark.cActionsTWMArrayController.addObject({u"Prefix"_qs});
-    subsystems.operations.hRenameTWMFile
+    neighbours.hRenameTWMFile
         = [](const QString&, const QString& name, const QList<QStringList>& chain) {
               return chain.first().first() + u'_' + name;
           };
@@ -372,12 +371,13 @@ TEST_F(BatchDriver, RecordsEachPhotoInTheJournal)
     EXPECT_EQ(journal.records().first().function, u"resizePhotos"_qs);
     EXPECT_EQ(journal.records().first().source, u"/in/a.tif"_qs);
     EXPECT_EQ(journal.records().first().target, u"/out/a.tiff"_qs);
-    EXPECT_EQ(journal.records().first().word, u"OK"_qs);
+    EXPECT_EQ(text(journal.records().first().word), u"OK"_qs);
 }
 
 TEST_F(BatchDriver, WarnsOfAMaximumOfZeroForEachPhotoAndStillCalls)
 {
     selectResize();
+    restoreRun("resizePhotos");
     chooseDestination();
     addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
     panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(QString());
@@ -386,7 +386,8 @@ TEST_F(BatchDriver, WarnsOfAMaximumOfZeroForEachPhotoAndStillCalls)
 
     const QStringList wrongValue{u"Wrong value"_qs, u"Value can't be empty or '0'."_qs};
     EXPECT_EQ(alerts, (QList<QStringList>{wrongValue, wrongValue}));
-    EXPECT_EQ(values, (QList<QList<int>>{{0, 2}, {0, 2}}));
+    // The word that the operation has for it; there is no such file.
+    EXPECT_EQ(words(), (QStringList{u"OK"_qs, u"OK"_qs}));
 }
 
 TEST_F(BatchDriver, PassesOverPhotosForABoxWithoutWidthOrHeight)
@@ -396,23 +397,17 @@ TEST_F(BatchDriver, PassesOverPhotosForABoxWithoutWidthOrHeight)
     addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
     panels.vwResizePhotos.pubScaleType.selectIndex(1);
     panels.vwResizePhotos.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"300"_qs);
-    int calls = 0;
-    subsystems.operations.hScalePhotosWidthAndHeight
-        = [&](const auto&, platform::PixelSize, int, const auto&) {
-              ++calls;
-              return u"OK"_qs;
-          };
+    restoreRun("resizePhotos");
 
     run();
 
     const QStringList wrongSize{u"Wrong value"_qs, u"Width or height can't be empty or '0'."_qs};
     EXPECT_EQ(alerts, (QList<QStringList>{wrongSize, wrongSize}));
-    EXPECT_EQ(calls, 0);
     EXPECT_TRUE(journal.records().isEmpty());
 
     panels.vwResizePhotos.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"200"_qs);
     run();
-    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(journal.records().size(), 2);
 }
 
 TEST_F(BatchDriver, FollowsThePopUpWhereTheIdDisagrees)
@@ -427,94 +422,18 @@ TEST_F(BatchDriver, FollowsThePopUpWhereTheIdDisagrees)
     EXPECT_EQ(bases, QStringList{u"/out/a"_qs});
 }
 
-TEST_F(BatchDriver, TakesThePhotosOwnSizeForACropWithoutSize)
-{
-    select("cropPhotos");
-    panels.window.pubEditPhoto.selectIndex(9);
-    chooseDestination();
-    const QString path
-        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"a.jpg"_qs));
-    photos.append(entry(path, u"P"_qs));
-    panels.vwCropPhotos.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"10"_qs);
-    workspace::CropSettings crop;
-    subsystems.operations.hCropPhotos
-        = [&](const auto&, const workspace::CropSettings& settings, const auto&) {
-              crop = settings;
-              return u"OK"_qs;
-          };
-
-    run();
-
-    EXPECT_EQ(crop.size, (platform::PixelSize{30, 40}));
-    EXPECT_EQ(crop.cropType, u"W x H"_qs);
-    EXPECT_EQ(crop.anchor, 4);
-}
-
-TEST_F(BatchDriver, ReadsTheSettingsOfACrop)
-{
-    select("cropPhotos");
-    panels.window.pubEditPhoto.selectIndex(9);
-    chooseDestination();
-    addPhotos({u"a.jpg"_qs});
-    panels::CropPanel& panel = panels.vwCropPhotos;
-    panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"10"_qs);
-    panel.dvVCUiCropWxHView.tfCropHeight.setStringValue(u"20"_qs);
-    panel.dvVCUiCropMinusView.tfCropCutOff.setStringValue(u"3"_qs);
-    panel.dvVCUiCropPositionView.tfXcropOffset.setStringValue(u"4"_qs);
-    panel.dvVCUiCropPositionView.tfYcropOffset.setStringValue(u"-5"_qs);
-    workspace::CropSettings crop;
-    subsystems.operations.hCropPhotos
-        = [&](const auto&, const workspace::CropSettings& settings, const auto&) {
-              crop = settings;
-              return u"OK"_qs;
-          };
-
-    run();
-
-    EXPECT_EQ(crop.size, (platform::PixelSize{10, 20}));
-    EXPECT_EQ(crop.cutOff, 3);
-    EXPECT_EQ(crop.xOffset, 4);
-    EXPECT_EQ(crop.yOffset, -5);
-}
-
-TEST_F(BatchDriver, ReadsTheBoxOfAResize)
-{
-    selectResize();
-    chooseDestination();
-    addPhotos({u"a.jpg"_qs});
-    panels.vwResizePhotos.pubScaleType.selectIndex(1);
-    panels::ScaleFixView& view = panels.vwResizePhotos.dvVCUiScaleFixView;
-    view.tfScaleFixWidth.setStringValue(u"10"_qs);
-    view.tfScaleFixHeight.setStringValue(u"20"_qs);
-    platform::PixelSize seen;
-    QList<int> states;
-    subsystems.operations.hScalePhotosWidthAndHeight
-        = [&](const auto&, platform::PixelSize box, int aspectState, const auto&) {
-              seen = box;
-              states.append(aspectState);
-              return u"OK"_qs;
-          };
-
-    for (const int state : {0, 1}) {
-        view.cbScaleAspectRatio.setState(state);
-        run();
-    }
-
-    EXPECT_EQ(seen, (platform::PixelSize{10, 20}));
-    EXPECT_EQ(states, (QList<int>{0, 1}));
-}
-
 TEST_F(BatchDriver, ReadsTheCommentOfAPhoto)
 {
     select("batchExifUC");
     addPhotos({u"a.jpg"_qs});
     panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"At sea"_qs);
     QList<QStringList> calls;
-    subsystems.operations.hSetExifData
-        = [&](const QString& path, const QString& comment, int clear) {
-              calls.append({path, comment, QString::number(clear)});
-              return u"OK"_qs;
-          };
+    reads("batchExifUC", [&](const QString& path) {
+        const auto [comment, clear] = metadata::readSettings(panels.vwFileManagementEXIF);
+        return [&calls, call = QStringList{path, comment, QString::number(clear)}] {
+            calls.append(call);
+        };
+    });
 
     for (const int state : {0, 1}) {
         panels.vwFileManagementEXIF.cbClearBeforeAdd.setState(state);
@@ -536,62 +455,13 @@ TEST_F(BatchDriver, MarksWithAPictureOnEveryTabButThatOfTexts)
     panels.vwWatermark.tbvWatermarkType.selectIndex(1);
     int texts = 0;
     int pictures = 0;
-    subsystems.operations.setWatermarkText = [&](const auto&, const auto&) { ++texts; };
-    subsystems.operations.setWatermarkImage = [&](const auto&, const auto&) { ++pictures; };
+    worksOn("textWM", [&](const auto&) { ++texts; });
+    worksOn("imageWM", [&](const auto&) { ++pictures; });
 
     run();
 
     EXPECT_EQ(texts, 0);
     EXPECT_EQ(pictures, 1);
-}
-
-TEST_F(BatchDriver, ReadsTheSettingsOfATint)
-{
-    select("addTint");
-    panels.window.pubEditPhoto.selectIndex(1);
-    chooseDestination();
-    addPhotos({u"a.jpg"_qs});
-    panels::TintPanel& panel = panels.vwAddTint;
-    panel.cwAddTint.setColor({.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 0.5});
-    panel.pubAddTintRenderMethod.selectIndex(2);
-    panel.cbAddTintDuoTone.setState(1);
-    panel.scAddTintPosition.setSelectedSegment(5);
-    panel.tfAddTintPosX.setStringValue(u"-3"_qs);
-    panel.tfAddTintPosY.setStringValue(u"4"_qs);
-    panel.tfAddTintWidth.setStringValue(u"50"_qs);
-    panel.tfAddTintHeight.setStringValue(u"60"_qs);
-    panel.cbAddTintOrigSize.setState(0);
-    panel.tfAddTintPercentage.setStringValue(u"70"_qs);
-    panel.tfAddTintPixels.setStringValue(u"80"_qs);
-    panel.pubAddTintPercentageOrient.selectIndex(1);
-    panel.cbAddTintGradient.setState(1);
-    panel.pubAddTintAngle.selectIndex(3);
-    panel.tfAddTintOpacity.setStringValue(u"90"_qs);
-    workspace::TintSettings seen;
-    subsystems.operations.addTintToImage2
-        = [&](const auto&, const workspace::TintSettings& settings, const auto&) {
-              seen = settings;
-              return u"OK"_qs;
-          };
-
-    run();
-
-    EXPECT_EQ(seen.colour, (platform::Color{.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1}));
-    EXPECT_EQ(seen.blendIndex, 2);
-    EXPECT_EQ(seen.duoToneState, 1);
-    EXPECT_EQ(seen.anchor, 5);
-    EXPECT_EQ(seen.xOffset, -3);
-    EXPECT_EQ(seen.yOffset, 4);
-    EXPECT_EQ(seen.sizeMode, panel.tbvFrameType.selectedLabel());
-    EXPECT_EQ(seen.width, 50);
-    EXPECT_EQ(seen.height, 60);
-    EXPECT_EQ(seen.originalSizeState, 0);
-    EXPECT_EQ(seen.percentage, 70);
-    EXPECT_EQ(seen.pixels, 80);
-    EXPECT_EQ(seen.percentageMode, 1);
-    EXPECT_EQ(seen.gradientState, 1);
-    EXPECT_EQ(seen.angleIndex, 3);
-    EXPECT_EQ(seen.opacity, 90);
 }
 
 TEST_F(BatchDriver, HandsTheWholeListToTheWatermark)
@@ -601,10 +471,14 @@ TEST_F(BatchDriver, HandsTheWholeListToTheWatermark)
     panels.vwWatermark.tvFileName.setStringValue(u"name"_qs);
     panels.vwWatermark.pubFileNamePhotoProperties.selectItemAtIndex(1);
     watermark::WatermarkRun seen;
-    subsystems.operations.setWatermarkText = [&](const auto& watermark, const auto& report) {
-        seen = watermark;
-        report({.source = u"/in/a.jpg"_qs, .target = u"/out/a.jpg"_qs, .word = u"OK"_qs});
-    };
+    worksOn("textWM", [&](const auto& list) {
+        seen = workspace::watermarkRun(list);
+        list.sink.take(
+            {.source = u"/in/a.jpg"_qs,
+             .target = u"/out/a.jpg"_qs,
+             .outcome = imaging::ResultWord::Ok}
+        );
+    });
 
     run();
 
@@ -662,14 +536,16 @@ TEST_F(BatchDriver, ConvertsEveryTickedEntry)
     addPhotos({u"a.JPG"_qs});
     photos.append(nonPhoto(u"/in/b.txt"_qs));
     panels.vwApplyOn.pubPhotoOrientation.selectIndex(2);
-    QStringList targets;
-    subsystems.operations.hConvertFileType = [&](const workspace::Conversion& conversion) {
-        targets.append(conversion.target);
-        EXPECT_EQ(conversion.compressionLevel, u"9"_qs);
-        return u"OK"_qs;
-    };
+    runs("batchFileConvert", [&](const workspace::PhotoOutput& output) {
+        EXPECT_EQ(output.tail.compressionLevel, u"9"_qs);
+        return imaging::ResultWord::Ok;
+    });
 
     run();
+
+    QStringList targets;
+    for (const auto& record : journal.records())
+        targets.append(record.target);
 
     EXPECT_EQ(targets, (QStringList{u"/out/a.jpeg"_qs, u"/out/b"_qs}));
 }
@@ -682,10 +558,7 @@ TEST_F(BatchDriver, RenamesFilesThatAreNoPhotosToo)
     photos.append(nonPhoto(u"/in/b.txt"_qs));
     panels.vwApplyOn.pubPhotoOrientation.selectIndex(2);
     QList<workspace::RenameRequest> requests;
-    subsystems.operations.hGetRenamePropertyValues = [&](const workspace::RenameRequest& request) {
-        requests.append(request);
-        return u"OK"_qs;
-    };
+    renames([&](const workspace::RenameRequest& request) { requests.append(request); });
 
     run();
 
@@ -703,11 +576,10 @@ TEST_F(BatchDriver, NeedsNoDestinationForADryRunOfRenaming)
     photos.setTick(1, 0);
     collectionView.hUpdateCollectionViewItem(u"old"_qs, 1);
     panels.vwShowPreview.cbShowPreview.setState(1);
-    subsystems.operations.hGetRenamePropertyValues = [&](const workspace::RenameRequest& request) {
+    renames([&](const workspace::RenameRequest& request) {
         EXPECT_EQ(request.previewState, 1);
         collectionView.hUpdateCollectionViewItem(u"new.jpg"_qs, request.index);
-        return u"OK"_qs;
-    };
+    });
 
     run();
 
@@ -731,10 +603,9 @@ TEST_F(BatchDriver, UploadsWithTheSelectedAlbum)
     panel.cbAddToFavorite.setState(1);
     panel.theApplePhotosData.setObjects({{u"Holiday"_qs}, {u"Work"_qs}});
     QList<workspace::PhotoUpload> uploads;
-    subsystems.operations.uploadToPhotos = [&](const workspace::PhotoUpload& upload) {
-        uploads.append(upload);
-        return u"OK"_qs;
-    };
+    reads("batchUploadPhotos", [&](const QString& path) {
+        return [&, upload = workspace::readUpload(panel, path)] { uploads.append(upload); };
+    });
 
     run();
     panel.myPhotosTableView.selectRow(1);
@@ -784,13 +655,12 @@ TEST_F(BatchDriver, HandsThePhotosToTheGallery)
     chooseDestination();
     addPhotos({u"a.jpg"_qs});
     QString destination;
-    subsystems.operations.hCreateResponsiveHTML
-        = [&](const QStringList&, const QString& target) { destination = target; };
+    worksOn("htmlExport", [&](const auto& list) { destination = list.destination; });
 
     run();
 
     EXPECT_EQ(destination, u"/out/"_qs);
-    EXPECT_EQ(guiControls.mySelectedImagesNSArray(), QStringList{u"/in/a.jpg"_qs});
+    EXPECT_EQ(guiControls.driver().mySelectedImagesNSArray(), QStringList{u"/in/a.jpg"_qs});
 }
 
 TEST_F(BatchDriver, EndsTheChosenDestinationWithASlash)
@@ -839,14 +709,12 @@ TEST_F(BatchDriver, TakesPhotosOfTheHiddenFilterForChangesInPlace)
     photos.setTick(1, 0);
     panels.vwApplyOn.pubPhotoOrientation.selectIndex(1);
     QStringList taken;
-    subsystems.operations.uploadToPhotos = [&](const workspace::PhotoUpload& upload) {
-        taken.append(u"upload "_qs + upload.path);
-        return u"OK"_qs;
-    };
-    subsystems.operations.hSetExifData = [&](const QString& path, const QString&, int) {
-        taken.append(u"comment "_qs + path);
-        return u"OK"_qs;
-    };
+    reads("batchUploadPhotos", [&](const QString& path) {
+        return [&taken, path] { taken.append(u"upload "_qs + path); };
+    });
+    reads("batchExifUC", [&](const QString& path) {
+        return [&taken, path] { taken.append(u"comment "_qs + path); };
+    });
 
     for (const char* function : {"batchUploadPhotos", "batchExifUC"}) {
         select(function);
@@ -860,14 +728,14 @@ TEST_F(BatchDriver, MovesTheBarOfEveryRunByWholeThousandths)
 {
     chooseDestination();
     addPhotos({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
-    const auto seesBar = [this](const auto&...) {
-        bar.append(panels.window.myProgressBar.doubleValue());
-        return u"OK"_qs;
-    };
-    subsystems.operations.uploadToPhotos = seesBar;
-    subsystems.operations.hSetExifData = seesBar;
-    subsystems.operations.hGetRenamePropertyValues = seesBar;
-    subsystems.operations.hConvertFileType = seesBar;
+    const auto seeBar = [this] { bar.append(panels.window.myProgressBar.doubleValue()); };
+    for (const char* function : {"batchUploadPhotos", "batchExifUC"})
+        reads(function, [&](const auto&) { return seeBar; });
+    renames([&](const auto&) { seeBar(); });
+    runs("batchFileConvert", [&](const auto&) {
+        seeBar();
+        return imaging::ResultWord::Ok;
+    });
 
     for (const char* function :
          {"batchUploadPhotos", "batchExifUC", "fileRenaming", "batchFileConvert"}) {
@@ -891,14 +759,14 @@ TEST_F(BatchDriver, ReadsTheArgumentsOfAChangeInPlaceBeforeTheBarGoesUp)
         panels.vwFileManagementSorting.tfAddTitle.setStringValue(u"after"_qs);
     });
     QStringList read;
-    subsystems.operations.uploadToPhotos = [&](const workspace::PhotoUpload& upload) {
-        read.append(upload.title);
-        return u"OK"_qs;
-    };
-    subsystems.operations.hSetExifData = [&](const QString&, const QString& comment, int) {
-        read.append(comment);
-        return u"OK"_qs;
-    };
+    reads("batchUploadPhotos", [&](const QString& path) {
+        const auto& panel = panels.vwFileManagementSorting;
+        return [&read, upload = workspace::readUpload(panel, path)] { read.append(upload.title); };
+    });
+    reads("batchExifUC", [&](const QString&) {
+        const auto settings = metadata::readSettings(panels.vwFileManagementEXIF);
+        return [&read, settings] { read.append(settings.comment); };
+    });
 
     select("batchExifUC");
     run();
@@ -928,10 +796,7 @@ TEST_F(BatchDriver, EndsARunOfAnIndexBeyondThePopUp)
 TEST_F(BatchDriver, AddsToAChainWithoutAPath)
 {
     QList<workspace::RenameRequest> requests;
-    subsystems.operations.hGetRenamePropertyValues = [&](const workspace::RenameRequest& request) {
-        requests.append(request);
-        return u"OK"_qs;
-    };
+    renames([&](const workspace::RenameRequest& request) { requests.append(request); });
 
     actions.send(u"hCalledCActionFunc"_qs);
 
@@ -950,7 +815,7 @@ TEST_F(BatchDriver, AsksTheChainForANameWithPathAndName)
     addPhotos({u"a.jpg"_qs});
     panels.vwWatermark.cActionsTWMArrayController.addObject({u"Prefix"_qs, u"x"_qs});
     QList<QStringList> asked;
-    subsystems.operations.hRenameTWMFile
+    neighbours.hRenameTWMFile
         = [&](const QString& path, const QString& name, const QList<QStringList>& chain) {
               asked.append({path, name, chain.first().join(u'+')});
               return name;
@@ -970,73 +835,16 @@ TEST_F(BatchDriver, RunsAgainInsideOfARun)
     addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
     panels.vwShowPreview.cbShowPreview.setState(1);
     QStringList order;
-    subsystems.operations.hScalePhotosPercentage
-        = [&](const imaging::SourceAndBase& photo, int, int, const auto&) {
-              order.append(photo.destinationBase);
-              if (order.size() == 1)
-                  run();
-              return u"OK"_qs;
-          };
+    runs("resizePhotos", [&](const workspace::PhotoOutput& output) {
+        order.append(output.photo.destinationBase);
+        if (order.size() == 1)
+            run();
+        return imaging::ResultWord::Ok;
+    });
 
     run();
 
     EXPECT_EQ(order, (QStringList{u"/out/a"_qs, u"/out/a"_qs, u"/out/b"_qs, u"/out/b"_qs}));
     EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
     EXPECT_TRUE(panels.window.myProgressBar.isHidden());
-}
-
-TEST_F(BatchDriver, ReadsEveryTypeOfAMaximum)
-{
-    selectResize();
-    chooseDestination();
-    addPhotos({u"a.jpg"_qs});
-    for (const int type : {0, 1, 3}) {
-        panels.vwResizePhotos.dvVCUiScaleMaxView.pubScaleMaxType.selectIndex(type);
-        run();
-    }
-
-    EXPECT_EQ(values, (QList<QList<int>>{{100, 0}, {100, 1}, {100, 3}}));
-}
-
-TEST_F(BatchDriver, ReadsTheChoicesOfACrop)
-{
-    select("cropPhotos");
-    panels.window.pubEditPhoto.selectIndex(9);
-    chooseDestination();
-    addPhotos({u"missing.jpg"_qs});
-    panels.vwCropPhotos.dvVCUiCropPositionView.scCropPosition.setSelectedSegment(7);
-    panels.vwCropPhotos.pubCropType.selectIndex(1);
-    workspace::CropSettings crop;
-    subsystems.operations.hCropPhotos
-        = [&](const auto&, const workspace::CropSettings& settings, const auto&) {
-              crop = settings;
-              return u"OK"_qs;
-          };
-
-    run();
-
-    EXPECT_EQ(crop.size, (platform::PixelSize{0, 0}));
-    EXPECT_EQ(crop.anchor, 7);
-    EXPECT_EQ(crop.cropType, u"%"_qs);
-}
-
-TEST_F(BatchDriver, ReadsTheSizeModeOfATint)
-{
-    select("addTint");
-    panels.window.pubEditPhoto.selectIndex(1);
-    chooseDestination();
-    addPhotos({u"a.jpg"_qs});
-    QStringList modes;
-    subsystems.operations.addTintToImage2
-        = [&](const auto&, const workspace::TintSettings& settings, const auto&) {
-              modes.append(settings.sizeMode);
-              return u"OK"_qs;
-          };
-
-    for (const int tab : {0, 1}) {
-        panels.vwAddTint.tbvFrameType.selectIndex(tab);
-        run();
-    }
-
-    EXPECT_EQ(modes, (QStringList{u"W x H"_qs, u"%"_qs}));
 }

@@ -5,6 +5,9 @@
 #include <workspace/selected_function.h>
 
 #include <controls/user_input.h>
+#include <imaging/dv_image_handling.h>
+#include <platform/foundation/paths.h>
+#include <watermark/dv_watermark.h>
 
 #include <support/photo_builder.h>
 #include <support/temporary_folder.h>
@@ -39,13 +42,28 @@ public:
     QStringList revealed;
 };
 
-/// The controllers of the workspace on their own, with operations and twins that a test provides.
+/// Takes the operation of a run away, as if it came with a later version.
+struct OperationTaken
+{
+    void operator()(workspace::OwnButton&) const { }
+    void operator()(workspace::PhotoRun& run) const { run.start = {}; }
+    void operator()(workspace::InPlaceRun& run) const { run.read = {}; }
+    void operator()(workspace::ListRun& run) const { run.work = {}; }
+    void operator()(workspace::RenamingRun& run) const { run.rename = {}; }
+};
+
+/// The controllers of the workspace on their own, with operations and previews that a test
+/// provides.
 class ControllerTest : public testing::Test
 {
 protected:
     ControllerTest()
     {
         cSelectedFunction().myString = u"textWM"_qs;
+        for (workspace::Function& function : functions) {
+            std::visit(OperationTaken{}, function.run);
+            function.preview = {};
+        }
         collectionView.registerActions(actions);
         guiControls.registerActions(actions);
         m_alerts = alertShown.connect([this](const QString& title, const QString& text) {
@@ -102,10 +120,61 @@ protected:
         return panels.window.myTemplateOverlayPreview.image().has_value();
     }
 
-    /// A twin that answers a picture and counts its calls.
-    workspace::PreviewTwin countingTwin(int& calls)
+    /// The row of a function, for a test to change.
+    [[nodiscard]] workspace::Function& row(const char* id)
     {
-        return [&calls](const QString&) {
+        return *std::find_if(functions.begin(), functions.end(), [id](const auto& function) {
+            return function.id == QLatin1String(id);
+        });
+    }
+
+    /// Gives a function its own run again.
+    void restoreRun(const char* id)
+    {
+        row(id).run
+            = workspace::Functions(workspace::functions()).withId(QString::fromLatin1(id))->run;
+    }
+
+    /// Gives a function that runs photo by photo an operation.
+    void runs(const char* id, const workspace::PhotoRun::Operation& operation)
+    {
+        std::get<workspace::PhotoRun>(row(id).run).start
+            = [operation](const workspace::RunContext&) { return operation; };
+    }
+
+    /// Gives a function that changes photos where they lie an operation; it answers "OK".
+    void
+    reads(const char* id, const std::function<std::function<void()>(const QString& path)>& read)
+    {
+        std::get<workspace::InPlaceRun>(row(id).run).read
+            = [read](const workspace::Subsystems&, const QString& path) {
+                  return [operation = read(path)] {
+                      operation();
+                      return imaging::ResultWord::Ok;
+                  };
+              };
+    }
+
+    /// Gives the renaming an operation; it answers "OK".
+    void renames(const std::function<void(const workspace::RenameRequest&)>& rename)
+    {
+        std::get<workspace::RenamingRun>(row("fileRenaming").run).rename
+            = [rename](const workspace::Subsystems&, const workspace::RenameRequest& request) {
+                  rename(request);
+                  return imaging::ResultWord::Ok;
+              };
+    }
+
+    /// Gives a function that takes the whole list its work.
+    void worksOn(const char* id, const std::function<void(const workspace::ListRun::Photos&)>& work)
+    {
+        std::get<workspace::ListRun>(row(id).run).work = work;
+    }
+
+    /// A preview that answers a picture and counts its calls.
+    workspace::Function::Preview countingPreview(int& calls)
+    {
+        return [&calls](const workspace::Subsystems&, const QString&) {
             ++calls;
             return platform::Image::fromQImage(QImage(2, 2, QImage::Format_ARGB32));
         };
@@ -118,7 +187,16 @@ protected:
     workspace::PhotoList photos;
     workspace::RunJournal journal;
     workspace::PreviewPhotos previewPhotos;
-    workspace::SubsystemLinks subsystems;
+    imaging::DVImageHandling imageHandling;
+    watermark::DVWatermark mark{
+        {.panel = panels.vwWatermark,
+         .bar = panels.window.myProgressBar,
+         .outputName = platform::lastPathComponent,
+         .previewPhoto = [this](const QString& path) { return previewPhotos.photo(path); }}};
+    workspace::Functions functions{workspace::functions()};
+    workspace::Subsystems subsystems{
+        .panels = panels, .imageHandling = imageHandling, .watermark = mark};
+    workspace::Neighbours neighbours;
     QueuedChooser chooser;
     RecordingDesktop desktop;
     platform::NotificationCenter notifications;
@@ -131,7 +209,9 @@ protected:
          .journal = journal,
          .chooser = chooser,
          .previewPhotos = previewPhotos,
+         .functions = functions,
          .subsystems = subsystems,
+         .neighbours = neighbours,
          .hAlertWindow = [this](const QString& title, const QString& text) {
              guiControls.hAlertWindow(title, text);
          }}};
@@ -142,7 +222,9 @@ protected:
          .chooser = chooser,
          .desktop = desktop,
          .notifications = notifications,
+         .functions = functions,
          .subsystems = subsystems,
+         .neighbours = neighbours,
          .collectionView = collectionView,
          .alertShown = alertShown}};
 

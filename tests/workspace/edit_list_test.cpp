@@ -394,7 +394,7 @@ TEST_F(EditList, TurnsTheSelectedFileInItsFolder)
     collectionView.hDroppedPhotos({path});
     photos.setTick(0, 0);
     QStringList calls;
-    subsystems.quickEdits.hRotatePicture
+    neighbours.quickEdits.hRotatePicture
         = [&](const QString& file, const QString& target, float angle) {
               calls.append(file + u' ' + target + u' ' + QString::number(double(angle)));
               (void)test::PhotoBuilder().size(30, 40).write(file);
@@ -426,13 +426,13 @@ TEST_F(EditList, MirrorsTheSelectedFile)
 {
     collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
     QStringList calls;
-    subsystems.quickEdits.hFlipHorizontalPicture = [&](const QString&, const QString&) {
+    neighbours.quickEdits.hFlipHorizontalPicture = [&](const QString&, const QString&) {
         calls.append(u"horizontal"_qs);
-        return u"OK"_qs;
+        return ResultWord::Ok;
     };
-    subsystems.quickEdits.hFlipVerticalPicture = [&](const QString&, const QString&) {
+    neighbours.quickEdits.hFlipVerticalPicture = [&](const QString&, const QString&) {
         calls.append(u"vertical"_qs);
-        return u"Not Supported"_qs;
+        return ResultWord::NotSupported;
     };
 
     actions.send(u"hFlipHorizontal"_qs);
@@ -449,9 +449,9 @@ TEST_F(EditList, MirrorsTheSelectedFile)
 TEST_F(EditList, TurnsNoFileThatIsNoPhotoAndNoneWithoutASelection)
 {
     int calls = 0;
-    subsystems.quickEdits.hRotatePicture = [&](const auto&, const auto&, float) {
+    neighbours.quickEdits.hRotatePicture = [&](const auto&, const auto&, float) {
         ++calls;
-        return u"OK"_qs;
+        return ResultWord::Ok;
     };
     photos.append(nonPhoto(u"/gone/a.txt"_qs));
 
@@ -466,9 +466,10 @@ TEST_F(EditList, LaysAWatermarkOverATurnedPhotoWhateverTheFunction)
 {
     int textTwins = 0;
     int imageTwins = 0;
-    subsystems.quickEdits.hRotatePicture = [](const auto&, const auto&, float) { return u"OK"_qs; };
-    subsystems.twins.setWatermarkTextPreview = countingTwin(textTwins);
-    subsystems.twins.setWatermarkImagePreview = countingTwin(imageTwins);
+    neighbours.quickEdits.hRotatePicture
+        = [](const auto&, const auto&, float) { return ResultWord::Ok; };
+    row("textWM").preview = countingPreview(textTwins);
+    row("imageWM").preview = countingPreview(imageTwins);
     collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
     select("cropPhotos");
     panels.vwShowPreview.cbShowPreview.setState(1);

@@ -160,7 +160,7 @@ TEST_F(FunctionSelection, LeavesTheHoldersOfAProfileConversionEmptyAfterExif)
 TEST_F(FunctionSelection, ListsTheProfilesForAProfileConversionAlone)
 {
     int calls = 0;
-    subsystems.hGetColorProfiles = [&] { ++calls; };
+    row("profileConversion").whenShown = [&](const auto&) { ++calls; };
 
     for (int index = 0; index < 10; ++index)
         pickEdit(index);
@@ -235,7 +235,7 @@ TEST_F(FunctionSelection, OpensSortingInBatchModeWhenItsTabIsSelected)
 TEST_F(FunctionSelection, ShowsTheGallery)
 {
     int loaded = -1;
-    subsystems.hLoadTemplatePreset = [&](int index) { loaded = index; };
+    neighbours.hLoadTemplatePreset = [&](int index) { loaded = index; };
     panels.vwHtmlExport.pubPhotoGalleryModel.selectIndex(3);
     pickManagement(3);
     ASSERT_FALSE(showsPresets());

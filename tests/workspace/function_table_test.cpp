@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/function_table.h>
+#include <workspace/functions/functions.h>
 
 #include <support/case_name.h>
 
@@ -47,7 +47,13 @@ class FieldTag : public testing::TestWithParam<Tag>
 {
 };
 
-void expectRow(const workspace::FunctionRow* row, const Row& expected)
+const workspace::Functions& rows()
+{
+    static const workspace::Functions functions(workspace::functions());
+    return functions;
+}
+
+void expectRow(const workspace::Function* row, const Row& expected)
 {
     ASSERT_NE(row, nullptr);
     EXPECT_EQ(row->id, QLatin1String(expected.name));
@@ -63,7 +69,7 @@ void expectRow(const workspace::FunctionRow* row, const Row& expected)
 
 TEST_P(EditFunctions, FillTheHoldersOfTheirRow)
 {
-    expectRow(workspace::editFunctionAt(GetParam().index), GetParam());
+    expectRow(rows().at(workspace::Section::EditPhoto, GetParam().index), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -86,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(FileManagementFunctions, FillTheHoldersOfTheirRow)
 {
-    expectRow(workspace::fileManagementFunctionAt(GetParam().index), GetParam());
+    expectRow(rows().at(workspace::Section::FileManagement, GetParam().index), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -118,17 +124,17 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(FunctionTable, EndsAfterItsRows)
 {
-    EXPECT_EQ(workspace::editFunctionAt(-1), nullptr);
-    EXPECT_EQ(workspace::editFunctionAt(10), nullptr);
-    EXPECT_EQ(workspace::fileManagementFunctionAt(-1), nullptr);
-    EXPECT_EQ(workspace::fileManagementFunctionAt(5), nullptr);
+    EXPECT_EQ(rows().at(workspace::Section::EditPhoto, -1), nullptr);
+    EXPECT_EQ(rows().at(workspace::Section::EditPhoto, 10), nullptr);
+    EXPECT_EQ(rows().at(workspace::Section::FileManagement, -1), nullptr);
+    EXPECT_EQ(rows().at(workspace::Section::FileManagement, 5), nullptr);
 }
 
 TEST_P(FieldTag, SelectsTheFunctionOfItsRange)
 {
-    const auto function = workspace::functionOfFieldTag(GetParam().tag);
+    const workspace::Function* function = rows().ofFieldTag(GetParam().tag);
 
-    EXPECT_EQ(function.value_or(QLatin1String("")), QLatin1String(GetParam().function));
+    EXPECT_EQ(function ? function->id : QLatin1String(""), QLatin1String(GetParam().function));
 }
 
 INSTANTIATE_TEST_SUITE_P(

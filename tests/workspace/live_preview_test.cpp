@@ -12,7 +12,6 @@ namespace {
 struct Twin
 {
     const char* name; ///< the function id
-    workspace::PreviewTwin workspace::PreviewTwins::*twin;
     bool photoStays;
 };
 
@@ -41,7 +40,7 @@ class FunctionsWithoutTwin : public LivePreview, public testing::WithParamInterf
 TEST_P(Twins, ShowTheEffectOfTheirFunction)
 {
     int calls = 0;
-    subsystems.twins.*(GetParam().twin) = countingTwin(calls);
+    row(GetParam().name).preview = countingPreview(calls);
     addPhotoWithPreview();
     select(GetParam().name);
 
@@ -54,7 +53,7 @@ TEST_P(Twins, ShowTheEffectOfTheirFunction)
 
 TEST_P(Twins, LeaveTheOverlayEmptyWhenTheyFail)
 {
-    subsystems.twins.*(GetParam().twin) = [](const QString&) { return std::nullopt; };
+    row(GetParam().name).preview = [](const auto&, const QString&) { return std::nullopt; };
     addPhotoWithPreview();
     select(GetParam().name);
 
@@ -66,7 +65,7 @@ TEST_P(Twins, LeaveTheOverlayEmptyWhenTheyFail)
 TEST_P(Twins, AreNotCalledWhileThePreviewIsOff)
 {
     int calls = 0;
-    subsystems.twins.*(GetParam().twin) = countingTwin(calls);
+    row(GetParam().name).preview = countingPreview(calls);
     addPhotoWithPreview();
     panels.vwShowPreview.cbShowPreview.setState(0);
     select(GetParam().name);
@@ -82,15 +81,15 @@ INSTANTIATE_TEST_SUITE_P(
     LivePreview,
     Twins,
     testing::Values(
-        Twin{"textWM", &workspace::PreviewTwins::setWatermarkTextPreview, true},
-        Twin{"imageWM", &workspace::PreviewTwins::setWatermarkImagePreview, true},
-        Twin{"addTint", &workspace::PreviewTwins::addTintToImage2Preview, true},
-        Twin{"framing", &workspace::PreviewTwins::hAddFramePreview, false},
-        Twin{"roundings", &workspace::PreviewTwins::hAddRoundingsPreview, false},
-        Twin{"profileConversion", &workspace::PreviewTwins::convertColorSpaceToPreview, true},
-        Twin{"rotatePhotos", &workspace::PreviewTwins::hRotatePicturesPreview, false},
-        Twin{"filters", &workspace::PreviewTwins::hAddFilterPreview, false},
-        Twin{"cropPhotos", &workspace::PreviewTwins::hCropPhotosPreview, true}
+        Twin{"textWM", true},
+        Twin{"imageWM", true},
+        Twin{"addTint", true},
+        Twin{"framing", false},
+        Twin{"roundings", false},
+        Twin{"profileConversion", true},
+        Twin{"rotatePhotos", false},
+        Twin{"filters", false},
+        Twin{"cropPhotos", true}
     ),
     test::CaseName{}
 );
@@ -164,7 +163,7 @@ TEST_F(LivePreview, ShowsThePhotoUpright)
 TEST_F(LivePreview, FollowsTheSelection)
 {
     QStringList described;
-    subsystems.hiDoNothing = [&](const QString& path) { described.append(path); };
+    neighbours.hiDoNothing = [&](const QString& path) { described.append(path); };
     const QStringList paths{photo(u"a.jpg"_qs, 20, 10), photo(u"b.jpg"_qs, 60, 40)};
     collectionView.hDroppedPhotos(paths);
 
@@ -194,7 +193,7 @@ TEST_F(LivePreview, LogsThatNothingIsSelected)
 TEST_F(LivePreview, ShowsThePictureOfEachGalleryTemplate)
 {
     QStringList shown;
-    subsystems.imageNamed = [&](const QString& name) {
+    neighbours.imageNamed = [&](const QString& name) {
         shown.append(name);
         return std::nullopt;
     };
@@ -221,8 +220,8 @@ TEST_F(LivePreview, ShowsAWatermarkAndNoCropBoxAfterSwappingTheSizeOfACrop)
 {
     int watermarks = 0;
     int crops = 0;
-    subsystems.twins.setWatermarkTextPreview = countingTwin(watermarks);
-    subsystems.twins.hCropPhotosPreview = countingTwin(crops);
+    row("textWM").preview = countingPreview(watermarks);
+    row("cropPhotos").preview = countingPreview(crops);
     addPhotoWithPreview();
     select("cropPhotos");
     auto& size = panels.vwCropPhotos.dvVCUiCropWxHView;
@@ -253,7 +252,7 @@ TEST_F(LivePreview, SwapsTheOffsetsOfACrop)
 TEST_F(LivePreview, SwapsTheBoxOfAResizeAndDrawsNothing)
 {
     int watermarks = 0;
-    subsystems.twins.setWatermarkTextPreview = countingTwin(watermarks);
+    row("textWM").preview = countingPreview(watermarks);
     addPhotoWithPreview();
     auto& box = panels.vwResizePhotos.dvVCUiScaleFixView;
     box.tfScaleFixWidth.setStringValue(u"300"_qs);
@@ -280,7 +279,7 @@ TEST_F(LivePreview, SwapsNothingWhileAFileThatIsNoPhotoIsSelected)
 TEST_F(LivePreview, ClearsTheOverlayAtACropPositionWhileItIsOff)
 {
     int watermarks = 0;
-    subsystems.twins.setWatermarkTextPreview = countingTwin(watermarks);
+    row("textWM").preview = countingPreview(watermarks);
     addPhotoWithPreview();
     user.pick(panels.vwCropPhotos.dvVCUiCropPositionView.scCropPosition, 2);
     ASSERT_TRUE(showsOverlay());

@@ -13,7 +13,7 @@ protected:
     PanelActions()
     {
         select("addTint");
-        subsystems.twins.addTintToImage2Preview = [this](const QString&) {
+        row("addTint").preview = [this](const auto&, const QString&) {
             hexAtPreview = panels.vwAddTint.tfAddTintHexValue.stringValue();
             ++previews;
             return std::nullopt;
@@ -250,7 +250,7 @@ TEST_F(PanelActions, AppendTheTokensOfTheSizeToTheFileNameText)
 TEST_F(PanelActions, PrintThePhotoThatIsNamed)
 {
     QStringList printed;
-    subsystems.printService = [&](const QString& path) { printed.append(path); };
+    neighbours.printService = [&](const QString& path) { printed.append(path); };
 
     actions.send(u"hPrintOrigPicture"_qs);
     panels.window.tfOriginalPictureStrRef.setStringValue(u"/in/a.jpg"_qs);

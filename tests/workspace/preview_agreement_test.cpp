@@ -6,6 +6,7 @@
 #include <support/color_profiles.h>
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>
+#include <support/saving_sink.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
 #include <watermark/dv_watermark.h>
@@ -225,6 +226,7 @@ protected:
     {
         const QString target = folder.path(u"out/"_qs);
         QDir().mkpath(target);
+        test::SavingSink sink;
         mark.setWatermarkText(
             {.photos = {path},
              .destination = target,
@@ -232,7 +234,7 @@ protected:
              .compressionLevel = u"9"_qs,
              .fileNameText = {},
              .photoProperty = 0},
-            [](const watermark::MarkedPhoto&) {}
+            sink
         );
         return *test::openedPhoto(target + u"photo."_qs + type()).image();
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/run_journal.h>
+#include <workspace/run/run_journal.h>
 
 #include <support/text_printing.h>
 
@@ -9,7 +9,7 @@ using namespace brenvaldo;
 
 namespace {
 
-workspace::RunRecord record(const QString& source, const QString& word)
+workspace::RunRecord record(const QString& source, imaging::ResultWord word)
 {
     return {
         .time = QDateTime({2026, 11, 15}, {10, 44, 33}),
@@ -26,11 +26,11 @@ TEST(RunJournal, TellsWhatItRecords)
     workspace::RunJournal journal;
     QStringList words;
     const auto subscription = journal.recorded.connect([&](const workspace::RunRecord& added) {
-        words.append(added.word);
+        words.append(text(added.word));
     });
 
-    journal.add(record(u"/in/a.jpg"_qs, u"OK"_qs));
-    journal.add(record(u"/in/b.jpg"_qs, u"Failed"_qs));
+    journal.add(record(u"/in/a.jpg"_qs, imaging::ResultWord::Ok));
+    journal.add(record(u"/in/b.jpg"_qs, imaging::ResultWord::Failed));
 
     EXPECT_EQ(words, (QStringList{u"OK"_qs, u"Failed"_qs}));
     EXPECT_EQ(journal.records().size(), 2);
@@ -39,8 +39,8 @@ TEST(RunJournal, TellsWhatItRecords)
 TEST(RunJournal, GivesOneLineARecord)
 {
     workspace::RunJournal journal;
-    journal.add(record(u"/in/a.jpg"_qs, u"OK"_qs));
-    journal.add(record(u"/in/b.jpg"_qs, u"Failed"_qs));
+    journal.add(record(u"/in/a.jpg"_qs, imaging::ResultWord::Ok));
+    journal.add(record(u"/in/b.jpg"_qs, imaging::ResultWord::Failed));
 
     EXPECT_EQ(
         journal.asText(),
@@ -52,7 +52,7 @@ TEST(RunJournal, GivesOneLineARecord)
 TEST(RunJournal, ForgetsAllRecords)
 {
     workspace::RunJournal journal;
-    journal.add(record(u"/in/a.jpg"_qs, u"OK"_qs));
+    journal.add(record(u"/in/a.jpg"_qs, imaging::ResultWord::Ok));
 
     journal.clear();
 

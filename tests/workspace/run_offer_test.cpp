@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/function_id.h>
-#include <workspace/run_offer.h>
+#include <workspace/functions/function_id.h>
+#include <workspace/functions/functions.h>
+#include <workspace/functions/shown_function.h>
+#include <workspace/run/run_offer.h>
+
+#include <controls/action_registry.h>
+#include <panels/panels.h>
 
 #include <support/text_printing.h>
 
@@ -17,7 +22,7 @@ class RunOfferTest : public testing::Test
 protected:
     [[nodiscard]] RunOffer offerOf(const QString& function) const
     {
-        return workspace::runOffer(function, operations, actions);
+        return workspace::runOffer(functions.withId(function), actions);
     }
 
     void pickFile(int index)
@@ -33,7 +38,7 @@ protected:
     }
 
     panels::Panels panels;
-    workspace::BatchOperations operations;
+    workspace::Functions functions{workspace::functions()};
     controls::ActionRegistry actions;
 };
 
@@ -41,12 +46,17 @@ protected:
 
 TEST_F(RunOfferTest, RunsFunctionsWhoseOperationIsThere)
 {
-    EXPECT_EQ(offerOf(functionId::cropPhotos), RunOffer::ComesLater);
+    EXPECT_EQ(offerOf(u"cropPhotos"_qs), RunOffer::ComesLater);
     EXPECT_EQ(offerOf(functionId::htmlExport), RunOffer::ComesLater);
 
-    operations.hCropPhotos = [](const auto&...) { return QString(); };
+    for (workspace::Function& function : functions) {
+        if (function.id == QLatin1String("cropPhotos"))
+            function.run = workspace::PhotoRun{.start = [](const auto&) {
+                return [](const auto&) { return imaging::ResultWord::Ok; };
+            }};
+    }
 
-    EXPECT_EQ(offerOf(functionId::cropPhotos), RunOffer::Run);
+    EXPECT_EQ(offerOf(u"cropPhotos"_qs), RunOffer::Run);
     EXPECT_EQ(offerOf(functionId::htmlExport), RunOffer::ComesLater);
 }
 
@@ -72,7 +82,7 @@ TEST_F(RunOfferTest, KnowsTheFunctionOfThePanelThatIsShown)
     panels.vwWatermark.tbvWatermarkType.selectIndex(1);
     EXPECT_EQ(workspace::shownFunction(panels), functionId::imageWM);
     pickEdit(8);
-    EXPECT_EQ(workspace::shownFunction(panels), functionId::resizePhotos);
+    EXPECT_EQ(workspace::shownFunction(panels), u"resizePhotos"_qs);
 
     const QList<QLatin1String> sorting{
         functionId::manSort, functionId::batchSort, functionId::batchUploadPhotos};

@@ -357,7 +357,7 @@ TEST_F(WorkspaceTest, ResizesFromButtonToFile)
     user.press(panels.window.btnProcess);
 
     ASSERT_EQ(program.journal().records().size(), 1);
-    EXPECT_EQ(program.journal().records().first().word, u"OK"_qs);
+    EXPECT_EQ(text(program.journal().records().first().word), u"OK"_qs);
     EXPECT_TRUE(QFileInfo::exists(program.journal().records().first().target));
 }
 

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "batch_operations.h"
-
-#include <controls/action_registry.h>
-#include <panels/panels.h>
+namespace brenvaldo::controls {
+class ActionRegistry;
+}
 
 /// \file
-/// What the process button is good for while a function is shown.
+/// What the process button is good for.
 
 namespace brenvaldo::workspace {
+
+struct Function;
 
 enum class RunOffer {
     Run, ///< it works on the ticked photos
@@ -18,14 +19,8 @@ enum class RunOffer {
     ComesLater ///< nothing in this version does the work
 };
 
-/// The function whose panel is shown, after section, pop-up and tab.
-[[nodiscard]] QString shownFunction(const panels::Panels& panels);
-
 /// A function is in this version when its operation is there, or the action of its own button.
-[[nodiscard]] RunOffer runOffer(
-    const QString& function,
-    const BatchOperations& operations,
-    const controls::ActionRegistry& actions
-);
+/// Null stands for none.
+[[nodiscard]] RunOffer runOffer(const Function* function, const controls::ActionRegistry& actions);
 
 } // namespace brenvaldo::workspace

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <imaging/conversion_rules.h>
-
 #include <QLatin1String>
 #include <QString>
 
@@ -21,21 +19,7 @@ namespace brenvaldo::workspace {
 /// Folder and name in one, the name without its extension.
 [[nodiscard]] QString destinationBase(const QString& folder, const QString& outputName);
 
-/// "Failed".
-[[nodiscard]] QString failedWord();
-
 /// Tells the log that the function is still to come.
 void logNotBuilt(const QLatin1String& function);
-
-/// What `operation` answers; an empty one is a function that is still to come, and fails.
-template <class Operation, class... Arguments>
-[[nodiscard]] QString
-wordOf(const Operation& operation, const QLatin1String& function, const Arguments&... arguments)
-{
-    if (operation)
-        return operation(arguments...);
-    logNotBuilt(function);
-    return failedWord();
-}
 
 } // namespace brenvaldo::workspace

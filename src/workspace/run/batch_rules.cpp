@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch_rules.h"
 
-#include <imaging/result_word.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 
@@ -27,8 +26,6 @@ QString destinationBase(const QString& folder, const QString& outputName)
 {
     return platform::deletingPathExtension(folder + outputName);
 }
-
-QString failedWord() { return imaging::text(imaging::ResultWord::Failed); }
 
 void logNotBuilt(const QLatin1String& function)
 {

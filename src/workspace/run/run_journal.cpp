@@ -20,7 +20,7 @@ QString RunJournal::asText() const
             record.function,
             record.source,
             record.target,
-            record.word};
+            imaging::text(record.word)};
         text += fields.join(QLatin1Char('\t')) + QLatin1Char('\n');
     }
     return text;

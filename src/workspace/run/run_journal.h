@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <imaging/result_word.h>
 #include <platform/foundation/signal.h>
 
 #include <QDateTime>
@@ -17,7 +18,7 @@ struct RunRecord
     QString source; ///< path of the photo; empty for a preset
     /// Path of the file, or name of the preset, that was to be written; empty when there is none.
     QString target;
-    QString word; ///< result word
+    imaging::ResultWord word = imaging::ResultWord::None;
 };
 
 /// Keeps what each run did, for as long as the process lives: the place to look up silent failures.

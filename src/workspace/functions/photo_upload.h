@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace brenvaldo::panels {
+struct SortingPanel;
+}
+
+namespace brenvaldo::workspace {
+
+/// One photo for the photo library.
+struct PhotoUpload
+{
+    QString path;
+    QString album; ///< of the selected row; "" without one
+    QString keyword;
+    QString title;
+    QString description;
+    QString favourite; ///< "1" or "0"
+};
+
+/// Reads the controls for the photo at `path`.
+[[nodiscard]] PhotoUpload readUpload(const panels::SortingPanel& panel, const QString& path);
+
+} // namespace brenvaldo::workspace

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "function.h"
+
+/// \file
+/// The rows, each made in a file of its own.
+
+namespace brenvaldo::workspace {
+
+[[nodiscard]] Function textWatermark();
+[[nodiscard]] Function imageWatermark();
+[[nodiscard]] Function addTint();
+[[nodiscard]] Function framing();
+[[nodiscard]] Function roundings();
+[[nodiscard]] Function profileConversion();
+[[nodiscard]] Function faces();
+[[nodiscard]] Function rotatePhotos();
+[[nodiscard]] Function filters();
+[[nodiscard]] Function resizePhotos();
+[[nodiscard]] Function cropPhotos();
+[[nodiscard]] Function sortByHand();
+[[nodiscard]] Function batchSort();
+[[nodiscard]] Function photoUpload();
+[[nodiscard]] Function exifComment();
+[[nodiscard]] Function fileRenaming();
+[[nodiscard]] Function fileConversion();
+[[nodiscard]] Function codes();
+[[nodiscard]] Function gallery();
+
+} // namespace brenvaldo::workspace

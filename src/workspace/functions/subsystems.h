@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace brenvaldo::imaging {
+class DVImageHandling;
+}
+namespace brenvaldo::panels {
+class Panels;
+}
+namespace brenvaldo::watermark {
+class DVWatermark;
+}
+
+namespace brenvaldo::workspace {
+
+/// The objects that functions work with; they live as long as the program.
+struct Subsystems
+{
+    panels::Panels& panels;
+    imaging::DVImageHandling& imageHandling;
+    watermark::DVWatermark& watermark;
+};
+
+} // namespace brenvaldo::workspace

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <imaging/crop_settings.h>
+#include <imaging/resize_settings.h>
+#include <imaging/tint_settings.h>
+
+#include <panels/crop_panel.h>
+#include <panels/resize_panel.h>
+#include <panels/tint_panel.h>
+#include <support/geometry_printing.h>
+#include <support/photo_builder.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+using namespace brenvaldo;
+
+TEST(CropSettings, AreReadFromTheirControls)
+{
+    panels::CropPanel panel;
+    panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"11"_qs);
+    panel.dvVCUiCropWxHView.tfCropHeight.setStringValue(u"22"_qs);
+    panel.dvVCUiCropMinusView.tfCropCutOff.setStringValue(u"33"_qs);
+    panel.dvVCUiCropPositionView.tfXcropOffset.setStringValue(u"44"_qs);
+    panel.dvVCUiCropPositionView.tfYcropOffset.setStringValue(u"-55"_qs);
+    panel.dvVCUiCropPositionView.scCropPosition.setSelectedSegment(6);
+    panel.pubCropType.selectIndex(1);
+
+    const imaging::CropSettings settings = imaging::readSettings(panel);
+
+    EXPECT_EQ(settings.size, (platform::PixelSize{11, 22}));
+    EXPECT_EQ(settings.cutOff, 33);
+    EXPECT_EQ(settings.xOffset, 44);
+    EXPECT_EQ(settings.yOffset, -55);
+    EXPECT_EQ(settings.anchor, 6);
+    EXPECT_EQ(settings.cropType, u"%"_qs);
+}
+
+TEST(CropSettings, TakeThePhotosOwnSizeForARunWithoutSize)
+{
+    const test::TemporaryFolder folder;
+    const QString path
+        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"a.jpg"_qs));
+    panels::CropPanel panel;
+
+    for (const auto& [width, height] :
+         {std::pair(u"10"_qs, u"0"_qs), std::pair(u""_qs, u"20"_qs)}) {
+        panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(width);
+        panel.dvVCUiCropWxHView.tfCropHeight.setStringValue(height);
+        const imaging::CropSettings settings = imaging::readSettings(panel, path);
+        EXPECT_EQ(settings.size, (platform::PixelSize{30, 40}));
+        EXPECT_EQ(settings.cropType, u"W x H"_qs);
+        EXPECT_EQ(settings.anchor, 4);
+        EXPECT_EQ(
+            imaging::readSettings(panel, folder.path(u"missing.jpg"_qs)).size,
+            (platform::PixelSize{0, 0})
+        );
+    }
+
+    panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"10"_qs);
+    EXPECT_EQ(imaging::readSettings(panel, path).size, (platform::PixelSize{10, 20}));
+}
+
+TEST(TintSettings, AreReadFromTheirControls)
+{
+    panels::TintPanel panel;
+    panel.cwAddTint.setColor({.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 0.5});
+    panel.pubAddTintRenderMethod.selectIndex(4);
+    panel.cbAddTintDuoTone.setState(1);
+    panel.scAddTintPosition.setSelectedSegment(5);
+    panel.tfAddTintPosX.setStringValue(u"-11"_qs);
+    panel.tfAddTintPosY.setStringValue(u"12"_qs);
+    panel.tbvFrameType.selectIndex(1);
+    panel.tfAddTintWidth.setStringValue(u"13"_qs);
+    panel.tfAddTintHeight.setStringValue(u"14"_qs);
+    panel.cbAddTintOrigSize.setState(0);
+    panel.tfAddTintPercentage.setStringValue(u"15"_qs);
+    panel.tfAddTintPixels.setStringValue(u"16"_qs);
+    panel.pubAddTintPercentageOrient.selectIndex(2);
+    panel.cbAddTintGradient.setState(1);
+    panel.pubAddTintAngle.selectIndex(3);
+    panel.tfAddTintOpacity.setStringValue(u"17"_qs);
+
+    imaging::TintSettings settings = imaging::readSettings(panel);
+
+    EXPECT_EQ(
+        settings.colour, (platform::Color{.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1})
+    );
+    EXPECT_EQ(settings.blendIndex, 4);
+    EXPECT_EQ(settings.duoToneState, 1);
+    EXPECT_EQ(settings.anchor, 5);
+    EXPECT_EQ(settings.xOffset, -11);
+    EXPECT_EQ(settings.yOffset, 12);
+    EXPECT_EQ(settings.sizeMode, u"%"_qs);
+    EXPECT_EQ(settings.width, 13);
+    EXPECT_EQ(settings.height, 14);
+    EXPECT_EQ(settings.originalSizeState, 0);
+    EXPECT_EQ(settings.percentage, 15);
+    EXPECT_EQ(settings.pixels, 16);
+    EXPECT_EQ(settings.percentageMode, 2);
+    EXPECT_EQ(settings.gradientState, 1);
+    EXPECT_EQ(settings.angleIndex, 3);
+    EXPECT_EQ(settings.opacity, 17);
+
+    panel.cbAddTintDuoTone.setState(0);
+    panel.cbAddTintGradient.setState(0);
+    panel.cbAddTintOrigSize.setState(1);
+    settings = imaging::readSettings(panel);
+    EXPECT_EQ(settings.duoToneState, 0);
+    EXPECT_EQ(settings.gradientState, 0);
+    EXPECT_EQ(settings.originalSizeState, 1);
+}
+
+TEST(ResizeSettings, AreReadFromTheirControls)
+{
+    panels::ResizePanel panel;
+    panel.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"11"_qs);
+    panel.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"12"_qs);
+    panel.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"13"_qs);
+    for (const int type : {0, 1, 3}) {
+        panel.dvVCUiScaleMaxView.pubScaleMaxType.selectIndex(type);
+        EXPECT_EQ(
+            imaging::readSettings(panel.dvVCUiScaleMaxView),
+            (imaging::MaximumSettings{.value = 11, .type = type})
+        );
+    }
+    for (const int state : {0, 1}) {
+        panel.dvVCUiScaleFixView.cbScaleAspectRatio.setState(state);
+        EXPECT_EQ(
+            imaging::readSettings(panel.dvVCUiScaleFixView),
+            (imaging::BoxSettings{.box = {12, 13}, .aspectState = state})
+        );
+    }
+}
+
+TEST(ResizeSettings, WrapAtThirtyTwoBits)
+{
+    panels::ResizePanel panel;
+    panel.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"4294967296"_qs);
+    panel.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"4294967297"_qs);
+    panel.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"4294967298"_qs);
+
+    EXPECT_EQ(imaging::readSettings(panel.dvVCUiScaleMaxView).value, 0);
+    EXPECT_EQ(imaging::readSettings(panel.dvVCUiScaleFixView).box, (platform::PixelSize{1, 2}));
+}
