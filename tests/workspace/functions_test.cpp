@@ -1,0 +1,211 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <workspace/functions/functions.h>
+#include <workspace/functions/preset_records.h>
+
+#include <imaging/dv_image_handling.h>
+#include <panels/panels.h>
+#include <platform/foundation/paths.h>
+#include <watermark/dv_watermark.h>
+
+#include <support/text_printing.h>
+
+#include <gmock/gmock.h>
+
+#include <map>
+
+using namespace brenvaldo;
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+
+namespace {
+
+const workspace::Functions& rows()
+{
+    static const workspace::Functions functions(workspace::functions());
+    return functions;
+}
+
+template <class Condition>
+QStringList idsOf(const Condition& condition)
+{
+    QStringList ids;
+    for (const workspace::Function& row : rows()) {
+        if (condition(row))
+            ids.append(row.id);
+    }
+    return ids;
+}
+
+QString processOf(const presets::PresetRecord* record)
+{
+    return record ? record->process + u' ' + record->action : u"none"_qs;
+}
+
+} // namespace
+
+TEST(Functions, StandInTheOrderOfTheCatalogue)
+{
+    EXPECT_THAT(
+        idsOf([](const auto&) { return true; }),
+        ElementsAre(
+            u"textWM"_qs,
+            u"imageWM"_qs,
+            u"addTint"_qs,
+            u"framing"_qs,
+            u"roundings"_qs,
+            u"profileConversion"_qs,
+            u"faces"_qs,
+            u"rotatePhotos"_qs,
+            u"filters"_qs,
+            u"resizePhotos"_qs,
+            u"cropPhotos"_qs,
+            u"manSort"_qs,
+            u"batchSort"_qs,
+            u"batchUploadPhotos"_qs,
+            u"batchExifUC"_qs,
+            u"fileRenaming"_qs,
+            u"batchFileConvert"_qs,
+            u"batchQR"_qs,
+            u"htmlExport"_qs
+        )
+    );
+}
+
+TEST(Functions, HaveATitleAndAPanelOfTheirOwnOrOneTabOfIt)
+{
+    const panels::Panels panels;
+    std::map<QString, int> titles;
+    for (const workspace::Function& row : rows()) {
+        ++titles[QString::fromLatin1(row.title)];
+        EXPECT_NE(panels.view(row.holders.mainView), nullptr) << row.id.data();
+    }
+    EXPECT_EQ(titles.size(), 19U);
+}
+
+TEST(Functions, ArePutIntoOnePlaceOfTheirSectionUnlessTabsTellThemApart)
+{
+    std::map<std::pair<workspace::Section, int>, int> withoutTab;
+    for (const workspace::Function& row : rows()) {
+        if (!row.choice.isTabSelected)
+            ++withoutTab[{row.choice.section, row.choice.index}];
+    }
+    for (const auto& [place, count] : withoutTab)
+        EXPECT_EQ(count, 1) << place.second;
+    EXPECT_EQ(withoutTab.size(), 14U);
+}
+
+TEST(Functions, StandAtEveryIndexOfThePopUps)
+{
+    const panels::Panels panels;
+    using workspace::Section;
+    for (int index = 0; index < panels.window.pubEditPhoto.count(); ++index)
+        EXPECT_NE(rows().at(Section::EditPhoto, index), nullptr) << index;
+    for (int index = 0; index < panels.window.pubFileManagementSelect.count(); ++index)
+        EXPECT_NE(rows().at(Section::FileManagement, index), nullptr) << index;
+}
+
+TEST(Functions, ShareNoFieldTag)
+{
+    for (const int tag : {0, 51, 71, 81, 101, 151, 200, 300, 400}) {
+        const auto owners = idsOf([tag](const auto& row) { return row.fieldTags.contain(tag); });
+        EXPECT_EQ(owners.size(), tag == 0 ? 0 : 1) << tag;
+    }
+    for (int tag = 0; tag < 1000; ++tag)
+        EXPECT_LE(idsOf([tag](const auto& row) { return row.fieldTags.contain(tag); }).size(), 1);
+}
+
+TEST(Functions, OfThisVersionAreThese)
+{
+    EXPECT_THAT(
+        idsOf([](const auto& row) { return workspace::hasOperation(row.run); }),
+        UnorderedElementsAre(u"textWM"_qs, u"resizePhotos"_qs, u"batchFileConvert"_qs)
+    );
+    EXPECT_THAT(
+        idsOf([](const auto& row) { return static_cast<bool>(row.preview); }),
+        UnorderedElementsAre(u"textWM"_qs)
+    );
+}
+
+TEST(Functions, ThatTakeThePlainPhotoAwayAreThese)
+{
+    EXPECT_THAT(
+        idsOf([](const auto& row) { return row.photoBelow == workspace::PhotoBelow::Goes; }),
+        UnorderedElementsAre(u"framing"_qs, u"roundings"_qs, u"rotatePhotos"_qs, u"filters"_qs)
+    );
+}
+
+TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
+{
+    panels::Panels panels;
+    imaging::DVImageHandling imageHandling;
+    watermark::DVWatermark mark{
+        {.panel = panels.vwWatermark,
+         .bar = panels.window.myProgressBar,
+         .outputName = platform::lastPathComponent,
+         .previewPhoto = [](const QString&) { return std::nullopt; }}};
+    const workspace::Subsystems subsystems{
+        .panels = panels, .imageHandling = imageHandling, .watermark = mark};
+    const workspace::PresetRecords records(rows(), subsystems);
+
+    const std::map<QString, QString> expected{
+        {u"textWM"_qs, u"TextWM Watermark"_qs},
+        {u"imageWM"_qs, u"ImageWM Watermark"_qs},
+        {u"addTint"_qs, u"addTint Edit"_qs},
+        {u"framing"_qs, u"framing Edit"_qs},
+        {u"roundings"_qs, u"roundings Edit"_qs},
+        {u"profileConversion"_qs, u"profileConversion Edit"_qs},
+        {u"rotatePhotos"_qs, u"rotatePhotos Edit"_qs},
+        {u"resizePhotos"_qs, u"resizePhotos Edit"_qs},
+        {u"cropPhotos"_qs, u"cropPhotos Edit"_qs},
+        {u"filters"_qs, u"filters Edit"_qs},
+        {u"faces"_qs, u"none"_qs},
+        {u"batchFileConvert"_qs, u"none"_qs},
+        {u"unknown"_qs, u"none"_qs},
+    };
+    for (const auto& [function, process] : expected)
+        EXPECT_EQ(processOf(records.recordOf(function)), process) << function.toStdString();
+}
+
+TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)
+{
+    static int loads = 0;
+    const auto make = [](panels::Panels& panels) {
+        return presets::PresetRecord{
+            .process = panels.window.pubEditPhoto.name(),
+            .action = u"Test"_qs,
+            .before = presets::PresetRecord::Before::Nothing,
+            .fields = {}};
+    };
+    const auto isFirstTab = [](const panels::Panels& panels) {
+        return panels.window.pubEditPhoto.indexOfSelectedItem() == 0;
+    };
+    const auto isSecondTab = [](const panels::Panels& panels) {
+        return panels.window.pubEditPhoto.indexOfSelectedItem() == 1;
+    };
+    panels::Panels panels;
+    imaging::DVImageHandling imageHandling;
+    watermark::DVWatermark mark{
+        {.panel = panels.vwWatermark,
+         .bar = panels.window.myProgressBar,
+         .outputName = platform::lastPathComponent,
+         .previewPhoto = [](const QString&) { return std::nullopt; }}};
+    const workspace::Subsystems subsystems{
+        .panels = panels, .imageHandling = imageHandling, .watermark = mark};
+    workspace::Functions functions({*rows().withId(u"fileRenaming"_qs)});
+    functions.begin()->presets
+        = {{.make = make, .applies = isFirstTab},
+           {.make = make, .applies = isSecondTab, .afterLoad = [](const auto&) { ++loads; }}};
+    const workspace::PresetRecords records(functions, subsystems);
+
+    const auto* first = records.recordOf(u"fileRenaming"_qs);
+    panels.window.pubEditPhoto.selectIndex(1);
+    const auto* second = records.recordOf(u"fileRenaming"_qs);
+    panels.window.pubEditPhoto.selectIndex(2);
+
+    ASSERT_TRUE(first && second);
+    EXPECT_NE(first, second);
+    EXPECT_FALSE(first->afterLoad);
+    second->afterLoad();
+    EXPECT_EQ(loads, 1);
+    EXPECT_EQ(records.recordOf(u"fileRenaming"_qs), nullptr);
+}
