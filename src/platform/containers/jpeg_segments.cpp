@@ -29,6 +29,8 @@ qsizetype nextMarker(QByteArrayView file, qsizetype offset)
     return file.size();
 }
 
+bool startsAsTiff(QByteArrayView bytes) { return bytes.startsWith("II") || bytes.startsWith("MM"); }
+
 } // namespace
 
 std::optional<JpegHeader> readJpegHeader(QByteArrayView file)
@@ -60,6 +62,19 @@ std::optional<JpegHeader> readJpegHeader(QByteArrayView file)
         header.end = offset;
     }
     return header;
+}
+
+std::optional<QByteArrayView> exifPartOf(const JpegSegment& segment, QByteArrayView block)
+{
+    // The sixth byte is not zero in the files of some programs.
+    if (segment.marker != jpeg::app1 || segment.payload.size() < jpeg::exifHeader.size()
+        || !segment.payload.startsWith(jpeg::exifHeader.first(5)))
+        return std::nullopt;
+    const QByteArrayView data = segment.payload.sliced(jpeg::exifHeader.size());
+    // A block above 64 KB goes on in segments that do not open a block of their own.
+    if (!block.isEmpty() && startsAsTiff(data))
+        return std::nullopt;
+    return data;
 }
 
 QByteArray jpegSegment(std::uint8_t marker, QByteArrayView payload)

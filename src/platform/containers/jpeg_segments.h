@@ -45,6 +45,11 @@ struct JpegHeader
 /// Walks the segments up to the first scan or to damage; nothing when `file` is no JPEG.
 [[nodiscard]] std::optional<JpegHeader> readJpegHeader(QByteArrayView file);
 
+/// What the segment adds to the EXIF block of which `block` stood in those before it; nothing when
+/// it holds no part of that.
+[[nodiscard]] std::optional<QByteArrayView>
+exifPartOf(const JpegSegment& segment, QByteArrayView block);
+
 /// Makes a whole segment; `payload` is at most `jpeg::longestPayload` bytes long.
 [[nodiscard]] QByteArray jpegSegment(std::uint8_t marker, QByteArrayView payload);
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "type_identifier.h"
 
+#include "signatures.h"
+
+#include <QFile>
 #include <QHash>
 #include <QStringList>
 
@@ -136,6 +139,15 @@ QString preferredTypeIdentifier(const QString& extension)
     const QString lowerCase = extension.toLower();
     const auto row = table.constFind(lowerCase);
     return row != table.constEnd() ? *row : dynamicIdentifier(lowerCase);
+}
+
+QString typeIdentifierOfContents(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return {};
+    const auto kind = fileKindOf(file.read(fileKindLength));
+    return kind ? QString::fromLatin1(kind->typeIdentifier) : QString();
 }
 
 } // namespace brenvaldo::platform

@@ -2,16 +2,13 @@
 #include "image_source.h"
 #include "photo_decoder.h"
 
+#include <platform/containers/bytes.h>
 #include <platform/containers/exif_facts.h>
+#include <platform/containers/jpeg_segments.h>
+#include <platform/containers/mapped_file.h>
 #include <platform/containers/type_identifier.h>
 
-#include <platform/foundation/regular_file.h>
-
-#include <QFile>
 #include <QTransform>
-#include <QtEndian>
-
-#include <optional>
 
 namespace brenvaldo::platform {
 
@@ -33,57 +30,28 @@ bool isFrameHeader(uchar marker)
         && marker != arithmeticTables;
 }
 
-QSize frameSize(const QByteArray& contents)
+/// The size in a frame header, behind the bits of a sample.
+QSize frameSize(QByteArrayView frame)
 {
-    constexpr qsizetype sizeFields = 5;
-    if (contents.size() < sizeFields)
+    const auto height = unsignedAt(frame, 1, 2, ByteOrder::Big);
+    const auto width = unsignedAt(frame, 3, 2, ByteOrder::Big);
+    if (!height || !width)
         return {};
-    return {
-        qFromBigEndian<quint16>(contents.constData() + 3),
-        qFromBigEndian<quint16>(contents.constData() + 1),
-    };
+    return {static_cast<int>(*width), static_cast<int>(*height)};
 }
 
-/// Marker of the next segment; its length field, itself included, is read as well.
-struct Segment
+JpegHead readJpegHead(QByteArrayView file)
 {
-    uchar marker;
-    qint64 contentsSize;
-};
-
-std::optional<Segment> nextSegment(QFile& file)
-{
-    const QByteArray head = file.read(4);
-    if (head.size() < 4 || static_cast<uchar>(head[0]) != 0xFF)
-        return std::nullopt;
-    const qint64 length = qFromBigEndian<quint16>(head.constData() + 2);
-    if (length < 2)
-        return std::nullopt;
-    return Segment{static_cast<uchar>(head[1]), length - 2};
-}
-
-JpegHead readJpegHead(const QString& path)
-{
-    constexpr uchar application1 = 0xE1;
-    static const QByteArray exifLabel("Exif\0\0", 6);
     JpegHead head;
-    QFile file(path);
-    if (!openRegularFile(file))
+    const auto header = readJpegHeader(file);
+    if (!header)
         return head;
-    file.skip(2);
-    while (const auto segment = nextSegment(file)) {
-        const bool isExif = segment->marker == application1 && head.exif.isEmpty();
-        if (!isExif && !isFrameHeader(segment->marker)) {
-            file.skip(segment->contentsSize);
-            continue;
-        }
-        const QByteArray contents = file.read(segment->contentsSize);
-        if (isExif && contents.startsWith(exifLabel))
-            head.exif = contents.mid(exifLabel.size());
-        if (isFrameHeader(segment->marker)) {
-            head.size = frameSize(contents);
+    for (const JpegSegment& segment : header->segments) {
+        if (isFrameHeader(segment.marker)) {
+            head.size = frameSize(segment.payload);
             break;
         }
+        head.exif.append(exifPartOf(segment, head.exif).value_or(QByteArrayView()));
     }
     return head;
 }
@@ -129,7 +97,8 @@ QTransform uprightTransform(int orientation)
 
 QImage jpegThumbnail(const QString& path)
 {
-    const JpegHead head = readJpegHead(path);
+    const MappedFile file(path);
+    const JpegHead head = readJpegHead(file.bytes());
     const ExifFacts facts = readExifFacts(head.exif);
     if (facts.thumbnail.isEmpty())
         return {};

@@ -4,12 +4,15 @@
 #include "heif_handles.h"
 #include "photo_decoder.h"
 
+#include <platform/containers/bytes.h>
 #include <platform/containers/exif_facts.h>
-#include <platform/foundation/regular_file.h>
+#include <platform/containers/iso_boxes.h>
+#include <platform/containers/mapped_file.h>
 
 #include <QFile>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstring>
 
 namespace brenvaldo::platform {
@@ -55,12 +58,10 @@ QByteArray exifBlock(const heif_image_handle* handle)
     if (heif_image_handle_get_list_of_metadata_block_IDs(handle, "Exif", &id, 1) != 1)
         return {};
     QByteArray item(static_cast<qsizetype>(heif_image_handle_get_metadata_size(handle, id)), '\0');
-    constexpr qsizetype offsetField = 4;
-    if (item.size() <= offsetField
+    if (item.isEmpty()
         || heif_image_handle_get_metadata(handle, id, item.data()).code != heif_error_Ok)
         return {};
-    const qsizetype start = offsetField + qFromBigEndian<quint32>(item.constData());
-    return item.mid(start);
+    return exifBehindOffset(item);
 }
 
 heif_chroma chromaOf(bool isDeep, bool hasAlpha)
@@ -87,21 +88,18 @@ PixelSize sizeOf(const heif_image* decoded)
         heif_image_get_height(decoded, heif_channel_interleaved)};
 }
 
-/// True when the boxes of a file may turn its picture on the side.
-bool mentionsQuarterTurn(const QString& path)
+/// True when a property of the file turns a picture on the side.
+bool holdsQuarterTurn(const QString& path)
 {
-    QFile file(path);
-    if (!openRegularFile(file))
-        return false;
-    constexpr qint64 roomOfBoxes = qint64{1} << 20;
-    const QByteArray head = file.read(roomOfBoxes);
-    const QByteArrayView name("irot");
-    for (qsizetype at = head.indexOf(name); at >= 0; at = head.indexOf(name, at + 1)) {
-        const qsizetype angle = at + name.size();
-        if (angle < head.size() && (head.at(angle) & 1) != 0)
-            return true;
-    }
-    return false;
+    constexpr qsizetype versionAndFlags = 4;
+    const MappedFile file(path);
+    const QByteArrayView meta = tailOf(isoBox(isoBoxes(file.bytes()), "meta"), versionAndFlags);
+    const QByteArrayView properties = isoBox(isoBoxes(isoBox(isoBoxes(meta), "iprp")), "ipco");
+    const QList<IsoBox> boxes = isoBoxes(properties);
+    return std::any_of(boxes.begin(), boxes.end(), [](const IsoBox& box) {
+        return box.type == QByteArrayView("irot")
+            && (unsignedAt(box.payload, 0, 1, ByteOrder::Big).value_or(0) & 1U) != 0;
+    });
 }
 
 /// Size of the coded picture.
@@ -113,7 +111,7 @@ PixelSize codedSize(const QString& path, const heif_image_handle* handle, PixelS
     const PixelSize stated
         = {heif_image_handle_get_ispe_width(handle), heif_image_handle_get_ispe_height(handle)};
     checkDecodedWhole(stated);
-    if (stated != upright || stated.width == stated.height || !mentionsQuarterTurn(path))
+    if (stated != upright || stated.width == stated.height || !holdsQuarterTurn(path))
         return stated;
     return sizeOf(decodedImage(handle, heif_chroma_interleaved_RGB, Geometry::Stored).get());
 }

@@ -6,6 +6,7 @@
 #include <platform/containers/bytes.h>
 #include <platform/containers/jpeg_segments.h>
 #include <platform/containers/png_chunks.h>
+#include <platform/containers/signatures.h>
 #include <platform/containers/tiff_directory.h>
 
 #include <algorithm>
@@ -246,16 +247,28 @@ void takeBmp(QByteArrayView file, ContainerProperties& properties)
 ContainerProperties containerProperties(QByteArrayView file)
 {
     ContainerProperties properties;
-    if (file.startsWith("\xFF\xD8"))
+    const auto kind = fileKindOf(file);
+    if (!kind)
+        return properties;
+    switch (kind->container) {
+    case Container::Jpeg:
         takeJpeg(file, properties);
-    else if (file.startsWith("\x89PNG"))
+        break;
+    case Container::Png:
         takePng(file, properties);
-    else if (file.startsWith("GIF8"))
+        break;
+    case Container::Gif:
         takeGif(file, properties);
-    else if (file.startsWith("BM"))
+        break;
+    case Container::Bitmap:
         takeBmp(file, properties);
-    else
+        break;
+    case Container::Tiff:
         takeTiff(file, properties);
+        break;
+    default:
+        break;
+    }
     return properties;
 }
 

@@ -31,8 +31,6 @@ bool belongsToTheCoding(const JpegSegment& segment)
     );
 }
 
-bool startsAsTiff(QByteArrayView bytes) { return bytes.startsWith("II") || bytes.startsWith("MM"); }
-
 /// Sorts the segments of one file into its blocks.
 class Collector
 {
@@ -68,15 +66,10 @@ private:
 
     bool takeExif(const JpegSegment& segment)
     {
-        // The sixth byte is not zero in the files of some programs.
-        if (!segment.payload.startsWith(jpeg::exifHeader.first(5)) || segment.payload.size() < 6)
-            return false;
-        const QByteArrayView data = segment.payload.sliced(jpeg::exifHeader.size());
-        // A block above 64 KB goes on in segments that do not open a block of their own.
-        if (!m_blocks.exif.isEmpty() && startsAsTiff(data))
-            return false;
-        m_blocks.exif.append(data);
-        return true;
+        const auto part = exifPartOf(segment, m_blocks.exif);
+        if (part)
+            m_blocks.exif.append(*part);
+        return part.has_value();
     }
 
     bool takeXmp(const JpegSegment& segment)

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "type_identifier.h"
+#include "signatures.h"
 
-#include <platform/foundation/regular_file.h>
+#include "bytes.h"
 
-#include <QByteArrayView>
-#include <QFile>
-
+#include <algorithm>
 #include <string_view>
 
 namespace brenvaldo::platform {
@@ -18,35 +16,35 @@ struct Signature
 {
     qsizetype offset;
     std::string_view bytes;
-    const char* identifier;
+    FileKind kind;
 };
 
 // More specific signatures stand before the general ones that they share bytes with.
 constexpr Signature signatures[] = {
-    {0, "\xFF\xD8\xFF"sv, "public.jpeg"},
-    {0, "\x89PNG\r\n\x1A\n"sv, "public.png"},
-    {0, "GIF87a"sv, "com.compuserve.gif"},
-    {0, "GIF89a"sv, "com.compuserve.gif"},
-    {8, "CR\x02"sv, "com.canon.cr2-raw-image"},
-    {0, "II*\0"sv, "public.tiff"},
-    {0, "MM\0*"sv, "public.tiff"},
-    {0, "II+\0"sv, "public.tiff"},
-    {0, "MM\0+"sv, "public.tiff"},
-    {0, "\0\0\0\x0CjP  \r\n\x87\n"sv, "public.jp2"},
-    {0, "\xFF\x4F\xFF\x51"sv, "public.jp2"},
-    {0, "\0\0\0\x0CJXL \r\n\x87\n"sv, "public.jpeg-xl"},
-    {0, "\xFF\x0A"sv, "public.jpeg-xl"},
-    {8, "WEBP"sv, "org.webmproject.webp"},
-    {0, "8BPS\0\1"sv, "com.adobe.photoshop-image"},
-    {0, "8BPS\0\2"sv, "com.adobe.photoshop-large-image"},
-    {0, "%PDF-"sv, "com.adobe.pdf"},
-    {0, "v/1\1"sv, "com.ilm.openexr-image"},
-    {0, "#?RADIANCE"sv, "public.radiance"},
-    {0, "\0\0\1\0"sv, "com.microsoft.ico"},
-    {0, "\0\0\2\0"sv, "com.microsoft.cur"},
-    {0, "icns"sv, "com.apple.icns"},
-    {0, "DDS "sv, "com.microsoft.dds"},
-    {0, "BM"sv, "com.microsoft.bmp"},
+    {0, "\xFF\xD8\xFF"sv, {Container::Jpeg, "public.jpeg"}},
+    {0, "\x89PNG\r\n\x1A\n"sv, {Container::Png, "public.png"}},
+    {0, "GIF87a"sv, {Container::Gif, "com.compuserve.gif"}},
+    {0, "GIF89a"sv, {Container::Gif, "com.compuserve.gif"}},
+    {8, "CR\x02"sv, {Container::Tiff, "com.canon.cr2-raw-image"}},
+    {0, "II*\0"sv, {Container::Tiff, "public.tiff"}},
+    {0, "MM\0*"sv, {Container::Tiff, "public.tiff"}},
+    {0, "II+\0"sv, {Container::Tiff, "public.tiff"}},
+    {0, "MM\0+"sv, {Container::Tiff, "public.tiff"}},
+    {0, "\0\0\0\x0CjP  \r\n\x87\n"sv, {Container::Jpeg2000, "public.jp2"}},
+    {0, "\xFF\x4F\xFF\x51"sv, {Container::Jpeg2000, "public.jp2"}},
+    {0, "\0\0\0\x0CJXL \r\n\x87\n"sv, {Container::JpegXl, "public.jpeg-xl"}},
+    {0, "\xFF\x0A"sv, {Container::JpegXl, "public.jpeg-xl"}},
+    {8, "WEBP"sv, {Container::Webp, "org.webmproject.webp"}},
+    {0, "8BPS\0\1"sv, {Container::Photoshop, "com.adobe.photoshop-image"}},
+    {0, "8BPS\0\2"sv, {Container::Photoshop, "com.adobe.photoshop-large-image"}},
+    {0, "%PDF-"sv, {Container::Other, "com.adobe.pdf"}},
+    {0, "v/1\1"sv, {Container::Other, "com.ilm.openexr-image"}},
+    {0, "#?RADIANCE"sv, {Container::Other, "public.radiance"}},
+    {0, "\0\0\1\0"sv, {Container::Other, "com.microsoft.ico"}},
+    {0, "\0\0\2\0"sv, {Container::Other, "com.microsoft.cur"}},
+    {0, "icns"sv, {Container::Other, "com.apple.icns"}},
+    {0, "DDS "sv, {Container::Other, "com.microsoft.dds"}},
+    {0, "BM"sv, {Container::Bitmap, "com.microsoft.bmp"}},
 };
 
 struct Brand
@@ -105,22 +103,23 @@ bool isPortableAnymap(QByteArrayView head)
 
 } // namespace
 
-QString typeIdentifierOfContents(const QString& path)
+std::optional<FileKind> fileKindOf(QByteArrayView file)
 {
-    QFile file(path);
-    if (!openRegularFile(file))
-        return {};
-    const QByteArray head = file.read(64);
-    if (head.size() >= 12 && head.sliced(4, 4) == "ftyp")
-        return QString::fromLatin1(identifierOfFileTypeBox(head));
+    const QByteArrayView head = file.first(std::min(file.size(), fileKindLength));
+    if (head.size() >= 12 && head.sliced(4, 4) == QByteArrayView("ftyp")) {
+        const char* identifier = identifierOfFileTypeBox(head);
+        return identifier ? std::optional(FileKind{Container::Heif, identifier}) : std::nullopt;
+    }
     for (const Signature& signature : signatures) {
         const QByteArrayView bytes(
             signature.bytes.data(), static_cast<qsizetype>(signature.bytes.size())
         );
-        if (head.mid(signature.offset).startsWith(bytes))
-            return QString::fromLatin1(signature.identifier);
+        if (tailOf(head, static_cast<std::uint64_t>(signature.offset)).startsWith(bytes))
+            return signature.kind;
     }
-    return isPortableAnymap(head) ? QStringLiteral("public.pbm") : QString();
+    if (isPortableAnymap(head))
+        return FileKind{Container::Other, "public.pbm"};
+    return std::nullopt;
 }
 
 } // namespace brenvaldo::platform
