@@ -5,7 +5,7 @@
 #include "result_word.h"
 
 #include <platform/graphics/image.h>
-#include <platform/graphics/metadata_blocks.h>
+#include <platform/containers/metadata_blocks.h>
 
 #include <QString>
 

@@ -4,8 +4,7 @@
 #include "neighbours.h"
 #include "photo_list.h"
 #include "photo_preview.h"
-#include "run_journal.h"
-#include "subsystem_links.h"
+#include <workspace/run/run_journal.h>
 
 #include <controls/action_registry.h>
 #include <controls/file_chooser.h>

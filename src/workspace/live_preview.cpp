@@ -47,8 +47,8 @@ void cCollectionViewController::callForDefaultImage()
 void cCollectionViewController::showNoPhoto()
 {
     callForDefaultImage();
-    if (m_subsystems.forgetPhoto)
-        m_subsystems.forgetPhoto();
+    if (m_neighbours.forgetPhoto)
+        m_neighbours.forgetPhoto();
 }
 
 void cCollectionViewController::showFileAt(int index)

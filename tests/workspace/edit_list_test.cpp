@@ -15,9 +15,9 @@ protected:
             {photo(u"b.jpg"_qs, 20, 10), photo(u"c.jpg"_qs, 40, 30), photo(u"d.jpg"_qs, 60, 40)}
         );
         photos.select(std::nullopt);
-        subsystems.hiDoNothing
+        neighbours.hiDoNothing
             = [this](const QString& path) { described.append(path.section(u'/', -1)); };
-        subsystems.forgetPhoto = [this] { described.append(u"none"_qs); };
+        neighbours.forgetPhoto = [this] { described.append(u"none"_qs); };
     }
 
     [[nodiscard]] int shownWidth() const

@@ -3,6 +3,8 @@
 
 #include "signatures.h"
 
+#include <platform/foundation/regular_file.h>
+
 #include <QFile>
 #include <QHash>
 #include <QStringList>
@@ -144,7 +146,7 @@ QString preferredTypeIdentifier(const QString& extension)
 QString typeIdentifierOfContents(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    if (!openRegularFile(file))
         return {};
     const auto kind = fileKindOf(file.read(fileKindLength));
     return kind ? QString::fromLatin1(kind->typeIdentifier) : QString();
