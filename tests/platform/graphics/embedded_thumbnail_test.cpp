@@ -33,6 +33,32 @@ TEST(EmbeddedThumbnail, StandsUpright)
     EXPECT_EQ(cornerColors(thumbnail), "BRWG");
 }
 
+TEST(EmbeddedThumbnail, IsFoundBehindFillBytes)
+{
+    const TemporaryFolder folder;
+    QByteArray photo
+        = PhotoBuilder().size(120, 80).exif(exifBlock({.thumbnail = smallJpeg(30, 20)})).bytes();
+    constexpr qsizetype behindTheStart = 2;
+    photo.insert(behindTheStart, "\xFF\xFF");
+
+    const QString path = folder.write(QStringLiteral("a.jpg"), photo);
+
+    EXPECT_EQ(embeddedThumbnail(path).size(), QSize(30, 20));
+}
+
+TEST(EmbeddedThumbnail, FollowsAnOrientationStoredAsAByte)
+{
+    const TemporaryFolder folder;
+    QByteArray block = exifBlock({.orientation = 6, .thumbnail = smallJpeg(30, 20)});
+    constexpr char byte = 1;
+    block[block.indexOf(QByteArrayView("\x12\x01\x03\0", 4)) + 2] = byte;
+
+    const QString path
+        = PhotoBuilder().size(120, 80).exif(block).write(folder.path(QStringLiteral("a.jpg")));
+
+    EXPECT_EQ(embeddedThumbnail(path).size(), QSize(20, 30));
+}
+
 TEST(EmbeddedThumbnail, LosesTheBarsOfTheCamera)
 {
     const TemporaryFolder folder;

@@ -9,6 +9,7 @@
 #include <support/pixel_probe.h>
 #include <support/temporary_folder.h>
 
+#include <QFile>
 #include <QtEndian>
 
 #include <gmock/gmock.h>
@@ -136,6 +137,38 @@ TEST(ImageSource, ReadsTheProfileOfABitmap)
 
     EXPECT_EQ(openedPhoto(path).image()->iccProfile(), wideProfile());
     EXPECT_EQ(openedPhoto(cut).image()->iccProfile(), QByteArray());
+}
+
+TEST(ImageSource, ReadsTheHeaderOfAJpeg2000BehindABoxOf64BitLength)
+{
+    const TemporaryFolder folder;
+    const auto photo = ImageSource::open(PhotoBuilder()
+                                             .iccProfile(oddProfile())
+                                             .dotsPerInch(300)
+                                             .write(folder.path(QStringLiteral("a.jpg"))));
+    const QString path = folder.path(QStringLiteral("a.jp2"));
+    ASSERT_TRUE(encode(*photo->image(), FileFormat::Jpeg2000, {}, path));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    QByteArray bytes = file.readAll();
+    // The length 1 says that the length follows the type in 64 bits.
+    const QByteArray box(
+        "\0\0\0\x01"
+        "free"
+        "\0\0\0\0\0\0\0\x18"
+        "contents",
+        24
+    );
+    bytes.insert(bytes.indexOf("jp2h") - 4, box);
+    file.seek(0);
+    file.write(bytes);
+    file.close();
+
+    const auto source = ImageSource::open(path);
+
+    ASSERT_TRUE(source);
+    EXPECT_EQ(source->header().dotsPerInch, 300);
+    EXPECT_EQ(source->image()->iccProfile(), oddProfile());
 }
 
 TEST(ImageSource, FollowsTheContentsNotTheName)

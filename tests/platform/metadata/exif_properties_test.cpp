@@ -55,6 +55,16 @@ TEST(ExifProperties, ShowsASingleNumberAsAnInteger)
     );
 }
 
+TEST(ExifProperties, ShowsAnOffsetWithAllItsBytes)
+{
+    constexpr std::uint16_t offset = 13;
+
+    EXPECT_EQ(
+        exifText("Flash", {.tag = 0x9209, .type = offset, .value = numbers(4, {70000})}),
+        text("70000")
+    );
+}
+
 TEST(ExifProperties, ShowsAFractionAsADouble)
 {
     EXPECT_EQ(
