@@ -109,6 +109,9 @@ ssize_t write(int descriptor, const void* bytes, size_t length)
 int fsync(int descriptor)
 {
     static auto* const system = systemFunction<int(int)>("fsync");
+    const InjectedFaults* const faults = InjectedFaults::current();
+    if (faults && faults->plan().atFlush)
+        faults->plan().atFlush();
     return failsAt(descriptor) ? -1 : system(descriptor);
 }
 

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <atomic>
+#include <functional>
 
 namespace brenvaldo::test {
 
@@ -20,6 +21,7 @@ public:
         bool refusesNamelessFiles = false; ///< as network folders do
         bool refusesMarkedRenames = false; ///< knows no rename that keeps what is there
         bool killsAtRename = false; ///< the process ends instead of renaming
+        std::function<void()> atFlush = {}; ///< what another process does meanwhile
     };
 
     InjectedFaults(const QString& folder, const Plan& plan);

@@ -142,3 +142,17 @@ TEST_F(OldFileSystem, CopiesFiles)
     EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy"_qs)), "a");
     EXPECT_EQ(allEntries(folder.path()), (QStringList{u"copy"_qs, u"source"_qs}));
 }
+
+TEST(CopyItem, KeepsWhatAppearsAtTheTargetMeanwhile)
+{
+    const TemporaryFolder folder;
+    const QString source = folder.write(u"source"_qs, "a");
+    const InjectedFaults faults(folder.path(), {.atFlush = [&folder] {
+                                    static_cast<void>(folder.write(u"copy"_qs, "of another"));
+                                }});
+
+    EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"copy"_qs)}));
+
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy"_qs)), "of another");
+    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"copy"_qs, u"source"_qs}));
+}

@@ -91,19 +91,30 @@ bool encodeAndSplice(
     return pieces && writePieces(*pieces, target.temporaryPath());
 }
 
+bool encodeInto(const Image& image, const ImageFileRequest& request, const AtomicFile& target)
+{
+    const Splicer splicer = request.metadata ? splicerFor(request.format) : nullptr;
+    return splicer ? encodeAndSplice(image, request, splicer, target)
+                   : encodeWithBlocks(image, request, target.temporaryPath());
+}
+
+QString reasonOf(const AtomicFile& unwritten)
+{
+    // The line before tells what kept its bytes from being made.
+    return unwritten.fault().isEmpty() ? QStringLiteral("its contents are not whole")
+                                       : unwritten.fault();
+}
+
 } // namespace
 
 bool writeImageFile(const Image& image, const ImageFileRequest& request, const QString& path)
 {
     AtomicFile target(path);
-    if (!target.isValid())
-        return false;
-    const Splicer splicer = request.metadata ? splicerFor(request.format) : nullptr;
-    const bool isWritten = splicer ? encodeAndSplice(image, request, splicer, target)
-                                   : encodeWithBlocks(image, request, target.temporaryPath());
+    const bool isWritten
+        = target.isValid() && encodeInto(image, request, target) && target.commit();
     if (!isWritten)
-        log(QStringLiteral("Failed to write ") + path);
-    return isWritten && target.commit();
+        log(QStringLiteral("Failed to write %1: %2").arg(path, reasonOf(target)));
+    return isWritten;
 }
 
 } // namespace brenvaldo::platform

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "atomic_file.h"
 
-#include <platform/foundation/log.h>
 #include <platform/foundation/output_file.h>
 
 #include <QFile>
@@ -34,11 +33,6 @@ bool isPlainFileOrFree(const QString& path)
     return ::stat(QFile::encodeName(path).constData(), &status) != 0 || S_ISREG(status.st_mode);
 }
 
-void logFault(const QString& target, const QString& reason)
-{
-    log(QStringLiteral("Failed to write %1: %2").arg(target, reason));
-}
-
 /// A folder that can't be flushed only delays a name: the file stands whole in either case.
 void flushFolder(const QString& path)
 {
@@ -67,12 +61,12 @@ AtomicFile::AtomicFile(const QString& target)
     : m_target(resolvedTarget(target))
 {
     if (!isPlainFileOrFree(m_target)) {
-        logFault(target, QStringLiteral("something else than a plain file stands there"));
+        m_fault = QStringLiteral("something else than a plain file stands there");
         return;
     }
     m_file.emplace(folder());
     if (!isValid())
-        logFault(target, qt_error_string(errno));
+        m_fault = qt_error_string(errno);
 }
 
 QString AtomicFile::folder() const { return QFileInfo(m_target).path(); }
@@ -83,7 +77,7 @@ bool AtomicFile::commit(Existing existing)
         return false;
     keepModeAndOwner(m_target, m_file->descriptor());
     if (::fsync(m_file->descriptor()) != 0 || !m_file->moveTo(m_target, existing)) {
-        logFault(m_target, qt_error_string(errno));
+        m_fault = qt_error_string(errno);
         return false;
     }
     flushFolder(folder());
@@ -97,11 +91,7 @@ bool writeFileAtomically(const QString& path, const QByteArray& contents)
         return false;
     OutputFile file(target.temporaryPath());
     file.write(contents);
-    if (!file.finish()) {
-        logFault(path, file.fault());
-        return false;
-    }
-    return target.commit();
+    return file.finish() && target.commit();
 }
 
 } // namespace brenvaldo::platform

@@ -22,7 +22,7 @@ public:
     using Existing = TemporaryFile::Existing;
 
     /// False when no file can be made in the target's folder, or something else than a plain file
-    /// has the target's name. The log tells why.
+    /// has the target's name.
     [[nodiscard]] bool isValid() const { return m_file && m_file->isValid(); }
     [[nodiscard]] const QString& temporaryPath() const { return m_file->path(); }
 
@@ -30,11 +30,15 @@ public:
     [[nodiscard]] QString folder() const;
 
     /// Flushes the file to the disk and puts it in the place of the target; mode and owner of an
-    /// existing target stay. The log tells why it failed.
+    /// existing target stay.
     [[nodiscard]] bool commit(Existing existing = Existing::Replaced);
+
+    /// Why the file is not valid or could not be committed, as a text for the log.
+    [[nodiscard]] const QString& fault() const { return m_fault; }
 
 private:
     QString m_target;
+    QString m_fault;
     std::optional<TemporaryFile> m_file;
 };
 

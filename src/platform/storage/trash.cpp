@@ -4,7 +4,6 @@
 #include "file_system.h"
 
 #include <platform/foundation/folders.h>
-#include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 
 #include <QDateTime>
@@ -69,7 +68,9 @@ bool moveLinkToTrash(const QString& link)
     return false;
 }
 
-bool moveItemToTrash(const QString& path)
+} // namespace
+
+bool moveToTrash(const QString& path)
 {
     // Without its data folder Qt moves the file into the current folder and calls it success.
     if (path.isEmpty() || !createFolder(applicationSupportFolder()))
@@ -77,16 +78,6 @@ bool moveItemToTrash(const QString& path)
     if (QFileInfo(path).isSymLink())
         return moveLinkToTrash(path);
     return fileExists(path) && QFile::moveToTrash(path);
-}
-
-} // namespace
-
-bool moveToTrash(const QString& path)
-{
-    const bool isMoved = moveItemToTrash(path);
-    if (!isMoved)
-        log(QStringLiteral("Failed to move %1 to the trash").arg(path));
-    return isMoved;
 }
 
 } // namespace brenvaldo::platform

@@ -2,7 +2,6 @@
 #include <platform/storage/atomic_file.h>
 
 #include <support/faults.h>
-#include <support/log_lines.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
 
@@ -17,7 +16,6 @@
 
 using namespace brenvaldo::platform;
 using brenvaldo::test::FullDisk;
-using brenvaldo::test::LogLines;
 using brenvaldo::test::setMode;
 using brenvaldo::test::TemporaryFolder;
 using brenvaldo::test::WithoutPrivileges;
@@ -44,7 +42,6 @@ void expectRefused(const QString& path)
     const QString link = path + u".link"_qs;
     ASSERT_TRUE(QFile::link(path, link));
     const struct stat before = statusOf(path);
-    const LogLines log;
 
     EXPECT_FALSE(writeFileAtomically(path, "new"));
     EXPECT_FALSE(writeFileAtomically(link, "new"));
@@ -52,12 +49,7 @@ void expectRefused(const QString& path)
     EXPECT_EQ(statusOf(path).st_ino, before.st_ino);
     EXPECT_EQ(statusOf(path).st_mode, before.st_mode);
     EXPECT_TRUE(QFileInfo(link).isSymLink());
-    EXPECT_EQ(
-        log.lines(),
-        (QStringList{
-            u"Failed to write %1: something else than a plain file stands there"_qs.arg(path),
-            u"Failed to write %1: something else than a plain file stands there"_qs.arg(link)})
-    );
+    EXPECT_EQ(AtomicFile(link).fault(), u"something else than a plain file stands there"_qs);
 }
 
 } // namespace
@@ -195,12 +187,10 @@ TEST(AtomicFile, FailsWithoutItsFolder)
     const TemporaryFolder folder;
     const QString path = folder.path(u"missing/photo.jpg"_qs);
 
-    const LogLines log;
     EXPECT_FALSE(AtomicFile(path).isValid());
     EXPECT_FALSE(writeFileAtomically(path, "a"));
     EXPECT_EQ(allEntries(folder), QStringList());
-    const QString line = u"Failed to write %1: No such file or directory"_qs.arg(path);
-    EXPECT_EQ(log.lines(), (QStringList{line, line}));
+    EXPECT_EQ(AtomicFile(path).fault(), u"No such file or directory"_qs);
 }
 
 TEST(AtomicFile, RefusesTheNameOfAFolder)
@@ -249,6 +239,7 @@ TEST(AtomicFile, KeepsWhatAppearedMeanwhileWhenToldSo)
 
     EXPECT_FALSE(file.commit(AtomicFile::Existing::Kept));
 
+    EXPECT_EQ(file.fault(), u"File exists"_qs);
     EXPECT_EQ(TemporaryFolder::read(path), "of another");
 }
 
@@ -272,12 +263,10 @@ TEST(AtomicFile, LeavesTheOldFileOnAFullDisk)
 {
     const TemporaryFolder folder;
     const QString path = folder.write(u"photo.jpg"_qs, "old");
-    const LogLines log;
     {
         const FullDisk disk(4096);
         EXPECT_FALSE(writeFileAtomically(path, QByteArray(100000, 'x')));
     }
-    EXPECT_EQ(log.lines(), QStringList{u"Failed to write %1: File too large"_qs.arg(path)});
 
     EXPECT_EQ(TemporaryFolder::read(path), "old");
     EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
