@@ -262,6 +262,7 @@ TEST(CopyAppTo, CopiesTheFilesAroundASourceThatIsMissing)
     platform::createFolder(folder.path(u"target"_qs));
     static_cast<void>(folder.write(u"parent/a"_qs, "a"));
     static_cast<void>(folder.write(u"parent/b"_qs, "b"));
+    static_cast<void>(folder.write(u"parent/.hidden"_qs, "h"));
     const QString kept = folder.write(u"target/b"_qs, "kept");
     QStringList logged;
     platform::setLogSink([&](const QString& line) { logged += line; });
@@ -272,7 +273,9 @@ TEST(CopyAppTo, CopiesTheFilesAroundASourceThatIsMissing)
     platform::setLogSink({});
 
     EXPECT_EQ(result, FileResult::Success);
-    EXPECT_EQ(allEntries(folder.path(u"target"_qs)), (QStringList{u"a"_qs, u"b"_qs}));
+    EXPECT_EQ(
+        allEntries(folder.path(u"target"_qs)), (QStringList{u".hidden"_qs, u"a"_qs, u"b"_qs})
+    );
     EXPECT_EQ(TemporaryFolder::read(kept), "kept");
     ASSERT_EQ(logged.size(), 1);
     EXPECT_TRUE(logged.first().startsWith(u"Error Copying: "_qs));
@@ -288,6 +291,57 @@ TEST(TrashFile, AnswersByItsSuccess)
     EXPECT_EQ(cNSFileHandling::hTrashFile(path), FileResult::Failed);
 
     EXPECT_TRUE(QFile::exists(folder.path(u"data/Trash/files/photo.jpg"_qs)));
+}
+
+TEST(TrashFile, TakesALinkWhoseFileIsGone)
+{
+    const TemporaryFolder folder;
+    const Environment data("XDG_DATA_HOME", folder.path(u"data"_qs).toUtf8());
+    const QString link = folder.path(u"alias"_qs);
+    QFile::link(folder.path(u"missing"_qs), link);
+
+    EXPECT_EQ(cNSFileHandling::hTrashFile(link), FileResult::Ok);
+
+    EXPECT_FALSE(QFileInfo(link).isSymLink());
+}
+
+TEST(MoveFileTo, LeavesNoSecondCopyWhereTheSourceMustStay)
+{
+    const TemporaryFolder folder;
+    const QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
+    setMode(shared.path(), 0777);
+    platform::createFolder(folder.path(u"locked"_qs));
+    const QString source = folder.write(u"locked/source"_qs, "a");
+    setMode(source, 0644);
+    setMode(folder.path(), 0755);
+    setMode(folder.path(u"locked"_qs), 0555);
+    {
+        const WithoutPrivileges user;
+        EXPECT_EQ(
+            cNSFileHandling::hMoveFileTo({.source = source, .target = shared.filePath(u"moved"_qs)}
+            ),
+            FileResult::Failed
+        );
+    }
+
+    EXPECT_EQ(TemporaryFolder::read(source), "a");
+    EXPECT_EQ(allEntries(shared.path()), QStringList());
+    setMode(folder.path(u"locked"_qs), 0755);
+}
+
+TEST(AddIconToFile, GivesTheFileItsIcon)
+{
+    const TemporaryFolder folder;
+    const Environment data("XDG_DATA_HOME", folder.path(u"data"_qs).toUtf8());
+    const Environment path("PATH", folder.path().toUtf8());
+    const QString command = folder.write(u"gio"_qs, "#!/bin/sh\n");
+    setMode(command, 0755);
+    QImage icon(3, 3, QImage::Format_RGB32);
+    icon.fill(Qt::red);
+
+    cNSFileHandling::hAddIconToFile(folder.write(u"a.c-action"_qs, ""), icon);
+
+    EXPECT_EQ(allEntries(folder.path(u"data/Brenvaldo/Icons"_qs)).size(), 1);
 }
 
 TEST(DeleteFiles, IgnoresWhatIsMissing)

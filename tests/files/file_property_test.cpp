@@ -70,11 +70,14 @@ TEST(FileDate, AnswersThePreviousTextInOtherModes)
 TEST(FileDate, IsEmptyForAMissingFile)
 {
     const TemporaryFolder folder;
+    const QString path = folder.write(u"a.jpg"_qs, "");
     cNSFileHandling files;
+    ASSERT_NE(files.hGetCreationDateFile({.path = path, .mode = u"0"_qs}), u""_qs);
 
     EXPECT_EQ(
         files.hGetCreationDateFile({.path = folder.path(u"missing"_qs), .mode = u"0"_qs}), u""_qs
     );
+    EXPECT_EQ(files.hGetCreationDateFile({.path = path, .mode = u"3"_qs}), u""_qs);
 }
 
 TEST(FileSize, IsTheTextOfTheByteCount)

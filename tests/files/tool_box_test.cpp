@@ -80,10 +80,14 @@ TEST_F(ToolBox, ListsOneLevelOfAFolder)
     static_cast<void>(folder.write(u"inner/b"_qs, ""));
     static_cast<void>(folder.write(u".hidden"_qs, ""));
     const QString file = folder.write(u"a b#c"_qs, "");
+    QFile::link(u"nowhere"_qs, folder.path(u"broken link"_qs));
 
     EXPECT_EQ(
         cToolBox::hGetFilesInDir(folder.path()),
-        (QList<QUrl>{QUrl::fromLocalFile(file), QUrl::fromLocalFile(folder.path(u"inner"_qs))})
+        (QList<QUrl>{
+            QUrl::fromLocalFile(file),
+            QUrl::fromLocalFile(folder.path(u"broken link"_qs)),
+            QUrl::fromLocalFile(folder.path(u"inner"_qs))})
     );
 }
 

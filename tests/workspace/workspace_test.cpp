@@ -166,11 +166,14 @@ TEST_F(WorkspaceTest, EmptiesTempAtTheStart)
     leaveInTemp(u"old.jpg"_qs);
     leaveInTemp(u".hidden"_qs);
     QDir().mkpath(temp() + u"/folder/inner"_qs);
+    QFile::link(u"nowhere"_qs, temp() + u"/broken link"_qs);
 
     program.start();
 
     EXPECT_EQ(
-        QDir(temp()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+        QDir(temp()).entryList(
+            QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot
+        ),
         QStringList{u".hidden"_qs}
     );
 }
