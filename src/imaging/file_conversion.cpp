@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "file_conversion.h"
 
+#include "failure_log.h"
+
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 #include <platform/graphics/image_destination.h>
@@ -50,8 +52,12 @@ bool isRefused(const QString& path, platform::FileFormat format)
 
 bool writeConverted(const PictureToSave& picture, const ConversionRule& rule)
 {
-    if (!picture.image)
+    if (!picture.image) {
+        logFailedWrite(
+            picture.destination, QStringLiteral("%1 can't be read as a photo").arg(picture.source)
+        );
         return false;
+    }
 
     platform::ImageFileRequest request;
     request.format = rule.format;
@@ -116,7 +122,7 @@ saved(const FileConversion::Settings& settings, const std::optional<PictureToSav
         .saveURL = QUrl::fromLocalFile(settings.destination),
         .type = settings.type,
         .name = nameWithoutExtension(settings.source),
-        .word = picture ? save(*picture) : ResultWord::Failed,
+        .word = picture ? save(*picture) : failsForType(settings.destination, settings.type),
     };
 }
 

@@ -4,8 +4,8 @@
 #include "output_tail.h"
 #include "result_word.h"
 
-#include <platform/graphics/image.h>
 #include <platform/containers/metadata_blocks.h>
+#include <platform/graphics/image.h>
 
 #include <QString>
 

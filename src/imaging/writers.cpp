@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dv_image_handling.h"
 
+#include "failure_log.h"
+
 #include "writer_rules.h"
 
 #include <platform/foundation/log.h>
@@ -28,13 +30,15 @@ ResultWord write(Writer writer, const PictureToSave& picture)
         return ResultWord::NotSupported;
     const auto rule = writerRule(writer, picture.typeIdentifier);
     if (!rule)
-        return ResultWord::Failed;
+        return failsForType(picture.destination, picture.typeIdentifier);
 
     const QString path = picture.destination + rule->extension;
     if (picture.image
         && platform::writeImageFile(*picture.image, fileRequest(*rule, picture), path))
         return ResultWord::Ok;
 
+    if (!picture.image)
+        logFailedWrite(path, QStringLiteral("there is no picture"));
     if (rule->failure == WriterRule::Failure::Logged) {
         const QString url = QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded);
         platform::log(QStringLiteral("Failed to write image to ") + url);

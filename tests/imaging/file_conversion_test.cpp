@@ -116,12 +116,17 @@ TEST_P(FileConversionTable, LeavesAnEmptyFileOfTheMetadataRouteForAnUnreadablePh
     const QString source = folder.write(u"note.jpg"_qs, "this is no photo");
     const QString target = folder.path(u"out"_qs);
 
+    const LogLines log;
+
     const ConversionResult result
         = FileConversion().hConvertFileType({source, row.type, u"8"_qs, target});
 
     EXPECT_EQ(result.word, ResultWord::Failed);
     EXPECT_EQ(QFile::exists(target), row.trace == Trace::Metadata);
     EXPECT_EQ(TemporaryFolder::read(target), QByteArray());
+    EXPECT_TRUE(log.lines().contains(
+        u"Failed to write %1: %2 can't be read as a photo"_qs.arg(target, source)
+    ));
 }
 
 TEST_P(FileConversionTable, LogsHeicAlone)
@@ -163,10 +168,19 @@ TEST(FileConversion, WritesNothingForAnUnknownType)
     const TemporaryFolder folder;
     const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
 
+    const LogLines log;
+
     const ConversionResult result = FileConversion().hConvertFileType(
         {source, u"com.canon.cr2-raw-image"_qs, u"8"_qs, folder.path(u"out"_qs)}
     );
 
+    EXPECT_EQ(
+        log.lines(),
+        QStringList{
+            u"Failed to write %1: the type \"com.canon.cr2-raw-image\" is not written here"_qs.arg(
+                folder.path(u"out"_qs)
+            )}
+    );
     EXPECT_EQ(result.word, ResultWord::Failed);
     EXPECT_EQ(filesOf(folder), QStringList{u"photo.jpg"_qs});
 }

@@ -138,7 +138,11 @@ TEST_P(Writers, WriteWatermarkedPhotosAlikeButForHeic)
 
     EXPECT_EQ(word, isHeic ? ResultWord::Failed : ResultWord::Ok);
     EXPECT_EQ(output.files(), isHeic ? QStringList() : QStringList{row.file});
-    EXPECT_EQ(log.lines(), QStringList());
+    const QString reason
+        = u"Failed to write %1: the type \"public.heic\" is not written here"_qs.arg(
+            output.path(u"out"_qs)
+        );
+    EXPECT_EQ(log.lines(), isHeic ? QStringList{reason} : QStringList());
 }
 
 TEST_P(Writers, TakeAWholePathAsItStands)
@@ -184,6 +188,9 @@ TEST_P(Writers, LogAFailureByTheRow)
     const bool isSilent = row.type == u"com.microsoft.bmp"_qs;
     EXPECT_EQ(word, ResultWord::Failed);
     EXPECT_EQ(log.lines().contains(u"Failed to write image to "_qs + url), !isSilent);
+    EXPECT_TRUE(log.lines().contains(u"Failed to write %1: No such file or directory"_qs.arg(
+        output.path(u"no folder/"_qs) + row.file
+    )));
 }
 
 TEST_P(Writers, LogAFailureOfAWholePathForHeicAlone)
@@ -213,7 +220,26 @@ TEST(WritersOfUnknownTypes, FailWithoutAFile)
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileMPR(picture), ResultWord::Failed);
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFile(picture), ResultWord::Failed);
     EXPECT_EQ(output.files(), QStringList());
-    EXPECT_EQ(log.lines(), QStringList());
+    const QString reason
+        = u"Failed to write %1: the type \"com.canon.cr2-raw-image\" is not written here"_qs.arg(
+            output.path(u"out"_qs)
+        );
+    EXPECT_EQ(log.lines(), (QStringList{reason, reason, reason}));
+}
+
+TEST(WritersWithoutAPicture, TellTheReason)
+{
+    const Output output;
+    PictureToSave picture = output.picture(u"out"_qs, u"com.microsoft.bmp"_qs);
+    picture.image.reset();
+    const LogLines log;
+
+    EXPECT_EQ(DVImageHandling::hSaveToNewImageFileX(picture), ResultWord::Failed);
+
+    EXPECT_EQ(
+        log.lines(),
+        QStringList{u"Failed to write %1: there is no picture"_qs.arg(output.path(u"out"_qs))}
+    );
 }
 
 TEST(WritersOfUnknownTypes, DoNotSupportPhotoshopAndPdf)
