@@ -2,7 +2,6 @@
 #include "dv_image_handling.h"
 
 #include "failure_log.h"
-
 #include "writer_rules.h"
 
 #include <platform/foundation/log.h>
