@@ -150,6 +150,24 @@ TEST_F(LivePreview, IsEmptyForAFileThatIsNoPhotoWhateverTheFunction)
     }
 }
 
+TEST_F(LivePreview, TellsOfNoPhotoWhereItIsEmptyForWantOfOne)
+{
+    int forgotten = 0;
+    subsystems.forgetPhoto = [&] { ++forgotten; };
+    collectionView.callForPreview();
+    EXPECT_EQ(forgotten, 1);
+
+    addPhotoWithPreview();
+    select("batchFileConvert");
+    collectionView.callForPreview();
+    EXPECT_EQ(forgotten, 1) << "a conversion shows no photo, but one is selected";
+
+    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    photos.select(1);
+    collectionView.callForPreview();
+    EXPECT_EQ(forgotten, 2);
+}
+
 TEST_F(LivePreview, ShowsThePhotoUpright)
 {
     const QString path
