@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "application.h"
 #include "single_instance.h"
 
 #include <platform/foundation/toolkit_notes.h>
@@ -11,7 +12,6 @@
 #include <views/theme.h>
 #include <workspace/workspace.h>
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
 #include <QScreen>
@@ -44,7 +44,7 @@ int main(int argc, char** argv)
 {
     platform::keepToolkitNotesAway();
     const platform::Engine engine;
-    QApplication application(argc, argv);
+    app::Application application(argc, argv);
     nameProgram();
     const QStringList files = filesOfCommandLine();
     app::SingleInstance instance(app::instanceSocketPath());
@@ -72,5 +72,5 @@ int main(int argc, char** argv)
         QMetaObject::invokeMethod(
             &window, [&window, files] { window.openFiles(files); }, Qt::QueuedConnection
         );
-    return QApplication::exec();
+    return app::Application::exec();
 }
