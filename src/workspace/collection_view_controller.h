@@ -110,7 +110,7 @@ private:
     );
     void selectFirstWhenNone();
     void showCount();
-    void showFileAt(int index);
+    void showFile(const QString& path);
     void sortByName(PhotoList::Order order);
     void rotateSelected(const QString& action, float angle);
     void editSelected(const QString& action, const QuickEdits::Edit& edit);

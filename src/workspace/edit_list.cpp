@@ -22,7 +22,6 @@ void cCollectionViewController::hRemoveSelectedPhotoObject()
     m_photos.removeAt(*index);
     if (selectsNonPhoto())
         showNoPhoto();
-    showFileAt(*index);
     showCount();
 }
 
@@ -34,7 +33,6 @@ void cCollectionViewController::hReplaceSelectedPhotoObject(const QString& path)
         return;
     }
     m_photos.removeAt(*index);
-    showFileAt(*index);
     showCount();
     m_photos.insert(*index, insertedEntry(path));
     showCount();

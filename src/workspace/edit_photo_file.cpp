@@ -56,7 +56,7 @@ void cCollectionViewController::editSelected(const QString& action, const QuickE
          .word = word}
     );
     m_photos.replaceAt(*index, editedEntry(path));
-    showFileAt(*index);
+    showFile(path);
     layWatermarkOver();
 }
 

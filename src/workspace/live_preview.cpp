@@ -51,11 +51,8 @@ void cCollectionViewController::showNoPhoto()
         m_neighbours.forgetPhoto();
 }
 
-void cCollectionViewController::showFileAt(int index)
+void cCollectionViewController::showFile(const QString& path)
 {
-    if (index < 0 || index >= m_photos.count())
-        return;
-    const QString path = m_photos.entries().at(index).myPhotoDescription;
     m_window.myTemplateOverlayPreview.clear();
     m_window.myTemplatePreview.setImage(m_previewPhotos.photo(path));
 }

@@ -81,6 +81,21 @@ TEST_F(EditList, TellsOfThePhotoThatTakesThePlaceOfARemovedOne)
     EXPECT_EQ(described, (QStringList{u"c.jpg"_qs, u"d.jpg"_qs, u"b.jpg"_qs}));
 }
 
+TEST_F(EditList, ShowsTheEffectOnThePhotoThatTakesThePlaceOfARemovedOne)
+{
+    int twins = 0;
+    subsystems.twins.setWatermarkTextPreview = countingTwin(twins);
+    fillWithPhotos();
+    photos.select(0);
+    panels.vwShowPreview.cbShowPreview.setState(1);
+
+    actions.send(u"hRemoveSelectedObject"_qs);
+
+    EXPECT_EQ(twins, 1);
+    EXPECT_TRUE(showsOverlay());
+    EXPECT_EQ(shownWidth(), 40);
+}
+
 TEST_F(EditList, TellsOfNoPhotoOnceTheListIsEmpty)
 {
     fillWithPhotos();
