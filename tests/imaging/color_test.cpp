@@ -65,6 +65,7 @@ const AcceptedCase acceptedCases[] = {
     {"Hash", u"#FF0000"_qs, u"FF0000"_qs},
     {"LowerCase", u"a1b2c3"_qs, u"A1B2C3"_qs},
     {"TextBehind", u"FF0000zz"_qs, u"FF0000"_qs},
+    {"BlanksInFront", u"  FF0000"_qs, u"FF0000"_qs},
     {"ThreeDigits", u"FFF"_qs, {}},
     {"SevenDigits", u"FF00001"_qs, {}},
     {"TwoHashes", u"##FF0000"_qs, {}},

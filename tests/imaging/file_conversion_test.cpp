@@ -367,3 +367,15 @@ TEST(SaveAsFileType, RemovesTheSourceFromAnotherFolder)
     EXPECT_EQ(filesOf(folder), QStringList());
     EXPECT_EQ(filesOf(other), QStringList{u"photo.jpeg"_qs});
 }
+
+TEST(FileConversion, TakesOnlyTheLastExtensionFromTheName)
+{
+    const TemporaryFolder folder;
+    const QString source = PhotoBuilder().write(folder.path(u"a.b.jpg"_qs));
+
+    const ConversionResult result = FileConversion().hConvertFileType(
+        {source, u"public.png"_qs, u"8"_qs, folder.path(u"out.png"_qs)}
+    );
+
+    EXPECT_EQ(result.name, u"a.b"_qs);
+}

@@ -318,9 +318,9 @@ TEST(Resize, DoesNotSupportAPhotoshopOrPdfFileThatKeepsItsType)
 {
     const TemporaryFolder folder;
     OutputTail tail = pngTail();
-    SavingHandling handling;
 
     for (const QString& type : {u"com.adobe.photoshop-image"_qs, u"com.adobe.pdf"_qs}) {
+        SavingHandling handling;
         tail.myFileType = type;
         const SourceAndBase photo{
             .source = folder.write(u"source"_qs, "8BPS"),
@@ -328,10 +328,13 @@ TEST(Resize, DoesNotSupportAPhotoshopOrPdfFileThatKeepsItsType)
         EXPECT_EQ(
             handling.hScalePhotosPercentage(photo, 50, Percentage, tail), ResultWord::NotSupported
         );
+        EXPECT_EQ(handling.storeResult(), ResultWord::NotSupported);
+        DVImageHandling other;
         EXPECT_EQ(
-            handling.hScalePhotosWidthAndHeight(photo, {10, 10}, covering, tail),
+            other.hScalePhotosWidthAndHeight(photo, {10, 10}, covering, tail),
             ResultWord::NotSupported
         );
+        EXPECT_EQ(other.storeResult(), ResultWord::NotSupported);
     }
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"source"_qs});
 }

@@ -249,3 +249,40 @@ TEST_F(TextWatermark, PreviewWithoutATextIsNothing)
 
     EXPECT_FALSE(mark.setWatermarkTextPreview(darkPhoto(QStringLiteral("a.jpg"))).has_value());
 }
+
+TEST_F(TextWatermark, IsCompressedAsTheLevelSays)
+{
+    const QString photo = PhotoBuilder()
+                              .size(160, 120)
+                              .gradient()
+                              .format(PhotoFormat::Png)
+                              .write(sources.path(QStringLiteral("a.png")));
+    const auto written = [&](const QString& level) {
+        mark.setWatermarkText(
+            {.photos = {photo},
+             .destination = folder.path(),
+             .outputType = QStringLiteral("public.jpeg"),
+             .compressionLevel = level,
+             .fileNameText = {},
+             .photoProperty = 0},
+            [](const MarkedPhoto&) {}
+        );
+        return QFileInfo(folder.path(QStringLiteral("a.jpg"))).size();
+    };
+
+    EXPECT_LT(written(QStringLiteral("1")), written(QStringLiteral("6")));
+    EXPECT_LT(written(QStringLiteral("6")), written(QStringLiteral("10")));
+}
+
+TEST_F(TextWatermark, PreviewStopsTheBar)
+{
+    const QString photo = darkPhoto(QStringLiteral("a.jpg"));
+    for (const QString& text : {QStringLiteral("a text"), QString()}) {
+        panel.tvWaterMarkText.setStringValue(text);
+        bar.setHidden(false);
+
+        (void)mark.setWatermarkTextPreview(photo);
+
+        EXPECT_TRUE(bar.isHidden());
+    }
+}

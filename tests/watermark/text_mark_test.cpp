@@ -267,3 +267,20 @@ TEST(TextMark, FilledWithThePhotoShowsItsBottomLeftCorner)
     EXPECT_NEAR(qRed(pixel), onLayer.x(), 1);
     EXPECT_NEAR(qGreen(pixel), photo.height() - overlay.size().height + onLayer.y(), 1);
 }
+
+TEST(TextMark, HasTheReliefOfTheWholeLayerWhereThePhotoCutsIt)
+{
+    TextWatermarkSettings settings = whiteBlock();
+    settings.effect = TextEffect::Relief1;
+    settings.fontSize = 200;
+    const TextOverlay overlay = overlayOf(settings);
+    const QImage whole = wholeLayer(overlay);
+    const QRect block = blockOnItsLayer(settings);
+
+    // The edge of the block lies a few pixels outside of what is shown.
+    for (const int distance : {1, 5, 9, 14}) {
+        const QRect part = block.adjusted(distance, distance, -distance, -distance);
+
+        EXPECT_EQ(overlay.rendered(part), whole.copy(part)) << distance;
+    }
+}

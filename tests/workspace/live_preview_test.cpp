@@ -255,8 +255,11 @@ TEST_F(LivePreview, ShowsAWatermarkAndNoCropBoxAfterSwappingTheSizeOfACrop)
     EXPECT_TRUE(showsOverlay());
 }
 
-TEST_F(LivePreview, SwapsTheOffsetsOfACrop)
+TEST_F(LivePreview, SwapsTheOffsetsOfACropAndDrawsTheOverlay)
 {
+    int watermarks = 0;
+    subsystems.twins.setWatermarkTextPreview = countingTwin(watermarks);
+    addPhotoWithPreview();
     auto& place = panels.vwCropPhotos.dvVCUiCropPositionView;
     place.tfXcropOffset.setStringValue(u"10"_qs);
     place.tfYcropOffset.setStringValue(u"20"_qs);
@@ -265,6 +268,23 @@ TEST_F(LivePreview, SwapsTheOffsetsOfACrop)
 
     EXPECT_EQ(place.tfXcropOffset.stringValue(), u"20"_qs);
     EXPECT_EQ(place.tfYcropOffset.stringValue(), u"10"_qs);
+    EXPECT_EQ(watermarks, 1);
+    EXPECT_TRUE(showsOverlay());
+}
+
+TEST_F(LivePreview, DrawsTheImageWatermarkOverACropWhileItsTabIsOpen)
+{
+    int texts = 0;
+    int images = 0;
+    subsystems.twins.setWatermarkTextPreview = countingTwin(texts);
+    subsystems.twins.setWatermarkImagePreview = countingTwin(images);
+    addPhotoWithPreview();
+    panels.vwWatermark.tbvWatermarkType.selectIndex(1);
+
+    user.pick(panels.vwCropPhotos.dvVCUiCropPositionView.scCropPosition, 2);
+
+    EXPECT_EQ(texts, 0);
+    EXPECT_EQ(images, 1);
 }
 
 TEST_F(LivePreview, SwapsTheBoxOfAResizeAndDrawsNothing)
@@ -282,16 +302,61 @@ TEST_F(LivePreview, SwapsTheBoxOfAResizeAndDrawsNothing)
     EXPECT_EQ(watermarks, 0);
 }
 
-TEST_F(LivePreview, SwapsNothingWhileAFileThatIsNoPhotoIsSelected)
+TEST_F(LivePreview, SwapsAndDrawsNothingWhileAFileThatIsNoPhotoIsSelected)
 {
+    int watermarks = 0;
+    subsystems.twins.setWatermarkTextPreview = countingTwin(watermarks);
     photos.append(nonPhoto(u"/gone/a.txt"_qs));
     photos.select(0);
+    panels.vwShowPreview.cbShowPreview.setState(1);
     auto& box = panels.vwResizePhotos.dvVCUiScaleFixView;
-    box.tfScaleFixWidth.setStringValue(u"300"_qs);
+    auto& size = panels.vwCropPhotos.dvVCUiCropWxHView;
+    auto& place = panels.vwCropPhotos.dvVCUiCropPositionView;
+    for (controls::TextField* field :
+         {&box.tfScaleFixWidth, &size.tfCropWidth, &place.tfXcropOffset})
+        field->setStringValue(u"300"_qs);
 
     user.press(box.btnFlipScaleFixWH);
+    user.press(size.btnFlipCropWH);
+    user.press(place.btnFlipCropXY);
+    user.pick(place.scCropPosition, 2);
 
     EXPECT_EQ(box.tfScaleFixWidth.stringValue(), u"300"_qs);
+    EXPECT_EQ(size.tfCropWidth.stringValue(), u"300"_qs);
+    EXPECT_EQ(place.tfXcropOffset.stringValue(), u"300"_qs);
+    EXPECT_EQ(watermarks, 0);
+    EXPECT_FALSE(showsOverlay());
+}
+
+TEST_F(LivePreview, IsDrawnAnewWhenItsBoxIsTicked)
+{
+    int calls = 0;
+    subsystems.twins.setWatermarkTextPreview = countingTwin(calls);
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+
+    user.tick(panels.vwShowPreview.cbShowPreview, 1);
+    EXPECT_EQ(calls, 1);
+    EXPECT_TRUE(showsOverlay());
+
+    user.tick(panels.vwShowPreview.cbShowPreview, 0);
+    EXPECT_EQ(calls, 1);
+    EXPECT_FALSE(showsOverlay());
+    EXPECT_TRUE(showsPhoto());
+}
+
+TEST_F(LivePreview, ClearsTheOverlayForThePictureOfATemplate)
+{
+    const auto picture = platform::Image::fromQImage(QImage(2, 2, QImage::Format_RGB32));
+    subsystems.imageNamed = [&picture](const QString&) { return picture; };
+    panels.window.myTemplateOverlayPreview.setImage(picture);
+
+    collectionView.callForHTMLTemplatePreview(u"Ex02XL.png"_qs);
+    EXPECT_TRUE(showsPhoto());
+    EXPECT_FALSE(showsOverlay());
+
+    panels.window.myTemplateOverlayPreview.setImage(picture);
+    collectionView.callForTemplatePreview();
+    EXPECT_FALSE(showsOverlay());
 }
 
 TEST_F(LivePreview, ClearsTheOverlayAtACropPositionWhileItIsOff)

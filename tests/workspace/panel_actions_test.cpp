@@ -155,7 +155,7 @@ TEST_F(PanelActions, EnableTheFieldsThatDependOnATint)
     EXPECT_FALSE(panel.tfAddTintHeight.isEnabled());
 }
 
-TEST_F(PanelActions, EnableTheFieldsThatDependOnRoundedCorners)
+TEST_F(PanelActions, EnableTheDiameterForPlainRoundedCornersOnly)
 {
     panels::RoundingsPanel& panel = panels.vwRoundings;
 
@@ -163,31 +163,53 @@ TEST_F(PanelActions, EnableTheFieldsThatDependOnRoundedCorners)
     EXPECT_FALSE(panel.tfRCDiameter.isEnabled());
     user.pick(panel.pubRCType, 0);
     EXPECT_TRUE(panel.tfRCDiameter.isEnabled());
+}
 
-    user.tick(panel.cbRCBackgroundColor, 1);
-    EXPECT_TRUE(panel.cwRCBackgroundColor.isEnabled());
-    EXPECT_TRUE(panel.tfRCBackgroundHexColor.isEnabled());
-    EXPECT_TRUE(panel.tfRCEnlargeCanvas.isEnabled());
+TEST_F(PanelActions, EnableTheFieldsOfTheBackgroundOfRoundedCornersWithTheirBox)
+{
+    panels::RoundingsPanel& panel = panels.vwRoundings;
+    for (const int state : {1, 0}) {
+        user.tick(panel.cbRCBackgroundColor, state);
 
-    user.tick(panel.cbRCBorderColor, 1);
-    EXPECT_TRUE(panel.cwRCBorderColor.isEnabled());
-    EXPECT_TRUE(panel.tfRCBorderHexColor.isEnabled());
-    EXPECT_TRUE(panel.tfRCBorderWidth.isEnabled());
-    EXPECT_TRUE(panel.pubRCBorderPos.isEnabled());
-    EXPECT_FALSE(panel.pubRCGradientAngle.isEnabled());
+        EXPECT_EQ(panel.cwRCBackgroundColor.isEnabled(), state == 1);
+        EXPECT_EQ(panel.tfRCBackgroundHexColor.isEnabled(), state == 1);
+        EXPECT_EQ(panel.tfRCEnlargeCanvas.isEnabled(), state == 1);
+    }
+}
+
+TEST_F(PanelActions, EnableTheFieldsOfTheBorderOfRoundedCornersWithTheirBox)
+{
+    panels::RoundingsPanel& panel = panels.vwRoundings;
+    for (const int state : {1, 0}) {
+        user.tick(panel.cbRCBorderColor, state);
+
+        EXPECT_EQ(panel.cwRCBorderColor.isEnabled(), state == 1);
+        EXPECT_EQ(panel.tfRCBorderHexColor.isEnabled(), state == 1);
+        EXPECT_EQ(panel.tfRCBorderWidth.isEnabled(), state == 1);
+        EXPECT_EQ(panel.pubRCBorderPos.isEnabled(), state == 1);
+        EXPECT_FALSE(panel.pubRCGradientAngle.isEnabled());
+    }
 
     user.tick(panel.cbRCGradient, 1);
     EXPECT_TRUE(panel.pubRCGradientAngle.isEnabled());
+    user.tick(panel.cbRCGradient, 0);
+    EXPECT_FALSE(panel.pubRCGradientAngle.isEnabled());
 }
 
-TEST_F(PanelActions, EnableTheFieldsThatDependOnRotationAndFraming)
+TEST_F(PanelActions, EnableTheFieldsOfTheBackgroundOfARotationWithTheirBox)
 {
     panels::RotatePanel& rotate = panels.vwRotatePhotos;
-    user.tick(rotate.cbRotationBackgroundColor, 1);
-    EXPECT_TRUE(rotate.cwRotationBackgroundColor.isEnabled());
-    EXPECT_TRUE(rotate.tfRotationBackgroundHexColor.isEnabled());
-    EXPECT_TRUE(rotate.tfRotationEnlargeCanvas.isEnabled());
+    for (const int state : {1, 0}) {
+        user.tick(rotate.cbRotationBackgroundColor, state);
 
+        EXPECT_EQ(rotate.cwRotationBackgroundColor.isEnabled(), state == 1);
+        EXPECT_EQ(rotate.tfRotationBackgroundHexColor.isEnabled(), state == 1);
+        EXPECT_EQ(rotate.tfRotationEnlargeCanvas.isEnabled(), state == 1);
+    }
+}
+
+TEST_F(PanelActions, EnableTheInsetForAFrameInsideOnly)
+{
     user.pick(panels.vwFraming.pubFramingType, 1);
     EXPECT_FALSE(panels.vwFraming.tfFramingInset.isEnabled());
     user.pick(panels.vwFraming.pubFramingType, 0);
