@@ -185,7 +185,7 @@ TEST(TextFill, TurnsWithItsLayer)
 
     const QImage found = marked(settings, photo).toQImage();
 
-    const QPoint inBlock = upright.center();
+    const QPoint inBlock = upright.topLeft() + QPoint(4, 6);
     const QPoint turned(layer.width - 1 - inBlock.x(), layer.height - 1 - inBlock.y());
     const QRgb pixel = found.pixel(turned);
     EXPECT_NEAR(qRed(pixel), inBlock.x(), 1);
@@ -231,6 +231,42 @@ TEST(TextFill, OfATileLargerThanThePhotoIsThatOfSmallOnes)
     const int x = 80 + tileSpan(photo.width(), layer.width).overhang;
     const int y = 60 + tileSpan(photo.height(), layer.height).overhang;
     EXPECT_EQ(found.pixel(80, 120 - 60), qRgb(x % 161, 120 - y % 121, 200));
+}
+
+TEST(TextFill, BeginsAnewInEachOfTheLargeTiles)
+{
+    QImage ground(6100, 12, QImage::Format_RGB32);
+    for (int y = 0; y < ground.height(); ++y) {
+        for (int x = 0; x < ground.width(); ++x)
+            ground.setPixel(x, y, qRgb(x % 256, y, x / 256));
+    }
+    const platform::Image photo = platform::Image::fromQImage(ground);
+    TextWatermarkSettings settings = blockOfThePhoto(5000);
+    settings.isTiled = true;
+    const platform::PixelSize layer = overlayOf(settings, photo).size();
+    ASSERT_GT(layer.width * layer.height, 16'000'000);
+    ASSERT_LT(layer.width, 4000);
+
+    const QImage found = marked(settings, photo).toQImage();
+
+    const int x = (5000 + tileSpan(photo.width(), layer.width).overhang) % layer.width;
+    const int y = (5 + tileSpan(photo.height(), layer.height).overhang) % layer.height;
+    EXPECT_EQ(found.pixel(5000, 11 - 5), qRgb(x % 256, 11 - y % 12, x / 256));
+}
+
+TEST(TextFill, OfADamagedPhotoLeavesNoMark)
+{
+    const TemporaryFolder folder;
+    const QByteArray whole
+        = PhotoBuilder().size(400, 300).gradient().format(PhotoFormat::Jpeg).bytes();
+    const QString path = folder.write(QStringLiteral("a.jpg"), whole.left(whole.size() / 2));
+    const auto photo = openedPhoto(path).uprightImage(
+        {.access = platform::ImageSource::Access::Random, .atLeast = {}}
+    );
+    ASSERT_TRUE(photo.has_value());
+    const TextWatermarkSettings settings = blockOfThePhoto();
+
+    EXPECT_TRUE(textMark(settings, settings.text, blockFont(), *photo).layer.isNull());
 }
 
 TEST(TextFill, HasTheStrengthOfTheOpacityOnce)

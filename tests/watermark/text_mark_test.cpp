@@ -284,3 +284,70 @@ TEST(TextMark, HasTheReliefOfTheWholeLayerWhereThePhotoCutsIt)
         EXPECT_EQ(overlay.rendered(part), whole.copy(part)) << distance;
     }
 }
+
+namespace {
+
+struct AttributeCase
+{
+    const char* name;
+    void (*set)(TextWatermarkSettings& settings);
+
+    friend void PrintTo(const AttributeCase& row, std::ostream* out) { *out << row.name; }
+};
+
+class TextMarkAttribute : public testing::TestWithParam<AttributeCase>
+{
+};
+
+} // namespace
+
+TEST_P(TextMarkAttribute, ChangesTheLayer)
+{
+    TextWatermarkSettings settings = whiteBlock();
+    settings.text = QStringLiteral("A text\nof lines");
+    const QImage plain = wholeLayer(overlayOf(settings));
+
+    GetParam().set(settings);
+
+    EXPECT_NE(wholeLayer(overlayOf(settings)), plain);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table,
+    TextMarkAttribute,
+    testing::Values(
+        AttributeCase{"Size", [](TextWatermarkSettings& settings) { settings.fontSize = 23; }},
+        AttributeCase{"Kerning", [](TextWatermarkSettings& settings) { settings.kerning = 3; }},
+        AttributeCase{"Leading", [](TextWatermarkSettings& settings) { settings.leading = 5; }},
+        AttributeCase{"Bold", [](TextWatermarkSettings& settings) { settings.isBold = true; }},
+        AttributeCase{
+            "Underline",
+            [](TextWatermarkSettings& settings) {
+                settings.underline = platform::UnderlineStyle::Single;
+            }},
+        AttributeCase{
+            "Alignment",
+            [](TextWatermarkSettings& settings) {
+                settings.alignment = platform::TextAlignment::Right;
+            }},
+        AttributeCase{"Stroke", [](TextWatermarkSettings& settings) { settings.strokeWidth = 3; }},
+        AttributeCase{
+            "Colour", [](TextWatermarkSettings& settings) { settings.fontColor = {.red = 1}; }}
+    ),
+    CaseName()
+);
+
+TEST(TextMark, LeansItsGlyphsWhenItIsItalic)
+{
+    TextWatermarkSettings settings = whiteBlock();
+    settings.fontSize = 100;
+    settings.text = block() + QLatin1Char(' ');
+    const QImage upright = wholeLayer(overlayOf(settings));
+    settings.text = block();
+    settings.isItalic = true;
+
+    const QImage slanted = wholeLayer(overlayOf(settings));
+
+    ASSERT_EQ(slanted.size(), upright.size());
+    EXPECT_NE(slanted, upright);
+}
