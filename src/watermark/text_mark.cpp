@@ -2,6 +2,7 @@
 #include "text_mark.h"
 
 #include "text_overlay.h"
+#include "tile_geometry.h"
 
 #include <QPainter>
 
@@ -90,20 +91,6 @@ Stamp stampOnce(const TextWatermarkSettings& settings, const TextOverlay& overla
     return stampOf(shownIn(rectOf(photo), settings, render));
 }
 
-/// Top left corner, on the photo, of one of the cells that cover it.
-QPoint cellCorner(const TileCell& cell, PixelSize overlay, PixelSize photo)
-{
-    const int left = -tileSpan(photo.width, overlay.width).overhang;
-    const int bottom = photo.height + tileSpan(photo.height, overlay.height).overhang;
-    return {left, bottom - cell.size.height};
-}
-
-/// Place of the overlay's top left corner in the cell.
-QPoint overlayInCell(const TileCell& cell, PixelSize overlay)
-{
-    return {cell.layerOrigin.x(), cell.size.height - cell.layerOrigin.y() - overlay.height};
-}
-
 TileCell cellOf(const TextWatermarkSettings& settings, const TextOverlay& overlay)
 {
     return tileCell(overlay.size(), settings.placement.xOffset, settings.placement.yOffset);
@@ -119,13 +106,6 @@ drawnCell(const TextWatermarkSettings& settings, const TextOverlay& overlay, con
         overlayInCell(cell, overlay.size()), overlay.rendered(rectOf(overlay.size()))
     );
     return image;
-}
-
-/// The largest of `start`, `start` - `step`, ... that does not lie behind `edge`, one step earlier
-/// at the most.
-int lastStepBefore(int start, int edge, int step)
-{
-    return start - ((start - edge + step - 1) / step) * step;
 }
 
 /// The cells that the photo shows, drawn into one layer of the photo's size.
@@ -163,30 +143,6 @@ QImage repeated(const QImage& cell, QPoint topLeft, const QSize& part)
     painter.setBrushOrigin(topLeft);
     painter.fillRect(image.rect(), QBrush(cell));
     return image;
-}
-
-/// The rectangle of the photo that the cells are drawn in.
-QRect tiledArea(PixelSize overlay, PixelSize photo)
-{
-    const TileSpan across = tileSpan(photo.width, overlay.width);
-    const TileSpan along = tileSpan(photo.height, overlay.height);
-    const int top = photo.height + along.overhang - along.length;
-    return {-across.overhang, top, across.length, along.length};
-}
-
-/// What is left of `whole` around `inner`, which lies in it: stripes above, below and beside.
-QList<QRect> stripesAround(const QRect& inner, const QRect& whole)
-{
-    if (inner.isEmpty())
-        return {whole};
-    const QRect rows(whole.left(), inner.top(), whole.width(), inner.height());
-    QList<QRect> stripes{
-        {whole.topLeft(), rows.topRight() - QPoint(0, 1)},
-        {rows.bottomLeft() + QPoint(0, 1), whole.bottomRight()},
-        {rows.topLeft(), inner.bottomLeft() - QPoint(1, 0)},
-        {inner.topRight() + QPoint(1, 0), rows.bottomRight()}};
-    stripes.removeIf([](const QRect& stripe) { return stripe.isEmpty(); });
-    return stripes;
 }
 
 /// Lays the shadow of the cells that are drawn in `tiled` into `stamp`, which repeats their cell.

@@ -306,6 +306,26 @@ TEST(TextFill, IsAsTransparentAsThePhoto)
     EXPECT_NEAR(qBlue(pixel), 30 + 20 * 0.4, 1);
 }
 
+TEST(TextFill, TakesNoColourFromWhatCannotBeSeenOfThePhoto)
+{
+    QImage ground(161, 121, QImage::Format_ARGB32);
+    for (int y = 0; y < ground.height(); ++y) {
+        for (int x = 0; x < ground.width(); ++x)
+            ground.setPixel(x, y, x % 2 == 0 ? qRgba(255, 0, 0, 255) : qRgba(0, 255, 0, 0));
+    }
+    TextWatermarkSettings settings = blockOfThePhoto(60, centre);
+    settings.placement.angle = 30; // between the photo's pixels
+
+    const QImage found = marked(settings, platform::Image::fromQImage(ground)).toQImage();
+
+    int green = 0;
+    for (int y = 0; y < found.height(); ++y) {
+        for (int x = 0; x < found.width(); ++x)
+            green = std::max(green, qGreen(found.pixel(x, y)));
+    }
+    EXPECT_LE(green, 1);
+}
+
 TEST(TextFill, StandsAboveItsOwnShadow)
 {
     const platform::Image photo = coordinates();
