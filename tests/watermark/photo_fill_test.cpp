@@ -243,13 +243,15 @@ TEST(TextFill, BeginsAnewInEachOfTheLargeTiles)
     const platform::Image photo = platform::Image::fromQImage(ground);
     TextWatermarkSettings settings = blockOfThePhoto(5000);
     settings.isTiled = true;
+    settings.placement.xOffset = 40;
     const platform::PixelSize layer = overlayOf(settings, photo).size();
     ASSERT_GT(layer.width * layer.height, 16'000'000);
     ASSERT_LT(layer.width, 4000);
 
     const QImage found = marked(settings, photo).toQImage();
 
-    const int x = (5000 + tileSpan(photo.width(), layer.width).overhang) % layer.width;
+    const int inCell = (5000 + tileSpan(photo.width(), layer.width).overhang) % (layer.width + 40);
+    const int x = inCell - 20;
     const int y = (5 + tileSpan(photo.height(), layer.height).overhang) % layer.height;
     EXPECT_EQ(found.pixel(5000, 11 - 5), qRgb(x % 256, 11 - y % 12, x / 256));
 }
