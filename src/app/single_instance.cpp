@@ -14,7 +14,7 @@ namespace {
 constexpr int patience = 500; ///< ms that reaching a running program may take
 /// ms that it may take to answer: between two photos of a run it takes no messages.
 constexpr int patienceForAnswer = 15'000;
-constexpr qint64 longestMessage = 4 * 1024 * 1024;
+constexpr qint64 longestMessage = qint64{4} * 1024 * 1024;
 
 QByteArray message(const QStringList& files)
 {

@@ -17,7 +17,7 @@ Misunderstanding CommandTable::run(const QStringList& words) const
     const auto& [name, entry] = *found;
     const QStringList arguments = words.mid(1);
     const bool tooMany
-        = entry.words.most != Words::Unlimited && arguments.size() > entry.words.most;
+        = entry.words.most != Words::unlimited && arguments.size() > entry.words.most;
     if (arguments.size() < entry.words.least || tooMany)
         return QStringLiteral("usage: %1 %2").arg(name, entry.words.usage).trimmed();
     return entry.command->run(arguments);

@@ -14,7 +14,7 @@ class CommandTable
 public:
     struct Words
     {
-        static constexpr int Unlimited = -1;
+        static constexpr int unlimited = -1;
 
         QString usage; ///< such as "NAME VALUE"
         int least = 0;

@@ -94,12 +94,12 @@ void addControlCommands(CommandTable& table, const ScriptContext& context)
     );
     table.add(
         QStringLiteral("show"),
-        {.usage = QStringLiteral("NAME..."), .least = 1, .most = CommandTable::Words::Unlimited},
+        {.usage = QStringLiteral("NAME..."), .least = 1, .most = CommandTable::Words::unlimited},
         std::make_unique<ShowCommand>(context)
     );
     table.add(
         QStringLiteral("state"),
-        {.usage = QStringLiteral("NAME..."), .least = 1, .most = CommandTable::Words::Unlimited},
+        {.usage = QStringLiteral("NAME..."), .least = 1, .most = CommandTable::Words::unlimited},
         std::make_unique<StateCommand>(context)
     );
 }

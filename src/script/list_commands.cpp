@@ -96,7 +96,7 @@ void addListCommands(CommandTable& table, const ScriptContext& context)
 {
     table.add(
         QStringLiteral("open"),
-        {.usage = QStringLiteral("PATH..."), .least = 1, .most = CommandTable::Words::Unlimited},
+        {.usage = QStringLiteral("PATH..."), .least = 1, .most = CommandTable::Words::unlimited},
         std::make_unique<OpenCommand>(context)
     );
     table.add(

@@ -13,7 +13,7 @@ public:
 
     [[nodiscard]] Misunderstanding run(const QStringList& arguments) const override
     {
-        const QString action = arguments.first();
+        const QString& action = arguments.first();
         const auto tag = tagIn(arguments.mid(1));
         if (!tag)
             return QStringLiteral("\"%1\" is no tag").arg(arguments.last());
@@ -69,7 +69,7 @@ public:
 
     [[nodiscard]] Misunderstanding run(const QStringList& arguments) const override
     {
-        const QString key = arguments.first();
+        const QString& key = arguments.first();
         if (arguments.size() > 1)
             defaults().set(key, arguments.at(1));
         else
@@ -91,7 +91,7 @@ void addProgramCommands(CommandTable& table, const ScriptContext& context)
         QStringLiteral("answer"),
         {.usage = QStringLiteral("PATH... or answer cancel"),
          .least = 1,
-         .most = CommandTable::Words::Unlimited},
+         .most = CommandTable::Words::unlimited},
         std::make_unique<AnswerCommand>(context)
     );
     table.add(

@@ -123,7 +123,7 @@ QByteArray pictureFont(QRgb color)
     };
     const auto count = int(tables.size());
     QByteArray directory = longs({0x10000}) + shorts({count, 128, 3, count * 16 - 128});
-    qint64 offset = directory.size() + 16 * count;
+    qint64 offset = directory.size() + qint64{16} * count;
     QByteArray body;
     for (const auto& [tag, table] : tables) {
         directory += tag + longs({0, offset + body.size(), table.size()});
