@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "claimed_size.h"
 #include "color_profile.h"
 #include "deferred_pixels.h"
 #include "photo_decoder.h"
 #include "qt_pixels.h"
 
+#include <platform/foundation/bytes.h>
+#include <platform/foundation/mapped_file.h>
 #include <platform/foundation/regular_file.h>
 
 #include <QFile>
@@ -28,6 +31,8 @@ struct BitmapFacts
     qint64 profileOffset = 0;
     qint64 profileSize = 0; ///< 0 without an embedded profile
     qint64 expectedSize = 0; ///< of the file; 0 when the pixels are compressed
+    quint32 runsOffset = 0;
+    int runsBits = 0; ///< of a pixel; 0 when the pixels are no run lengths
 };
 
 /// True when every colour of the palette is a grey.
@@ -82,6 +87,12 @@ BitmapFacts readFacts(const QByteArray& head, PixelSize size)
             = std::min(colors * entrySize, static_cast<qsizetype>(pixelsAt) - paletteAt);
         facts.isGray = isGrayPalette(head.mid(paletteAt, length), entrySize);
     }
+    constexpr quint32 runsOfEightBits = 1;
+    constexpr quint32 runsOfFourBits = 2;
+    if (compression == runsOfEightBits || compression == runsOfFourBits) {
+        facts.runsOffset = pixelsAt;
+        facts.runsBits = compression == runsOfEightBits ? 8 : 4;
+    }
     constexpr quint32 bitFields = 3;
     if (compression == 0 || compression == bitFields) {
         const qint64 rowBytes = (qint64{size.width} * bits + 31) / 32 * 4;
@@ -96,6 +107,14 @@ QByteArray embeddedProfile(QFile& file, const BitmapFacts& facts)
         return {};
     const QByteArray profile = file.read(facts.profileSize);
     return profile.size() == facts.profileSize ? profile : QByteArray();
+}
+
+bool holdsWholeRuns(const QString& path, const BitmapFacts& facts, PixelSize size)
+{
+    if (facts.runsBits == 0)
+        return true;
+    const MappedFile file(path);
+    return holdsWholeRuns(tailOf(file.bytes(), facts.runsOffset), facts.runsBits, size);
 }
 
 /// A bitmap file; decoded whole.
@@ -117,7 +136,7 @@ public:
             = {size.width(), std::abs(size.height())}; // negative: from the top down
         checkDecodedWhole(m_header.storedSize);
         const BitmapFacts facts = readFacts(file.read(headLength), m_header.storedSize);
-        if (file.size() < facts.expectedSize)
+        if (file.size() < facts.expectedSize || !holdsWholeRuns(m_path, facts, m_header.storedSize))
             throw vips::VError("the bitmap is truncated");
         m_header.uprightSize = m_header.storedSize;
         m_header.typeIdentifier = QStringLiteral("com.microsoft.bmp");

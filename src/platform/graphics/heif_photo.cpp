@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "claimed_size.h"
 #include "color_profile.h"
 #include "deferred_pixels.h"
 #include "heif_handles.h"
@@ -161,6 +162,7 @@ public:
         m_header.uprightSize
             = {heif_image_handle_get_width(handle), heif_image_handle_get_height(handle)};
         checkDecodedWhole(m_header.uprightSize);
+        checkClaimedSize(m_path, typeIdentifier, m_header.uprightSize);
         m_header.storedSize = codedSize(m_path, handle, m_header.uprightSize);
         m_header.typeIdentifier = typeIdentifier;
         m_header.bitsPerComponent = heif_image_handle_get_luma_bits_per_pixel(handle) > 8 ? 16 : 8;

@@ -7,6 +7,7 @@
 #include <platform/containers/type_identifier.h>
 #include <platform/foundation/log.h>
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 
@@ -55,7 +56,8 @@ int largestShrink(
     int best = 1;
     for (const int factor : decoder.shrinkFactors()) {
         // A decoder that shrinks rounds the sides down.
-        if (full.width / factor >= atLeast->width && full.height / factor >= atLeast->height)
+        if (full.width / factor >= std::max(atLeast->width, 1)
+            && full.height / factor >= std::max(atLeast->height, 1))
             best = factor;
     }
     return best;

@@ -18,7 +18,7 @@ std::size_t rowCount(const PsdFile& file)
     return static_cast<std::size_t>(file.channels) * static_cast<std::size_t>(file.size.height);
 }
 
-std::vector<std::uint64_t> packedRowOffsets(const PsdFile& file)
+std::vector<std::uint64_t> packedRowOffsets(const PsdFile& file, std::uint64_t rowBytes)
 {
     const std::uint64_t width = file.isLarge ? 4 : 2;
     const std::size_t rows = rowCount(file);
@@ -29,6 +29,9 @@ std::vector<std::uint64_t> packedRowOffsets(const PsdFile& file)
     for (std::size_t row = 0; row < rows; ++row) {
         const auto length
             = unsignedAt(file.samples, row * width, static_cast<int>(width), ByteOrder::Big);
+        constexpr std::uint64_t mostOfAByte = 64; // a run of two bytes makes 128
+        if (*length * mostOfAByte < rowBytes)
+            throwDamaged();
         offsets.push_back(offsets.back() + *length);
     }
     if (offsets.back() > static_cast<std::uint64_t>(file.samples.size()))
@@ -68,7 +71,7 @@ PsdRows::PsdRows(const PsdFile& file)
     , m_rowBytes((qsizetype{file.size.width} * file.bitsPerSample + 7) / 8)
 {
     if (file.compression == PsdCompression::RunLengths)
-        m_offsets = packedRowOffsets(file);
+        m_offsets = packedRowOffsets(file, static_cast<std::uint64_t>(m_rowBytes));
     else if (!sliceOf(file.samples, 0, rowCount(file) * static_cast<std::uint64_t>(m_rowBytes)))
         throwDamaged();
 }

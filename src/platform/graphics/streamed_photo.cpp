@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "claimed_size.h"
 #include "color_profile.h"
 #include "jpeg2000_boxes.h"
+#include "jpeg_rows.h"
 #include "photo_decoder.h"
 #include "png_labels.h"
+#include "tiff_samples.h"
 
 #include <platform/containers/mapped_file.h>
 
@@ -52,6 +55,11 @@ vips::VImage load(const char* loader, const QString& path, int shrink)
         options->set("shrink", shrink);
     vips::VImage::call(loader, options);
     return out;
+}
+
+vips::VImage loadJpeg(const QString& path, int shrink)
+{
+    return jpegRows(path, shrink, load("jpegload", path, shrink));
 }
 
 int integerField(const vips::VImage& decoded, const char* name, int fallback)
@@ -120,6 +128,7 @@ public:
         m_header.colorModel = isLab ? ColorModel::Lab : node.colorModel;
         m_header.hasAlpha = node.hasAlpha;
         m_labels = fileLabels(m_path, m_header.typeIdentifier);
+        checkBytes();
         m_header.dotsPerInch = m_labels.dotsPerInch.value_or(node.dotsPerInch);
     }
 
@@ -132,7 +141,9 @@ public:
 
     [[nodiscard]] ImageNode storedPixels(int shrink) const override
     {
-        ImageNode node = nodeOfDecodedPixels(load(m_loader, m_path, shrink));
+        ImageNode node = nodeOfDecodedPixels(
+            m_isJpeg ? loadJpeg(m_path, shrink) : load(m_loader, m_path, shrink)
+        );
         node.dotsPerInch = m_header.dotsPerInch;
         if (!m_labels.iccProfile.isEmpty())
             node.iccProfile = usableProfile(m_labels.iccProfile, node.colorModel);
@@ -140,6 +151,17 @@ public:
     }
 
 private:
+    /// Refuses a file that is too short for its header.
+    void checkBytes() const
+    {
+        if (m_isJpeg)
+            checkJpegSize(m_path);
+        else if (m_header.typeIdentifier == QLatin1String("public.tiff"))
+            checkTiffSize(m_path);
+        else
+            checkClaimedSize(m_path, m_header.typeIdentifier, m_header.storedSize);
+    }
+
     QString m_path;
     const char* m_loader;
     bool m_isJpeg;

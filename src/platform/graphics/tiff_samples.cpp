@@ -4,6 +4,7 @@
 #include "image_node.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <tiffio.h>
 
@@ -206,6 +207,33 @@ void readSeparateTiles(TIFF* file, const TiffSamples& samples, const vips::VImag
     }
 }
 
+/// What a byte of a compression can stand for, rather too much than too little.
+double mostBytesOfAByte(int compression, uint32_t width)
+{
+    switch (compression) {
+    case COMPRESSION_NONE:
+        return 2; // strips may share their bytes
+    case COMPRESSION_PACKBITS:
+        return 64; // a run of two bytes makes 128
+    case COMPRESSION_LZW:
+        return 2 * 4096; // a code of at least nine bits, the longest string
+    case COMPRESSION_DEFLATE:
+    case COMPRESSION_ADOBE_DEFLATE:
+        return 1032; // 258 bytes by two bits
+    case COMPRESSION_JPEG:
+    case COMPRESSION_OJPEG:
+        return 8 * 8 * 8 * 4; // four samples of each pixel of a block by a bit
+    case COMPRESSION_CCITTRLE:
+    case COMPRESSION_CCITTRLEW:
+    case COMPRESSION_CCITTFAX3:
+    case COMPRESSION_CCITTFAX4:
+        return static_cast<double>(width)
+            + bitsOfByte; // a row of the colour of the one above takes a bit
+    default:
+        return 1 << 16; // ZSTD repeats a byte 2^17 times by four
+    }
+}
+
 } // namespace
 
 PixelLayout layoutOf(const TiffSamples& samples)
@@ -245,6 +273,22 @@ std::optional<TiffSamples> samplesBeyondTheEngine(const QString& path)
         .bits = isDeep ? 2 * bitsOfByte : bitsOfByte,
         .orientation = orientation >= 1 && orientation <= 8 ? orientation : 1,
         .labels = labelsOf(file.get())};
+}
+
+void checkTiffSize(const QString& path)
+{
+    const TiffHandle file = openTiff(path);
+    uint32_t width = 0;
+    uint32_t height = 0;
+    if (!file || TIFFGetField(file.get(), TIFFTAG_IMAGEWIDTH, &width) == 0
+        || TIFFGetField(file.get(), TIFFTAG_IMAGELENGTH, &height) == 0)
+        throwDamaged();
+    const double samples
+        = static_cast<double>(width) * height * numberOf(file.get(), TIFFTAG_SAMPLESPERPIXEL, 1);
+    const double bytes = samples * numberOf(file.get(), TIFFTAG_BITSPERSAMPLE, 1) / bitsOfByte;
+    const int compression = numberOf(file.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
+    if (bytes > static_cast<double>(QFileInfo(path).size()) * mostBytesOfAByte(compression, width))
+        throw vips::VError("the file is too short for the size it claims");
 }
 
 vips::VImage readTiffSamples(const QString& path, const TiffSamples& samples)

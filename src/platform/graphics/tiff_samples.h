@@ -29,6 +29,9 @@ struct TiffSamples
 /// What the first page of the file holds; nothing when the engine can read it, or nobody can.
 [[nodiscard]] std::optional<TiffSamples> samplesBeyondTheEngine(const QString& path);
 
+/// @throws vips::VError when the first page claims more than the file's bytes can hold.
+void checkTiffSize(const QString& path);
+
 /// The stored pixels in memory. Throws `vips::VError` when the file is damaged.
 [[nodiscard]] vips::VImage readTiffSamples(const QString& path, const TiffSamples& samples);
 

@@ -400,6 +400,50 @@ TEST(ImageSource, DropsAProfileThatTellsNothing)
     EXPECT_FALSE(storedPixels(path).isNull());
 }
 
+class ImageSourceJpeg : public testing::TestWithParam<DamageCase>
+{
+};
+
+TEST_P(ImageSourceJpeg, FailsWhenItsDataEndEarlyWithAnEndMarker)
+{
+    const TemporaryFolder folder;
+    const LogLines log;
+    const QByteArray whole = PhotoBuilder().size(200, 150).format(GetParam().format).bytes();
+    const QByteArray ended = whole.first(whole.size() * 7 / 10) + QByteArray("\xFF\xD9");
+    const QString path = folder.write(QStringLiteral("a.jpg"), ended);
+
+    EXPECT_TRUE(storedPixels(path).isNull());
+    EXPECT_TRUE(openedPhoto(path).image({.atLeast = PixelSize{20, 15}})->toQImage().isNull());
+    EXPECT_THAT(
+        log.lines().join(QLatin1Char(' ')).toStdString(),
+        testing::HasSubstr("premature end of data segment")
+    );
+}
+
+TEST_P(ImageSourceJpeg, ForgivesStrayBytesBetweenItsSegments)
+{
+    const TemporaryFolder folder;
+    const LogLines log;
+    const QByteArray whole = PhotoBuilder().size(200, 150).format(GetParam().format).bytes();
+    QByteArray stray = whole;
+    stray.insert(whole.indexOf("\xFF\xC4"), QByteArray(2, '\0')); // before a code table
+
+    const QImage pixels = storedPixels(folder.write(QStringLiteral("a.jpg"), stray));
+
+    EXPECT_EQ(pixels, storedPixels(folder.write(QStringLiteral("b.jpg"), whole)));
+    EXPECT_EQ(pixels.size(), QSize(200, 150));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds,
+    ImageSourceJpeg,
+    testing::Values(
+        DamageCase{"Baseline", PhotoFormat::Jpeg},
+        DamageCase{"Progressive", PhotoFormat::ProgressiveJpeg}
+    ),
+    CaseName()
+);
+
 /// A JPEG whose frame header claims another size.
 QByteArray jpegOfClaimedSize(PhotoFormat format, quint16 side)
 {
@@ -415,8 +459,9 @@ TEST(ImageSource, RefusesAbsurdSizes)
 {
     const TemporaryFolder folder;
     const auto opens = [&folder](PhotoFormat format, quint16 side) {
+        const QByteArray room(1 << 20, '\0'); // a shorter file would be refused anyway
         return ImageSource::open(
-                   folder.write(QStringLiteral("a.jpg"), jpegOfClaimedSize(format, side))
+                   folder.write(QStringLiteral("a.jpg"), jpegOfClaimedSize(format, side) + room)
         )
             .has_value();
     };
