@@ -162,6 +162,7 @@ public:
             .format = VIPS_FORMAT_UCHAR,
             .interpretation = interpretationOf(node.colorModel, VIPS_FORMAT_UCHAR),
         };
+        node.decodingBytes = sizeOf(layout);
         node.pixels = deferredPixels(layout, [path = m_path, layout] {
             QImageReader reader(path, "bmp");
             const QImage image = reader.read();

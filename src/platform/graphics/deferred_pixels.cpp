@@ -93,6 +93,12 @@ void setLayout(VipsImage* image, const PixelLayout& layout)
 
 } // namespace
 
+std::size_t sizeOf(const PixelLayout& layout)
+{
+    return static_cast<std::size_t>(layout.width) * static_cast<std::size_t>(layout.height)
+        * static_cast<std::size_t>(layout.bands) * vips_format_sizeof(layout.format);
+}
+
 PixelLayout layoutOf(const vips::VImage& pixels)
 {
     return {

@@ -19,6 +19,9 @@ struct PixelLayout
     VipsInterpretation interpretation = VIPS_INTERPRETATION_sRGB;
 };
 
+/// Bytes of the pixels.
+[[nodiscard]] std::size_t sizeOf(const PixelLayout& layout);
+
 [[nodiscard]] PixelLayout layoutOf(const vips::VImage& pixels);
 
 /// Pixels in memory, not set yet.

@@ -202,6 +202,7 @@ private:
         node.hasAlpha = m_header.hasAlpha;
         node.iccProfile = m_iccProfile;
         node.dotsPerInch = m_header.dotsPerInch;
+        node.decodingBytes = sizeOf(layout);
         node.pixels = deferredPixels(layout, [path = m_path, layout, chroma, geometry] {
             const OpenedHeif file = openHeif(path);
             const HeifImage decoded = decodedImage(file.primary.get(), chroma, geometry);

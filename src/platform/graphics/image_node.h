@@ -21,6 +21,7 @@ struct ImageNode
     bool hasAlpha = false;
     QByteArray iccProfile = {}; ///< fits the colour model, or is empty
     double dotsPerInch = 72;
+    std::size_t decodingBytes = 0; ///< memory that the decoder of the photo takes beside
     std::shared_ptr<const ImageNode> stampedOn = {}; ///< what a stamp was laid on; may be null
     std::function<PixelRect()> stampedPart = {}; ///< part that differs from `stampedOn`; may throw
 

@@ -23,7 +23,8 @@ void checkMemoryForWholePicture(const ImageNode& node, int bytesPerPixel)
 {
     const auto width = static_cast<std::size_t>(node.pixels.width());
     const auto height = static_cast<std::size_t>(node.pixels.height());
-    if (!isAvailable(width * height * static_cast<std::size_t>(bytesPerPixel)))
+    const std::size_t own = width * height * static_cast<std::size_t>(bytesPerPixel);
+    if (!isAvailable(own + node.decodingBytes))
         throw vips::VError(
             "not enough memory for " + std::to_string(width) + " x " + std::to_string(height)
             + " pixels"

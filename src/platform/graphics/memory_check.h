@@ -6,8 +6,8 @@
 namespace brenvaldo::platform {
 
 /// For encoders that hold the whole picture and crash where memory ends.
-/// @throws vips::VError "not enough memory …" when `bytesPerPixel` for each pixel can't be had at
-/// present.
+/// @throws vips::VError "not enough memory …" when `bytesPerPixel` for each pixel, and what the
+/// decoder takes besides, can't be had at present.
 void checkMemoryForWholePicture(const ImageNode& node, int bytesPerPixel);
 
 } // namespace brenvaldo::platform

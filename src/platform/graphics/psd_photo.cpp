@@ -209,6 +209,7 @@ public:
         node.hasAlpha = m_header.hasAlpha;
         node.iccProfile = m_profile;
         node.dotsPerInch = m_header.dotsPerInch;
+        node.decodingBytes = sizeOf(layout);
         node.pixels = deferredPixels(layout, [path = m_path, format] {
             const MappedFile mapped(path);
             const PsdFile file = readPsdFile(mapped.bytes());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "claimed_size.h"
 #include "color_profile.h"
+#include "deferred_pixels.h"
 #include "jpeg2000_boxes.h"
 #include "jpeg_rows.h"
 #include "photo_decoder.h"
@@ -73,15 +74,19 @@ int statedOrientation(const vips::VImage& decoded)
     return orientation >= 1 && orientation <= 8 ? orientation : 1;
 }
 
+bool isProgressiveJpeg(const vips::VImage& decoded)
+{
+    return integerField(decoded, "interlaced", 0) != 0
+        || integerField(decoded, "jpeg-multiscan", 0) != 0;
+}
+
 /// Refuses pictures that would take absurd amounts of time and memory.
 void checkSize(const vips::VImage& decoded, bool isJpeg)
 {
     constexpr qint64 mostPixels = qint64{1} << 30;
     constexpr qint64 mostProgressivePixels = qint64{1} << 28; // all coefficients stay in memory
     constexpr int mostBands = 64;
-    const bool isProgressive = isJpeg
-        && (integerField(decoded, "interlaced", 0) != 0
-            || integerField(decoded, "jpeg-multiscan", 0) != 0);
+    const bool isProgressive = isJpeg && isProgressiveJpeg(decoded);
     const qint64 pixels = qint64{decoded.width()} * decoded.height();
     if (pixels > (isProgressive ? mostProgressivePixels : mostPixels)
         || decoded.bands() > mostBands)
@@ -118,6 +123,8 @@ public:
         const vips::VImage decoded = load(m_loader, m_path, 1);
         checkSize(decoded, m_isJpeg);
         const ImageNode node = nodeOfDecodedPixels(decoded);
+        if (m_isJpeg && isProgressiveJpeg(decoded))
+            m_decodingBytes = sizeOf(layoutOf(decoded)) * sizeof(short); // all its coefficients
         m_header.storedSize = {decoded.width(), decoded.height()};
         m_header.orientation = statedOrientation(decoded);
         m_header.uprightSize = uprightSize(m_header.storedSize, m_header.orientation);
@@ -145,6 +152,7 @@ public:
             m_isJpeg ? loadJpeg(m_path, shrink) : load(m_loader, m_path, shrink)
         );
         node.dotsPerInch = m_header.dotsPerInch;
+        node.decodingBytes = m_decodingBytes;
         if (!m_labels.iccProfile.isEmpty())
             node.iccProfile = usableProfile(m_labels.iccProfile, node.colorModel);
         return node;
@@ -166,6 +174,7 @@ private:
     const char* m_loader;
     bool m_isJpeg;
     ImageHeader m_header;
+    std::size_t m_decodingBytes = 0;
     FileLabels m_labels;
 };
 

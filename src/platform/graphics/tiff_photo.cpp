@@ -36,6 +36,7 @@ public:
         node.hasAlpha = m_header.hasAlpha;
         node.dotsPerInch = m_header.dotsPerInch;
         node.iccProfile = usableProfile(m_samples.labels.iccProfile, node.colorModel);
+        node.decodingBytes = sizeOf(layoutOf(m_samples));
         node.pixels = deferredPixels(layoutOf(m_samples), [path = m_path, samples = m_samples] {
             return readTiffSamples(path, samples);
         });
