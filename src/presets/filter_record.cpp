@@ -125,12 +125,12 @@ RecordFields monochromeFields(panels::FilterMonochromeView& view)
     const When all = whenFilterIs({squareCanvas, framedCanvas, monochrome});
     return {
         only(color, whenFilterIs({framedCanvas, monochrome})),
-        only(color, whenFilterIs({squareCanvas}), Use::OnlyWritten),
         only(
             hexColorField(4, view.cwFilterMonochromeColor),
             whenFilterIs({squareCanvas}),
             Use::OnlyRead
         ),
+        only(color, whenFilterIs({squareCanvas}), Use::OnlyWritten),
         only({5, TextForm{&view.tfFilterMonochromeHexColor}}, all),
         only({6, IndexForm{&view.pubFilterMonochromeIntensity}}, all),
     };

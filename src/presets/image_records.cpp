@@ -86,16 +86,16 @@ PresetRecord tintRecord(panels::Panels& panels)
             {19, tabForm(tint.tbvFrameType)},
             {20, ColorForm{&tint.cwAddTint}},
             // The output choices are read from where no tint preset has them: a load resets them.
-            {.position = 21, .form = IndexForm{&orientation}, .use = Use::OnlyWritten},
-            {.position = 23, .form = IndexForm{&files.pubFileType}, .use = Use::OnlyWritten},
-            {.position = 24,
-             .form = IndexForm{&files.pubJPEGCompressionLevel},
-             .use = Use::OnlyWritten},
             {.position = 33, .form = IndexForm{&orientation}, .use = Use::OnlyRead},
             {.position = 35, .form = IndexForm{&files.pubFileType}, .use = Use::OnlyRead},
             {.position = 36,
              .form = IndexForm{&files.pubJPEGCompressionLevel},
              .use = Use::OnlyRead},
+            {.position = 21, .form = IndexForm{&orientation}, .use = Use::OnlyWritten},
+            {.position = 23, .form = IndexForm{&files.pubFileType}, .use = Use::OnlyWritten},
+            {.position = 24,
+             .form = IndexForm{&files.pubJPEGCompressionLevel},
+             .use = Use::OnlyWritten},
         }
     );
 }

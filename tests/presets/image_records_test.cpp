@@ -153,6 +153,20 @@ TEST(TintRecord, AlwaysComesBackWithTheFirstOutputChoices)
     EXPECT_EQ(bench.panels.vwFileType.pubJPEGCompressionLevel.indexOfSelectedItem(), 0);
 }
 
+TEST(TintRecord, ReadsTheOutputChoicesWhereAnImageWatermarkHasThem)
+{
+    Bench bench(u"addTint"_qs);
+    bench.save(u"A"_qs);
+    (void)bench.file.rows("update Presets set StrField33 = '2', StrField35 = '3', StrField36 = '4'"
+    );
+
+    bench.apply(0);
+
+    EXPECT_EQ(bench.panels.vwApplyOn.pubPhotoOrientation.indexOfSelectedItem(), 2);
+    EXPECT_EQ(bench.panels.vwFileType.pubFileType.indexOfSelectedItem(), 3);
+    EXPECT_EQ(bench.panels.vwFileType.pubJPEGCompressionLevel.indexOfSelectedItem(), 4);
+}
+
 TEST(TintRecord, KeepsTheTabByItsLabelAndLeavesItForAnother)
 {
     Bench bench(u"addTint"_qs);
