@@ -81,12 +81,11 @@ QList<controls::Accessory> cToolBox::formatAccessories()
 
 void cToolBox::hSaveDialogFile(const QString& source)
 {
-    m_panel = panelForType(
-        pubFileType.titleOfSelectedItem(),
-        platform::deletingPathExtension(platform::lastPathComponent(source))
-    );
-    m_panel.startFolder = platform::desktopFolder();
-    m_panel.accessories = formatAccessories();
+    m_panel
+        = {.suggestedName = platform::deletingPathExtension(platform::lastPathComponent(source)),
+           .allowsOtherTypes = false,
+           .startFolder = platform::desktopFolder(),
+           .accessories = formatAccessories()};
     hChooseFileType();
     hChooseCompType();
     const auto chosen = m_surroundings.chooser.save(m_panel);

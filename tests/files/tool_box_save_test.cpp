@@ -154,6 +154,20 @@ TEST_F(PhotoCopyPanel, AllowsTheTypeThatIsPickedWhileItIsOpen)
     EXPECT_TRUE(QFileInfo::exists(folder.path(u"copy.png"_qs)));
 }
 
+TEST_F(PhotoCopyPanel, TakesTheQualityThatWasPickedBefore)
+{
+    box.pubJPEGcompression.selectItemAtIndex(0);
+    answer(u"small"_qs, u"jpeg"_qs);
+    box.hSaveDialogFile(source);
+    box.pubJPEGcompression.selectItemAtIndex(7);
+    answer(u"fine"_qs, u"jpeg"_qs);
+    box.hSaveDialogFile(source);
+
+    const QByteArray small = TemporaryFolder::read(folder.path(u"small.jpeg"_qs));
+    EXPECT_FALSE(small.isEmpty());
+    EXPECT_NE(small, TemporaryFolder::read(folder.path(u"fine.jpeg"_qs)));
+}
+
 TEST_F(PhotoCopyPanel, WritesEveryImageType)
 {
     const QList<std::pair<QString, QString>> types
