@@ -589,7 +589,7 @@ TEST_F(MainWindow, RunsAFunctionThatComesLaterByItsActionAllTheSame)
     workspace.actions().send(u"cGUIcontrols.hLoadImages"_qs);
 
     ASSERT_EQ(workspace.journal().records().size(), 1);
-    EXPECT_EQ(workspace.journal().records().first().word, u"Failed"_qs);
+    EXPECT_EQ(text(workspace.journal().records().first().word), u"Failed"_qs);
 }
 
 TEST_F(MainWindow, FollowsTheSchemeWhileItIsOpen)

@@ -2,6 +2,9 @@
 #include "controller_fixture.h"
 
 #include <workspace/app_delegate.h>
+#include <workspace/metadata_keys.h>
+#include <workspace/preview_notifications.h>
+#include <workspace/run/run_offer.h>
 #include <workspace/workspace.h>
 
 #include <support/environment.h>
@@ -441,4 +444,41 @@ TEST_F(WorkspaceTest, RaisesNothingWhenControlsAreTouchedOnAnEmptyList)
     }
 
     EXPECT_EQ(raised, QStringList());
+}
+
+TEST_F(WorkspaceTest, OffersNothingForAnUploadTabThatWasLeft)
+{
+    std::vector<workspace::Function> functions = workspace::functions();
+    for (workspace::Function& function : functions) {
+        if (auto* run = std::get_if<workspace::InPlaceRun>(&function.run))
+            run->read = [](const auto&, const QString&) {
+                return [] { return imaging::ResultWord::Ok; };
+            };
+    }
+    workspace::Workspace own{
+        {.chooser = chooser, .desktop = desktop, .defaults = defaults},
+        workspace::Functions(functions)};
+    own.start();
+    own.openFiles(
+        {test::PhotoBuilder().size(40, 30).write(folder.path(u"wide.jpg"_qs)),
+         test::PhotoBuilder().size(30, 40).write(folder.path(u"tall.jpg"_qs))}
+    );
+    own.panels().vwApplyOn.pubPhotoOrientation.selectIndex(1);
+    controls::UserInput user(own.actions());
+    auto& functionsOfFiles = own.panels().window.pubFileManagementSelect;
+    int told = 0;
+    const auto subscription = own.functionSelected().connect([&told] { ++told; });
+
+    user.press(own.panels().window.btnFileManagement);
+    user.pick(own.panels().vwFileManagementSorting.mySortTabView, 2);
+    EXPECT_EQ(own.runOffer(), workspace::RunOffer::Run);
+    EXPECT_EQ(own.photosOfRun(), QStringList{folder.path(u"wide.jpg"_qs)});
+    EXPECT_EQ(told, 2);
+
+    user.pick(functionsOfFiles, 1);
+    EXPECT_EQ(own.photosOfRun(), QStringList{folder.path(u"wide.jpg"_qs)});
+
+    user.pick(functionsOfFiles, 0);
+    EXPECT_EQ(own.runOffer(), workspace::RunOffer::ComesLater);
+    EXPECT_EQ(own.photosOfRun(), QStringList());
 }
