@@ -138,8 +138,14 @@ QByteArray thumbnailAlone(QByteArrayView exif)
     const auto count = unsignedAt(exif, offset, 2, file->order());
 
     QByteArray block(tiffHeaderLength, '\0');
-    for (const Range& range : thumbnailRanges(*file, count.value_or(0)))
+    // Ranges of an honest block do not overlap, but for a value that is the picture as well.
+    auto budget = 2 * static_cast<std::uint64_t>(exif.size());
+    for (const Range& range : thumbnailRanges(*file, count.value_or(0))) {
+        if (range.length > budget)
+            break;
+        budget -= range.length;
         copyRange(block, exif, range);
+    }
     block.append(4, '\0'); // no third directory, should the second stand last
     padToEven(block);
     block.replace(

@@ -8,6 +8,7 @@
 #include <platform/containers/photoshop_resources.h>
 
 #include <QHash>
+#include <QSet>
 
 #include <algorithm>
 
@@ -65,24 +66,27 @@ QList<Item> itemsOf(QByteArrayView information)
 }
 
 /// The items that describe item `primary`.
-QList<ItemId> descriptionsOf(QByteArrayView references, ItemId primary)
+QSet<ItemId> descriptionsOf(QByteArrayView references, ItemId primary)
 {
     const int idWidth = numberAt(references, 0, 1) == 0 ? 2 : 4;
     const auto step = static_cast<std::uint64_t>(idWidth);
-    QList<ItemId> ids;
+    QSet<ItemId> ids;
     for (const IsoBox& box : isoBoxes(tailOf(references, 4))) {
         if (box.type != QByteArrayView("cdsc"))
             continue;
         const std::uint64_t count = numberAt(box.payload, step, 2);
         for (std::uint64_t i = 0; i < count; ++i) {
-            if (unsignedAt(box.payload, step + 2 + i * step, idWidth, ByteOrder::Big) == primary)
-                ids.append(numberAt(box.payload, 0, idWidth));
+            const auto to = unsignedAt(box.payload, step + 2 + i * step, idWidth, ByteOrder::Big);
+            if (!to)
+                break;
+            if (*to == primary)
+                ids.insert(numberAt(box.payload, 0, idWidth));
         }
     }
     return ids;
 }
 
-/// Reads the item location box, entry by entry.
+/// What the item location box tells, read once: a file may hold as many items as entries.
 class Locations
 {
 public:
@@ -96,50 +100,79 @@ public:
         m_lengthWidth = static_cast<int>(numberAt(m_box, 4, 1) & 15U);
         m_baseWidth = static_cast<int>(numberAt(m_box, 5, 1) >> 4U);
         m_indexWidth = m_version == 0 ? 0 : static_cast<int>(numberAt(m_box, 5, 1) & 15U);
+        if (isSane())
+            readEntries();
     }
 
-    /// The bytes of item `wanted`; empty when they do not stand in this file.
-    QByteArray dataOf(ItemId wanted)
+    /// The bytes of item `wanted`, once; empty when they do not stand in this file.
+    QByteArray take(ItemId wanted)
     {
-        const bool isSane = m_offsetWidth <= 8 && m_lengthWidth <= 8 && m_baseWidth <= 8
-            && m_indexWidth <= 8 && m_version <= 2;
-        if (!isSane)
+        const Location location = m_locations.take(wanted);
+        if (location.method > 1 || location.dataReference != 0)
             return {};
-        m_place = 6;
-        const std::uint64_t count = take(m_version < 2 ? 2 : 4);
-        for (std::uint64_t i = 0; i < count && m_place < size(); ++i) {
-            const ItemId id = take(m_version < 2 ? 2 : 4);
-            const std::uint64_t method = m_version == 0 ? 0 : take(2) & 15U;
-            const std::uint64_t dataReference = take(2);
-            const std::uint64_t base = take(m_baseWidth);
-            const std::uint64_t extents = take(2);
-            if (id == wanted)
-                return dataReference == 0 && method <= 1 ? extentsFrom(method, base, extents)
-                                                         : QByteArray();
-            m_place += extents
-                * static_cast<std::uint64_t>(m_indexWidth + m_offsetWidth + m_lengthWidth);
-        }
-        return {};
+        m_place = location.extentsAt;
+        return extentsFrom(location);
     }
 
 private:
+    struct Location
+    {
+        std::uint64_t method = 0;
+        std::uint64_t dataReference = 0;
+        std::uint64_t base = 0;
+        std::uint64_t extents = 0;
+        std::uint64_t extentsAt = 0; ///< offset in the box
+    };
+
+    [[nodiscard]] bool isSane() const
+    {
+        return m_offsetWidth <= 8 && m_lengthWidth <= 8 && m_baseWidth <= 8 && m_indexWidth <= 8
+            && m_version <= 2;
+    }
+
+    [[nodiscard]] std::uint64_t extentWidth() const
+    {
+        return static_cast<std::uint64_t>(m_indexWidth + m_offsetWidth + m_lengthWidth);
+    }
+
+    void readEntries()
+    {
+        m_place = 6;
+        const std::uint64_t count = next(m_version < 2 ? 2 : 4);
+        for (std::uint64_t i = 0; i < count && m_place < size(); ++i) {
+            const ItemId id = next(m_version < 2 ? 2 : 4);
+            Location location;
+            location.method = m_version == 0 ? 0 : next(2) & 15U;
+            location.dataReference = next(2);
+            location.base = next(m_baseWidth);
+            location.extents = next(2);
+            location.extentsAt = m_place;
+            m_place += location.extents * extentWidth();
+            if (!m_locations.contains(id))
+                m_locations.insert(id, location);
+        }
+    }
+
     [[nodiscard]] std::uint64_t size() const { return static_cast<std::uint64_t>(m_box.size()); }
 
-    std::uint64_t take(int width)
+    std::uint64_t next(int width)
     {
         const std::uint64_t value = numberAt(m_box, m_place, width);
         m_place += static_cast<std::uint64_t>(width);
         return value;
     }
 
-    QByteArray extentsFrom(std::uint64_t method, std::uint64_t base, std::uint64_t count)
+    QByteArray extentsFrom(const Location& location)
     {
-        const QByteArrayView place = method == 0 ? m_file : m_itemData;
+        const QByteArrayView place = location.method == 0 ? m_file : m_itemData;
+        // Extents that take no room in the box are all the same one.
+        const std::uint64_t count
+            = extentWidth() == 0 ? std::min<std::uint64_t>(location.extents, 1) : location.extents;
         QByteArray data;
         for (std::uint64_t i = 0; i < count && m_place < size(); ++i) {
-            take(m_indexWidth);
-            const std::uint64_t offset = base + take(m_offsetWidth);
-            const std::uint64_t length = take(m_lengthWidth);
+            next(m_indexWidth);
+            const std::uint64_t offset = location.base + next(m_offsetWidth);
+            const std::uint64_t length = next(m_lengthWidth);
             const auto extent = m_lengthWidth == 0 || length == 0
                 ? std::optional(tailOf(place, offset))
                 : sliceOf(place, offset, length);
@@ -156,6 +189,7 @@ private:
     QByteArrayView m_box;
     std::uint64_t m_version = 0;
     std::uint64_t m_place = 0;
+    QHash<ItemId, Location> m_locations;
     int m_offsetWidth = 0;
     int m_lengthWidth = 0;
     int m_baseWidth = 0;
@@ -163,7 +197,7 @@ private:
 };
 
 /// Sorts the items that describe the primary picture to the front.
-void putFirst(QList<Item>& items, const QList<ItemId>& ids)
+void putFirst(QList<Item>& items, const QSet<ItemId>& ids)
 {
     std::stable_partition(items.begin(), items.end(), [&ids](const Item& item) {
         return ids.contains(item.id);
@@ -199,9 +233,9 @@ MetadataBlocks readHeifBlocks(QByteArrayView file)
     Locations locations(file, meta, isoBox(boxes, "iloc"));
     for (const Item& item : items) {
         if (item.type == "Exif" && blocks.exif.isEmpty())
-            blocks.exif = exifBehindOffset(locations.dataOf(item.id));
+            blocks.exif = exifBehindOffset(locations.take(item.id));
         else if (item.type == "application/rdf+xml" && blocks.xmp.isEmpty())
-            blocks.xmp = locations.dataOf(item.id);
+            blocks.xmp = locations.take(item.id);
     }
     takeRootBlocks(blocks);
     return blocks;

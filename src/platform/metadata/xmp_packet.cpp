@@ -43,14 +43,30 @@ std::optional<Piece> pieceOf(QByteArrayView segment)
         .guid = *guid, .total = *total, .offset = *offset, .data = tailOf(fields, guidLength + 8)};
 }
 
+/// The identifier of the extended part that `packet` names; empty when it names none.
+QByteArrayView announcedGuid(QByteArrayView packet)
+{
+    constexpr QByteArrayView property("HasExtendedXMP");
+    const qsizetype name = packet.indexOf(property);
+    if (name < 0)
+        return {};
+    // As an attribute it stands behind a quote, as an element behind the end of its tag.
+    qsizetype start = name + property.size();
+    while (start < packet.size() && !QByteArrayView("\"'>").contains(packet[start]))
+        ++start;
+    return sliceOf(packet, static_cast<std::uint64_t>(start + 1), guidLength)
+        .value_or(QByteArrayView());
+}
+
 /// The pieces that belong to `packet`, put together; empty unless they fill the announced length.
 QByteArray extendedPart(const MetadataBlocks& blocks)
 {
+    const QByteArrayView guid = announcedGuid(blocks.xmp);
     QList<Piece> pieces;
     std::uint64_t length = 0;
     for (const QByteArray& segment : blocks.jpegSegments) {
         const auto piece = pieceOf(segment);
-        if (!piece || !blocks.xmp.contains(piece->guid))
+        if (!piece || piece->guid != guid)
             continue;
         pieces.append(*piece);
         length += static_cast<std::uint64_t>(piece->data.size());
