@@ -5,7 +5,8 @@
 
 namespace brenvaldo::platform {
 
-/// Moves a file, a link (never what it leads to) or a folder to the user's trash, from where the desktop can restore it.
+/// Moves a file, a link (never what it leads to) or a folder to the user's trash, from where the
+/// desktop can restore it.
 ///
 /// False when it can't: nothing stands at `path`, or its volume has no trash. It then stays.
 [[nodiscard]] bool moveToTrash(const QString& path);
