@@ -5,8 +5,8 @@
 #include "photo_decoder.h"
 #include "qt_pixels.h"
 
-#include <platform/foundation/bytes.h>
-#include <platform/foundation/mapped_file.h>
+#include <platform/containers/bytes.h>
+#include <platform/containers/mapped_file.h>
 #include <platform/foundation/regular_file.h>
 
 #include <QFile>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "claimed_size.h"
 
-#include <platform/foundation/bytes.h>
-#include <platform/foundation/mapped_file.h>
+#include <platform/containers/bytes.h>
+#include <platform/containers/mapped_file.h>
 
 #include <vips/vips8>
 
