@@ -15,6 +15,7 @@ namespace tiff {
 
 enum Tag : std::uint16_t {
     BitsPerSample = 258,
+    Compression = 259,
     StripOffsets = 273,
     Orientation = 274,
     StripLengths = 279,

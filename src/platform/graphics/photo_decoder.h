@@ -57,10 +57,6 @@ openHeifPhoto(const QString& path, const QString& typeIdentifier);
 [[nodiscard]] std::unique_ptr<PhotoDecoder>
 openPsdPhoto(const QString& path, const QString& typeIdentifier);
 
-/// A TIFF whose storage the engine refuses (separate tiles, twelve bits, JPEG of the old style);
-/// null for all others. Throws `vips::VError`.
-[[nodiscard]] std::unique_ptr<PhotoDecoder> openUnusualTiff(const QString& path);
-
 /// Throws when a picture of `size` is empty, or too large to be decoded whole.
 void checkDecodedWhole(PixelSize size);
 

@@ -176,19 +176,10 @@ QByteArray oldJpeg()
     );
 }
 
-/// The file with another value in the second entry of its directory.
-QByteArray withHeight(QByteArray file, quint32 other)
-{
-    const auto directoryAt = qFromLittleEndian<quint32>(file.constData() + 4);
-    constexpr quint32 secondValue = 2 + 12 + 8;
-    return file.replace(directoryAt + secondValue, 4, littleEndian(other));
-}
-
 struct StorageCase
 {
     const char* name;
     QByteArray file;
-    int bits;
 
     friend void PrintTo(const StorageCase& row, std::ostream* out) { *out << row.name; }
 };
@@ -199,77 +190,28 @@ class UnusualTiff : public testing::TestWithParam<StorageCase>
 {
 };
 
-TEST_P(UnusualTiff, IsReadSampleBySample)
+TEST_P(UnusualTiff, IsNoPhotoRatherThanAWrongOne)
 {
     const TemporaryFolder folder;
-    const auto source
-        = ImageSource::open(folder.write(QStringLiteral("photo.tif"), GetParam().file));
+    const QString path = folder.write(QStringLiteral("photo.tif"), GetParam().file);
+    const auto source = ImageSource::open(path);
+    const auto image = source ? source->image() : std::nullopt;
 
-    ASSERT_TRUE(source);
-    EXPECT_EQ(source->header().bitsPerComponent, GetParam().bits);
-    EXPECT_EQ(source->header().orientation, 6);
-    EXPECT_EQ(source->header().dotsPerInch, 72);
-    const auto image = source->image();
-    ASSERT_TRUE(image);
-    EXPECT_EQ(image->pixelSize(), (PixelSize{width, height}));
-    const QImage pixels = image->toQImage();
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const QColor color = pixels.pixelColor(x, y);
-            ASSERT_EQ(color.red(), static_cast<int>(sampleAt(x, y, 0))) << x << ' ' << y;
-            ASSERT_EQ(color.green(), static_cast<int>(sampleAt(x, y, 1))) << x << ' ' << y;
-            ASSERT_EQ(color.blue(), static_cast<int>(sampleAt(x, y, 2))) << x << ' ' << y;
-        }
-    }
-}
-
-TEST_P(UnusualTiff, FailsWhenSamplesAreMissing)
-{
-    const TemporaryFolder folder;
-    const auto source = ImageSource::open(
-        folder.write(QStringLiteral("photo.tif"), withHeight(GetParam().file, 4000))
+    EXPECT_FALSE(
+        image && encode(*image, FileFormat::Png, {}, folder.path(QStringLiteral("out.png")))
     );
-
-    ASSERT_TRUE(source);
-    const auto image = source->image();
-    ASSERT_TRUE(image);
-    EXPECT_FALSE(encode(*image, FileFormat::Png, {}, folder.path(QStringLiteral("out.png"))));
-}
-
-TEST_P(UnusualTiff, IsNotOpenedWhenItsDirectoryIsCutOff)
-{
-    const TemporaryFolder folder;
-    const auto directoryAt = qFromLittleEndian<quint32>(GetParam().file.constData() + 4);
-
-    EXPECT_FALSE(ImageSource::open(
-        folder.write(QStringLiteral("cut.tif"), GetParam().file.first(directoryAt + 20))
-    ));
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Storages,
     UnusualTiff,
     testing::Values(
-        StorageCase{"SeparateTiles", separateTiles(8), 8},
-        StorageCase{"SeparateTilesOfSixteenBits", separateTiles(16), 16},
-        StorageCase{"TwelveBits", twelveBits(), 16}
+        StorageCase{"SeparateTiles", separateTiles(8)},
+        StorageCase{"SeparateTilesOfSixteenBits", separateTiles(16)},
+        StorageCase{"TwelveBits", twelveBits()},
+        StorageCase{"OldJpeg", oldJpeg()}
     ),
     CaseName{}
 );
-
-TEST(UnusualTiffs, IncludeJpegOfTheOldStyle)
-{
-    const TemporaryFolder folder;
-    const auto source = ImageSource::open(folder.write(QStringLiteral("photo.tif"), oldJpeg()));
-
-    ASSERT_TRUE(source);
-    EXPECT_EQ(source->header().storedSize, (PixelSize{32, 16}));
-    const auto image = source->image();
-    ASSERT_TRUE(image);
-    const QColor color = image->toQImage().pixelColor(20, 8);
-    EXPECT_NEAR(color.red(), 200, 3);
-    EXPECT_NEAR(color.green(), 100, 3);
-    EXPECT_NEAR(color.blue(), 50, 3);
-}
 
 } // namespace brenvaldo
