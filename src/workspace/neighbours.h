@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <imaging/result_word.h>
 #include <platform/graphics/image.h>
 
 #include <QString>

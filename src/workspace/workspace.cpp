@@ -61,6 +61,7 @@ struct Workspace::Parts
         , collectionView(
               {.panels = panels,
                .photos = photos,
+               .journal = journal,
                .chooser = surroundings.chooser,
                .previewPhotos = previewPhotos,
                .functions = functions,

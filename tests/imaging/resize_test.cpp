@@ -329,7 +329,7 @@ TEST(Resize, DoesNotSupportAPhotoshopOrPdfFileThatKeepsItsType)
             handling.hScalePhotosPercentage(photo, 50, Percentage, tail), ResultWord::NotSupported
         );
         EXPECT_EQ(handling.storeResult(), ResultWord::NotSupported);
-        DVImageHandling other;
+        SavingHandling other;
         EXPECT_EQ(
             other.hScalePhotosWidthAndHeight(photo, {10, 10}, covering, tail),
             ResultWord::NotSupported
@@ -418,7 +418,7 @@ TEST(ResizeToBox, FailsForSidesFarBelowNothing)
     constexpr int farthest = std::numeric_limits<int>::min();
     const Resizing files(grey(40, 30));
     for (const PixelSize box : {PixelSize{farthest, 5}, PixelSize{5, farthest}}) {
-        DVImageHandling handling;
+        SavingHandling handling;
 
         EXPECT_EQ(
             handling.hScalePhotosWidthAndHeight(files.photo(), box, covering, pngTail()),

@@ -265,7 +265,7 @@ TEST_F(TextWatermark, IsCompressedAsTheLevelSays)
              .compressionLevel = level,
              .fileNameText = {},
              .photoProperty = 0},
-            [](const MarkedPhoto&) {}
+            sink
         );
         return QFileInfo(folder.path(QStringLiteral("a.jpg"))).size();
     };

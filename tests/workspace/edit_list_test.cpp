@@ -35,7 +35,7 @@ protected:
                 record.function,
                 record.source.section(u'/', -1),
                 record.target.section(u'/', -1),
-                record.word}
+                imaging::text(record.word)}
                             .join(u' '));
         return rows;
     }
@@ -84,7 +84,7 @@ TEST_F(EditList, TellsOfThePhotoThatTakesThePlaceOfARemovedOne)
 TEST_F(EditList, ShowsTheEffectOnThePhotoThatTakesThePlaceOfARemovedOne)
 {
     int twins = 0;
-    subsystems.twins.setWatermarkTextPreview = countingTwin(twins);
+    row("textWM").preview = countingPreview(twins);
     fillWithPhotos();
     photos.select(0);
     panels.vwShowPreview.cbShowPreview.setState(1);
@@ -126,9 +126,9 @@ TEST_F(EditList, ShowsAndTellsOfNoPhotoWhenAFileThatIsNoneIsSelectedByARemoval)
 TEST_F(EditList, TurnsThePhotoThatIsShownWhereverOthersFallIn)
 {
     QStringList turned;
-    subsystems.quickEdits.hRotatePicture = [&](const QString& path, const auto&, float) {
+    neighbours.quickEdits.hRotatePicture = [&](const QString& path, const auto&, float) {
         turned.append(path.section(u'/', -1));
-        return u"OK"_qs;
+        return imaging::ResultWord::Ok;
     };
     fillWithPhotos();
     photos.select(0);
@@ -413,7 +413,7 @@ TEST_F(EditList, TurnsTheSelectedFileInItsFolder)
         = [&](const QString& file, const QString& target, float angle) {
               calls.append(file + u' ' + target + u' ' + QString::number(double(angle)));
               (void)test::PhotoBuilder().size(30, 40).write(file);
-              return u"OK"_qs;
+              return imaging::ResultWord::Ok;
           };
 
     actions.send(u"hRotateRight"_qs);
@@ -443,11 +443,11 @@ TEST_F(EditList, MirrorsTheSelectedFile)
     QStringList calls;
     neighbours.quickEdits.hFlipHorizontalPicture = [&](const QString&, const QString&) {
         calls.append(u"horizontal"_qs);
-        return ResultWord::Ok;
+        return imaging::ResultWord::Ok;
     };
     neighbours.quickEdits.hFlipVerticalPicture = [&](const QString&, const QString&) {
         calls.append(u"vertical"_qs);
-        return ResultWord::NotSupported;
+        return imaging::ResultWord::NotSupported;
     };
 
     actions.send(u"hFlipHorizontal"_qs);
@@ -466,7 +466,7 @@ TEST_F(EditList, TurnsNoFileThatIsNoPhotoAndNoneWithoutASelection)
     int calls = 0;
     neighbours.quickEdits.hRotatePicture = [&](const auto&, const auto&, float) {
         ++calls;
-        return ResultWord::Ok;
+        return imaging::ResultWord::Ok;
     };
     photos.append(nonPhoto(u"/gone/a.txt"_qs));
 
@@ -482,7 +482,7 @@ TEST_F(EditList, LaysAWatermarkOverATurnedPhotoWhateverTheFunction)
     int textTwins = 0;
     int imageTwins = 0;
     neighbours.quickEdits.hRotatePicture
-        = [](const auto&, const auto&, float) { return ResultWord::Ok; };
+        = [](const auto&, const auto&, float) { return imaging::ResultWord::Ok; };
     row("textWM").preview = countingPreview(textTwins);
     row("imageWM").preview = countingPreview(imageTwins);
     collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});

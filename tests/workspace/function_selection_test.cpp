@@ -321,7 +321,7 @@ TEST_F(FunctionSelection, PutsThePlaceOfACropBesideTheFieldsOfResizing)
 TEST_F(FunctionSelection, DrawsThePreviewOfAnotherCropTypeWhileItIsOn)
 {
     int crops = 0;
-    subsystems.twins.hCropPhotosPreview = countingTwin(crops);
+    row("cropPhotos").preview = countingPreview(crops);
     collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
     pickEdit(9);
 
@@ -347,7 +347,7 @@ TEST_F(FunctionSelection, DrawsNoPreviewOfAnotherCropTypeWhileItIsOff)
 TEST_F(FunctionSelection, ShowsThePlainPhotoAgainWhenAnotherFunctionIsChosen)
 {
     int twins = 0;
-    subsystems.twins.hAddFramePreview = countingTwin(twins);
+    row("framing").preview = countingPreview(twins);
     collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
     const auto showFrame = [this] {
         pickEdit(2);
@@ -410,7 +410,7 @@ TEST_F(FunctionSelection, SelectsCroppingByATextEditInOneOfItsFields)
 TEST_F(FunctionSelection, DrawsThePreviewOfTheFunctionThatATextEditSelects)
 {
     int crops = 0;
-    subsystems.twins.hCropPhotosPreview = countingTwin(crops);
+    row("cropPhotos").preview = countingPreview(crops);
     collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
     select("framing");
     panels.vwShowPreview.cbShowPreview.setState(1);

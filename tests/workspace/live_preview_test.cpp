@@ -153,7 +153,7 @@ TEST_F(LivePreview, IsEmptyForAFileThatIsNoPhotoWhateverTheFunction)
 TEST_F(LivePreview, TellsOfNoPhotoWhereItIsEmptyForWantOfOne)
 {
     int forgotten = 0;
-    subsystems.forgetPhoto = [&] { ++forgotten; };
+    neighbours.forgetPhoto = [&] { ++forgotten; };
     collectionView.callForPreview();
     EXPECT_EQ(forgotten, 1);
 
@@ -194,7 +194,7 @@ TEST_F(LivePreview, FollowsTheSelection)
 TEST_F(LivePreview, LogsThatNothingIsSelected)
 {
     int twins = 0;
-    subsystems.twins.setWatermarkTextPreview = countingTwin(twins);
+    row("textWM").preview = countingPreview(twins);
     addPhotoWithPreview();
     collectionView.callForPreview();
     ASSERT_TRUE(showsOverlay());
@@ -258,7 +258,7 @@ TEST_F(LivePreview, ShowsAWatermarkAndNoCropBoxAfterSwappingTheSizeOfACrop)
 TEST_F(LivePreview, SwapsTheOffsetsOfACropAndDrawsTheOverlay)
 {
     int watermarks = 0;
-    subsystems.twins.setWatermarkTextPreview = countingTwin(watermarks);
+    row("textWM").preview = countingPreview(watermarks);
     addPhotoWithPreview();
     auto& place = panels.vwCropPhotos.dvVCUiCropPositionView;
     place.tfXcropOffset.setStringValue(u"10"_qs);
@@ -276,8 +276,8 @@ TEST_F(LivePreview, DrawsTheImageWatermarkOverACropWhileItsTabIsOpen)
 {
     int texts = 0;
     int images = 0;
-    subsystems.twins.setWatermarkTextPreview = countingTwin(texts);
-    subsystems.twins.setWatermarkImagePreview = countingTwin(images);
+    row("textWM").preview = countingPreview(texts);
+    row("imageWM").preview = countingPreview(images);
     addPhotoWithPreview();
     panels.vwWatermark.tbvWatermarkType.selectIndex(1);
 
@@ -305,7 +305,7 @@ TEST_F(LivePreview, SwapsTheBoxOfAResizeAndDrawsNothing)
 TEST_F(LivePreview, SwapsAndDrawsNothingWhileAFileThatIsNoPhotoIsSelected)
 {
     int watermarks = 0;
-    subsystems.twins.setWatermarkTextPreview = countingTwin(watermarks);
+    row("textWM").preview = countingPreview(watermarks);
     photos.append(nonPhoto(u"/gone/a.txt"_qs));
     photos.select(0);
     panels.vwShowPreview.cbShowPreview.setState(1);
@@ -331,7 +331,7 @@ TEST_F(LivePreview, SwapsAndDrawsNothingWhileAFileThatIsNoPhotoIsSelected)
 TEST_F(LivePreview, IsDrawnAnewWhenItsBoxIsTicked)
 {
     int calls = 0;
-    subsystems.twins.setWatermarkTextPreview = countingTwin(calls);
+    row("textWM").preview = countingPreview(calls);
     collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
 
     user.tick(panels.vwShowPreview.cbShowPreview, 1);
@@ -347,7 +347,7 @@ TEST_F(LivePreview, IsDrawnAnewWhenItsBoxIsTicked)
 TEST_F(LivePreview, ClearsTheOverlayForThePictureOfATemplate)
 {
     const auto picture = platform::Image::fromQImage(QImage(2, 2, QImage::Format_RGB32));
-    subsystems.imageNamed = [&picture](const QString&) { return picture; };
+    neighbours.imageNamed = [&picture](const QString&) { return picture; };
     panels.window.myTemplateOverlayPreview.setImage(picture);
 
     collectionView.callForHTMLTemplatePreview(u"Ex02XL.png"_qs);

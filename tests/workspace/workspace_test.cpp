@@ -247,7 +247,7 @@ TEST_F(WorkspaceTest, NotesAPresetThatCouldNotBeSavedInTheRunJournal)
     EXPECT_EQ(record.function, u"textWM"_qs);
     EXPECT_EQ(record.source, QString());
     EXPECT_EQ(record.target, u"Gold tiles"_qs);
-    EXPECT_EQ(record.word, u"Failed"_qs);
+    EXPECT_EQ(record.word, imaging::ResultWord::Failed);
     EXPECT_TRUE(record.time.isValid());
 }
 

@@ -14,10 +14,13 @@ namespace brenvaldo::platform {
 namespace tiff {
 
 enum Tag : std::uint16_t {
+    ImageWidth = 256,
+    ImageLength = 257,
     BitsPerSample = 258,
     Compression = 259,
     StripOffsets = 273,
     Orientation = 274,
+    SamplesPerPixel = 277,
     StripLengths = 279,
     HorizontalResolution = 282,
     VerticalResolution = 283,

@@ -3,9 +3,8 @@
 
 #include "deferred_pixels.h"
 #include "photo_decoder.h"
+#include "tiff_claim.h"
 
-#include <platform/containers/mapped_file.h>
-#include <platform/containers/tiff_numbers.h>
 #include <platform/containers/type_identifier.h>
 #include <platform/foundation/log.h>
 
@@ -26,17 +25,6 @@ namespace {
 void logFault(const QString& path, const std::exception& error)
 {
     log(QStringLiteral("Failed to read image %1: %2").arg(path, faultText(error)));
-}
-
-/// True for a TIFF with JPEG of the old style: the engine reads it in wrong colours.
-bool holdsOldJpeg(const QString& path)
-{
-    constexpr double oldJpeg = 6;
-    const MappedFile mapped(path);
-    const auto file = TiffFile::open(mapped.bytes());
-    const TiffDirectory image = file ? file->firstDirectory() : TiffDirectory();
-    const TiffField* compression = fieldOf(image, tiff::Compression);
-    return compression && firstNumber(*compression, file->order()) == oldJpeg;
 }
 
 std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)

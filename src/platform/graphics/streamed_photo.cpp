@@ -6,7 +6,7 @@
 #include "jpeg_rows.h"
 #include "photo_decoder.h"
 #include "png_labels.h"
-#include "tiff_samples.h"
+#include "tiff_claim.h"
 
 #include <platform/containers/mapped_file.h>
 
