@@ -14,8 +14,8 @@ cmake_minimum_required(VERSION 3.25)
 # Libraries and Qt modules, and the folders that may include them; both are regular expressions.
 set(libraries
     "vips/.*"                   "platform/(graphics|codecs|drawing)"
+    "(jpeglib|jerror)\\.h"      "platform/(graphics|codecs)"
     "libheif/.*"                "platform/(graphics|codecs)"
-    "tiffio\\.h"                "platform/(graphics|codecs)"
     "lcms2\\.h"                 "platform/(graphics|codecs)"
     "exiv2/.*"                  "platform/metadata"
     "zlib\\.h"                  "platform/(foundation|containers)"

@@ -73,7 +73,7 @@ refuses(controls/control.cpp "#include <string>\n#include \"control.h\"" "" "its
 
 refuses(controls/a.cpp "#include <vips/vips8>" "" "only platform/(graphics|codecs|drawing) may see it")
 refuses(controls/a.cpp "#include <sqlite3.h>" "" "only presets may see it")
-refuses(views/a.cpp "#include <tiffio.h>" "" "may see it")
+refuses(views/a.cpp "#include <jpeglib.h>" "" "may see it")
 refuses(controls/a.cpp "#include <sys/stat.h>" "" "may see it")
 refuses(controls/a.cpp "#include <QLabel>" "" "may see it")
 refuses(controls/a.cpp "#include <QtWidgets>" "" "may see it")

@@ -46,8 +46,7 @@ bool isRefused(const QString& path, platform::FileFormat format)
     const auto photo = storedPhoto(path);
     if (!photo)
         return true;
-    return isWhole(*photo)
-        && !platform::encode(*storedPhoto(path), format, {}, QStringLiteral("/dev/null"));
+    return isWhole(*photo) && !platform::canEncode(*storedPhoto(path), format, {});
 }
 
 bool writeConverted(const PictureToSave& picture, const ConversionRule& rule)

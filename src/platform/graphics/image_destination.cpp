@@ -6,6 +6,9 @@
 
 #include <platform/foundation/log.h>
 
+#include <sys/mman.h>
+#include <unistd.h>
+
 namespace brenvaldo::platform {
 
 namespace {
@@ -34,14 +37,11 @@ void encodeAs(
     }
 }
 
-} // namespace
-
-bool encode(
-    const Image& image, FileFormat format, const EncodeOptions& options, const QString& path
+bool encodeInto(
+    OutputFile& file, const Image& image, FileFormat format, const EncodeOptions& options
 )
 {
     vips_error_clear();
-    OutputFile file(path);
     try {
         evaluate(image.node()->pixels, [&](const vips::VImage& watched) {
             if (file.isWhole())
@@ -56,6 +56,27 @@ bool encode(
         log(QStringLiteral("Failed to encode a picture: ") + reason);
         return false;
     }
+}
+
+} // namespace
+
+bool encode(
+    const Image& image, FileFormat format, const EncodeOptions& options, const QString& path
+)
+{
+    OutputFile file(path);
+    return encodeInto(file, image, format, options);
+}
+
+bool canEncode(const Image& image, FileFormat format, const EncodeOptions& options)
+{
+    const int memory = memfd_create("picture", MFD_CLOEXEC);
+    if (memory < 0)
+        return true; // nothing is known against it
+    OutputFile file(QStringLiteral("/proc/self/fd/%1").arg(memory));
+    const bool isTaken = encodeInto(file, image, format, options) || !file.isWhole();
+    close(memory);
+    return isTaken;
 }
 
 } // namespace brenvaldo::platform

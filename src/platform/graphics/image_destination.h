@@ -35,4 +35,7 @@ struct EncodeOptions
 [[nodiscard]] bool
 encode(const Image& image, FileFormat format, const EncodeOptions& options, const QString& path);
 
+/// True when the encoder takes the picture where no disk can refuse its bytes.
+[[nodiscard]] bool canEncode(const Image& image, FileFormat format, const EncodeOptions& options);
+
 } // namespace brenvaldo::platform
