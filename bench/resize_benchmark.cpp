@@ -3,10 +3,10 @@
 
 #include "benchmark_main.h"
 
-#include <examples/draw_photos/landscape.h>
+#include <platform/codecs/image_destination.h>
+#include <platform/codecs/image_source.h>
 
-#include <platform/graphics/image_destination.h>
-#include <platform/graphics/image_source.h>
+#include <examples/draw_photos/landscape.h>
 
 #include <QTemporaryDir>
 

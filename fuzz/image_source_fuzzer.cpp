@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "input_file.h"
 
+#include <platform/codecs/image_source.h>
 #include <platform/graphics/engine.h>
-#include <platform/graphics/image_source.h>
 
 using namespace brenvaldo;
 

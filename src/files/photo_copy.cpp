@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo_copy.h"
 
-#include <platform/graphics/image_source.h>
+#include <platform/codecs/image_source.h>
 #include <platform/metadata/image_file_writer.h>
 #include <platform/metadata/metadata_reader.h>
 

@@ -3,7 +3,7 @@
 #include "tool_box.h"
 #include "url_text.h"
 
-#include <platform/graphics/fonts.h>
+#include <platform/drawing/fonts.h>
 
 #include <QGuiApplication>
 #include <QPalette>

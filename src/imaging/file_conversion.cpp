@@ -3,10 +3,10 @@
 
 #include "failure_log.h"
 
+#include <platform/codecs/image_destination.h>
+#include <platform/codecs/image_source.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
-#include <platform/graphics/image_destination.h>
-#include <platform/graphics/image_source.h>
 #include <platform/metadata/image_file_writer.h>
 #include <platform/metadata/metadata_reader.h>
 #include <platform/storage/atomic_file.h>

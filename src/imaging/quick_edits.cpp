@@ -4,10 +4,10 @@
 #include "turning.h"
 #include "writer_rules.h"
 
+#include <platform/codecs/image_source.h>
 #include <platform/containers/type_identifier.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
-#include <platform/graphics/image_source.h>
 #include <platform/metadata/metadata_reader.h>
 
 #include <QFileInfo>

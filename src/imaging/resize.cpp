@@ -6,7 +6,7 @@
 #include "rotate_rules.h"
 #include "writer_rules.h"
 
-#include <platform/graphics/image_source.h>
+#include <platform/codecs/image_source.h>
 
 #include <cmath>
 

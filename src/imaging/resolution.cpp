@@ -3,7 +3,7 @@
 
 #include "resolution_rules.h"
 
-#include <platform/graphics/image_source.h>
+#include <platform/codecs/image_source.h>
 
 namespace brenvaldo::imaging {
 

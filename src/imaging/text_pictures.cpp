@@ -3,9 +3,9 @@
 
 #include "relief_texture.h"
 
-#include <platform/graphics/attributed_text.h>
+#include <platform/drawing/attributed_text.h>
+#include <platform/drawing/relief.h>
 #include <platform/graphics/qt_color.h>
-#include <platform/graphics/relief.h>
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <platform/graphics/image_destination.h>
+#include <platform/codecs/image_destination.h>
 
 #include <QString>
 

@@ -3,9 +3,9 @@
 
 #include "metadata_texts.h"
 
+#include <platform/codecs/image_source.h>
 #include <platform/foundation/paths.h>
 #include <platform/foundation/text.h>
-#include <platform/graphics/image_source.h>
 
 #include <algorithm>
 #include <array>

@@ -4,8 +4,8 @@
 #include "bookmarks.h"
 
 #include <platform/archives/color_archive.h>
+#include <platform/codecs/image_source.h>
 #include <platform/foundation/numbers.h>
-#include <platform/graphics/image_source.h>
 
 #include <QFileInfo>
 

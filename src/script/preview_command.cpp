@@ -2,7 +2,7 @@
 #include "arguments.h"
 #include "command_table.h"
 
-#include <platform/graphics/image_destination.h>
+#include <platform/codecs/image_destination.h>
 #include <platform/storage/atomic_file.h>
 
 namespace brenvaldo::script {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preview_renderer.h"
 
+#include <platform/codecs/image_source.h>
+#include <platform/drawing/stamp.h>
 #include <platform/foundation/paths.h>
-#include <platform/graphics/image_source.h>
 #include <platform/graphics/screen_scaling.h>
-#include <platform/graphics/stamp.h>
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "thumbnail_store.h"
 
-#include <platform/graphics/image_source.h>
+#include <platform/codecs/image_source.h>
 
 #include <QFileInfo>
 

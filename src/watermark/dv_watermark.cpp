@@ -10,11 +10,11 @@
 #include <panels/watermark_panel.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
-#include <platform/graphics/fonts.h>
-#include <platform/graphics/image_source.h>
 #include <platform/metadata/metadata_reader.h>
 
+#include <platform/codecs/image_source.h>
 #include <platform/containers/type_identifier.h>
+#include <platform/drawing/fonts.h>
 
 namespace brenvaldo::watermark {
 

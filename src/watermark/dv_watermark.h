@@ -6,7 +6,8 @@
 #include <controls/progress.h>
 #include <imaging/picture_sink.h>
 #include <platform/graphics/image.h>
-#include <platform/graphics/stamp.h>
+
+#include <platform/drawing/stamp.h>
 
 #include <QString>
 #include <QStringList>

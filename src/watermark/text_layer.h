@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <platform/graphics/attributed_text.h>
+#include <platform/drawing/attributed_text.h>
+#include <platform/drawing/layer_shadow.h>
 #include <platform/graphics/geometry.h>
-#include <platform/graphics/layer_shadow.h>
 
 #include <QBrush>
 #include <QImage>

@@ -3,8 +3,8 @@
 
 #include "text_watermark_settings.h"
 
+#include <platform/drawing/stamp.h>
 #include <platform/graphics/image.h>
-#include <platform/graphics/stamp.h>
 
 #include <QFont>
 

@@ -3,8 +3,9 @@
 
 #include <imaging/dv_image_handling.h>
 #include <platform/filters/photo_effect.h>
-#include <platform/graphics/fonts.h>
 #include <platform/graphics/qt_color.h>
+
+#include <platform/drawing/fonts.h>
 
 #include <QPainter>
 

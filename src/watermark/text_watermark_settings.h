@@ -4,9 +4,9 @@
 #include "text_effect.h"
 #include "watermark_rules.h"
 
-#include <platform/graphics/attributed_text.h>
+#include <platform/drawing/attributed_text.h>
+#include <platform/drawing/layer_shadow.h>
 #include <platform/graphics/color.h>
-#include <platform/graphics/layer_shadow.h>
 
 #include <optional>
 

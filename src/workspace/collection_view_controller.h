@@ -4,6 +4,7 @@
 #include "neighbours.h"
 #include "photo_list.h"
 #include "photo_preview.h"
+
 #include <workspace/run/run_journal.h>
 
 #include <controls/action_registry.h>

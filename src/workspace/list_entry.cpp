@@ -3,7 +3,8 @@
 
 #include <imaging/dv_image_handling.h>
 #include <platform/foundation/paths.h>
-#include <platform/graphics/image_source.h>
+
+#include <platform/codecs/image_source.h>
 
 #include <QFileInfo>
 

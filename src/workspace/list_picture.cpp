@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "list_picture.h"
 
+#include <platform/codecs/image_source.h>
 #include <platform/foundation/numbers.h>
-#include <platform/graphics/image_source.h>
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo_preview.h"
 
-#include <platform/graphics/canvas.h>
-#include <platform/graphics/image_source.h>
-#include <platform/graphics/stamp.h>
+#include <platform/codecs/image_source.h>
+#include <platform/drawing/canvas.h>
+#include <platform/drawing/stamp.h>
 
 #include <QFileInfo>
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tool_box_fixture.h"
 
-#include <platform/graphics/fonts.h>
+#include <platform/drawing/fonts.h>
+
 #include <support/environment.h>
 #include <support/faults.h>
 #include <support/text_printing.h>

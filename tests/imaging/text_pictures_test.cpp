@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <imaging/dv_image_handling.h>
 
-#include <platform/graphics/attributed_text.h>
+#include <platform/drawing/attributed_text.h>
 #include <platform/graphics/color.h>
 #include <support/text_printing.h>
 

@@ -3,8 +3,8 @@
 
 #include "photo_builder.h"
 
+#include <platform/codecs/image_source.h>
 #include <platform/graphics/image.h>
-#include <platform/graphics/image_source.h>
 
 #include <QColor>
 #include <QImage>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/codecs/image_source.h>
+
 #include <support/photo_builder.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
 #include <views/preview_view.h>
 #include <views/theme.h>
-
-#include <platform/graphics/image_source.h>
 
 #include <gtest/gtest.h>
 

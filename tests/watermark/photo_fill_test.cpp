@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "marked_text.h"
 
-#include <platform/graphics/image_destination.h>
+#include <platform/codecs/image_destination.h>
+
 #include <support/case_name.h>
 #include <support/color_profiles.h>
 #include <support/photo_builder.h>

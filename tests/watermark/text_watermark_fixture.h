@@ -6,10 +6,11 @@
 #include <panels/watermark_panel.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
-#include <platform/graphics/image_source.h>
 #include <support/photo_builder.h>
 #include <support/saving_sink.h>
 #include <support/temporary_folder.h>
+
+#include <platform/codecs/image_source.h>
 
 #include <gtest/gtest.h>
 

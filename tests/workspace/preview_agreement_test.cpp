@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <panels/watermark_panel.h>
 #include <platform/foundation/paths.h>
-#include <platform/graphics/image_destination.h>
-#include <platform/graphics/image_source.h>
 #include <support/color_profiles.h>
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>
@@ -11,6 +9,9 @@
 #include <support/text_printing.h>
 #include <watermark/dv_watermark.h>
 #include <workspace/photo_preview.h>
+
+#include <platform/codecs/image_destination.h>
+#include <platform/codecs/image_source.h>
 
 #include <gtest/gtest.h>
 

@@ -9,8 +9,8 @@
 #include "xmp_packet.h"
 #include "xmp_values.h"
 
+#include <platform/codecs/image_source.h>
 #include <platform/containers/mapped_file.h>
-#include <platform/graphics/image_source.h>
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/codecs/image_source.h>
 #include <platform/graphics/screen_scaling.h>
 
-#include <platform/graphics/image_source.h>
 #include <support/geometry_printing.h>
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_builder.h"
 
+#include <platform/codecs/image_source.h>
 #include <platform/containers/exif_facts.h>
-#include <platform/graphics/image_source.h>
 #include <platform/metadata/image_file_writer.h>
 #include <platform/metadata/metadata_reader.h>
 #include <platform/metadata/xmp_values.h>

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "claimed_size.h"
+#include "jpeg2000_boxes.h"
+#include "jpeg_rows.h"
+#include "photo_decoder.h"
+#include "png_header.h"
+#include "tiff_claim.h"
+
+#include <platform/containers/mapped_file.h>
+#include <platform/graphics/color_profile.h>
+#include <platform/graphics/deferred_pixels.h>
+
+#include <QFile>
+
+#include <array>
+
+namespace brenvaldo::platform {
+
+namespace {
+
+struct StreamedType
+{
+    const char* typeIdentifier;
+    const char* loader;
+};
+
+constexpr std::array streamedTypes = {
+    StreamedType{"public.jpeg", "jpegload"},
+    StreamedType{"public.png", "pngload"},
+    StreamedType{"public.tiff", "tiffload"},
+    StreamedType{"com.compuserve.gif", "gifload"},
+    StreamedType{"public.jp2", "jp2kload"},
+    StreamedType{"org.webmproject.webp", "webpload"},
+    StreamedType{"public.jpeg-xl", "jxlload"},
+    StreamedType{"public.pbm", "ppmload"},
+};
+
+const StreamedType* streamedType(const QString& typeIdentifier)
+{
+    for (const StreamedType& type : streamedTypes) {
+        if (typeIdentifier == QLatin1String(type.typeIdentifier))
+            return &type;
+    }
+    return nullptr;
+}
+
+vips::VImage load(const char* loader, const QString& path, int shrink)
+{
+    vips::VImage out;
+    vips::VOption* options = vips::VImage::option()
+                                 ->set("filename", QFile::encodeName(path).constData())
+                                 ->set("out", &out)
+                                 ->set("access", VIPS_ACCESS_SEQUENTIAL)
+                                 ->set("fail_on", VIPS_FAIL_ON_TRUNCATED);
+    if (shrink > 1)
+        options->set("shrink", shrink);
+    vips::VImage::call(loader, options);
+    return out;
+}
+
+vips::VImage loadJpeg(const QString& path, int shrink)
+{
+    return jpegRows(path, shrink, load("jpegload", path, shrink));
+}
+
+int integerField(const vips::VImage& decoded, const char* name, int fallback)
+{
+    return decoded.get_typeof(name) == G_TYPE_INT ? decoded.get_int(name) : fallback;
+}
+
+int statedOrientation(const vips::VImage& decoded)
+{
+    const int orientation = integerField(decoded, VIPS_META_ORIENTATION, 1);
+    return orientation >= 1 && orientation <= 8 ? orientation : 1;
+}
+
+bool isProgressiveJpeg(const vips::VImage& decoded)
+{
+    return integerField(decoded, "interlaced", 0) != 0
+        || integerField(decoded, "jpeg-multiscan", 0) != 0;
+}
+
+/// Refuses pictures that would take absurd amounts of time and memory.
+void checkSize(const vips::VImage& decoded, bool isJpeg)
+{
+    constexpr qint64 mostPixels = qint64{1} << 30;
+    constexpr qint64 mostProgressivePixels = qint64{1} << 28; // all coefficients stay in memory
+    constexpr int mostBands = 64;
+    const bool isProgressive = isJpeg && isProgressiveJpeg(decoded);
+    const qint64 pixels = qint64{decoded.width()} * decoded.height();
+    if (pixels > (isProgressive ? mostProgressivePixels : mostPixels)
+        || decoded.bands() > mostBands)
+        throw vips::VError("the picture is too large");
+}
+
+HeaderFacts jpeg2000HeaderFacts(QByteArrayView file)
+{
+    // The decoder fills what is missing and now and then forgets to say so.
+    if (!holdsWholeCodeStream(file))
+        throw vips::VError("the code stream is cut off");
+    return readHeaderFacts(file);
+}
+
+/// What the engine doesn't read from the header of a file.
+HeaderFacts headerFacts(const QString& path, const QString& typeIdentifier)
+{
+    if (typeIdentifier == QLatin1String("public.jp2"))
+        return jpeg2000HeaderFacts(MappedFile(path).bytes());
+    if (typeIdentifier == QLatin1String("public.png"))
+        return readPngHeaderFacts(MappedFile(path).bytes());
+    return {};
+}
+
+/// A file that is decoded from top to bottom while its pixels are used.
+class StreamedPhoto : public PhotoDecoder
+{
+public:
+    StreamedPhoto(QString path, const StreamedType& type)
+        : m_path(std::move(path))
+        , m_loader(type.loader)
+        , m_isJpeg(QLatin1String(type.loader) == QLatin1String("jpegload"))
+    {
+        const vips::VImage decoded = load(m_loader, m_path, 1);
+        checkSize(decoded, m_isJpeg);
+        const ImageNode node = nodeOfDecodedPixels(decoded);
+        if (m_isJpeg && isProgressiveJpeg(decoded))
+            m_decodingBytes = sizeOf(layoutOf(decoded)) * sizeof(short); // all its coefficients
+        m_header.storedSize = {decoded.width(), decoded.height()};
+        m_header.orientation = statedOrientation(decoded);
+        m_header.uprightSize = uprightSize(m_header.storedSize, m_header.orientation);
+        m_header.typeIdentifier = QLatin1String(type.typeIdentifier);
+        m_header.bitsPerComponent = static_cast<int>(vips_format_sizeof(decoded.format())) * 8;
+        const bool isLab = decoded.interpretation() == VIPS_INTERPRETATION_LAB
+            || decoded.interpretation() == VIPS_INTERPRETATION_LABS;
+        m_header.colorModel = isLab ? ColorModel::Lab : node.colorModel;
+        m_header.hasAlpha = node.hasAlpha;
+        m_facts = headerFacts(m_path, m_header.typeIdentifier);
+        checkBytes();
+        m_header.dotsPerInch = m_facts.dotsPerInch.value_or(node.dotsPerInch);
+    }
+
+    [[nodiscard]] const ImageHeader& header() const override { return m_header; }
+
+    [[nodiscard]] std::vector<int> shrinkFactors() const override
+    {
+        return m_isJpeg ? std::vector{1, 2, 4, 8} : std::vector{1};
+    }
+
+    [[nodiscard]] ImageNode storedPixels(int shrink) const override
+    {
+        ImageNode node = nodeOfDecodedPixels(
+            m_isJpeg ? loadJpeg(m_path, shrink) : load(m_loader, m_path, shrink)
+        );
+        node.dotsPerInch = m_header.dotsPerInch;
+        node.decodingBytes = m_decodingBytes;
+        if (!m_facts.iccProfile.isEmpty())
+            node.iccProfile = usableProfile(m_facts.iccProfile, node.colorModel);
+        return node;
+    }
+
+private:
+    /// Refuses a file that is too short for its header.
+    void checkBytes() const
+    {
+        if (m_isJpeg)
+            checkJpegSize(m_path);
+        else if (m_header.typeIdentifier == QLatin1String("public.tiff"))
+            checkTiffSize(m_path);
+        else
+            checkClaimedSize(m_path, m_header.typeIdentifier, m_header.storedSize);
+    }
+
+    QString m_path;
+    const char* m_loader;
+    bool m_isJpeg;
+    ImageHeader m_header;
+    std::size_t m_decodingBytes = 0;
+    HeaderFacts m_facts;
+};
+
+} // namespace
+
+bool isStreamedType(const QString& typeIdentifier)
+{
+    return streamedType(typeIdentifier) != nullptr;
+}
+
+std::unique_ptr<PhotoDecoder> openStreamedPhoto(const QString& path, const QString& typeIdentifier)
+{
+    return std::make_unique<StreamedPhoto>(path, *streamedType(typeIdentifier));
+}
+
+} // namespace brenvaldo::platform
