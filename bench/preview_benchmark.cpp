@@ -9,7 +9,7 @@
 #include <platform/foundation/paths.h>
 #include <views/preview_renderer.h>
 #include <watermark/dv_watermark.h>
-#include <workspace/photo_preview.h>
+#include <workspace/preview/photo_preview.h>
 
 #include <QElapsedTimer>
 #include <QEventLoop>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <controls/action_registry.h>
-#include <workspace/photo_list.h>
+#include <workspace/list/photo_list.h>
 
 #include <QAction>
 #include <QHash>

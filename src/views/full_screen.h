@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <workspace/full_screen_window.h>
+#include <workspace/start/full_screen_window.h>
 
 #include <QObject>
 

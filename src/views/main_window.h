@@ -8,7 +8,7 @@
 #include "preview_view.h"
 #include "qt_file_chooser.h"
 
-#include <workspace/main_app_window.h>
+#include <workspace/start/main_app_window.h>
 #include <workspace/workspace.h>
 
 #include <QMainWindow>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <workspace/photo_list.h>
+#include <workspace/list/photo_list.h>
 
 #include <QListView>
 

@@ -3,7 +3,7 @@
 
 #include "thumbnail_store.h"
 
-#include <workspace/photo_list.h>
+#include <workspace/list/photo_list.h>
 
 #include <QAbstractListModel>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <panels/panels.h>
-#include <workspace/photo_list.h>
+#include <workspace/list/photo_list.h>
 
 namespace brenvaldo::views {
 

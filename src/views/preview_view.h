@@ -4,7 +4,7 @@
 #include "preview_renderer.h"
 
 #include <controls/image_view.h>
-#include <workspace/photo_list.h>
+#include <workspace/list/photo_list.h>
 
 #include <QTimer>
 #include <QWidget>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "collection_view_controller.h"
+#include <workspace/list/collection_view_controller.h>
 
 #include <platform/foundation/notification_center.h>
 #include <platform/storage/desktop.h>

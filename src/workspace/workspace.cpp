@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspace.h"
 
-#include "app_delegate.h"
+#include <workspace/start/app_delegate.h>
 #include "gui_controls.h"
-#include "photo_preview.h"
-#include "selected_function.h"
+#include <workspace/preview/photo_preview.h>
+#include <workspace/functions/selected_function.h>
 
 #include <imaging/color_well_handling.h>
 #include <imaging/dv_image_handling.h>

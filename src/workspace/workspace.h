@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "photo_list.h"
+#include <workspace/list/photo_list.h>
 
 #include <controls/action_registry.h>
 #include <controls/file_chooser.h>

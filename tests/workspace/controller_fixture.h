@@ -2,7 +2,7 @@
 #pragma once
 
 #include <workspace/gui_controls.h>
-#include <workspace/selected_function.h>
+#include <workspace/functions/selected_function.h>
 
 #include <controls/user_input.h>
 #include <imaging/dv_image_handling.h>

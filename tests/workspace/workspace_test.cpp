@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controller_fixture.h"
 
-#include <workspace/app_delegate.h>
-#include <workspace/metadata_keys.h>
-#include <workspace/preview_notifications.h>
+#include <workspace/start/app_delegate.h>
+#include <workspace/start/metadata_keys.h>
+#include <workspace/preview/preview_notifications.h>
 #include <workspace/run/run_offer.h>
 #include <workspace/workspace.h>
 

@@ -13,8 +13,8 @@
 #include <platform/foundation/paths.h>
 #include <platform/storage/hidden_file.h>
 #include <workspace/functions/function_id.h>
-#include <workspace/preview_switch.h>
-#include <workspace/selected_function.h>
+#include <workspace/preview/preview_switch.h>
+#include <workspace/functions/selected_function.h>
 
 #include <tuple>
 

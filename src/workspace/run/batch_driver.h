@@ -5,7 +5,7 @@
 
 #include <workspace/functions/functions.h>
 #include <workspace/neighbours.h>
-#include <workspace/photo_list.h>
+#include <workspace/list/photo_list.h>
 
 namespace brenvaldo::workspace {
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <workspace/functions/functions.h>
-#include <workspace/photo_list.h>
+#include <workspace/list/photo_list.h>
 
 /// \file
 /// What a press of the process button works on.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "gui_controls.h"
+#include <workspace/gui_controls.h>
 
 #include <imaging/color_well_handling.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/list_entry.h>
+#include <workspace/list/list_entry.h>
 
 #include <support/photo_builder.h>
 #include <support/temporary_folder.h>

@@ -2,7 +2,7 @@
 #include "app_delegate.h"
 
 #include "metadata_keys.h"
-#include "preview_notifications.h"
+#include <workspace/preview/preview_notifications.h>
 
 #include <files/tool_box.h>
 #include <platform/foundation/folders.h>

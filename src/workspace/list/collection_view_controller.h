@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "neighbours.h"
+#include <workspace/neighbours.h>
 #include "photo_list.h"
-#include "photo_preview.h"
+#include <workspace/preview/photo_preview.h>
 
 #include <workspace/run/run_journal.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/slide_show_progress.h>
+#include <workspace/start/slide_show_progress.h>
 
 #include <support/log_lines.h>
 #include <support/text_printing.h>

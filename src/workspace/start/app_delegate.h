@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "gui_controls.h"
+#include <workspace/gui_controls.h>
 
 #include <platform/foundation/exceptions.h>
 #include <platform/foundation/notification_center.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/full_screen_window.h>
-#include <workspace/main_app_window.h>
+#include <workspace/start/full_screen_window.h>
+#include <workspace/start/main_app_window.h>
 
 #include <support/text_printing.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "controller_fixture.h"
+#include "../controller_fixture.h"
 
 #include <support/case_name.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/photo_preview.h>
+#include <workspace/preview/photo_preview.h>
 
 #include <gtest/gtest.h>
 

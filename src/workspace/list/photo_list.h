@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "list_picture.h"
+#include <workspace/list_picture.h>
 
 #include <platform/foundation/signal.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "gui_controls.h"
+#include <workspace/gui_controls.h>
 #include "selected_function.h"
 
-#include <workspace/functions/function_id.h>
+#include "function_id.h"
 
 namespace brenvaldo::workspace {
 

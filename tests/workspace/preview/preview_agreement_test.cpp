@@ -8,7 +8,7 @@
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
 #include <watermark/dv_watermark.h>
-#include <workspace/photo_preview.h>
+#include <workspace/preview/photo_preview.h>
 
 #include <platform/codecs/image_destination.h>
 #include <platform/codecs/image_source.h>

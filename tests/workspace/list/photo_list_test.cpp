@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/photo_list.h>
+#include <workspace/list/photo_list.h>
 
 #include <support/text_printing.h>
 
