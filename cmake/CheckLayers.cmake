@@ -14,11 +14,11 @@ cmake_minimum_required(VERSION 3.25)
 # Libraries and Qt modules, and the folders that may include them; both are regular expressions.
 set(libraries
     "vips/.*"                   "platform/(graphics|codecs|drawing)"
-    "(jpeglib|jerror)\\.h"      "platform/(graphics|codecs)"
-    "libheif/.*"                "platform/(graphics|codecs)"
-    "lcms2\\.h"                 "platform/(graphics|codecs)"
+    "(jpeglib|jerror)\\.h"      "platform/codecs"
+    "libheif/.*"                "platform/codecs"
+    "lcms2\\.h"                 "platform/graphics"
     "exiv2/.*"                  "platform/metadata"
-    "zlib\\.h"                  "platform/(foundation|containers)"
+    "zlib\\.h"                  "platform/containers"
     "sqlite3\\.h"               "presets"
     "dlib/.*|zint\\.h"          "platform/services"
     "(fcntl|unistd)\\.h|sys/.*" "platform/.*|app"
