@@ -13,7 +13,7 @@ namespace brenvaldo::bench {
 inline int run(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const platform::Engine engine;
+    const platform::graphics::Engine engine;
     const QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -22,7 +22,7 @@ struct SilentChooser : controls::FileChooser
     std::optional<QString> save(const controls::SavePanel& /*panel*/) override { return {}; }
 };
 
-struct SilentDesktop : platform::Desktop
+struct SilentDesktop : platform::storage::Desktop
 {
     void openUrl(const QUrl& /*url*/) override { }
     void reveal(const QString& /*path*/) override { }

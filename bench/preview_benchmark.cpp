@@ -22,7 +22,7 @@ using namespace brenvaldo;
 namespace {
 
 constexpr QSize photoSize(6000, 4000);
-constexpr platform::PixelSize room{.width = 1000, .height = 700};
+constexpr platform::graphics::PixelSize room{.width = 1000, .height = 700};
 constexpr int changes = 50;
 
 /// The panel, the photo and the renderer of a window.

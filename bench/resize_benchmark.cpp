@@ -11,7 +11,7 @@
 #include <QTemporaryDir>
 
 using namespace brenvaldo;
-using platform::PixelSize;
+using platform::graphics::PixelSize;
 
 namespace {
 
@@ -32,7 +32,7 @@ PixelSize targetOf(const benchmark::State& state)
 
 void shrinkInMemory(benchmark::State& state)
 {
-    const platform::Image source = platform::Image::fromQImage(photo());
+    const platform::graphics::Image source = platform::graphics::Image::fromQImage(photo());
     for ([[maybe_unused]] auto round : state) {
         if (!source.scaledTo(targetOf(state)).copiedToMemory())
             state.SkipWithError("not scaled");
@@ -47,12 +47,12 @@ void shrinkFromFileToFile(benchmark::State& state)
         state.SkipWithError("no photo");
     const PixelSize target = targetOf(state);
     for ([[maybe_unused]] auto round : state) {
-        const auto opened = platform::ImageSource::open(source);
+        const auto opened = platform::codecs::ImageSource::open(source);
         const auto image = opened ? opened->image({.atLeast = target}) : std::nullopt;
         if (!image
-            || !platform::encode(
+            || !platform::codecs::encode(
                 image->scaledTo(target),
-                platform::FileFormat::Jpeg,
+                platform::codecs::FileFormat::Jpeg,
                 {.lossyQuality = 0.9},
                 folder.filePath(u"target.jpg"_qs)
             ))

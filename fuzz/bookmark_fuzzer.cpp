@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::archives;
 
 /// A record that leads to a path is one that can be made for it.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

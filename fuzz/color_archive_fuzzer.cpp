@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::archives;
 
 /// The archive stands in its bytes; a colour that was read is the same after writing it.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

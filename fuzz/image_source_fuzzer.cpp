@@ -15,10 +15,10 @@ constexpr int largestSide = 512;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const platform::Engine engine;
+    static const platform::graphics::Engine engine;
     const fuzz::InputFile file(data, size);
-    static_cast<void>(platform::embeddedThumbnail(file.path()));
-    const auto source = platform::ImageSource::open(file.path());
+    static_cast<void>(platform::codecs::embeddedThumbnail(file.path()));
+    const auto source = platform::codecs::ImageSource::open(file.path());
     if (!source || source->header().storedSize.width > largestSide
         || source->header().storedSize.height > largestSide)
         return 0;

@@ -100,12 +100,12 @@ void addLayers(const SeedFolder& seeds)
 
 void addColors(const SeedFolder& seeds)
 {
-    const platform::ColorComponents components{0.25F, 0.5F, 1};
+    const platform::archives::ColorComponents components{0.25F, 0.5F, 1};
     const auto add = [&](const QString& name, const QString& archive) {
         seeds.add(name, QByteArray::fromBase64(archive.toLatin1()));
     };
-    add(QStringLiteral("stream"), platform::colorArchive(components));
-    add(QStringLiteral("keyed"), platform::galleryColorArchive(components));
+    add(QStringLiteral("stream"), platform::archives::colorArchive(components));
+    add(QStringLiteral("keyed"), platform::archives::galleryColorArchive(components));
 }
 
 } // namespace
@@ -114,7 +114,7 @@ int main(int argc, char** argv)
 {
     if (argc != 2)
         return 2;
-    const platform::Engine engine;
+    const platform::graphics::Engine engine;
     const QString top = QFile::decodeName(argv[1]);
     addPhotos(SeedFolder(top, QStringLiteral("image_source")));
     addLayers(SeedFolder(top, QStringLiteral("image_source")));
@@ -126,7 +126,8 @@ int main(int argc, char** argv)
     addColors(SeedFolder(top, QStringLiteral("color_archive")));
     SeedFolder(top, QStringLiteral("bookmark"))
         .add(
-            QStringLiteral("folder"), platform::bookmarkFor(QDir::rootPath()).value_or(QByteArray())
+            QStringLiteral("folder"),
+            platform::archives::bookmarkFor(QDir::rootPath()).value_or(QByteArray())
         );
     return 0;
 }

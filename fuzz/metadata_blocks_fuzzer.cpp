@@ -7,7 +7,8 @@
 
 #include <array>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::containers;
+using namespace brenvaldo::platform::metadata;
 
 namespace {
 

@@ -2,7 +2,8 @@
 #include <platform/metadata/block_readers.h>
 #include <platform/metadata/block_splicers.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::containers;
+using namespace brenvaldo::platform::metadata;
 
 /// Puts the blocks of a file into the file itself; every writer gets every file.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

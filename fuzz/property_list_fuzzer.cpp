@@ -6,6 +6,6 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const brenvaldo::fuzz::InputFile file(data, size);
-    static_cast<void>(brenvaldo::platform::readPropertyList(file.path()));
+    static_cast<void>(brenvaldo::platform::storage::readPropertyList(file.path()));
     return 0;
 }

@@ -43,7 +43,7 @@ void nameProgram()
 int main(int argc, char** argv)
 {
     platform::keepToolkitNotesAway();
-    const platform::Engine engine;
+    const platform::graphics::Engine engine;
     app::Application application(argc, argv);
     nameProgram();
     const QStringList files = filesOfCommandLine();

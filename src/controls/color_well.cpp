@@ -3,13 +3,13 @@
 
 namespace brenvaldo::controls {
 
-ColorWell::ColorWell(const QString& name, platform::Color color)
+ColorWell::ColorWell(const QString& name, platform::graphics::Color color)
     : Control(name)
     , m_color(color)
 {
 }
 
-void ColorWell::setColor(const platform::Color& color)
+void ColorWell::setColor(const platform::graphics::Color& color)
 {
     if (m_color == color)
         return;

@@ -11,13 +11,13 @@ namespace brenvaldo::controls {
 class ColorWell : public Control
 {
 public:
-    explicit ColorWell(const QString& name, platform::Color color = {});
+    explicit ColorWell(const QString& name, platform::graphics::Color color = {});
 
-    [[nodiscard]] const platform::Color& color() const { return m_color; }
-    void setColor(const platform::Color& color);
+    [[nodiscard]] const platform::graphics::Color& color() const { return m_color; }
+    void setColor(const platform::graphics::Color& color);
 
 private:
-    platform::Color m_color;
+    platform::graphics::Color m_color;
 };
 
 } // namespace brenvaldo::controls

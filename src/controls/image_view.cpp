@@ -3,7 +3,7 @@
 
 namespace brenvaldo::controls {
 
-void ImageView::setImage(std::optional<platform::Image> image)
+void ImageView::setImage(std::optional<platform::graphics::Image> image)
 {
     m_image = std::move(image);
     changed();

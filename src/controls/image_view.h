@@ -15,12 +15,12 @@ class ImageView : public Control
 public:
     using Control::Control;
 
-    [[nodiscard]] const std::optional<platform::Image>& image() const { return m_image; }
-    void setImage(std::optional<platform::Image> image);
+    [[nodiscard]] const std::optional<platform::graphics::Image>& image() const { return m_image; }
+    void setImage(std::optional<platform::graphics::Image> image);
     void clear() { setImage(std::nullopt); }
 
 private:
-    std::optional<platform::Image> m_image;
+    std::optional<platform::graphics::Image> m_image;
 };
 
 } // namespace brenvaldo::controls

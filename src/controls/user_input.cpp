@@ -40,7 +40,7 @@ void UserInput::pick(TabView& tabs, int index) const
     sendActions(tabs);
 }
 
-void UserInput::choose(ColorWell& well, const platform::Color& color) const
+void UserInput::choose(ColorWell& well, const platform::graphics::Color& color) const
 {
     well.setColor(color);
     sendActions(well);

@@ -25,7 +25,7 @@ public:
     void tick(CheckBox& box, int state) const;
     void pick(IndexedControl& control, int index) const;
     void pick(TabView& tabs, int index) const;
-    void choose(ColorWell& well, const platform::Color& color) const;
+    void choose(ColorWell& well, const platform::graphics::Color& color) const;
     void drag(Slider& slider, double value) const;
     void select(TableView& table, int row) const;
     void press(const Button& button) const;

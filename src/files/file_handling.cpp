@@ -10,7 +10,7 @@
 
 namespace brenvaldo::files {
 
-using platform::SourceAndTarget;
+using platform::storage::SourceAndTarget;
 
 namespace {
 
@@ -20,29 +20,31 @@ FileResult
 replaceTarget(const SourceAndTarget& paths, bool (*action)(const SourceAndTarget& freePaths))
 {
     const QString folder = platform::deletingLastPathComponent(paths.target);
-    platform::createFolder(folder);
-    if (!platform::fileExists(folder))
+    platform::storage::createFolder(folder);
+    if (!platform::storage::fileExists(folder))
         return FileResult::Failed;
-    if (platform::fileExists(paths.target))
-        platform::removeItem(paths.target);
+    if (platform::storage::fileExists(paths.target))
+        platform::storage::removeItem(paths.target);
     return okOrFailed(action(paths));
 }
 
 void deleteFolder(const QString& folder)
 {
-    for (const auto& entry : platform::folderEntries(folder, platform::HiddenFiles::Included))
-        platform::removeItem(entry.path);
-    platform::removeItem(folder);
+    for (const auto& entry :
+         platform::storage::folderEntries(folder, platform::storage::HiddenFiles::Included))
+        platform::storage::removeItem(entry.path);
+    platform::storage::removeItem(folder);
 }
 
 void copyFilesOf(const SourceAndTarget& folders)
 {
-    for (const auto& entry :
-         platform::folderEntries(folders.source, platform::HiddenFiles::Included)) {
-        if (platform::isFolder(entry.path))
+    for (const auto& entry : platform::storage::folderEntries(
+             folders.source, platform::storage::HiddenFiles::Included
+         )) {
+        if (platform::storage::isFolder(entry.path))
             continue;
         const QString target = platform::appendingPathComponent(folders.target, entry.name);
-        if (!platform::copyItem({.source = entry.path, .target = target}))
+        if (!platform::storage::copyItem({.source = entry.path, .target = target}))
             platform::log(QStringLiteral("Error Copying: \"%1\" can't be copied to \"%2\"")
                               .arg(entry.path, target));
     }
@@ -52,40 +54,42 @@ void copyFilesOf(const SourceAndTarget& folders)
 
 FileResult cNSFileHandling::hCreateDirectory(const QString& path)
 {
-    if (platform::fileExists(path))
+    if (platform::storage::fileExists(path))
         return FileResult::Exists;
-    return platform::createFolder(path) ? FileResult::Ok : FileResult::NotCreated;
+    return platform::storage::createFolder(path) ? FileResult::Ok : FileResult::NotCreated;
 }
 
 FileResult cNSFileHandling::hCopyFileTo(const SourceAndTarget& paths)
 {
-    return replaceTarget(paths, platform::copyItem);
+    return replaceTarget(paths, platform::storage::copyItem);
 }
 
 FileResult cNSFileHandling::hMoveFileTo(const SourceAndTarget& paths)
 {
-    return replaceTarget(paths, platform::moveItem);
+    return replaceTarget(paths, platform::storage::moveItem);
 }
 
 FileResult cNSFileHandling::hAliasFileTo(const SourceAndTarget& paths)
 {
-    return replaceTarget(paths, platform::createSymbolicLink);
+    return replaceTarget(paths, platform::storage::createSymbolicLink);
 }
 
 FileResult cNSFileHandling::hCopyFileToDest(const SourceAndTarget& paths)
 {
-    platform::createFolder(paths.target);
-    return okOrFailed(platform::fileExists(paths.target) && platform::copyItem(paths));
+    platform::storage::createFolder(paths.target);
+    return okOrFailed(
+        platform::storage::fileExists(paths.target) && platform::storage::copyItem(paths)
+    );
 }
 
 FileResult cNSFileHandling::hCopyFolderTo(const SourceAndTarget& paths)
 {
-    return platform::copyItem(paths) ? FileResult::Success : FileResult::Failed;
+    return platform::storage::copyItem(paths) ? FileResult::Success : FileResult::Failed;
 }
 
 FileResult cNSFileHandling::hCopyAppTo(const SourceAndTarget& folders)
 {
-    if (platform::fileExists(folders.source))
+    if (platform::storage::fileExists(folders.source))
         deleteFolder(folders.source);
     else
         copyFilesOf(
@@ -97,17 +101,17 @@ FileResult cNSFileHandling::hCopyAppTo(const SourceAndTarget& folders)
 
 FileResult cNSFileHandling::hTrashFile(const QString& path)
 {
-    return okOrFailed(platform::moveToTrash(path));
+    return okOrFailed(platform::storage::moveToTrash(path));
 }
 
 FileResult cNSFileHandling::hDeleteFiles(const QList<QUrl>& files)
 {
     for (const QUrl& file : files)
-        platform::removeItem(file.toLocalFile());
+        platform::storage::removeItem(file.toLocalFile());
     return FileResult::Ok;
 }
 
-void cNSFileHandling::hShowInFinder(platform::Desktop& desktop, const QString& path)
+void cNSFileHandling::hShowInFinder(platform::storage::Desktop& desktop, const QString& path)
 {
     desktop.reveal(path);
 }
@@ -119,19 +123,22 @@ void cNSFileHandling::hRenameFile(const PathAndName& file)
     const auto target = urlFromText(platform::appendingPathComponent(folder, file.name));
     if (!source || !target)
         return;
-    platform::moveItem({.source = source->path(), .target = target->path()});
+    platform::storage::moveItem({.source = source->path(), .target = target->path()});
 }
 
-void cNSFileHandling::hRenameFile2(const SourceAndTarget& paths) { platform::copyItem(paths); }
+void cNSFileHandling::hRenameFile2(const SourceAndTarget& paths)
+{
+    platform::storage::copyItem(paths);
+}
 
 FileResult cNSFileHandling::hCheckIfFileExist(const QString& path)
 {
-    return platform::fileExists(path) ? FileResult::Ok : FileResult::No;
+    return platform::storage::fileExists(path) ? FileResult::Ok : FileResult::No;
 }
 
 void cNSFileHandling::hAddIconToFile(const QString& path, const QImage& icon)
 {
-    platform::setFileIcon(path, icon);
+    platform::storage::setFileIcon(path, icon);
 }
 
 } // namespace brenvaldo::files

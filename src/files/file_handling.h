@@ -52,7 +52,7 @@ struct PathAndKey
 class cNSFileHandling
 {
 public:
-    using SourceAndTarget = platform::SourceAndTarget;
+    using SourceAndTarget = platform::storage::SourceAndTarget;
 
     /// Makes the folder and those around it; "EXISTS" for whatever stands at `path`, a file too.
     static FileResult hCreateDirectory(const QString& path);
@@ -77,7 +77,7 @@ public:
     static FileResult hTrashFile(const QString& path);
     /// Always "OK".
     static FileResult hDeleteFiles(const QList<QUrl>& files);
-    static void hShowInFinder(platform::Desktop& desktop, const QString& path);
+    static void hShowInFinder(platform::storage::Desktop& desktop, const QString& path);
 
     /// Moves the file to the new name through addresses made from the plain paths: does nothing
     /// when either is no valid address, such as with a blank in it.
@@ -112,7 +112,8 @@ public:
     static std::optional<QByteArray> readNSDataFromFile(const QString& path);
 
 private:
-    QString dateText(const DateRequest& request, QDateTime platform::FileAttributes::*date);
+    QString
+    dateText(const DateRequest& request, QDateTime platform::storage::FileAttributes::*date);
 
     QString m_dateText;
     QString m_sizeText;

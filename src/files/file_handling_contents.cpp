@@ -19,7 +19,7 @@ void cNSFileHandling::hWriteTextFile(const TextAndPath& file)
 
 std::optional<QStringList> cNSFileHandling::hReadTextFileLbyL(const QString& path)
 {
-    const auto text = platform::readTextFile(path);
+    const auto text = platform::storage::readTextFile(path);
     if (!text)
         return std::nullopt;
     return platform::splitAtNewlines(*text);
@@ -27,7 +27,7 @@ std::optional<QStringList> cNSFileHandling::hReadTextFileLbyL(const QString& pat
 
 std::optional<QVariant> cNSFileHandling::readPlist(const PathAndKey& entry)
 {
-    const auto dictionary = platform::readPropertyList(entry.path);
+    const auto dictionary = platform::storage::readPropertyList(entry.path);
     if (!dictionary || !dictionary->contains(entry.key))
         return std::nullopt;
     return dictionary->value(entry.key);
@@ -35,16 +35,16 @@ std::optional<QVariant> cNSFileHandling::readPlist(const PathAndKey& entry)
 
 void cNSFileHandling::writeToPlist(const PathAndKey& entry, const QVariant& value)
 {
-    auto dictionary = platform::readPropertyList(entry.path);
+    auto dictionary = platform::storage::readPropertyList(entry.path);
     if (!dictionary)
         return;
     dictionary->insert(entry.key, value);
-    static_cast<void>(platform::writePropertyList(entry.path, *dictionary));
+    static_cast<void>(platform::storage::writePropertyList(entry.path, *dictionary));
 }
 
 void cNSFileHandling::writeNSDataToFile(const QByteArray& contents, const QString& path)
 {
-    static_cast<void>(platform::writeFileAtomically(path, contents));
+    static_cast<void>(platform::storage::writeFileAtomically(path, contents));
 }
 
 std::optional<QByteArray> cNSFileHandling::readNSDataFromFile(const QString& path)

@@ -6,15 +6,16 @@
 
 namespace brenvaldo::files {
 
-using platform::FileAttributes;
+using platform::storage::FileAttributes;
 
-QString
-cNSFileHandling::dateText(const DateRequest& request, QDateTime platform::FileAttributes::*date)
+QString cNSFileHandling::dateText(
+    const DateRequest& request, QDateTime platform::storage::FileAttributes::*date
+)
 {
     static const QStringList modes
         = {QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2")};
     if (modes.contains(request.mode)) {
-        const auto attributes = platform::fileAttributes(request.path);
+        const auto attributes = platform::storage::fileAttributes(request.path);
         m_dateText = attributes ? platform::dateTextForFileName((*attributes).*date) : QString();
     }
     return m_dateText;
@@ -32,7 +33,7 @@ QString cNSFileHandling::hGetModificationDateFile(const DateRequest& request)
 
 QString cNSFileHandling::getFileSize(const QString& path)
 {
-    if (const auto attributes = platform::fileAttributes(path))
+    if (const auto attributes = platform::storage::fileAttributes(path))
         m_sizeText = platform::byteCountText(attributes->size);
     return m_sizeText;
 }

@@ -8,11 +8,11 @@ namespace brenvaldo::files {
 
 QString cNSFileHandling::hGetFileType(const QString& path)
 {
-    if (!platform::fileExists(path))
+    if (!platform::storage::fileExists(path))
         return {};
-    if (platform::isFolder(path))
+    if (platform::storage::isFolder(path))
         return QStringLiteral("public.folder");
-    return platform::preferredTypeIdentifier(platform::pathExtension(path));
+    return platform::containers::preferredTypeIdentifier(platform::pathExtension(path));
 }
 
 } // namespace brenvaldo::files

@@ -8,7 +8,7 @@ namespace brenvaldo::files {
 
 QString DVFileProperty::dvGetFileLabel(const QString& path)
 {
-    const auto label = platform::fileLabel(path);
+    const auto label = platform::storage::fileLabel(path);
     return label ? QString::number(*label) : QStringLiteral("none");
 }
 

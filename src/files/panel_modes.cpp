@@ -111,7 +111,7 @@ std::optional<PanelMode> panelMode(const QString& name, PanelForm form)
 QStringList scannedFiles(const QString& folder, const QStringList& extensions)
 {
     QStringList paths;
-    for (const platform::FolderEntry& entry : platform::folderTree(folder)) {
+    for (const platform::storage::FolderEntry& entry : platform::storage::folderTree(folder)) {
         const bool passes
             = extensions.isEmpty() || extensions.contains(platform::pathExtension(entry.name));
         if (!entry.isFolder && passes)

@@ -13,9 +13,9 @@ namespace brenvaldo::files {
 
 namespace {
 
-namespace property = platform::property;
-using platform::PropertyDictionary;
-using platform::PropertyValue;
+namespace property = platform::metadata::property;
+using platform::metadata::PropertyDictionary;
+using platform::metadata::PropertyValue;
 using Value = std::optional<PropertyValue>;
 
 Value valueOf(const PropertyDictionary& properties, const QString& key)
@@ -182,13 +182,13 @@ std::optional<PropertyValue> photoAttribute(const QString& path, const QString& 
     });
     if (row == rows.end())
         return std::nullopt;
-    const auto photo = platform::imageProperties(path);
+    const auto photo = platform::metadata::imageProperties(path);
     return photo ? row->read(*photo) : std::nullopt;
 }
 
 std::optional<QDateTime> exposureDate(const QString& path)
 {
-    const auto photo = platform::imageProperties(path);
+    const auto photo = platform::metadata::imageProperties(path);
     if (!photo)
         return std::nullopt;
     const Value taken = exif(*photo, property::exifDateTimeOriginal);

@@ -18,19 +18,19 @@ enum class Metadata { Kept, Dropped };
 struct CopyType
 {
     const char* title;
-    platform::FileFormat format;
+    platform::codecs::FileFormat format;
     Pixels pixels;
     Metadata metadata;
 };
 
 constexpr std::array<CopyType, 7> copyTypes = {{
-    {"pdf", platform::FileFormat::Pdf, Pixels::Upright, Metadata::Dropped},
-    {"png", platform::FileFormat::Png, Pixels::Stored, Metadata::Kept},
-    {"tiff", platform::FileFormat::Tiff, Pixels::Stored, Metadata::Kept},
-    {"bmp", platform::FileFormat::Bmp, Pixels::Stored, Metadata::Dropped},
-    {"gif", platform::FileFormat::Gif, Pixels::Stored, Metadata::Dropped},
-    {"jp2", platform::FileFormat::Jpeg2000, Pixels::Stored, Metadata::Dropped},
-    {"jpeg", platform::FileFormat::Jpeg, Pixels::Stored, Metadata::Kept},
+    {"pdf", platform::codecs::FileFormat::Pdf, Pixels::Upright, Metadata::Dropped},
+    {"png", platform::codecs::FileFormat::Png, Pixels::Stored, Metadata::Kept},
+    {"tiff", platform::codecs::FileFormat::Tiff, Pixels::Stored, Metadata::Kept},
+    {"bmp", platform::codecs::FileFormat::Bmp, Pixels::Stored, Metadata::Dropped},
+    {"gif", platform::codecs::FileFormat::Gif, Pixels::Stored, Metadata::Dropped},
+    {"jp2", platform::codecs::FileFormat::Jpeg2000, Pixels::Stored, Metadata::Dropped},
+    {"jpeg", platform::codecs::FileFormat::Jpeg, Pixels::Stored, Metadata::Kept},
 }};
 
 const CopyType* copyType(const QString& title)
@@ -63,21 +63,21 @@ double compressionFactor(const QString& title)
 bool writePhotoCopy(const PhotoCopy& copy)
 {
     const CopyType* const type = copyType(copy.type);
-    const auto source = platform::ImageSource::open(copy.source);
+    const auto source = platform::codecs::ImageSource::open(copy.source);
     if (!type || !source)
         return false;
     const auto image = type->pixels == Pixels::Upright ? source->uprightImage() : source->image();
     if (!image)
         return false;
-    const auto metadata = platform::readMetadataBlocks(copy.source);
+    const auto metadata = platform::metadata::readMetadataBlocks(copy.source);
     const bool keepsMetadata = metadata && type->metadata == Metadata::Kept;
-    platform::ImageFileRequest request
+    platform::metadata::ImageFileRequest request
         = {.format = type->format,
            .lossyQuality = {},
            .metadata = keepsMetadata ? &*metadata : nullptr};
-    if (type->format == platform::FileFormat::Jpeg)
+    if (type->format == platform::codecs::FileFormat::Jpeg)
         request.lossyQuality = compressionFactor(copy.compression);
-    return platform::writeImageFile(*image, request, copy.target);
+    return platform::metadata::writeImageFile(*image, request, copy.target);
 }
 
 } // namespace brenvaldo::files

@@ -19,15 +19,15 @@ namespace brenvaldo::files {
 
 namespace {
 
-using platform::FileAttributes;
-using platform::PropertyValue;
+using platform::metadata::PropertyValue;
+using platform::storage::FileAttributes;
 using Value = std::optional<PropertyValue>;
 
 QString dateText(const QDateTime& date) { return cNSStringHandling::hNSDateToNSString(date); }
 
 Value dateOf(const QString& path, QDateTime FileAttributes::*date)
 {
-    const auto attributes = platform::fileAttributes(path);
+    const auto attributes = platform::storage::fileAttributes(path);
     return attributes ? Value(dateText((*attributes).*date)) : std::nullopt;
 }
 
@@ -47,21 +47,22 @@ Value contentCreationDate(const QString& path)
 
 Value size(const QString& path)
 {
-    const auto attributes = platform::fileAttributes(path);
+    const auto attributes = platform::storage::fileAttributes(path);
     return attributes ? Value(qint64{attributes->size}) : std::nullopt;
 }
 
 Value label(const QString& path)
 {
-    const auto number = platform::fileLabel(path);
+    const auto number = platform::storage::fileLabel(path);
     return number ? Value(*number) : std::nullopt;
 }
 
 Value entryCount(const QString& path)
 {
-    if (!platform::isFolder(path))
+    if (!platform::storage::isFolder(path))
         return std::nullopt;
-    return qint64{platform::folderEntries(path, platform::HiddenFiles::Included).size()};
+    return qint64{
+        platform::storage::folderEntries(path, platform::storage::HiddenFiles::Included).size()};
 }
 
 Value name(const QString& path) { return platform::lastPathComponent(path); }
@@ -99,7 +100,7 @@ constexpr std::array kinds{
 
 Value kindOf(const QString& path)
 {
-    if (platform::isFolder(path))
+    if (platform::storage::isFolder(path))
         return QStringLiteral("Folder");
     const QString type = cNSFileHandling::hGetFileType(path);
     const auto known = std::find_if(kinds.begin(), kinds.end(), [&](const Kind& kind) {
@@ -144,7 +145,7 @@ constexpr std::array rows{
 
 std::optional<QString> searchAttribute(const QString& path, const QString& name)
 {
-    if (!platform::fileExists(path))
+    if (!platform::storage::fileExists(path))
         return std::nullopt;
     const auto row = std::find_if(rows.begin(), rows.end(), [&](const Row& candidate) {
         return name == candidate.name;

@@ -24,7 +24,7 @@ namespace brenvaldo::files {
 struct ToolBoxSurroundings
 {
     controls::FileChooser& chooser;
-    platform::Desktop& desktop;
+    platform::storage::Desktop& desktop;
     const platform::UserDefaults& defaults;
 };
 
@@ -92,7 +92,7 @@ public:
     /// with "-temp" added to it. Starts with a fresh status.
     static StoreStatus hStoreFiles(const PathAndName& file);
     /// Copies to the target; the status stays failed once it has.
-    static StoreStatus hStoreFiles2(const platform::SourceAndTarget& paths);
+    static StoreStatus hStoreFiles2(const platform::storage::SourceAndTarget& paths);
     /// Copies into `Temp` under the name; the status stays failed once it has.
     static StoreStatus hStoreTempFile(const PathAndName& file);
     [[nodiscard]] static QString hGetHomeDir();

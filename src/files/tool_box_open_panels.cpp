@@ -59,7 +59,7 @@ QString cToolBox::hReadNSDataInFile(const QString& folder) const
     if (!chosen || chosen->isEmpty())
         return {};
     const QString path = chosen->last();
-    const QString contents = platform::readTextFile(path).value_or(QString());
+    const QString contents = platform::storage::readTextFile(path).value_or(QString());
     const QString name = platform::deletingPathExtension(platform::lastPathComponent(path));
     constexpr int blanks = 65;
     return name + u'\t' + QString(blanks, u' ') + u'\t' + contents;

@@ -30,7 +30,7 @@ QString cToolBox::savedTo(const controls::SavePanel& panel, const QByteArray& co
     if (!chosen)
         return {};
     const QString path = controls::withAllowedType(*chosen, panel);
-    if (!platform::writeFileAtomically(path, contents))
+    if (!platform::storage::writeFileAtomically(path, contents))
         logFailure(path);
     return path;
 }
@@ -98,7 +98,9 @@ void cToolBox::hSaveDialogFile(const QString& source)
     if (!written)
         logFailure(target);
     else if (asksForTags())
-        platform::setFileTags(target, m_tagNames.stringValue().split(u',', Qt::SkipEmptyParts));
+        platform::storage::setFileTags(
+            target, m_tagNames.stringValue().split(u',', Qt::SkipEmptyParts)
+        );
 }
 
 } // namespace brenvaldo::files

@@ -35,24 +35,24 @@ StoreStatus cToolBox::hStoreFiles(const PathAndName& file)
     sharedStatus() = StoreStatus::Successful;
     const QString folder = platform::deletingLastPathComponent(file.path);
     const QString target = platform::appendingPathComponent(folder, file.name);
-    if (!platform::fileExists(target))
-        return noted(platform::copyItem({.source = file.path, .target = target}));
+    if (!platform::storage::fileExists(target))
+        return noted(platform::storage::copyItem({.source = file.path, .target = target}));
     const QString temporary
         = platform::appendingPathComponent(folder, file.name + QStringLiteral("-temp"));
-    const bool copied = platform::copyItem({.source = file.path, .target = temporary});
-    const bool moved = platform::moveItem({.source = temporary, .target = target});
+    const bool copied = platform::storage::copyItem({.source = file.path, .target = temporary});
+    const bool moved = platform::storage::moveItem({.source = temporary, .target = target});
     return noted(copied && moved);
 }
 
-StoreStatus cToolBox::hStoreFiles2(const platform::SourceAndTarget& paths)
+StoreStatus cToolBox::hStoreFiles2(const platform::storage::SourceAndTarget& paths)
 {
-    return noted(platform::copyItem(paths));
+    return noted(platform::storage::copyItem(paths));
 }
 
 StoreStatus cToolBox::hStoreTempFile(const PathAndName& file)
 {
     const QString target = platform::appendingPathComponent(hGetTempDir(), file.name);
-    return noted(platform::copyItem({.source = file.path, .target = target}));
+    return noted(platform::storage::copyItem({.source = file.path, .target = target}));
 }
 
 QString cToolBox::hGetHomeDir() { return platform::homeFolder(); }

@@ -40,7 +40,7 @@ cToolBox::cToolBox(const ToolBoxSurroundings& surroundings)
 QList<QUrl> cToolBox::hGetFilesInDir(const QString& folder)
 {
     QList<QUrl> files;
-    for (const platform::FolderEntry& entry : platform::folderEntries(folder))
+    for (const platform::storage::FolderEntry& entry : platform::storage::folderEntries(folder))
         files += QUrl::fromLocalFile(entry.path);
     return files;
 }
@@ -82,7 +82,7 @@ QStringList visibleFontNames(const QStringList& names)
 
 QStringList cToolBox::hGetAllInstalledFonts()
 {
-    return visibleFontNames(platform::installedFontNames());
+    return visibleFontNames(platform::drawing::installedFontNames());
 }
 
 } // namespace brenvaldo::files

@@ -12,7 +12,7 @@
 
 namespace brenvaldo::imaging {
 
-using platform::Color;
+using platform::graphics::Color;
 
 namespace {
 

@@ -27,11 +27,11 @@ public:
     explicit cColorWellHandling(const panels::Panels& panels);
 
     /// The colour as six hexadecimal digits.
-    [[nodiscard]] static QString getHEXValue(const platform::Color& color);
+    [[nodiscard]] static QString getHEXValue(const platform::graphics::Color& color);
 
     /// Sets `well` to the colour of `text`: exactly six hexadecimal digits after one optional "#",
     /// then anything else. Any other text changes nothing and gives nothing.
-    static std::optional<platform::Color>
+    static std::optional<platform::graphics::Color>
     setHEXValue(const QString& text, controls::ColorWell& well);
 
     /// Registers the two operations below as the actions that fields and wells send.

@@ -11,7 +11,7 @@
 
 namespace brenvaldo::imaging {
 
-using platform::FileFormat;
+using platform::codecs::FileFormat;
 
 namespace {
 

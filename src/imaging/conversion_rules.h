@@ -19,7 +19,7 @@ struct ConversionRule
     enum class Quality { PlatformDefault, FromLevel };
 
     QString suffix; ///< end of the type identifier, and the extension of the file
-    platform::FileFormat format = platform::FileFormat::Png;
+    platform::codecs::FileFormat format = platform::codecs::FileFormat::Png;
     Route route = Route::Plain;
     Quality quality = Quality::PlatformDefault;
 };

@@ -16,7 +16,7 @@ namespace brenvaldo::imaging {
 /// The settings of a crop, in the order in which the operation takes them.
 struct CropSettings
 {
-    platform::PixelSize size;
+    platform::graphics::PixelSize size;
     std::int64_t cutOff = 0;
     std::int64_t xOffset = 0;
     std::int64_t yOffset = 0;

@@ -10,7 +10,8 @@ class DVColorConversions
 {
 public:
     /// The drawing colour of a control's colour: the same components in the same colour space.
-    [[nodiscard]] static platform::Color NSColorToCGColor(const platform::Color& color)
+    [[nodiscard]] static platform::graphics::Color
+    NSColorToCGColor(const platform::graphics::Color& color)
     {
         return color;
     }

@@ -14,7 +14,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 class AttributedText;
 }
 
@@ -29,35 +29,38 @@ class DVImageHandling
 {
 public:
     /// Opens a photo upright, its orientation applied; nothing when it can't be read.
-    [[nodiscard]] static std::optional<platform::Image> hNSURLtoCIImage(const QUrl& url);
+    [[nodiscard]] static std::optional<platform::graphics::Image> hNSURLtoCIImage(const QUrl& url);
 
     /// Opens the stored pixels of a photo, its orientation not applied; nothing when it can't be
     /// read.
-    [[nodiscard]] static std::optional<platform::Image> hStringToCGImageRef(const QString& path);
+    [[nodiscard]] static std::optional<platform::graphics::Image>
+    hStringToCGImageRef(const QString& path);
 
     /// The picture at one pixel a point, 72 dots per inch.
-    [[nodiscard]] static platform::Image imageFromCGImageRef(const platform::Image& image);
+    [[nodiscard]] static platform::graphics::Image
+    imageFromCGImageRef(const platform::graphics::Image& image);
 
     /// The pixels of a picture, whatever its size in points.
-    [[nodiscard]] static platform::Image nsImageToCGImageRef(const platform::Image& image);
+    [[nodiscard]] static platform::graphics::Image
+    nsImageToCGImageRef(const platform::graphics::Image& image);
 
     /// The picture evaluated once and for all, its pixels in memory; nothing when it is damaged.
-    [[nodiscard]] static std::optional<platform::Image>
-    ciimageFromNSImage(const platform::Image& image);
+    [[nodiscard]] static std::optional<platform::graphics::Image>
+    ciimageFromNSImage(const platform::graphics::Image& image);
 
     /// Upright size of the photo at `path`; 0 by 0 when it can't be read.
-    [[nodiscard]] static platform::PixelSize hGetImgPixelSize(const QString& path);
+    [[nodiscard]] static platform::graphics::PixelSize hGetImgPixelSize(const QString& path);
 
     /// Size of a picture in hand; 0 by 0 for none.
-    [[nodiscard]] static platform::PixelSize
-    hGetCIImgPixelSize(const std::optional<platform::Image>& image);
+    [[nodiscard]] static platform::graphics::PixelSize
+    hGetCIImgPixelSize(const std::optional<platform::graphics::Image>& image);
 
     /// Upright size as text: "4000px x 3000px (w x h)".
     [[nodiscard]] static QString hGetPixelSize(const QString& path);
 
     /// Reads the dots per inch, rounded up, into `currentDPI()`; NaN for an unreadable photo.
     double hGetImgResolution(const QString& path);
-    double hGetNSImgResolution(const platform::Image& image);
+    double hGetNSImgResolution(const platform::graphics::Image& image);
 
     /// The last resolution read; 0 before the first.
     [[nodiscard]] double currentDPI() const { return m_currentDPI; }
@@ -67,8 +70,8 @@ public:
     ///
     /// The picture's resolution follows from its width; the height in points is that of
     /// `pointsAtResolution`.
-    [[nodiscard]] static platform::Image
-    convertImageResolution(const platform::Image& image, double dotsPerInch);
+    [[nodiscard]] static platform::graphics::Image
+    convertImageResolution(const platform::graphics::Image& image, double dotsPerInch);
 
     /// A byte count for people: "1.50MB". Above 1024 TB the look-up of a unit fails with a range
     /// error.
@@ -109,13 +112,16 @@ public:
     ///
     /// A size that nothing can be drawn at writes nothing and answers the word of the photo before.
     [[nodiscard]] static Outcome hScalePhotosWidthAndHeight(
-        const SourceAndBase& photo, platform::PixelSize box, int aspectState, const OutputTail& tail
+        const SourceAndBase& photo,
+        platform::graphics::PixelSize box,
+        int aspectState,
+        const OutputTail& tail
     );
 
     /// The picture at `factor` (0.5 is half) of its size in points, at one pixel a point; nothing
     /// when no pixel is left. A negative factor also turns it upside down.
-    [[nodiscard]] static std::optional<platform::Image>
-    hScalePictureBase(const platform::Image& image, float factor);
+    [[nodiscard]] static std::optional<platform::graphics::Image>
+    hScalePictureBase(const platform::graphics::Image& image, float factor);
 
     /// Turns the photo at `path` by `angle` degrees and writes it under its name into `folder`,
     /// which ends in "/" and may be the photo's own.
@@ -134,8 +140,8 @@ public:
 
     /// The picture turned by `angle` degrees on a transparent canvas that just holds it, at one
     /// pixel a point; nothing when no pixel is left.
-    [[nodiscard]] static std::optional<platform::Image>
-    hRotatePictureBase(const platform::Image& image, float angle);
+    [[nodiscard]] static std::optional<platform::graphics::Image>
+    hRotatePictureBase(const platform::graphics::Image& image, float angle);
 
     /// The text layer as a relief, lit by `texture` ("texture1" to "texture8"); as large and as
     /// opaque as the layer. "texture6" is the ball of `h3DcolorEffect` in `color`.
@@ -143,17 +149,20 @@ public:
     /// The relief always has the filters' own default height: `scale` is set before the defaults
     /// are, and so is without effect.
     [[nodiscard]] static QImage embossTextWatermarkEffect(
-        const QImage& layer, const QString& texture, const platform::Color& color, float scale
+        const QImage& layer,
+        const QString& texture,
+        const platform::graphics::Color& color,
+        float scale
     );
 
     /// A ball of 134 by 134 pixels, black at its rim and `color` at its highlight.
-    [[nodiscard]] static QImage h3DcolorEffect(const platform::Color& color);
+    [[nodiscard]] static QImage h3DcolorEffect(const platform::graphics::Color& color);
 
     /// A text in `color` on a ground that fills the text's measured size; null for an empty text.
     [[nodiscard]] static QImage imageWithAttributedString(
-        const platform::AttributedText& text,
-        const platform::Color& color,
-        const platform::Color& ground
+        const platform::drawing::AttributedText& text,
+        const platform::graphics::Color& color,
+        const platform::graphics::Color& ground
     );
 
     /// Saves what an operation answered, where that is a picture; the photo's word.
@@ -165,7 +174,7 @@ public:
 
 private:
     std::optional<ResultWord>
-    flipPicture(const QString& path, const QString& folder, platform::Image::Axis axis);
+    flipPicture(const QString& path, const QString& folder, platform::graphics::Image::Axis axis);
 
     double m_currentDPI = 0;
     ResultWord m_storeResult = ResultWord::Failed;

@@ -18,7 +18,7 @@
 
 namespace brenvaldo::imaging {
 
-using platform::ImageSource;
+using platform::codecs::ImageSource;
 
 namespace {
 
@@ -27,26 +27,26 @@ QString nameWithoutExtension(const QString& path)
     return platform::deletingPathExtension(platform::lastPathComponent(path));
 }
 
-std::optional<platform::Image> storedPhoto(const QString& path)
+std::optional<platform::graphics::Image> storedPhoto(const QString& path)
 {
     const auto source = ImageSource::open(path);
     return source ? source->image() : std::nullopt;
 }
 
 /// True when every pixel of the photo can be computed.
-bool isWhole(const platform::Image& photo)
+bool isWhole(const platform::graphics::Image& photo)
 {
     return photo.scaledTo({1, 1}).copiedToMemory().has_value();
 }
 
 /// True when no picture of that format can be made of the file: it is no photo, or the encoder
 /// fails without a disk, too. A damaged photo is another matter.
-bool isRefused(const QString& path, platform::FileFormat format)
+bool isRefused(const QString& path, platform::codecs::FileFormat format)
 {
     const auto photo = storedPhoto(path);
     if (!photo)
         return true;
-    return isWhole(*photo) && !platform::canEncode(*storedPhoto(path), format, {});
+    return isWhole(*photo) && !platform::codecs::canEncode(*storedPhoto(path), format, {});
 }
 
 bool writeConverted(const PictureToSave& picture, const ConversionRule& rule)
@@ -58,18 +58,18 @@ bool writeConverted(const PictureToSave& picture, const ConversionRule& rule)
         return false;
     }
 
-    platform::ImageFileRequest request;
+    platform::metadata::ImageFileRequest request;
     request.format = rule.format;
     if (rule.quality == ConversionRule::Quality::FromLevel)
         request.lossyQuality = conversionQuality(picture.compressionLevel);
     if (picture.properties)
         request.metadata = &*picture.properties;
-    return platform::writeImageFile(*picture.image, request, picture.destination);
+    return platform::metadata::writeImageFile(*picture.image, request, picture.destination);
 }
 
 ResultWord write(const PictureToSave& picture, const ConversionRule& rule)
 {
-    if (rule.format == platform::FileFormat::Heic)
+    if (rule.format == platform::codecs::FileFormat::Heic)
         platform::log(QStringLiteral("Convert: save as heic"));
     if (writeConverted(picture, rule))
         return ResultWord::Ok;
@@ -79,7 +79,7 @@ ResultWord write(const PictureToSave& picture, const ConversionRule& rule)
     if (rule.route == ConversionRule::Route::Metadata
         && QFileInfo(picture.destination) != QFileInfo(picture.source)
         && isRefused(picture.source, rule.format))
-        std::ignore = platform::writeFileAtomically(picture.destination, {});
+        std::ignore = platform::storage::writeFileAtomically(picture.destination, {});
     return ResultWord::Failed;
 }
 
@@ -110,7 +110,7 @@ std::optional<PictureToSave> converted(
         .writer = writer,
         .source = settings.source};
     if (rule->route == ConversionRule::Route::Metadata)
-        picture.properties = platform::readMetadataBlocks(settings.source);
+        picture.properties = platform::metadata::readMetadataBlocks(settings.source);
     return picture;
 }
 

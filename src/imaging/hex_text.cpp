@@ -22,7 +22,7 @@ HexBytes hexBytes(std::uint32_t number)
     return {.red = byteAt(16), .green = byteAt(8), .blue = byteAt(0)};
 }
 
-QString hexText(const platform::Color& color)
+QString hexText(const platform::graphics::Color& color)
 {
     return twoDigits(color.red) + twoDigits(color.green) + twoDigits(color.blue);
 }

@@ -20,6 +20,6 @@ struct HexBytes
 [[nodiscard]] HexBytes hexBytes(std::uint32_t number);
 
 /// Six hexadecimal digits, upper case: each component times 255, truncated.
-[[nodiscard]] QString hexText(const platform::Color& color);
+[[nodiscard]] QString hexText(const platform::graphics::Color& color);
 
 } // namespace brenvaldo::imaging

@@ -7,7 +7,7 @@
 
 namespace brenvaldo::imaging {
 
-using platform::Color;
+using platform::graphics::Color;
 
 Color cNSColorHandling::colorFromHexRGB(const QString& text)
 {

@@ -13,11 +13,11 @@ class cNSColorHandling
 public:
     /// The opaque colour of the hexadecimal digits at the start of `text`; a text that begins with
     /// none, such as one with a leading "#", gives black.
-    [[nodiscard]] static platform::Color colorFromHexRGB(const QString& text);
-    [[nodiscard]] static platform::Color colorFromHexToRGB(const QString& text);
+    [[nodiscard]] static platform::graphics::Color colorFromHexRGB(const QString& text);
+    [[nodiscard]] static platform::graphics::Color colorFromHexToRGB(const QString& text);
 
     /// Upper case; each component times 255, truncated: "7F7F7F" for components of 0.5.
-    [[nodiscard]] static QString hGetHexFromRGB(const platform::Color& color);
+    [[nodiscard]] static QString hGetHexFromRGB(const platform::graphics::Color& color);
 };
 
 } // namespace brenvaldo::imaging

@@ -8,14 +8,16 @@
 namespace brenvaldo::imaging {
 
 PictureToSave outputPicture(
-    const std::optional<platform::Image>& image, const SourceAndBase& photo, const OutputTail& tail
+    const std::optional<platform::graphics::Image>& image,
+    const SourceAndBase& photo,
+    const OutputTail& tail
 )
 {
     return {
         .destination = photo.destinationBase,
         .typeIdentifier = tail.myFileType,
         .image = image,
-        .properties = platform::readMetadataBlocks(photo.source),
+        .properties = platform::metadata::readMetadataBlocks(photo.source),
         .compressionLevel = tail.compressionLevel,
         .writer = DVImageHandling::hSaveToNewImageFileX};
 }

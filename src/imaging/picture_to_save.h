@@ -26,8 +26,8 @@ struct PictureToSave
 
     QString destination; ///< path without extension; `hSaveToNewImageFile` takes the whole path
     QString typeIdentifier;
-    std::optional<platform::Image> image; ///< without a picture the writing fails
-    std::optional<platform::MetadataBlocks> properties = {}; ///< metadata of the source
+    std::optional<platform::graphics::Image> image; ///< without a picture the writing fails
+    std::optional<platform::containers::MetadataBlocks> properties = {}; ///< metadata of the source
     QString compressionLevel = {}; ///< ignored by `hSaveToNewImageFile`
     Writer writer = nullptr;
     QString source = {}; ///< path of the photo; for a writer that looks at it once more
@@ -44,7 +44,9 @@ using Outcome = std::variant<ResultWord, WordOfPictureBefore, PictureToSave>;
 /// The picture of a batch operation: its place and type by the arguments that every one of them
 /// has, with the metadata of the source.
 [[nodiscard]] PictureToSave outputPicture(
-    const std::optional<platform::Image>& image, const SourceAndBase& photo, const OutputTail& tail
+    const std::optional<platform::graphics::Image>& image,
+    const SourceAndBase& photo,
+    const OutputTail& tail
 );
 
 /// Makes the file by the picture's writer.

@@ -14,13 +14,13 @@
 
 namespace brenvaldo::imaging {
 
-using platform::Image;
+using platform::graphics::Image;
 
 namespace {
 
 QString typeOfExtension(const QString& path)
 {
-    return platform::preferredTypeIdentifier(platform::pathExtension(path));
+    return platform::containers::preferredTypeIdentifier(platform::pathExtension(path));
 }
 
 /// The stored pixels of the photo at `path`; the log tells why there are none.
@@ -44,7 +44,7 @@ saveEdited(const std::optional<Image>& image, const QString& source, const QStri
         .destination = folder + platform::lastPathComponent(source),
         .typeIdentifier = typeOfExtension(source),
         .image = image,
-        .properties = platform::readMetadataBlocks(source),
+        .properties = platform::metadata::readMetadataBlocks(source),
     });
 }
 
@@ -57,7 +57,7 @@ DVImageHandling::hRotatePicture(const QString& path, const QString& folder, floa
     const auto photo = storedPhoto(path);
     if (!photo)
         return std::nullopt;
-    const auto turned = turnedPhoto(*photo, angle, platform::FreeCorners::Blank);
+    const auto turned = turnedPhoto(*photo, angle, platform::graphics::FreeCorners::Blank);
     m_storeResult = saveEdited(turned, path, folder);
     return m_storeResult;
 }

@@ -19,9 +19,9 @@ using Vector = std::array<double, 3>;
 /// A material and the lamp above it.
 struct Material
 {
-    platform::Color shade; ///< colour of what is turned away from the light
-    platform::Color body; ///< colour of what faces the light
-    platform::Color highlight;
+    platform::graphics::Color shade; ///< colour of what is turned away from the light
+    platform::graphics::Color body; ///< colour of what faces the light
+    platform::graphics::Color highlight;
     double shininess = 20;
     Vector light{}; ///< direction to the lamp: right, up, towards the viewer
 };

@@ -7,9 +7,9 @@
 
 namespace brenvaldo::imaging {
 
-using platform::PixelRect;
-using platform::PixelSize;
 using platform::truncated;
+using platform::graphics::PixelRect;
+using platform::graphics::PixelSize;
 
 namespace {
 

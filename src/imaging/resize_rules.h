@@ -18,18 +18,20 @@ enum class MaximumType { Width, Height, LongestSide, Percentage };
 [[nodiscard]] MaximumType maximumTypeAt(int index);
 
 /// Target of the maximum mode; `value` is pixels or percent, nothing caps an enlargement.
-[[nodiscard]] platform::PixelSize
-maximumTarget(platform::PixelSize photo, int value, MaximumType type);
+[[nodiscard]] platform::graphics::PixelSize
+maximumTarget(platform::graphics::PixelSize photo, int value, MaximumType type);
 
 /// Size at which `photo` covers `box` with its proportions kept.
-[[nodiscard]] platform::PixelSize coveringSize(platform::PixelSize photo, platform::PixelSize box);
+[[nodiscard]] platform::graphics::PixelSize
+coveringSize(platform::graphics::PixelSize photo, platform::graphics::PixelSize box);
 
 /// The part of a picture of size `scaled` that is left when the excess over `box` is cut off
 /// equally on both sides; odd pixels stay at the right and at the bottom.
-[[nodiscard]] platform::PixelRect centredCut(platform::PixelSize scaled, platform::PixelSize box);
+[[nodiscard]] platform::graphics::PixelRect
+centredCut(platform::graphics::PixelSize scaled, platform::graphics::PixelSize box);
 
 /// True when a picture of `size` can be drawn: no side below 1 pixel or above 10 million, and not
 /// more than 2^30 pixels.
-[[nodiscard]] bool givesContext(platform::PixelSize size);
+[[nodiscard]] bool givesContext(platform::graphics::PixelSize size);
 
 } // namespace brenvaldo::imaging

@@ -22,7 +22,7 @@ struct MaximumSettings
 /// The fixed mode of resizing.
 struct BoxSettings
 {
-    platform::PixelSize box;
+    platform::graphics::PixelSize box;
     int aspectState = 0; ///< state of `cbScaleAspectRatio`
 
     friend bool operator==(const BoxSettings&, const BoxSettings&) = default;

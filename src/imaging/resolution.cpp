@@ -7,9 +7,9 @@
 
 namespace brenvaldo::imaging {
 
-using platform::Image;
-using platform::ImageSource;
-using platform::PixelSize;
+using platform::codecs::ImageSource;
+using platform::graphics::Image;
+using platform::graphics::PixelSize;
 
 namespace {
 

@@ -16,13 +16,13 @@ float dotsPerInchRoundedUp(int pixelsWide, double pointsWide)
     return roundedUp(pixelsWide * pointsPerInch / pointsWide);
 }
 
-QSizeF exactPoints(platform::PixelSize pixels, double dotsPerInch)
+QSizeF exactPoints(platform::graphics::PixelSize pixels, double dotsPerInch)
 {
     return {
         pixels.width * pointsPerInch / dotsPerInch, pixels.height * pointsPerInch / dotsPerInch};
 }
 
-QSizeF pointsAtResolution(platform::PixelSize pixels, double dotsPerInch)
+QSizeF pointsAtResolution(platform::graphics::PixelSize pixels, double dotsPerInch)
 {
     const QSizeF exact = exactPoints(pixels, dotsPerInch);
     return {roundedUp(exact.width()), roundedUp(exact.height())};

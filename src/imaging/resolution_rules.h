@@ -14,9 +14,9 @@ constexpr double pointsPerInch = 72.0;
 [[nodiscard]] float dotsPerInchRoundedUp(int pixelsWide, double pointsWide);
 
 /// Size in points at a resolution, each side rounded up to a whole number in single precision.
-[[nodiscard]] QSizeF pointsAtResolution(platform::PixelSize pixels, double dotsPerInch);
+[[nodiscard]] QSizeF pointsAtResolution(platform::graphics::PixelSize pixels, double dotsPerInch);
 
 /// Size in points, not rounded.
-[[nodiscard]] QSizeF exactPoints(platform::PixelSize pixels, double dotsPerInch);
+[[nodiscard]] QSizeF exactPoints(platform::graphics::PixelSize pixels, double dotsPerInch);
 
 } // namespace brenvaldo::imaging

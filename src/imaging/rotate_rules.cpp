@@ -8,8 +8,8 @@
 
 namespace brenvaldo::imaging {
 
-using platform::PixelSize;
 using platform::truncated;
+using platform::graphics::PixelSize;
 
 namespace {
 

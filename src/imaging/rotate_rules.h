@@ -16,7 +16,8 @@ namespace brenvaldo::imaging {
 [[nodiscard]] QSizeF boundsOfTurned(const QSizeF& size, double degrees);
 
 /// Canvas of a photo turned by `degrees`: the box around it, truncated to whole pixels.
-[[nodiscard]] platform::PixelSize turnedCanvas(platform::PixelSize photo, double degrees);
+[[nodiscard]] platform::graphics::PixelSize
+turnedCanvas(platform::graphics::PixelSize photo, double degrees);
 
 /// Quarter turns counter-clockwise.
 enum class QuarterTurns { None, One, Two, Three };
@@ -27,6 +28,6 @@ enum class QuarterTurns { None, One, Two, Three };
 /// Canvas that holds a drawing area of `points` at one pixel a point.
 ///
 /// A begun pixel counts; noise of the arithmetic (below a millionth of a point) does not.
-[[nodiscard]] platform::PixelSize canvasOfPoints(const QSizeF& points);
+[[nodiscard]] platform::graphics::PixelSize canvasOfPoints(const QSizeF& points);
 
 } // namespace brenvaldo::imaging

@@ -15,7 +15,7 @@ namespace brenvaldo::imaging {
 
 namespace {
 
-QImage shadingOf(const QString& texture, const platform::Color& color)
+QImage shadingOf(const QString& texture, const platform::graphics::Color& color)
 {
     return texture == QStringLiteral("texture6") ? DVImageHandling::h3DcolorEffect(color)
                                                  : reliefTexture(texture);
@@ -24,28 +24,31 @@ QImage shadingOf(const QString& texture, const platform::Color& color)
 } // namespace
 
 QImage DVImageHandling::embossTextWatermarkEffect(
-    const QImage& layer, const QString& texture, const platform::Color& color, float /*scale*/
+    const QImage& layer,
+    const QString& texture,
+    const platform::graphics::Color& color,
+    float /*scale*/
 )
 {
     constexpr double defaultRadius = 10;
     constexpr double defaultScale = 10;
-    return platform::shadedMaterial(
-        platform::heightFieldFromMask(layer, defaultRadius),
+    return platform::drawing::shadedMaterial(
+        platform::drawing::heightFieldFromMask(layer, defaultRadius),
         layer,
         shadingOf(texture, color),
         defaultScale
     );
 }
 
-QImage DVImageHandling::h3DcolorEffect(const platform::Color& color)
+QImage DVImageHandling::h3DcolorEffect(const platform::graphics::Color& color)
 {
-    return platform::colorBall(color);
+    return platform::drawing::colorBall(color);
 }
 
 QImage DVImageHandling::imageWithAttributedString(
-    const platform::AttributedText& text,
-    const platform::Color& color,
-    const platform::Color& ground
+    const platform::drawing::AttributedText& text,
+    const platform::graphics::Color& color,
+    const platform::graphics::Color& ground
 )
 {
     const QSizeF size = text.size();
@@ -56,10 +59,10 @@ QImage DVImageHandling::imageWithAttributedString(
     );
     if (image.isNull())
         return image;
-    image.fill(platform::qtColor(ground));
+    image.fill(platform::graphics::qtColor(ground));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    text.drawing().draw(painter, platform::qtColor(color));
+    text.drawing().draw(painter, platform::graphics::qtColor(color));
     return image;
 }
 

@@ -7,9 +7,9 @@
 
 namespace brenvaldo::imaging {
 
-using platform::FreeTurn;
-using platform::Image;
-using platform::PixelSize;
+using platform::graphics::FreeTurn;
+using platform::graphics::Image;
+using platform::graphics::PixelSize;
 
 namespace {
 
@@ -37,7 +37,8 @@ FreeTurn::Place middleOfDrawing(const QSizeF& bounds, PixelSize canvas)
 
 } // namespace
 
-std::optional<Image> turnedPhoto(const Image& photo, double degrees, platform::FreeCorners corners)
+std::optional<Image>
+turnedPhoto(const Image& photo, double degrees, platform::graphics::FreeCorners corners)
 {
     if (const auto turns = quarterTurns(degrees))
         return quarterTurned(photo, *turns);
@@ -46,7 +47,7 @@ std::optional<Image> turnedPhoto(const Image& photo, double degrees, platform::F
     if (!givesContext(canvas))
         return std::nullopt;
     const QSizeF bounds = boundsOfTurned(QSizeF(size.width, size.height), degrees);
-    return platform::freelyTurned(
+    return platform::graphics::freelyTurned(
         photo,
         {.degrees = degrees,
          .canvas = canvas,
@@ -66,12 +67,12 @@ std::optional<Image> turnedLayer(const Image& picture, double degrees)
     const Image layer = picture.scaledTo(drawn).withDotsPerInch(pointsPerInch);
     if (const auto turns = quarterTurns(degrees))
         return quarterTurned(layer, *turns);
-    return platform::freelyTurned(
+    return platform::graphics::freelyTurned(
         layer,
         {.degrees = degrees,
          .canvas = canvas,
          .centre = middleOfDrawing(bounds, canvas),
-         .corners = platform::FreeCorners::Transparent}
+         .corners = platform::graphics::FreeCorners::Transparent}
     );
 }
 

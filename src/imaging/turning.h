@@ -12,12 +12,13 @@ namespace brenvaldo::imaging {
 /// compute none.
 ///
 /// Nothing when no canvas can be made for the angle.
-[[nodiscard]] std::optional<platform::Image>
-turnedPhoto(const platform::Image& photo, double degrees, platform::FreeCorners corners);
+[[nodiscard]] std::optional<platform::graphics::Image> turnedPhoto(
+    const platform::graphics::Image& photo, double degrees, platform::graphics::FreeCorners corners
+);
 
 /// The picture at one pixel a point, turned by `degrees` on a transparent canvas that just holds
 /// it; nothing when no pixel is left.
-[[nodiscard]] std::optional<platform::Image>
-turnedLayer(const platform::Image& picture, double degrees);
+[[nodiscard]] std::optional<platform::graphics::Image>
+turnedLayer(const platform::graphics::Image& picture, double degrees);
 
 } // namespace brenvaldo::imaging

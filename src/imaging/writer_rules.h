@@ -26,7 +26,7 @@ struct WriterRule
     enum class Failure { Silent, Logged };
     enum class Quality { PlatformDefault, FromLevel };
 
-    platform::FileFormat format = platform::FileFormat::Png;
+    platform::codecs::FileFormat format = platform::codecs::FileFormat::Png;
     QString extension = {}; ///< added to the destination, with its dot; may be empty
     Properties properties = Properties::Dropped;
     Failure failure = Failure::Silent;

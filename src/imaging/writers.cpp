@@ -11,9 +11,10 @@ namespace brenvaldo::imaging {
 
 namespace {
 
-platform::ImageFileRequest fileRequest(const WriterRule& rule, const PictureToSave& picture)
+platform::metadata::ImageFileRequest
+fileRequest(const WriterRule& rule, const PictureToSave& picture)
 {
-    platform::ImageFileRequest request;
+    platform::metadata::ImageFileRequest request;
     request.format = rule.format;
     if (rule.properties == WriterRule::Properties::Carried && picture.properties)
         request.metadata = &*picture.properties;
@@ -33,7 +34,7 @@ ResultWord write(Writer writer, const PictureToSave& picture)
 
     const QString path = picture.destination + rule->extension;
     if (picture.image
-        && platform::writeImageFile(*picture.image, fileRequest(*rule, picture), path))
+        && platform::metadata::writeImageFile(*picture.image, fileRequest(*rule, picture), path))
         return ResultWord::Ok;
 
     if (!picture.image)

@@ -12,9 +12,9 @@
 
 namespace brenvaldo::metadata {
 
-using platform::PropertyDictionary;
-using platform::PropertyValue;
-namespace property = platform::property;
+using platform::metadata::PropertyDictionary;
+using platform::metadata::PropertyValue;
+namespace property = platform::metadata::property;
 
 namespace {
 
@@ -104,16 +104,16 @@ QString treated(const PropertyDictionary& iptc, const IptcName& name)
     return texts.join(QStringLiteral("; "));
 }
 
-QString nameOfDeviceSpace(const platform::ImageHeader& header)
+QString nameOfDeviceSpace(const platform::codecs::ImageHeader& header)
 {
     switch (header.colorModel) {
-    case platform::ColorModel::Gray:
+    case platform::graphics::ColorModel::Gray:
         return QStringLiteral("Generic Gray Gamma 2.2 Profile");
-    case platform::ColorModel::Rgb:
+    case platform::graphics::ColorModel::Rgb:
         return QStringLiteral("sRGB IEC61966-2.1");
-    case platform::ColorModel::Cmyk:
+    case platform::graphics::ColorModel::Cmyk:
         return QStringLiteral("Generic CMYK Profile");
-    case platform::ColorModel::Lab:
+    case platform::graphics::ColorModel::Lab:
         return QStringLiteral("Generic Lab Profile");
     }
     return {};
@@ -204,7 +204,7 @@ void mMeta::showIptc(const PropertyDictionary* iptc)
 
 std::optional<PropertyDictionary> mMeta::getMyImageSource(const QString& path)
 {
-    return platform::imageProperties(path);
+    return platform::metadata::imageProperties(path);
 }
 
 QList<qint64> mMeta::hGetPixelFormatFromSource(const PropertyDictionary& source)
@@ -277,16 +277,16 @@ QString mMeta::hGetColorProfile(const QString& path)
         return {};
     if (const auto name = source->text(property::profileName))
         return *name;
-    const auto photo = platform::ImageSource::open(path);
+    const auto photo = platform::codecs::ImageSource::open(path);
     return photo ? nameOfDeviceSpace(photo->header()) : QString();
 }
 
 QStringList mMeta::hGetPixelFormat(const QString& path)
 {
-    const auto photo = platform::ImageSource::open(path);
+    const auto photo = platform::codecs::ImageSource::open(path);
     if (!photo)
         return {};
-    const platform::PixelSize size = photo->header().uprightSize;
+    const platform::graphics::PixelSize size = photo->header().uprightSize;
     return {QString::number(size.width), QString::number(size.height)};
 }
 

@@ -27,7 +27,7 @@ public:
     void forgetPhoto();
 
     /// Builds the tree of `properties` and keeps it.
-    const QList<PropertyNode>& propTree(const platform::PropertyDictionary& properties);
+    const QList<PropertyNode>& propTree(const platform::metadata::PropertyDictionary& properties);
     [[nodiscard]] const QList<PropertyNode>& myVarTree() const { return m_tree; }
 
     /// Fills the comment and the twelve IPTC fields from the photo at `path`; answers "OK".
@@ -35,17 +35,17 @@ public:
 
     /// The properties of the file's image 0: what the readers below take as a source. Nothing for a
     /// file that is no image.
-    [[nodiscard]] static std::optional<platform::PropertyDictionary>
+    [[nodiscard]] static std::optional<platform::metadata::PropertyDictionary>
     getMyImageSource(const QString& path);
 
     /// Width and height of the stored pixels.
     [[nodiscard]] static QList<qint64>
-    hGetPixelFormatFromSource(const platform::PropertyDictionary& source);
+    hGetPixelFormatFromSource(const platform::metadata::PropertyDictionary& source);
 
     /// The user comment for the name "EXIF User Comment", the date of the exposure for any other;
     /// "" without one, or for a comment of blanks only.
     [[nodiscard]] static QString
-    hGetExifUcFromSource(const platform::PropertyDictionary& source, const QString& name);
+    hGetExifUcFromSource(const platform::metadata::PropertyDictionary& source, const QString& name);
 
     /// The same for a file, by its extension of a kind that can hold EXIF. An empty comment gives
     /// way to the IPTC caption, an empty date to the IPTC time.
@@ -62,8 +62,8 @@ public:
     [[nodiscard]] static QStringList hGetPixelFormat(const QString& path);
 
 private:
-    void showComment(const platform::PropertyDictionary& properties);
-    void showIptc(const platform::PropertyDictionary* iptc);
+    void showComment(const platform::metadata::PropertyDictionary& properties);
+    void showIptc(const platform::metadata::PropertyDictionary* iptc);
 
     panels::Panels& m_panels;
     QList<PropertyNode> m_tree;

@@ -22,14 +22,14 @@ bool operator==(const PropertyNode& left, const PropertyNode& right)
     return left.key == right.key && left.val == right.val && left.children == right.children;
 }
 
-QList<PropertyNode> propertyNodes(const platform::PropertyDictionary& properties)
+QList<PropertyNode> propertyNodes(const platform::metadata::PropertyDictionary& properties)
 {
     QStringList keys = properties.keys();
     std::sort(keys.begin(), keys.end());
     QList<PropertyNode> nodes;
     for (const QString& key : keys) {
-        const platform::PropertyValue* value = properties.value(key);
-        const platform::PropertyDictionary* children = value->dictionary();
+        const platform::metadata::PropertyValue* value = properties.value(key);
+        const platform::metadata::PropertyDictionary* children = value->dictionary();
         nodes.append(
             {.key = key,
              .val = children ? QString() : value->text(),

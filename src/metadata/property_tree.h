@@ -20,7 +20,8 @@ struct PropertyNode
 };
 
 /// The nodes of `properties` sorted by their keys, code unit by code unit.
-[[nodiscard]] QList<PropertyNode> propertyNodes(const platform::PropertyDictionary& properties);
+[[nodiscard]] QList<PropertyNode>
+propertyNodes(const platform::metadata::PropertyDictionary& properties);
 
 /// The nodes from the top down as rows of depth, key and value.
 [[nodiscard]] QList<QStringList> propertyRows(const QList<PropertyNode>& nodes);

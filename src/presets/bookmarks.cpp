@@ -7,12 +7,12 @@ namespace brenvaldo::presets {
 
 std::optional<QByteArray> DVbookmarks::bookmarkForURL(const QUrl& url) const
 {
-    return platform::bookmarkFor(url.adjusted(QUrl::StripTrailingSlash).toLocalFile());
+    return platform::archives::bookmarkFor(url.adjusted(QUrl::StripTrailingSlash).toLocalFile());
 }
 
 std::optional<QUrl> DVbookmarks::urlForBookmark(const QByteArray& bookmark) const
 {
-    const std::optional<QString> path = platform::pathOfBookmark(bookmark);
+    const std::optional<QString> path = platform::archives::pathOfBookmark(bookmark);
     if (!path)
         return std::nullopt;
     return QUrl::fromLocalFile(*path).adjusted(QUrl::StripTrailingSlash);

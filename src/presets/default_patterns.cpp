@@ -186,7 +186,7 @@ void makeDefaultPatterns(const QString& folder)
         return;
     for (const DefaultPattern& pattern : defaultPatterns()) {
         const QString file = pattern.name + u".png"_qs;
-        (void)platform::writeFileAtomically(
+        (void)platform::storage::writeFileAtomically(
             platform::appendingPathComponent(folder, file), png(pattern.tile)
         );
     }

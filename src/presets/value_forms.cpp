@@ -15,9 +15,9 @@ namespace brenvaldo::presets {
 
 namespace {
 
-platform::ColorComponents componentsOf(const controls::ColorWell& well)
+platform::archives::ColorComponents componentsOf(const controls::ColorWell& well)
 {
-    const platform::Color& color = well.color();
+    const platform::graphics::Color& color = well.color();
     return {
         static_cast<float>(color.red),
         static_cast<float>(color.green),
@@ -26,7 +26,7 @@ platform::ColorComponents componentsOf(const controls::ColorWell& well)
 
 void restoreColor(controls::ColorWell& well, const QString& archive)
 {
-    const auto components = platform::colorFromArchive(archive);
+    const auto components = platform::archives::colorFromArchive(archive);
     if (!components)
         return;
     const auto level
@@ -55,9 +55,9 @@ std::optional<QString> pathOf(const QString& bookmark)
 }
 
 /// Nothing when the file is no image or a damaged one.
-std::optional<platform::Image> imageAt(const QString& path)
+std::optional<platform::graphics::Image> imageAt(const QString& path)
 {
-    const auto source = platform::ImageSource::open(path);
+    const auto source = platform::codecs::ImageSource::open(path);
     const auto image = source ? source->uprightImage() : std::nullopt;
     return image ? image->copiedToMemory() : std::nullopt;
 }
@@ -83,11 +83,11 @@ struct Store
     }
     Result operator()(const ColorForm& form) const
     {
-        return platform::colorArchive(componentsOf(*form.control));
+        return platform::archives::colorArchive(componentsOf(*form.control));
     }
     Result operator()(const GalleryColorForm& form) const
     {
-        return platform::galleryColorArchive(componentsOf(*form.control));
+        return platform::archives::galleryColorArchive(componentsOf(*form.control));
     }
     Result operator()(const FolderForm& form) const
     {

@@ -27,17 +27,18 @@ QStringList labels(const controls::TabView& tabs)
     return labels;
 }
 
-std::optional<platform::Color> colorNamedBy(const QString& word)
+std::optional<platform::graphics::Color> colorNamedBy(const QString& word)
 {
     static const QRegularExpression sixHexDigits(QStringLiteral("\\A[0-9A-Fa-f]{6}\\z"));
     if (!sixHexDigits.match(word).hasMatch())
         return std::nullopt;
     const auto component
         = [&](qsizetype position) { return word.mid(position, 2).toInt(nullptr, 16) / 255.0; };
-    return platform::Color{.red = component(0), .green = component(2), .blue = component(4)};
+    return platform::graphics::Color{
+        .red = component(0), .green = component(2), .blue = component(4)};
 }
 
-QString nameOf(const platform::Color& color)
+QString nameOf(const platform::graphics::Color& color)
 {
     QString name;
     for (const double component : {color.red, color.green, color.blue}) {

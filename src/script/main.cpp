@@ -13,7 +13,7 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     brenvaldo::platform::keepToolkitNotesAway();
-    const brenvaldo::platform::Engine engine;
+    const brenvaldo::platform::graphics::Engine engine;
     // Every argument is the name of a script, none an option of the toolkit.
     int applicationArguments = 1;
     const QGuiApplication application(applicationArguments, argv);

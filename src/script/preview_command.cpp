@@ -9,16 +9,21 @@ namespace brenvaldo::script {
 
 namespace {
 
-bool writePng(const platform::Image& picture, const QString& path)
+bool writePng(const platform::graphics::Image& picture, const QString& path)
 {
-    platform::AtomicFile file(path);
+    platform::storage::AtomicFile file(path);
     return file.isValid()
-        && platform::encode(picture, platform::FileFormat::Png, {}, file.temporaryPath())
+        && platform::codecs::encode(
+               picture, platform::codecs::FileFormat::Png, {}, file.temporaryPath()
+        )
         && file.commit();
 }
 
 /// False for a damaged photo, which leaves the preview area empty.
-bool canBeDrawn(const platform::Image& picture) { return picture.copiedToMemory().has_value(); }
+bool canBeDrawn(const platform::graphics::Image& picture)
+{
+    return picture.copiedToMemory().has_value();
+}
 
 class PreviewCommand : public Command
 {

@@ -8,7 +8,7 @@
 namespace brenvaldo::script {
 
 /// Prints the addresses and files that a window would hand to the desktop.
-class ScriptedDesktop : public platform::Desktop
+class ScriptedDesktop : public platform::storage::Desktop
 {
 public:
     explicit ScriptedDesktop(const EventPrinter& printer);

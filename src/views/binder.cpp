@@ -49,7 +49,7 @@ private:
     bool m_edited = false;
 };
 
-QColor shown(const platform::Color& color)
+QColor shown(const platform::graphics::Color& color)
 {
     return QColor::fromRgbF(
         static_cast<float>(color.red),
@@ -58,7 +58,7 @@ QColor shown(const platform::Color& color)
     );
 }
 
-platform::Color chosen(const QColor& colour)
+platform::graphics::Color chosen(const QColor& colour)
 {
     return {
         .red = colour.red() / 255.0,

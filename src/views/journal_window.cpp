@@ -111,7 +111,7 @@ void JournalWindow::save()
          .suggestedName = u"Run Journal.txt"_qs,
          .allowedTypes = {u"txt"_qs}}
     );
-    if (path && !platform::writeFileAtomically(*path, m_journal.asText().toUtf8()))
+    if (path && !platform::storage::writeFileAtomically(*path, m_journal.asText().toUtf8()))
         platform::log(u"The Run Journal could not be written to "_qs + *path);
 }
 

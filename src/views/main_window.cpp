@@ -15,8 +15,8 @@
 #include "subscriptions.h"
 #include "theme.h"
 
-#include <workspace/start/app_delegate.h>
 #include <workspace/list/collection_view_controller.h>
+#include <workspace/start/app_delegate.h>
 
 #include <QDropEvent>
 #include <QHBoxLayout>

@@ -14,27 +14,28 @@ namespace brenvaldo::views {
 
 namespace {
 
-QString colourModelName(platform::ColorModel model)
+QString colourModelName(platform::graphics::ColorModel model)
 {
     switch (model) {
-    case platform::ColorModel::Gray:
+    case platform::graphics::ColorModel::Gray:
         return PreviewRenderer::tr("grey");
-    case platform::ColorModel::Rgb:
+    case platform::graphics::ColorModel::Rgb:
         return QStringLiteral("RGB");
-    case platform::ColorModel::Cmyk:
+    case platform::graphics::ColorModel::Cmyk:
         return QStringLiteral("CMYK");
-    case platform::ColorModel::Lab:
+    case platform::graphics::ColorModel::Lab:
         return QStringLiteral("Lab");
     }
     return {};
 }
 
-platform::Image fitted(const platform::Image& layer, platform::PixelSize room)
+platform::graphics::Image
+fitted(const platform::graphics::Image& layer, platform::graphics::PixelSize room)
 {
-    return platform::scaledForScreen(layer, fittedInto(layer.pixelSize(), room));
+    return platform::graphics::scaledForScreen(layer, fittedInto(layer.pixelSize(), room));
 }
 
-QImage renderedLayer(const platform::Image& layer, const PreviewRequest& request)
+QImage renderedLayer(const platform::graphics::Image& layer, const PreviewRequest& request)
 {
     if (!request.part)
         return fitted(layer, request.room).toQImage();
@@ -43,8 +44,11 @@ QImage renderedLayer(const platform::Image& layer, const PreviewRequest& request
 }
 
 /// Where `part` of a picture stands once it is scaled, with the pixels around that its own reach.
-platform::PixelRect
-scaledPart(const platform::PixelRect& part, platform::PixelSize from, platform::PixelSize to)
+platform::graphics::PixelRect scaledPart(
+    const platform::graphics::PixelRect& part,
+    platform::graphics::PixelSize from,
+    platform::graphics::PixelSize to
+)
 {
     constexpr int kernelReach = 6;
     const double horizontal = double(to.width) / from.width;
@@ -59,15 +63,16 @@ scaledPart(const platform::PixelRect& part, platform::PixelSize from, platform::
 /// A layer that differs from a photo in `part` alone: the rendered photo with that part anew.
 QImage renderedAnew(
     const QImage& photo,
-    const platform::Image& layer,
-    const platform::PixelRect& part,
-    platform::PixelSize room
+    const platform::graphics::Image& layer,
+    const platform::graphics::PixelRect& part,
+    platform::graphics::PixelSize room
 )
 {
     if (part.width <= 0 || part.height <= 0)
         return photo;
-    const platform::Image scaled = fitted(layer, room);
-    const platform::PixelRect place = scaledPart(part, layer.pixelSize(), scaled.pixelSize());
+    const platform::graphics::Image scaled = fitted(layer, room);
+    const platform::graphics::PixelRect place
+        = scaledPart(part, layer.pixelSize(), scaled.pixelSize());
     const auto changed = scaled.croppedTo(place);
     const QImage patch = changed ? changed->toQImage() : QImage();
     if (patch.isNull())
@@ -83,7 +88,7 @@ QImage renderedAnew(
 bool holdsThePhoto(const PreviewRequest& request)
 {
     return request.photo && request.overlay
-        && platform::isStamped(*request.overlay, *request.photo);
+        && platform::drawing::isStamped(*request.overlay, *request.photo);
 }
 
 QImage renderedOverlay(const PreviewRequest& request, const QImage& photo)
@@ -91,8 +96,9 @@ QImage renderedOverlay(const PreviewRequest& request, const QImage& photo)
     if (!request.overlay)
         return {};
     // A mark that is still to be drawn is drawn here, and not in the threads of the evaluation.
-    const auto differing
-        = request.photo ? platform::stampedPart(*request.overlay, *request.photo) : std::nullopt;
+    const auto differing = request.photo
+        ? platform::drawing::stampedPart(*request.overlay, *request.photo)
+        : std::nullopt;
     if (!differing || request.part || photo.isNull())
         return renderedLayer(*request.overlay, request);
     return renderedAnew(photo, *request.overlay, *differing, request.room);
@@ -100,7 +106,8 @@ QImage renderedOverlay(const PreviewRequest& request, const QImage& photo)
 
 } // namespace
 
-platform::PixelSize fittedInto(platform::PixelSize size, platform::PixelSize room)
+platform::graphics::PixelSize
+fittedInto(platform::graphics::PixelSize size, platform::graphics::PixelSize room)
 {
     const double scale
         = std::min({1.0, double(room.width) / size.width, double(room.height) / size.height});
@@ -114,7 +121,7 @@ QString photoCaption(const QString& path, const QString& fileSize)
     if (path.isEmpty())
         return {};
     const QString name = platform::lastPathComponent(path);
-    const auto source = platform::ImageSource::open(path);
+    const auto source = platform::codecs::ImageSource::open(path);
     if (!source)
         return name;
     const auto& header = source->header();

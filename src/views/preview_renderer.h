@@ -15,11 +15,11 @@ namespace brenvaldo::views {
 /// What the preview is to show: a photo, a layer over it, or one of them alone.
 struct PreviewRequest
 {
-    std::optional<platform::Image> photo;
-    std::optional<platform::Image> overlay;
-    platform::PixelSize room; ///< pixels of the screen
+    std::optional<platform::graphics::Image> photo;
+    std::optional<platform::graphics::Image> overlay;
+    platform::graphics::PixelSize room; ///< pixels of the screen
     /// Not set: each picture is fitted into `room`. Set: this part of it at one pixel a pixel.
-    std::optional<platform::PixelRect> part;
+    std::optional<platform::graphics::PixelRect> part;
     QString path; ///< file that the caption tells about; may be empty
     QString fileSize = {}; ///< as text; part of the caption
 };
@@ -30,7 +30,7 @@ struct PreviewPicture
 {
     QImage photo;
     QImage overlay;
-    std::optional<platform::PixelRect> part;
+    std::optional<platform::graphics::PixelRect> part;
     QString caption;
 };
 
@@ -67,9 +67,9 @@ private:
     /// A photo as it was rendered last. The worker alone uses it.
     struct RenderedPhoto
     {
-        std::shared_ptr<const platform::ImageNode> node;
-        platform::PixelSize room;
-        std::optional<platform::PixelRect> part;
+        std::shared_ptr<const platform::graphics::ImageNode> node;
+        platform::graphics::PixelSize room;
+        std::optional<platform::graphics::PixelRect> part;
         QImage picture;
     };
     RenderedPhoto m_lastPhoto;
@@ -81,6 +81,7 @@ private:
 [[nodiscard]] QString photoCaption(const QString& path, const QString& fileSize);
 
 /// The largest size with the proportions of `size` that stands in `room`; never more than `size`.
-[[nodiscard]] platform::PixelSize fittedInto(platform::PixelSize size, platform::PixelSize room);
+[[nodiscard]] platform::graphics::PixelSize
+fittedInto(platform::graphics::PixelSize size, platform::graphics::PixelSize room);
 
 } // namespace brenvaldo::views

@@ -126,7 +126,7 @@ void PreviewView::take(const PreviewPicture& picture)
 
 bool PreviewView::showsPixels() const { return m_zoom == Zoom::Pixels && pictureSize().isValid(); }
 
-platform::PixelSize PreviewView::pictureSize() const
+platform::graphics::PixelSize PreviewView::pictureSize() const
 {
     if (const auto& photo = m_sources.photo.image())
         return photo->pixelSize();
@@ -135,7 +135,7 @@ platform::PixelSize PreviewView::pictureSize() const
     return {};
 }
 
-platform::PixelSize PreviewView::roomPixels() const
+platform::graphics::PixelSize PreviewView::roomPixels() const
 {
     const double scale = devicePixelRatioF();
     return {
@@ -143,7 +143,7 @@ platform::PixelSize PreviewView::roomPixels() const
         .height = std::max(1, qRound((height() - 2 * frame) * scale))};
 }
 
-platform::PixelRect PreviewView::visiblePart() const
+platform::graphics::PixelRect PreviewView::visiblePart() const
 {
     const double scale = devicePixelRatioF();
     const auto size = pictureSize();
@@ -233,7 +233,7 @@ void PreviewView::paintPixels(QPainter& painter) const
     const auto now = visiblePart();
     QRectF view(QPointF(), QSizeF(now.width, now.height) / scale);
     view.moveCenter(QRectF(rect()).center());
-    const auto placeOf = [&](const platform::PixelRect& part) {
+    const auto placeOf = [&](const platform::graphics::PixelRect& part) {
         const QPointF offset(part.x - now.x, part.y - now.y);
         return QRectF(view.topLeft() + offset / scale, QSizeF(part.width, part.height) / scale);
     };

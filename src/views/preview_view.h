@@ -70,9 +70,9 @@ private:
     void pan(const QPoint& pixels);
     void clampCentre();
     [[nodiscard]] bool showsPixels() const;
-    [[nodiscard]] platform::PixelSize pictureSize() const;
-    [[nodiscard]] platform::PixelSize roomPixels() const;
-    [[nodiscard]] platform::PixelRect visiblePart() const;
+    [[nodiscard]] platform::graphics::PixelSize pictureSize() const;
+    [[nodiscard]] platform::graphics::PixelSize roomPixels() const;
+    [[nodiscard]] platform::graphics::PixelRect visiblePart() const;
     [[nodiscard]] QRectF fittedPlace() const;
     void paintFitted(QPainter& painter) const;
     void paintPixels(QPainter& painter) const;
@@ -81,7 +81,7 @@ private:
     PreviewRenderer m_renderer;
     PreviewPicture m_fitted; ///< the whole picture; coarse where it stands in for pixels
     PreviewPicture m_part; ///< the last rendered pixels of this photo
-    std::shared_ptr<const platform::ImageNode> m_photo; ///< that was shown last
+    std::shared_ptr<const platform::graphics::ImageNode> m_photo; ///< that was shown last
     bool m_isFittedOld = true; ///< m_fitted belongs to the photo before
     QTimer m_soon;
     ChoiceChip* m_zoomChip;

@@ -6,7 +6,7 @@
 namespace brenvaldo::views {
 
 /// The user's desktop: its browser and its file manager.
-class QtDesktop : public platform::Desktop
+class QtDesktop : public platform::storage::Desktop
 {
 public:
     void openUrl(const QUrl& url) override;

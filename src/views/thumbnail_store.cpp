@@ -107,7 +107,7 @@ void ThumbnailStore::make(const workspace::ListPicture& wanted, const FileState&
     };
     const FileState file = stateOf(path);
     if (file != known || file.size < 0) {
-        if (const QImage quick = platform::embeddedThumbnail(path); !quick.isNull())
+        if (const QImage quick = platform::codecs::embeddedThumbnail(path); !quick.isNull())
             tell({.picture = fitted(quick, m_side), .file = file});
         tell({.picture = rendered(wanted, m_side), .file = file, .isFinal = true});
     }

@@ -35,7 +35,7 @@ QString ioFailure() { return imaging::text(imaging::ResultWord::IoFailure); }
 QString typeOf(const QString& outputType, const QString& path)
 {
     return imaging::keepsOriginalType(outputType)
-        ? platform::preferredTypeIdentifier(platform::pathExtension(path))
+        ? platform::containers::preferredTypeIdentifier(platform::pathExtension(path))
         : outputType;
 }
 
@@ -77,15 +77,15 @@ DVWatermark::markPhoto(const WatermarkRun& run, const QString& path, imaging::Pi
         return Step::EndRun;
     }
     finishStages(stagesOfReadingSettings);
-    const std::optional<platform::Image> photo = openedForRun(path, settings.effect);
+    const std::optional<platform::graphics::Image> photo = openedForRun(path, settings.effect);
     if (!photo)
         return Step::EndRun;
-    auto properties = platform::readMetadataBlocks(path);
+    auto properties = platform::metadata::readMetadataBlocks(path);
     finishStages(stagesOfOpening);
     const imaging::PictureToSave picture{
         .destination = platform::deletingPathExtension(run.destination + m_outputName),
         .typeIdentifier = typeOf(run.outputType, path),
-        .image = platform::stamped(*photo, markOf(*photo, settings, path)()),
+        .image = platform::drawing::stamped(*photo, markOf(*photo, settings, path)()),
         .properties = std::move(properties),
         .compressionLevel = run.compressionLevel,
         .writer = imaging::DVImageHandling::hSaveToNewImageFileMPR};
@@ -107,11 +107,11 @@ void DVWatermark::finishStages(int stages)
         m_progress.hProgressPB(m_step);
 }
 
-std::optional<platform::Image>
+std::optional<platform::graphics::Image>
 DVWatermark::openedForRun(const QString& path, TextEffect effect) const
 {
-    using Access = platform::ImageSource::Access;
-    const auto source = platform::ImageSource::open(path);
+    using Access = platform::codecs::ImageSource::Access;
+    const auto source = platform::codecs::ImageSource::open(path);
     if (!source)
         return std::nullopt;
     return source->uprightImage(
@@ -121,24 +121,26 @@ DVWatermark::openedForRun(const QString& path, TextEffect effect) const
 }
 
 DVWatermark::MakeMark DVWatermark::markOf(
-    const platform::Image& photo, const TextWatermarkSettings& settings, const QString& path
+    const platform::graphics::Image& photo,
+    const TextWatermarkSettings& settings,
+    const QString& path
 ) const
 {
     return [photo, settings, path, outputName = m_outputName, properties = m_properties] {
         const auto values = placeholderValuesOf(path, outputName, properties);
         const QString text = replacingPlaceholders(settings.text, values);
-        return textMark(settings, text, platform::fontNamed(settings.fontName), photo);
+        return textMark(settings, text, platform::drawing::fontNamed(settings.fontName), photo);
     };
 }
 
-std::optional<platform::Image> DVWatermark::setWatermarkTextPreview(const QString& path)
+std::optional<platform::graphics::Image> DVWatermark::setWatermarkTextPreview(const QString& path)
 {
     m_outputName = m_surroundings.outputName(path);
     const TextWatermarkSettings settings = readSettings(m_surroundings.panel);
-    std::optional<platform::Image> result;
+    std::optional<platform::graphics::Image> result;
     if (!settings.text.isEmpty()) {
         if (const auto photo = m_surroundings.previewPhoto(path))
-            result = platform::stamped(*photo, markOf(*photo, settings, path));
+            result = platform::drawing::stamped(*photo, markOf(*photo, settings, path));
     }
     m_progress.hStopPB();
     return result;

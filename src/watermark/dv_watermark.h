@@ -46,7 +46,7 @@ public:
         /// Name of the output file after the chain of file-name actions.
         std::function<QString(const QString& path)> outputName;
         /// Opens the upright photo for a preview, ready to be evaluated more than once.
-        std::function<std::optional<platform::Image>(const QString& path)> previewPhoto;
+        std::function<std::optional<platform::graphics::Image>(const QString& path)> previewPhoto;
     };
 
     explicit DVWatermark(Surroundings surroundings);
@@ -60,19 +60,22 @@ public:
 
     /// The photo at `path` with its mark; nothing without a text or a readable photo. No file is
     /// written, and the mark is not drawn before the first pixel is asked for.
-    [[nodiscard]] std::optional<platform::Image> setWatermarkTextPreview(const QString& path);
+    [[nodiscard]] std::optional<platform::graphics::Image>
+    setWatermarkTextPreview(const QString& path);
 
 private:
     enum class Step { GoOn, EndRun };
-    using MakeMark = std::function<platform::Stamp()>;
+    using MakeMark = std::function<platform::drawing::Stamp()>;
 
     Step markPhoto(const WatermarkRun& run, const QString& path, imaging::PictureSink& sink);
     void finishStages(int stages);
-    [[nodiscard]] std::optional<platform::Image>
+    [[nodiscard]] std::optional<platform::graphics::Image>
     openedForRun(const QString& path, TextEffect effect) const;
     /// Makes the mark of a photo from the settings as they are now, on any thread.
     [[nodiscard]] MakeMark markOf(
-        const platform::Image& photo, const TextWatermarkSettings& settings, const QString& path
+        const platform::graphics::Image& photo,
+        const TextWatermarkSettings& settings,
+        const QString& path
     ) const;
 
     Surroundings m_surroundings;

@@ -7,7 +7,7 @@
 
 namespace brenvaldo::watermark {
 
-using platform::PropertyDictionary;
+using platform::metadata::PropertyDictionary;
 
 std::shared_ptr<const PropertyDictionary> KeptProperties::of(const QString& path)
 {
@@ -20,7 +20,7 @@ std::shared_ptr<const PropertyDictionary> KeptProperties::of(const QString& path
         m_modified = file.lastModified();
         m_bytes = file.size();
         m_properties = std::make_shared<const PropertyDictionary>(
-            platform::imageProperties(path).value_or(PropertyDictionary())
+            platform::metadata::imageProperties(path).value_or(PropertyDictionary())
         );
     }
     return m_properties;

@@ -17,14 +17,15 @@ class KeptProperties
 {
 public:
     /// Empty when the file can't be read; read anew when it has changed on disk.
-    [[nodiscard]] std::shared_ptr<const platform::PropertyDictionary> of(const QString& path);
+    [[nodiscard]] std::shared_ptr<const platform::metadata::PropertyDictionary>
+    of(const QString& path);
 
 private:
     std::mutex m_mutex;
     QString m_path;
     QDateTime m_modified;
     qint64 m_bytes = 0;
-    std::shared_ptr<const platform::PropertyDictionary> m_properties;
+    std::shared_ptr<const platform::metadata::PropertyDictionary> m_properties;
 };
 
 } // namespace brenvaldo::watermark

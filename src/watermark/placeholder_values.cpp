@@ -9,8 +9,8 @@ namespace brenvaldo::watermark {
 
 namespace {
 
-using platform::PropertyDictionary;
-using platform::PropertyValue;
+using platform::metadata::PropertyDictionary;
+using platform::metadata::PropertyValue;
 
 /// The dictionary that a placeholder reads; null when the photo has none.
 const PropertyDictionary* dictionaryOf(const PropertyDictionary& top, Placeholder::Source source)
@@ -19,9 +19,9 @@ const PropertyDictionary* dictionaryOf(const PropertyDictionary& top, Placeholde
     case Placeholder::Source::Top:
         return &top;
     case Placeholder::Source::Exif:
-        return top.dictionary(platform::property::exifDictionary);
+        return top.dictionary(platform::metadata::property::exifDictionary);
     case Placeholder::Source::Iptc:
-        return top.dictionary(platform::property::iptcDictionary);
+        return top.dictionary(platform::metadata::property::iptcDictionary);
     case Placeholder::Source::OutputName:
         return nullptr;
     }

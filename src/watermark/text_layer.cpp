@@ -12,7 +12,7 @@ namespace {
 /// Layers are no longer than this, whatever the size of the font; no photo is.
 constexpr double longestSide = 1 << 24;
 
-platform::PixelSize uprightSizeOf(const platform::AttributedText& text)
+platform::graphics::PixelSize uprightSizeOf(const platform::drawing::AttributedText& text)
 {
     return imaging::canvasOfPoints(text.size().boundedTo(QSizeF(longestSide, longestSide)));
 }
@@ -31,7 +31,7 @@ void prepare(QPainter& painter)
 
 } // namespace
 
-TextLayer::TextLayer(const platform::AttributedText& text, int angle)
+TextLayer::TextLayer(const platform::drawing::AttributedText& text, int angle)
     : m_text(text.drawing())
     , m_uprightSize(uprightSizeOf(text))
     , m_angle(angle)
@@ -82,10 +82,13 @@ QImage TextLayer::rendered(const Ink& ink, const QRect& region) const
 }
 
 void TextLayer::drawShadow(
-    QPainter& painter, const platform::Shadow& shadow, const QBrush& fill, const QRect& part
+    QPainter& painter,
+    const platform::drawing::Shadow& shadow,
+    const QBrush& fill,
+    const QRect& part
 ) const
 {
-    const QRect casting = platform::castingInto(part, shadow).intersected(uprightRect());
+    const QRect casting = platform::drawing::castingInto(part, shadow).intersected(uprightRect());
     QImage object = transparent(casting.size());
     if (object.isNull())
         return;
@@ -94,8 +97,8 @@ void TextLayer::drawShadow(
     objectPainter.translate(-casting.topLeft());
     m_text.draw(objectPainter, fill);
     objectPainter.end();
-    const platform::PlacedLayer cast
-        = platform::shadowOf({.image = object, .topLeft = casting.topLeft()}, shadow);
+    const platform::drawing::PlacedLayer cast
+        = platform::drawing::shadowOf({.image = object, .topLeft = casting.topLeft()}, shadow);
     painter.drawImage(cast.topLeft, cast.image);
 }
 

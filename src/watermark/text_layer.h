@@ -19,13 +19,13 @@ namespace brenvaldo::watermark {
 class TextLayer
 {
 public:
-    TextLayer(const platform::AttributedText& text, int angle);
+    TextLayer(const platform::drawing::AttributedText& text, int angle);
 
     /// Size of the turned layer in whole pixels; not valid for an empty text.
-    [[nodiscard]] platform::PixelSize size() const { return m_size; }
+    [[nodiscard]] platform::graphics::PixelSize size() const { return m_size; }
 
     /// Size of the layer before it is turned.
-    [[nodiscard]] platform::PixelSize uprightSize() const { return m_uprightSize; }
+    [[nodiscard]] platform::graphics::PixelSize uprightSize() const { return m_uprightSize; }
 
     /// From the turned layer to the one before it was turned.
     [[nodiscard]] QTransform toUprightLayer() const { return toTurnedLayer().inverted(); }
@@ -33,7 +33,7 @@ public:
     struct Ink
     {
         QBrush fill; ///< a texture starts at the layer's bottom left corner
-        std::optional<platform::Shadow> shadow;
+        std::optional<platform::drawing::Shadow> shadow;
     };
 
     /// The part of the layer inside of `region` (origin at its top left corner), premultiplied
@@ -46,14 +46,17 @@ private:
     [[nodiscard]] QRect neededBefore(const QRect& region) const;
     /// Draws what of the shadow falls into `part` of the upright layer.
     void drawShadow(
-        QPainter& painter, const platform::Shadow& shadow, const QBrush& fill, const QRect& part
+        QPainter& painter,
+        const platform::drawing::Shadow& shadow,
+        const QBrush& fill,
+        const QRect& part
     ) const;
 
-    platform::TextDrawing m_text;
-    platform::PixelSize m_uprightSize;
+    platform::drawing::TextDrawing m_text;
+    platform::graphics::PixelSize m_uprightSize;
     int m_angle = 0;
     QSizeF m_bounds; ///< of the turned layer, not rounded
-    platform::PixelSize m_size;
+    platform::graphics::PixelSize m_size;
 };
 
 } // namespace brenvaldo::watermark

@@ -12,9 +12,9 @@ namespace brenvaldo::watermark {
 
 namespace {
 
-using platform::PixelSize;
-using platform::PlacedLayer;
-using platform::Stamp;
+using platform::drawing::PlacedLayer;
+using platform::drawing::Stamp;
+using platform::graphics::PixelSize;
 
 /// Cells up to this many pixels are repeated by the stamp; larger ones are drawn where the photo
 /// shows them.
@@ -33,7 +33,7 @@ QImage transparent(const QSize& size)
 QRect rectOf(PixelSize size) { return {0, 0, size.width, size.height}; }
 
 /// The shadow that the finished layer casts when it is drawn on the photo.
-std::optional<platform::Shadow> layerShadow(const TextWatermarkSettings& settings)
+std::optional<platform::drawing::Shadow> layerShadow(const TextWatermarkSettings& settings)
 {
     return traitsOf(settings.effect).isRelief() ? settings.shadow : std::nullopt;
 }
@@ -66,7 +66,7 @@ template <class Render>
 PlacedLayer shownIn(const QRect& area, const TextWatermarkSettings& settings, const Render& render)
 {
     const auto shadow = layerShadow(settings);
-    return shadow ? platform::withShadow(render, *shadow, area) : render(area);
+    return shadow ? platform::drawing::withShadow(render, *shadow, area) : render(area);
 }
 
 /// Place of the overlay's top left corner on the photo.
@@ -147,10 +147,10 @@ QImage repeated(const QImage& cell, QPoint topLeft, const QSize& part)
 
 /// Lays the shadow of the cells that are drawn in `tiled` into `stamp`, which repeats their cell.
 void castShadow(
-    Stamp& stamp, const platform::Shadow& shadow, const QRect& tiled, const QRect& photo
+    Stamp& stamp, const platform::drawing::Shadow& shadow, const QRect& tiled, const QRect& photo
 )
 {
-    if (!platform::castingInto(photo, shadow).intersects(tiled))
+    if (!platform::drawing::castingInto(photo, shadow).intersects(tiled))
         return;
     const QImage cell = stamp.layer;
     const auto render = [&](const QRect& area) -> PlacedLayer {
@@ -159,11 +159,11 @@ void castShadow(
             .image = repeated(cell, stamp.topLeft - drawn.topLeft(), drawn.size()),
             .topLeft = drawn.topLeft()};
     };
-    stamp.layer = platform::cellWithShadow(cell, shadow);
+    stamp.layer = platform::drawing::cellWithShadow(cell, shadow);
     // The cells end not far outside of the photo: near its edges their shadow is another.
-    const QRect even = platform::inEvenShadowOf(tiled, shadow).intersected(photo);
+    const QRect even = platform::drawing::inEvenShadowOf(tiled, shadow).intersected(photo);
     for (const QRect& stripe : stripesAround(even, photo)) {
-        const PlacedLayer piece = platform::withShadow(render, shadow, stripe);
+        const PlacedLayer piece = platform::drawing::withShadow(render, shadow, stripe);
         stamp.patches.append({.layer = piece.image, .topLeft = piece.topLeft});
     }
 }
@@ -274,7 +274,7 @@ Stamp textMark(
     const TextWatermarkSettings& settings,
     const QString& text,
     const QFont& font,
-    const platform::Image& photo
+    const platform::graphics::Image& photo
 )
 {
     const TextOverlay overlay(settings, text, font, photo);

@@ -15,11 +15,11 @@ namespace brenvaldo::watermark {
 /// `text` has its placeholders replaced; `font` is the selected font at any size. An empty text
 /// leaves no mark. Effects that fill the glyphs with the photo need a photo that can be evaluated
 /// more than once.
-[[nodiscard]] platform::Stamp textMark(
+[[nodiscard]] platform::drawing::Stamp textMark(
     const TextWatermarkSettings& settings,
     const QString& text,
     const QFont& font,
-    const platform::Image& photo
+    const platform::graphics::Image& photo
 );
 
 } // namespace brenvaldo::watermark

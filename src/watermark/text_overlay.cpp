@@ -15,17 +15,17 @@ namespace brenvaldo::watermark {
 
 namespace {
 
-using platform::PixelSize;
+using platform::graphics::PixelSize;
 
 /// Pixels around a part of a layer that its relief depends on: the slope and its softening.
 constexpr int reliefReach = 16;
 
-platform::TextAttributes attributesOf(const TextWatermarkSettings& settings, QFont font)
+platform::drawing::TextAttributes attributesOf(const TextWatermarkSettings& settings, QFont font)
 {
     constexpr double italicObliqueness = 0.3;
     font.setPixelSize(std::max(1, settings.fontSize));
     if (settings.isBold)
-        font = platform::boldFaceOf(font);
+        font = platform::drawing::boldFaceOf(font);
     return {
         .font = font,
         .kerning = static_cast<double>(settings.kerning),
@@ -37,7 +37,8 @@ platform::TextAttributes attributesOf(const TextWatermarkSettings& settings, QFo
 }
 
 /// The photo's bottom left corner, as large as the text that it fills at the most.
-std::optional<platform::Image> photoCorner(const platform::Image& photo, PixelSize size)
+std::optional<platform::graphics::Image>
+photoCorner(const platform::graphics::Image& photo, PixelSize size)
 {
     const int height = std::min(size.height, photo.height());
     return photo.croppedTo(
@@ -46,27 +47,30 @@ std::optional<platform::Image> photoCorner(const platform::Image& photo, PixelSi
 }
 
 /// What fills the glyphs in place of a colour.
-std::optional<platform::Image>
-pictureOf(TextFill fill, const platform::Image& photo, PixelSize size)
+std::optional<platform::graphics::Image>
+pictureOf(TextFill fill, const platform::graphics::Image& photo, PixelSize size)
 {
     if (fill != TextFill::Photo && fill != TextFill::NoirPhoto)
         return std::nullopt;
     const auto corner = photoCorner(photo, size);
     if (!corner)
         return std::nullopt;
-    return fill == TextFill::NoirPhoto ? platform::photoEffectNoir(*corner).copiedToMemory()
-                                       : corner->copiedToMemory();
+    return fill == TextFill::NoirPhoto
+        ? platform::filters::photoEffectNoir(*corner).copiedToMemory()
+        : corner->copiedToMemory();
 }
 
 QBrush fillOf(const TextWatermarkSettings& settings)
 {
-    const platform::Color white{.red = 1, .green = 1, .blue = 1};
+    const platform::graphics::Color white{.red = 1, .green = 1, .blue = 1};
     const bool isWhite = traitsOf(settings.effect).fill == TextFill::White;
-    return platform::qtColor((isWhite ? white : settings.fontColor).withAlpha(settings.opacity));
+    return platform::graphics::qtColor(
+        (isWhite ? white : settings.fontColor).withAlpha(settings.opacity)
+    );
 }
 
 /// `color` as opaque as `picture`.
-QBrush inkAsOpaqueAs(const platform::Image& picture, const QColor& color)
+QBrush inkAsOpaqueAs(const platform::graphics::Image& picture, const QColor& color)
 {
     if (!picture.hasAlpha())
         return color;
@@ -83,12 +87,14 @@ TextOverlay::TextOverlay(
     const TextWatermarkSettings& settings,
     const QString& text,
     const QFont& font,
-    const platform::Image& photo
+    const platform::graphics::Image& photo
 )
     : m_effect(traitsOf(settings.effect))
     , m_embossColor(settings.embossColor)
     , m_layer(
-          platform::AttributedText(textToSet(settings, text), attributesOf(settings, font)),
+          platform::drawing::AttributedText(
+              textToSet(settings, text), attributesOf(settings, font)
+          ),
           settings.placement.angle
       )
     , m_picture(pictureOf(m_effect.fill, photo, m_layer.uprightSize()))

@@ -21,11 +21,11 @@ public:
         const TextWatermarkSettings& settings,
         const QString& text,
         const QFont& font,
-        const platform::Image& photo
+        const platform::graphics::Image& photo
     );
 
     /// Size in whole pixels, after turning; not valid for an empty text.
-    [[nodiscard]] platform::PixelSize size() const { return m_layer.size(); }
+    [[nodiscard]] platform::graphics::PixelSize size() const { return m_layer.size(); }
 
     /// The part of the layer inside of `region` (origin at its top left corner), premultiplied
     /// ARGB. Glyphs that the photo fills are black.
@@ -33,7 +33,10 @@ public:
 
     /// What fills the glyphs, repeated without end, in the photo's colours and depth; nothing where
     /// a colour does, or when the photo turns out to be damaged.
-    [[nodiscard]] const std::optional<platform::Image>& picture() const { return m_picture; }
+    [[nodiscard]] const std::optional<platform::graphics::Image>& picture() const
+    {
+        return m_picture;
+    }
 
     /// From the layer to the pixels of the picture.
     [[nodiscard]] QTransform toPicture() const;
@@ -45,9 +48,9 @@ private:
     [[nodiscard]] QImage embossed(const QImage& layer) const;
 
     TextEffectTraits m_effect;
-    platform::Color m_embossColor;
+    platform::graphics::Color m_embossColor;
     TextLayer m_layer;
-    std::optional<platform::Image> m_picture;
+    std::optional<platform::graphics::Image> m_picture;
     TextLayer::Ink m_ink;
 };
 

@@ -18,31 +18,31 @@ int offsetOf(const controls::TextField& field)
     return std::clamp(field.intValue(), -farthest, farthest);
 }
 
-platform::UnderlineStyle underlineOfIndex(int index)
+platform::drawing::UnderlineStyle underlineOfIndex(int index)
 {
     switch (index) {
     case 0:
-        return platform::UnderlineStyle::None;
+        return platform::drawing::UnderlineStyle::None;
     case 1:
-        return platform::UnderlineStyle::Single;
+        return platform::drawing::UnderlineStyle::Single;
     default:
-        return platform::UnderlineStyle::Thick;
+        return platform::drawing::UnderlineStyle::Thick;
     }
 }
 
-platform::TextAlignment alignmentOfSegment(int segment)
+platform::drawing::TextAlignment alignmentOfSegment(int segment)
 {
     switch (segment) {
     case 0:
-        return platform::TextAlignment::Left;
+        return platform::drawing::TextAlignment::Left;
     case 1:
-        return platform::TextAlignment::Center;
+        return platform::drawing::TextAlignment::Center;
     default:
-        return platform::TextAlignment::Right;
+        return platform::drawing::TextAlignment::Right;
     }
 }
 
-platform::Shadow readShadow(const panels::TextWatermarkControls& controls, double opacity)
+platform::drawing::Shadow readShadow(const panels::TextWatermarkControls& controls, double opacity)
 {
     constexpr int defaultOffset = 2;
     const int radius = controls.tfTextShadowRadius.intValue();

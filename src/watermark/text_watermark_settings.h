@@ -26,13 +26,13 @@ struct TextWatermarkSettings
     int leading = 0;
     bool isBold = false;
     bool isItalic = false;
-    platform::UnderlineStyle underline = platform::UnderlineStyle::None;
-    platform::TextAlignment alignment = platform::TextAlignment::Left;
+    platform::drawing::UnderlineStyle underline = platform::drawing::UnderlineStyle::None;
+    platform::drawing::TextAlignment alignment = platform::drawing::TextAlignment::Left;
     double strokeWidth = 0; ///< percent of the font size; 0 fills the glyphs
-    platform::Color fontColor;
-    platform::Color embossColor;
+    platform::graphics::Color fontColor;
+    platform::graphics::Color embossColor;
     double opacity = 1;
-    std::optional<platform::Shadow> shadow;
+    std::optional<platform::drawing::Shadow> shadow;
     TextEffect effect = TextEffect::Plain;
     Placement placement;
     bool isTiled = false;

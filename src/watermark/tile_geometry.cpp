@@ -3,7 +3,7 @@
 
 namespace brenvaldo::watermark {
 
-using platform::PixelSize;
+using platform::graphics::PixelSize;
 
 QPoint cellCorner(const TileCell& cell, PixelSize overlay, PixelSize photo)
 {

@@ -13,14 +13,16 @@
 namespace brenvaldo::watermark {
 
 /// Top left corner of one of the cells that cover the photo.
-[[nodiscard]] QPoint
-cellCorner(const TileCell& cell, platform::PixelSize overlay, platform::PixelSize photo);
+[[nodiscard]] QPoint cellCorner(
+    const TileCell& cell, platform::graphics::PixelSize overlay, platform::graphics::PixelSize photo
+);
 
 /// Place of the overlay's top left corner in the cell.
-[[nodiscard]] QPoint overlayInCell(const TileCell& cell, platform::PixelSize overlay);
+[[nodiscard]] QPoint overlayInCell(const TileCell& cell, platform::graphics::PixelSize overlay);
 
 /// The rectangle of the photo that the cells are drawn in.
-[[nodiscard]] QRect tiledArea(platform::PixelSize overlay, platform::PixelSize photo);
+[[nodiscard]] QRect
+tiledArea(platform::graphics::PixelSize overlay, platform::graphics::PixelSize photo);
 
 /// The largest of `start`, `start` - `step`, ... that does not lie behind `edge`, one step earlier
 /// at the most.

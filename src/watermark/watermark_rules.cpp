@@ -18,8 +18,11 @@ double anchored(int step, int photo, int layer) { return (photo - layer) * 0.5 *
 
 } // namespace
 
-QPoint
-anchoredOrigin(const Placement& placement, platform::PixelSize photo, platform::PixelSize layer)
+QPoint anchoredOrigin(
+    const Placement& placement,
+    platform::graphics::PixelSize photo,
+    platform::graphics::PixelSize layer
+)
 {
     using platform::truncated;
     const double baseX = anchored(placement.anchor % gridColumns, photo.width, layer.width);
@@ -47,7 +50,7 @@ TileSpan tileSpan(int photo, int layer)
     return {.length = length, .overhang = (length - photo) / 2};
 }
 
-TileCell tileCell(platform::PixelSize layer, int xOffset, int yOffset)
+TileCell tileCell(platform::graphics::PixelSize layer, int xOffset, int yOffset)
 {
     return {
         .size = {.width = layer.width + xOffset, .height = layer.height + yOffset},

@@ -51,8 +51,11 @@ struct Placement
 ///
 /// An angle makes the offsets change roles. Top left with a negative angle and bottom left with a
 /// positive one break the rule of their row.
-[[nodiscard]] QPoint
-anchoredOrigin(const Placement& placement, platform::PixelSize photo, platform::PixelSize layer);
+[[nodiscard]] QPoint anchoredOrigin(
+    const Placement& placement,
+    platform::graphics::PixelSize photo,
+    platform::graphics::PixelSize layer
+);
 
 /// How one direction of the photo is covered with tiles.
 struct TileSpan
@@ -69,10 +72,10 @@ struct TileSpan
 /// The cell that is repeated: the layer with half of the offsets on each side.
 struct TileCell
 {
-    platform::PixelSize size; ///< invalid when the offsets eat the layer up
+    platform::graphics::PixelSize size; ///< invalid when the offsets eat the layer up
     QPoint layerOrigin; ///< bottom left corner of the layer in the cell
 };
 
-[[nodiscard]] TileCell tileCell(platform::PixelSize layer, int xOffset, int yOffset);
+[[nodiscard]] TileCell tileCell(platform::graphics::PixelSize layer, int xOffset, int yOffset);
 
 } // namespace brenvaldo::watermark

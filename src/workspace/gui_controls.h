@@ -20,7 +20,7 @@ public:
         PhotoList& photos;
         RunJournal& journal;
         controls::FileChooser& chooser;
-        platform::Desktop& desktop;
+        platform::storage::Desktop& desktop;
         const platform::NotificationCenter& notifications;
         const Functions& functions;
         const Subsystems& subsystems;
@@ -99,7 +99,7 @@ private:
     panels::WindowControls& m_window;
     PhotoList& m_photos;
     controls::FileChooser& m_chooser;
-    platform::Desktop& m_desktop;
+    platform::storage::Desktop& m_desktop;
     const platform::NotificationCenter& m_notifications;
     const Functions& m_functions;
     const Subsystems& m_subsystems;

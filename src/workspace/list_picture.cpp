@@ -17,7 +17,7 @@ int scaled(int length, int other, int side)
 }
 
 /// The size of a photo that is drawn itself: a small one is not enlarged.
-platform::PixelSize fullSize(platform::PixelSize photo, int side)
+platform::graphics::PixelSize fullSize(platform::graphics::PixelSize photo, int side)
 {
     const bool fits = photo.width <= side && photo.height <= side;
     return fits ? photo : thumbnailSize(photo, side);
@@ -25,7 +25,7 @@ platform::PixelSize fullSize(platform::PixelSize photo, int side)
 
 } // namespace
 
-platform::PixelSize thumbnailSize(platform::PixelSize picture, int side)
+platform::graphics::PixelSize thumbnailSize(platform::graphics::PixelSize picture, int side)
 {
     if (!picture.isValid())
         return {};
@@ -36,27 +36,28 @@ platform::PixelSize thumbnailSize(platform::PixelSize picture, int side)
     return {.width = side, .height = scaled(picture.height, picture.width, side)};
 }
 
-std::optional<platform::Image>
-resizedImagetoPixelDimensions(const platform::Image& image, platform::PixelSize size)
+std::optional<platform::graphics::Image> resizedImagetoPixelDimensions(
+    const platform::graphics::Image& image, platform::graphics::PixelSize size
+)
 {
     if (!size.isValid())
         return std::nullopt;
     const QImage drawn = image.scaledTo(size).toQImage();
     if (drawn.isNull())
         return std::nullopt;
-    return platform::Image::fromQImage(drawn.convertToFormat(QImage::Format_ARGB32));
+    return platform::graphics::Image::fromQImage(drawn.convertToFormat(QImage::Format_ARGB32));
 }
 
-std::optional<platform::Image> drawnPicture(const ListPicture& picture, int side)
+std::optional<platform::graphics::Image> drawnPicture(const ListPicture& picture, int side)
 {
     if (picture.kind == ListPicture::Kind::Generic)
         return std::nullopt;
-    const auto source = platform::ImageSource::open(picture.path);
+    const auto source = platform::codecs::ImageSource::open(picture.path);
     if (!source)
         return std::nullopt;
     const bool isThumbnail = picture.kind == ListPicture::Kind::Thumbnail;
-    const platform::PixelSize photoSize = source->header().uprightSize;
-    const platform::PixelSize size
+    const platform::graphics::PixelSize photoSize = source->header().uprightSize;
+    const platform::graphics::PixelSize size
         = isThumbnail ? thumbnailSize(photoSize, side) : fullSize(photoSize, side);
     const auto photo = source->uprightImage({.atLeast = size});
     if (!photo)

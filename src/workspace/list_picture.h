@@ -27,16 +27,18 @@ inline constexpr int thumbnailSide = 94;
 
 /// Size at which a picture fits a box of `side` by `side` pixels with its proportions kept; at
 /// least one pixel a side, invalid for an invalid size.
-[[nodiscard]] platform::PixelSize
-thumbnailSize(platform::PixelSize picture, int side = thumbnailSide);
+[[nodiscard]] platform::graphics::PixelSize
+thumbnailSize(platform::graphics::PixelSize picture, int side = thumbnailSide);
 
 /// `image` drawn into a new picture of exactly `size`, 8-bit RGB with alpha; nothing for a damaged
 /// image or an invalid size.
-[[nodiscard]] std::optional<platform::Image>
-resizedImagetoPixelDimensions(const platform::Image& image, platform::PixelSize size);
+[[nodiscard]] std::optional<platform::graphics::Image> resizedImagetoPixelDimensions(
+    const platform::graphics::Image& image, platform::graphics::PixelSize size
+);
 
 /// What is drawn for `picture` in a square of `side` pixels; nothing when the photo can't be read,
 /// and for the sign of a file. Safe from any thread.
-[[nodiscard]] std::optional<platform::Image> drawnPicture(const ListPicture& picture, int side);
+[[nodiscard]] std::optional<platform::graphics::Image>
+drawnPicture(const ListPicture& picture, int side);
 
 } // namespace brenvaldo::workspace

@@ -42,7 +42,7 @@ struct Neighbours
     /// Prints the photo at a path.
     std::function<void(const QString& path)> printService = {};
     /// A picture of the program's resources by its name.
-    std::function<std::optional<platform::Image>(const QString& name)> imageNamed = {};
+    std::function<std::optional<platform::graphics::Image>(const QString& name)> imageNamed = {};
 };
 
 } // namespace brenvaldo::workspace

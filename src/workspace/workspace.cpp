@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspace.h"
 
-#include <workspace/start/app_delegate.h>
 #include "gui_controls.h"
-#include <workspace/preview/photo_preview.h>
 #include <workspace/functions/selected_function.h>
+#include <workspace/preview/photo_preview.h>
+#include <workspace/start/app_delegate.h>
 
 #include <imaging/color_well_handling.h>
 #include <imaging/dv_image_handling.h>
@@ -223,7 +223,7 @@ void Workspace::lastWindowClosed()
     m_parts->delegate.applicationShouldTerminateAfterLastWindowClosed();
 }
 
-std::optional<platform::Image> Workspace::composedPreview() const
+std::optional<platform::graphics::Image> Workspace::composedPreview() const
 {
     const panels::WindowControls& window = m_parts->panels.window;
     return composed(window.myTemplatePreview.image(), window.myTemplateOverlayPreview.image());

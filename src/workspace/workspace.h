@@ -24,7 +24,7 @@ class cCollectionViewController;
 struct Surroundings
 {
     controls::FileChooser& chooser;
-    platform::Desktop& desktop;
+    platform::storage::Desktop& desktop;
     platform::UserDefaults& defaults;
 };
 
@@ -64,7 +64,7 @@ public:
 
     /// The preview area at full pixel size, the overlay drawn over the photo; nothing while both
     /// views are empty.
-    [[nodiscard]] std::optional<platform::Image> composedPreview() const;
+    [[nodiscard]] std::optional<platform::graphics::Image> composedPreview() const;
 
     /// What a press of the process button is good for as the program stands.
     [[nodiscard]] RunOffer runOffer() const;

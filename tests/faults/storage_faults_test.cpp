@@ -19,7 +19,7 @@
 
 #include <csignal>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::storage;
 using brenvaldo::test::CaseName;
 using brenvaldo::test::InjectedFaults;
 using brenvaldo::test::PhotoBuilder;

@@ -132,7 +132,7 @@ TEST(CopyFileTo, ReplacesAFolderThatStandsAtTheTarget)
 {
     const TemporaryFolder folder;
     const QString source = folder.write(u"source.jpg"_qs, "a");
-    platform::createFolder(folder.path(u"target/inner"_qs));
+    platform::storage::createFolder(folder.path(u"target/inner"_qs));
 
     EXPECT_EQ(
         cNSFileHandling::hCopyFileTo({.source = source, .target = folder.path(u"target"_qs)}),
@@ -224,7 +224,7 @@ TEST(CopyFileToDest, MakesTheTargetAFolderAndFails)
 TEST(CopyFolderTo, CopiesWithoutReplacing)
 {
     const TemporaryFolder folder;
-    platform::createFolder(folder.path(u"source/inner"_qs));
+    platform::storage::createFolder(folder.path(u"source/inner"_qs));
     const QString target = folder.path(u"target"_qs);
 
     EXPECT_EQ(
@@ -242,7 +242,7 @@ TEST(CopyFolderTo, CopiesWithoutReplacing)
 TEST(CopyAppTo, DeletesASourceThatExists)
 {
     const TemporaryFolder folder;
-    platform::createFolder(folder.path(u"source/inner"_qs));
+    platform::storage::createFolder(folder.path(u"source/inner"_qs));
     static_cast<void>(folder.write(u"source/.hidden"_qs, "a"));
 
     EXPECT_EQ(
@@ -258,8 +258,8 @@ TEST(CopyAppTo, DeletesASourceThatExists)
 TEST(CopyAppTo, CopiesTheFilesAroundASourceThatIsMissing)
 {
     const TemporaryFolder folder;
-    platform::createFolder(folder.path(u"parent/inner"_qs));
-    platform::createFolder(folder.path(u"target"_qs));
+    platform::storage::createFolder(folder.path(u"parent/inner"_qs));
+    platform::storage::createFolder(folder.path(u"target"_qs));
     static_cast<void>(folder.write(u"parent/a"_qs, "a"));
     static_cast<void>(folder.write(u"parent/b"_qs, "b"));
     static_cast<void>(folder.write(u"parent/.hidden"_qs, "h"));
@@ -310,7 +310,7 @@ TEST(MoveFileTo, LeavesNoSecondCopyWhereTheSourceMustStay)
     const TemporaryFolder folder;
     const QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
     setMode(shared.path(), 0777);
-    platform::createFolder(folder.path(u"locked"_qs));
+    platform::storage::createFolder(folder.path(u"locked"_qs));
     const QString source = folder.write(u"locked/source"_qs, "a");
     setMode(source, 0644);
     setMode(folder.path(), 0755);

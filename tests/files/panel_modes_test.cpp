@@ -11,7 +11,7 @@
 
 using namespace brenvaldo::files;
 using namespace brenvaldo::test;
-using brenvaldo::platform::createFolder;
+using brenvaldo::platform::storage::createFolder;
 
 namespace {
 

@@ -39,7 +39,7 @@ public:
     std::function<void()> beforeAnswer = [] {}; ///< what the user does in the panel
 };
 
-class DesktopRecorder : public platform::Desktop
+class DesktopRecorder : public platform::storage::Desktop
 {
 public:
     void openUrl(const QUrl& url) override { opened += url; }

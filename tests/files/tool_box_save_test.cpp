@@ -182,7 +182,7 @@ TEST_F(PhotoCopyPanel, WritesEveryImageType)
         box.hSaveDialogFile(source);
 
         const auto header = openedPhoto(folder.path(u"copy."_qs + type)).header();
-        EXPECT_EQ(header.storedSize, (platform::PixelSize{7, 5}));
+        EXPECT_EQ(header.storedSize, (platform::graphics::PixelSize{7, 5}));
         EXPECT_EQ(header.typeIdentifier, identifier);
     }
 }

@@ -43,7 +43,7 @@ TEST_F(ToolBox, AnswersTheChosenFiles)
 
 TEST_F(ToolBox, ScansTheChosenFolder)
 {
-    platform::createFolder(folder.path(u"inner"_qs));
+    platform::storage::createFolder(folder.path(u"inner"_qs));
     const QString tagged = folder.write(u"inner/a.TIF"_qs, "");
     static_cast<void>(folder.write(u"b.png"_qs, ""));
     chooser.openAnswer = QStringList{folder.path()};
@@ -77,7 +77,7 @@ TEST_F(ToolBox, ChoosesNoDirectoryWhenCancelled)
 
 TEST_F(ToolBox, ListsOneLevelOfAFolder)
 {
-    platform::createFolder(folder.path(u"inner"_qs));
+    platform::storage::createFolder(folder.path(u"inner"_qs));
     static_cast<void>(folder.write(u"inner/b"_qs, ""));
     static_cast<void>(folder.write(u".hidden"_qs, ""));
     const QString file = folder.write(u"a b#c"_qs, "");
@@ -196,5 +196,5 @@ TEST(InstalledFonts, AreThoseOfThePlatform)
     const QStringList names = cToolBox::hGetAllInstalledFonts();
 
     EXPECT_FALSE(names.isEmpty());
-    EXPECT_EQ(names, visibleFontNames(platform::installedFontNames()));
+    EXPECT_EQ(names, visibleFontNames(platform::drawing::installedFontNames()));
 }

@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 using brenvaldo::imaging::DVImageHandling;
-using brenvaldo::platform::PixelSize;
+using brenvaldo::platform::graphics::PixelSize;
 using namespace brenvaldo::test;
 
 namespace {

@@ -13,7 +13,7 @@ using brenvaldo::controls::ActionRegistry;
 using brenvaldo::controls::ColorWell;
 using brenvaldo::controls::TextField;
 using brenvaldo::panels::Panels;
-using brenvaldo::platform::Color;
+using brenvaldo::platform::graphics::Color;
 using brenvaldo::test::CaseName;
 
 namespace {

@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 using namespace brenvaldo::imaging;
-using brenvaldo::platform::FileFormat;
+using brenvaldo::platform::codecs::FileFormat;
 using brenvaldo::test::CaseName;
 
 namespace {

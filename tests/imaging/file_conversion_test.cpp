@@ -21,9 +21,9 @@
 
 using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
-using brenvaldo::platform::PixelSize;
-using brenvaldo::platform::readMetadataBlocks;
-using brenvaldo::platform::typeIdentifierOfContents;
+using brenvaldo::platform::containers::typeIdentifierOfContents;
+using brenvaldo::platform::graphics::PixelSize;
+using brenvaldo::platform::metadata::readMetadataBlocks;
 
 namespace {
 

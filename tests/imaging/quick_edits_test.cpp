@@ -18,9 +18,9 @@
 
 using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
-using brenvaldo::platform::Image;
-using brenvaldo::platform::PixelSize;
-using brenvaldo::platform::readMetadataBlocks;
+using brenvaldo::platform::graphics::Image;
+using brenvaldo::platform::graphics::PixelSize;
+using brenvaldo::platform::metadata::readMetadataBlocks;
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 using namespace brenvaldo::imaging;
-using brenvaldo::platform::PixelRect;
-using brenvaldo::platform::PixelSize;
+using brenvaldo::platform::graphics::PixelRect;
+using brenvaldo::platform::graphics::PixelSize;
 using brenvaldo::test::CaseName;
 
 namespace {

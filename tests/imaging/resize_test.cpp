@@ -21,10 +21,10 @@
 
 using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
-using brenvaldo::platform::Image;
-using brenvaldo::platform::MetadataBlocks;
-using brenvaldo::platform::PixelSize;
-using brenvaldo::platform::readMetadataBlocks;
+using brenvaldo::platform::containers::MetadataBlocks;
+using brenvaldo::platform::graphics::Image;
+using brenvaldo::platform::graphics::PixelSize;
+using brenvaldo::platform::metadata::readMetadataBlocks;
 
 namespace {
 

@@ -12,8 +12,8 @@
 
 using brenvaldo::imaging::cMConversion;
 using brenvaldo::imaging::DVImageHandling;
-using brenvaldo::platform::Image;
-using brenvaldo::platform::PixelSize;
+using brenvaldo::platform::graphics::Image;
+using brenvaldo::platform::graphics::PixelSize;
 using namespace brenvaldo::test;
 
 namespace {

@@ -9,7 +9,7 @@
 #include <limits>
 
 using namespace brenvaldo::imaging;
-using brenvaldo::platform::PixelSize;
+using brenvaldo::platform::graphics::PixelSize;
 using brenvaldo::test::CaseName;
 
 namespace {

@@ -28,7 +28,7 @@ TEST(CropSettings, AreReadFromTheirControls)
 
     const imaging::CropSettings settings = imaging::readSettings(panel);
 
-    EXPECT_EQ(settings.size, (platform::PixelSize{11, 22}));
+    EXPECT_EQ(settings.size, (platform::graphics::PixelSize{11, 22}));
     EXPECT_EQ(settings.cutOff, 33);
     EXPECT_EQ(settings.xOffset, 44);
     EXPECT_EQ(settings.yOffset, -55);
@@ -48,17 +48,17 @@ TEST(CropSettings, TakeThePhotosOwnSizeForARunWithoutSize)
         panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(width);
         panel.dvVCUiCropWxHView.tfCropHeight.setStringValue(height);
         const imaging::CropSettings settings = imaging::readSettings(panel, path);
-        EXPECT_EQ(settings.size, (platform::PixelSize{30, 40}));
+        EXPECT_EQ(settings.size, (platform::graphics::PixelSize{30, 40}));
         EXPECT_EQ(settings.cropType, u"W x H"_qs);
         EXPECT_EQ(settings.anchor, 4);
         EXPECT_EQ(
             imaging::readSettings(panel, folder.path(u"missing.jpg"_qs)).size,
-            (platform::PixelSize{0, 0})
+            (platform::graphics::PixelSize{0, 0})
         );
     }
 
     panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"10"_qs);
-    EXPECT_EQ(imaging::readSettings(panel, path).size, (platform::PixelSize{10, 20}));
+    EXPECT_EQ(imaging::readSettings(panel, path).size, (platform::graphics::PixelSize{10, 20}));
 }
 
 TEST(TintSettings, AreReadFromTheirControls)
@@ -84,7 +84,8 @@ TEST(TintSettings, AreReadFromTheirControls)
     imaging::TintSettings settings = imaging::readSettings(panel);
 
     EXPECT_EQ(
-        settings.colour, (platform::Color{.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1})
+        settings.colour,
+        (platform::graphics::Color{.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1})
     );
     EXPECT_EQ(settings.blendIndex, 4);
     EXPECT_EQ(settings.duoToneState, 1);
@@ -141,5 +142,7 @@ TEST(ResizeSettings, WrapAtThirtyTwoBits)
     panel.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"4294967298"_qs);
 
     EXPECT_EQ(imaging::readSettings(panel.dvVCUiScaleMaxView).value, 0);
-    EXPECT_EQ(imaging::readSettings(panel.dvVCUiScaleFixView).box, (platform::PixelSize{1, 2}));
+    EXPECT_EQ(
+        imaging::readSettings(panel.dvVCUiScaleFixView).box, (platform::graphics::PixelSize{1, 2})
+    );
 }

@@ -10,8 +10,8 @@
 #include <QPainter>
 
 using namespace brenvaldo::imaging;
-using brenvaldo::platform::AttributedText;
-using brenvaldo::platform::Color;
+using brenvaldo::platform::drawing::AttributedText;
+using brenvaldo::platform::graphics::Color;
 
 namespace {
 

@@ -19,11 +19,11 @@
 
 using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
-using brenvaldo::platform::Image;
-using brenvaldo::platform::MetadataBlocks;
-using brenvaldo::platform::PixelSize;
-using brenvaldo::platform::readMetadataBlocks;
-using brenvaldo::platform::typeIdentifierOfContents;
+using brenvaldo::platform::containers::MetadataBlocks;
+using brenvaldo::platform::containers::typeIdentifierOfContents;
+using brenvaldo::platform::graphics::Image;
+using brenvaldo::platform::graphics::PixelSize;
+using brenvaldo::platform::metadata::readMetadataBlocks;
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 using namespace brenvaldo;
 using metadata::PropertyNode;
-using platform::PropertyDictionary;
+using platform::metadata::PropertyDictionary;
 
 namespace {
 

@@ -16,7 +16,7 @@ using test::PresetsBench;
 
 namespace {
 
-constexpr platform::Color orange = {.red = 1, .green = 0.5, .blue = 0.25};
+constexpr platform::graphics::Color orange = {.red = 1, .green = 0.5, .blue = 0.25};
 
 /// A bench on which one of the image functions is selected.
 struct Bench : PresetsBench
@@ -217,7 +217,7 @@ TEST(FramingRecord, LeavesTheColorsArchiveInTheTintPanel)
 
     EXPECT_EQ(
         bench.panels.vwAddTint.tfAddTintPosY.stringValue(),
-        platform::colorArchive({1.0F, 0.5F, 0.25F})
+        platform::archives::colorArchive({1.0F, 0.5F, 0.25F})
     );
     EXPECT_EQ(bench.panels.vwFraming.myNSColorWellObjFraming.color(), orange);
 }
@@ -264,7 +264,7 @@ TEST(RotationRecord, TakesTheColorFromTheHexField)
 
     bench.apply(0);
 
-    EXPECT_EQ(rotation.cwRotationBackgroundColor.color(), (platform::Color{.red = 1}));
+    EXPECT_EQ(rotation.cwRotationBackgroundColor.color(), (platform::graphics::Color{.red = 1}));
 }
 
 TEST(CropRecord, LosesTheCutOffAndShowsItsView)
@@ -312,14 +312,14 @@ TEST(FilterRecord, ReadsTheColorOfTheSquareCanvasAsHexadecimal)
     view.cwFilterMonochromeColor.setColor(orange);
     view.tfFilterMonochromeHexColor.setStringValue(u"FF7F3F"_qs);
     bench.save(u"A"_qs);
-    ASSERT_EQ(bench.stored(u"A"_qs, 4), platform::colorArchive({1.0F, 0.5F, 0.25F}));
+    ASSERT_EQ(bench.stored(u"A"_qs, 4), platform::archives::colorArchive({1.0F, 0.5F, 0.25F}));
 
     bench.apply(0);
 
     // "BA" opens every archive: two hexadecimal digits, blue.
     EXPECT_EQ(
         view.cwFilterMonochromeColor.color(),
-        (platform::Color{.blue = static_cast<double>(0xBA / 255.0F)})
+        (platform::graphics::Color{.blue = static_cast<double>(0xBA / 255.0F)})
     );
     EXPECT_EQ(view.tfFilterMonochromeHexColor.stringValue(), u"FF7F3F"_qs);
     EXPECT_FALSE(view.pubFilterMonochromeIntensity.isEnabled());

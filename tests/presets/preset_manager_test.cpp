@@ -19,11 +19,11 @@ using test::PresetsBench;
 namespace {
 
 /// A picture for the second view.
-platform::Image picture()
+platform::graphics::Image picture()
 {
     QImage pixels(3, 2, QImage::Format_RGB32);
     pixels.fill(Qt::white);
-    return platform::Image::fromQImage(pixels);
+    return platform::graphics::Image::fromQImage(pixels);
 }
 
 } // namespace

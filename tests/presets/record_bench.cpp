@@ -15,12 +15,12 @@ namespace {
 constexpr int columns = 102;
 constexpr QStringView fontList = u"cbWatermarkFont";
 
-QString colorText(const platform::Color& color)
+QString colorText(const platform::graphics::Color& color)
 {
     return u"%1 %2 %3"_qs.arg(color.red).arg(color.green).arg(color.blue);
 }
 
-platform::ColorComponents componentsOf(const QString& text)
+platform::archives::ColorComponents componentsOf(const QString& text)
 {
     const QStringList parts = text.split(u' ');
     return {parts[0].toFloat(), parts[1].toFloat(), parts[2].toFloat()};
@@ -138,10 +138,12 @@ QString RecordBench::nameOf(Round round) { return round == Round::First ? u"A"_q
 QString RecordBench::storedFormOf(const QString& name, const QString& value) const
 {
     if (dynamic_cast<const controls::ColorWell*>(&control(name)))
-        return platform::colorArchive(componentsOf(value));
+        return platform::archives::colorArchive(componentsOf(value));
     if (name == u"tfImageDestinationFolder" || name == u"tfWaterMarkImageFilePath") {
         const QString path = QDir::cleanPath(value);
-        return QString::fromLatin1(platform::bookmarkFor(path).value_or(QByteArray()).toBase64());
+        return QString::fromLatin1(
+            platform::archives::bookmarkFor(path).value_or(QByteArray()).toBase64()
+        );
     }
     return value;
 }

@@ -184,7 +184,9 @@ TEST(RecordPositions, HoldTheFrame)
         ),
         {{u"pubFramingGradientAngle"_qs, true, false}}
     );
-    EXPECT_EQ(bench.read(u"tfAddTintPosY"_qs), platform::colorArchive({1.0F, 0.0F, 0.5F}));
+    EXPECT_EQ(
+        bench.read(u"tfAddTintPosY"_qs), platform::archives::colorArchive({1.0F, 0.0F, 0.5F})
+    );
 }
 
 TEST(RecordPositions, HoldTheRoundings)

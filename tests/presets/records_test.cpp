@@ -52,7 +52,7 @@ TEST_F(TextWatermarkRecord, KeepsAColorWithoutItsAlpha)
     text.cwFontColor.setColor({.red = 0.2, .green = 0.2, .blue = 0.2, .alpha = 0.1});
     bench.save(u"A"_qs);
 
-    EXPECT_EQ(bench.stored(u"A"_qs, 16), platform::colorArchive({0.2F, 0.2F, 0.2F}));
+    EXPECT_EQ(bench.stored(u"A"_qs, 16), platform::archives::colorArchive({0.2F, 0.2F, 0.2F}));
 }
 
 TEST_F(TextWatermarkRecord, TakesNoFontThatIsNotInstalled)
@@ -153,7 +153,7 @@ TEST_F(TextWatermarkRecord, KeepsAFolderAsABookmarkWithoutTheSlash)
     const QByteArray record = QByteArray::fromBase64(bench.stored(u"A"_qs, 3).toLatin1());
 
     EXPECT_EQ(
-        platform::pathOfBookmark(record).value_or(QString()) + QLatin1Char('/'),
+        platform::archives::pathOfBookmark(record).value_or(QString()) + QLatin1Char('/'),
         bench.file.folder().path()
     );
 }
@@ -227,20 +227,22 @@ TEST_F(TextWatermarkRecord, LeavesAColorThatIsDamaged)
 
     bench.apply(0);
 
-    EXPECT_EQ(text.cwFontColor.color(), (platform::Color{.red = 0.5, .green = 0.5, .blue = 0.5}));
+    EXPECT_EQ(
+        text.cwFontColor.color(), (platform::graphics::Color{.red = 0.5, .green = 0.5, .blue = 0.5})
+    );
 }
 
 TEST_F(TextWatermarkRecord, ReadsTheColorsOfEitherArchive)
 {
     bench.save(u"A"_qs);
-    const QString archive = platform::galleryColorArchive({0.0F, 1.0F, 0.0F});
+    const QString archive = platform::archives::galleryColorArchive({0.0F, 1.0F, 0.0F});
     (void)bench.file.rows(
         (u"update Presets set StrField16 = '"_qs + archive + u"'"_qs).toUtf8().constData()
     );
 
     bench.apply(0);
 
-    EXPECT_EQ(text.cwFontColor.color(), (platform::Color{.green = 1}));
+    EXPECT_EQ(text.cwFontColor.color(), (platform::graphics::Color{.green = 1}));
 }
 
 TEST_F(TextWatermarkRecord, KeepsLongAndOddTexts)

@@ -207,7 +207,7 @@ TEST(ValueFields, TellTheStateOfControlsThatTakeNoValue)
     EXPECT_EQ(valueFields(sheet), QStringList{u"closed"_qs});
     EXPECT_EQ(valueFields(holder), QStringList{u"vwA"_qs});
 
-    view.setImage(platform::Image::fromQImage(QImage(3, 2, QImage::Format_RGB32)));
+    view.setImage(platform::graphics::Image::fromQImage(QImage(3, 2, QImage::Format_RGB32)));
     sheet.open();
 
     EXPECT_EQ(valueFields(view), QStringList{u"image"_qs});

@@ -5,7 +5,7 @@
 
 #include <ostream>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 // Found by GoogleTest when an assertion prints a size or a rectangle.
 inline void PrintTo(const PixelSize& size, std::ostream* out)
@@ -18,4 +18,4 @@ inline void PrintTo(const PixelRect& rect, std::ostream* out)
     *out << rect.width << " x " << rect.height << " at (" << rect.x << ", " << rect.y << ')';
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -10,7 +10,7 @@
 int main(int argc, char** argv)
 {
     const brenvaldo::test::Surroundings surroundings;
-    const brenvaldo::platform::Engine engine;
+    const brenvaldo::platform::graphics::Engine engine;
     const QGuiApplication application(argc, argv);
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();

@@ -5,7 +5,6 @@
 
 #include <libheif/heif.h>
 
-
 #include <cmath>
 #include <cstring>
 #include <memory>

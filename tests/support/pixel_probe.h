@@ -14,9 +14,9 @@
 namespace brenvaldo::test {
 
 /// Opens a photo that must be readable.
-inline platform::ImageSource openedPhoto(const QString& path)
+inline platform::codecs::ImageSource openedPhoto(const QString& path)
 {
-    auto source = platform::ImageSource::open(path);
+    auto source = platform::codecs::ImageSource::open(path);
     if (!source)
         qFatal("a photo of a test can't be opened");
     return *source;
@@ -25,14 +25,14 @@ inline platform::ImageSource openedPhoto(const QString& path)
 /// The evaluated stored pixels of a photo; null when it is damaged.
 inline QImage storedPixels(const QString& path)
 {
-    const auto source = platform::ImageSource::open(path);
+    const auto source = platform::codecs::ImageSource::open(path);
     const auto image = source ? source->image() : std::nullopt;
     return image ? image->toQImage() : QImage();
 }
 
 inline QImage uprightPixels(const QString& path)
 {
-    const auto source = platform::ImageSource::open(path);
+    const auto source = platform::codecs::ImageSource::open(path);
     const auto image = source ? source->uprightImage() : std::nullopt;
     return image ? image->toQImage() : QImage();
 }

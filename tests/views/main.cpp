@@ -11,7 +11,7 @@
 int main(int argc, char** argv)
 {
     const brenvaldo::test::Surroundings surroundings;
-    const brenvaldo::platform::Engine engine;
+    const brenvaldo::platform::graphics::Engine engine;
     QApplication application(argc, argv);
     brenvaldo::views::applyTheme(application);
     testing::InitGoogleMock(&argc, argv);

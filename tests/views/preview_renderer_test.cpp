@@ -15,7 +15,7 @@
 #include <QTimer>
 
 using namespace brenvaldo;
-using platform::Stamp;
+using platform::drawing::Stamp;
 
 namespace {
 
@@ -40,7 +40,7 @@ protected:
         return result;
     }
 
-    platform::Image photo()
+    platform::graphics::Image photo()
     {
         const QString path = test::PhotoBuilder()
                                  .size(643, 427)
@@ -48,7 +48,7 @@ protected:
                                  .format(test::PhotoFormat::Png)
                                  .write(folder.path(u"a.png"_qs));
         return *test::openedPhoto(path).uprightImage(
-            {.access = platform::ImageSource::Access::Random, .atLeast = {}}
+            {.access = platform::codecs::ImageSource::Access::Random, .atLeast = {}}
         );
     }
 
@@ -59,7 +59,7 @@ protected:
         return {.layer = layer, .topLeft = topLeft, .repeat = Stamp::Repeat::Once};
     }
 
-    static constexpr platform::PixelSize room{.width = 200, .height = 200};
+    static constexpr platform::graphics::PixelSize room{.width = 200, .height = 200};
     test::TemporaryFolder folder;
     views::PreviewRenderer renderer;
 };
@@ -68,8 +68,8 @@ protected:
 
 TEST_P(PreviewRenderer, DrawsAMarkedPhotoAsIfItWereRenderedWhole)
 {
-    const platform::Image plain = photo();
-    const platform::Image marked = platform::stamped(plain, stampAt(GetParam()));
+    const platform::graphics::Image plain = photo();
+    const platform::graphics::Image marked = platform::drawing::stamped(plain, stampAt(GetParam()));
 
     const auto whole
         = rendered({.photo = {}, .overlay = marked, .room = room, .part = std::nullopt, .path = {}}
@@ -97,8 +97,8 @@ namespace {
 class HeldStamp
 {
 public:
-    explicit HeldStamp(const platform::Image& photo)
-        : m_marked(platform::stamped(photo, [state = m_state] {
+    explicit HeldStamp(const platform::graphics::Image& photo)
+        : m_marked(platform::drawing::stamped(photo, [state = m_state] {
             state->begun.release();
             state->goOn.acquire();
             state->thread = QThread::currentThread();
@@ -107,7 +107,7 @@ public:
     {
     }
 
-    [[nodiscard]] const platform::Image& marked() const { return m_marked; }
+    [[nodiscard]] const platform::graphics::Image& marked() const { return m_marked; }
     void waitUntilBegun() const { m_state->begun.acquire(); }
     [[nodiscard]] bool hasBegun() const { return m_state->begun.available() > 0; }
     void letGo() const { m_state->goOn.release(); }
@@ -122,7 +122,7 @@ private:
     };
 
     std::shared_ptr<State> m_state = std::make_shared<State>();
-    platform::Image m_marked;
+    platform::graphics::Image m_marked;
 };
 
 class BusyPreviewRenderer : public PreviewRenderer
@@ -138,7 +138,7 @@ protected:
         );
     }
 
-    void render(const platform::Image& overlay, const QString& path = u"a.png"_qs)
+    void render(const platform::graphics::Image& overlay, const QString& path = u"a.png"_qs)
     {
         renderer.render(
             {.photo = plain, .overlay = overlay, .room = room, .part = std::nullopt, .path = path}
@@ -150,7 +150,7 @@ protected:
         return QTest::qWaitFor([this] { return !renderer.isBusy(); }, 60000);
     }
 
-    const platform::Image plain = photo();
+    const platform::graphics::Image plain = photo();
     QList<views::PreviewPicture> shown;
 };
 
@@ -197,7 +197,7 @@ TEST_F(BusyPreviewRenderer, ShowsWhatIsFinishedWhileTheSamePhotoIsChangedOn)
     render(first.marked());
     first.waitUntilBegun();
 
-    render(platform::stamped(plain, stampAt({300, 200})));
+    render(platform::drawing::stamped(plain, stampAt({300, 200})));
     first.letGo();
 
     EXPECT_TRUE(finishes());
@@ -211,7 +211,7 @@ TEST_F(BusyPreviewRenderer, DropsAPictureOfThePhotoBefore)
     render(first.marked(), u"before.png"_qs);
     first.waitUntilBegun();
 
-    render(platform::stamped(plain, stampAt({300, 200})), u"now.png"_qs);
+    render(platform::drawing::stamped(plain, stampAt({300, 200})), u"now.png"_qs);
     first.letGo();
 
     EXPECT_TRUE(finishes());
@@ -223,13 +223,13 @@ TEST_F(PreviewRenderer, DrawsAnotherPhotoAnew)
 {
     QImage white(10, 10, QImage::Format_RGB32);
     white.fill(Qt::white);
-    const auto request = [](const platform::Image& image) {
+    const auto request = [](const platform::graphics::Image& image) {
         return views::PreviewRequest{
             .photo = image, .overlay = {}, .room = room, .part = std::nullopt, .path = {}};
     };
     rendered(request(photo()));
 
-    const auto second = rendered(request(platform::Image::fromQImage(white)));
+    const auto second = rendered(request(platform::graphics::Image::fromQImage(white)));
 
     EXPECT_EQ(second.photo.size(), QSize(10, 10));
 }

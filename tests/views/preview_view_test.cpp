@@ -41,9 +41,9 @@ protected:
         return view.grab().toImage();
     }
 
-    static platform::Image picture(int width, int height, const QColor& colour)
+    static platform::graphics::Image picture(int width, int height, const QColor& colour)
     {
-        return platform::Image::fromQImage(solid(width, height, colour));
+        return platform::graphics::Image::fromQImage(solid(width, height, colour));
     }
 
     controls::ImageView photo{u"myTemplatePreview"_qs};
@@ -100,7 +100,7 @@ TEST_F(PreviewView, ShowsPixelsAtOneToOneAndPansByMouse)
     for (int y = 0; y < halves.height(); ++y)
         for (int x = 2000; x < halves.width(); ++x)
             halves.setPixelColor(x, y, Qt::blue);
-    photo.setImage(platform::Image::fromQImage(halves));
+    photo.setImage(platform::graphics::Image::fromQImage(halves));
     view.setZoom(views::PreviewView::Zoom::Pixels);
     EXPECT_EQ(drawn().pixelColor(10, 200), QColor(Qt::red));
     EXPECT_EQ(drawn().pixelColor(590, 200), QColor(Qt::blue));
@@ -180,7 +180,7 @@ TEST_F(PreviewView, KeepsThePixelsOfAPhotoThatIsSetAgain)
     for (int y = 0; y < stripes.height(); ++y)
         for (int x = 0; x < stripes.width(); x += 2)
             stripes.setPixelColor(x, y, Qt::white);
-    const auto same = platform::Image::fromQImage(stripes);
+    const auto same = platform::graphics::Image::fromQImage(stripes);
     photo.setImage(same);
     view.setZoom(views::PreviewView::Zoom::Pixels);
     const QImage before = drawn();
@@ -198,7 +198,7 @@ TEST_F(PreviewView, ZoomsByTheWheelAtThePointer)
     for (int y = 0; y < 300; ++y)
         for (int x = 0; x < 300; ++x)
             marked.setPixelColor(x, y, Qt::blue);
-    photo.setImage(platform::Image::fromQImage(marked));
+    photo.setImage(platform::graphics::Image::fromQImage(marked));
     (void)drawn();
     const QPointF corner(40, 70); // in the blue corner of the fitted picture
 
@@ -224,7 +224,7 @@ TEST_F(PreviewView, ZoomsAndMovesByKeyboard)
     for (int y = 0; y < halves.height(); ++y)
         for (int x = 2000; x < halves.width(); ++x)
             halves.setPixelColor(x, y, Qt::blue);
-    photo.setImage(platform::Image::fromQImage(halves));
+    photo.setImage(platform::graphics::Image::fromQImage(halves));
 
     QTest::keyClick(&view, Qt::Key_Plus);
     EXPECT_EQ(view.zoom(), views::PreviewView::Zoom::Pixels);

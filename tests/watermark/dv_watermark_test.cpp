@@ -163,8 +163,8 @@ TEST_F(TextWatermark, DrawsUprightAndCarriesTheMetadataUnchanged)
     run({photo}, QStringLiteral("public.jpeg"));
 
     const auto header = test::openedPhoto(done.value(0).target).header();
-    EXPECT_EQ(header.storedSize, (platform::PixelSize{80, 120}));
-    EXPECT_EQ(platform::readMetadataBlocks(done.value(0).target)->exif, exif);
+    EXPECT_EQ(header.storedSize, (platform::graphics::PixelSize{80, 120}));
+    EXPECT_EQ(platform::metadata::readMetadataBlocks(done.value(0).target)->exif, exif);
 }
 
 TEST_F(TextWatermark, StepsTheBarByWholeNumbersOfAnEleventhOfAPhoto)
@@ -219,16 +219,19 @@ TEST_F(TextWatermark, PreviewDrawsTheMarkWhenItIsLookedAt)
     previewPhoto = [&timesAsked](const QString&) {
         QImage plain(120, 80, QImage::Format_RGB32);
         plain.fill(Qt::gray);
-        return platform::stamped(platform::Image::fromQImage(plain), [&timesAsked] {
-            ++timesAsked;
-            return platform::Stamp();
-        });
+        return platform::drawing::stamped(
+            platform::graphics::Image::fromQImage(plain),
+            [&timesAsked] {
+                ++timesAsked;
+                return platform::drawing::Stamp();
+            }
+        );
     };
 
     const auto preview = mark.setWatermarkTextPreview(darkPhoto(QStringLiteral("a.jpg")));
 
     ASSERT_TRUE(preview.has_value());
-    EXPECT_EQ(preview->pixelSize(), (platform::PixelSize{120, 80}));
+    EXPECT_EQ(preview->pixelSize(), (platform::graphics::PixelSize{120, 80}));
     EXPECT_EQ(timesAsked, 0);
     EXPECT_FALSE(preview->toQImage().isNull());
     EXPECT_EQ(timesAsked, 1);

@@ -26,8 +26,8 @@ TEST(TextMark, OfHugeLettersIsRenderedOnlyWhereThePhotoShowsIt)
     settings.text = block().repeated(50);
     settings.placement.anchor = 4;
 
-    const platform::Image photo = plainPhoto();
-    const platform::Stamp stamp = textMark(settings, settings.text, blockFont(), photo);
+    const platform::graphics::Image photo = plainPhoto();
+    const platform::drawing::Stamp stamp = textMark(settings, settings.text, blockFont(), photo);
 
     EXPECT_LE(stamp.layer.width(), photo.width());
     EXPECT_LE(stamp.layer.height(), photo.height());
@@ -64,12 +64,12 @@ TEST_P(HardTextMark, MarksThePhotoWithoutALargerLayerThanItNeeds)
     settings.isTiled = row.isTiled;
     settings.effect = row.effect;
     settings.placement.anchor = 4;
-    const platform::Image photo = plainPhoto();
+    const platform::graphics::Image photo = plainPhoto();
 
-    const platform::Stamp stamp
+    const platform::drawing::Stamp stamp
         = textMark(settings, settings.text, QFont(QString::fromLatin1(row.font)), photo);
 
-    EXPECT_GT(changedPixels(platform::stamped(photo, stamp).toQImage()), 0);
+    EXPECT_GT(changedPixels(platform::drawing::stamped(photo, stamp).toQImage()), 0);
     EXPECT_LE(qint64{stamp.layer.width()} * stamp.layer.height(), 16'000'000);
     EXPECT_LE(stamp.layer.width(), 30'000);
 }

@@ -19,7 +19,7 @@ protected:
     QString widthOf(const QString& path)
     {
         const auto properties = kept.of(path);
-        const auto* width = properties->value(platform::property::pixelWidth);
+        const auto* width = properties->value(platform::metadata::property::pixelWidth);
         return width ? width->text() : QString();
     }
 

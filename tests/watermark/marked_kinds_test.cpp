@@ -52,12 +52,12 @@ TEST_P(MarkedPhotoKind, KeepsItsKindAndShowsAWhiteMark)
                               .solid({40, 40, 40, 128, 255})
                               .format(row.format)
                               .write(sources.path(QStringLiteral("a.tif")));
-    const platform::ImageHeader before = test::openedPhoto(photo).header();
+    const platform::codecs::ImageHeader before = test::openedPhoto(photo).header();
 
     run({photo}, QString::fromLatin1(row.outputType));
 
     ASSERT_EQ(done.value(0).word, QStringLiteral("OK"));
-    const platform::ImageHeader after = test::openedPhoto(done.value(0).target).header();
+    const platform::codecs::ImageHeader after = test::openedPhoto(done.value(0).target).header();
     EXPECT_EQ(after.bitsPerComponent, before.bitsPerComponent);
     EXPECT_EQ(after.colorModel, before.colorModel);
     EXPECT_EQ(after.hasAlpha, before.hasAlpha);

@@ -30,23 +30,25 @@ inline watermark::TextWatermarkSettings whiteBlock()
     return settings;
 }
 
-inline platform::Image plainPhoto(int width = 161, int height = 121)
+inline platform::graphics::Image plainPhoto(int width = 161, int height = 121)
 {
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(photoColor);
-    return platform::Image::fromQImage(image);
+    return platform::graphics::Image::fromQImage(image);
 }
 
 inline QImage markedPhoto(
-    const watermark::TextWatermarkSettings& settings, const platform::Image& photo = plainPhoto()
+    const watermark::TextWatermarkSettings& settings,
+    const platform::graphics::Image& photo = plainPhoto()
 )
 {
-    return platform::stamped(photo, textMark(settings, settings.text, blockFont(), photo))
+    return platform::drawing::stamped(photo, textMark(settings, settings.text, blockFont(), photo))
         .toQImage();
 }
 
 inline watermark::TextOverlay overlayOf(
-    const watermark::TextWatermarkSettings& settings, const platform::Image& photo = plainPhoto()
+    const watermark::TextWatermarkSettings& settings,
+    const platform::graphics::Image& photo = plainPhoto()
 )
 {
     return {settings, settings.text, blockFont(), photo};

@@ -38,7 +38,7 @@ class TextFilledWithThePhoto : public testing::TestWithParam<KindCase>
 {
 protected:
     /// A photo with levels of its full depth: enlarged from a few pixels.
-    [[nodiscard]] platform::Image photo() const
+    [[nodiscard]] platform::graphics::Image photo() const
     {
         const KindCase& row = GetParam();
         PhotoBuilder builder;
@@ -53,10 +53,10 @@ protected:
     }
 
     /// All samples, whatever their depth and colour model.
-    [[nodiscard]] QByteArray samplesOf(const platform::Image& image) const
+    [[nodiscard]] QByteArray samplesOf(const platform::graphics::Image& image) const
     {
         const QString path = folder.path(QStringLiteral("samples.tiff"));
-        if (!platform::encode(image, platform::FileFormat::Tiff, {}, path))
+        if (!platform::codecs::encode(image, platform::codecs::FileFormat::Tiff, {}, path))
             return {};
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -65,9 +65,10 @@ protected:
     TemporaryFolder folder;
 };
 
-platform::Image marked(const TextWatermarkSettings& settings, const platform::Image& photo)
+platform::graphics::Image
+marked(const TextWatermarkSettings& settings, const platform::graphics::Image& photo)
 {
-    return platform::stamped(photo, textMark(settings, settings.text, blockFont(), photo));
+    return platform::drawing::stamped(photo, textMark(settings, settings.text, blockFont(), photo));
 }
 
 TextWatermarkSettings blockOfThePhoto(int fontSize = 40, int anchor = bottomLeft)
@@ -80,21 +81,21 @@ TextWatermarkSettings blockOfThePhoto(int fontSize = 40, int anchor = bottomLeft
 }
 
 /// Red tells the column, green the row.
-platform::Image coordinates()
+platform::graphics::Image coordinates()
 {
     QImage image(161, 121, QImage::Format_RGB32);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x)
             image.setPixel(x, y, qRgb(x, y, 200));
     }
-    return platform::Image::fromQImage(image);
+    return platform::graphics::Image::fromQImage(image);
 }
 
 } // namespace
 
 TEST_P(TextFilledWithThePhoto, IsThePhotoWhereItStandsOnTheCornerThatFillsIt)
 {
-    const platform::Image plain = photo();
+    const platform::graphics::Image plain = photo();
 
     EXPECT_EQ(samplesOf(marked(blockOfThePhoto(), plain)), samplesOf(plain));
     EXPECT_NE(samplesOf(marked(blockOfThePhoto(40, centre), plain)), samplesOf(plain));
@@ -122,11 +123,11 @@ TEST(TextFill, OfAWideGamutPhotoIsAsSaturatedAsThePhoto)
                              .iccProfile(wideProfile())
                              .format(PhotoFormat::Png)
                              .write(folder.path(QStringLiteral("a.png")));
-    const platform::Image photo = openedPhoto(path).image()->copiedToMemory().value();
+    const platform::graphics::Image photo = openedPhoto(path).image()->copiedToMemory().value();
     const QString target = folder.path(QStringLiteral("b.png"));
 
-    ASSERT_TRUE(platform::encode(
-        marked(blockOfThePhoto(40, centre), photo), platform::FileFormat::Png, {}, target
+    ASSERT_TRUE(platform::codecs::encode(
+        marked(blockOfThePhoto(40, centre), photo), platform::codecs::FileFormat::Png, {}, target
     ));
 
     EXPECT_EQ(QImage(target).pixel(60, 40), qRgb(0, 255, 0));
@@ -141,12 +142,14 @@ TEST(TextFill, InBlackAndWhiteHasTheLevelsOfADeepPhoto)
                              .solid({200, 100, 50})
                              .format(PhotoFormat::Png)
                              .write(folder.path(QStringLiteral("a.png")));
-    const platform::Image photo = openedPhoto(path).image()->copiedToMemory().value();
+    const platform::graphics::Image photo = openedPhoto(path).image()->copiedToMemory().value();
     TextWatermarkSettings settings = blockOfThePhoto(40, centre);
     settings.effect = TextEffect::NoirPhoto;
     const QString target = folder.path(QStringLiteral("b.png"));
 
-    ASSERT_TRUE(platform::encode(marked(settings, photo), platform::FileFormat::Png, {}, target));
+    ASSERT_TRUE(platform::codecs::encode(
+        marked(settings, photo), platform::codecs::FileFormat::Png, {}, target
+    ));
 
     const QRgba64 middle = QImage(target).pixelColor(60, 40).rgba64();
     EXPECT_NEAR(middle.red(), 27882, 1);
@@ -156,7 +159,7 @@ TEST(TextFill, InBlackAndWhiteHasTheLevelsOfADeepPhoto)
 
 TEST(TextFill, TallerThanThePhotoStartsAtTheBottomLeft)
 {
-    const platform::Image photo = coordinates();
+    const platform::graphics::Image photo = coordinates();
 
     const QImage found = marked(blockOfThePhoto(400), photo).toQImage();
 
@@ -165,7 +168,7 @@ TEST(TextFill, TallerThanThePhotoStartsAtTheBottomLeft)
 
 TEST(TextFill, BeginsAnewBehindThePhotosEdges)
 {
-    const platform::Image photo = coordinates();
+    const platform::graphics::Image photo = coordinates();
     TextWatermarkSettings settings = blockOfThePhoto(400);
     settings.placement.xOffset = -50;
     settings.placement.yOffset = -30;
@@ -178,10 +181,10 @@ TEST(TextFill, BeginsAnewBehindThePhotosEdges)
 
 TEST(TextFill, TurnsWithItsLayer)
 {
-    const platform::Image photo = coordinates();
+    const platform::graphics::Image photo = coordinates();
     TextWatermarkSettings settings = blockOfThePhoto(40, topLeft);
     const QRect upright = blockOnItsLayer(settings);
-    const platform::PixelSize layer = overlayOf(settings, photo).size();
+    const platform::graphics::PixelSize layer = overlayOf(settings, photo).size();
     settings.placement.angle = 180;
 
     const QImage found = marked(settings, photo).toQImage();
@@ -195,12 +198,12 @@ TEST(TextFill, TurnsWithItsLayer)
 
 TEST(TextFill, IsTheSameInEachTile)
 {
-    const platform::Image photo = coordinates();
+    const platform::graphics::Image photo = coordinates();
     TextWatermarkSettings settings = blockOfThePhoto(40);
     settings.isTiled = true;
     settings.placement.xOffset = 8;
     settings.placement.yOffset = 6;
-    const platform::PixelSize layer = overlayOf(settings, photo).size();
+    const platform::graphics::PixelSize layer = overlayOf(settings, photo).size();
     const QImage found = marked(settings, photo).toQImage();
 
     const TileSpan across = tileSpan(photo.width(), layer.width);
@@ -220,10 +223,10 @@ TEST(TextFill, IsTheSameInEachTile)
 
 TEST(TextFill, OfATileLargerThanThePhotoIsThatOfSmallOnes)
 {
-    const platform::Image photo = coordinates();
+    const platform::graphics::Image photo = coordinates();
     TextWatermarkSettings settings = blockOfThePhoto(5000);
     settings.isTiled = true;
-    const platform::PixelSize layer = overlayOf(settings, photo).size();
+    const platform::graphics::PixelSize layer = overlayOf(settings, photo).size();
     ASSERT_GT(layer.width * layer.height, 16'000'000);
 
     const QImage found = marked(settings, photo).toQImage();
@@ -241,11 +244,11 @@ TEST(TextFill, BeginsAnewInEachOfTheLargeTiles)
         for (int x = 0; x < ground.width(); ++x)
             ground.setPixel(x, y, qRgb(x % 256, y, x / 256));
     }
-    const platform::Image photo = platform::Image::fromQImage(ground);
+    const platform::graphics::Image photo = platform::graphics::Image::fromQImage(ground);
     TextWatermarkSettings settings = blockOfThePhoto(5000);
     settings.isTiled = true;
     settings.placement.xOffset = 40;
-    const platform::PixelSize layer = overlayOf(settings, photo).size();
+    const platform::graphics::PixelSize layer = overlayOf(settings, photo).size();
     ASSERT_GT(layer.width * layer.height, 16'000'000);
     ASSERT_LT(layer.width, 4000);
 
@@ -264,7 +267,7 @@ TEST(TextFill, OfADamagedPhotoLeavesNoMark)
         = PhotoBuilder().size(400, 300).gradient().format(PhotoFormat::Jpeg).bytes();
     const QString path = folder.write(QStringLiteral("a.jpg"), whole.left(whole.size() / 2));
     const auto photo = openedPhoto(path).uprightImage(
-        {.access = platform::ImageSource::Access::Random, .atLeast = {}}
+        {.access = platform::codecs::ImageSource::Access::Random, .atLeast = {}}
     );
     ASSERT_TRUE(photo.has_value());
     const TextWatermarkSettings settings = blockOfThePhoto();
@@ -283,7 +286,7 @@ TEST(TextFill, HasTheStrengthOfTheOpacityOnce)
     TextWatermarkSettings settings = blockOfThePhoto(40, 2);
     settings.opacity = 0.5;
 
-    const QImage found = marked(settings, platform::Image::fromQImage(ground)).toQImage();
+    const QImage found = marked(settings, platform::graphics::Image::fromQImage(ground)).toQImage();
 
     const QRgb pixel = found.pixel(changedBox(found.copy(81, 0, 80, 60)).center() + QPoint(81, 0));
     EXPECT_NEAR(qRed(pixel), 110, 1);
@@ -299,7 +302,7 @@ TEST(TextFill, IsAsTransparentAsThePhoto)
         for (int x = 0; x < 80; ++x)
             ground.setPixel(x, y, qRgba(200, 100, 50, 102));
     }
-    const platform::Image photo = platform::Image::fromQImage(ground);
+    const platform::graphics::Image photo = platform::graphics::Image::fromQImage(ground);
 
     const QImage found = marked(blockOfThePhoto(40, 2), photo).toQImage();
 
@@ -319,7 +322,7 @@ TEST(TextFill, TakesNoColourFromWhatCannotBeSeenOfThePhoto)
     TextWatermarkSettings settings = blockOfThePhoto(60, centre);
     settings.placement.angle = 30; // between the photo's pixels
 
-    const QImage found = marked(settings, platform::Image::fromQImage(ground)).toQImage();
+    const QImage found = marked(settings, platform::graphics::Image::fromQImage(ground)).toQImage();
 
     int green = 0;
     for (int y = 0; y < found.height(); ++y) {
@@ -331,11 +334,11 @@ TEST(TextFill, TakesNoColourFromWhatCannotBeSeenOfThePhoto)
 
 TEST(TextFill, StandsAboveItsOwnShadow)
 {
-    const platform::Image photo = coordinates();
+    const platform::graphics::Image photo = coordinates();
     TextWatermarkSettings settings = blockOfThePhoto(40);
     settings.text = block() + QLatin1Char(' ');
-    settings.shadow
-        = platform::Shadow{.color = {.red = 1}, .xOffset = 4, .yOffset = 0, .blurRadius = 0};
+    settings.shadow = platform::drawing::Shadow{
+        .color = {.red = 1}, .xOffset = 4, .yOffset = 0, .blurRadius = 0};
 
     const QImage found = marked(settings, photo).toQImage();
 

@@ -27,14 +27,14 @@ class TextMarkLook : public testing::TestWithParam<LookCase>
 {
 };
 
-platform::Image ground()
+platform::graphics::Image ground()
 {
     QImage image(120, 72, QImage::Format_RGB32);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x)
             image.setPixel(x, y, qRgb(70 + x, 110 + y / 2, 180 - y));
     }
-    return platform::Image::fromQImage(image);
+    return platform::graphics::Image::fromQImage(image);
 }
 
 } // namespace
@@ -51,15 +51,15 @@ TEST_P(TextMarkLook, IsThatOfTheGoldenPicture)
     settings.effect = row.effect;
     settings.placement = {.anchor = 4, .xOffset = 0, .yOffset = 0, .angle = row.angle};
     if (row.hasShadow)
-        settings.shadow = platform::Shadow{
+        settings.shadow = platform::drawing::Shadow{
             .color = {.red = 0, .green = 0, .blue = 0},
             .xOffset = 3,
             .yOffset = -3,
             .blurRadius = 4};
-    const platform::Image photo = ground();
+    const platform::graphics::Image photo = ground();
 
     const QImage marked
-        = platform::stamped(
+        = platform::drawing::stamped(
               photo, textMark(settings, settings.text, QFont(QStringLiteral("DejaVu Sans")), photo)
         )
               .toQImage();

@@ -40,7 +40,7 @@ double meanDifference(const QImage& first, const QImage& second)
 TEST_P(TurnedTextLayer, LooksLikeTheUprightOneTurnedAsAPicture)
 {
     const auto picture = imaging::DVImageHandling::hRotatePictureBase(
-        platform::Image::fromQImage(turnedLayer(0)), static_cast<float>(GetParam())
+        platform::graphics::Image::fromQImage(turnedLayer(0)), static_cast<float>(GetParam())
     );
     ASSERT_TRUE(picture.has_value());
 

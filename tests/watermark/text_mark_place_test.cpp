@@ -89,7 +89,7 @@ double before(Room room, int photo, int layer)
 /// The photo with the whole layer painted at the place that the row tells.
 QImage expectedPhoto(const TextWatermarkSettings& settings, const PlaceRow& row)
 {
-    const platform::Image photo = plainPhoto();
+    const platform::graphics::Image photo = plainPhoto();
     const QImage layer = wholeLayer(overlayOf(settings, photo));
     const int x = static_cast<int>(before(row.left, photo.width(), layer.width()) + row.x);
     const int y = static_cast<int>(before(row.below, photo.height(), layer.height()) + row.y);
@@ -127,7 +127,7 @@ TEST(TextMark, TruncatesTheHalfOfAnOddRoomTowardZero)
 {
     TextWatermarkSettings settings = whiteBlock();
     settings.placement.anchor = 4;
-    const platform::PixelSize layer = overlayOf(settings).size();
+    const platform::graphics::PixelSize layer = overlayOf(settings).size();
 
     for (const int room : {6, 7}) {
         const QImage image = markedPhoto(settings, plainPhoto(layer.width + room, layer.height));
@@ -141,7 +141,7 @@ TEST(TextMark, LargerThanThePhotoIsCutAtTheAnchoredSide)
     TextWatermarkSettings settings = whiteBlock();
     settings.text = block() + QStringLiteral("  ");
     settings.placement.anchor = 3;
-    const platform::PixelSize layer = overlayOf(settings).size();
+    const platform::graphics::PixelSize layer = overlayOf(settings).size();
 
     // Only the first third of the layer fits.
     const QImage left = markedPhoto(settings, plainPhoto(layer.width / 3, 40));

@@ -147,8 +147,8 @@ TEST(TextMark, OfAPlainColourCastsItsShadowInsideOfItsLayer)
     settings.text = block() + QLatin1Char(' ');
     settings.placement.anchor = 4;
     const int without = changedPixels(markedPhoto(settings));
-    settings.shadow
-        = platform::Shadow{.color = {.red = 1}, .xOffset = 4, .yOffset = 0, .blurRadius = 0};
+    settings.shadow = platform::drawing::Shadow{
+        .color = {.red = 1}, .xOffset = 4, .yOffset = 0, .blurRadius = 0};
 
     const QImage image = markedPhoto(settings);
 
@@ -161,14 +161,14 @@ TEST(TextMark, FilledWithTheBlackAndWhitePhotoShowsItsGrays)
 {
     QImage ground(161, 121, QImage::Format_RGB32);
     ground.fill(qRgb(200, 90, 40));
-    const platform::Image photo = platform::Image::fromQImage(ground);
+    const platform::graphics::Image photo = platform::graphics::Image::fromQImage(ground);
     TextWatermarkSettings settings = whiteBlock();
     settings.effect = TextEffect::NoirPhoto;
     settings.placement.anchor = 4;
 
     const QRgb middle = markedPhoto(settings, photo).pixel(80, 60);
 
-    EXPECT_EQ(middle, platform::photoEffectNoir(photo).toQImage().pixel(0, 0));
+    EXPECT_EQ(middle, platform::filters::photoEffectNoir(photo).toQImage().pixel(0, 0));
     EXPECT_EQ(qRed(middle), qBlue(middle));
 }
 
@@ -178,8 +178,8 @@ TEST(TextMark, FilledWithTheBlackAndWhitePhotoCastsNoShadow)
     settings.effect = TextEffect::NoirPhoto;
     settings.placement.anchor = 4;
     const QImage plain = markedPhoto(settings);
-    settings.shadow
-        = platform::Shadow{.color = {.red = 1}, .xOffset = 4, .yOffset = 0, .blurRadius = 0};
+    settings.shadow = platform::drawing::Shadow{
+        .color = {.red = 1}, .xOffset = 4, .yOffset = 0, .blurRadius = 0};
 
     EXPECT_EQ(markedPhoto(settings), plain);
 }
@@ -190,8 +190,8 @@ TEST(TextMark, EmbossedCastsTheShadowOfItsWholeLayerOnThePhoto)
     settings.effect = TextEffect::Relief1;
     settings.placement.anchor = 4;
     const QRect box = changedBox(markedPhoto(settings));
-    settings.shadow
-        = platform::Shadow{.color = {.red = 1}, .xOffset = 30, .yOffset = -20, .blurRadius = 0};
+    settings.shadow = platform::drawing::Shadow{
+        .color = {.red = 1}, .xOffset = 30, .yOffset = -20, .blurRadius = 0};
 
     const QImage image = markedPhoto(settings);
 
@@ -204,8 +204,8 @@ TEST(TextMark, CastsAShadowThatLiesFarFromItsLayer)
     TextWatermarkSettings settings = whiteBlock();
     settings.effect = TextEffect::Relief1;
     settings.placement = {.anchor = 4, .xOffset = -200, .yOffset = 0, .angle = 0};
-    settings.shadow
-        = platform::Shadow{.color = {.red = 1}, .xOffset = 200, .yOffset = 0, .blurRadius = 0};
+    settings.shadow = platform::drawing::Shadow{
+        .color = {.red = 1}, .xOffset = 200, .yOffset = 0, .blurRadius = 0};
 
     // The layer stands outside of the photo, its shadow in the middle.
     EXPECT_EQ(markedPhoto(settings).pixel(80, 60), qRgb(255, 0, 0));
@@ -220,7 +220,7 @@ TEST(TextMark, WithAShadowOutOfSightIsTheMarkAlone)
             settings.isTiled = isTiled;
             settings.placement.anchor = 4;
             const QImage plain = markedPhoto(settings);
-            settings.shadow = platform::Shadow{
+            settings.shadow = platform::drawing::Shadow{
                 .color = {.red = 1}, .xOffset = 1 << 24, .yOffset = -(1 << 24), .blurRadius = 3};
 
             EXPECT_EQ(markedPhoto(settings), plain) << static_cast<int>(effect) << ", " << isTiled;
@@ -230,14 +230,15 @@ TEST(TextMark, WithAShadowOutOfSightIsTheMarkAlone)
 
 TEST(TextMark, WithAShadowOfAnySoftnessHasNoLargerLayerThanThePhoto)
 {
-    const platform::Image photo = plainPhoto();
+    const platform::graphics::Image photo = plainPhoto();
     for (const double radius : {1.0, 90.0, 5000.0, 2e9}) {
         TextWatermarkSettings settings = whiteBlock();
         settings.effect = TextEffect::Relief1;
         settings.placement.anchor = 4;
-        settings.shadow = platform::Shadow{.color = {.red = 1}, .blurRadius = radius};
+        settings.shadow = platform::drawing::Shadow{.color = {.red = 1}, .blurRadius = radius};
 
-        const platform::Stamp stamp = textMark(settings, settings.text, blockFont(), photo);
+        const platform::drawing::Stamp stamp
+            = textMark(settings, settings.text, blockFont(), photo);
 
         EXPECT_LE(stamp.layer.width(), photo.width()) << radius;
         EXPECT_LE(stamp.layer.height(), photo.height()) << radius;
@@ -252,7 +253,7 @@ TEST(TextMark, FilledWithThePhotoShowsItsBottomLeftCorner)
         for (int x = 0; x < image.width(); ++x)
             image.setPixel(x, y, qRgb(x, y, 0));
     }
-    const platform::Image photo = platform::Image::fromQImage(image);
+    const platform::graphics::Image photo = platform::graphics::Image::fromQImage(image);
     TextWatermarkSettings settings = whiteBlock();
     settings.effect = TextEffect::Photo;
     settings.placement.anchor = 2;
@@ -323,12 +324,12 @@ INSTANTIATE_TEST_SUITE_P(
         AttributeCase{
             "Underline",
             [](TextWatermarkSettings& settings) {
-                settings.underline = platform::UnderlineStyle::Single;
+                settings.underline = platform::drawing::UnderlineStyle::Single;
             }},
         AttributeCase{
             "Alignment",
             [](TextWatermarkSettings& settings) {
-                settings.alignment = platform::TextAlignment::Right;
+                settings.alignment = platform::drawing::TextAlignment::Right;
             }},
         AttributeCase{"Stroke", [](TextWatermarkSettings& settings) { settings.strokeWidth = 3; }},
         AttributeCase{

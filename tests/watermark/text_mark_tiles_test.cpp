@@ -42,7 +42,7 @@ expectedPattern(const TextWatermarkSettings& settings, const QImage& layer, cons
 }
 
 /// The photo below a pattern of one tile more than fits in each direction, with the shadow of that.
-QImage expectedTiles(const TextWatermarkSettings& settings, const platform::Image& photo)
+QImage expectedTiles(const TextWatermarkSettings& settings, const platform::graphics::Image& photo)
 {
     const QImage layer = wholeLayer(overlayOf(settings, photo));
     const int left = -overhang(photo.width(), layer.width());
@@ -65,7 +65,7 @@ QImage expectedTiles(const TextWatermarkSettings& settings, const platform::Imag
         constexpr int margin = 60;
         painter.drawImage(
             topLeft - QPoint(margin, margin),
-            platform::shadowLayer(pattern, *settings.shadow, margin)
+            platform::drawing::shadowLayer(pattern, *settings.shadow, margin)
         );
     }
     painter.drawImage(topLeft, pattern);
@@ -89,8 +89,8 @@ struct TilesCase
     int angle = 0;
     double opacity = 1;
     TextEffect effect = TextEffect::Plain;
-    platform::PixelSize photo{.width = 161, .height = 121};
-    std::optional<platform::Shadow> shadow = {};
+    platform::graphics::PixelSize photo{.width = 161, .height = 121};
+    std::optional<platform::drawing::Shadow> shadow = {};
 
     friend void PrintTo(const TilesCase& row, std::ostream* out) { *out << row.name; }
 };
@@ -110,7 +110,7 @@ TEST_P(TextMarkTiles, CoverThePhotoPixelByPixel)
     settings.opacity = row.opacity;
     settings.effect = row.effect;
     settings.shadow = row.shadow;
-    const platform::Image photo = plainPhoto(row.photo.width, row.photo.height);
+    const platform::graphics::Image photo = plainPhoto(row.photo.width, row.photo.height);
 
     const QImage found = markedPhoto(settings, photo);
 
@@ -135,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(
             .xOffset = 9,
             .yOffset = 9,
             .effect = TextEffect::Relief2,
-            .shadow = platform::Shadow{.color = {.red = 1}, .xOffset = 4, .yOffset = -3}},
+            .shadow = platform::drawing::Shadow{.color = {.red = 1}, .xOffset = 4, .yOffset = -3}},
         TilesCase{
             .name = "EmbossedWithAShadowFromAfar",
             .xOffset = 9,
@@ -149,8 +149,8 @@ INSTANTIATE_TEST_SUITE_P(
             .yOffset = 9,
             .opacity = 0.5,
             .effect = TextEffect::Relief2,
-            .shadow
-            = platform::Shadow{.color = {.red = 1}, .xOffset = 1, .yOffset = 1, .blurRadius = 30}},
+            .shadow = platform::drawing::
+                Shadow{.color = {.red = 1}, .xOffset = 1, .yOffset = 1, .blurRadius = 30}},
         TilesCase{.name = "SmallPhoto", .xOffset = 4, .photo = {.width = 11, .height = 9}}
     ),
     [](const auto& row) { return row.param.name; }
@@ -167,7 +167,7 @@ TEST(TextMark, TilingIgnoresThePosition)
 
 TEST(TextMark, OffsetsThatEatTheTileUpLeaveNoMark)
 {
-    const platform::PixelSize layer = overlayOf(tiledBlock()).size();
+    const platform::graphics::PixelSize layer = overlayOf(tiledBlock()).size();
 
     EXPECT_EQ(changedPixels(markedPhoto(tiledBlock(-layer.width, 0))), 0);
     EXPECT_EQ(changedPixels(markedPhoto(tiledBlock(0, -layer.height - 5))), 0);
@@ -179,9 +179,9 @@ TEST(TextMark, TilesLargerThanThePhotoStandWhereSmallOnesWould)
     TextWatermarkSettings settings = tiledBlock(-100, 20);
     settings.text = block() + QLatin1Char(' ');
     settings.fontSize = 5000;
-    const platform::Image photo = plainPhoto();
+    const platform::graphics::Image photo = plainPhoto();
     const watermark::TextOverlay overlay = overlayOf(settings, photo);
-    const platform::PixelSize layer = overlay.size();
+    const platform::graphics::PixelSize layer = overlay.size();
 
     const QImage found = markedPhoto(settings, photo);
 
@@ -207,8 +207,8 @@ TEST(TextMark, TilesLargerThanThePhotoCastTheirShadow)
     settings.fontSize = 5000;
     settings.effect = TextEffect::Relief1;
     const QImage plain = markedPhoto(settings);
-    settings.shadow
-        = platform::Shadow{.color = {.red = 1}, .xOffset = 30, .yOffset = 0, .blurRadius = 0};
+    settings.shadow = platform::drawing::Shadow{
+        .color = {.red = 1}, .xOffset = 30, .yOffset = 0, .blurRadius = 0};
 
     const QImage found = markedPhoto(settings);
 

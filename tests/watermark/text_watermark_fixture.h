@@ -56,12 +56,13 @@ protected:
     QString chainPrefix;
     SavingSink sink;
     const QList<FinishedPhoto>& done = sink.done;
-    std::function<std::optional<platform::Image>(const QString&)> previewPhoto
-        = [](const QString& path) -> std::optional<platform::Image> {
-        const auto source = platform::ImageSource::open(path);
+    std::function<std::optional<platform::graphics::Image>(const QString&)> previewPhoto
+        = [](const QString& path) -> std::optional<platform::graphics::Image> {
+        const auto source = platform::codecs::ImageSource::open(path);
         if (!source)
             return std::nullopt;
-        return source->uprightImage({.access = platform::ImageSource::Access::Random, .atLeast = {}}
+        return source->uprightImage(
+            {.access = platform::codecs::ImageSource::Access::Random, .atLeast = {}}
         );
     };
     watermark::DVWatermark mark{

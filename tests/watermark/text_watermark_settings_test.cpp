@@ -67,18 +67,21 @@ TEST(TextWatermarkSettings, ReadEachControl)
     EXPECT_EQ(settings.leading, 17);
     EXPECT_TRUE(settings.isBold);
     EXPECT_TRUE(settings.isItalic);
-    EXPECT_EQ(settings.underline, platform::UnderlineStyle::Single);
-    EXPECT_EQ(settings.alignment, platform::TextAlignment::Center);
+    EXPECT_EQ(settings.underline, platform::drawing::UnderlineStyle::Single);
+    EXPECT_EQ(settings.alignment, platform::drawing::TextAlignment::Center);
     EXPECT_EQ(settings.strokeWidth, 5);
-    EXPECT_EQ(settings.fontColor, (platform::Color{.red = 0.1, .green = 0.2, .blue = 0.3}));
     EXPECT_EQ(
-        settings.embossColor, (platform::Color{.red = 0.4, .green = 0.5, .blue = 0.6, .alpha = 1})
+        settings.fontColor, (platform::graphics::Color{.red = 0.1, .green = 0.2, .blue = 0.3})
+    );
+    EXPECT_EQ(
+        settings.embossColor,
+        (platform::graphics::Color{.red = 0.4, .green = 0.5, .blue = 0.6, .alpha = 1})
     );
     EXPECT_EQ(settings.opacity, 0.8);
     ASSERT_TRUE(settings.shadow.has_value());
     EXPECT_EQ(
         settings.shadow->color,
-        (platform::Color{.red = 0.7, .green = 0.8, .blue = 0.9, .alpha = 0.8})
+        (platform::graphics::Color{.red = 0.7, .green = 0.8, .blue = 0.9, .alpha = 0.8})
     );
     EXPECT_EQ(settings.shadow->xOffset, 5);
     EXPECT_EQ(settings.shadow->yOffset, -6);
@@ -185,7 +188,7 @@ TEST(TextWatermarkSettings, UseTheOutlineOnlyWithItsTick)
 
 TEST(TextWatermarkSettings, MapUnderlines)
 {
-    using platform::UnderlineStyle;
+    using platform::drawing::UnderlineStyle;
     panels::WatermarkPanel panel;
     const auto underline = [&panel](int index) {
         panel.pubTxtUnderline.selectItemAtIndex(index);
@@ -200,7 +203,7 @@ TEST(TextWatermarkSettings, MapUnderlines)
 
 TEST(TextWatermarkSettings, MapAlignments)
 {
-    using platform::TextAlignment;
+    using platform::drawing::TextAlignment;
     panels::WatermarkPanel panel;
     const auto alignment = [&panel](int segment) {
         panel.scTxtAlign.setSelectedSegment(segment);

@@ -56,8 +56,8 @@ TEST(StrokeWidth, HasNoIndexThatGivesTwo)
 
 namespace {
 
-constexpr platform::PixelSize photo{.width = 101, .height = 61};
-constexpr platform::PixelSize layer{.width = 20, .height = 10};
+constexpr platform::graphics::PixelSize photo{.width = 101, .height = 61};
+constexpr platform::graphics::PixelSize layer{.width = 20, .height = 10};
 
 struct AnchorCase
 {
@@ -146,6 +146,6 @@ TEST(TileCell, PutsHalfOfTheOffsetsBeforeTheLayer)
 {
     const TileCell cell = tileCell({.width = 20, .height = 10}, 7, -3);
 
-    EXPECT_EQ(cell.size, (platform::PixelSize{.width = 27, .height = 7}));
+    EXPECT_EQ(cell.size, (platform::graphics::PixelSize{.width = 27, .height = 7}));
     EXPECT_EQ(cell.layerOrigin, QPoint(3, -1));
 }

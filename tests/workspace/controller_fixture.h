@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <workspace/gui_controls.h>
 #include <workspace/functions/selected_function.h>
+#include <workspace/gui_controls.h>
 
 #include <controls/user_input.h>
 #include <imaging/dv_image_handling.h>
@@ -32,7 +32,7 @@ public:
     QList<controls::OpenPanel> panels;
 };
 
-class RecordingDesktop : public platform::Desktop
+class RecordingDesktop : public platform::storage::Desktop
 {
 public:
     void openUrl(const QUrl& url) override { opened.append(url.toString()); }
@@ -176,7 +176,7 @@ protected:
     {
         return [&calls](const workspace::Subsystems&, const QString&) {
             ++calls;
-            return platform::Image::fromQImage(QImage(2, 2, QImage::Format_ARGB32));
+            return platform::graphics::Image::fromQImage(QImage(2, 2, QImage::Format_ARGB32));
         };
     }
 

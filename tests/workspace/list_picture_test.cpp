@@ -10,7 +10,7 @@
 #include <gtest/gtest.h>
 
 using namespace brenvaldo;
-using platform::Image;
+using platform::graphics::Image;
 using workspace::ListPicture;
 
 namespace {
@@ -18,8 +18,8 @@ namespace {
 struct Thumbnail
 {
     const char* name;
-    platform::PixelSize photo;
-    platform::PixelSize thumbnail;
+    platform::graphics::PixelSize photo;
+    platform::graphics::PixelSize thumbnail;
 };
 
 void PrintTo(const Thumbnail& thumbnail, std::ostream* out) { *out << thumbnail.name; }
@@ -32,7 +32,7 @@ class ListPictures : public testing::Test
 {
 protected:
     /// What is drawn in a square of 94 pixels for a photo of that size.
-    [[nodiscard]] std::optional<platform::PixelSize>
+    [[nodiscard]] std::optional<platform::graphics::PixelSize>
     drawnSize(ListPicture::Kind kind, int width, int height) const
     {
         const QString path
@@ -67,14 +67,22 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ListPictures, AreThumbnailsInABox)
 {
-    EXPECT_EQ(drawnSize(ListPicture::Kind::Thumbnail, 400, 200), (platform::PixelSize{94, 47}));
-    EXPECT_EQ(drawnSize(ListPicture::Kind::Thumbnail, 10, 5), (platform::PixelSize{94, 47}));
+    EXPECT_EQ(
+        drawnSize(ListPicture::Kind::Thumbnail, 400, 200), (platform::graphics::PixelSize{94, 47})
+    );
+    EXPECT_EQ(
+        drawnSize(ListPicture::Kind::Thumbnail, 10, 5), (platform::graphics::PixelSize{94, 47})
+    );
 }
 
 TEST_F(ListPictures, AreFullPicturesThatAreOnlyShrunk)
 {
-    EXPECT_EQ(drawnSize(ListPicture::Kind::FullPicture, 400, 200), (platform::PixelSize{94, 47}));
-    EXPECT_EQ(drawnSize(ListPicture::Kind::FullPicture, 10, 5), (platform::PixelSize{10, 5}));
+    EXPECT_EQ(
+        drawnSize(ListPicture::Kind::FullPicture, 400, 200), (platform::graphics::PixelSize{94, 47})
+    );
+    EXPECT_EQ(
+        drawnSize(ListPicture::Kind::FullPicture, 10, 5), (platform::graphics::PixelSize{10, 5})
+    );
 }
 
 TEST_F(ListPictures, AreNoPictureForTheSignOfAFileAndForAnUnreadablePhoto)
@@ -90,8 +98,8 @@ TEST(ResizedImage, HasExactlyTheAskedSizeAndFourSamplesOfEightBits)
     const auto resized = workspace::resizedImagetoPixelDimensions(grey, {7, 50});
 
     ASSERT_TRUE(resized);
-    EXPECT_EQ(resized->pixelSize(), (platform::PixelSize{7, 50}));
-    EXPECT_EQ(resized->colorModel(), platform::ColorModel::Rgb);
+    EXPECT_EQ(resized->pixelSize(), (platform::graphics::PixelSize{7, 50}));
+    EXPECT_EQ(resized->colorModel(), platform::graphics::ColorModel::Rgb);
     EXPECT_EQ(resized->bitsPerComponent(), 8);
     EXPECT_TRUE(resized->hasAlpha());
 }

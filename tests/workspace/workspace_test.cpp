@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controller_fixture.h"
 
-#include <workspace/start/app_delegate.h>
-#include <workspace/start/metadata_keys.h>
 #include <workspace/preview/preview_notifications.h>
 #include <workspace/run/run_offer.h>
+#include <workspace/start/app_delegate.h>
+#include <workspace/start/metadata_keys.h>
 #include <workspace/workspace.h>
 
 #include <support/environment.h>
@@ -136,7 +136,7 @@ TEST_F(WorkspaceTest, StartsInItsFirstState)
     resize.pubScaleType.selectItemAtIndex(1);
     resize.pubScaleType.setHidden(true);
     panels.window.myTemplatePreview.setImage(
-        platform::Image::fromQImage(QImage(3, 2, QImage::Format_RGB32))
+        platform::graphics::Image::fromQImage(QImage(3, 2, QImage::Format_RGB32))
     );
     ASSERT_EQ(resize.pubScaleType.selectedIndex(), 1);
 
@@ -376,7 +376,7 @@ TEST_F(WorkspaceTest, FollowsAHexFieldWithItsColourWell)
 
     EXPECT_EQ(
         program.panels().vwFraming.myNSColorWellObjFraming.color(),
-        (platform::Color{.red = 0, .green = 1, .blue = 0, .alpha = 1})
+        (platform::graphics::Color{.red = 0, .green = 1, .blue = 0, .alpha = 1})
     );
 }
 

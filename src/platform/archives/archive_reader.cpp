@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "archive_reader.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
 
 std::uint8_t ArchiveReader::byte() { return static_cast<std::uint8_t>(text(1).front()); }
 
@@ -14,13 +14,13 @@ std::string ArchiveReader::text(std::uint64_t length)
     return taken;
 }
 
-std::uint64_t ArchiveReader::number(std::uint64_t size, ByteOrder order)
+std::uint64_t ArchiveReader::number(std::uint64_t size, containers::ByteOrder order)
 {
     refuseUnless(size >= 1 && size <= 8);
-    const auto value = unsignedAt(m_data, 0, static_cast<int>(size), order);
+    const auto value = containers::unsignedAt(m_data, 0, static_cast<int>(size), order);
     refuseUnless(value.has_value());
     m_data = m_data.sliced(static_cast<qsizetype>(size));
     return *value;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
 
 /// Raised while foreign bytes are read and caught by the function that started the reading: the
 /// bytes are not what they should be.
@@ -35,10 +35,10 @@ public:
     [[nodiscard]] std::string text(std::uint64_t length);
 
     /// An unsigned number of 1 to 8 bytes.
-    [[nodiscard]] std::uint64_t number(std::uint64_t size, ByteOrder order);
+    [[nodiscard]] std::uint64_t number(std::uint64_t size, containers::ByteOrder order);
 
 private:
     QByteArrayView m_data;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <bit>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
+
+using containers::ByteOrder;
 
 namespace {
 
@@ -173,4 +175,4 @@ bool BinaryPropertyList::hasKey(Reference entry, const std::string& key) const
     });
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

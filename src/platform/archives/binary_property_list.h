@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
 
 /// Reads single entries of a small binary property list.
 ///
@@ -48,4 +48,4 @@ private:
     Reference m_top = 0;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

@@ -4,7 +4,7 @@
 #include <QFileInfo>
 #include <QStringDecoder>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
 
 namespace {
 
@@ -32,4 +32,4 @@ std::optional<QString> pathOfBookmark(const QByteArray& record)
     return path;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
 
 namespace {
 
@@ -76,4 +76,4 @@ std::optional<ColorComponents> colorFromArchive(const QString& text)
     }
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

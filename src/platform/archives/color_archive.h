@@ -11,7 +11,7 @@
 /// numbers. There are two serialisations, and both are written to the byte as the platform's own
 /// archivers write them, so that files of presets can be exchanged both ways.
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
 
 /// Red, green and blue, usually from 0 to 1.
 using ColorComponents = std::array<float, 3>;
@@ -28,4 +28,4 @@ using ColorComponents = std::array<float, 3>;
 /// of 0 to 1 come back as they are.
 [[nodiscard]] std::optional<ColorComponents> colorFromArchive(const QString& text);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

@@ -11,7 +11,7 @@
 #include <algorithm>
 #include <bit>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
 
 namespace {
 
@@ -219,4 +219,4 @@ ColorComponents componentsOfKeyedArchive(QByteArrayView archive)
 
 bool isKeyedArchive(QByteArrayView data) { return data.startsWith("bplist0"); }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

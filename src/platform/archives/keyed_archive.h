@@ -5,7 +5,7 @@
 
 #include <QByteArrayView>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
 
 /// Writes the keyed archive, a binary property list, that holds an array of three float numbers
 /// under the key "MY_ARRAY".
@@ -16,4 +16,4 @@ namespace brenvaldo::platform {
 
 [[nodiscard]] bool isKeyedArchive(QByteArrayView data);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

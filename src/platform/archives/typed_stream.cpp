@@ -11,7 +11,9 @@
 #include <variant>
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
+
+using containers::ByteOrder;
 
 namespace {
 
@@ -304,4 +306,4 @@ bool isTypedStream(QByteArrayView data)
         || data.startsWith(QByteArrayView(bigEndianSignature.data(), bigEndianSignature.size()));
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

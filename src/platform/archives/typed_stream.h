@@ -5,7 +5,7 @@
 
 #include <QByteArrayView>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::archives {
 
 /// True when two components are one object for the archivers: equal, and 0 or 1. Other numbers are
 /// objects of their own, even when they are equal.
@@ -20,4 +20,4 @@ namespace brenvaldo::platform {
 
 [[nodiscard]] bool isTypedStream(QByteArrayView data);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::archives

@@ -17,7 +17,7 @@
 #include <cstdlib>
 #include <limits>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 namespace {
 
@@ -61,7 +61,7 @@ void readProfilePlace(const QByteArray& head, qsizetype infoAt, BitmapFacts& fac
     facts.profileSize = size <= longestProfile ? size : 0;
 }
 
-BitmapFacts readFacts(const QByteArray& head, PixelSize size)
+BitmapFacts readFacts(const QByteArray& head, graphics::PixelSize size)
 {
     constexpr qsizetype fileHeaderSize = 14;
     constexpr quint32 oldHeaderSize = 12;
@@ -109,12 +109,12 @@ QByteArray embeddedProfile(QFile& file, const BitmapFacts& facts)
     return profile.size() == facts.profileSize ? profile : QByteArray();
 }
 
-bool holdsWholeRuns(const QString& path, const BitmapFacts& facts, PixelSize size)
+bool holdsWholeRuns(const QString& path, const BitmapFacts& facts, graphics::PixelSize size)
 {
     if (facts.runsBits == 0)
         return true;
-    const MappedFile file(path);
-    return holdsWholeRuns(tailOf(file.bytes(), facts.runsOffset), facts.runsBits, size);
+    const containers::MappedFile file(path);
+    return holdsWholeRuns(containers::tailOf(file.bytes(), facts.runsOffset), facts.runsBits, size);
 }
 
 /// A bitmap file; decoded whole.
@@ -140,35 +140,35 @@ public:
             throw vips::VError("the bitmap is truncated");
         m_header.uprightSize = m_header.storedSize;
         m_header.typeIdentifier = QStringLiteral("com.microsoft.bmp");
-        m_header.colorModel = facts.isGray ? ColorModel::Gray : ColorModel::Rgb;
+        m_header.colorModel = facts.isGray ? graphics::ColorModel::Gray : graphics::ColorModel::Rgb;
         m_header.hasAlpha = hasAlpha && !facts.isGray;
         m_header.dotsPerInch = facts.dotsPerInch;
-        m_iccProfile = usableProfile(embeddedProfile(file, facts), m_header.colorModel);
+        m_iccProfile = graphics::usableProfile(embeddedProfile(file, facts), m_header.colorModel);
     }
 
     [[nodiscard]] const ImageHeader& header() const override { return m_header; }
 
-    [[nodiscard]] ImageNode storedPixels(int /*shrink*/) const override
+    [[nodiscard]] graphics::ImageNode storedPixels(int /*shrink*/) const override
     {
-        ImageNode node;
+        graphics::ImageNode node;
         node.colorModel = m_header.colorModel;
         node.hasAlpha = m_header.hasAlpha;
         node.dotsPerInch = m_header.dotsPerInch;
         node.iccProfile = m_iccProfile;
-        const PixelLayout layout = {
+        const graphics::PixelLayout layout = {
             .width = m_header.storedSize.width,
             .height = m_header.storedSize.height,
-            .bands = colorBands(node.colorModel) + (node.hasAlpha ? 1 : 0),
+            .bands = graphics::colorBands(node.colorModel) + (node.hasAlpha ? 1 : 0),
             .format = VIPS_FORMAT_UCHAR,
-            .interpretation = interpretationOf(node.colorModel, VIPS_FORMAT_UCHAR),
+            .interpretation = graphics::interpretationOf(node.colorModel, VIPS_FORMAT_UCHAR),
         };
-        node.decodingBytes = sizeOf(layout);
-        node.pixels = deferredPixels(layout, [path = m_path, layout] {
+        node.decodingBytes = graphics::sizeOf(layout);
+        node.pixels = graphics::deferredPixels(layout, [path = m_path, layout] {
             QImageReader reader(path, "bmp");
             const QImage image = reader.read();
             if (image.isNull())
                 throw vips::VError("the bitmap is damaged");
-            return pixelsOf(image, layout);
+            return graphics::pixelsOf(image, layout);
         });
         return node;
     }
@@ -186,4 +186,4 @@ std::unique_ptr<PhotoDecoder> openBitmapPhoto(const QString& path)
     return std::make_unique<BitmapPhoto>(path);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

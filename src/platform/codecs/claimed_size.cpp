@@ -8,7 +8,9 @@
 
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using graphics::PixelSize;
 
 namespace {
 
@@ -18,8 +20,8 @@ qint64 pixelsOf(PixelSize size) { return qint64{size.width} * size.height; }
 qint64 bitsOfPngPixel(QByteArrayView file)
 {
     constexpr std::array<int, 7> samples = {1, 1, 3, 1, 2, 1, 4}; // by the type of the colours
-    const auto depth = unsignedAt(file, 24, 1, ByteOrder::Big).value_or(1);
-    const auto type = unsignedAt(file, 25, 1, ByteOrder::Big).value_or(0);
+    const auto depth = containers::unsignedAt(file, 24, 1, containers::ByteOrder::Big).value_or(1);
+    const auto type = containers::unsignedAt(file, 25, 1, containers::ByteOrder::Big).value_or(0);
     return static_cast<qint64>(depth) * samples[type < samples.size() ? type : 0];
 }
 
@@ -113,7 +115,7 @@ bool holdsNumbers(AnymapWords& words, qint64 count, bool isBits)
 
 void checkClaimedSize(const QString& path, const QString& typeIdentifier, PixelSize size)
 {
-    const MappedFile mapped(path);
+    const containers::MappedFile mapped(path);
     const QByteArrayView file = mapped.bytes();
     bool holds = true;
     if (typeIdentifier == QLatin1String("public.png"))
@@ -186,4 +188,4 @@ bool holdsWholeRuns(QByteArrayView runs, int bits, PixelSize size)
     return y >= size.height || (y == size.height - 1 && x >= size.width);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

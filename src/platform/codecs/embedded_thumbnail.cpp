@@ -10,7 +10,7 @@
 
 #include <QTransform>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 namespace {
 
@@ -33,8 +33,8 @@ bool isFrameHeader(uchar marker)
 /// The size in a frame header, behind the bits of a sample.
 QSize frameSize(QByteArrayView frame)
 {
-    const auto height = unsignedAt(frame, 1, 2, ByteOrder::Big);
-    const auto width = unsignedAt(frame, 3, 2, ByteOrder::Big);
+    const auto height = containers::unsignedAt(frame, 1, 2, containers::ByteOrder::Big);
+    const auto width = containers::unsignedAt(frame, 3, 2, containers::ByteOrder::Big);
     if (!height || !width)
         return {};
     return {static_cast<int>(*width), static_cast<int>(*height)};
@@ -43,15 +43,15 @@ QSize frameSize(QByteArrayView frame)
 JpegHead readJpegHead(QByteArrayView file)
 {
     JpegHead head;
-    const auto header = readJpegHeader(file);
+    const auto header = containers::readJpegHeader(file);
     if (!header)
         return head;
-    for (const JpegSegment& segment : header->segments) {
+    for (const containers::JpegSegment& segment : header->segments) {
         if (isFrameHeader(segment.marker)) {
             head.size = frameSize(segment.payload);
             break;
         }
-        head.exif.append(exifPartOf(segment, head.exif).value_or(QByteArrayView()));
+        head.exif.append(containers::exifPartOf(segment, head.exif).value_or(QByteArrayView()));
     }
     return head;
 }
@@ -97,9 +97,9 @@ QTransform uprightTransform(int orientation)
 
 QImage jpegThumbnail(const QString& path)
 {
-    const MappedFile file(path);
+    const containers::MappedFile file(path);
     const JpegHead head = readJpegHead(file.bytes());
-    const ExifFacts facts = readExifFacts(head.exif);
+    const containers::ExifFacts facts = containers::readExifFacts(head.exif);
     if (facts.thumbnail.isEmpty())
         return {};
     const QImage stored = QImage::fromData(facts.thumbnail, "jpeg");
@@ -112,7 +112,7 @@ QImage jpegThumbnail(const QString& path)
 
 QImage embeddedThumbnail(const QString& path)
 {
-    const QString type = typeIdentifierOfContents(path);
+    const QString type = containers::typeIdentifierOfContents(path);
     if (type == QLatin1String("public.jpeg"))
         return jpegThumbnail(path);
     if (!isHeifType(type))
@@ -124,4 +124,4 @@ QImage embeddedThumbnail(const QString& path)
     }
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

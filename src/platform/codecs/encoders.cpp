@@ -8,7 +8,9 @@
 #include <platform/graphics/color_profile.h>
 #include <platform/graphics/sample_conversion.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using graphics::ImageNode;
 
 namespace {
 
@@ -43,13 +45,13 @@ ImageNode fittedTo(const ImageNode& node, const FormatLimits& limits)
 {
     ImageNode fitted = node;
     if (limits.alpha == AlphaSupport::Flattens)
-        fitted = flattenedOnWhite(fitted);
-    const bool isInk = fitted.colorModel == ColorModel::Cmyk;
+        fitted = graphics::flattenedOnWhite(fitted);
+    const bool isInk = fitted.colorModel == graphics::ColorModel::Cmyk;
     if (limits.colors == ColorSupport::Srgb
         || (limits.colors == ColorSupport::SrgbInsteadOfCmyk && isInk))
-        fitted = convertedToSrgb(fitted);
+        fitted = graphics::convertedToSrgb(fitted);
     if (limits.depth == DepthSupport::EightBits)
-        fitted = withBytes(fitted);
+        fitted = graphics::withBytes(fitted);
     return fitted;
 }
 
@@ -91,4 +93,4 @@ void encodeGif(const ImageNode& node, OutputFile& file)
     fitted.pixels.gifsave_target(way.target(), vips::VImage::option()->set("effort", effort));
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

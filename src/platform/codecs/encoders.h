@@ -6,21 +6,23 @@
 #include <platform/foundation/output_file.h>
 #include <platform/graphics/image_node.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 // One encoder a format, each writing into `file`. They throw `vips::VError` when the pixels can't
 // be computed or the format can't hold them. Whether every byte was taken is known to the file
 // alone: some of the libraries behind them forget it.
 
-void encodeJpeg(const ImageNode& node, std::optional<double> quality, OutputFile& file);
-void encodePng(const ImageNode& node, OutputFile& file);
-void encodeTiff(const ImageNode& node, OutputFile& file);
-void encodeGif(const ImageNode& node, OutputFile& file);
-void encodeJpeg2000(const ImageNode& node, OutputFile& file);
-void encodeBmp(const ImageNode& node, OutputFile& file);
-void encodePdf(const ImageNode& node, OutputFile& file);
+void encodeJpeg(const graphics::ImageNode& node, std::optional<double> quality, OutputFile& file);
+void encodePng(const graphics::ImageNode& node, OutputFile& file);
+void encodeTiff(const graphics::ImageNode& node, OutputFile& file);
+void encodeGif(const graphics::ImageNode& node, OutputFile& file);
+void encodeJpeg2000(const graphics::ImageNode& node, OutputFile& file);
+void encodeBmp(const graphics::ImageNode& node, OutputFile& file);
+void encodePdf(const graphics::ImageNode& node, OutputFile& file);
 /// `blocks` may be null.
-void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, OutputFile& file);
+void encodeHeic(
+    const graphics::ImageNode& node, const containers::MetadataBlocks* blocks, OutputFile& file
+);
 
 /// What a format can hold.
 enum class AlphaSupport { Keeps, Flattens };
@@ -35,6 +37,7 @@ struct FormatLimits
 };
 
 /// The picture brought into what a format can hold; transparent parts are laid on white.
-[[nodiscard]] ImageNode fittedTo(const ImageNode& node, const FormatLimits& limits);
+[[nodiscard]] graphics::ImageNode
+fittedTo(const graphics::ImageNode& node, const FormatLimits& limits);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

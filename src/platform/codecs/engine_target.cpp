@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 EngineTarget::EngineTarget(OutputFile& file)
     : EngineTarget(file, {})
@@ -67,4 +67,4 @@ gint64 EngineTarget::seek(qint64 offset, int whence)
     return m_file.seek(offset) ? m_file.pos() : -1;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

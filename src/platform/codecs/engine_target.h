@@ -7,7 +7,7 @@
 
 #include <vips/vips8>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 /// The way of the engine's encoders into an output file. Bytes that an encoder knows nothing of can
 /// be put in between; such an encoder must not seek.
@@ -42,4 +42,4 @@ private:
     qint64 m_received = 0;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 /// What the header of a file says beside the size of the picture.
 struct HeaderFacts
@@ -14,4 +14,4 @@ struct HeaderFacts
     std::optional<double> dotsPerInch = {};
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -13,7 +13,10 @@
 #include <algorithm>
 #include <cstring>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using graphics::ColorModel;
+using graphics::ImageNode;
 
 namespace {
 
@@ -21,17 +24,22 @@ constexpr int fixedQuality = 60; // about what cameras write
 
 vips::VImage grayAsRgb(const vips::VImage& gray, bool hasAlpha)
 {
-    const KernelOutput output = {hasAlpha ? 4 : 3, VIPS_FORMAT_UCHAR, VIPS_INTERPRETATION_sRGB};
-    return mapRows(std::array{gray}, output, [hasAlpha](const KernelRow<1>& row) {
-        const auto* in = row.input<quint8>(0);
-        auto* out = row.out<quint8>();
-        for (int i = 0; i < row.count; ++i) {
-            std::fill_n(out, 3, *in++);
-            out += 3;
-            if (hasAlpha)
-                *out++ = *in++;
+    const graphics::KernelOutput output
+        = {hasAlpha ? 4 : 3, VIPS_FORMAT_UCHAR, VIPS_INTERPRETATION_sRGB};
+    return graphics::mapRows(
+        std::array{gray},
+        output,
+        [hasAlpha](const graphics::KernelRow<1>& row) {
+            const auto* in = row.input<quint8>(0);
+            auto* out = row.out<quint8>();
+            for (int i = 0; i < row.count; ++i) {
+                std::fill_n(out, 3, *in++);
+                out += 3;
+                if (hasAlpha)
+                    *out++ = *in++;
+            }
         }
-    });
+    );
 }
 
 /// 8-bit RGB with or without alpha, in the photo's own profile where that is one of RGB.
@@ -66,7 +74,7 @@ HeifImage planeOf(const ImageNode& node)
     uint8_t* plane = heif_image_get_plane(made, heif_channel_interleaved, &stride);
     const auto rowBytes
         = static_cast<std::size_t>(width) * static_cast<std::size_t>(node.pixels.bands());
-    forEachRow(node.pixels, [plane, stride, rowBytes](const uchar* row, int y) {
+    graphics::forEachRow(node.pixels, [plane, stride, rowBytes](const uchar* row, int y) {
         std::memcpy(plane + static_cast<std::ptrdiff_t>(y) * stride, row, rowBytes);
     });
     if (!node.iccProfile.isEmpty())
@@ -122,7 +130,7 @@ heif_error writeToFile(heif_context* /*context*/, const void* bytes, std::size_t
 
 } // namespace
 
-void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, OutputFile& file)
+void encodeHeic(const ImageNode& node, const containers::MetadataBlocks* blocks, OutputFile& file)
 {
     const ImageNode fitted = fittedToHeic(node);
     constexpr int bytesPerPixel
@@ -141,11 +149,11 @@ void encodeHeic(const ImageNode& node, const MetadataBlocks* blocks, OutputFile&
     const HeifHandle handle(encoded);
     const QByteArray exif = blocks != nullptr && !blocks->exif.isEmpty()
         ? blocks->exif
-        : exifOfResolution(fitted.dotsPerInch);
+        : containers::exifOfResolution(fitted.dotsPerInch);
     addMetadata(context.get(), encoded, exif, blocks != nullptr ? blocks->xmp : QByteArray());
 
     heif_writer writer = {1, writeToFile};
     checkHeif(heif_context_write(context.get(), &writer, &file));
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 template <auto Release>
 struct HeifReleaser
@@ -34,4 +34,4 @@ inline void checkHeif(const heif_error& error)
         throw vips::VError(error.message);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -16,7 +16,12 @@
 #include <algorithm>
 #include <cstring>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using containers::isoBox;
+using containers::isoBoxes;
+using graphics::ImageNode;
+using graphics::PixelSize;
 
 namespace {
 
@@ -49,7 +54,8 @@ QByteArray colorProfile(const heif_image_handle* handle)
         static_cast<qsizetype>(heif_image_handle_get_raw_color_profile_size(handle)), '\0'
     );
     const heif_error error = heif_image_handle_get_raw_color_profile(handle, profile.data());
-    return error.code == heif_error_Ok ? usableProfile(profile, ColorModel::Rgb) : QByteArray();
+    return error.code == heif_error_Ok ? graphics::usableProfile(profile, graphics::ColorModel::Rgb)
+                                       : QByteArray();
 }
 
 /// The TIFF structure of the EXIF item; empty without one.
@@ -62,7 +68,7 @@ QByteArray exifBlock(const heif_image_handle* handle)
     if (item.isEmpty()
         || heif_image_handle_get_metadata(handle, id, item.data()).code != heif_error_Ok)
         return {};
-    return exifBehindOffset(item);
+    return containers::exifBehindOffset(item);
 }
 
 heif_chroma chromaOf(bool isDeep, bool hasAlpha)
@@ -93,13 +99,16 @@ PixelSize sizeOf(const heif_image* decoded)
 bool holdsQuarterTurn(const QString& path)
 {
     constexpr qsizetype versionAndFlags = 4;
-    const MappedFile file(path);
-    const QByteArrayView meta = tailOf(isoBox(isoBoxes(file.bytes()), "meta"), versionAndFlags);
+    const containers::MappedFile file(path);
+    const QByteArrayView meta
+        = containers::tailOf(isoBox(isoBoxes(file.bytes()), "meta"), versionAndFlags);
     const QByteArrayView properties = isoBox(isoBoxes(isoBox(isoBoxes(meta), "iprp")), "ipco");
-    const QList<IsoBox> boxes = isoBoxes(properties);
-    return std::any_of(boxes.begin(), boxes.end(), [](const IsoBox& box) {
+    const QList<containers::IsoBox> boxes = isoBoxes(properties);
+    return std::any_of(boxes.begin(), boxes.end(), [](const containers::IsoBox& box) {
         return box.type == QByteArrayView("irot")
-            && (unsignedAt(box.payload, 0, 1, ByteOrder::Big).value_or(0) & 1U) != 0;
+            && (containers::unsignedAt(box.payload, 0, 1, containers::ByteOrder::Big).value_or(0)
+                & 1U)
+            != 0;
     });
 }
 
@@ -127,14 +136,14 @@ void spread(quint16* samples, std::size_t count, int bits)
     }
 }
 
-vips::VImage pixelsOf(const heif_image* decoded, const PixelLayout& layout)
+vips::VImage pixelsOf(const heif_image* decoded, const graphics::PixelLayout& layout)
 {
     int stride = 0;
     const uint8_t* plane
         = heif_image_get_plane_readonly(decoded, heif_channel_interleaved, &stride);
     if (plane == nullptr || sizeOf(decoded) != PixelSize{layout.width, layout.height})
         throw vips::VError("the decoded picture has another size than its header says");
-    const vips::VImage pixels = newMemoryPixels(layout);
+    const vips::VImage pixels = graphics::newMemoryPixels(layout);
     const auto samples
         = static_cast<std::size_t>(layout.width) * static_cast<std::size_t>(layout.bands);
     const bool isDeep = layout.format == VIPS_FORMAT_USHORT;
@@ -169,7 +178,7 @@ public:
         m_header.hasAlpha = heif_image_handle_has_alpha_channel(handle) != 0;
         constexpr double defaultDotsPerInch = 72;
         m_header.dotsPerInch
-            = readExifFacts(exifBlock(handle)).dotsPerInch.value_or(defaultDotsPerInch);
+            = containers::readExifFacts(exifBlock(handle)).dotsPerInch.value_or(defaultDotsPerInch);
         m_iccProfile = colorProfile(handle);
     }
 
@@ -190,12 +199,12 @@ private:
     {
         const bool isDeep = m_header.bitsPerComponent == 16;
         const VipsBandFormat format = isDeep ? VIPS_FORMAT_USHORT : VIPS_FORMAT_UCHAR;
-        const PixelLayout layout = {
+        const graphics::PixelLayout layout = {
             .width = size.width,
             .height = size.height,
             .bands = m_header.hasAlpha ? 4 : 3,
             .format = format,
-            .interpretation = interpretationOf(ColorModel::Rgb, format),
+            .interpretation = graphics::interpretationOf(graphics::ColorModel::Rgb, format),
         };
         const heif_chroma chroma = chromaOf(isDeep, m_header.hasAlpha);
         ImageNode node;
@@ -203,7 +212,7 @@ private:
         node.iccProfile = m_iccProfile;
         node.dotsPerInch = m_header.dotsPerInch;
         node.decodingBytes = sizeOf(layout);
-        node.pixels = deferredPixels(layout, [path = m_path, layout, chroma, geometry] {
+        node.pixels = graphics::deferredPixels(layout, [path = m_path, layout, chroma, geometry] {
             const OpenedHeif file = openHeif(path);
             const HeifImage decoded = decodedImage(file.primary.get(), chroma, geometry);
             return pixelsOf(decoded.get(), layout);
@@ -263,4 +272,4 @@ QImage heifThumbnail(const QString& path)
     return screenImage(decoded.get());
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -9,12 +9,17 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using graphics::Image;
 
 namespace {
 
 void encodeAs(
-    const ImageNode& node, FileFormat format, const EncodeOptions& options, OutputFile& file
+    const graphics::ImageNode& node,
+    FileFormat format,
+    const EncodeOptions& options,
+    OutputFile& file
 )
 {
     switch (format) {
@@ -43,7 +48,7 @@ bool encodeInto(
 {
     vips_error_clear();
     try {
-        evaluate(image.node()->pixels, [&](const vips::VImage& watched) {
+        graphics::evaluate(image.node()->pixels, [&](const vips::VImage& watched) {
             if (file.isWhole())
                 encodeAs(image.node()->withPixels(watched), format, options, file);
         });
@@ -52,7 +57,7 @@ bool encodeInto(
             throw vips::VError(file.fault().toStdString());
         return true;
     } catch (const std::exception& error) {
-        const QString reason = file.isWhole() ? faultText(error) : file.fault();
+        const QString reason = file.isWhole() ? graphics::faultText(error) : file.fault();
         log(QStringLiteral("Failed to encode a picture: ") + reason);
         return false;
     }
@@ -79,4 +84,4 @@ bool canEncode(const Image& image, FileFormat format, const EncodeOptions& optio
     return isTaken;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

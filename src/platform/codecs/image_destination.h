@@ -8,7 +8,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 enum class FileFormat { Png, Tiff, Bmp, Gif, Jpeg, Jpeg2000, Heic, Pdf };
 
@@ -18,7 +18,7 @@ struct EncodeOptions
     std::optional<double> lossyQuality = {};
 
     /// Blocks that must stand in the file from the start (HEIC alone); may be null.
-    const MetadataBlocks* blocks = nullptr;
+    const containers::MetadataBlocks* blocks = nullptr;
 };
 
 /// Encodes `image` with its ICC profile and resolution, and no metadata, into the file at `path`.
@@ -31,10 +31,15 @@ struct EncodeOptions
 /// (damaged source, full disk, a picture that the format can't hold); what stands at `path` is then
 /// of no use. Colours that a format can't hold (CMYK in PNG, say) are converted to sRGB, alpha that
 /// it can't hold is flattened on white.
-[[nodiscard]] bool
-encode(const Image& image, FileFormat format, const EncodeOptions& options, const QString& path);
+[[nodiscard]] bool encode(
+    const graphics::Image& image,
+    FileFormat format,
+    const EncodeOptions& options,
+    const QString& path
+);
 
 /// True when the encoder takes the picture where no disk can refuse its bytes.
-[[nodiscard]] bool canEncode(const Image& image, FileFormat format, const EncodeOptions& options);
+[[nodiscard]] bool
+canEncode(const graphics::Image& image, FileFormat format, const EncodeOptions& options);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -12,7 +12,9 @@
 #include <functional>
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using graphics::Image;
 
 struct ImageSource::State
 {
@@ -24,12 +26,12 @@ namespace {
 
 void logFault(const QString& path, const std::exception& error)
 {
-    log(QStringLiteral("Failed to read image %1: %2").arg(path, faultText(error)));
+    log(QStringLiteral("Failed to read image %1: %2").arg(path, graphics::faultText(error)));
 }
 
 std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)
 {
-    const QString type = typeIdentifierOfContents(path);
+    const QString type = containers::typeIdentifierOfContents(path);
     if (type == QLatin1String("public.tiff") && holdsOldJpeg(path)) {
         log(QStringLiteral("Failed to read image %1: JPEG of the old style").arg(path));
         return nullptr;
@@ -49,7 +51,9 @@ std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)
 
 /// The largest factor that leaves a picture of `full` size at least as large as `atLeast`.
 int largestShrink(
-    const PhotoDecoder& decoder, PixelSize full, const std::optional<PixelSize>& atLeast
+    const PhotoDecoder& decoder,
+    graphics::PixelSize full,
+    const std::optional<graphics::PixelSize>& atLeast
 )
 {
     if (!atLeast)
@@ -64,14 +68,17 @@ int largestShrink(
     return best;
 }
 
-std::optional<Image>
-decoded(const QString& path, ImageSource::Access access, const std::function<ImageNode()>& pixels)
+std::optional<Image> decoded(
+    const QString& path,
+    ImageSource::Access access,
+    const std::function<graphics::ImageNode()>& pixels
+)
 {
     try {
-        const ImageNode node = pixels();
+        const graphics::ImageNode node = pixels();
         if (access == ImageSource::Access::OnePass)
-            return makeImage(node);
-        return makeImage(node.withPixels(randomAccess(node.pixels)));
+            return graphics::makeImage(node);
+        return graphics::makeImage(node.withPixels(graphics::randomAccess(node.pixels)));
     } catch (const std::exception& error) {
         logFault(path, error);
         return std::nullopt;
@@ -117,4 +124,4 @@ std::optional<Image> ImageSource::uprightImage(const Request& request) const
     return decoded(path(), request.access, [&] { return decoder.uprightPixels(shrink); });
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

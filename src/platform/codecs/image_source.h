@@ -8,17 +8,17 @@
 #include <memory>
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 /// Facts about image 0 of a file, read from its header alone.
 struct ImageHeader
 {
-    PixelSize storedSize; ///< pixels as stored; for HEIC before the file's own rotation
-    PixelSize uprightSize; ///< as the photo shows, with the orientation applied
+    graphics::PixelSize storedSize; ///< pixels as stored; for HEIC before the file's own rotation
+    graphics::PixelSize uprightSize; ///< as the photo shows, with the orientation applied
     int orientation = 1; ///< 1 to 8; invalid values of a file read as 1
     QString typeIdentifier; ///< by contents
     int bitsPerComponent = 8;
-    ColorModel colorModel = ColorModel::Rgb;
+    graphics::ColorModel colorModel = graphics::ColorModel::Rgb;
     bool hasAlpha = false;
     double dotsPerInch = 72;
 };
@@ -33,7 +33,7 @@ struct SourceRequest
     SourceAccess access = SourceAccess::OnePass;
     /// The decoder may halve the picture as long as it stays at least this large; not set: full
     /// size.
-    std::optional<PixelSize> atLeast = {};
+    std::optional<graphics::PixelSize> atLeast = {};
 };
 
 /// Opens the photos of a file without decoding them.
@@ -55,10 +55,10 @@ public:
     using Request = SourceRequest;
 
     /// The stored pixels; the orientation is not applied.
-    [[nodiscard]] std::optional<Image> image(const Request& request = {}) const;
+    [[nodiscard]] std::optional<graphics::Image> image(const Request& request = {}) const;
 
     /// The upright pixels; the orientation is applied.
-    [[nodiscard]] std::optional<Image> uprightImage(const Request& request = {}) const;
+    [[nodiscard]] std::optional<graphics::Image> uprightImage(const Request& request = {}) const;
 
 private:
     struct State;
@@ -70,4 +70,4 @@ private:
 /// The small upright preview that a camera has put into the file, at once; null when there is none.
 [[nodiscard]] QImage embeddedThumbnail(const QString& path);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -7,7 +7,13 @@
 #include <algorithm>
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using containers::ByteOrder;
+using containers::IsoBox;
+using containers::isoBox;
+using containers::isoBoxes;
+using containers::unsignedAt;
 
 namespace {
 
@@ -18,7 +24,7 @@ constexpr double metresPerInch = 0.0254;
 QByteArray bigEndian(std::uint64_t value, int width)
 {
     QByteArray bytes;
-    appendUnsigned(bytes, value, width, ByteOrder::Big);
+    containers::appendUnsigned(bytes, value, width, ByteOrder::Big);
     return bytes;
 }
 
@@ -129,4 +135,4 @@ bool holdsWholeCodeStream(QByteArrayView file)
     return !isOpen || endsWithEndMarker(file);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 /// The file with these labels in its header box; unchanged where the file has no such box.
 [[nodiscard]] QByteArray withHeaderFacts(const QByteArray& file, const HeaderFacts& facts);
@@ -17,4 +17,4 @@ namespace brenvaldo::platform {
 /// True when the code stream of the file reaches its end; false for a file that was cut off.
 [[nodiscard]] bool holdsWholeCodeStream(QByteArrayView file);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

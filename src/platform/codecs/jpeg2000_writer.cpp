@@ -2,12 +2,12 @@
 #include "encoders.h"
 #include "jpeg2000_boxes.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
-void encodeJpeg2000(const ImageNode& node, OutputFile& file)
+void encodeJpeg2000(const graphics::ImageNode& node, OutputFile& file)
 {
     constexpr int signalToNoise = 48; // decibels; no visible loss
-    const ImageNode fitted = fittedTo(node, {.colors = ColorSupport::SrgbInsteadOfCmyk});
+    const graphics::ImageNode fitted = fittedTo(node, {.colors = ColorSupport::SrgbInsteadOfCmyk});
     VipsBlob* blob
         = fitted.pixels.jp2ksave_buffer(vips::VImage::option()
                                             ->set("Q", signalToNoise)
@@ -22,4 +22,4 @@ void encodeJpeg2000(const ImageNode& node, OutputFile& file)
     );
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 namespace {
 
@@ -139,4 +139,4 @@ void JpegReader::skip(j_decompress_ptr decoder, long count)
     decoder->src->bytes_in_buffer -= left;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

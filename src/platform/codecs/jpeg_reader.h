@@ -9,7 +9,7 @@
 
 #include <jpeglib.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 /// A JPEG file on its way through the decoder; answers false at the first fault.
 ///
@@ -62,4 +62,4 @@ private:
     bool m_isOpen = false;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

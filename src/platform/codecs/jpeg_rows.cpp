@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 namespace {
 
@@ -108,4 +108,4 @@ void checkJpegSize(const QString& path)
         throw vips::VError("the file is too short for the size it claims");
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 /// The pixels of the JPEG at `path`, shrunk by 1, 2, 4 or 8 and decoded from top to bottom while
 /// they are used.
@@ -19,4 +19,4 @@ namespace brenvaldo::platform {
 /// coded bytes could hold.
 void checkJpegSize(const QString& path);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

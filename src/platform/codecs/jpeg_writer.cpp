@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 namespace {
 
@@ -54,9 +54,9 @@ QByteArray profileSegments(const QByteArray& profile)
 
 } // namespace
 
-void encodeJpeg(const ImageNode& node, std::optional<double> quality, OutputFile& file)
+void encodeJpeg(const graphics::ImageNode& node, std::optional<double> quality, OutputFile& file)
 {
-    const ImageNode fitted
+    const graphics::ImageNode fitted
         = fittedTo(node, {.alpha = AlphaSupport::Flattens, .depth = DepthSupport::EightBits});
     const double asked = quality.value_or(defaultQuality);
     constexpr qint64 startLength = 2;
@@ -79,4 +79,4 @@ void encodeJpeg(const ImageNode& node, std::optional<double> quality, OutputFile
     );
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

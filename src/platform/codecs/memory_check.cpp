@@ -3,7 +3,7 @@
 
 #include <sys/mman.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 namespace {
 
@@ -19,7 +19,7 @@ bool isAvailable(std::size_t bytes)
 
 } // namespace
 
-void checkMemoryForWholePicture(const ImageNode& node, int bytesPerPixel)
+void checkMemoryForWholePicture(const graphics::ImageNode& node, int bytesPerPixel)
 {
     const auto width = static_cast<std::size_t>(node.pixels.width());
     const auto height = static_cast<std::size_t>(node.pixels.height());
@@ -31,4 +31,4 @@ void checkMemoryForWholePicture(const ImageNode& node, int bytesPerPixel)
         );
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -3,11 +3,14 @@
 
 #include <platform/graphics/deferred_pixels.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
-ImageNode PhotoDecoder::uprightPixels(int shrink) const
+using graphics::PixelSize;
+using graphics::randomAccess;
+
+graphics::ImageNode PhotoDecoder::uprightPixels(int shrink) const
 {
-    const ImageNode stored = storedPixels(shrink);
+    const graphics::ImageNode stored = storedPixels(shrink);
     return stored.withPixels(turnedUpright(stored.pixels, header().orientation));
 }
 
@@ -45,4 +48,4 @@ PixelSize uprightSize(PixelSize stored, int orientation)
     return orientation >= 5 ? PixelSize{stored.height, stored.width} : stored;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 /// One way to read photos; knows the header of its file.
 class PhotoDecoder
@@ -27,10 +27,10 @@ public:
     [[nodiscard]] virtual std::vector<int> shrinkFactors() const { return {1}; }
 
     /// The stored pixels, shrunk by one of `shrinkFactors`. Throws `vips::VError`.
-    [[nodiscard]] virtual ImageNode storedPixels(int shrink) const = 0;
+    [[nodiscard]] virtual graphics::ImageNode storedPixels(int shrink) const = 0;
 
     /// The upright pixels. Throws `vips::VError`.
-    [[nodiscard]] virtual ImageNode uprightPixels(int shrink) const;
+    [[nodiscard]] virtual graphics::ImageNode uprightPixels(int shrink) const;
 };
 
 /// Opens a file whose contents are of the type `typeIdentifier`; throws `vips::VError` when its
@@ -59,7 +59,7 @@ openHeifPhoto(const QString& path, const QString& typeIdentifier);
 openPsdPhoto(const QString& path, const QString& typeIdentifier);
 
 /// Throws when a picture of `size` is empty, or too large to be decoded whole.
-void checkDecodedWhole(PixelSize size);
+void checkDecodedWhole(graphics::PixelSize size);
 
 /// True when photos of this type are read by `openStreamedPhoto`.
 [[nodiscard]] bool isStreamedType(const QString& typeIdentifier);
@@ -68,6 +68,6 @@ void checkDecodedWhole(PixelSize size);
 [[nodiscard]] vips::VImage turnedUpright(const vips::VImage& stored, int orientation);
 
 /// Width and height of a picture of `stored` size once it stands upright.
-[[nodiscard]] PixelSize uprightSize(PixelSize stored, int orientation);
+[[nodiscard]] graphics::PixelSize uprightSize(graphics::PixelSize stored, int orientation);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

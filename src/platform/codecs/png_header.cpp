@@ -6,7 +6,9 @@
 #include <platform/containers/png_chunks.h>
 #include <platform/graphics/image_node.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using containers::PngChunk;
 
 namespace {
 
@@ -14,11 +16,13 @@ namespace {
 std::optional<double> resolutionOf(const PngChunk& chunk)
 {
     constexpr std::uint64_t metre = 1;
-    const auto pixelsPerUnit = unsignedAt(chunk.data, 0, 4, ByteOrder::Big).value_or(0);
-    const bool isMetric = unsignedAt(chunk.data, 8, 1, ByteOrder::Big) == metre;
+    const auto pixelsPerUnit
+        = containers::unsignedAt(chunk.data, 0, 4, containers::ByteOrder::Big).value_or(0);
+    const bool isMetric
+        = containers::unsignedAt(chunk.data, 8, 1, containers::ByteOrder::Big) == metre;
     if (chunk.type != QByteArrayView("pHYs") || !isMetric || pixelsPerUnit == 0)
         return std::nullopt;
-    return dotsPerInchOf(static_cast<double>(pixelsPerUnit));
+    return graphics::dotsPerInchOf(static_cast<double>(pixelsPerUnit));
 }
 
 } // namespace
@@ -27,20 +31,22 @@ QByteArray pngProfileChunk(const QByteArray& profile)
 {
     if (profile.isEmpty())
         return {};
-    return pngChunk("iCCP", QByteArray("ICC Profile\0\0", 13) + deflated(profile));
+    return containers::pngChunk(
+        "iCCP", QByteArray("ICC Profile\0\0", 13) + containers::deflated(profile)
+    );
 }
 
 HeaderFacts readPngHeaderFacts(QByteArrayView file)
 {
     HeaderFacts facts;
-    for (const PngChunk& chunk : readPngHeadChunks(file).value_or(QList<PngChunk>())) {
+    for (const PngChunk& chunk : containers::readPngHeadChunks(file).value_or(QList<PngChunk>())) {
         if (facts.iccProfile.isEmpty())
-            facts.iccProfile = pngProfile(chunk);
+            facts.iccProfile = containers::pngProfile(chunk);
         if (!facts.dotsPerInch)
             facts.dotsPerInch = resolutionOf(chunk);
     }
-    facts.dotsPerInch = facts.dotsPerInch.value_or(ImageNode().dotsPerInch);
+    facts.dotsPerInch = facts.dotsPerInch.value_or(graphics::ImageNode().dotsPerInch);
     return facts;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

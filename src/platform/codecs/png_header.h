@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 // The PNG library drops every profile that it finds fault with, and the engine does not tell a
 // resolution of one pixel a millimetre from none, and takes none as a little less than 72 dots per
@@ -21,4 +21,4 @@ constexpr qint64 pngHeaderLength = 33;
 /// The labels of the PNG; those of damaged chunks are left out.
 [[nodiscard]] HeaderFacts readPngHeaderFacts(QByteArrayView file);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

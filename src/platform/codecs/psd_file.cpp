@@ -8,7 +8,10 @@
 
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using containers::ByteOrder;
+using containers::unsignedAt;
 
 namespace {
 
@@ -36,14 +39,14 @@ public:
     {
         const std::uint64_t length = field(m_file, m_offset, widthOfLength);
         m_offset += static_cast<std::uint64_t>(widthOfLength);
-        const auto section = sliceOf(m_file, m_offset, length);
+        const auto section = containers::sliceOf(m_file, m_offset, length);
         if (!section)
             throw vips::VError("the layered picture is truncated");
         m_offset += length;
         return *section;
     }
 
-    [[nodiscard]] QByteArrayView rest() const { return tailOf(m_file, m_offset); }
+    [[nodiscard]] QByteArrayView rest() const { return containers::tailOf(m_file, m_offset); }
 
 private:
     QByteArrayView m_file;
@@ -101,7 +104,9 @@ bool saysThatFirstMaskIsAlpha(QByteArrayView layers, bool isLarge)
 /// Files that were saved without one say so; what stands in its place is white.
 bool hasMergedPicture(QByteArrayView resources)
 {
-    const QByteArray info = photoshopResourceData(resources, PhotoshopResourceId::VersionInfo);
+    const QByteArray info = containers::photoshopResourceData(
+        resources, containers::PhotoshopResourceId::VersionInfo
+    );
     return unsignedAt(info, 4, 1, ByteOrder::Big).value_or(1) != 0;
 }
 
@@ -131,7 +136,7 @@ PsdFile readPsdFile(QByteArrayView bytes)
 
     constexpr std::uint64_t paletteLength = 3 * 256;
     if (file.mode == PsdMode::Indexed) {
-        const auto palette = sliceOf(colorData, 0, paletteLength);
+        const auto palette = containers::sliceOf(colorData, 0, paletteLength);
         if (!palette)
             throw vips::VError("the layered picture lacks its palette");
         file.palette = *palette;
@@ -149,4 +154,4 @@ PsdFile readPsdFile(QByteArrayView bytes)
     return file;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

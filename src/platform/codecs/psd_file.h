@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 enum class PsdMode : std::uint16_t {
     Bitmap = 0,
@@ -26,7 +26,7 @@ enum class PsdCompression : std::uint16_t { None = 0, RunLengths = 1 };
 /// The fields are those of Adobe's published description of the format.
 struct PsdFile
 {
-    PixelSize size;
+    graphics::PixelSize size;
     PsdMode mode = PsdMode::Rgb;
     int channels = 0; ///< colours, then alpha and masks
     int bitsPerSample = 8; ///< 1, 8 or 16
@@ -44,4 +44,4 @@ struct PsdFile
 /// Channels that hold the colours of `mode`.
 [[nodiscard]] int psdColorChannels(PsdMode mode);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -15,7 +15,11 @@
 #include <algorithm>
 #include <limits>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using containers::photoshopResourceData;
+using containers::PhotoshopResourceId;
+using graphics::ColorModel;
 
 namespace {
 
@@ -38,7 +42,7 @@ double dotsPerInch(QByteArrayView resources)
 {
     constexpr double one = 65536;
     const QByteArray info = photoshopResourceData(resources, PhotoshopResourceId::Resolution);
-    const auto stated = unsignedAt(info, 0, 4, ByteOrder::Big).value_or(0);
+    const auto stated = containers::unsignedAt(info, 0, 4, containers::ByteOrder::Big).value_or(0);
     return stated > 0 ? static_cast<double>(stated) / one : 72;
 }
 
@@ -106,7 +110,7 @@ void readBits(const PsdFile& file, const vips::VImage& pixels)
 vips::VImage storedSamples(const PsdFile& file)
 {
     const bool isDeep = file.bitsPerSample == 16;
-    const vips::VImage pixels = newMemoryPixels({
+    const vips::VImage pixels = graphics::newMemoryPixels({
         .width = file.size.width,
         .height = file.size.height,
         .bands = psdColorChannels(file.mode) + (file.firstMaskIsAlpha ? 1 : 0),
@@ -124,7 +128,7 @@ vips::VImage storedSamples(const PsdFile& file)
 
 vips::VImage paletteImage(QByteArrayView palette)
 {
-    const vips::VImage table = newMemoryPixels({.width = 256, .height = 1, .bands = 3});
+    const vips::VImage table = graphics::newMemoryPixels({.width = 256, .height = 1, .bands = 3});
     VipsPel* entry = VIPS_IMAGE_ADDR(table.get_image(), 0, 0);
     for (int color = 0; color < 256; ++color) {
         for (int band = 0; band < 3; ++band)
@@ -170,12 +174,13 @@ public:
     PsdPhoto(QString path, const QString& typeIdentifier)
         : m_path(std::move(path))
     {
-        const MappedFile mapped(m_path);
+        const containers::MappedFile mapped(m_path);
         const PsdFile file = readPsdFile(mapped.bytes());
         checkDecodedWhole(file.size);
         static_cast<void>(PsdRows(file)); // too short a file shows here
-        const ExifFacts exif
-            = readExifFacts(photoshopResourceData(file.resources, PhotoshopResourceId::Exif));
+        const containers::ExifFacts exif = containers::readExifFacts(
+            photoshopResourceData(file.resources, PhotoshopResourceId::Exif)
+        );
         m_header.typeIdentifier = typeIdentifier;
         m_header.orientation = exif.orientation;
         m_header.storedSize = file.size;
@@ -185,7 +190,7 @@ public:
         m_header.hasAlpha = file.firstMaskIsAlpha;
         m_header.dotsPerInch = dotsPerInch(file.resources);
         if (file.mode != PsdMode::Lab)
-            m_profile = usableProfile(
+            m_profile = graphics::usableProfile(
                 photoshopResourceData(file.resources, PhotoshopResourceId::IccProfile),
                 m_header.colorModel
             );
@@ -193,27 +198,27 @@ public:
 
     [[nodiscard]] const ImageHeader& header() const override { return m_header; }
 
-    [[nodiscard]] ImageNode storedPixels(int /*shrink*/) const override
+    [[nodiscard]] graphics::ImageNode storedPixels(int /*shrink*/) const override
     {
         const VipsBandFormat format
             = m_header.bitsPerComponent == 16 ? VIPS_FORMAT_USHORT : VIPS_FORMAT_UCHAR;
-        const PixelLayout layout = {
+        const graphics::PixelLayout layout = {
             .width = m_header.storedSize.width,
             .height = m_header.storedSize.height,
-            .bands = colorBands(m_header.colorModel) + (m_header.hasAlpha ? 1 : 0),
+            .bands = graphics::colorBands(m_header.colorModel) + (m_header.hasAlpha ? 1 : 0),
             .format = format,
-            .interpretation = interpretationOf(m_header.colorModel, format),
+            .interpretation = graphics::interpretationOf(m_header.colorModel, format),
         };
-        ImageNode node;
+        graphics::ImageNode node;
         node.colorModel = m_header.colorModel;
         node.hasAlpha = m_header.hasAlpha;
         node.iccProfile = m_profile;
         node.dotsPerInch = m_header.dotsPerInch;
-        node.decodingBytes = sizeOf(layout);
-        node.pixels = deferredPixels(layout, [path = m_path, format] {
-            const MappedFile mapped(path);
+        node.decodingBytes = graphics::sizeOf(layout);
+        node.pixels = graphics::deferredPixels(layout, [path = m_path, format] {
+            const containers::MappedFile mapped(path);
             const PsdFile file = readPsdFile(mapped.bytes());
-            return copiedToMemory(colorsOf(file, storedSamples(file)).cast(format));
+            return graphics::copiedToMemory(colorsOf(file, storedSamples(file)).cast(format));
         });
         return node;
     }
@@ -237,4 +242,4 @@ std::unique_ptr<PhotoDecoder> openPsdPhoto(const QString& path, const QString& t
     return std::make_unique<PsdPhoto>(path, typeIdentifier);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

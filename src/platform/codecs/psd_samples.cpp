@@ -7,7 +7,9 @@
 
 #include <cstring>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using containers::sliceOf;
 
 namespace {
 
@@ -27,8 +29,9 @@ std::vector<std::uint64_t> packedRowOffsets(const PsdFile& file, std::uint64_t r
     std::vector<std::uint64_t> offsets = {rows * width};
     offsets.reserve(rows + 1);
     for (std::size_t row = 0; row < rows; ++row) {
-        const auto length
-            = unsignedAt(file.samples, row * width, static_cast<int>(width), ByteOrder::Big);
+        const auto length = containers::unsignedAt(
+            file.samples, row * width, static_cast<int>(width), containers::ByteOrder::Big
+        );
         constexpr std::uint64_t mostOfAByte = 64; // a run of two bytes makes 128
         if (*length * mostOfAByte < rowBytes)
             throwDamaged();
@@ -93,4 +96,4 @@ QByteArrayView PsdRows::row(int channel, int y, QByteArray& scratch) const
     return scratch;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

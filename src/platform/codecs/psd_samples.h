@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 /// Gives the rows of the merged picture, whole bytes as they are stored, with run lengths expanded.
 class PsdRows
@@ -27,4 +27,4 @@ private:
     std::vector<std::uint64_t> m_offsets; ///< of all packed rows, and where the last one ends
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

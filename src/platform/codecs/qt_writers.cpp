@@ -8,20 +8,22 @@
 #include <QPainter>
 #include <QPdfWriter>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
-void encodeBmp(const ImageNode& node, OutputFile& file)
+void encodeBmp(const graphics::ImageNode& node, OutputFile& file)
 {
-    const QImage image = evaluatedQImage(fittedTo(node, {.alpha = AlphaSupport::Flattens}));
+    const QImage image
+        = graphics::evaluatedQImage(fittedTo(node, {.alpha = AlphaSupport::Flattens}));
     QImageWriter writer(&file, "bmp");
     if (!writer.write(image))
         throw vips::VError("the bitmap can't be written");
 }
 
-void encodePdf(const ImageNode& node, OutputFile& file)
+void encodePdf(const graphics::ImageNode& node, OutputFile& file)
 {
     constexpr double pointsPerInch = 72;
-    const QImage image = evaluatedQImage(fittedTo(node, {.alpha = AlphaSupport::Flattens}));
+    const QImage image
+        = graphics::evaluatedQImage(fittedTo(node, {.alpha = AlphaSupport::Flattens}));
     const QSizeF points = QSizeF(image.size()) * pointsPerInch / node.dotsPerInch;
     QPdfWriter writer(&file);
     writer.setPageSize(QPageSize(points, QPageSize::Point, {}, QPageSize::ExactMatch));
@@ -34,4 +36,4 @@ void encodePdf(const ImageNode& node, OutputFile& file)
         throw vips::VError("the page can't be drawn");
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -14,7 +14,9 @@
 
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+using graphics::ImageNode;
 
 namespace {
 
@@ -105,9 +107,9 @@ HeaderFacts jpeg2000HeaderFacts(QByteArrayView file)
 HeaderFacts headerFacts(const QString& path, const QString& typeIdentifier)
 {
     if (typeIdentifier == QLatin1String("public.jp2"))
-        return jpeg2000HeaderFacts(MappedFile(path).bytes());
+        return jpeg2000HeaderFacts(containers::MappedFile(path).bytes());
     if (typeIdentifier == QLatin1String("public.png"))
-        return readPngHeaderFacts(MappedFile(path).bytes());
+        return readPngHeaderFacts(containers::MappedFile(path).bytes());
     return {};
 }
 
@@ -122,9 +124,10 @@ public:
     {
         const vips::VImage decoded = load(m_loader, m_path, 1);
         checkSize(decoded, m_isJpeg);
-        const ImageNode node = nodeOfDecodedPixels(decoded);
+        const ImageNode node = graphics::nodeOfDecodedPixels(decoded);
         if (m_isJpeg && isProgressiveJpeg(decoded))
-            m_decodingBytes = sizeOf(layoutOf(decoded)) * sizeof(short); // all its coefficients
+            m_decodingBytes = graphics::sizeOf(graphics::layoutOf(decoded))
+                * sizeof(short); // all its coefficients
         m_header.storedSize = {decoded.width(), decoded.height()};
         m_header.orientation = statedOrientation(decoded);
         m_header.uprightSize = uprightSize(m_header.storedSize, m_header.orientation);
@@ -132,7 +135,7 @@ public:
         m_header.bitsPerComponent = static_cast<int>(vips_format_sizeof(decoded.format())) * 8;
         const bool isLab = decoded.interpretation() == VIPS_INTERPRETATION_LAB
             || decoded.interpretation() == VIPS_INTERPRETATION_LABS;
-        m_header.colorModel = isLab ? ColorModel::Lab : node.colorModel;
+        m_header.colorModel = isLab ? graphics::ColorModel::Lab : node.colorModel;
         m_header.hasAlpha = node.hasAlpha;
         m_facts = headerFacts(m_path, m_header.typeIdentifier);
         checkBytes();
@@ -148,13 +151,13 @@ public:
 
     [[nodiscard]] ImageNode storedPixels(int shrink) const override
     {
-        ImageNode node = nodeOfDecodedPixels(
+        ImageNode node = graphics::nodeOfDecodedPixels(
             m_isJpeg ? loadJpeg(m_path, shrink) : load(m_loader, m_path, shrink)
         );
         node.dotsPerInch = m_header.dotsPerInch;
         node.decodingBytes = m_decodingBytes;
         if (!m_facts.iccProfile.isEmpty())
-            node.iccProfile = usableProfile(m_facts.iccProfile, node.colorModel);
+            node.iccProfile = graphics::usableProfile(m_facts.iccProfile, node.colorModel);
         return node;
     }
 
@@ -190,4 +193,4 @@ std::unique_ptr<PhotoDecoder> openStreamedPhoto(const QString& path, const QStri
     return std::make_unique<StreamedPhoto>(path, *streamedType(typeIdentifier));
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

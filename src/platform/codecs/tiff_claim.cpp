@@ -6,7 +6,9 @@
 
 #include <vips/vips8>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
+
+namespace tiff = containers::tiff;
 
 namespace {
 
@@ -58,7 +60,7 @@ class FirstPage
 public:
     explicit FirstPage(const QString& path)
         : m_mapped(path)
-        , m_file(TiffFile::open(m_mapped.bytes()))
+        , m_file(containers::TiffFile::open(m_mapped.bytes()))
     {
         if (m_file)
             m_directory = m_file->firstDirectory();
@@ -66,8 +68,8 @@ public:
 
     [[nodiscard]] double number(std::uint16_t tag, double absent) const
     {
-        const TiffField* field = fieldOf(m_directory, tag);
-        return field ? firstNumber(*field, m_file->order()).value_or(absent) : absent;
+        const containers::TiffField* field = containers::fieldOf(m_directory, tag);
+        return field ? containers::firstNumber(*field, m_file->order()).value_or(absent) : absent;
     }
 
     [[nodiscard]] int compression() const
@@ -78,9 +80,9 @@ public:
     [[nodiscard]] double bytes() const { return static_cast<double>(m_mapped.bytes().size()); }
 
 private:
-    MappedFile m_mapped;
-    std::optional<TiffFile> m_file;
-    TiffDirectory m_directory;
+    containers::MappedFile m_mapped;
+    std::optional<containers::TiffFile> m_file;
+    containers::TiffDirectory m_directory;
 };
 
 } // namespace
@@ -100,4 +102,4 @@ void checkTiffSize(const QString& path)
 
 bool holdsOldJpeg(const QString& path) { return FirstPage(path).compression() == OldJpeg; }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::codecs {
 
 /// @throws vips::VError when the first page of a TIFF has no size, or claims more than the file's
 /// bytes can hold.
@@ -12,4 +12,4 @@ void checkTiffSize(const QString& path);
 /// True for a TIFF with JPEG of the old style: the engine reads it in wrong colours.
 [[nodiscard]] bool holdsOldJpeg(const QString& path);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::codecs

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "bytes.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 std::optional<QByteArrayView>
 sliceOf(QByteArrayView bytes, std::uint64_t offset, std::uint64_t length)
@@ -46,4 +46,4 @@ void appendUnsigned(QByteArray& bytes, std::uint64_t value, int width, ByteOrder
     }
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -11,7 +11,7 @@
 /// Bounds-checked access to bytes of foreign files. Offsets and lengths come from the file and may
 /// be anything; what does not stand in the bytes is answered with nothing.
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 enum class ByteOrder { Big, Little };
 
@@ -32,4 +32,4 @@ unsignedAt(QByteArrayView bytes, std::uint64_t offset, int width, ByteOrder orde
 /// Appends the low `width` bytes of `value`.
 void appendUnsigned(QByteArray& bytes, std::uint64_t value, int width, ByteOrder order);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace {
 
@@ -83,4 +83,4 @@ QByteArray exifOfResolution(double dotsPerInch)
         + serializedDirectory(image, tiffHeaderLength, ByteOrder::Big);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

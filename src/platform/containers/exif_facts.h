@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 /// What showing a photo needs from its EXIF block.
 struct ExifFacts
@@ -22,4 +22,4 @@ struct ExifFacts
 /// A TIFF structure that states the resolution and nothing else.
 [[nodiscard]] QByteArray exifOfResolution(double dotsPerInch);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

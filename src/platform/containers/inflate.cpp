@@ -6,7 +6,7 @@
 #include <array>
 #include <memory>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace {
 
@@ -60,4 +60,4 @@ quint32 crc32Of(QByteArrayView bytes)
     ));
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 /// Inflates a zlib stream; nothing when it is damaged or comes out longer than `longest` bytes.
 [[nodiscard]] std::optional<QByteArray> inflated(QByteArrayView deflated, qsizetype longest);
@@ -17,4 +17,4 @@ namespace brenvaldo::platform {
 /// The checksum of PNG chunks.
 [[nodiscard]] quint32 crc32Of(QByteArrayView bytes);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -3,7 +3,7 @@
 
 #include "bytes.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace {
 
@@ -51,4 +51,4 @@ QByteArray exifBehindOffset(QByteArrayView item)
     return offset ? tailOf(item, 4 + *offset).toByteArray() : QByteArray();
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -5,7 +5,7 @@
 #include <QByteArrayView>
 #include <QList>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 /// A box of the ISO base media format: views into the file.
 struct IsoBox
@@ -24,4 +24,4 @@ struct IsoBox
 /// The EXIF block of an item that starts with the number of bytes in front of the block.
 [[nodiscard]] QByteArray exifBehindOffset(QByteArrayView item);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -3,7 +3,7 @@
 
 #include "bytes.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace {
 
@@ -88,4 +88,4 @@ QByteArray jpegSegment(std::uint8_t marker, QByteArrayView payload)
     return segment;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

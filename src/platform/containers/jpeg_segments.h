@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace jpeg {
 
@@ -53,4 +53,4 @@ exifPartOf(const JpegSegment& segment, QByteArrayView block);
 /// Makes a whole segment; `payload` is at most `jpeg::longestPayload` bytes long.
 [[nodiscard]] QByteArray jpegSegment(std::uint8_t marker, QByteArrayView payload);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

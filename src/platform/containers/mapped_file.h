@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QString>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 /// The bytes of a regular file, without reading what nobody looks at.
 class MappedFile
@@ -31,4 +31,4 @@ private:
     const uchar* m_start = nullptr;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <QList>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 /// The metadata of image 0 of a file as raw blocks, each empty when the file has none.
 ///
@@ -28,4 +28,4 @@ struct MetadataBlocks
     QList<QByteArray> pngColorChunks = {};
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace {
 
@@ -112,4 +112,4 @@ QByteArray withoutIptcPadding(const QByteArray& iptc)
     return isPadding ? iptc.first(static_cast<qsizetype>(end)) : iptc;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

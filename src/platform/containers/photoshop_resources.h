@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 enum class PhotoshopResourceId : std::uint16_t {
     Resolution = 0x03ED,
@@ -41,4 +41,4 @@ struct PhotoshopResource
 /// The IIM data sets at the start of `iptc` without zero bytes that pad them to whole words.
 [[nodiscard]] QByteArray withoutIptcPadding(const QByteArray& iptc);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

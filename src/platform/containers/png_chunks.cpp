@@ -4,7 +4,7 @@
 #include "bytes.h"
 #include "inflate.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace {
 
@@ -150,4 +150,4 @@ QByteArray rawProfileChunk(const QByteArray& type, const QByteArray& data)
     return pngChunk("zTXt", "Raw profile type " + type + QByteArray(2, '\0') + deflated(text));
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -7,7 +7,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 /// One chunk of a PNG: views into the file. Checksums are not checked.
 struct PngChunk
@@ -54,4 +54,4 @@ struct PngText
 /// A zTXt chunk that holds `data` as a raw profile of that type, such as "iptc".
 [[nodiscard]] QByteArray rawProfileChunk(const QByteArray& type, const QByteArray& data);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

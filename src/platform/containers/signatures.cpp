@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <string_view>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace {
 
@@ -122,4 +122,4 @@ std::optional<FileKind> fileKindOf(QByteArrayView file)
     return std::nullopt;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

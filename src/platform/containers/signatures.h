@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 /// How the parts of an image file are put together.
 enum class Container {
@@ -35,4 +35,4 @@ constexpr qsizetype fileKindLength = 64;
 /// The kind of the file that starts with these bytes; nothing when it is of no known image type.
 [[nodiscard]] std::optional<FileKind> fileKindOf(QByteArrayView file);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

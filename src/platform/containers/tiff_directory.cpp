@@ -6,7 +6,7 @@
 #include <limits>
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace {
 
@@ -280,4 +280,4 @@ QByteArray tiffHeader(ByteOrder order, std::uint64_t offset)
     return header;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

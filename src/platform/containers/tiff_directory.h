@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace tiff {
 
@@ -146,4 +146,4 @@ constexpr qsizetype tiffHeaderLength = 8;
 /// The eight bytes in front of a TIFF file whose first directory stands at `offset`.
 [[nodiscard]] QByteArray tiffHeader(ByteOrder order, std::uint64_t offset);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -4,7 +4,7 @@
 #include <bit>
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace {
 
@@ -64,4 +64,4 @@ std::optional<double> firstNumber(const TiffField& field, ByteOrder order)
     return std::visit([](auto value) { return static_cast<double>(value); }, *number);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -8,7 +8,7 @@
 #include <optional>
 #include <variant>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 /// A number of a field: whole where its type is.
 using TiffNumber = std::variant<qint64, double>;
@@ -21,4 +21,4 @@ tiffNumberAt(const TiffField& field, std::uint64_t offset, ByteOrder order);
 /// The first number of the field; nothing when it has none, or a text.
 [[nodiscard]] std::optional<double> firstNumber(const TiffField& field, ByteOrder order);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

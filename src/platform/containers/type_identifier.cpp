@@ -9,7 +9,7 @@
 #include <QHash>
 #include <QStringList>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 namespace {
 
@@ -152,4 +152,4 @@ QString typeIdentifierOfContents(const QString& path)
     return kind ? QString::fromLatin1(kind->typeIdentifier) : QString();
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

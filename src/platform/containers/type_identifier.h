@@ -3,7 +3,7 @@
 
 #include <QString>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::containers {
 
 /// The type identifier that the platform prefers for a file name extension, such as "public.jpeg"
 /// for "JPG".
@@ -16,4 +16,4 @@ namespace brenvaldo::platform {
 /// type.
 [[nodiscard]] QString typeIdentifierOfContents(const QString& path);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::containers

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 namespace {
 
@@ -188,4 +188,4 @@ QPainterPath AttributedText::underlineOfWidth(double width) const
     return underline;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -8,7 +8,7 @@
 #include <QSizeF>
 #include <QString>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 enum class TextAlignment { Left, Center, Right };
 enum class UnderlineStyle { None, Single, Thick };
@@ -64,4 +64,4 @@ private:
     QSizeF m_size;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 namespace {
 
@@ -202,4 +202,4 @@ Plane blurred(const Plane& plane, double sigma, Edge edge)
                                  : blurredByMeans(plane, sigma, edge);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// One plane of samples, row by row from the top down.
 struct Plane
@@ -37,4 +37,4 @@ enum class Edge {
 /// it is.
 [[nodiscard]] Plane blurred(const Plane& plane, double sigma, Edge edge);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -8,7 +8,10 @@
 #include <cstring>
 #include <limits>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
+
+using graphics::Image;
+using graphics::KernelRow;
 
 namespace {
 
@@ -56,17 +59,17 @@ void layOverTransparent(const KernelRow<2>& row, int bands)
 }
 
 template <typename Sample>
-vips::VImage composed(const ImageNode& base, const vips::VImage& layer)
+vips::VImage composed(const graphics::ImageNode& base, const vips::VImage& layer)
 {
-    const int bands = colorBands(base.colorModel);
-    const KernelOutput output
+    const int bands = graphics::colorBands(base.colorModel);
+    const graphics::KernelOutput output
         = {base.pixels.bands(), base.pixels.format(), base.pixels.interpretation()};
     const std::array inputs = {base.pixels, layer};
     if (base.hasAlpha)
-        return mapRows(inputs, output, [bands](const KernelRow<2>& row) {
+        return graphics::mapRows(inputs, output, [bands](const KernelRow<2>& row) {
             layOverTransparent<Sample>(row, bands);
         });
-    return mapRows(inputs, output, [bands](const KernelRow<2>& row) {
+    return graphics::mapRows(inputs, output, [bands](const KernelRow<2>& row) {
         layOverOpaque<Sample>(row, bands);
     });
 }
@@ -76,10 +79,10 @@ vips::VImage composed(const ImageNode& base, const vips::VImage& layer)
 Image over(const Image& base, const Image& overlay)
 {
     Q_ASSERT(base.pixelSize() == overlay.pixelSize());
-    Q_ASSERT(overlay.hasAlpha() && overlay.colorModel() == ColorModel::Rgb);
-    const ImageNode& node = *base.node();
-    return builtImage(node, base.pixelSize(), [&] {
-        const vips::VImage layer = srgbLayerInColorsOf(overlay.node()->pixels, node);
+    Q_ASSERT(overlay.hasAlpha() && overlay.colorModel() == graphics::ColorModel::Rgb);
+    const graphics::ImageNode& node = *base.node();
+    return graphics::builtImage(node, base.pixelSize(), [&] {
+        const vips::VImage layer = graphics::srgbLayerInColorsOf(overlay.node()->pixels, node);
         return node.withPixels(
             node.pixels.format() == VIPS_FORMAT_USHORT ? composed<quint16>(node, layer)
                                                        : composed<quint8>(node, layer)
@@ -87,4 +90,4 @@ Image over(const Image& base, const Image& overlay)
     });
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

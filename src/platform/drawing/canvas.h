@@ -3,12 +3,12 @@
 
 #include <platform/graphics/image.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// `overlay` laid over `base`, both of the same size; lazily evaluated.
 ///
 /// The overlay is 8-bit sRGB with straight alpha, as `Image::fromQImage` gives it; its colours are
 /// brought to the profile, the model and the depth of `base`, which the result keeps.
-[[nodiscard]] Image over(const Image& base, const Image& overlay);
+[[nodiscard]] graphics::Image over(const graphics::Image& base, const graphics::Image& overlay);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 namespace {
 
@@ -128,4 +128,4 @@ void EdgeDistance::keepNearer(const Run& run, int rows, float* distances) const
     }
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

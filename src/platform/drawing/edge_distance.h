@@ -3,7 +3,7 @@
 
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// A part of a picture: how far each pixel belongs to it, from 0 to 1, row by row.
 struct Coverage
@@ -54,4 +54,4 @@ private:
     Nearest m_nearest; ///< of each pixel along its row
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -5,7 +5,7 @@
 
 #include <QFontDatabase>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 namespace {
 
@@ -105,4 +105,4 @@ QFont boldFaceOf(const QFont& font)
     return bold;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// Names of all installed faces in the order of their families: "DejaVu Sans", "DejaVu Sans
 /// Bold"...
@@ -21,4 +21,4 @@ namespace brenvaldo::platform {
 /// stays.
 [[nodiscard]] QFont boldFaceOf(const QFont& font);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

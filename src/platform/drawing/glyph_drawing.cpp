@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 namespace {
 
@@ -67,4 +67,4 @@ TextDrawing drawingOfGlyphs(const QGlyphRun& run)
     return drawing;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

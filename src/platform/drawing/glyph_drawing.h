@@ -5,10 +5,10 @@
 
 #include <QGlyphRun>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// The outlines of the run's glyphs, or the pictures of a colour font; the origin is that of the
 /// run's positions.
 [[nodiscard]] TextDrawing drawingOfGlyphs(const QGlyphRun& run);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

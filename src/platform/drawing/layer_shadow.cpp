@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 namespace {
 
@@ -39,7 +39,7 @@ Plane shiftedAlpha(const QImage& object, QPoint shift, int width, int height, Ed
     return plane;
 }
 
-QImage colored(const Plane& plane, const Color& color)
+QImage colored(const Plane& plane, const graphics::Color& color)
 {
     QImage layer(plane.width, plane.height, QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < plane.height; ++y) {
@@ -148,4 +148,4 @@ QImage tiledShadowLayer(const QImage& cell, const Shadow& shadow)
     return castShadow(cell, shadow, shiftOf(shadow), cell.width(), cell.height(), Edge::Wrapped);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

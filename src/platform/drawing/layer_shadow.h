@@ -9,12 +9,12 @@
 
 #include <functional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// A soft copy of a drawn object in one colour, below and beside it.
 struct Shadow
 {
-    Color color{.red = 0, .green = 0, .blue = 0, .alpha = 1.0 / 3.0};
+    graphics::Color color{.red = 0, .green = 0, .blue = 0, .alpha = 1.0 / 3.0};
     int xOffset = 0; ///< pixels to the right
     int yOffset = 0; ///< pixels upward
     double blurRadius = 0; ///< pixels; the Gaussian's sigma is half of it
@@ -58,4 +58,4 @@ struct PlacedLayer
 /// The shadow of `cell` repeated without end: what leaves the cell at one side enters at the other.
 [[nodiscard]] QImage tiledShadowLayer(const QImage& cell, const Shadow& shadow);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

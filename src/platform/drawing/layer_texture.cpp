@@ -8,7 +8,9 @@
 #include <cmath>
 #include <limits>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
+
+using graphics::ImageNode;
 
 namespace {
 
@@ -26,8 +28,9 @@ vips::VImage samplesFor(const ImageNode& photo, const ImageNode& picture)
 {
     if (hasColorsOf(picture, photo))
         return picture.pixels.copy_memory();
-    const QImage srgb = evaluatedQImage(picture).convertToFormat(QImage::Format_RGBA8888);
-    return srgbLayerInColorsOf(Image::fromQImage(srgb).node()->pixels, photo).copy_memory();
+    const QImage srgb = graphics::evaluatedQImage(picture).convertToFormat(QImage::Format_RGBA8888);
+    return graphics::srgbLayerInColorsOf(graphics::Image::fromQImage(srgb).node()->pixels, photo)
+        .copy_memory();
 }
 
 } // namespace
@@ -39,7 +42,7 @@ LayerTexture<Sample>::LayerTexture(const Stamp::Texture& texture, const ImageNod
     , m_origin(texture.origin)
     , m_period(texture.period)
     , m_pixels(samplesFor(photo, *texture.picture.node()))
-    , m_colors(colorBands(photo.colorModel))
+    , m_colors(graphics::colorBands(photo.colorModel))
 {
 }
 
@@ -112,4 +115,4 @@ const Sample* LayerTexture<Sample>::pixelAt(int x, int y) const
 template class LayerTexture<quint8>;
 template class LayerTexture<quint16>;
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -7,7 +7,7 @@
 
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// The picture that fills a part of a stamp's layer, in the colours and the depth of a photo.
 /// `Sample` is the photo's.
@@ -16,7 +16,7 @@ class LayerTexture
 {
 public:
     /// Throws `vips::VError` when the picture can't be brought to the photo's colours.
-    LayerTexture(const Stamp::Texture& texture, const ImageNode& photo);
+    LayerTexture(const Stamp::Texture& texture, const graphics::ImageNode& photo);
 
     /// Adds the picture's share to row `y` of the layer: straight colours of the photo's model and
     /// an alpha, which grows by the share.
@@ -41,4 +41,4 @@ private:
 extern template class LayerTexture<quint8>;
 extern template class LayerTexture<quint16>;
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

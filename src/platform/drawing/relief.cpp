@@ -8,7 +8,7 @@
 #include <array>
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 namespace {
 
@@ -176,7 +176,7 @@ shadedMaterial(const HeightField& field, const QImage& layer, const QImage& shad
     return result;
 }
 
-QImage colorBall(const Color& color)
+QImage colorBall(const graphics::Color& color)
 {
     constexpr int side = 134;
     constexpr double centre = 67;
@@ -211,4 +211,4 @@ QImage colorBall(const Color& color)
     return ball;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// Heights from 0 to 1 of each pixel of a layer, rows from the top down.
 struct HeightField
@@ -38,6 +38,6 @@ struct HeightField
 shadedMaterial(const HeightField& field, const QImage& layer, const QImage& shading, double scale);
 
 /// A ball of 134 by 134 pixels, lit from above: black at its rim, `color` towards its highlight.
-[[nodiscard]] QImage colorBall(const Color& color);
+[[nodiscard]] QImage colorBall(const graphics::Color& color);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

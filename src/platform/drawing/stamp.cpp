@@ -12,7 +12,11 @@
 #include <mutex>
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
+
+using graphics::Image;
+using graphics::ImageNode;
+using graphics::PixelRect;
 
 namespace {
 
@@ -60,7 +64,7 @@ public:
         }
     }
 
-    void operator()(const KernelRow<1>& row) const
+    void operator()(const graphics::KernelRow<1>& row) const
     {
         auto* photo = row.template out<Sample>();
         std::copy_n(row.template input<Sample>(0), qsizetype{row.count} * m_bands, photo);
@@ -142,12 +146,12 @@ private:
 template <class Sample>
 vips::VImage mapped(const ImageNode& photo, const Stamp& stamp)
 {
-    const KernelOutput output = {
+    const graphics::KernelOutput output = {
         .bands = photo.pixels.bands(),
         .format = photo.pixels.format(),
         .interpretation = photo.pixels.interpretation(),
     };
-    return mapRows(std::array{photo.pixels}, output, StampRows<Sample>(stamp, photo));
+    return graphics::mapRows(std::array{photo.pixels}, output, StampRows<Sample>(stamp, photo));
 }
 
 PixelRect coveredPart(const ImageNode& photo, const Stamp& stamp)
@@ -220,7 +224,7 @@ Image stamped(const Image& photo, const Stamp& stamp)
 {
     if (stamp.layer.isNull())
         return photo;
-    return builtImage(*photo.node(), photo.pixelSize(), [&] {
+    return graphics::builtImage(*photo.node(), photo.pixelSize(), [&] {
         const StampedPhoto marked = laidOver(*photo.node(), stamp);
         return markedNode(photo, marked.pixels, [part = marked.part] { return part; });
     });
@@ -228,12 +232,13 @@ Image stamped(const Image& photo, const Stamp& stamp)
 
 Image stamped(const Image& photo, std::function<Stamp()> makeStamp)
 {
-    Q_ASSERT(!isSequential(photo.node()->pixels));
+    Q_ASSERT(!graphics::isSequential(photo.node()->pixels));
     const auto marked = std::make_shared<PhotoToStamp>(photo.node(), std::move(makeStamp));
-    return builtImage(*photo.node(), photo.pixelSize(), [&] {
-        const auto pixels = deferredPixels(layoutOf(photo.node()->pixels), [marked] {
-            return marked->stamped().pixels;
-        });
+    return graphics::builtImage(*photo.node(), photo.pixelSize(), [&] {
+        const auto pixels
+            = graphics::deferredPixels(graphics::layoutOf(photo.node()->pixels), [marked] {
+                  return marked->stamped().pixels;
+              });
         return markedNode(photo, pixels, [marked] { return marked->stamped().part; });
     });
 }
@@ -255,4 +260,4 @@ std::optional<PixelRect> stampedPart(const Image& marked, const Image& photo)
     }
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

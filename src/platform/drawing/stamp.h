@@ -12,7 +12,7 @@
 #include <functional>
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// A layer that is laid over a photo with source-over.
 struct Stamp
@@ -29,7 +29,7 @@ struct Stamp
     /// A picture that shows in parts of the layer, in its own colours and depth.
     struct Texture
     {
-        Image picture; ///< in memory; repeated without end
+        graphics::Image picture; ///< in memory; repeated without end
         QImage share; ///< 8-bit grey, as large as the layer: opacity that is added to the layer's
         QTransform toPicture; ///< from what the layer shows, whose top left corner is `origin`
         QPoint origin = {};
@@ -50,18 +50,20 @@ struct Stamp
 ///
 /// The layer's colours are brought to the photo's profile. Only rows and columns below the layer
 /// are computed, the others are copied; tiles are found by arithmetic.
-[[nodiscard]] Image stamped(const Image& photo, const Stamp& stamp);
+[[nodiscard]] graphics::Image stamped(const graphics::Image& photo, const Stamp& stamp);
 
 /// The same with a stamp that `makeStamp` makes: once, and not before the first pixel or
 /// `stampedPart` is asked for, on the thread that asks. `photo` must bear being evaluated more than
 /// once.
-[[nodiscard]] Image stamped(const Image& photo, std::function<Stamp()> makeStamp);
+[[nodiscard]] graphics::Image
+stamped(const graphics::Image& photo, std::function<Stamp()> makeStamp);
 
 /// True when `marked` is `photo` with a stamp on it.
-[[nodiscard]] bool isStamped(const Image& marked, const Image& photo);
+[[nodiscard]] bool isStamped(const graphics::Image& marked, const graphics::Image& photo);
 
 /// The part outside of which `marked` is `photo`; nothing when it is not `photo` with a stamp, or
 /// when its stamp can't be made.
-[[nodiscard]] std::optional<PixelRect> stampedPart(const Image& marked, const Image& photo);
+[[nodiscard]] std::optional<graphics::PixelRect>
+stampedPart(const graphics::Image& marked, const graphics::Image& photo);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 namespace {
 
@@ -51,32 +51,37 @@ mix(Sample* __restrict photo,
 
 template <class Sample>
 StampLayer<Sample>::StampLayer(
-    const QImage& layer, const std::optional<Stamp::Texture>& texture, const ImageNode& photo
+    const QImage& layer,
+    const std::optional<Stamp::Texture>& texture,
+    const graphics::ImageNode& photo
 )
     : m_width(layer.width())
     , m_height(layer.height())
-    , m_colors(colorBands(photo.colorModel))
+    , m_colors(graphics::colorBands(photo.colorModel))
     , m_photoHasAlpha(photo.hasAlpha)
     , m_samples(sampleAt(0, m_height))
     , m_weights(m_samples.size())
 {
-    const Image straight = Image::fromQImage(layer.convertToFormat(QImage::Format_RGBA8888));
-    takeRows(srgbLayerInColorsOf(straight.node()->pixels, photo), texture, photo);
+    const graphics::Image straight
+        = graphics::Image::fromQImage(layer.convertToFormat(QImage::Format_RGBA8888));
+    takeRows(graphics::srgbLayerInColorsOf(straight.node()->pixels, photo), texture, photo);
 }
 
 template <class Sample>
 void StampLayer<Sample>::takeRows(
-    const vips::VImage& layer, const std::optional<Stamp::Texture>& texture, const ImageNode& photo
+    const vips::VImage& layer,
+    const std::optional<Stamp::Texture>& texture,
+    const graphics::ImageNode& photo
 )
 {
     const auto samples = [](const uchar* row) { return reinterpret_cast<const Sample*>(row); };
     if (!texture) {
-        forEachRow(layer, [&](const uchar* row, int y) { takeRow(samples(row), y); });
+        graphics::forEachRow(layer, [&](const uchar* row, int y) { takeRow(samples(row), y); });
         return;
     }
     const LayerTexture<Sample> filling(*texture, photo);
     std::vector<Sample> filled(static_cast<std::size_t>(m_width * (m_colors + 1)));
-    forEachRow(layer, [&](const uchar* row, int y) {
+    graphics::forEachRow(layer, [&](const uchar* row, int y) {
         std::copy_n(samples(row), filled.size(), filled.begin());
         filling.addTo(filled.data(), y);
         takeRow(filled.data(), y);
@@ -163,4 +168,4 @@ void StampLayer<Sample>::layOverTranslucent(Sample* photo, std::size_t first, in
 template class StampLayer<quint8>;
 template class StampLayer<quint16>;
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

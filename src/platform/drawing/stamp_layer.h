@@ -7,7 +7,7 @@
 
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// A stamp's layer in the colours and the depth of a photo, laid out for a quick way over its rows.
 /// `Sample` is the photo's.
@@ -17,7 +17,9 @@ class StampLayer
 public:
     /// Throws `vips::VError` when the colours can't be brought to those of the photo.
     StampLayer(
-        const QImage& layer, const std::optional<Stamp::Texture>& texture, const ImageNode& photo
+        const QImage& layer,
+        const std::optional<Stamp::Texture>& texture,
+        const graphics::ImageNode& photo
     );
 
     [[nodiscard]] int width() const { return m_width; }
@@ -38,7 +40,7 @@ private:
     void takeRows(
         const vips::VImage& layer,
         const std::optional<Stamp::Texture>& texture,
-        const ImageNode& photo
+        const graphics::ImageNode& photo
     );
     void takeRow(const Sample* row, int y);
     void takeRuns(const Sample* row);
@@ -58,4 +60,4 @@ private:
 extern template class StampLayer<quint8>;
 extern template class StampLayer<quint16>;
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -3,7 +3,7 @@
 
 #include <QPainter>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 void TextDrawing::add(const TextDrawing& other, const QTransform& place)
 {
@@ -29,4 +29,4 @@ void TextDrawing::draw(QPainter& painter, const QBrush& fill) const
     painter.restore();
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

@@ -9,7 +9,7 @@
 
 class QPainter;
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::drawing {
 
 /// A glyph that is a picture in its own colours, such as an emoji of a colour font.
 struct GlyphPicture
@@ -30,4 +30,4 @@ struct TextDrawing
     void draw(QPainter& painter, const QBrush& fill) const;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::drawing

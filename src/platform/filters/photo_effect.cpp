@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::filters {
 
 namespace {
 
@@ -23,6 +23,9 @@ double noirLevel(double red, double green, double blue)
 
 } // namespace
 
-Image photoEffectNoir(const Image& image) { return withGrayLevels(image, noirLevel); }
+graphics::Image photoEffectNoir(const graphics::Image& image)
+{
+    return graphics::withGrayLevels(image, noirLevel);
+}
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::filters

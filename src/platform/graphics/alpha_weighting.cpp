@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -67,4 +67,4 @@ vips::VImage straightPixels(const vips::VImage& pixels, VipsBandFormat format)
                                         : straightened<quint8>(pixels, format);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -184,4 +184,4 @@ vips::VImage blockAverages(const vips::VImage& pixels, int side)
                                                  : averaged<quint8, quint16>(pixels, side);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -3,7 +3,7 @@
 
 #include <vips/vips8>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// The longest side of a block.
 inline constexpr int largestBlock = 16;
@@ -15,4 +15,4 @@ inline constexpr int largestBlock = 16;
 /// `largestBlock`. Throws `vips::VError` when the pipeline can't be built.
 [[nodiscard]] vips::VImage blockAverages(const vips::VImage& pixels, int side);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

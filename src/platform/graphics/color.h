@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// A colour in the calibrated (sRGB) space; components and alpha from 0 to 1, not premultiplied.
 struct Color
@@ -16,4 +16,4 @@ struct Color
     friend bool operator==(const Color&, const Color&) = default;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -7,7 +7,7 @@
 
 #include <memory>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -207,4 +207,4 @@ vips::VImage srgbLayerInColorsOf(const vips::VImage& layer, const ImageNode& tar
     );
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

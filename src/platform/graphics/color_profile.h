@@ -3,7 +3,7 @@
 
 #include "image_node.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// `profile` if it can be read and describes pixels of `model`; empty otherwise.
 [[nodiscard]] QByteArray usableProfile(const QByteArray& profile, ColorModel model);
@@ -19,4 +19,4 @@ namespace brenvaldo::platform {
 /// behind the samples.
 [[nodiscard]] vips::VImage srgbLayerInColorsOf(const vips::VImage& layer, const ImageNode& target);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

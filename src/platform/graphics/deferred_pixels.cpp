@@ -7,7 +7,7 @@
 #include <mutex>
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -140,4 +140,4 @@ vips::VImage randomAccess(const vips::VImage& pixels)
     return deferredPixels(layoutOf(pixels), [pixels] { return copiedToMemory(pixels); });
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -7,7 +7,7 @@
 
 #include <functional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// What has to be known about pixels before they exist.
 struct PixelLayout
@@ -39,4 +39,4 @@ deferredPixels(const PixelLayout& layout, std::function<vips::VImage()> produce)
 /// bottom.
 [[nodiscard]] vips::VImage randomAccess(const vips::VImage& pixels);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

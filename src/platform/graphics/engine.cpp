@@ -9,7 +9,7 @@
 
 #include <mutex>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -52,4 +52,4 @@ Engine::~Engine() { vips_shutdown(); }
 
 int engineThreads() { return vips_concurrency_get(); }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// Starts the pixel engine for the life of the process; one object stands first in each `main`.
 ///
@@ -21,4 +21,4 @@ public:
 /// Number of threads that one picture is evaluated with.
 [[nodiscard]] int engineThreads();
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -4,7 +4,7 @@
 #include <atomic>
 #include <memory>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -111,4 +111,4 @@ void forEachRow(const vips::VImage& pixels, const TakeRow& take)
     });
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -5,7 +5,7 @@
 
 #include <functional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 // The places where lazy pixels become real ones: an encoder, a walk over rows, a copy in memory.
 //
@@ -31,4 +31,4 @@ void forEachRow(
     const vips::VImage& pixels, const std::function<void(const unsigned char* row, int y)>& take
 );
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

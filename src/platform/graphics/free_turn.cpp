@@ -8,7 +8,7 @@
 #include <cmath>
 #include <numbers>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -58,4 +58,4 @@ Image freelyTurned(const Image& image, const FreeTurn& turn)
     return builtImage(node, turn.canvas, [&] { return turnedNode(node, turn); });
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

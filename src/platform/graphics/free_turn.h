@@ -3,7 +3,7 @@
 
 #include "image.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// What stands in the corners that a turned picture leaves free.
 enum class FreeCorners {
@@ -30,4 +30,4 @@ struct FreeTurn
 /// The picture turned at high interpolation, its edges soft.
 [[nodiscard]] Image freelyTurned(const Image& image, const FreeTurn& turn);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

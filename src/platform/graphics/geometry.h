@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// Width and height in whole pixels.
 struct PixelSize
@@ -26,4 +26,4 @@ struct PixelRect
     friend bool operator==(const PixelRect&, const PixelRect&) = default;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -50,4 +50,4 @@ Image withGrayLevels(const Image& image, GrayLevel level)
     ));
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -3,7 +3,7 @@
 
 #include "image.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// The grey of a pixel; components and grey are encoded values from 0 to 1.
 using GrayLevel = double (*)(double red, double green, double blue);
@@ -12,4 +12,4 @@ using GrayLevel = double (*)(double red, double green, double blue);
 /// model, profile and alpha stay. A picture of inks becomes one of 8-bit sRGB.
 [[nodiscard]] Image withGrayLevels(const Image& image, GrayLevel level);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 Image::Image(std::shared_ptr<const ImageNode> node)
     : m_node(std::move(node))
@@ -85,11 +85,11 @@ Image Image::flipped(Axis axis) const
 std::optional<Image> Image::copiedToMemory() const
 {
     try {
-        return makeImage(m_node->withPixels(platform::copiedToMemory(m_node->pixels)));
+        return makeImage(m_node->withPixels(graphics::copiedToMemory(m_node->pixels)));
     } catch (const std::exception& error) {
         log(QStringLiteral("Failed to compute the pixels of an image: ") + faultText(error));
         return std::nullopt;
     }
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -9,7 +9,7 @@
 #include <memory>
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 struct ImageNode; // the lazily evaluated pixels; known to this folder alone
 
@@ -67,4 +67,4 @@ private:
     std::shared_ptr<const ImageNode> m_node;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

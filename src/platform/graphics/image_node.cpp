@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -177,4 +177,4 @@ QString faultText(const std::exception& error)
     return text.isEmpty() ? QString::fromUtf8(error.what()).simplified() : text;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

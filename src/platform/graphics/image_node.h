@@ -7,7 +7,7 @@
 
 #include <functional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// The pixels of an `Image` and what is known about them.
 ///
@@ -78,4 +78,4 @@ builtImage(const ImageNode& original, PixelSize size, const std::function<ImageN
 /// What went wrong, in one line; empties the engine's error buffer for the next job.
 [[nodiscard]] QString faultText(const std::exception& error);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

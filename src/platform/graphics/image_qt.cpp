@@ -12,7 +12,7 @@
 #include <array>
 #include <cstring>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -116,4 +116,4 @@ QImage Image::toQImage() const
     }
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -5,7 +5,7 @@
 
 #include <QColor>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// The colour for a painter, its alpha included.
 [[nodiscard]] inline QColor qtColor(const Color& color)
@@ -18,4 +18,4 @@ namespace brenvaldo::platform {
     );
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

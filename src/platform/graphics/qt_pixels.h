@@ -6,7 +6,7 @@
 
 #include <QImage>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// The samples of `image` as 8-bit pixels of `layout`: grey, RGB or RGB with alpha.
 [[nodiscard]] vips::VImage pixelsOf(const QImage& image, const PixelLayout& layout);
@@ -15,4 +15,4 @@ namespace brenvaldo::platform {
 /// premultiplied where it has alpha; its resolution is set. Throws `vips::VError`.
 [[nodiscard]] QImage evaluatedQImage(const ImageNode& node);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

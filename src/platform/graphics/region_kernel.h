@@ -10,7 +10,7 @@
 #include <memory>
 #include <utility>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// One row of a kernel: `count` pixels whose first stands at (`x`, `y`) of the picture.
 template <std::size_t InputCount>
@@ -140,4 +140,4 @@ mapRows(std::array<vips::VImage, InputCount> inputs, const KernelOutput& output,
     return out;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

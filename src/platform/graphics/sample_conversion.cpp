@@ -5,7 +5,7 @@
 
 #include <limits>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -59,4 +59,4 @@ ImageNode flattenedOnWhite(const ImageNode& node)
     return flat;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

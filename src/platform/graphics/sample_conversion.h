@@ -3,7 +3,7 @@
 
 #include "image_node.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// 8-bit samples of the picture, 16-bit ones rounded.
 [[nodiscard]] ImageNode withBytes(const ImageNode& node);
@@ -11,4 +11,4 @@ namespace brenvaldo::platform {
 /// The picture laid on white, without alpha.
 [[nodiscard]] ImageNode flattenedOnWhite(const ImageNode& node);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 namespace {
 
@@ -62,4 +62,4 @@ Image Image::scaledTo(PixelSize size) const
     return builtImage(*m_node, size, [&] { return scaledNode(*m_node, size); });
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

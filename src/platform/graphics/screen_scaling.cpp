@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 Image scaledForScreen(const Image& image, PixelSize size)
 {
@@ -21,4 +21,4 @@ Image scaledForScreen(const Image& image, PixelSize size)
     ).scaledTo(size);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

@@ -3,7 +3,7 @@
 
 #include "image.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::graphics {
 
 /// `image` at `size` for a look at it on a screen, in a fraction of the time of `Image::scaledTo`.
 ///
@@ -11,4 +11,4 @@ namespace brenvaldo::platform {
 /// Pictures with alpha and those that hardly shrink are left to `scaledTo`.
 [[nodiscard]] Image scaledForScreen(const Image& image, PixelSize size);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::graphics

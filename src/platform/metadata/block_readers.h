@@ -11,20 +11,20 @@
 /// The bytes may be damaged or hostile: what can't be read is left out, nothing is read beyond the
 /// end, and the work is bounded by the size of the file.
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
-[[nodiscard]] MetadataBlocks readJpegBlocks(QByteArrayView file);
-[[nodiscard]] MetadataBlocks readPngBlocks(QByteArrayView file);
+[[nodiscard]] containers::MetadataBlocks readJpegBlocks(QByteArrayView file);
+[[nodiscard]] containers::MetadataBlocks readPngBlocks(QByteArrayView file);
 /// TIFF and BigTIFF: the tags of the first directory that do not describe its pixels, with the
 /// directories of EXIF and GPS below it, as an EXIF block of their own.
-[[nodiscard]] MetadataBlocks readTiffBlocks(QByteArrayView file);
+[[nodiscard]] containers::MetadataBlocks readTiffBlocks(QByteArrayView file);
 /// HEIC, HEIF and AVIF.
-[[nodiscard]] MetadataBlocks readHeifBlocks(QByteArrayView file);
-[[nodiscard]] MetadataBlocks readJpeg2000Blocks(QByteArrayView file);
+[[nodiscard]] containers::MetadataBlocks readHeifBlocks(QByteArrayView file);
+[[nodiscard]] containers::MetadataBlocks readJpeg2000Blocks(QByteArrayView file);
 /// The boxes of the container; those that are compressed are left out.
-[[nodiscard]] MetadataBlocks readJpegXlBlocks(QByteArrayView file);
-[[nodiscard]] MetadataBlocks readWebpBlocks(QByteArrayView file);
-[[nodiscard]] MetadataBlocks readGifBlocks(QByteArrayView file);
-[[nodiscard]] MetadataBlocks readPsdBlocks(QByteArrayView file);
+[[nodiscard]] containers::MetadataBlocks readJpegXlBlocks(QByteArrayView file);
+[[nodiscard]] containers::MetadataBlocks readWebpBlocks(QByteArrayView file);
+[[nodiscard]] containers::MetadataBlocks readGifBlocks(QByteArrayView file);
+[[nodiscard]] containers::MetadataBlocks readPsdBlocks(QByteArrayView file);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

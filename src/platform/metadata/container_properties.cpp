@@ -13,7 +13,12 @@
 #include <array>
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+using containers::ByteOrder;
+using containers::Container;
+using containers::PngChunk;
+using containers::unsignedAt;
 
 namespace {
 
@@ -67,11 +72,11 @@ void takeJfif(QByteArrayView payload, ContainerProperties& properties)
 void takeJpeg(QByteArrayView file, ContainerProperties& properties)
 {
     constexpr std::uint8_t progressiveFrame = 0xC2;
-    const auto header = readJpegHeader(file);
+    const auto header = containers::readJpegHeader(file);
     if (!header)
         return;
-    for (const JpegSegment& segment : header->segments) {
-        if (segment.marker == jpeg::app0 && properties.jfif.isEmpty())
+    for (const containers::JpegSegment& segment : header->segments) {
+        if (segment.marker == containers::jpeg::app0 && properties.jfif.isEmpty())
             takeJfif(segment.payload, properties);
         if (segment.marker == progressiveFrame)
             properties.jfif.insert(keyOf("IsProgressive"), true);
@@ -118,7 +123,7 @@ void takePngText(const PngChunk& chunk, PropertyDictionary& png)
         keyOf("Warning"),
         keyOf("Source"),
         keyOf("Comment")};
-    const auto text = pngText(chunk);
+    const auto text = containers::pngText(chunk);
     if (!text)
         return;
     const QString keyword = QString::fromLatin1(text->keyword);
@@ -154,7 +159,7 @@ void takePngHeader(QByteArrayView data, ContainerProperties& properties)
 void takePng(QByteArrayView file, ContainerProperties& properties)
 {
     constexpr double gammaUnit = 100000;
-    const QList<PngChunk> chunks = readPngChunks(file).value_or(QList<PngChunk>());
+    const QList<PngChunk> chunks = containers::readPngChunks(file).value_or(QList<PngChunk>());
     for (const PngChunk& chunk : chunks) {
         if (chunk.type == QByteArrayView("IHDR")) {
             takePngHeader(chunk.data, properties);
@@ -181,14 +186,14 @@ void takeTiff(QByteArrayView file, ContainerProperties& properties)
     constexpr std::uint16_t sampleFormat = 339;
     constexpr std::uint64_t palette = 3;
     constexpr std::uint64_t floatingPoint = 3;
-    const auto tiff = TiffFile::open(file);
+    const auto tiff = containers::TiffFile::open(file);
     if (!tiff)
         return;
-    const TiffDirectory image = tiff->firstDirectory();
+    const containers::TiffDirectory image = tiff->firstDirectory();
     const auto firstValue = [&](std::uint16_t tag) -> std::uint64_t {
-        const TiffField* field = fieldOf(image, tag);
+        const containers::TiffField* field = containers::fieldOf(image, tag);
         const QList<std::uint64_t> values
-            = field ? unsignedValues(*field, tiff->order()) : QList<std::uint64_t>();
+            = field ? containers::unsignedValues(*field, tiff->order()) : QList<std::uint64_t>();
         return values.isEmpty() ? 0 : values.first();
     };
     properties.isIndexed = firstValue(photometric) == palette;
@@ -247,7 +252,7 @@ void takeBmp(QByteArrayView file, ContainerProperties& properties)
 ContainerProperties containerProperties(QByteArrayView file)
 {
     ContainerProperties properties;
-    const auto kind = fileKindOf(file);
+    const auto kind = containers::fileKindOf(file);
     if (!kind)
         return properties;
     switch (kind->container) {
@@ -272,4 +277,4 @@ ContainerProperties containerProperties(QByteArrayView file)
     return properties;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

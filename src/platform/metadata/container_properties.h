@@ -7,7 +7,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 /// What the structure of a file itself states, apart from its metadata blocks.
 struct ContainerProperties
@@ -24,4 +24,4 @@ struct ContainerProperties
 
 [[nodiscard]] ContainerProperties containerProperties(QByteArrayView file);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -5,7 +5,13 @@
 #include <array>
 #include <utility>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+namespace tiff = containers::tiff;
+using containers::ByteOrder;
+using containers::longField;
+using containers::TiffDirectory;
+using containers::TiffField;
 
 namespace {
 
@@ -55,7 +61,8 @@ TiffDirectory without(TiffDirectory directory, std::initializer_list<std::uint16
 
 QByteArray serialized(const TiffDirectory& directory, std::uint64_t offset, ByteOrder order)
 {
-    return directory.isEmpty() ? QByteArray() : serializedDirectory(directory, offset, order);
+    return directory.isEmpty() ? QByteArray()
+                               : containers::serializedDirectory(directory, offset, order);
 }
 
 /// Adds the fields that point from one directory to another, with no offsets yet.
@@ -139,7 +146,7 @@ bool describesStorage(std::uint16_t tag)
     });
 }
 
-ExifDirectories exifDirectoriesOf(const TiffFile& file)
+ExifDirectories exifDirectoriesOf(const containers::TiffFile& file)
 {
     const TiffDirectory image = file.firstDirectory();
     const TiffDirectory exif = file.subDirectory(image, tiff::ExifDirectory);
@@ -159,7 +166,7 @@ ExifDirectories inOrder(const ExifDirectories& directories, ByteOrder order)
         return result;
     for (TiffDirectory* directory :
          {&result.image, &result.exif, &result.gps, &result.interoperability})
-        *directory = swapped(*directory);
+        *directory = containers::swapped(*directory);
     return result;
 }
 
@@ -179,7 +186,7 @@ QByteArray serializedExif(const ExifDirectories& directories)
     if (makerNote)
         makerNote->valueOffset = plan.makerNote;
 
-    QByteArray block = tiffHeader(order, plan.image);
+    QByteArray block = containers::tiffHeader(order, plan.image);
     block.resize(static_cast<qsizetype>(plan.image), '\0');
     block += serialized(parts.image, plan.image, order);
     block += serialized(parts.gps, plan.gps, order);
@@ -193,4 +200,4 @@ QByteArray serializedExif(const ExifDirectories& directories)
     return block.replace(noteOffset, makerNote->value.size(), makerNote->value);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -3,17 +3,17 @@
 
 #include <platform/containers/tiff_directory.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 /// The directories of an EXIF block without its thumbnail: views into the bytes they were read
 /// from.
 struct ExifDirectories
 {
-    ByteOrder order = ByteOrder::Big;
-    TiffDirectory image = {};
-    TiffDirectory exif = {};
-    TiffDirectory gps = {};
-    TiffDirectory interoperability = {};
+    containers::ByteOrder order = containers::ByteOrder::Big;
+    containers::TiffDirectory image = {};
+    containers::TiffDirectory exif = {};
+    containers::TiffDirectory gps = {};
+    containers::TiffDirectory interoperability = {};
 };
 
 /// True for tags that tell how the pixels of a file are stored, and for those that stand in blocks
@@ -21,10 +21,11 @@ struct ExifDirectories
 [[nodiscard]] bool describesStorage(std::uint16_t tag);
 
 /// The directories of `file` without the tags that describe its storage.
-[[nodiscard]] ExifDirectories exifDirectoriesOf(const TiffFile& file);
+[[nodiscard]] ExifDirectories exifDirectoriesOf(const containers::TiffFile& file);
 
 /// The same directories with all numbers in the order `order`; the maker note stays as it is.
-[[nodiscard]] ExifDirectories inOrder(const ExifDirectories& directories, ByteOrder order);
+[[nodiscard]] ExifDirectories
+inOrder(const ExifDirectories& directories, containers::ByteOrder order);
 
 /// An EXIF block that holds the directories; empty when there are no fields.
 ///
@@ -32,4 +33,4 @@ struct ExifDirectories
 /// cameras hold offsets into the whole block.
 [[nodiscard]] QByteArray serializedExif(const ExifDirectories& directories);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -10,13 +10,17 @@
 #include <algorithm>
 #include <cmath>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+namespace tiff = containers::tiff;
+using containers::ByteOrder;
+using containers::TiffField;
 
 namespace {
 
 constexpr qsizetype characterCodeLength = 8;
 
-PropertyValue valueOf(const TiffNumber& number)
+PropertyValue valueOf(const containers::TiffNumber& number)
 {
     return std::visit([](auto value) { return PropertyValue(value); }, number);
 }
@@ -25,11 +29,12 @@ PropertyValue valueOf(const TiffNumber& number)
 /// known.
 PropertyValue::Array numbersOf(const TiffField& field, ByteOrder order)
 {
-    const int width = tiffTypeWidth(field.type);
+    const int width = containers::tiffTypeWidth(field.type);
     PropertyValue::Array numbers;
     bool isAnyKnown = false;
     for (qsizetype offset = 0; offset + width <= field.value.size(); offset += width) {
-        const auto number = tiffNumberAt(field, static_cast<std::uint64_t>(offset), order);
+        const auto number
+            = containers::tiffNumberAt(field, static_cast<std::uint64_t>(offset), order);
         isAnyKnown = isAnyKnown || number.has_value();
         numbers.append(number ? valueOf(*number) : PropertyValue(0));
     }
@@ -73,13 +78,14 @@ std::optional<PropertyValue> versionOf(const TiffField& field)
 QList<double> threeParts(const TiffField& field, ByteOrder order)
 {
     constexpr int parts = 3;
-    const int width = tiffTypeWidth(tiff::Rational);
+    const int width = containers::tiffTypeWidth(tiff::Rational);
     const bool isFraction = field.type == tiff::Rational || field.type == tiff::SignedRational;
     if (!isFraction || field.value.size() < width)
         return {};
     QList<double> values;
     for (int i = 0; i < parts; ++i) {
-        const auto value = tiffNumberAt(field, static_cast<std::uint64_t>(i * width), order);
+        const auto value
+            = containers::tiffNumberAt(field, static_cast<std::uint64_t>(i * width), order);
         // A camera without a fix writes fractions by 0 for the parts that it does not know.
         if (!value && i == 0)
             return {};
@@ -138,12 +144,13 @@ std::optional<PropertyValue> propertyOf(const TiffField& field, ExifRule rule, B
     return std::nullopt;
 }
 
-PropertyDictionary
-dictionaryOf(const TiffDirectory& directory, std::span<const ExifRow> rows, ByteOrder order)
+PropertyDictionary dictionaryOf(
+    const containers::TiffDirectory& directory, std::span<const ExifRow> rows, ByteOrder order
+)
 {
     PropertyDictionary properties;
     for (const ExifRow& row : rows) {
-        const TiffField* field = fieldOf(directory, row.tag);
+        const TiffField* field = containers::fieldOf(directory, row.tag);
         if (!field)
             continue;
         if (const auto value = propertyOf(*field, row.rule, order))
@@ -184,9 +191,9 @@ QString japaneseText(QByteArrayView bytes)
 
 } // namespace
 
-ExifProperties exifProperties(const TiffFile& file)
+ExifProperties exifProperties(const containers::TiffFile& file)
 {
-    const TiffDirectory image = file.firstDirectory();
+    const containers::TiffDirectory image = file.firstDirectory();
     const ByteOrder order = file.order();
     return {
         .exif = dictionaryOf(file.subDirectory(image, tiff::ExifDirectory), exifTable(), order),
@@ -214,4 +221,4 @@ QString metadataText(QByteArrayView bytes)
     return text.isValidUtf8() ? QString::fromUtf8(text) : QString::fromLatin1(text);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

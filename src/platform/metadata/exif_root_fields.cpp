@@ -3,7 +3,11 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+using containers::TiffDirectory;
+using containers::TiffField;
+using containers::TiffFile;
 
 namespace {
 
@@ -56,9 +60,9 @@ void cutOff(QByteArray& block, const TiffField& field)
 /// The bytes of the placed `directory` with the link that the first one of `file` has.
 QByteArray linked(const TiffDirectory& directory, const TiffFile& file)
 {
-    QByteArray bytes = serializedDirectory(directory, file.firstOffset(), file.order());
+    QByteArray bytes = containers::serializedDirectory(directory, file.firstOffset(), file.order());
     bytes.chop(4);
-    appendUnsigned(bytes, file.secondOffset(), 4, file.order());
+    containers::appendUnsigned(bytes, file.secondOffset(), 4, file.order());
     return bytes;
 }
 
@@ -71,13 +75,13 @@ QByteArray withRootFields(const QByteArray& exif, const TiffDirectory& fields)
         return exif;
     TiffDirectory directory = placedRoot(*file);
     for (const TiffField& field : fields)
-        replace(directory, field);
+        containers::replace(directory, field);
 
     QByteArray block = withoutLastRoot(exif, *file);
     const auto offset = static_cast<std::uint64_t>(block.size());
-    block.append(serializedDirectory(directory, offset, file->order()));
-    block.replace(0, tiffHeaderLength, tiffHeader(file->order(), offset));
-    setSecondOffset(block, file->secondOffset());
+    block.append(containers::serializedDirectory(directory, offset, file->order()));
+    block.replace(0, containers::tiffHeaderLength, containers::tiffHeader(file->order(), offset));
+    containers::setSecondOffset(block, file->secondOffset());
     return block;
 }
 
@@ -102,8 +106,10 @@ QByteArray withoutRootFields(const QByteArray& exif, const QList<std::uint16_t>&
     if (former < 0)
         return block.replace(offset, root.size(), root);
     return block.replace(
-        0, tiffHeaderLength, tiffHeader(file->order(), static_cast<std::uint64_t>(former))
+        0,
+        containers::tiffHeaderLength,
+        containers::tiffHeader(file->order(), static_cast<std::uint64_t>(former))
     );
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -3,7 +3,7 @@
 
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 namespace {
 
@@ -127,4 +127,4 @@ std::span<const ExifRow> tiffTable() { return tiffRows; }
 
 std::span<const ExifRow> gpsTable() { return gpsRows; }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 /// How the value of a tag becomes a property.
 enum class ExifRule {
@@ -29,4 +29,4 @@ struct ExifRow
 [[nodiscard]] std::span<const ExifRow> tiffTable();
 [[nodiscard]] std::span<const ExifRow> gpsTable();
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -6,7 +6,15 @@
 #include <algorithm>
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+namespace tiff = containers::tiff;
+using containers::ByteOrder;
+using containers::serializedDirectory;
+using containers::TiffDirectory;
+using containers::TiffField;
+using containers::TiffFile;
+using containers::tiffHeaderLength;
 
 namespace {
 
@@ -33,12 +41,12 @@ struct Range
 /// The pieces of the picture that `tags` describe.
 QList<Range> pictureRanges(const TiffDirectory& directory, PictureTags tags, ByteOrder order)
 {
-    const TiffField* offsetField = fieldOf(directory, tags.offsets);
-    const TiffField* lengthField = fieldOf(directory, tags.lengths);
+    const TiffField* offsetField = containers::fieldOf(directory, tags.offsets);
+    const TiffField* lengthField = containers::fieldOf(directory, tags.lengths);
     if (!offsetField || !lengthField)
         return {};
-    const QList<std::uint64_t> offsets = unsignedValues(*offsetField, order);
-    const QList<std::uint64_t> lengths = unsignedValues(*lengthField, order);
+    const QList<std::uint64_t> offsets = containers::unsignedValues(*offsetField, order);
+    const QList<std::uint64_t> lengths = containers::unsignedValues(*lengthField, order);
     QList<Range> ranges;
     for (qsizetype i = 0; i < std::min(offsets.size(), lengths.size()); ++i)
         ranges.append({.offset = offsets[i], .length = lengths[i]});
@@ -62,7 +70,7 @@ QList<Range> thumbnailRanges(const TiffFile& file, std::uint64_t entryCount)
 /// Copies what stands at `range` to the same place.
 void copyRange(QByteArray& to, QByteArrayView from, const Range& range)
 {
-    const auto bytes = sliceOf(from, range.offset, range.length);
+    const auto bytes = containers::sliceOf(from, range.offset, range.length);
     if (!bytes || range.offset < tiffHeaderLength)
         return;
     const auto place = static_cast<qsizetype>(range.offset);
@@ -79,7 +87,7 @@ void padToEven(QByteArray& block)
 
 QByteArray emptyBlock(ByteOrder order)
 {
-    QByteArray block = tiffHeader(order, tiffHeaderLength);
+    QByteArray block = containers::tiffHeader(order, tiffHeaderLength);
     block.append(serializedDirectory({}, tiffHeaderLength, order));
     return block;
 }
@@ -100,7 +108,7 @@ Pictures picturesOf(const TiffDirectory& directory, ByteOrder order, QByteArrayV
         QList<std::uint64_t> starts;
         const QList<Range> ranges = pictureRanges(directory, tags, order);
         for (const Range& range : ranges) {
-            const auto piece = sliceOf(source, range.offset, range.length);
+            const auto piece = containers::sliceOf(source, range.offset, range.length);
             if (!piece || bytes.size() + piece->size() > source.size())
                 break;
             starts.append(static_cast<std::uint64_t>(pictures.bytes.size() + bytes.size()));
@@ -123,7 +131,7 @@ void setOffsets(
     for (auto [tag, offsets] : pictures.starts) {
         for (std::uint64_t& offset : offsets)
             offset += base;
-        replace(directory, longField(tag, offsets, order));
+        containers::replace(directory, containers::longField(tag, offsets, order));
     }
 }
 
@@ -135,7 +143,7 @@ QByteArray thumbnailAlone(QByteArrayView exif)
     if (!file || file->isBig() || file->secondDirectory().isEmpty())
         return {};
     const std::uint64_t offset = file->secondOffset();
-    const auto count = unsignedAt(exif, offset, 2, file->order());
+    const auto count = containers::unsignedAt(exif, offset, 2, file->order());
 
     QByteArray block(tiffHeaderLength, '\0');
     // Ranges of an honest block do not overlap, but for a value that is the picture as well.
@@ -149,10 +157,12 @@ QByteArray thumbnailAlone(QByteArrayView exif)
     block.append(4, '\0'); // no third directory, should the second stand last
     padToEven(block);
     block.replace(
-        0, tiffHeaderLength, tiffHeader(file->order(), static_cast<std::uint64_t>(block.size()))
+        0,
+        tiffHeaderLength,
+        containers::tiffHeader(file->order(), static_cast<std::uint64_t>(block.size()))
     );
-    appendUnsigned(block, 0, 2, file->order());
-    appendUnsigned(block, offset, 4, file->order());
+    containers::appendUnsigned(block, 0, 2, file->order());
+    containers::appendUnsigned(block, offset, 4, file->order());
     return block;
 }
 
@@ -165,14 +175,14 @@ QByteArray withThumbnailOf(QByteArrayView source, const QByteArray& exif)
     padToEven(block);
     const auto target = TiffFile::open(block);
     const auto start = static_cast<std::uint64_t>(block.size());
-    if (!target || target->isBig() || !setSecondOffset(block, start))
+    if (!target || target->isBig() || !containers::setSecondOffset(block, start))
         return exif;
 
     const ByteOrder order = target->order();
     TiffDirectory directory = file->secondDirectory();
     const Pictures pictures = picturesOf(directory, file->order(), source);
     if (order != file->order())
-        directory = swapped(directory);
+        directory = containers::swapped(directory);
     setOffsets(directory, pictures, 0, order);
     const auto length
         = static_cast<std::uint64_t>(serializedDirectory(directory, start, order).size());
@@ -180,4 +190,4 @@ QByteArray withThumbnailOf(QByteArrayView source, const QByteArray& exif)
     return block + serializedDirectory(directory, start, order) + pictures.bytes;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

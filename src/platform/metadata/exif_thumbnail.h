@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 // The thumbnail of an EXIF block: its second directory, and the picture that this points to.
 
@@ -20,4 +20,4 @@ namespace brenvaldo::platform {
 /// `exif` as it stands when `source` has no thumbnail; the thumbnail alone when `exif` is empty.
 [[nodiscard]] QByteArray withThumbnailOf(QByteArrayView source, const QByteArray& exif);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -3,7 +3,10 @@
 
 #include <platform/containers/bytes.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+using containers::MetadataBlocks;
+using containers::sliceOf;
 
 namespace {
 
@@ -16,7 +19,7 @@ constexpr std::uint64_t xmpTrailerLength = 258;
 
 std::uint64_t byteAt(QByteArrayView file, std::uint64_t offset)
 {
-    return unsignedAt(file, offset, 1, ByteOrder::Little).value_or(0);
+    return containers::unsignedAt(file, offset, 1, containers::ByteOrder::Little).value_or(0);
 }
 
 /// Length in bytes of the palette that the flags announce.
@@ -82,4 +85,4 @@ MetadataBlocks readGifBlocks(QByteArrayView file)
     return blocks;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -12,7 +12,14 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+namespace tiff = containers::tiff;
+using containers::IsoBox;
+using containers::isoBox;
+using containers::isoBoxes;
+using containers::MetadataBlocks;
+using containers::tailOf;
 
 namespace {
 
@@ -20,7 +27,7 @@ using ItemId = std::uint64_t;
 
 std::uint64_t numberAt(QByteArrayView bytes, std::uint64_t offset, int width)
 {
-    return unsignedAt(bytes, offset, width, ByteOrder::Big).value_or(0);
+    return containers::unsignedAt(bytes, offset, width, containers::ByteOrder::Big).value_or(0);
 }
 
 /// What the item information tells about a piece of metadata.
@@ -37,7 +44,7 @@ std::optional<Item> itemOf(QByteArrayView info)
         return std::nullopt;
     const int idWidth = version == 2 ? 2 : 4;
     const auto typeOffset = static_cast<std::uint64_t>(4 + idWidth + 2);
-    const auto type = sliceOf(info, typeOffset, 4);
+    const auto type = containers::sliceOf(info, typeOffset, 4);
     if (!type)
         return std::nullopt;
     Item item{.id = numberAt(info, 4, idWidth), .type = type->toByteArray()};
@@ -76,7 +83,9 @@ QSet<ItemId> descriptionsOf(QByteArrayView references, ItemId primary)
             continue;
         const std::uint64_t count = numberAt(box.payload, step, 2);
         for (std::uint64_t i = 0; i < count; ++i) {
-            const auto to = unsignedAt(box.payload, step + 2 + i * step, idWidth, ByteOrder::Big);
+            const auto to = containers::unsignedAt(
+                box.payload, step + 2 + i * step, idWidth, containers::ByteOrder::Big
+            );
             if (!to)
                 break;
             if (*to == primary)
@@ -175,7 +184,7 @@ private:
             const std::uint64_t length = next(m_lengthWidth);
             const auto extent = m_lengthWidth == 0 || length == 0
                 ? std::optional(tailOf(place, offset))
-                : sliceOf(place, offset, length);
+                : containers::sliceOf(place, offset, length);
             // More than the whole file can only come from extents that overlap.
             if (!extent || data.size() + extent->size() > m_file.size())
                 return {};
@@ -207,14 +216,16 @@ void putFirst(QList<Item>& items, const QSet<ItemId>& ids)
 /// Parts the blocks that stand in the EXIF block from it.
 void takeRootBlocks(MetadataBlocks& blocks)
 {
-    const auto exif = TiffFile::open(blocks.exif);
+    const auto exif = containers::TiffFile::open(blocks.exif);
     if (!exif)
         return;
-    const TiffDirectory root = exif->firstDirectory();
+    const containers::TiffDirectory root = exif->firstDirectory();
     blocks.iptc = iptcOf(root);
     blocks.photoshop = blockOf(root, tiff::PhotoshopResources);
     if (blocks.iptc.isEmpty())
-        blocks.iptc = photoshopResourceData(blocks.photoshop, PhotoshopResourceId::Iptc);
+        blocks.iptc = containers::photoshopResourceData(
+            blocks.photoshop, containers::PhotoshopResourceId::Iptc
+        );
     blocks.exif = withoutRootFields(blocks.exif, {tiff::Iptc, tiff::PhotoshopResources});
 }
 
@@ -233,7 +244,7 @@ MetadataBlocks readHeifBlocks(QByteArrayView file)
     Locations locations(file, meta, isoBox(boxes, "iloc"));
     for (const Item& item : items) {
         if (item.type == "Exif" && blocks.exif.isEmpty())
-            blocks.exif = exifBehindOffset(locations.take(item.id));
+            blocks.exif = containers::exifBehindOffset(locations.take(item.id));
         else if (item.type == "application/rdf+xml" && blocks.xmp.isEmpty())
             blocks.xmp = locations.take(item.id);
     }
@@ -241,4 +252,4 @@ MetadataBlocks readHeifBlocks(QByteArrayView file)
     return blocks;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

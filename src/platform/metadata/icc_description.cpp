@@ -7,7 +7,9 @@
 
 #include <QStringDecoder>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+using containers::sliceOf;
 
 namespace {
 
@@ -16,7 +18,7 @@ constexpr std::uint64_t longestTable = 1000;
 
 std::uint64_t bigAt(QByteArrayView bytes, std::uint64_t offset, int width)
 {
-    return unsignedAt(bytes, offset, width, ByteOrder::Big).value_or(0);
+    return containers::unsignedAt(bytes, offset, width, containers::ByteOrder::Big).value_or(0);
 }
 
 QByteArrayView descriptionTag(QByteArrayView profile)
@@ -72,4 +74,4 @@ QString iccDescription(QByteArrayView profile)
     return text ? metadataText(*text) : QString();
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

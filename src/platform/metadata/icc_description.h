@@ -4,9 +4,9 @@
 #include <QByteArrayView>
 #include <QString>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 /// The English description of an ICC profile; "" when it has none or is damaged.
 [[nodiscard]] QString iccDescription(QByteArrayView profile);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

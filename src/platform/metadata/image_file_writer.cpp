@@ -13,7 +13,12 @@
 #include <platform/foundation/output_file.h>
 #include <platform/storage/atomic_file.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+using codecs::FileFormat;
+using containers::MetadataBlocks;
+using graphics::Image;
+using storage::AtomicFile;
 
 namespace {
 
@@ -53,12 +58,13 @@ bool writePieces(const QByteArrayList& pieces, const QString& path)
 /// in the EXIF block. Programs that look for IPTC in XMP alone find it there, if it is no other's.
 MetadataBlocks blocksForHeic(const MetadataBlocks& blocks, double dotsPerInch)
 {
-    TiffDirectory fields;
-    setBlock(fields, tiff::Iptc, blocks.iptc);
-    setBlock(fields, tiff::PhotoshopResources, blocks.photoshop);
-    const bool hasExif = TiffFile::open(blocks.exif).has_value();
+    containers::TiffDirectory fields;
+    setBlock(fields, containers::tiff::Iptc, blocks.iptc);
+    setBlock(fields, containers::tiff::PhotoshopResources, blocks.photoshop);
+    const bool hasExif = containers::TiffFile::open(blocks.exif).has_value();
     MetadataBlocks result;
-    result.exif = withRootFields(hasExif ? blocks.exif : exifOfResolution(dotsPerInch), fields);
+    result.exif
+        = withRootFields(hasExif ? blocks.exif : containers::exifOfResolution(dotsPerInch), fields);
     result.xmp = completeXmp(blocks);
     if (result.xmp.isEmpty())
         result.xmp = xmpFromIptc(blocks.iptc);
@@ -67,24 +73,24 @@ MetadataBlocks blocksForHeic(const MetadataBlocks& blocks, double dotsPerInch)
 
 bool encodeWithBlocks(const Image& image, const ImageFileRequest& request, const QString& path)
 {
-    EncodeOptions options{.lossyQuality = request.lossyQuality, .blocks = nullptr};
+    codecs::EncodeOptions options{.lossyQuality = request.lossyQuality, .blocks = nullptr};
     MetadataBlocks blocks;
     if (request.metadata && request.format == FileFormat::Heic) {
         blocks = blocksForHeic(*request.metadata, image.dotsPerInch());
         options.blocks = &blocks;
     }
-    return encode(image, request.format, options, path);
+    return codecs::encode(image, request.format, options, path);
 }
 
 bool encodeAndSplice(
     const Image& image, const ImageFileRequest& request, Splicer splicer, const AtomicFile& target
 )
 {
-    const TemporaryFile encoded(target.folder());
-    const EncodeOptions options{.lossyQuality = request.lossyQuality, .blocks = nullptr};
-    if (!encode(image, request.format, options, encoded.path()))
+    const storage::TemporaryFile encoded(target.folder());
+    const codecs::EncodeOptions options{.lossyQuality = request.lossyQuality, .blocks = nullptr};
+    if (!codecs::encode(image, request.format, options, encoded.path()))
         return false;
-    const MappedFile file(encoded.path());
+    const containers::MappedFile file(encoded.path());
     const auto pieces = splicer(file.bytes(), *request.metadata);
     if (!pieces)
         log(QStringLiteral("Failed to write metadata: the file can't hold it"));
@@ -117,4 +123,4 @@ bool writeImageFile(const Image& image, const ImageFileRequest& request, const Q
     return isWritten;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -7,16 +7,16 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 struct ImageFileRequest
 {
-    FileFormat format = FileFormat::Png;
+    codecs::FileFormat format = codecs::FileFormat::Png;
     /// 0 to 1, JPEG only; not set: the platform's default quality.
     std::optional<double> lossyQuality = {};
     /// Metadata to carry over bit-exactly into PNG, TIFF, JPEG and HEIC; null: none. In a HEIC,
     /// IPTC becomes XMP as well when there is no XMP yet.
-    const MetadataBlocks* metadata = nullptr;
+    const containers::MetadataBlocks* metadata = nullptr;
 };
 
 /// Writes `image` as a whole file at `path`, or nothing: an existing file is replaced only on
@@ -24,6 +24,6 @@ struct ImageFileRequest
 ///
 /// `path` may be the file that `image` is read from.
 [[nodiscard]] bool
-writeImageFile(const Image& image, const ImageFileRequest& request, const QString& path);
+writeImageFile(const graphics::Image& image, const ImageFileRequest& request, const QString& path);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

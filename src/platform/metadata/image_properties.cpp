@@ -14,14 +14,16 @@
 
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+using graphics::ColorModel;
 
 namespace {
 
 /// Everything that the dictionary is made of.
 struct Facts
 {
-    ImageHeader header;
+    codecs::ImageHeader header;
     QByteArray iccProfile;
     ContainerProperties container;
     ExifProperties exif;
@@ -175,12 +177,12 @@ PropertyDictionary dictionaryOf(const Facts& facts)
 
 std::optional<PropertyDictionary> imageProperties(const QString& path)
 {
-    const auto source = ImageSource::open(path);
+    const auto source = codecs::ImageSource::open(path);
     const auto blocks = readMetadataBlocks(path);
     if (!source || !blocks)
         return std::nullopt;
 
-    const MappedFile file(path);
+    const containers::MappedFile file(path);
     const XmpValues xmp(completeXmp(*blocks));
     Facts facts;
     facts.header = source->header();
@@ -188,9 +190,9 @@ std::optional<PropertyDictionary> imageProperties(const QString& path)
         facts.iccProfile = image->iccProfile();
     facts.container = containerProperties(file.bytes());
     // A TIFF is its own block: the tags of its storage count as well.
-    auto exif = TiffFile::open(file.bytes());
+    auto exif = containers::TiffFile::open(file.bytes());
     if (!exif)
-        exif = TiffFile::open(blocks->exif);
+        exif = containers::TiffFile::open(blocks->exif);
     if (exif)
         facts.exif = exifProperties(*exif);
     facts.iptc = iptcProperties(blocks->iptc, xmp, facts.exif);
@@ -198,4 +200,4 @@ std::optional<PropertyDictionary> imageProperties(const QString& path)
     return dictionaryOf(facts);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -8,7 +8,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 /// Keys of the property dictionary, named after the platform's constants.
 namespace property {
@@ -65,4 +65,4 @@ inline constexpr QLatin1StringView iptcWriterEditor("Writer/Editor");
 /// has no value for them.
 [[nodiscard]] std::optional<PropertyDictionary> imageProperties(const QString& path);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -11,7 +11,10 @@
 
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+using containers::ByteOrder;
+using containers::unsignedAt;
 
 namespace {
 
@@ -99,7 +102,7 @@ DataSets dataSetsOf(QByteArrayView iptc)
     while (unsignedAt(iptc, offset, 1, ByteOrder::Big) == 0x1CU) {
         const auto number = unsignedAt(iptc, offset + 1, 2, ByteOrder::Big);
         const auto length = unsignedAt(iptc, offset + 3, 2, ByteOrder::Big);
-        const auto value = sliceOf(iptc, offset + 5, length.value_or(0));
+        const auto value = containers::sliceOf(iptc, offset + 5, length.value_or(0));
         if (!number || !length || !value)
             break;
         sets[static_cast<int>(*number)].append(*value);
@@ -248,4 +251,4 @@ iptcProperties(QByteArrayView iim, const XmpValues& xmp, const ExifProperties& e
     return iptc;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -5,7 +5,7 @@
 
 #include <QByteArrayView>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 struct ExifProperties;
 class XmpValues;
@@ -17,4 +17,4 @@ class XmpValues;
 [[nodiscard]] PropertyDictionary
 iptcProperties(QByteArrayView iim, const XmpValues& xmp, const ExifProperties& exif);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -7,7 +7,7 @@
 
 #include <limits>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 QByteArray xmpFromIptc(const QByteArray& iptc)
 {
@@ -36,4 +36,4 @@ QByteArray xmpFromIptc(const QByteArray& iptc)
     }
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

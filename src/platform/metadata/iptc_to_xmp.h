@@ -3,10 +3,10 @@
 
 #include <QByteArray>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 /// An XMP packet with what the IIM data sets tell, for containers that hold no IPTC; empty when
 /// nothing in them has a counterpart.
 [[nodiscard]] QByteArray xmpFromIptc(const QByteArray& iptc);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

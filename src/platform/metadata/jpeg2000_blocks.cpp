@@ -6,7 +6,7 @@
 #include <platform/containers/jpeg_segments.h>
 #include <platform/containers/photoshop_resources.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 namespace {
 
@@ -38,16 +38,16 @@ bool isExifIdentifier(QByteArrayView identifier)
 
 QByteArray withoutExifHeader(QByteArrayView data)
 {
-    const bool hasHeader = data.startsWith(jpeg::exifHeader);
-    return data.sliced(hasHeader ? jpeg::exifHeader.size() : 0).toByteArray();
+    const bool hasHeader = data.startsWith(containers::jpeg::exifHeader);
+    return data.sliced(hasHeader ? containers::jpeg::exifHeader.size() : 0).toByteArray();
 }
 
 } // namespace
 
-MetadataBlocks readJpeg2000Blocks(QByteArrayView file)
+containers::MetadataBlocks readJpeg2000Blocks(QByteArrayView file)
 {
-    MetadataBlocks blocks;
-    for (const IsoBox& box : isoBoxes(file)) {
+    containers::MetadataBlocks blocks;
+    for (const containers::IsoBox& box : containers::isoBoxes(file)) {
         if (box.type != QByteArrayView("uuid") || box.payload.size() < identifierLength)
             continue;
         const QByteArrayView identifier = box.payload.first(identifierLength);
@@ -62,8 +62,10 @@ MetadataBlocks readJpeg2000Blocks(QByteArrayView file)
             blocks.photoshop = data.toByteArray();
     }
     if (blocks.iptc.isEmpty())
-        blocks.iptc = photoshopResourceData(blocks.photoshop, PhotoshopResourceId::Iptc);
+        blocks.iptc = containers::photoshopResourceData(
+            blocks.photoshop, containers::PhotoshopResourceId::Iptc
+        );
     return blocks;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -7,7 +7,11 @@
 #include <algorithm>
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+namespace jpeg = containers::jpeg;
+using containers::JpegSegment;
+using containers::MetadataBlocks;
 
 namespace {
 
@@ -51,7 +55,9 @@ public:
 
     MetadataBlocks blocks()
     {
-        m_blocks.iptc = photoshopResourceData(m_blocks.photoshop, PhotoshopResourceId::Iptc);
+        m_blocks.iptc = containers::photoshopResourceData(
+            m_blocks.photoshop, containers::PhotoshopResourceId::Iptc
+        );
         return m_blocks;
     }
 
@@ -66,7 +72,7 @@ private:
 
     bool takeExif(const JpegSegment& segment)
     {
-        const auto part = exifPartOf(segment, m_blocks.exif);
+        const auto part = containers::exifPartOf(segment, m_blocks.exif);
         if (part)
             m_blocks.exif.append(*part);
         return part.has_value();
@@ -95,7 +101,7 @@ private:
 
 MetadataBlocks readJpegBlocks(QByteArrayView file)
 {
-    const auto header = readJpegHeader(file);
+    const auto header = containers::readJpegHeader(file);
     if (!header)
         return {};
     Collector collector;
@@ -104,4 +110,4 @@ MetadataBlocks readJpegBlocks(QByteArrayView file)
     return collector.blocks();
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -6,7 +6,9 @@
 #include <platform/containers/jpeg_segments.h>
 #include <platform/containers/photoshop_resources.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+namespace jpeg = containers::jpeg;
 
 namespace {
 
@@ -16,16 +18,20 @@ QByteArrayList segmentsOf(std::uint8_t marker, QByteArrayView header, const QByt
     const qsizetype room = jpeg::longestPayload - header.size();
     QByteArrayList segments;
     for (qsizetype offset = 0; offset < data.size(); offset += room)
-        segments.append(jpegSegment(marker, header.toByteArray() + data.mid(offset, room)));
+        segments.append(
+            containers::jpegSegment(marker, header.toByteArray() + data.mid(offset, room))
+        );
     return segments;
 }
 
-QByteArrayList metadataSegments(const MetadataBlocks& blocks)
+QByteArrayList metadataSegments(const containers::MetadataBlocks& blocks)
 {
     QByteArrayList segments = segmentsOf(jpeg::app1, jpeg::exifHeader, blocks.exif);
     segments += xmpSegments(blocks.xmp);
     segments += segmentsOf(
-        jpeg::app13, jpeg::photoshopHeader, photoshopBlockWithIptc(blocks.photoshop, blocks.iptc)
+        jpeg::app13,
+        jpeg::photoshopHeader,
+        containers::photoshopBlockWithIptc(blocks.photoshop, blocks.iptc)
     );
     segments += blocks.jpegSegments;
     segments += segmentsOf(jpeg::comment, {}, blocks.comment);
@@ -34,9 +40,10 @@ QByteArrayList metadataSegments(const MetadataBlocks& blocks)
 
 } // namespace
 
-std::optional<QByteArrayList> splicedJpeg(QByteArrayView encoded, const MetadataBlocks& blocks)
+std::optional<QByteArrayList>
+splicedJpeg(QByteArrayView encoded, const containers::MetadataBlocks& blocks)
 {
-    const auto header = readJpegHeader(encoded);
+    const auto header = containers::readJpegHeader(encoded);
     if (!header || header->segments.isEmpty())
         return std::nullopt;
 
@@ -45,8 +52,8 @@ std::optional<QByteArrayList> splicedJpeg(QByteArrayView encoded, const Metadata
     qsizetype place = 2;
     if (hasJfif)
         place = header->segments.first().whole.end() - encoded.begin();
-    return QByteArrayList{viewed(encoded.first(place))} + metadataSegments(blocks)
-        + QByteArrayList{viewed(encoded.sliced(place))};
+    return QByteArrayList{containers::viewed(encoded.first(place))} + metadataSegments(blocks)
+        + QByteArrayList{containers::viewed(encoded.sliced(place))};
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

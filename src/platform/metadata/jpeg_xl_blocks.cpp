@@ -3,15 +3,15 @@
 
 #include <platform/containers/iso_boxes.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
-MetadataBlocks readJpegXlBlocks(QByteArrayView file)
+containers::MetadataBlocks readJpegXlBlocks(QByteArrayView file)
 {
-    const QList<IsoBox> boxes = isoBoxes(file);
-    MetadataBlocks blocks;
-    blocks.exif = exifBehindOffset(isoBox(boxes, "Exif"));
-    blocks.xmp = isoBox(boxes, "xml ").toByteArray();
+    const QList<containers::IsoBox> boxes = containers::isoBoxes(file);
+    containers::MetadataBlocks blocks;
+    blocks.exif = containers::exifBehindOffset(containers::isoBox(boxes, "Exif"));
+    blocks.xmp = containers::isoBox(boxes, "xml ").toByteArray();
     return blocks;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -6,11 +6,13 @@
 #include <platform/containers/mapped_file.h>
 #include <platform/containers/signatures.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+using containers::Container;
 
 namespace {
 
-MetadataBlocks blocksOf(Container container, QByteArrayView file)
+containers::MetadataBlocks blocksOf(Container container, QByteArrayView file)
 {
     switch (container) {
     case Container::Jpeg:
@@ -40,11 +42,11 @@ MetadataBlocks blocksOf(Container container, QByteArrayView file)
 
 } // namespace
 
-std::optional<MetadataBlocks> readMetadataBlocks(const QString& path)
+std::optional<containers::MetadataBlocks> readMetadataBlocks(const QString& path)
 {
-    const MappedFile file(path);
-    const auto kind = fileKindOf(file.bytes());
+    const containers::MappedFile file(path);
+    const auto kind = containers::fileKindOf(file.bytes());
     return kind ? std::optional(blocksOf(kind->container, file.bytes())) : std::nullopt;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

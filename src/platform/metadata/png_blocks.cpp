@@ -10,7 +10,11 @@
 #include <algorithm>
 #include <array>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+namespace jpeg = containers::jpeg;
+using containers::MetadataBlocks;
+using containers::PngChunk;
 
 namespace {
 
@@ -44,20 +48,22 @@ void takeProfile(const QByteArray& type, const QByteArray& data, MetadataBlocks&
         fill(blocks.xmp, data.sliced(jpeg::xmpHeader.size()));
     else if (type == "xmp")
         fill(blocks.xmp, data);
-    else if ((type == "iptc" || type == "8bim") && !photoshopResources(data).isEmpty())
+    else if ((type == "iptc" || type == "8bim") && !containers::photoshopResources(data).isEmpty())
         fill(blocks.photoshop, data);
     else if (type == "iptc")
         fill(blocks.iptc, data);
 }
 
-void takeText(const PngChunk& chunk, const PngText& text, MetadataBlocks& blocks)
+void takeText(const PngChunk& chunk, const containers::PngText& text, MetadataBlocks& blocks)
 {
     if (text.keyword == "XML:com.adobe.xmp") {
         fill(blocks.xmp, text.text);
         return;
     }
     if (text.keyword.startsWith(profilePrefix)) {
-        takeProfile(text.keyword.sliced(profilePrefix.size()), rawProfileData(text.text), blocks);
+        takeProfile(
+            text.keyword.sliced(profilePrefix.size()), containers::rawProfileData(text.text), blocks
+        );
         return;
     }
     if (text.keyword == "Comment")
@@ -70,7 +76,7 @@ void takeText(const PngChunk& chunk, const PngText& text, MetadataBlocks& blocks
 MetadataBlocks readPngBlocks(QByteArrayView file)
 {
     MetadataBlocks blocks;
-    const auto chunks = readPngChunks(file);
+    const auto chunks = containers::readPngChunks(file);
     if (!chunks)
         return blocks;
     for (const PngChunk& chunk : *chunks) {
@@ -80,12 +86,14 @@ MetadataBlocks readPngBlocks(QByteArrayView file)
             blocks.pngTextChunks.append(chunk.whole.toByteArray());
         else if (describesColors(chunk))
             blocks.pngColorChunks.append(chunk.whole.toByteArray());
-        else if (const auto text = pngText(chunk))
+        else if (const auto text = containers::pngText(chunk))
             takeText(chunk, *text, blocks);
     }
     if (blocks.iptc.isEmpty())
-        blocks.iptc = photoshopResourceData(blocks.photoshop, PhotoshopResourceId::Iptc);
+        blocks.iptc = containers::photoshopResourceData(
+            blocks.photoshop, containers::PhotoshopResourceId::Iptc
+        );
     return blocks;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -9,7 +9,10 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+using containers::PngChunk;
+using containers::viewed;
 
 namespace {
 
@@ -23,8 +26,8 @@ bool isAscii(const QByteArray& text)
 QByteArray commentChunk(const QByteArray& comment)
 {
     return isAscii(comment) || !comment.isValidUtf8()
-        ? pngChunk("tEXt", QByteArray("Comment\0", 8) + comment)
-        : pngInternationalText("Comment", comment);
+        ? containers::pngChunk("tEXt", QByteArray("Comment\0", 8) + comment)
+        : containers::pngInternationalText("Comment", comment);
 }
 
 bool holdsComment(const QByteArray& chunk)
@@ -32,19 +35,19 @@ bool holdsComment(const QByteArray& chunk)
     return QByteArrayView(chunk).sliced(8).startsWith(QByteArrayView("Comment\0", 8));
 }
 
-QByteArrayList metadataChunks(const MetadataBlocks& blocks)
+QByteArrayList metadataChunks(const containers::MetadataBlocks& blocks)
 {
     QByteArrayList chunks;
     // The format allows no other bytes.
-    if (TiffFile::open(blocks.exif))
-        chunks.append(pngChunk("eXIf", blocks.exif));
+    if (containers::TiffFile::open(blocks.exif))
+        chunks.append(containers::pngChunk("eXIf", blocks.exif));
     const QByteArray xmp = completeXmp(blocks);
     if (!xmp.isEmpty())
-        chunks.append(pngInternationalText("XML:com.adobe.xmp", xmp));
+        chunks.append(containers::pngInternationalText("XML:com.adobe.xmp", xmp));
     // IPTC has no chunk of its own; the profile is the place where other programs look for it.
-    const QByteArray resources = photoshopBlockWithIptc(blocks.photoshop, blocks.iptc);
+    const QByteArray resources = containers::photoshopBlockWithIptc(blocks.photoshop, blocks.iptc);
     if (!resources.isEmpty())
-        chunks.append(rawProfileChunk("iptc", resources));
+        chunks.append(containers::rawProfileChunk("iptc", resources));
     chunks += blocks.pngTextChunks;
     const bool hasComment
         = std::any_of(blocks.pngTextChunks.begin(), blocks.pngTextChunks.end(), holdsComment);
@@ -56,7 +59,7 @@ QByteArrayList metadataChunks(const MetadataBlocks& blocks)
 QByteArray profileAmong(const QList<PngChunk>& chunks)
 {
     for (const PngChunk& chunk : chunks) {
-        const QByteArray profile = pngProfile(chunk);
+        const QByteArray profile = containers::pngProfile(chunk);
         if (!profile.isEmpty())
             return profile;
     }
@@ -67,7 +70,7 @@ QByteArray profileAmong(const QByteArrayList& wholeChunks)
 {
     QList<PngChunk> chunks;
     for (const QByteArray& whole : wholeChunks)
-        chunks.append(pngChunkOf(whole));
+        chunks.append(containers::pngChunkOf(whole));
     return profileAmong(chunks);
 }
 
@@ -80,9 +83,10 @@ bool keepsColors(const QList<PngChunk>& encoded, const QByteArrayList& colors)
 
 } // namespace
 
-std::optional<QByteArrayList> splicedPng(QByteArrayView encoded, const MetadataBlocks& blocks)
+std::optional<QByteArrayList>
+splicedPng(QByteArrayView encoded, const containers::MetadataBlocks& blocks)
 {
-    const auto chunks = readPngChunks(encoded);
+    const auto chunks = containers::readPngChunks(encoded);
     if (!chunks)
         return std::nullopt;
     const auto pixels = std::find_if(chunks->begin(), chunks->end(), [](const PngChunk& chunk) {
@@ -92,7 +96,7 @@ std::optional<QByteArrayList> splicedPng(QByteArrayView encoded, const MetadataB
         return std::nullopt;
 
     const bool isSameColors = keepsColors(*chunks, blocks.pngColorChunks);
-    QByteArrayList pieces{viewed(encoded.first(pngSignatureLength))};
+    QByteArrayList pieces{viewed(encoded.first(containers::pngSignatureLength))};
     for (auto chunk = chunks->begin(); chunk != pixels; ++chunk) {
         if (!isSameColors || chunk->type != QByteArrayView("iCCP"))
             pieces.append(viewed(chunk->whole));
@@ -103,4 +107,4 @@ std::optional<QByteArrayList> splicedPng(QByteArrayView encoded, const MetadataB
     return pieces + metadataChunks(blocks) + QByteArrayList{viewed(encoded.sliced(place))};
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 namespace {
 
@@ -173,4 +173,4 @@ bool operator==(const PropertyValue& left, const PropertyValue& right)
     return left.m_value == right.m_value;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -8,7 +8,7 @@
 #include <optional>
 #include <variant>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 class PropertyValue;
 
@@ -74,4 +74,4 @@ private:
     std::variant<qint64, double, bool, QString, Array, PropertyDictionary> m_value;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -4,13 +4,16 @@
 #include <platform/containers/bytes.h>
 #include <platform/containers/photoshop_resources.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+using containers::photoshopResourceData;
+using containers::PhotoshopResourceId;
 
 namespace {
 
 constexpr std::uint64_t headerLength = 26;
 
-bool standsInBlockOfItsOwn(const PhotoshopResource& resource)
+bool standsInBlockOfItsOwn(const containers::PhotoshopResource& resource)
 {
     return resource.id == static_cast<std::uint16_t>(PhotoshopResourceId::Exif)
         || resource.id == static_cast<std::uint16_t>(PhotoshopResourceId::Xmp)
@@ -19,19 +22,21 @@ bool standsInBlockOfItsOwn(const PhotoshopResource& resource)
 
 } // namespace
 
-MetadataBlocks readPsdBlocks(QByteArrayView file)
+containers::MetadataBlocks readPsdBlocks(QByteArrayView file)
 {
-    MetadataBlocks blocks;
-    const auto colourLength = unsignedAt(file, headerLength, 4, ByteOrder::Big);
+    containers::MetadataBlocks blocks;
+    const auto colourLength
+        = containers::unsignedAt(file, headerLength, 4, containers::ByteOrder::Big);
     if (!colourLength)
         return blocks;
     const std::uint64_t offset = headerLength + 4 + *colourLength;
-    const auto length = unsignedAt(file, offset, 4, ByteOrder::Big);
-    const auto resources = sliceOf(file, offset + 4, length.value_or(0));
+    const auto length = containers::unsignedAt(file, offset, 4, containers::ByteOrder::Big);
+    const auto resources = containers::sliceOf(file, offset + 4, length.value_or(0));
     if (!resources)
         return blocks;
 
-    for (const PhotoshopResource& resource : photoshopResources(*resources)) {
+    for (const containers::PhotoshopResource& resource :
+         containers::photoshopResources(*resources)) {
         if (!standsInBlockOfItsOwn(resource))
             blocks.photoshop.append(resource.whole);
     }
@@ -41,4 +46,4 @@ MetadataBlocks readPsdBlocks(QByteArrayView file)
     return blocks;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -9,7 +9,11 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+namespace tiff = containers::tiff;
+using containers::fieldOf;
+using containers::TiffDirectory;
 
 namespace {
 
@@ -23,12 +27,14 @@ bool describesThumbnail(const TiffDirectory& directory)
 /// Takes the resource that keeps nothing but a thumbnail out of `photoshop`.
 QByteArray takeThumbnailResource(QByteArray& photoshop)
 {
-    const QList<PhotoshopResource> resources = photoshopResources(photoshop);
+    const QList<containers::PhotoshopResource> resources
+        = containers::photoshopResources(photoshop);
     if (resources.isEmpty()
-        || resources.first().id != static_cast<std::uint16_t>(PhotoshopResourceId::Exif))
+        || resources.first().id
+            != static_cast<std::uint16_t>(containers::PhotoshopResourceId::Exif))
         return {};
     const QByteArray data = resources.first().data.toByteArray();
-    const auto block = TiffFile::open(data);
+    const auto block = containers::TiffFile::open(data);
     if (!block || !block->firstDirectory().isEmpty() || block->secondOffset() == 0)
         return {};
     photoshop.remove(0, resources.first().whole.size());
@@ -39,7 +45,7 @@ QByteArray takeThumbnailResource(QByteArray& photoshop)
 
 QByteArray blockOf(const TiffDirectory& directory, std::uint16_t tag)
 {
-    const TiffField* field = fieldOf(directory, tag);
+    const containers::TiffField* field = fieldOf(directory, tag);
     return field ? QByteArray(field->value.constData(), field->value.size()) : QByteArray();
 }
 
@@ -53,19 +59,19 @@ QByteArray iptcOf(const TiffDirectory& directory)
         && iptc[word - 1] == dataSetMarker;
     for (qsizetype start = 0; isTurned && start < iptc.size(); start += word)
         std::reverse(iptc.begin() + start, iptc.begin() + start + word);
-    return withoutIptcPadding(iptc);
+    return containers::withoutIptcPadding(iptc);
 }
 
 void setBlock(TiffDirectory& directory, std::uint16_t tag, const QByteArray& block)
 {
     if (!block.isEmpty())
-        replace(directory, {.tag = tag, .type = tiff::Byte, .value = block});
+        containers::replace(directory, {.tag = tag, .type = tiff::Byte, .value = block});
 }
 
-MetadataBlocks readTiffBlocks(QByteArrayView bytes)
+containers::MetadataBlocks readTiffBlocks(QByteArrayView bytes)
 {
-    MetadataBlocks blocks;
-    const auto file = TiffFile::open(bytes);
+    containers::MetadataBlocks blocks;
+    const auto file = containers::TiffFile::open(bytes);
     if (!file)
         return blocks;
     const TiffDirectory image = file->firstDirectory();
@@ -73,7 +79,9 @@ MetadataBlocks readTiffBlocks(QByteArrayView bytes)
     blocks.photoshop = blockOf(image, tiff::PhotoshopResources);
     blocks.iptc = iptcOf(image);
     if (blocks.iptc.isEmpty())
-        blocks.iptc = photoshopResourceData(blocks.photoshop, PhotoshopResourceId::Iptc);
+        blocks.iptc = containers::photoshopResourceData(
+            blocks.photoshop, containers::PhotoshopResourceId::Iptc
+        );
 
     blocks.exif = serializedExif(exifDirectoriesOf(*file));
     const QByteArray thumbnail = takeThumbnailResource(blocks.photoshop);
@@ -84,4 +92,4 @@ MetadataBlocks readTiffBlocks(QByteArrayView bytes)
     return blocks;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -10,7 +10,13 @@
 #include <algorithm>
 #include <limits>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+namespace tiff = containers::tiff;
+using containers::ByteOrder;
+using containers::TiffDirectory;
+using containers::TiffField;
+using containers::TiffFile;
 
 namespace {
 
@@ -26,10 +32,10 @@ std::uint64_t roundedUp(std::uint64_t value, std::uint64_t unit)
 bool hasByteSamples(const TiffDirectory& directory, ByteOrder order)
 {
     constexpr std::uint64_t bitsOfByte = 8;
-    const TiffField* bits = fieldOf(directory, tiff::BitsPerSample);
+    const TiffField* bits = containers::fieldOf(directory, tiff::BitsPerSample);
     if (!bits)
         return true;
-    const QList<std::uint64_t> values = unsignedValues(*bits, order);
+    const QList<std::uint64_t> values = containers::unsignedValues(*bits, order);
     return std::all_of(values.begin(), values.end(), [](std::uint64_t value) {
         return value <= bitsOfByte;
     });
@@ -61,12 +67,12 @@ TiffDirectory moved(const TiffDirectory& directory, const Move& move)
     TiffDirectory result;
     for (const TiffField& field : directory) {
         if (field.tag == tiff::StripOffsets || field.tag == tiff::TileOffsets) {
-            QList<std::uint64_t> offsets = unsignedValues(field, move.from);
+            QList<std::uint64_t> offsets = containers::unsignedValues(field, move.from);
             for (std::uint64_t& offset : offsets)
                 offset += move.shift;
-            result.append(longField(field.tag, offsets, move.to));
+            result.append(containers::longField(field.tag, offsets, move.to));
         } else {
-            result.append(move.from == move.to ? field : swapped(field));
+            result.append(move.from == move.to ? field : containers::swapped(field));
         }
     }
     return result;
@@ -81,12 +87,14 @@ QByteArray withThumbnailResource(const QByteArray& photoshop, const QByteArray& 
     const QByteArray thumbnail = thumbnailAlone(exif);
     if (thumbnail.isEmpty())
         return photoshop;
-    return photoshopResource(PhotoshopResourceId::Exif, thumbnail) + photoshop;
+    return containers::photoshopResource(containers::PhotoshopResourceId::Exif, thumbnail)
+        + photoshop;
 }
 
 } // namespace
 
-std::optional<QByteArrayList> splicedTiff(QByteArrayView encoded, const MetadataBlocks& blocks)
+std::optional<QByteArrayList>
+splicedTiff(QByteArrayView encoded, const containers::MetadataBlocks& blocks)
 {
     const auto target = TiffFile::open(encoded);
     if (!target || target->isBig())
@@ -107,20 +115,21 @@ std::optional<QByteArrayList> splicedTiff(QByteArrayView encoded, const Metadata
     if (source) {
         for (const TiffField& field : source->firstDirectory()) {
             if (!describesStorage(field.tag))
-                replace(directory, field);
+                containers::replace(directory, field);
         }
     }
     setBlock(directory, tiff::Xmp, completeXmp(blocks));
     setBlock(directory, tiff::PhotoshopResources, withThumbnailResource(blocks.photoshop, exif));
     setBlock(directory, tiff::Iptc, blocks.iptc);
     const QByteArray tail = QByteArray(static_cast<qsizetype>(directoryOffset - end), '\0')
-        + serializedDirectory(directory, directoryOffset, order);
+        + containers::serializedDirectory(directory, directoryOffset, order);
     if (end + static_cast<std::uint64_t>(tail.size()) > std::numeric_limits<std::uint32_t>::max())
         return std::nullopt;
 
-    QByteArray head = tiffHeader(order, directoryOffset) + exif.mid(headerLength);
+    QByteArray head = containers::tiffHeader(order, directoryOffset) + exif.mid(headerLength);
     head.resize(static_cast<qsizetype>(headerLength + shift), '\0');
-    return QByteArrayList{head, viewed(tailOf(encoded, headerLength)), tail};
+    return QByteArrayList{
+        head, containers::viewed(containers::tailOf(encoded, headerLength)), tail};
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

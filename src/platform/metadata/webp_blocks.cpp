@@ -4,20 +4,22 @@
 #include <platform/containers/bytes.h>
 #include <platform/containers/jpeg_segments.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
-MetadataBlocks readWebpBlocks(QByteArrayView file)
+containers::MetadataBlocks readWebpBlocks(QByteArrayView file)
 {
-    MetadataBlocks blocks;
+    containers::MetadataBlocks blocks;
     std::uint64_t offset = 12; // "RIFF", the length of the file, "WEBP"
-    while (const auto length = unsignedAt(file, offset + 4, 4, ByteOrder::Little)) {
-        const auto type = sliceOf(file, offset, 4);
-        const auto data = sliceOf(file, offset + 8, *length);
+    while (const auto length
+           = containers::unsignedAt(file, offset + 4, 4, containers::ByteOrder::Little)) {
+        const auto type = containers::sliceOf(file, offset, 4);
+        const auto data = containers::sliceOf(file, offset + 8, *length);
         if (!type || !data)
             break;
         if (*type == QByteArrayView("EXIF") && blocks.exif.isEmpty()) {
-            const bool hasHeader = data->startsWith(jpeg::exifHeader);
-            blocks.exif = data->sliced(hasHeader ? jpeg::exifHeader.size() : 0).toByteArray();
+            const bool hasHeader = data->startsWith(containers::jpeg::exifHeader);
+            blocks.exif
+                = data->sliced(hasHeader ? containers::jpeg::exifHeader.size() : 0).toByteArray();
         } else if (*type == QByteArrayView("XMP ") && blocks.xmp.isEmpty()) {
             blocks.xmp = data->toByteArray();
         }
@@ -26,4 +28,4 @@ MetadataBlocks readWebpBlocks(QByteArrayView file)
     return blocks;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

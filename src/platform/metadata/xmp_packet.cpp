@@ -8,7 +8,10 @@
 
 #include <algorithm>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
+
+namespace jpeg = containers::jpeg;
+using containers::ByteOrder;
 
 namespace {
 
@@ -30,17 +33,20 @@ struct Piece
 
 std::optional<Piece> pieceOf(QByteArrayView segment)
 {
-    const QByteArrayView payload = tailOf(segment, segmentHead);
+    const QByteArrayView payload = containers::tailOf(segment, segmentHead);
     if (!payload.startsWith(jpeg::extendedXmpHeader))
         return std::nullopt;
     const QByteArrayView fields = payload.sliced(jpeg::extendedXmpHeader.size());
-    const auto guid = sliceOf(fields, 0, guidLength);
-    const auto total = unsignedAt(fields, guidLength, 4, ByteOrder::Big);
-    const auto offset = unsignedAt(fields, guidLength + 4, 4, ByteOrder::Big);
+    const auto guid = containers::sliceOf(fields, 0, guidLength);
+    const auto total = containers::unsignedAt(fields, guidLength, 4, ByteOrder::Big);
+    const auto offset = containers::unsignedAt(fields, guidLength + 4, 4, ByteOrder::Big);
     if (!guid || !total || !offset)
         return std::nullopt;
     return Piece{
-        .guid = *guid, .total = *total, .offset = *offset, .data = tailOf(fields, guidLength + 8)};
+        .guid = *guid,
+        .total = *total,
+        .offset = *offset,
+        .data = containers::tailOf(fields, guidLength + 8)};
 }
 
 /// The identifier of the extended part that `packet` names; empty when it names none.
@@ -54,12 +60,12 @@ QByteArrayView announcedGuid(QByteArrayView packet)
     qsizetype start = name + property.size();
     while (start < packet.size() && !QByteArrayView("\"'>").contains(packet[start]))
         ++start;
-    return sliceOf(packet, static_cast<std::uint64_t>(start + 1), guidLength)
+    return containers::sliceOf(packet, static_cast<std::uint64_t>(start + 1), guidLength)
         .value_or(QByteArrayView());
 }
 
 /// The pieces that belong to `packet`, put together; empty unless they fill the announced length.
-QByteArray extendedPart(const MetadataBlocks& blocks)
+QByteArray extendedPart(const containers::MetadataBlocks& blocks)
 {
     const QByteArrayView guid = announcedGuid(blocks.xmp);
     QList<Piece> pieces;
@@ -114,12 +120,12 @@ QByteArray packetThatExtendsTo(const QByteArray& guid)
 
 QByteArray xmpSegment(const QByteArray& packet)
 {
-    return jpegSegment(jpeg::app1, jpeg::xmpHeader.toByteArray() + packet);
+    return containers::jpegSegment(jpeg::app1, jpeg::xmpHeader.toByteArray() + packet);
 }
 
 } // namespace
 
-QByteArray completeXmp(const MetadataBlocks& blocks)
+QByteArray completeXmp(const containers::MetadataBlocks& blocks)
 {
     const QByteArray extended = extendedPart(blocks);
     const QByteArrayView descriptions = descriptionsOf(extended);
@@ -144,12 +150,14 @@ QByteArrayList xmpSegments(const QByteArray& packet)
     QByteArrayList segments{xmpSegment(packetThatExtendsTo(guid))};
     for (qsizetype offset = 0; offset < bare.size(); offset += longestPiece) {
         QByteArray payload = jpeg::extendedXmpHeader.toByteArray() + guid;
-        appendUnsigned(payload, static_cast<std::uint64_t>(bare.size()), 4, ByteOrder::Big);
-        appendUnsigned(payload, static_cast<std::uint64_t>(offset), 4, ByteOrder::Big);
+        containers::appendUnsigned(
+            payload, static_cast<std::uint64_t>(bare.size()), 4, ByteOrder::Big
+        );
+        containers::appendUnsigned(payload, static_cast<std::uint64_t>(offset), 4, ByteOrder::Big);
         payload.append(bare.mid(offset, longestPiece));
-        segments.append(jpegSegment(jpeg::app1, payload));
+        segments.append(containers::jpegSegment(jpeg::app1, payload));
     }
     return segments;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -3,7 +3,7 @@
 
 #include <exiv2/exiv2.hpp>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 std::unique_lock<std::mutex> lockedXmpParser()
 {
@@ -16,4 +16,4 @@ std::unique_lock<std::mutex> lockedXmpParser()
     return std::unique_lock(mutex);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -5,7 +5,7 @@
 
 #include <exiv2/exiv2.hpp>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 namespace {
 
@@ -75,4 +75,4 @@ QStringList XmpValues::texts(const QByteArray& key) const
     }
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::metadata {
 
 /// The values of an XMP packet; none when the packet is empty or damaged.
 class XmpValues
@@ -28,4 +28,4 @@ private:
     std::unique_ptr<Data> m_data;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::metadata

@@ -12,7 +12,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -94,4 +94,4 @@ bool writeFileAtomically(const QString& path, const QByteArray& contents)
     return file.finish() && target.commit();
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

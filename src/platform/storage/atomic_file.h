@@ -8,7 +8,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// A file that appears whole at its place, or not at all.
 ///
@@ -45,4 +45,4 @@ private:
 /// Writes `contents` as a whole file at `path`, or leaves what stands there.
 [[nodiscard]] bool writeFileAtomically(const QString& path, const QByteArray& contents);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QUrl>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// Hands files and addresses to the desktop; a script prints them instead.
 class Desktop
@@ -22,4 +22,4 @@ public:
     virtual void reveal(const QString& path) = 0;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

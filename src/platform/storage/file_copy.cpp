@@ -13,7 +13,7 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -88,4 +88,4 @@ void copyFolderAttributes(const SourceAndTarget& folders)
     copyModeAndDates(status, target.get());
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

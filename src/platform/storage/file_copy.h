@@ -3,7 +3,7 @@
 
 #include "file_system.h"
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// Copies one plain file whole or not at all, with its dates, mode and extended attributes. The
 /// target must be free.
@@ -12,4 +12,4 @@ namespace brenvaldo::platform {
 /// Gives a copied folder the dates, mode and extended attributes of its source.
 void copyFolderAttributes(const SourceAndTarget& folders);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

@@ -9,7 +9,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// An open file of the system.
 class FileDescriptor
@@ -38,4 +38,4 @@ private:
     int m_descriptor;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

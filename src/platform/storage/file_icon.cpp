@@ -14,7 +14,7 @@
 #include <QStandardPaths>
 #include <QUrl>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -58,4 +58,4 @@ void setFileIcon(const QString& path, const QImage& icon)
     process.startDetached();
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

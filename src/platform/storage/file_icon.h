@@ -4,7 +4,7 @@
 #include <QImage>
 #include <QString>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// Gives the file or folder at `path` an icon of its own in file managers that follow the desktop's
 /// file attributes.
@@ -13,4 +13,4 @@ namespace brenvaldo::platform {
 /// missing file or a null picture, nothing happens.
 void setFileIcon(const QString& path, const QImage& icon);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

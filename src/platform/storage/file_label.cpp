@@ -8,7 +8,7 @@
 
 #include <sys/xattr.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -56,4 +56,4 @@ std::optional<int> fileLabel(const QString& path)
     return serverLabel(path);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

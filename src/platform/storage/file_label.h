@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// The colour label of a file: 0 none, 1 grey, 2 green, 3 purple, 4 blue, 5 yellow, 6 red, 7
 /// orange.
@@ -15,4 +15,4 @@ namespace brenvaldo::platform {
 /// file.
 [[nodiscard]] std::optional<int> fileLabel(const QString& path);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

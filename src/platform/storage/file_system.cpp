@@ -20,7 +20,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -230,4 +230,4 @@ QList<FolderEntry> folderTree(const QString& folder)
     return tree;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

@@ -12,7 +12,7 @@
 /// Operations on files and folders by the rules of the platform: none of them replaces an existing
 /// target, and none asks. Results tell success; a failure leaves no half-made file behind.
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// True when something stands at `path`; a symbolic link counts as what it leads to.
 [[nodiscard]] bool fileExists(const QString& path);
@@ -73,4 +73,4 @@ folderEntries(const QString& folder, HiddenFiles hidden = HiddenFiles::Skipped);
 /// ones are left out with all that they hold, links are not followed.
 [[nodiscard]] QList<FolderEntry> folderTree(const QString& folder);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

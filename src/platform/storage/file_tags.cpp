@@ -5,7 +5,7 @@
 
 #include <sys/xattr.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 bool setFileTags(const QString& path, const QStringList& tags)
 {
@@ -20,4 +20,4 @@ bool setFileTags(const QString& path, const QStringList& tags)
         == 0;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -53,4 +53,4 @@ bool renameToFreeName(const QByteArray& source, const QByteArray& target)
         || (isWithoutLinks(errno) && renameAfterALook(source, target));
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

@@ -15,7 +15,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -79,4 +79,4 @@ void removeAbandonedFiles(const QString& folder)
     }
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

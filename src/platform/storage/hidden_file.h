@@ -6,7 +6,7 @@
 
 #include <functional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// Tries hidden names of `folder` until `make` succeeds with one, or fails for another reason than
 /// that it is taken. The names are short: those of targets may be as long as a name can be. "" when
@@ -21,4 +21,4 @@ hiddenName(const QString& folder, const std::function<bool(const QByteArray&)>& 
 /// Removes the hidden files of `folder` that processes of this user were killed over.
 void removeAbandonedFiles(const QString& folder);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

@@ -8,7 +8,7 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -206,4 +206,4 @@ bool writePropertyList(const QString& path, const QVariantMap& dictionary)
     return Writer(contents).write(dictionary) && writeFileAtomically(path, contents);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

@@ -10,7 +10,7 @@
 /// Property lists: dictionaries kept as XML. Values are texts, 64-bit integers, doubles, booleans,
 /// dates (UTC, whole seconds), bytes, lists and dictionaries.
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// The dictionary in the file; nothing when the file is missing, damaged, or holds anything else.
 [[nodiscard]] std::optional<QVariantMap> readPropertyList(const QString& path);
@@ -19,4 +19,4 @@ namespace brenvaldo::platform {
 /// is of no kind that a property list knows.
 [[nodiscard]] bool writePropertyList(const QString& path, const QVariantMap& dictionary);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

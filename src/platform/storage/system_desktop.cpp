@@ -8,7 +8,7 @@
 #include <QDesktopServices>
 #include <QFileInfo>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -77,4 +77,4 @@ void SystemDesktop::reveal(const QString& path)
     );
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

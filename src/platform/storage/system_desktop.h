@@ -7,7 +7,7 @@
 
 #include <functional>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// The desktop that the program runs on. Nothing here waits for another program.
 class SystemDesktop : public Desktop
@@ -30,4 +30,4 @@ private:
     QObject m_context; ///< drops the answers of the file manager that come after this desktop
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

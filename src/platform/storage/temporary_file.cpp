@@ -14,7 +14,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -131,4 +131,4 @@ void TemporaryFile::close()
     m_path.clear();
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

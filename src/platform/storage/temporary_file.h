@@ -3,7 +3,7 @@
 
 #include <QString>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// An empty file of a folder's file system to write into by its path.
 ///
@@ -50,4 +50,4 @@ private:
     bool m_isHidden = false;
 };
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

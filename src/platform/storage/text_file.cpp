@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QStringDecoder>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 std::optional<QString> readTextFile(const QString& path)
 {
@@ -18,4 +18,4 @@ std::optional<QString> readTextFile(const QString& path)
     return text;
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

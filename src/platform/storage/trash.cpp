@@ -12,7 +12,7 @@
 #include <QFileInfo>
 #include <QUrl>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 namespace {
 
@@ -80,4 +80,4 @@ bool moveToTrash(const QString& path)
     return fileExists(path) && QFile::moveToTrash(path);
 }
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

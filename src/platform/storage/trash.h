@@ -3,7 +3,7 @@
 
 #include <QString>
 
-namespace brenvaldo::platform {
+namespace brenvaldo::platform::storage {
 
 /// Moves a file, a link (never what it leads to) or a folder to the user's trash, from where the
 /// desktop can restore it.
@@ -11,4 +11,4 @@ namespace brenvaldo::platform {
 /// False when it can't: nothing stands at `path`, or its volume has no trash. It then stays.
 [[nodiscard]] bool moveToTrash(const QString& path);
 
-} // namespace brenvaldo::platform
+} // namespace brenvaldo::platform::storage

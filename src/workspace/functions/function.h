@@ -89,8 +89,9 @@ struct PresetTable
 struct Function
 {
     /// The picture that a run would make of the photo at a path; nothing when it fails.
-    using Preview = std::function<
-        std::optional<platform::Image>(const Subsystems& subsystems, const QString& path)>;
+    using Preview = std::function<std::optional<platform::graphics::Image>(
+        const Subsystems& subsystems, const QString& path
+    )>;
 
     QLatin1String id;
     const char* title; ///< what a photographer calls it, in the context "FunctionTitle"

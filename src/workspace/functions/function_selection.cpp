@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/gui_controls.h>
 #include "selected_function.h"
+#include <workspace/gui_controls.h>
 
 #include "function_id.h"
 

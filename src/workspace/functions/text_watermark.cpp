@@ -16,7 +16,8 @@ void markWithText(const ListRun::Photos& photos)
     photos.subsystems.watermark.setWatermarkText(watermarkRun(photos), photos.sink);
 }
 
-std::optional<platform::Image> markedWithText(const Subsystems& subsystems, const QString& path)
+std::optional<platform::graphics::Image>
+markedWithText(const Subsystems& subsystems, const QString& path)
 {
     return subsystems.watermark.setWatermarkTextPreview(path);
 }

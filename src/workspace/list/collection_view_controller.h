@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <workspace/neighbours.h>
 #include "photo_list.h"
+#include <workspace/neighbours.h>
 #include <workspace/preview/photo_preview.h>
 
 #include <workspace/run/run_journal.h>
@@ -123,7 +123,7 @@ private:
     void showEffect(const QString& path);
     void layWatermarkOver();
     void swapTexts(controls::TextField& first, controls::TextField& second);
-    [[nodiscard]] std::optional<platform::Image> imageNamed(const QString& name) const;
+    [[nodiscard]] std::optional<platform::graphics::Image> imageNamed(const QString& name) const;
 
     panels::Panels& m_panels;
     panels::WindowControls& m_window;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "collection_view_controller.h"
 #include "list_entry.h"
-#include <workspace/preview/preview_switch.h>
 #include <workspace/functions/selected_function.h>
+#include <workspace/preview/preview_switch.h>
 
 #include <workspace/functions/function_id.h>
 #include <workspace/run/driver_messages.h>

@@ -14,13 +14,13 @@ namespace {
 
 struct FileSizes
 {
-    platform::PixelSize stored;
-    platform::PixelSize upright;
+    platform::graphics::PixelSize stored;
+    platform::graphics::PixelSize upright;
 };
 
 FileSizes sizesOf(const QString& path)
 {
-    const auto source = platform::ImageSource::open(path);
+    const auto source = platform::codecs::ImageSource::open(path);
     if (!source)
         return {};
     return {.stored = source->header().storedSize, .upright = source->header().uprightSize};
@@ -43,7 +43,7 @@ cCollectionViewItem namedEntry(const QString& path)
     return entry;
 }
 
-cCollectionViewItem measuredEntry(const QString& path, platform::PixelSize size)
+cCollectionViewItem measuredEntry(const QString& path, platform::graphics::PixelSize size)
 {
     cCollectionViewItem entry = namedEntry(path);
     entry.myPhotoOrientation = orientationLetter(size);
@@ -63,14 +63,14 @@ ListPicture fullPicture(const QString& path)
 
 } // namespace
 
-QString orientationLetter(platform::PixelSize size)
+QString orientationLetter(platform::graphics::PixelSize size)
 {
     if (size.width == size.height)
         return u"S"_qs;
     return size.width > size.height ? u"L"_qs : u"P"_qs;
 }
 
-QString sizeText(platform::PixelSize size, qint64 bytes)
+QString sizeText(platform::graphics::PixelSize size, qint64 bytes)
 {
     return pixelText(size.width) + u'x' + pixelText(size.height) + u"px | "_qs
         + imaging::DVImageHandling::hNSFileSizeToHumanNotification(static_cast<double>(bytes));

@@ -10,10 +10,10 @@
 namespace brenvaldo::workspace {
 
 /// "L" for a wide, "P" for a tall, "S" for a square picture.
-[[nodiscard]] QString orientationLetter(platform::PixelSize size);
+[[nodiscard]] QString orientationLetter(platform::graphics::PixelSize size);
 
 /// "4000x3000px | 2.10MB"; a side of 0 pixels prints nothing.
-[[nodiscard]] QString sizeText(platform::PixelSize size, qint64 bytes);
+[[nodiscard]] QString sizeText(platform::graphics::PixelSize size, qint64 bytes);
 
 /// An entry chosen for an image function: upright size, thumbnail, with its address.
 [[nodiscard]] cCollectionViewItem chosenEntry(const QString& path);

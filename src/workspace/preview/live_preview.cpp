@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/list/collection_view_controller.h>
 #include <workspace/functions/selected_function.h>
+#include <workspace/list/collection_view_controller.h>
 
 #include <platform/foundation/log.h>
 #include <workspace/functions/function_id.h>
@@ -110,7 +110,8 @@ void cCollectionViewController::callForTemplatePreview()
         m_panels.vwHtmlExport.tfHTMLfileName.setStringValue(templates.at(index).fileName);
 }
 
-std::optional<platform::Image> cCollectionViewController::imageNamed(const QString& name) const
+std::optional<platform::graphics::Image> cCollectionViewController::imageNamed(const QString& name
+) const
 {
     return m_neighbours.imageNamed ? m_neighbours.imageNamed(name) : std::nullopt;
 }

@@ -17,41 +17,42 @@ namespace {
 /// As many as are worth their memory: the one in view and the one before.
 constexpr qsizetype keptPhotos = 2;
 
-std::optional<platform::Image> openedForDrawing(const QString& path)
+std::optional<platform::graphics::Image> openedForDrawing(const QString& path)
 {
-    const auto source = platform::ImageSource::open(path);
+    const auto source = platform::codecs::ImageSource::open(path);
     if (!source)
         return std::nullopt;
     return source->uprightImage(
-        {.access = platform::ImageSource::Access::Random, .atLeast = std::nullopt}
+        {.access = platform::codecs::ImageSource::Access::Random, .atLeast = std::nullopt}
     );
 }
 
 /// `picture` in 8-bit sRGB; nothing when it is damaged.
-std::optional<platform::Image> screenPicture(const platform::Image& picture)
+std::optional<platform::graphics::Image> screenPicture(const platform::graphics::Image& picture)
 {
     const QImage drawn = picture.toQImage();
-    return drawn.isNull() ? std::nullopt : std::optional(platform::Image::fromQImage(drawn));
+    return drawn.isNull() ? std::nullopt
+                          : std::optional(platform::graphics::Image::fromQImage(drawn));
 }
 
 /// `picture`, which has alpha, as a layer that can be laid over a photo; nothing when it is
 /// damaged.
-std::optional<platform::Image> layerOf(const platform::Image& picture)
+std::optional<platform::graphics::Image> layerOf(const platform::graphics::Image& picture)
 {
-    const bool isLayer = picture.colorModel() == platform::ColorModel::Rgb
+    const bool isLayer = picture.colorModel() == platform::graphics::ColorModel::Rgb
         && picture.bitsPerComponent() == 8 && picture.iccProfile().isEmpty();
     return isLayer ? picture : screenPicture(picture);
 }
 
 /// `photo` in a form that takes a layer: floating-point samples are brought to 8 bits.
-std::optional<platform::Image> baseOf(const platform::Image& photo)
+std::optional<platform::graphics::Image> baseOf(const platform::graphics::Image& photo)
 {
     return photo.bitsPerComponent() <= 16 ? photo : screenPicture(photo);
 }
 
 } // namespace
 
-std::optional<platform::Image> PreviewPhotos::photo(const QString& path)
+std::optional<platform::graphics::Image> PreviewPhotos::photo(const QString& path)
 {
     const QFileInfo file(path);
     const auto found = std::find_if(m_kept.begin(), m_kept.end(), [&](const Kept& kept) {
@@ -74,21 +75,23 @@ std::optional<platform::Image> PreviewPhotos::photo(const QString& path)
     return image;
 }
 
-std::optional<platform::Image>
-composed(const std::optional<platform::Image>& photo, const std::optional<platform::Image>& overlay)
+std::optional<platform::graphics::Image> composed(
+    const std::optional<platform::graphics::Image>& photo,
+    const std::optional<platform::graphics::Image>& overlay
+)
 {
     if (!photo || !overlay)
         return photo ? photo : overlay;
-    if (platform::stampedPart(*overlay, *photo)) // draws the mark, in this thread
+    if (platform::drawing::stampedPart(*overlay, *photo)) // draws the mark, in this thread
         return overlay;
-    const platform::Image fitted = overlay->pixelSize() == photo->pixelSize()
+    const platform::graphics::Image fitted = overlay->pixelSize() == photo->pixelSize()
         ? *overlay
         : overlay->scaledTo(photo->pixelSize());
     if (!fitted.hasAlpha())
         return fitted;
     const auto base = baseOf(*photo);
     const auto layer = layerOf(fitted);
-    return base && layer ? platform::over(*base, *layer) : photo;
+    return base && layer ? platform::drawing::over(*base, *layer) : photo;
 }
 
 } // namespace brenvaldo::workspace

@@ -20,7 +20,7 @@ class PreviewPhotos
 {
 public:
     /// Nothing when the file can't be read.
-    [[nodiscard]] std::optional<platform::Image> photo(const QString& path);
+    [[nodiscard]] std::optional<platform::graphics::Image> photo(const QString& path);
 
 private:
     struct Kept
@@ -28,7 +28,7 @@ private:
         QString path;
         QDateTime modified;
         qint64 bytes = 0;
-        platform::Image image;
+        platform::graphics::Image image;
     };
 
     QList<Kept> m_kept;
@@ -36,8 +36,9 @@ private:
 
 /// `overlay` drawn over `photo` at the photo's size; the one that there is when there is only one.
 /// An overlay that is the photo with its mark stands for both, as it will be written.
-[[nodiscard]] std::optional<platform::Image> composed(
-    const std::optional<platform::Image>& photo, const std::optional<platform::Image>& overlay
+[[nodiscard]] std::optional<platform::graphics::Image> composed(
+    const std::optional<platform::graphics::Image>& photo,
+    const std::optional<platform::graphics::Image>& overlay
 );
 
 } // namespace brenvaldo::workspace

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <workspace/list/collection_view_controller.h>
 #include <workspace/functions/selected_function.h>
+#include <workspace/list/collection_view_controller.h>
 
 #include <workspace/functions/function_id.h>
 

@@ -13,8 +13,8 @@
 #include <platform/foundation/paths.h>
 #include <platform/storage/hidden_file.h>
 #include <workspace/functions/function_id.h>
-#include <workspace/preview/preview_switch.h>
 #include <workspace/functions/selected_function.h>
+#include <workspace/preview/preview_switch.h>
 
 #include <tuple>
 
@@ -67,7 +67,7 @@ void BatchDriver::hLoadImages()
         .function = function ? function->id : QLatin1String(),
         .destination = m_panels.vwMainDestination.tfImageDestinationFolder.stringValue(),
         .previewState = preview.keptState()};
-    platform::removeAbandonedFiles(press.destination);
+    platform::storage::removeAbandonedFiles(press.destination);
     if (function)
         std::visit([&](const auto& kind) { run(press, kind); }, function->run);
     else
@@ -230,7 +230,7 @@ PhotoOutput BatchDriver::outputOf(
 ) const
 {
     const QString extension = platform::pathExtension(path);
-    const QString fileUTI = platform::preferredTypeIdentifier(extension);
+    const QString fileUTI = platform::containers::preferredTypeIdentifier(extension);
     return {
         .photo
         = {.source = path, .destinationBase = destinationBase(destination, outputName(path))},

@@ -4,8 +4,8 @@
 #include "run_journal.h"
 
 #include <workspace/functions/functions.h>
-#include <workspace/neighbours.h>
 #include <workspace/list/photo_list.h>
+#include <workspace/neighbours.h>
 
 namespace brenvaldo::workspace {
 

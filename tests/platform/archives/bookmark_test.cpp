@@ -16,10 +16,10 @@ TEST(Bookmark, GivesThePathBackWhileItExists)
     const QString path = folder.path(QStringLiteral("ph\u00f6tos \U0001F4F7"));
     ASSERT_TRUE(QDir().mkdir(path));
 
-    const auto record = platform::bookmarkFor(path);
+    const auto record = platform::archives::bookmarkFor(path);
 
     ASSERT_TRUE(record);
-    EXPECT_EQ(platform::pathOfBookmark(*record), path);
+    EXPECT_EQ(platform::archives::pathOfBookmark(*record), path);
 }
 
 TEST(Bookmark, IsLostWithItsFolder)
@@ -27,29 +27,30 @@ TEST(Bookmark, IsLostWithItsFolder)
     const test::TemporaryFolder folder;
     const QString path = folder.path(QStringLiteral("gone"));
     ASSERT_TRUE(QDir().mkdir(path));
-    const auto record = platform::bookmarkFor(path);
+    const auto record = platform::archives::bookmarkFor(path);
     ASSERT_TRUE(QDir().rmdir(path));
 
     ASSERT_TRUE(record);
-    EXPECT_FALSE(platform::pathOfBookmark(*record));
+    EXPECT_FALSE(platform::archives::pathOfBookmark(*record));
 }
 
 TEST(Bookmark, CannotBeMadeForWhatDoesNotExist)
 {
-    EXPECT_FALSE(platform::bookmarkFor(QString()));
-    EXPECT_FALSE(platform::bookmarkFor(QStringLiteral("/no/such/folder")));
+    EXPECT_FALSE(platform::archives::bookmarkFor(QString()));
+    EXPECT_FALSE(platform::archives::bookmarkFor(QStringLiteral("/no/such/folder")));
 }
 
 TEST(Bookmark, RefusesForeignAndDamagedRecords)
 {
-    const QByteArray record = platform::bookmarkFor(QStringLiteral("/")).value_or(QByteArray());
-    ASSERT_TRUE(platform::pathOfBookmark(record));
+    const QByteArray record
+        = platform::archives::bookmarkFor(QStringLiteral("/")).value_or(QByteArray());
+    ASSERT_TRUE(platform::archives::pathOfBookmark(record));
 
-    EXPECT_FALSE(platform::pathOfBookmark(QByteArray()));
-    EXPECT_FALSE(platform::pathOfBookmark("/"));
-    EXPECT_FALSE(platform::pathOfBookmark(record.chopped(1)));
-    EXPECT_FALSE(platform::pathOfBookmark(QByteArray(record).replace("\x01", "\x02")));
-    EXPECT_FALSE(platform::pathOfBookmark(record + '\0'));
-    EXPECT_FALSE(platform::pathOfBookmark(record + "\xff\xfe"));
-    EXPECT_FALSE(platform::pathOfBookmark(record + QByteArray(100'000, 'x')));
+    EXPECT_FALSE(platform::archives::pathOfBookmark(QByteArray()));
+    EXPECT_FALSE(platform::archives::pathOfBookmark("/"));
+    EXPECT_FALSE(platform::archives::pathOfBookmark(record.chopped(1)));
+    EXPECT_FALSE(platform::archives::pathOfBookmark(QByteArray(record).replace("\x01", "\x02")));
+    EXPECT_FALSE(platform::archives::pathOfBookmark(record + '\0'));
+    EXPECT_FALSE(platform::archives::pathOfBookmark(record + "\xff\xfe"));
+    EXPECT_FALSE(platform::archives::pathOfBookmark(record + QByteArray(100'000, 'x')));
 }

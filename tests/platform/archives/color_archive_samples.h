@@ -18,7 +18,7 @@ struct ColorArchiveSample
     std::string name;
     ArchiveForm form;
     ArchiveUse use;
-    platform::ColorComponents components;
+    platform::archives::ColorComponents components;
     const char* base64;
 
     friend void PrintTo(const ColorArchiveSample& sample, std::ostream* out)

@@ -11,7 +11,7 @@
 #include <random>
 
 using namespace brenvaldo;
-using platform::ColorComponents;
+using platform::archives::ColorComponents;
 using test::ArchiveForm;
 using test::ColorArchiveSample;
 using test::DamagedColorArchive;
@@ -20,8 +20,8 @@ namespace {
 
 QString archiveOf(const ColorComponents& components, ArchiveForm form)
 {
-    return form == ArchiveForm::Color ? platform::colorArchive(components)
-                                      : platform::galleryColorArchive(components);
+    return form == ArchiveForm::Color ? platform::archives::colorArchive(components)
+                                      : platform::archives::galleryColorArchive(components);
 }
 
 QByteArray bytesOf(const ColorArchiveSample& sample)
@@ -49,7 +49,7 @@ class DamagedColorArchives : public testing::TestWithParam<DamagedColorArchive>
 
 TEST_P(ColorArchiveSamples, IsReadExactly)
 {
-    const auto found = platform::colorFromArchive(QString::fromLatin1(GetParam().base64));
+    const auto found = platform::archives::colorFromArchive(QString::fromLatin1(GetParam().base64));
 
     ASSERT_TRUE(found);
     EXPECT_EQ(*found, GetParam().components);
@@ -69,7 +69,7 @@ TEST_P(ColorArchiveSamples, IsRefusedWhenItsEndIsMissing)
     const QByteArray whole = bytesOf(GetParam());
 
     for (qsizetype size = 0; size < whole.size(); ++size)
-        EXPECT_FALSE(platform::colorFromArchive(textOf(whole.first(size)))) << size;
+        EXPECT_FALSE(platform::archives::colorFromArchive(textOf(whole.first(size)))) << size;
 }
 
 TEST_P(ColorArchiveSamples, NeverBreaksTheReaderWhenAByteIsDamaged)
@@ -82,7 +82,7 @@ TEST_P(ColorArchiveSamples, NeverBreaksTheReaderWhenAByteIsDamaged)
         for (int repeat = 0; repeat < 4; ++repeat) {
             QByteArray damaged = whole;
             damaged[position] = static_cast<char>(anyByte(random));
-            const auto found = platform::colorFromArchive(textOf(damaged));
+            const auto found = platform::archives::colorFromArchive(textOf(damaged));
             EXPECT_TRUE(!found || std::isfinite(found->front()));
         }
     }
@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(, ColorArchiveSamples, testing::ValuesIn(test::colorArc
 
 TEST_P(DamagedColorArchives, AreRefused)
 {
-    EXPECT_FALSE(platform::colorFromArchive(QString::fromLatin1(GetParam().base64)));
+    EXPECT_FALSE(platform::archives::colorFromArchive(QString::fromLatin1(GetParam().base64)));
 }
 
 INSTANTIATE_TEST_SUITE_P(, DamagedColorArchives, testing::ValuesIn(test::damagedColorArchives), rowName<DamagedColorArchive>);
@@ -104,8 +104,16 @@ TEST(ColorArchive, SurvivesARoundTripForEveryMixOfEndsAndMiddle)
         for (const float green : values) {
             for (const float blue : values) {
                 const ColorComponents color = {red, green, blue};
-                EXPECT_EQ(platform::colorFromArchive(platform::colorArchive(color)), color);
-                EXPECT_EQ(platform::colorFromArchive(platform::galleryColorArchive(color)), color);
+                EXPECT_EQ(
+                    platform::archives::colorFromArchive(platform::archives::colorArchive(color)),
+                    color
+                );
+                EXPECT_EQ(
+                    platform::archives::colorFromArchive(
+                        platform::archives::galleryColorArchive(color)
+                    ),
+                    color
+                );
             }
         }
     }
@@ -113,29 +121,29 @@ TEST(ColorArchive, SurvivesARoundTripForEveryMixOfEndsAndMiddle)
 
 TEST(ColorArchive, WritesNegativeZeroAndWhatIsNoNumberAsZero)
 {
-    const QString black = platform::colorArchive({0.0F, 0.0F, 0.0F});
+    const QString black = platform::archives::colorArchive({0.0F, 0.0F, 0.0F});
     const float notANumber = std::numeric_limits<float>::quiet_NaN();
     const float infinite = std::numeric_limits<float>::infinity();
 
-    EXPECT_EQ(platform::colorArchive({-0.0F, notANumber, infinite}), black);
+    EXPECT_EQ(platform::archives::colorArchive({-0.0F, notANumber, infinite}), black);
 }
 
 TEST(ColorArchive, IsReadWhenWrappedAndWithoutPadding)
 {
-    QString text = platform::colorArchive({0.0F, 0.0F, 0.0F});
+    QString text = platform::archives::colorArchive({0.0F, 0.0F, 0.0F});
     ASSERT_TRUE(text.endsWith(QLatin1Char('=')));
     text.chop(1);
     text.insert(64, QStringLiteral("\r\n"));
 
-    EXPECT_EQ(platform::colorFromArchive(text), ColorComponents({0.0F, 0.0F, 0.0F}));
+    EXPECT_EQ(platform::archives::colorFromArchive(text), ColorComponents({0.0F, 0.0F, 0.0F}));
 }
 
 TEST(ColorArchive, RefusesWhatIsNoArchive)
 {
-    EXPECT_FALSE(platform::colorFromArchive(QString()));
-    EXPECT_FALSE(platform::colorFromArchive(QStringLiteral("FFAA00")));
-    EXPECT_FALSE(platform::colorFromArchive(QStringLiteral("not base64!")));
-    EXPECT_FALSE(platform::colorFromArchive(QString(20'000, QLatin1Char('A'))));
+    EXPECT_FALSE(platform::archives::colorFromArchive(QString()));
+    EXPECT_FALSE(platform::archives::colorFromArchive(QStringLiteral("FFAA00")));
+    EXPECT_FALSE(platform::archives::colorFromArchive(QStringLiteral("not base64!")));
+    EXPECT_FALSE(platform::archives::colorFromArchive(QString(20'000, QLatin1Char('A'))));
 }
 
 TEST(ColorArchive, ReadsStreamsOfTheOtherByteOrder)
@@ -149,5 +157,8 @@ TEST(ColorArchive, ReadsStreamsOfTheOtherByteOrder)
         stream.replace(little, big);
     }
 
-    EXPECT_EQ(platform::colorFromArchive(textOf(stream)), test::colorArchiveSamples[12].components);
+    EXPECT_EQ(
+        platform::archives::colorFromArchive(textOf(stream)),
+        test::colorArchiveSamples[12].components
+    );
 }

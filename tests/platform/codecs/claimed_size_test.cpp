@@ -17,6 +17,9 @@ namespace brenvaldo {
 namespace {
 
 using namespace platform;
+using namespace platform::containers;
+using namespace platform::graphics;
+using namespace platform::codecs;
 using namespace test;
 
 bool opens(const QByteArray& file)

@@ -11,7 +11,7 @@
 namespace brenvaldo {
 namespace {
 
-using namespace platform;
+using namespace platform::codecs;
 using namespace test;
 
 QByteArray smallJpeg(int width, int height)

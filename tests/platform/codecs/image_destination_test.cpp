@@ -15,6 +15,9 @@ namespace brenvaldo {
 namespace {
 
 using namespace platform;
+using namespace platform::containers;
+using namespace platform::graphics;
+using namespace platform::codecs;
 using namespace test;
 
 struct RoundTripCase

@@ -20,6 +20,8 @@ namespace brenvaldo {
 namespace {
 
 using namespace platform;
+using namespace platform::graphics;
+using namespace platform::codecs;
 using namespace test;
 
 struct OrientationCase

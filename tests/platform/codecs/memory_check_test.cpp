@@ -9,7 +9,8 @@
 #include <gtest/gtest.h>
 
 using namespace brenvaldo;
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::graphics;
+using namespace brenvaldo::platform::codecs;
 using namespace brenvaldo::test;
 
 namespace {

@@ -15,6 +15,8 @@ namespace brenvaldo {
 namespace {
 
 using namespace platform;
+using namespace platform::graphics;
+using namespace platform::codecs;
 using namespace test;
 
 QByteArray bytes(std::initializer_list<int> values)

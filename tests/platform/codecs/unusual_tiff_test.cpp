@@ -13,7 +13,8 @@
 namespace brenvaldo {
 namespace {
 
-using namespace platform;
+using namespace platform::containers;
+using namespace platform::codecs;
 using namespace test;
 
 constexpr int width = 19; // more than a tile, and odd

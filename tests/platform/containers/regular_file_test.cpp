@@ -9,8 +9,8 @@
 #include <sys/stat.h>
 
 using namespace brenvaldo;
-using platform::MappedFile;
 using platform::openRegularFile;
+using platform::containers::MappedFile;
 using test::TemporaryFolder;
 
 namespace {

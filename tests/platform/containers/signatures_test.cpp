@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::containers;
 
 TEST(FileKind, TellsTheContainerAndTheType)
 {

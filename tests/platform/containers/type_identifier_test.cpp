@@ -11,7 +11,7 @@
 namespace brenvaldo {
 namespace {
 
-using namespace platform;
+using namespace platform::containers;
 using namespace test;
 
 struct ExtensionCase

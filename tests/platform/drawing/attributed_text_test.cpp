@@ -9,7 +9,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::drawing;
 
 namespace {
 

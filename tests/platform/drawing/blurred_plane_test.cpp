@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::drawing;
 
 namespace {
 

@@ -11,7 +11,8 @@
 namespace brenvaldo {
 namespace {
 
-using namespace platform;
+using namespace platform::graphics;
+using namespace platform::drawing;
 using namespace test;
 
 Image layer(const QColor& color)

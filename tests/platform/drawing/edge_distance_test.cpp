@@ -9,7 +9,7 @@
 #include <cmath>
 #include <numbers>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::drawing;
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::drawing;
 
 namespace {
 

@@ -5,7 +5,8 @@
 
 #include <QPainter>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::graphics;
+using namespace brenvaldo::platform::drawing;
 
 namespace {
 

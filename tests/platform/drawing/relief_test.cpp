@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::drawing;
 
 namespace {
 

@@ -14,18 +14,18 @@
 #include <stdexcept>
 
 using namespace brenvaldo;
-using platform::Stamp;
+using platform::drawing::Stamp;
 
 namespace {
 
-platform::Image photo()
+platform::graphics::Image photo()
 {
     QImage picture(90, 60, QImage::Format_RGB32);
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x)
             picture.setPixel(x, y, qRgb(2 * x, 4 * y, x + y));
     }
-    return platform::Image::fromQImage(picture);
+    return platform::graphics::Image::fromQImage(picture);
 }
 
 /// A layer whose opacity runs from nothing at its left to all at its right.
@@ -60,7 +60,7 @@ TEST(StampToBeMade, IsMadeOnceAndNotBeforeThePictureIsDrawn)
 {
     const CountedStamp make{.stamp = once()};
 
-    const platform::Image marked = platform::stamped(photo(), make);
+    const platform::graphics::Image marked = platform::drawing::stamped(photo(), make);
     EXPECT_EQ(*make.made, 0);
 
     const QImage first = marked.toQImage();
@@ -71,61 +71,65 @@ TEST(StampToBeMade, IsMadeOnceAndNotBeforeThePictureIsDrawn)
 
 TEST(StampToBeMade, MarksAsOneThatIsThere)
 {
-    const platform::Image plain = photo();
+    const platform::graphics::Image plain = photo();
 
-    const platform::Image marked = platform::stamped(plain, CountedStamp{.stamp = once()});
+    const platform::graphics::Image marked
+        = platform::drawing::stamped(plain, CountedStamp{.stamp = once()});
 
     EXPECT_EQ(
-        test::largestDifference(marked.toQImage(), platform::stamped(plain, once()).toQImage()), 0
+        test::largestDifference(
+            marked.toQImage(), platform::drawing::stamped(plain, once()).toQImage()
+        ),
+        0
     );
     EXPECT_GT(test::largestDifference(marked.toQImage(), plain.toQImage()), 0);
 }
 
 TEST(StampToBeMade, TellsItsPart)
 {
-    const platform::Image plain = photo();
+    const platform::graphics::Image plain = photo();
     const CountedStamp make{.stamp = once()};
-    const platform::Image marked = platform::stamped(plain, make);
+    const platform::graphics::Image marked = platform::drawing::stamped(plain, make);
 
-    const auto part = platform::stampedPart(marked, plain);
+    const auto part = platform::drawing::stampedPart(marked, plain);
 
-    EXPECT_EQ(part, (platform::PixelRect{.x = 20, .y = 10, .width = 31, .height = 17}));
+    EXPECT_EQ(part, (platform::graphics::PixelRect{.x = 20, .y = 10, .width = 31, .height = 17}));
     (void)marked.toQImage();
     EXPECT_EQ(*make.made, 1);
-    EXPECT_FALSE(platform::stampedPart(plain, marked).has_value());
+    EXPECT_FALSE(platform::drawing::stampedPart(plain, marked).has_value());
 }
 
 TEST(StampToBeMade, OfNothingLeavesThePhoto)
 {
-    const platform::Image plain = photo();
+    const platform::graphics::Image plain = photo();
 
-    const platform::Image marked = platform::stamped(plain, CountedStamp{});
+    const platform::graphics::Image marked = platform::drawing::stamped(plain, CountedStamp{});
 
     EXPECT_EQ(test::largestDifference(marked.toQImage(), plain.toQImage()), 0);
-    EXPECT_EQ(platform::stampedPart(marked, plain), platform::PixelRect());
+    EXPECT_EQ(platform::drawing::stampedPart(marked, plain), platform::graphics::PixelRect());
 }
 
 TEST(StampToBeMade, ThatFailsGivesNoPicture)
 {
     const test::LogLines log;
-    const platform::Image plain = photo();
-    const platform::Image marked = platform::stamped(plain, []() -> Stamp {
+    const platform::graphics::Image plain = photo();
+    const platform::graphics::Image marked = platform::drawing::stamped(plain, []() -> Stamp {
         throw std::runtime_error("no memory for the layer");
     });
 
-    EXPECT_FALSE(platform::stampedPart(marked, plain).has_value());
+    EXPECT_FALSE(platform::drawing::stampedPart(marked, plain).has_value());
     EXPECT_TRUE(marked.toQImage().isNull());
     EXPECT_TRUE(log.lines().first().contains(u"no memory for the layer"_qs));
 }
 
 TEST(Stamp, LaysEachSampleOverByItsOpacity)
 {
-    const platform::Image plain = photo();
+    const platform::graphics::Image plain = photo();
     const QImage before = plain.toQImage();
     const QImage layer = fadingLayer(80, 40);
 
     const QImage marked
-        = platform::stamped(plain, Stamp{.layer = layer, .topLeft = {3, 5}}).toQImage();
+        = platform::drawing::stamped(plain, Stamp{.layer = layer, .topLeft = {3, 5}}).toQImage();
 
     const auto laidOver = [](int above, int below, int alpha) {
         return (above * alpha + below * (255 - alpha) + 127) / 255;
@@ -156,13 +160,14 @@ TEST(Stamp, IsLaidOnAPhotoWithAProfileThatCannotBeDrawnIn)
     QImage red(90, 60, QImage::Format_RGBA8888);
     red.fill(Qt::red);
 
-    const auto marked
-        = platform::stamped(*test::openedPhoto(path).image(), Stamp{.layer = red, .topLeft = {}});
+    const auto marked = platform::drawing::stamped(
+        *test::openedPhoto(path).image(), Stamp{.layer = red, .topLeft = {}}
+    );
 
     EXPECT_EQ(marked.iccProfile(), test::scannerProfile());
     EXPECT_EQ(
-        platform::encode(
-            marked, platform::FileFormat::Png, {}, folder.path(QStringLiteral("b.png"))
+        platform::codecs::encode(
+            marked, platform::codecs::FileFormat::Png, {}, folder.path(QStringLiteral("b.png"))
         ),
         true
     );
@@ -170,20 +175,20 @@ TEST(Stamp, IsLaidOnAPhotoWithAProfileThatCannotBeDrawnIn)
 
 TEST(Stamp, TilesThePhotoFromItsCornerOn)
 {
-    const platform::Image plain = photo();
+    const platform::graphics::Image plain = photo();
     const QImage layer = fadingLayer(31, 17);
 
     const QImage tiled
-        = platform::stamped(
+        = platform::drawing::stamped(
               plain, {.layer = layer, .topLeft = {-8, 40}, .repeat = Stamp::Repeat::Tiled}
         )
               .toQImage();
 
     // Every copy alone, each on what the others have left.
-    platform::Image copies = plain;
+    platform::graphics::Image copies = plain;
     for (int y = 40 - 3 * 17; y < plain.height(); y += 17) {
         for (int x = -8; x < plain.width(); x += 31)
-            copies = platform::stamped(copies, Stamp{.layer = layer, .topLeft = {x, y}});
+            copies = platform::drawing::stamped(copies, Stamp{.layer = layer, .topLeft = {x, y}});
     }
     EXPECT_EQ(test::largestDifference(tiled, copies.toQImage()), 0);
 }
@@ -193,7 +198,9 @@ TEST(Stamp, MakesTransparentPixelsAsOpaqueAsItself)
     QImage clear(90, 60, QImage::Format_RGBA8888);
     clear.fill(QColor(10, 20, 30, 0));
 
-    const QImage marked = platform::stamped(platform::Image::fromQImage(clear), once()).toQImage();
+    const QImage marked
+        = platform::drawing::stamped(platform::graphics::Image::fromQImage(clear), once())
+              .toQImage();
 
     const QRgb expected = fadingLayer(31, 17).pixel(15, 8);
     EXPECT_EQ(qUnpremultiply(marked.pixel(35, 18)), qUnpremultiply(qPremultiply(expected)));

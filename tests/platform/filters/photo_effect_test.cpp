@@ -5,7 +5,8 @@
 
 #include <gtest/gtest.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::graphics;
+using namespace brenvaldo::platform::filters;
 
 namespace {
 

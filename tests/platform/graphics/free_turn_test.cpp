@@ -10,7 +10,7 @@
 namespace brenvaldo {
 namespace {
 
-using namespace platform;
+using namespace platform::graphics;
 using namespace test;
 
 constexpr int roundingError = 1;

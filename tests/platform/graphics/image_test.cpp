@@ -16,6 +16,7 @@ namespace brenvaldo {
 namespace {
 
 using namespace platform;
+using namespace platform::graphics;
 using namespace test;
 
 /// A picture of a photo that is gone from the disk only after the test.

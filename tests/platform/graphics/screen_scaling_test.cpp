@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 using namespace brenvaldo;
-using platform::PixelSize;
+using platform::graphics::PixelSize;
 using test::PhotoModel;
 
 namespace {
@@ -19,7 +19,7 @@ namespace {
 class ScaledForScreen : public testing::Test
 {
 protected:
-    platform::Image photo(PhotoModel model, int depth, int width, int height)
+    platform::graphics::Image photo(PhotoModel model, int depth, int width, int height)
     {
         const QString path
             = test::PhotoBuilder()
@@ -32,7 +32,7 @@ protected:
                   .format(test::PhotoFormat::Png)
                   .write(folder.path(QStringLiteral("a.png")));
         return *test::openedPhoto(path).image(
-            {.access = platform::ImageSource::Access::Random, .atLeast = {}}
+            {.access = platform::codecs::ImageSource::Access::Random, .atLeast = {}}
         );
     }
 
@@ -54,10 +54,10 @@ class ScaledForScreenKind : public ScaledForScreen, public testing::WithParamInt
 
 TEST_P(ScaledForScreenKind, AveragesWholeBlocks)
 {
-    const platform::Image image = photo(GetParam().model, GetParam().depth, 400, 240);
+    const platform::graphics::Image image = photo(GetParam().model, GetParam().depth, 400, 240);
     const QImage pixels = image.toQImage();
 
-    const QImage scaled = platform::scaledForScreen(image, {100, 60}).toQImage();
+    const QImage scaled = platform::graphics::scaledForScreen(image, {100, 60}).toQImage();
 
     ASSERT_EQ(scaled.size(), QSize(100, 60));
     for (int y = 0; y < scaled.height(); ++y) {
@@ -86,24 +86,25 @@ TEST_F(ScaledForScreen, GivesAnySizeAndLooksLikeAScaledPicture)
     test::PhotoBuilder builder;
     builder.size(643, 427).gradient().format(test::PhotoFormat::Png);
     const QString path = builder.write(folder.path(QStringLiteral("b.png")));
-    const platform::Image image = *test::openedPhoto(path).image(
-        {.access = platform::ImageSource::Access::Random, .atLeast = {}}
+    const platform::graphics::Image image = *test::openedPhoto(path).image(
+        {.access = platform::codecs::ImageSource::Access::Random, .atLeast = {}}
     );
 
     for (const PixelSize size : {PixelSize{200, 133}, PixelSize{90, 60}, PixelSize{640, 425}}) {
-        const QImage quick = platform::scaledForScreen(image, size).toQImage();
+        const QImage quick = platform::graphics::scaledForScreen(image, size).toQImage();
         EXPECT_LE(test::largestDifference(quick, image.scaledTo(size).toQImage()), 4) << size.width;
     }
 }
 
 TEST_F(ScaledForScreen, LeavesATransparentPictureToTheOrdinaryWay)
 {
-    const platform::Image image = photo(PhotoModel::RgbAlpha, 8, 200, 120);
+    const platform::graphics::Image image = photo(PhotoModel::RgbAlpha, 8, 200, 120);
     const PixelSize size{50, 30};
 
     EXPECT_EQ(
         test::largestDifference(
-            platform::scaledForScreen(image, size).toQImage(), image.scaledTo(size).toQImage()
+            platform::graphics::scaledForScreen(image, size).toQImage(),
+            image.scaledTo(size).toQImage()
         ),
         0
     );

@@ -46,9 +46,9 @@ QByteArray fullXmpPacket(qsizetype length)
     return packetWith(title, {});
 }
 
-platform::MetadataBlocks cameraBlocks()
+platform::containers::MetadataBlocks cameraBlocks()
 {
-    platform::MetadataBlocks blocks;
+    platform::containers::MetadataBlocks blocks;
     blocks.exif = exifBlock(
         {.orientation = 6,
          .make = "Brand",
@@ -63,7 +63,7 @@ platform::MetadataBlocks cameraBlocks()
     blocks.photoshop = photoshopResource(0x03ED, unevenBytes(16))
         + photoshopResource(0x0404, blocks.iptc) + photoshopResource(0x0425, unevenBytes(15));
     blocks.comment = "a JPEG comment";
-    blocks.jpegSegments = {platform::jpegSegment(0xE5, "Camera" + unevenBytes(300))};
+    blocks.jpegSegments = {platform::containers::jpegSegment(0xE5, "Camera" + unevenBytes(300))};
     return blocks;
 }
 

@@ -15,6 +15,6 @@ namespace brenvaldo::test {
 
 /// All kinds of blocks that a camera file holds: an EXIF block with a maker note and a thumbnail,
 /// XMP, IPTC among further Photoshop resources, a comment, and a segment of the camera's own.
-[[nodiscard]] platform::MetadataBlocks cameraBlocks();
+[[nodiscard]] platform::containers::MetadataBlocks cameraBlocks();
 
 } // namespace brenvaldo::test

@@ -13,19 +13,22 @@
 
 #include <gtest/gtest.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::containers;
+using namespace brenvaldo::platform::metadata;
 using namespace brenvaldo::test;
 
 namespace {
 
 QByteArray exifSegment(const QByteArray& data)
 {
-    return brenvaldo::platform::jpegSegment(jpeg::app1, jpeg::exifHeader.toByteArray() + data);
+    return brenvaldo::platform::containers::jpegSegment(
+        jpeg::app1, jpeg::exifHeader.toByteArray() + data
+    );
 }
 
 QByteArray segment(std::uint8_t marker, const QByteArray& payload)
 {
-    return brenvaldo::platform::jpegSegment(marker, payload);
+    return brenvaldo::platform::containers::jpegSegment(marker, payload);
 }
 
 QByteArray smallExif() { return exifBlock({.orientation = 3, .make = "Brand"}); }

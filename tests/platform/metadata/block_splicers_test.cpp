@@ -17,7 +17,8 @@
 
 #include <gtest/gtest.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::containers;
+using namespace brenvaldo::platform::metadata;
 using namespace brenvaldo::test;
 
 namespace {
@@ -25,10 +26,12 @@ namespace {
 QByteArray encodedJpeg()
 {
     return bareJpeg(
-        {brenvaldo::platform::jpegSegment(
+        {brenvaldo::platform::containers::jpegSegment(
              jpeg::app0, QByteArrayView("JFIF\0\x01\x01\0\0\x48\0\x48\0\0", 14)
          ),
-         brenvaldo::platform::jpegSegment(jpeg::app2, QByteArrayView("ICC_PROFILE\0\x01\x01p", 15))}
+         brenvaldo::platform::containers::jpegSegment(
+             jpeg::app2, QByteArrayView("ICC_PROFILE\0\x01\x01p", 15)
+         )}
     );
 }
 

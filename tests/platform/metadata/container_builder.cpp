@@ -6,8 +6,8 @@
 
 namespace brenvaldo::test {
 
-using platform::appendUnsigned;
-using platform::ByteOrder;
+using platform::containers::appendUnsigned;
+using platform::containers::ByteOrder;
 
 namespace {
 
@@ -92,8 +92,9 @@ QByteArray bareJpeg(const QByteArrayList& segments)
 QByteArray barePng(const QByteArrayList& chunks)
 {
     const QByteArray header = big(1, 4) + big(1, 4) + QByteArray("\x08\0\0\0\0", 5);
-    return "\x89PNG\r\n\x1A\n" + platform::pngChunk("IHDR", header) + chunks.join()
-        + platform::pngChunk("IDAT", "pixels") + platform::pngChunk("IEND", {});
+    return "\x89PNG\r\n\x1A\n" + platform::containers::pngChunk("IHDR", header) + chunks.join()
+        + platform::containers::pngChunk("IDAT", "pixels")
+        + platform::containers::pngChunk("IEND", {});
 }
 
 QByteArray isoBox(const QByteArray& type, const QByteArray& payload)

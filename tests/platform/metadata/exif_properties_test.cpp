@@ -6,7 +6,8 @@
 
 #include <gtest/gtest.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::containers;
+using namespace brenvaldo::platform::metadata;
 using brenvaldo::test::CaseName;
 
 namespace {

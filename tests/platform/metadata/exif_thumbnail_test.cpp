@@ -13,7 +13,8 @@
 
 #include <gtest/gtest.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::containers;
+using namespace brenvaldo::platform::metadata;
 using namespace brenvaldo::test;
 
 namespace {

@@ -17,7 +17,10 @@
 
 #include <QDir>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::containers;
+using namespace brenvaldo::platform::graphics;
+using namespace brenvaldo::platform::codecs;
+using namespace brenvaldo::platform::metadata;
 using brenvaldo::test::cameraBlocks;
 using brenvaldo::test::CaseName;
 using brenvaldo::test::PhotoBuilder;

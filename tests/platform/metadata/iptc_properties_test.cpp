@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::metadata;
 using brenvaldo::test::iptcDataSet;
 using brenvaldo::test::xmpPacket;
 

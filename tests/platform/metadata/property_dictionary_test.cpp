@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-using brenvaldo::platform::PropertyDictionary;
-using brenvaldo::platform::PropertyValue;
+using brenvaldo::platform::metadata::PropertyDictionary;
+using brenvaldo::platform::metadata::PropertyValue;
 
 namespace {
 

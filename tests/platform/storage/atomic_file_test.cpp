@@ -14,7 +14,7 @@
 
 #include <sys/stat.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::storage;
 using brenvaldo::test::FullDisk;
 using brenvaldo::test::setMode;
 using brenvaldo::test::TemporaryFolder;

@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-using brenvaldo::platform::setFileIcon;
+using brenvaldo::platform::storage::setFileIcon;
 using namespace brenvaldo::test;
 
 namespace {

@@ -7,7 +7,7 @@
 
 #include <sys/xattr.h>
 
-using brenvaldo::platform::fileLabel;
+using brenvaldo::platform::storage::fileLabel;
 using brenvaldo::test::TemporaryFolder;
 
 namespace {

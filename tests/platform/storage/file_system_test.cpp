@@ -14,7 +14,7 @@
 #include <sys/stat.h>
 #include <sys/xattr.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::storage;
 using namespace brenvaldo::test;
 
 namespace {

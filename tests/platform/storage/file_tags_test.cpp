@@ -7,7 +7,7 @@
 
 #include <sys/xattr.h>
 
-using brenvaldo::platform::setFileTags;
+using brenvaldo::platform::storage::setFileTags;
 using brenvaldo::test::TemporaryFolder;
 
 TEST(FileTags, StandInTheAttributeOfTheDesktop)

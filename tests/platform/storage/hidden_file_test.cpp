@@ -14,7 +14,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::storage;
 using brenvaldo::test::TemporaryFolder;
 
 namespace {

@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::storage;
 using namespace brenvaldo::test;
 
 TEST(PropertyList, GivesBackWhatItTook)

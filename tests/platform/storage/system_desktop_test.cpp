@@ -8,7 +8,7 @@
 
 #include <vector>
 
-using brenvaldo::platform::SystemDesktop;
+using brenvaldo::platform::storage::SystemDesktop;
 using namespace brenvaldo::test;
 
 namespace {

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace brenvaldo::platform;
+using namespace brenvaldo::platform::storage;
 using brenvaldo::test::CaseName;
 using brenvaldo::test::TemporaryFolder;
 

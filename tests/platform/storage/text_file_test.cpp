@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-using brenvaldo::platform::readTextFile;
+using brenvaldo::platform::storage::readTextFile;
 using brenvaldo::test::TemporaryFolder;
 
 TEST(TextFile, IsReadAsUtf8)

@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-using brenvaldo::platform::moveToTrash;
+using brenvaldo::platform::storage::moveToTrash;
 using namespace brenvaldo::test;
 
 TEST(Trash, TakesAFileAndNotesWhereItWas)

@@ -128,7 +128,7 @@ TEST_F(LivePreview, IsEmptyForAConversionOnOrOff)
 TEST_F(LivePreview, IsEmptyForAnEmptyList)
 {
     panels.window.myTemplatePreview.setImage(
-        platform::Image::fromQImage(QImage(2, 2, QImage::Format_RGB32))
+        platform::graphics::Image::fromQImage(QImage(2, 2, QImage::Format_RGB32))
     );
 
     collectionView.callForPreview();
@@ -346,7 +346,7 @@ TEST_F(LivePreview, IsDrawnAnewWhenItsBoxIsTicked)
 
 TEST_F(LivePreview, ClearsTheOverlayForThePictureOfATemplate)
 {
-    const auto picture = platform::Image::fromQImage(QImage(2, 2, QImage::Format_RGB32));
+    const auto picture = platform::graphics::Image::fromQImage(QImage(2, 2, QImage::Format_RGB32));
     neighbours.imageNamed = [&picture](const QString&) { return picture; };
     panels.window.myTemplateOverlayPreview.setImage(picture);
 

@@ -7,21 +7,21 @@ using namespace brenvaldo;
 
 namespace {
 
-platform::Image filled(int width, int height, const QColor& color)
+platform::graphics::Image filled(int width, int height, const QColor& color)
 {
     QImage image(width, height, QImage::Format_RGBA8888);
     image.fill(color);
-    return platform::Image::fromQImage(image);
+    return platform::graphics::Image::fromQImage(image);
 }
 
-platform::Image opaque(int width, int height, const QColor& color)
+platform::graphics::Image opaque(int width, int height, const QColor& color)
 {
     QImage image(width, height, QImage::Format_RGB888);
     image.fill(color);
-    return platform::Image::fromQImage(image);
+    return platform::graphics::Image::fromQImage(image);
 }
 
-QColor pixelOf(const std::optional<platform::Image>& image)
+QColor pixelOf(const std::optional<platform::graphics::Image>& image)
 {
     return image->toQImage().pixelColor(2, 1);
 }
@@ -30,7 +30,7 @@ QColor pixelOf(const std::optional<platform::Image>& image)
 
 TEST(ComposedPreview, IsTheOneThatThereIs)
 {
-    const platform::Image photo = opaque(7, 5, Qt::red);
+    const platform::graphics::Image photo = opaque(7, 5, Qt::red);
 
     EXPECT_FALSE(workspace::composed(std::nullopt, std::nullopt).has_value());
     EXPECT_EQ(pixelOf(workspace::composed(photo, std::nullopt)), QColor(Qt::red));
@@ -42,7 +42,7 @@ TEST(ComposedPreview, LetsThePhotoShowThroughTheOverlay)
     const auto composed
         = workspace::composed(opaque(7, 5, QColor(200, 0, 0)), filled(7, 5, QColor(0, 0, 100, 51)));
 
-    EXPECT_EQ(composed->pixelSize(), (platform::PixelSize{7, 5}));
+    EXPECT_EQ(composed->pixelSize(), (platform::graphics::PixelSize{7, 5}));
     EXPECT_EQ(pixelOf(composed), QColor(160, 0, 20));
 }
 
@@ -51,7 +51,7 @@ TEST(ComposedPreview, DrawsAnOverlayOfAnotherSizeAtTheSizeOfThePhoto)
     const auto composed
         = workspace::composed(opaque(7, 5, Qt::red), filled(3, 2, QColor(0, 0, 255, 255)));
 
-    EXPECT_EQ(composed->pixelSize(), (platform::PixelSize{7, 5}));
+    EXPECT_EQ(composed->pixelSize(), (platform::graphics::PixelSize{7, 5}));
     EXPECT_EQ(pixelOf(composed), QColor(Qt::blue));
 }
 
@@ -59,7 +59,7 @@ TEST(ComposedPreview, CoversThePhotoWithAnOpaqueOverlay)
 {
     const auto composed = workspace::composed(opaque(7, 5, Qt::red), opaque(14, 10, Qt::green));
 
-    EXPECT_EQ(composed->pixelSize(), (platform::PixelSize{7, 5}));
+    EXPECT_EQ(composed->pixelSize(), (platform::graphics::PixelSize{7, 5}));
     EXPECT_EQ(pixelOf(composed), QColor(Qt::green));
 }
 

@@ -214,16 +214,16 @@ protected:
     static QString type() { return QString::fromLatin1(std::get<Kind>(GetParam()).type); }
 
     /// All samples of a picture, whatever its depth and colour model, as the bytes of a file.
-    QByteArray samplesOf(const platform::Image& image) const
+    QByteArray samplesOf(const platform::graphics::Image& image) const
     {
         const QString path = folder.path(u"samples.tiff"_qs);
-        if (!platform::encode(image, platform::FileFormat::Tiff, {}, path))
+        if (!platform::codecs::encode(image, platform::codecs::FileFormat::Tiff, {}, path))
             return {};
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    platform::Image written(const QString& path)
+    platform::graphics::Image written(const QString& path)
     {
         const QString target = folder.path(u"out/"_qs);
         QDir().mkpath(target);
@@ -240,7 +240,7 @@ protected:
         return *test::openedPhoto(target + u"photo."_qs + type()).image();
     }
 
-    std::optional<platform::Image> shown(const QString& path)
+    std::optional<platform::graphics::Image> shown(const QString& path)
     {
         return workspace::composed(photos.photo(path), mark.setWatermarkTextPreview(path));
     }
