@@ -5,6 +5,7 @@
 
 #include <examples/draw_photos/landscape.h>
 
+#include <platform/foundation/literals.h>
 #include <workspace/workspace.h>
 
 #include <QFile>
@@ -33,12 +34,12 @@ QStringList photosIn(const QTemporaryDir& folder, int count)
 {
     QImage picture = examples::drawnLandscape(examples::scenes().front(), photoSize, 1);
     examples::addSensorNoise(picture, 1);
-    const QString original = folder.filePath(u"original.jpg"_qs);
+    const QString original = folder.filePath(u"original.jpg"_s);
     if (!picture.save(original, "JPG", 92))
         return {};
     QStringList paths;
     for (int index = 0; index < count; ++index) {
-        paths.append(folder.filePath(QStringLiteral("%1.jpg").arg(index)));
+        paths.append(folder.filePath(u"%1.jpg"_s.arg(index)));
         QFile::link(original, paths.last());
     }
     return paths;

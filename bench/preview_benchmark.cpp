@@ -6,6 +6,7 @@
 #include <examples/draw_photos/landscape.h>
 
 #include <panels/watermark_panel.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <views/preview_renderer.h>
 #include <watermark/dv_watermark.h>
@@ -32,9 +33,9 @@ public:
     explicit Preview(QString path)
         : m_path(std::move(path))
     {
-        panel.cbFontList.setTitles({u"DejaVu Sans"_qs});
-        panel.tvWaterMarkText.setStringValue(u"\u00a9 <[IMGFN]> <[IMGCD]>"_qs);
-        panel.tfFontSize.setStringValue(u"200"_qs);
+        panel.cbFontList.setTitles({u"DejaVu Sans"_s});
+        panel.tvWaterMarkText.setStringValue(u"\u00a9 <[IMGFN]> <[IMGCD]>"_s);
+        panel.tfFontSize.setStringValue(u"200"_s);
         panel.scWaterMarkPos.setSelectedSegment(4);
     }
 
@@ -58,7 +59,7 @@ public:
 private:
     QString m_path;
     workspace::PreviewPhotos m_photos;
-    controls::ProgressIndicator m_bar{u"bar"_qs};
+    controls::ProgressIndicator m_bar{u"bar"_s};
     watermark::DVWatermark m_mark{
         {.panel = panel,
          .bar = m_bar,
@@ -72,7 +73,7 @@ using Set = void (*)(panels::WatermarkPanel&);
 void changeAControl(benchmark::State& state, Set set)
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"photo.jpg"_qs);
+    const QString path = folder.filePath(u"photo.jpg"_s);
     if (!examples::drawnLandscape(examples::scenes().front(), photoSize, 1).save(path, "JPG", 92))
         state.SkipWithError("no photo");
     Preview preview(path);
@@ -95,10 +96,10 @@ void plain(panels::WatermarkPanel&) { }
 void withShadow(panels::WatermarkPanel& panel)
 {
     panel.cbShadowCheck.setState(1);
-    panel.tfTextShadowRadius.setStringValue(u"20"_qs);
+    panel.tfTextShadowRadius.setStringValue(u"20"_s);
 }
 
-void turned(panels::WatermarkPanel& panel) { panel.tfWMAngle.setStringValue(u"30"_qs); }
+void turned(panels::WatermarkPanel& panel) { panel.tfWMAngle.setStringValue(u"30"_s); }
 
 void tiled(panels::WatermarkPanel& panel) { panel.cbTextPatternCheck.setState(1); }
 

@@ -5,6 +5,7 @@
 
 #include <platform/codecs/image_destination.h>
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 
 #include <examples/draw_photos/landscape.h>
 
@@ -42,7 +43,7 @@ void shrinkInMemory(benchmark::State& state)
 void shrinkFromFileToFile(benchmark::State& state)
 {
     const QTemporaryDir folder;
-    const QString source = folder.filePath(u"source.jpg"_qs);
+    const QString source = folder.filePath(u"source.jpg"_s);
     if (!photo().save(source, "JPG", 92))
         state.SkipWithError("no photo");
     const PixelSize target = targetOf(state);
@@ -54,7 +55,7 @@ void shrinkFromFileToFile(benchmark::State& state)
                 image->scaledTo(target),
                 platform::codecs::FileFormat::Jpeg,
                 {.lossyQuality = 0.9},
-                folder.filePath(u"target.jpg"_qs)
+                folder.filePath(u"target.jpg"_s)
             ))
             state.SkipWithError("not written");
     }

@@ -28,6 +28,7 @@ target_compile_definitions(
             QT_NO_CAST_TO_ASCII
             QT_NO_FOREACH
             QT_NO_URL_CAST_FROM_STRING
+            QT_DEPRECATED_WARNINGS_SINCE=0x060800
 )
 target_include_directories(brenvaldo_flags INTERFACE "${CMAKE_SOURCE_DIR}/src")
 

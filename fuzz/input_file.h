@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <platform/foundation/literals.h>
+
 #include <QString>
 
 #include <cstddef>
@@ -28,10 +30,7 @@ public:
     InputFile& operator=(InputFile&&) = delete;
     ~InputFile() { ::close(m_descriptor); }
 
-    [[nodiscard]] QString path() const
-    {
-        return QStringLiteral("/proc/self/fd/%1").arg(m_descriptor);
-    }
+    [[nodiscard]] QString path() const { return u"/proc/self/fd/%1"_s.arg(m_descriptor); }
 
 private:
     int m_descriptor;

@@ -3,6 +3,7 @@
 
 #include <platform/archives/bookmark.h>
 #include <platform/archives/color_archive.h>
+#include <platform/foundation/literals.h>
 #include <platform/graphics/engine.h>
 
 #include <support/exif_block.h>
@@ -25,7 +26,7 @@ public:
     SeedFolder(const QString& top, const QString& reader)
         : m_folder(top + QLatin1Char('/') + reader)
     {
-        if (!m_folder.mkpath(QStringLiteral(".")))
+        if (!m_folder.mkpath(u"."_s))
             qFatal("the folder of seeds can't be made");
     }
 
@@ -47,16 +48,16 @@ void addPhotos(const SeedFolder& seeds)
         builder.size(11, 7).orientation(6).format(format);
         return builder;
     };
-    seeds.add(QStringLiteral("jpeg"), small(PhotoFormat::Jpeg).bytes());
-    seeds.add(QStringLiteral("progressive"), small(PhotoFormat::ProgressiveJpeg).bytes());
-    seeds.add(QStringLiteral("cmyk"), small(PhotoFormat::Jpeg).model(PhotoModel::Cmyk).bytes());
-    seeds.add(QStringLiteral("png"), small(PhotoFormat::Png).bytes());
-    seeds.add(QStringLiteral("png16"), small(PhotoFormat::Png).depth(16).bytes());
-    seeds.add(QStringLiteral("tiff"), small(PhotoFormat::Tiff).bytes());
-    seeds.add(QStringLiteral("bmp"), small(PhotoFormat::Bmp).bytes());
-    seeds.add(QStringLiteral("gif"), small(PhotoFormat::Gif).bytes());
-    seeds.add(QStringLiteral("heic"), PhotoBuilder().format(PhotoFormat::Heic).bytes());
-    seeds.add(QStringLiteral("jpeg2000"), small(PhotoFormat::Jpeg2000).bytes());
+    seeds.add(u"jpeg"_s, small(PhotoFormat::Jpeg).bytes());
+    seeds.add(u"progressive"_s, small(PhotoFormat::ProgressiveJpeg).bytes());
+    seeds.add(u"cmyk"_s, small(PhotoFormat::Jpeg).model(PhotoModel::Cmyk).bytes());
+    seeds.add(u"png"_s, small(PhotoFormat::Png).bytes());
+    seeds.add(u"png16"_s, small(PhotoFormat::Png).depth(16).bytes());
+    seeds.add(u"tiff"_s, small(PhotoFormat::Tiff).bytes());
+    seeds.add(u"bmp"_s, small(PhotoFormat::Bmp).bytes());
+    seeds.add(u"gif"_s, small(PhotoFormat::Gif).bytes());
+    seeds.add(u"heic"_s, PhotoBuilder().format(PhotoFormat::Heic).bytes());
+    seeds.add(u"jpeg2000"_s, small(PhotoFormat::Jpeg2000).bytes());
 }
 
 /// Photos with all that a camera and an editor write around the pixels.
@@ -83,7 +84,7 @@ void addAnnotatedPhotos(const SeedFolder& seeds)
         photo.size(11, 7).format(format).exif(exif).xmp("<x:xmpmeta xmlns:x='adobe:ns:meta/'/>");
         if (format == PhotoFormat::Jpeg)
             photo.jpegSegment('\xED', iptc);
-        seeds.add(QStringLiteral("annotated%1").arg(static_cast<int>(format)), photo.bytes());
+        seeds.add(u"annotated%1"_s.arg(static_cast<int>(format)), photo.bytes());
     }
 }
 
@@ -92,7 +93,7 @@ void addLayers(const SeedFolder& seeds)
     const QList<QByteArray> channels(4, QByteArray("aabbbc", 6));
     for (const bool isPacked : {false, true})
         seeds.add(
-            QStringLiteral("layers%1").arg(isPacked),
+            u"layers%1"_s.arg(isPacked),
             test::psdFile({.size = {3, 2}, .channels = channels, .layers = -1, .isPacked = isPacked}
             )
         );
@@ -104,8 +105,8 @@ void addColors(const SeedFolder& seeds)
     const auto add = [&](const QString& name, const QString& archive) {
         seeds.add(name, QByteArray::fromBase64(archive.toLatin1()));
     };
-    add(QStringLiteral("stream"), platform::archives::colorArchive(components));
-    add(QStringLiteral("keyed"), platform::archives::galleryColorArchive(components));
+    add(u"stream"_s, platform::archives::colorArchive(components));
+    add(u"keyed"_s, platform::archives::galleryColorArchive(components));
 }
 
 } // namespace
@@ -116,18 +117,14 @@ int main(int argc, char** argv)
         return 2;
     const platform::graphics::Engine engine;
     const QString top = QFile::decodeName(argv[1]);
-    addPhotos(SeedFolder(top, QStringLiteral("image_source")));
-    addLayers(SeedFolder(top, QStringLiteral("image_source")));
-    for (const QString& reader :
-         {QStringLiteral("metadata_blocks"), QStringLiteral("metadata_splice")}) {
+    addPhotos(SeedFolder(top, u"image_source"_s));
+    addLayers(SeedFolder(top, u"image_source"_s));
+    for (const QString& reader : {u"metadata_blocks"_s, u"metadata_splice"_s}) {
         addPhotos(SeedFolder(top, reader));
         addAnnotatedPhotos(SeedFolder(top, reader));
     }
-    addColors(SeedFolder(top, QStringLiteral("color_archive")));
-    SeedFolder(top, QStringLiteral("bookmark"))
-        .add(
-            QStringLiteral("folder"),
-            platform::archives::bookmarkFor(QDir::rootPath()).value_or(QByteArray())
-        );
+    addColors(SeedFolder(top, u"color_archive"_s));
+    SeedFolder(top, u"bookmark"_s)
+        .add(u"folder"_s, platform::archives::bookmarkFor(QDir::rootPath()).value_or(QByteArray()));
     return 0;
 }

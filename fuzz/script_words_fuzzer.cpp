@@ -3,17 +3,18 @@
 
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::script;
 
 namespace {
 
 QString quoted(QString word)
 {
-    word.replace(u'\\', u"\\\\"_qs);
-    word.replace(u'"', u"\\\""_qs);
-    word.replace(u'\n', u"\\n"_qs);
-    word.replace(u'\r', u"\\r"_qs);
-    word.replace(u'\t', u"\\t"_qs);
+    word.replace(u'\\', u"\\\\"_s);
+    word.replace(u'"', u"\\\""_s);
+    word.replace(u'\n', u"\\n"_s);
+    word.replace(u'\r', u"\\r"_s);
+    word.replace(u'\t', u"\\t"_s);
     return u'"' + word + u'"';
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "landscape.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -178,7 +180,7 @@ void drawLake(QImage& picture)
 const std::array<Scene, 6>& scenes()
 {
     static const std::array<Scene, 6> all{{
-        {.name = u"dawn"_qs,
+        {.name = u"dawn"_s,
          .skyTop = QColor(0x2b4a7a),
          .skyHorizon = QColor(0xf6b48f),
          .sun = QColor(0xffe0b0),
@@ -187,7 +189,7 @@ const std::array<Scene, 6>& scenes()
          .sunX = 0.66,
          .sunY = 0.44,
          .hasLake = true},
-        {.name = u"noon"_qs,
+        {.name = u"noon"_s,
          .skyTop = QColor(0x2f78c4),
          .skyHorizon = QColor(0xcfe6f5),
          .sun = QColor(0xfffbe6),
@@ -195,7 +197,7 @@ const std::array<Scene, 6>& scenes()
          .nearHills = QColor(0x2f5a2a),
          .sunX = 0.22,
          .sunY = 0.16},
-        {.name = u"autumn"_qs,
+        {.name = u"autumn"_s,
          .skyTop = QColor(0x7aa0c0),
          .skyHorizon = QColor(0xf4e3c2),
          .sun = QColor(0xfff0c8),
@@ -204,7 +206,7 @@ const std::array<Scene, 6>& scenes()
          .sunX = 0.35,
          .sunY = 0.3,
          .isUpright = true},
-        {.name = u"fog"_qs,
+        {.name = u"fog"_s,
          .skyTop = QColor(0xaab6bd),
          .skyHorizon = QColor(0xe6e9e8),
          .sun = QColor(0xf8f6ee),
@@ -212,7 +214,7 @@ const std::array<Scene, 6>& scenes()
          .nearHills = QColor(0x3c4a4c),
          .sunX = 0.55,
          .sunY = 0.25},
-        {.name = u"dusk"_qs,
+        {.name = u"dusk"_s,
          .skyTop = QColor(0x2a1f4e),
          .skyHorizon = QColor(0xf0745a),
          .sun = QColor(0xffc070),
@@ -222,7 +224,7 @@ const std::array<Scene, 6>& scenes()
          .sunY = 0.5,
          .hasLake = true,
          .isUpright = true},
-        {.name = u"night"_qs,
+        {.name = u"night"_s,
          .skyTop = QColor(0x060b1c),
          .skyHorizon = QColor(0x2c4a70),
          .sun = QColor(0xe8eef8),

@@ -7,6 +7,7 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::examples;
 
 namespace {
@@ -46,7 +47,7 @@ bool drawPhoto(const Order& order, int index)
     QImage picture
         = drawnLandscape(scene, scene.isUpright ? order.size.transposed() : order.size, variation);
     addSensorNoise(picture, variation);
-    const QString path = QDir(order.folder).filePath(name + QStringLiteral(".jpg"));
+    const QString path = QDir(order.folder).filePath(name + u".jpg"_s);
     return picture.save(path, "JPG", jpegQuality);
 }
 

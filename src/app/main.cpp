@@ -2,6 +2,7 @@
 #include "application.h"
 #include "single_instance.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/toolkit_notes.h>
 #include <platform/foundation/user_defaults.h>
 #include <platform/graphics/engine.h>
@@ -32,10 +33,10 @@ QStringList filesOfCommandLine()
 
 void nameProgram()
 {
-    QApplication::setApplicationName(u"Brenvaldo"_qs);
-    QApplication::setApplicationVersion(QStringLiteral(BRENVALDO_VERSION));
-    QGuiApplication::setDesktopFileName(u"example.dravoth.Brenvaldo"_qs);
-    QApplication::setWindowIcon(QIcon(u":/application/brenvaldo.svg"_qs));
+    QApplication::setApplicationName(u"Brenvaldo"_s);
+    QApplication::setApplicationVersion(QString::fromUtf8(BRENVALDO_VERSION));
+    QGuiApplication::setDesktopFileName(u"example.dravoth.Brenvaldo"_s);
+    QApplication::setWindowIcon(QIcon(u":/application/brenvaldo.svg"_s));
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "single_instance.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QDataStream>
 #include <QDir>
 #include <QLocalSocket>
@@ -29,11 +31,11 @@ QByteArray message(const QStringList& files)
 
 QString instanceSocketPath()
 {
-    const QString name = u"brenvaldo.sock"_qs;
+    const QString name = u"brenvaldo.sock"_s;
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (!runtime.isEmpty() && QDir(runtime).exists())
         return QDir(runtime).filePath(name);
-    const QString folder = QDir::temp().filePath(u"brenvaldo-%1"_qs.arg(getuid()));
+    const QString folder = QDir::temp().filePath(u"brenvaldo-%1"_s.arg(getuid()));
     QDir().mkpath(folder);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return QDir(folder).filePath(name);

@@ -2,6 +2,7 @@
 #include "action_registry.h"
 
 #include <platform/foundation/handled_exception.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 
 namespace brenvaldo::controls {
@@ -36,7 +37,7 @@ ActionRegistry::Sent ActionRegistry::send(const QString& name, const Sender& sen
         return Sent::Done;
     } catch (...) {
         const platform::Exception exception = platform::handledException();
-        platform::log(name + QStringLiteral(": ") + exception.reason());
+        platform::log(name + u": "_s + exception.reason());
         exceptionRaised(exception);
         return Sent::Raised;
     }

@@ -3,6 +3,7 @@
 
 #include "url_text.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/file_icon.h>
@@ -45,8 +46,9 @@ void copyFilesOf(const SourceAndTarget& folders)
             continue;
         const QString target = platform::appendingPathComponent(folders.target, entry.name);
         if (!platform::storage::copyItem({.source = entry.path, .target = target}))
-            platform::log(QStringLiteral("Error Copying: \"%1\" can't be copied to \"%2\"")
-                              .arg(entry.path, target));
+            platform::log(
+                u"Error Copying: \"%1\" can't be copied to \"%2\""_s.arg(entry.path, target)
+            );
     }
 }
 

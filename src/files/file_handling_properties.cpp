@@ -3,6 +3,7 @@
 
 #include <platform/foundation/byte_count.h>
 #include <platform/foundation/date_text.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::files {
 
@@ -12,8 +13,7 @@ QString cNSFileHandling::dateText(
     const DateRequest& request, QDateTime platform::storage::FileAttributes::*date
 )
 {
-    static const QStringList modes
-        = {QStringLiteral("0"), QStringLiteral("1"), QStringLiteral("2")};
+    static const QStringList modes = {u"0"_s, u"1"_s, u"2"_s};
     if (modes.contains(request.mode)) {
         const auto attributes = platform::storage::fileAttributes(request.path);
         m_dateText = attributes ? platform::dateTextForFileName((*attributes).*date) : QString();

@@ -2,6 +2,7 @@
 #include "file_handling.h"
 
 #include <platform/containers/type_identifier.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 
 namespace brenvaldo::files {
@@ -11,7 +12,7 @@ QString cNSFileHandling::hGetFileType(const QString& path)
     if (!platform::storage::fileExists(path))
         return {};
     if (platform::storage::isFolder(path))
-        return QStringLiteral("public.folder");
+        return u"public.folder"_s;
     return platform::containers::preferredTypeIdentifier(platform::pathExtension(path));
 }
 

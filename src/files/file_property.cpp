@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "file_property.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/file_label.h>
 
@@ -9,7 +10,7 @@ namespace brenvaldo::files {
 QString DVFileProperty::dvGetFileLabel(const QString& path)
 {
     const auto label = platform::storage::fileLabel(path);
-    return label ? QString::number(*label) : QStringLiteral("none");
+    return label ? QString::number(*label) : u"none"_s;
 }
 
 QStringList DVFileProperty::hGetFileNameProps(const QString& path)

@@ -1,23 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "file_result.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::files {
 
 QString text(FileResult result)
 {
     switch (result) {
     case FileResult::Ok:
-        return QStringLiteral("OK");
+        return u"OK"_s;
     case FileResult::Failed:
-        return QStringLiteral("Failed");
+        return u"Failed"_s;
     case FileResult::NotCreated:
-        return QStringLiteral("FAILED");
+        return u"FAILED"_s;
     case FileResult::Exists:
-        return QStringLiteral("EXISTS");
+        return u"EXISTS"_s;
     case FileResult::Success:
-        return QStringLiteral("Success");
+        return u"Success"_s;
     case FileResult::No:
-        return QStringLiteral("NO");
+        return u"NO"_s;
     }
     return {};
 }

@@ -4,6 +4,8 @@
 #include "ns_string_handling.h"
 #include "search_attributes.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::files {
 
 namespace {
@@ -15,7 +17,7 @@ QString dateOf(const QString& path, const QString& flag, DateOf date)
 {
     if (flag != u"1")
         return {};
-    return (cNSFileHandling().*date)({.path = path, .mode = QStringLiteral("0")});
+    return (cNSFileHandling().*date)({.path = path, .mode = u"0"_s});
 }
 
 QString creationDateOf(const QString& path, const QString& flag)

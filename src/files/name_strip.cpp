@@ -2,6 +2,7 @@
 #include "name_parts.h"
 #include "ns_string_handling.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/numbers.h>
 #include <platform/foundation/paths.h>
@@ -80,9 +81,8 @@ void keepAllowed(Stripping& name)
     if (name.settings.allowedMode == u"0")
         return;
     const bool takesDigits = name.settings.allowedMode == u"1";
-    const QString kept = cNSStringHandling::hRemoveNonLetters(
-        name.subject, takesDigits ? QStringLiteral("NA") : QStringLiteral("OL")
-    );
+    const QString kept
+        = cNSStringHandling::hRemoveNonLetters(name.subject, takesDigits ? u"NA"_s : u"OL"_s);
     if (!kept.isEmpty())
         name.subject = kept;
 }
@@ -113,8 +113,8 @@ QString stripped(
 QString listSeparator(const QString& selector)
 {
     if (selector == u"0")
-        return QStringLiteral(";");
-    return selector == u"1" ? QStringLiteral(",") : QStringLiteral("~");
+        return u";"_s;
+    return selector == u"1" ? u","_s : u"~"_s;
 }
 
 } // namespace

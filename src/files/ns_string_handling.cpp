@@ -2,6 +2,7 @@
 #include "ns_string_handling.h"
 
 #include <platform/foundation/exceptions.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/text.h>
 
 #include <QStringDecoder>
@@ -133,7 +134,7 @@ QString cNSStringHandling::hReverseString(const QString& text)
 
 QString cNSStringHandling::hNSDateToNSString(const QDateTime& date)
 {
-    return date.toUTC().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")) + QStringLiteral(" +0000");
+    return date.toUTC().toString(u"yyyy-MM-dd HH:mm:ss"_s) + u" +0000"_s;
 }
 
 std::optional<QString> cNSStringHandling::hNSDataToNSString(const QByteArray& data)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "panel_modes.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/file_system.h>
 
@@ -57,30 +58,30 @@ QStringList words(const QString& text) { return text.split(u' '); }
 
 QStringList documentExtensions(PanelForm form)
 {
-    const QString shared = QStringLiteral("pdf png jpg jpeg gif tif tiff");
+    const QString shared = u"pdf png jpg jpeg gif tif tiff"_s;
     if (form == PanelForm::OC)
         return words(shared);
-    return words(shared + QStringLiteral(" tga targa psd HEIC"));
+    return words(shared + u" tga targa psd HEIC"_s);
 }
 
 QStringList extensionsOf(Extensions extensions, PanelForm form)
 {
-    const QString scannedTagged = QStringLiteral("jpg jpeg tif tiff JPG JPEG TIF TIFF");
+    const QString scannedTagged = u"jpg jpeg tif tiff JPG JPEG TIF TIFF"_s;
     switch (extensions) {
     case Extensions::Any:
         return {};
     case Extensions::Documents:
         return documentExtensions(form);
     case Extensions::Images:
-        return words(QStringLiteral("png jpg jpeg tif tiff HEIC"));
+        return words(u"png jpg jpeg tif tiff HEIC"_s);
     case Extensions::Tagged:
-        return words(QStringLiteral("jpg jpeg tif tiff"));
+        return words(u"jpg jpeg tif tiff"_s);
     case Extensions::Watermarks:
-        return words(QStringLiteral("jpg jpeg tif tiff png JPG JPEG TIF TIFF PNG"));
+        return words(u"jpg jpeg tif tiff png JPG JPEG TIF TIFF PNG"_s);
     case Extensions::ScannedTagged:
         return words(scannedTagged);
     case Extensions::ScannedDocuments:
-        return words(scannedTagged + QStringLiteral(" pdf png gif PDF PNG GIF"));
+        return words(scannedTagged + u" pdf png gif PDF PNG GIF"_s);
     }
     return {};
 }
@@ -100,12 +101,12 @@ std::optional<PanelMode> panelMode(const QString& name, PanelForm form)
           });
     if (row == modeRows.end() || !isKnown(row->knownTo, form))
         return std::nullopt;
-    const bool isBatchSort = name == QStringLiteral("batchSortImages");
+    const bool isBatchSort = name == u"batchSortImages"_s;
     return PanelMode{
         .chooses = row->chooses,
         .allowedTypes = extensionsOf(row->allowed, form),
         .scannedExtensions = extensionsOf(row->scanned, form),
-        .message = isBatchSort ? QStringLiteral("Choose source folder") : QString()};
+        .message = isBatchSort ? u"Choose source folder"_s : QString()};
 }
 
 QStringList scannedFiles(const QString& folder, const QStringList& extensions)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo_attributes.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/metadata/image_properties.h>
 
 #include <QTimeZone>
@@ -89,7 +90,7 @@ Value hasAlpha(const PropertyDictionary& photo)
 
 Value bitOfFlash(const PropertyDictionary& photo, int bit)
 {
-    const Value flash = exif(photo, QStringLiteral("Flash"));
+    const Value flash = exif(photo, u"Flash"_s);
     if (!flash || !flash->number())
         return std::nullopt;
     return (static_cast<int>(*flash->number()) >> bit) & 1;
@@ -105,7 +106,7 @@ Value redEyeReduction(const PropertyDictionary& photo)
 
 Value exifVersion(const PropertyDictionary& photo)
 {
-    const Value version = exif(photo, QStringLiteral("ExifVersion"));
+    const Value version = exif(photo, u"ExifVersion"_s);
     if (!version || !version->array())
         return version;
     QStringList numbers;
@@ -116,7 +117,7 @@ Value exifVersion(const PropertyDictionary& photo)
 
 Value isoSpeed(const PropertyDictionary& photo)
 {
-    const Value speeds = exif(photo, QStringLiteral("ISOSpeedRatings"));
+    const Value speeds = exif(photo, u"ISOSpeedRatings"_s);
     if (!speeds || !speeds->array())
         return speeds;
     return speeds->array()->isEmpty() ? std::nullopt : Value(speeds->array()->first());
@@ -136,26 +137,22 @@ struct Row
 using Photo = const PropertyDictionary&;
 
 constexpr std::array rows{
-    Row{QLatin1StringView("AcquisitionMake"),
-        [](Photo photo) { return tiff(photo, QStringLiteral("Make")); }},
-    Row{QLatin1StringView("AcquisitionModel"),
-        [](Photo photo) { return tiff(photo, QStringLiteral("Model")); }},
+    Row{QLatin1StringView("AcquisitionMake"), [](Photo photo) { return tiff(photo, u"Make"_s); }},
+    Row{QLatin1StringView("AcquisitionModel"), [](Photo photo) { return tiff(photo, u"Model"_s); }},
     Row{QLatin1StringView("BitsPerSample"), bitsPerPixel},
     Row{QLatin1StringView("ColorSpace"),
         [](Photo photo) { return valueOf(photo, property::colorModel); }},
-    Row{QLatin1StringView("Creator"),
-        [](Photo photo) { return tiff(photo, QStringLiteral("Software")); }},
+    Row{QLatin1StringView("Creator"), [](Photo photo) { return tiff(photo, u"Software"_s); }},
     Row{QLatin1StringView("Description"), caption},
     Row{QLatin1StringView("EXIFVersion"), exifVersion},
     Row{QLatin1StringView("ExposureMode"),
-        [](Photo photo) { return exif(photo, QStringLiteral("ExposureMode")); }},
+        [](Photo photo) { return exif(photo, u"ExposureMode"_s); }},
     Row{QLatin1StringView("ExposureTimeSeconds"),
-        [](Photo photo) { return exif(photo, QStringLiteral("ExposureTime")); }},
+        [](Photo photo) { return exif(photo, u"ExposureTime"_s); }},
     Row{QLatin1StringView("FlashOnOff"), flashFired},
-    Row{QLatin1StringView("FNumber"),
-        [](Photo photo) { return exif(photo, QStringLiteral("FNumber")); }},
+    Row{QLatin1StringView("FNumber"), [](Photo photo) { return exif(photo, u"FNumber"_s); }},
     Row{QLatin1StringView("FocalLength"),
-        [](Photo photo) { return exif(photo, QStringLiteral("FocalLength")); }},
+        [](Photo photo) { return exif(photo, u"FocalLength"_s); }},
     Row{QLatin1StringView("HasAlphaChannel"), hasAlpha},
     Row{QLatin1StringView("ISOSpeed"), isoSpeed},
     Row{QLatin1StringView("Orientation"), uprightOrientation},
@@ -170,7 +167,7 @@ constexpr std::array rows{
     Row{QLatin1StringView("ResolutionWidthDPI"),
         [](Photo photo) { return valueOf(photo, property::dpiWidth); }},
     Row{QLatin1StringView("WhiteBalance"),
-        [](Photo photo) { return exif(photo, QStringLiteral("WhiteBalance")); }},
+        [](Photo photo) { return exif(photo, u"WhiteBalance"_s); }},
 };
 
 } // namespace
@@ -194,11 +191,10 @@ std::optional<QDateTime> exposureDate(const QString& path)
     const Value taken = exif(*photo, property::exifDateTimeOriginal);
     if (!taken)
         return std::nullopt;
-    const QDateTime local
-        = QDateTime::fromString(taken->text(), QStringLiteral("yyyy:MM:dd HH:mm:ss"));
+    const QDateTime local = QDateTime::fromString(taken->text(), u"yyyy:MM:dd HH:mm:ss"_s);
     if (!local.isValid())
         return std::nullopt;
-    const Value offset = exif(*photo, QStringLiteral("OffsetTimeOriginal"));
+    const Value offset = exif(*photo, u"OffsetTimeOriginal"_s);
     const QDateTime stated = offset
         ? QDateTime::fromString(local.toString(Qt::ISODate) + offset->text().trimmed(), Qt::ISODate)
         : QDateTime();

@@ -2,6 +2,7 @@
 #include "photo_copy.h"
 
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 #include <platform/metadata/image_file_writer.h>
 #include <platform/metadata/metadata_reader.h>
 
@@ -54,7 +55,7 @@ QStringList photoCopyTypes()
 
 double compressionFactor(const QString& title)
 {
-    const QString digits = QStringLiteral("12345678");
+    const QString digits = u"12345678"_s;
     if (title.size() != 1 || !digits.contains(title))
         return 0.9;
     return title.toInt() / 10.0;

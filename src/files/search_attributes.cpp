@@ -5,6 +5,7 @@
 #include "ns_string_handling.h"
 #include "photo_attributes.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/file_label.h>
 #include <platform/storage/file_system.h>
@@ -101,7 +102,7 @@ constexpr std::array kinds{
 Value kindOf(const QString& path)
 {
     if (platform::storage::isFolder(path))
-        return QStringLiteral("Folder");
+        return u"Folder"_s;
     const QString type = cNSFileHandling::hGetFileType(path);
     const auto known = std::find_if(kinds.begin(), kinds.end(), [&](const Kind& kind) {
         return type == kind.type;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tool_box.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/text_file.h>
 
@@ -38,8 +39,8 @@ std::optional<QStringList> cToolBox::filesOf(const std::optional<PanelMode>& mod
 std::optional<QString> cToolBox::hChooseDirectory() const
 {
     const auto chosen = m_surroundings.chooser.open(
-        {.message = QStringLiteral("Choose folder"),
-         .prompt = QStringLiteral("OK"),
+        {.message = u"Choose folder"_s,
+         .prompt = u"OK"_s,
          .choosesFiles = false,
          .choosesDirectories = true,
          .canCreateDirectories = true}
@@ -52,8 +53,8 @@ std::optional<QString> cToolBox::hChooseDirectory() const
 QString cToolBox::hReadNSDataInFile(const QString& folder) const
 {
     const auto chosen = m_surroundings.chooser.open(
-        {.message = QStringLiteral("Choose a c-action file"),
-         .allowedTypes = {QStringLiteral("c-action")},
+        {.message = u"Choose a c-action file"_s,
+         .allowedTypes = {u"c-action"_s},
          .startFolder = folder}
     );
     if (!chosen || chosen->isEmpty())
@@ -67,14 +68,14 @@ QString cToolBox::hReadNSDataInFile(const QString& folder) const
 
 QStringList cToolBox::hSaveProjectDialog()
 {
-    avProjectFileName.setStringValue(QStringLiteral("Enter project name here"));
+    avProjectFileName.setStringValue(u"Enter project name here"_s);
     const auto chosen = m_surroundings.chooser.open(
-        {.message = QStringLiteral("••• Choose folder and enter project name •••"),
-         .prompt = QStringLiteral("OK"),
+        {.message = u"••• Choose folder and enter project name •••"_s,
+         .prompt = u"OK"_s,
          .choosesFiles = false,
          .choosesDirectories = true,
          .canCreateDirectories = true,
-         .accessories = {{.label = QStringLiteral("Project name"), .control = &avProjectFileName}}}
+         .accessories = {{.label = u"Project name"_s, .control = &avProjectFileName}}}
     );
     if (!chosen || chosen->isEmpty())
         return {};

@@ -3,6 +3,7 @@
 #include "tool_box.h"
 
 #include <platform/foundation/folders.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/atomic_file.h>
@@ -12,10 +13,7 @@ namespace brenvaldo::files {
 
 namespace {
 
-void logFailure(const QString& path)
-{
-    platform::log(QStringLiteral("Can't write \"%1\"").arg(path));
-}
+void logFailure(const QString& path) { platform::log(u"Can't write \"%1\""_s.arg(path)); }
 
 controls::SavePanel panelForType(const QString& type, const QString& suggestedName)
 {
@@ -44,38 +42,35 @@ void cToolBox::hSaveWriteDialogFile(const NewText& file) const
 
 QString cToolBox::hSaveWriteDialogFile2(const NewActionFile& file) const
 {
-    controls::SavePanel panel = panelForType(QStringLiteral("c-action"), file.suggestedName);
-    panel.startFolder = m_surroundings.defaults.text(QStringLiteral("CActionsDestination"));
+    controls::SavePanel panel = panelForType(u"c-action"_s, file.suggestedName);
+    panel.startFolder = m_surroundings.defaults.text(u"CActionsDestination"_s);
     return savedTo(panel, file.text.toUtf8());
 }
 
 void cToolBox::hSaveNSDataWriteDialogFile(const QByteArray& contents, const QString& suggestedName)
     const
 {
-    static_cast<void>(savedTo(panelForType(QStringLiteral("c-action"), suggestedName), contents));
+    static_cast<void>(savedTo(panelForType(u"c-action"_s, suggestedName), contents));
 }
 
 void cToolBox::hChooseFileType()
 {
     m_fileType = pubFileType.titleOfSelectedItem();
     m_panel.allowedTypes = {m_fileType};
-    pubJPEGcompression.setEnabled(m_fileType == QStringLiteral("jpeg"));
+    pubJPEGcompression.setEnabled(m_fileType == u"jpeg"_s);
 }
 
 void cToolBox::hChooseCompType() { m_compressionType = pubJPEGcompression.titleOfSelectedItem(); }
 
-bool cToolBox::asksForTags() const
-{
-    return m_surroundings.defaults.text(QStringLiteral("MOS")) == QStringLiteral("109+");
-}
+bool cToolBox::asksForTags() const { return m_surroundings.defaults.text(u"MOS"_s) == u"109+"_s; }
 
 QList<controls::Accessory> cToolBox::formatAccessories()
 {
     QList<controls::Accessory> accessories
-        = {{.label = QStringLiteral("File type"), .control = &pubFileType},
-           {.label = QStringLiteral("JPEG quality"), .control = &pubJPEGcompression}};
+        = {{.label = u"File type"_s, .control = &pubFileType},
+           {.label = u"JPEG quality"_s, .control = &pubJPEGcompression}};
     if (asksForTags())
-        accessories += {.label = QStringLiteral("Tags"), .control = &m_tagNames};
+        accessories += {.label = u"Tags"_s, .control = &m_tagNames};
     return accessories;
 }
 

@@ -2,6 +2,7 @@
 #include "tool_box.h"
 
 #include <platform/foundation/folders.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 
 namespace brenvaldo::files {
@@ -26,8 +27,7 @@ StoreStatus noted(bool succeeded)
 
 QString text(StoreStatus status)
 {
-    return status == StoreStatus::Successful ? QStringLiteral("successfull")
-                                             : QStringLiteral("Failed");
+    return status == StoreStatus::Successful ? u"successfull"_s : u"Failed"_s;
 }
 
 StoreStatus cToolBox::hStoreFiles(const PathAndName& file)
@@ -37,8 +37,7 @@ StoreStatus cToolBox::hStoreFiles(const PathAndName& file)
     const QString target = platform::appendingPathComponent(folder, file.name);
     if (!platform::storage::fileExists(target))
         return noted(platform::storage::copyItem({.source = file.path, .target = target}));
-    const QString temporary
-        = platform::appendingPathComponent(folder, file.name + QStringLiteral("-temp"));
+    const QString temporary = platform::appendingPathComponent(folder, file.name + u"-temp"_s);
     const bool copied = platform::storage::copyItem({.source = file.path, .target = temporary});
     const bool moved = platform::storage::moveItem({.source = temporary, .target = target});
     return noted(copied && moved);
@@ -59,7 +58,7 @@ QString cToolBox::hGetHomeDir() { return platform::homeFolder(); }
 
 QString cToolBox::hGetTempDir()
 {
-    return platform::appendingPathComponent(hGetHomeDir(), QStringLiteral("Temp"));
+    return platform::appendingPathComponent(hGetHomeDir(), u"Temp"_s);
 }
 
 } // namespace brenvaldo::files

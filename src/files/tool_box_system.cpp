@@ -4,6 +4,7 @@
 #include "url_text.h"
 
 #include <platform/drawing/fonts.h>
+#include <platform/foundation/literals.h>
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -14,24 +15,22 @@ namespace brenvaldo::files {
 
 namespace {
 
-QStringList compressionTitles() { return QStringLiteral("1 2 3 4 5 6 7 8 9").split(u' '); }
+QStringList compressionTitles() { return u"1 2 3 4 5 6 7 8 9"_s.split(u' '); }
 
 } // namespace
 
 cToolBox::cToolBox(const ToolBoxSurroundings& surroundings)
     : pubFileType(
-        QStringLiteral("pubFileType"),
-        photoCopyTypes(),
-        static_cast<int>(photoCopyTypes().indexOf(QStringLiteral("jpeg")))
+        u"pubFileType"_s, photoCopyTypes(), static_cast<int>(photoCopyTypes().indexOf(u"jpeg"_s))
     )
     , pubJPEGcompression(
-          QStringLiteral("pubJPEGcompression"),
+          u"pubJPEGcompression"_s,
           compressionTitles(),
           static_cast<int>(compressionTitles().size()) - 1
       )
-    , avProjectFileName(QStringLiteral("avProjectFileName"))
+    , avProjectFileName(u"avProjectFileName"_s)
     , m_surroundings(surroundings)
-    , m_tagNames(QStringLiteral("tagNames"))
+    , m_tagNames(u"tagNames"_s)
     , m_typeChosen(pubFileType.changed.connect([this] { hChooseFileType(); }))
     , m_compressionChosen(pubJPEGcompression.changed.connect([this] { hChooseCompType(); }))
 {
@@ -48,7 +47,7 @@ QList<QUrl> cToolBox::hGetFilesInDir(const QString& folder)
 void cToolBox::hShowURL(const QString& path) const
 {
     QUrl url;
-    url.setScheme(QStringLiteral("file"));
+    url.setScheme(u"file"_s);
     url.setPath(withEncodedQuerySigns(path), QUrl::TolerantMode);
     m_surroundings.desktop.openUrl(url);
 }
@@ -60,7 +59,7 @@ std::optional<QUrl> cToolBox::hNSStrToUrl(const QString& text)
     return urlFromText(withEncodedQuerySigns(text));
 }
 
-QString cToolBox::hGetMacOSVersion() { return QStringLiteral("109+"); }
+QString cToolBox::hGetMacOSVersion() { return u"109+"_s; }
 
 bool cToolBox::isDarkMode()
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "url_text.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QRegularExpression>
 
 namespace brenvaldo::files {
@@ -8,7 +10,7 @@ namespace brenvaldo::files {
 std::optional<QUrl> urlFromText(const QString& text)
 {
     static const QRegularExpression allowed(QRegularExpression::anchoredPattern(
-        QStringLiteral("(?:[A-Za-z0-9._~:/?#@!$&'()*+,;=-]|%[0-9A-Fa-f]{2})+")
+        u"(?:[A-Za-z0-9._~:/?#@!$&'()*+,;=-]|%[0-9A-Fa-f]{2})+"_s
     ));
     if (!allowed.match(text).hasMatch())
         return std::nullopt;
@@ -22,7 +24,7 @@ QString withEncodedQuerySigns(const QString& text)
 {
     QString encoded;
     for (const QChar character : text) {
-        if (QStringLiteral("?=&+").contains(character))
+        if (u"?=&+"_s.contains(character))
             encoded += u'%' + QString::number(character.unicode(), 16).toUpper();
         else
             encoded += character;

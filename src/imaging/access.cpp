@@ -4,6 +4,7 @@
 #include "resolution_rules.h"
 
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::imaging {
 
@@ -49,7 +50,7 @@ PixelSize DVImageHandling::hGetCIImgPixelSize(const std::optional<Image>& image)
 QString DVImageHandling::hGetPixelSize(const QString& path)
 {
     const PixelSize size = hGetImgPixelSize(path);
-    return QStringLiteral("%1px x %2px (w x h)").arg(size.width).arg(size.height);
+    return u"%1px x %2px (w x h)"_s.arg(size.width).arg(size.height);
 }
 
 } // namespace brenvaldo::imaging

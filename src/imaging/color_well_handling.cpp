@@ -4,6 +4,7 @@
 #include "hex_text.h"
 #include "ns_color_handling.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
 #include <algorithm>
@@ -122,7 +123,7 @@ std::optional<Color> cColorWellHandling::setHEXValue(const QString& text, contro
 
 void cColorWellHandling::registerActions(controls::ActionRegistry& actions) const
 {
-    const QString className = QStringLiteral("cColorWellHandling");
+    const QString className = u"cColorWellHandling"_s;
     const auto edited = [handling = *this](const controls::Sender& sender) {
         if (const auto* field = dynamic_cast<const controls::TextControl*>(sender.control))
             handling.controlTextDidEndEditing(*field);
@@ -131,8 +132,8 @@ void cColorWellHandling::registerActions(controls::ActionRegistry& actions) cons
         if (const auto* well = dynamic_cast<const controls::ColorWell*>(sender.control))
             handling.hCallHEXfromColorwell(*well);
     };
-    actions.add(className, QStringLiteral("controlTextDidEndEditing"), edited);
-    actions.add(className, QStringLiteral("hCallHEXfromColorwell"), changed);
+    actions.add(className, u"controlTextDidEndEditing"_s, edited);
+    actions.add(className, u"hCallHEXfromColorwell"_s, changed);
 }
 
 void cColorWellHandling::controlTextDidEndEditing(const controls::TextControl& field) const

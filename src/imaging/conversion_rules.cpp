@@ -3,6 +3,7 @@
 
 #include "compression_level.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/foundation/text.h>
 
@@ -22,14 +23,14 @@ using Quality = ConversionRule::Quality;
 const std::array<ConversionRule, 8>& conversionRules()
 {
     static const std::array<ConversionRule, 8> rules{{
-        {QStringLiteral("pdf"), FileFormat::Pdf, Route::Plain, Quality::PlatformDefault},
-        {QStringLiteral("png"), FileFormat::Png, Route::Metadata, Quality::PlatformDefault},
-        {QStringLiteral("tiff"), FileFormat::Tiff, Route::Metadata, Quality::PlatformDefault},
-        {QStringLiteral("bmp"), FileFormat::Bmp, Route::Plain, Quality::PlatformDefault},
-        {QStringLiteral("gif"), FileFormat::Gif, Route::Plain, Quality::PlatformDefault},
-        {QStringLiteral("jpeg"), FileFormat::Jpeg, Route::Plain, Quality::FromLevel},
-        {QStringLiteral("jp2"), FileFormat::Jpeg2000, Route::Plain, Quality::PlatformDefault},
-        {QStringLiteral("heic"), FileFormat::Heic, Route::Metadata, Quality::PlatformDefault},
+        {u"pdf"_s, FileFormat::Pdf, Route::Plain, Quality::PlatformDefault},
+        {u"png"_s, FileFormat::Png, Route::Metadata, Quality::PlatformDefault},
+        {u"tiff"_s, FileFormat::Tiff, Route::Metadata, Quality::PlatformDefault},
+        {u"bmp"_s, FileFormat::Bmp, Route::Plain, Quality::PlatformDefault},
+        {u"gif"_s, FileFormat::Gif, Route::Plain, Quality::PlatformDefault},
+        {u"jpeg"_s, FileFormat::Jpeg, Route::Plain, Quality::FromLevel},
+        {u"jp2"_s, FileFormat::Jpeg2000, Route::Plain, Quality::PlatformDefault},
+        {u"heic"_s, FileFormat::Heic, Route::Metadata, Quality::PlatformDefault},
     }};
     return rules;
 }

@@ -5,6 +5,7 @@
 
 #include <platform/codecs/image_destination.h>
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 #include <platform/metadata/image_file_writer.h>
@@ -52,9 +53,7 @@ bool isRefused(const QString& path, platform::codecs::FileFormat format)
 bool writeConverted(const PictureToSave& picture, const ConversionRule& rule)
 {
     if (!picture.image) {
-        logFailedWrite(
-            picture.destination, QStringLiteral("%1 can't be read as a photo").arg(picture.source)
-        );
+        logFailedWrite(picture.destination, u"%1 can't be read as a photo"_s.arg(picture.source));
         return false;
     }
 
@@ -70,7 +69,7 @@ bool writeConverted(const PictureToSave& picture, const ConversionRule& rule)
 ResultWord write(const PictureToSave& picture, const ConversionRule& rule)
 {
     if (rule.format == platform::codecs::FileFormat::Heic)
-        platform::log(QStringLiteral("Convert: save as heic"));
+        platform::log(u"Convert: save as heic"_s);
     if (writeConverted(picture, rule))
         return ResultWord::Ok;
 

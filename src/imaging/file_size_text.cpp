@@ -2,6 +2,7 @@
 #include "dv_image_handling.h"
 
 #include <platform/foundation/exceptions.h>
+#include <platform/foundation/literals.h>
 
 #include <QStringList>
 
@@ -27,11 +28,11 @@ QString twoDecimals(double value)
 QString DVImageHandling::hNSFileSizeToHumanNotification(double bytes)
 {
     static const QStringList units{
-        QStringLiteral("bytes"),
-        QStringLiteral("KB"),
-        QStringLiteral("MB"),
-        QStringLiteral("GB"),
-        QStringLiteral("TB"),
+        u"bytes"_s,
+        u"KB"_s,
+        u"MB"_s,
+        u"GB"_s,
+        u"TB"_s,
     };
     double value = bytes;
     int unit = 0;
@@ -41,7 +42,7 @@ QString DVImageHandling::hNSFileSizeToHumanNotification(double bytes)
     }
     if (unit >= units.size())
         throw platform::RangeError(
-            QStringLiteral("index %1 beyond bounds [0 .. %2]").arg(unit).arg(units.size() - 1)
+            u"index %1 beyond bounds [0 .. %2]"_s.arg(unit).arg(units.size() - 1)
         );
     return twoDecimals(value) + units.at(unit);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hex_text.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
 namespace brenvaldo::imaging {
@@ -10,7 +11,7 @@ namespace {
 QString twoDigits(double component)
 {
     const auto byte = static_cast<std::uint32_t>(platform::truncated(component * 255.0));
-    return QStringLiteral("%1").arg(byte, 2, 16, QLatin1Char('0')).toUpper();
+    return u"%1"_s.arg(byte, 2, 16, QLatin1Char('0')).toUpper();
 }
 
 } // namespace

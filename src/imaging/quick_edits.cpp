@@ -6,6 +6,7 @@
 
 #include <platform/codecs/image_source.h>
 #include <platform/containers/type_identifier.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 #include <platform/metadata/metadata_reader.h>
@@ -28,12 +29,12 @@ std::optional<Image> storedPhoto(const QString& path)
 {
     const QFileInfo file(path);
     if (!file.isFile() || !file.isReadable()) {
-        platform::log(QStringLiteral("Image source is NULL."));
+        platform::log(u"Image source is NULL."_s);
         return std::nullopt;
     }
     auto image = DVImageHandling::hStringToCGImageRef(path);
     if (!image)
-        platform::log(QStringLiteral("Image not created from image source."));
+        platform::log(u"Image not created from image source."_s);
     return image;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "relief_texture.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/memo.h>
 #include <platform/graphics/color.h>
 
@@ -38,56 +39,56 @@ const QHash<QString, Material>& materials()
 {
     static const QHash<QString, Material> table{
         // Glass: clear, with a cold highlight.
-        {QStringLiteral("texture1"),
+        {u"texture1"_s,
          {{.red = .35, .green = .40, .blue = .46},
           {.red = .86, .green = .89, .blue = .92},
           {.red = 1, .green = 1, .blue = 1},
           28,
           {-.5, .7, .8}}},
         // Gold.
-        {QStringLiteral("texture2"),
+        {u"texture2"_s,
          {{.red = .32, .green = .17, .blue = .02},
           {.red = .93, .green = .70, .blue = .24},
           {.red = 1, .green = .97, .blue = .78},
           18,
           {-.5, .7, .7}}},
         // Silver.
-        {QStringLiteral("texture3"),
+        {u"texture3"_s,
          {{.red = .16, .green = .17, .blue = .19},
           {.red = .75, .green = .77, .blue = .80},
           {.red = 1, .green = 1, .blue = 1},
           40,
           {-.6, .8, .5}}},
         // Copper.
-        {QStringLiteral("texture4"),
+        {u"texture4"_s,
          {{.red = .24, .green = .08, .blue = .04},
           {.red = .80, .green = .46, .blue = .32},
           {.red = 1, .green = .88, .blue = .80},
           16,
           {-.4, .8, .6}}},
         // Stone: hardly a highlight.
-        {QStringLiteral("texture5"),
+        {u"texture5"_s,
          {{.red = .26, .green = .25, .blue = .24},
           {.red = .72, .green = .70, .blue = .66},
           {.red = .80, .green = .79, .blue = .76},
           4,
           {-.7, .6, .6}}},
         // Ceramic.
-        {QStringLiteral("texture6"),
+        {u"texture6"_s,
          {{.red = .45, .green = .44, .blue = .42},
           {.red = .95, .green = .94, .blue = .92},
           {.red = 1, .green = 1, .blue = 1},
           60,
           {-.4, .6, .9}}},
         // Night blue.
-        {QStringLiteral("texture7"),
+        {u"texture7"_s,
          {{.red = .02, .green = .05, .blue = .14},
           {.red = .20, .green = .36, .blue = .66},
           {.red = .86, .green = .93, .blue = 1},
           24,
           {-.5, .7, .7}}},
         // Ice.
-        {QStringLiteral("texture8"),
+        {u"texture8"_s,
          {{.red = .20, .green = .36, .blue = .48},
           {.red = .74, .green = .90, .blue = .96},
           {.red = 1, .green = 1, .blue = 1},

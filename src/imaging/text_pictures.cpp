@@ -5,6 +5,7 @@
 
 #include <platform/drawing/attributed_text.h>
 #include <platform/drawing/relief.h>
+#include <platform/foundation/literals.h>
 #include <platform/graphics/qt_color.h>
 
 #include <QPainter>
@@ -17,8 +18,8 @@ namespace {
 
 QImage shadingOf(const QString& texture, const platform::graphics::Color& color)
 {
-    return texture == QStringLiteral("texture6") ? DVImageHandling::h3DcolorEffect(color)
-                                                 : reliefTexture(texture);
+    return texture == u"texture6"_s ? DVImageHandling::h3DcolorEffect(color)
+                                    : reliefTexture(texture);
 }
 
 } // namespace

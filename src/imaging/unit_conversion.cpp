@@ -4,13 +4,15 @@
 #include "dv_image_handling.h"
 #include "unit_rules.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::imaging {
 
 float cMConversion::convertXtoPixel(
     const QString& path, const QString& targetUnit, const QString& sourceUnit, float value
 )
 {
-    if (targetUnit != QStringLiteral("pixel"))
+    if (targetUnit != u"pixel"_s)
         return static_cast<float>(m_newValue);
 
     if (needsResolution(sourceUnit))

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "unit_rules.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
 #include <cmath>
@@ -30,24 +31,24 @@ float millimetres(float value, double millimetresPerUnit)
 
 } // namespace
 
-bool needsResolution(const QString& unit) { return unit != QStringLiteral("pixel"); }
+bool needsResolution(const QString& unit) { return unit != u"pixel"_s; }
 
 std::int32_t pixelsOf(float value, const QString& unit, float dotsPerInch)
 {
-    if (unit == QStringLiteral("mm"))
+    if (unit == u"mm"_s)
         return truncated(pixelsOfMillimetres(value, dotsPerInch));
-    if (unit == QStringLiteral("cm"))
+    if (unit == u"cm"_s)
         return truncated(pixelsOfMillimetres(value * 10.0F, dotsPerInch));
-    if (unit == QStringLiteral("inch")) {
+    if (unit == u"inch"_s) {
         const float length = millimetres(value, millimetresPerInch);
         return truncated(pixelsOfMillimetres(length, dotsPerInch));
     }
-    if (unit == QStringLiteral("pica")) {
+    if (unit == u"pica"_s) {
         const float length = millimetres(value, millimetresPerPica);
         const auto exact = static_cast<float>(pixelsOfMillimetres(length, dotsPerInch));
         return truncated(std::round(exact));
     }
-    if (unit == QStringLiteral("punt")) {
+    if (unit == u"punt"_s) {
         const float length = millimetres(value, millimetresPerPoint);
         return truncated(pixelsOfMillimetres(length, dotsPerInch));
     }

@@ -3,6 +3,7 @@
 
 #include "compression_level.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/text.h>
 
 #include <algorithm>
@@ -76,7 +77,7 @@ bool matches(const TypeRow& row, const WriterTraits& traits, const QString& type
         if (traits.heic == WriterTraits::Heic::Never)
             return false;
         if (traits.heic == WriterTraits::Heic::BySuffix)
-            return platform::hasSuffix(typeIdentifier, QStringLiteral("heic"));
+            return platform::hasSuffix(typeIdentifier, u"heic"_s);
     }
     return typeIdentifier == QStringView(row.typeIdentifier);
 }
@@ -108,8 +109,7 @@ std::optional<WriterRule> writerRule(Writer writer, const QString& typeIdentifie
 
 bool isNotSupported(const QString& typeIdentifier)
 {
-    return typeIdentifier == QStringLiteral("com.adobe.photoshop-image")
-        || typeIdentifier == QStringLiteral("com.adobe.pdf");
+    return typeIdentifier == u"com.adobe.photoshop-image"_s || typeIdentifier == u"com.adobe.pdf"_s;
 }
 
 QString writtenPath(Writer writer, const QString& destination, const QString& typeIdentifier)
@@ -127,9 +127,9 @@ QString outputTypeForTitle(const QString& title)
 {
     if (title == originalFileType)
         return title;
-    if (title == QStringLiteral("gif"))
-        return QStringLiteral("com.compuserve.") + title;
-    return QStringLiteral("public.") + title;
+    if (title == u"gif"_s)
+        return u"com.compuserve."_s + title;
+    return u"public."_s + title;
 }
 
 bool keepsOriginalType(const QString& outputType) { return outputType == originalFileType; }

@@ -4,6 +4,7 @@
 #include "failure_log.h"
 #include "writer_rules.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/metadata/image_file_writer.h>
 
@@ -38,10 +39,10 @@ ResultWord write(Writer writer, const PictureToSave& picture)
         return ResultWord::Ok;
 
     if (!picture.image)
-        logFailedWrite(path, QStringLiteral("there is no picture"));
+        logFailedWrite(path, u"there is no picture"_s);
     if (rule->failure == WriterRule::Failure::Logged) {
         const QString url = QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded);
-        platform::log(QStringLiteral("Failed to write image to ") + url);
+        platform::log(u"Failed to write image to "_s + url);
     }
     return ResultWord::Failed;
 }

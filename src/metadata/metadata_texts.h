@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <platform/foundation/literals.h>
+
 #include <QString>
 
 /// \file
@@ -9,15 +11,12 @@
 namespace brenvaldo::metadata {
 
 /// The file is no image, or can't be written to.
-[[nodiscard]] inline QString notSupportedText()
-{
-    return QStringLiteral("This file type is not supported.");
-}
+[[nodiscard]] inline QString notSupportedText() { return u"This file type is not supported."_s; }
 
 /// The image holds no user comment.
 [[nodiscard]] inline QString notSupportedOrAvailableText()
 {
-    return QStringLiteral("Not supported, or no comment available.");
+    return u"Not supported, or no comment available."_s;
 }
 
 } // namespace brenvaldo::metadata

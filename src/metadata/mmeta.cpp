@@ -4,6 +4,7 @@
 #include "metadata_texts.h"
 
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/foundation/text.h>
 
@@ -20,7 +21,7 @@ namespace {
 
 const QString& userCommentName()
 {
-    static const QString name = QStringLiteral("EXIF User Comment");
+    static const QString name = u"EXIF User Comment"_s;
     return name;
 }
 
@@ -41,7 +42,7 @@ QString keptText(const PropertyDictionary* dictionary, QLatin1StringView key)
 /// True for a text that is split at each blank into one piece more than it has units.
 bool isOfBlanksOnly(const QString& text)
 {
-    return platform::componentsSeparatedBy(text, QStringLiteral(" ")).size() == text.size() + 1;
+    return platform::componentsSeparatedBy(text, u" "_s).size() == text.size() + 1;
 }
 
 /// The value in `exif`; an empty one gives way to that in `iptc`, a missing one does not.
@@ -101,20 +102,20 @@ QString treated(const PropertyDictionary& iptc, const IptcName& name)
     const QStringList texts = value ? textsOf(*value) : QStringList();
     if (name.treatment == Treatment::First)
         return texts.value(0);
-    return texts.join(QStringLiteral("; "));
+    return texts.join(u"; "_s);
 }
 
 QString nameOfDeviceSpace(const platform::codecs::ImageHeader& header)
 {
     switch (header.colorModel) {
     case platform::graphics::ColorModel::Gray:
-        return QStringLiteral("Generic Gray Gamma 2.2 Profile");
+        return u"Generic Gray Gamma 2.2 Profile"_s;
     case platform::graphics::ColorModel::Rgb:
-        return QStringLiteral("sRGB IEC61966-2.1");
+        return u"sRGB IEC61966-2.1"_s;
     case platform::graphics::ColorModel::Cmyk:
-        return QStringLiteral("Generic CMYK Profile");
+        return u"Generic CMYK Profile"_s;
     case platform::graphics::ColorModel::Lab:
-        return QStringLiteral("Generic Lab Profile");
+        return u"Generic Lab Profile"_s;
     }
     return {};
 }
@@ -173,7 +174,7 @@ QString mMeta::hGetMetaData(const QString& path)
         keptText(exif, property::exifUserComment)
     );
     showIptc(source ? source->dictionary(property::iptcDictionary) : nullptr);
-    return QStringLiteral("OK");
+    return u"OK"_s;
 }
 
 void mMeta::showIptc(const PropertyDictionary* iptc)
@@ -181,7 +182,7 @@ void mMeta::showIptc(const PropertyDictionary* iptc)
     panels::ExifPanel& panel = m_panels.vwFileManagementEXIF;
     const auto show = [iptc](controls::TextField& field, QLatin1StringView key) {
         const PropertyValue* value = iptc ? iptc->value(key) : nullptr;
-        field.setStringValue(value ? textsOf(*value).join(QStringLiteral("; ")) : QString());
+        field.setStringValue(value ? textsOf(*value).join(u"; "_s) : QString());
     };
     const PropertyValue* keywords = iptc ? iptc->value(property::iptcKeywords) : nullptr;
     QString keywordText;
@@ -227,13 +228,7 @@ QString mMeta::hGetExifUcFromSource(const PropertyDictionary& source, const QStr
 
 QString mMeta::hGetExifUc(const QString& path, const QString& name)
 {
-    static const QStringList known{
-        QStringLiteral("png"),
-        QStringLiteral("jpg"),
-        QStringLiteral("jpeg"),
-        QStringLiteral("tif"),
-        QStringLiteral("tiff"),
-        QStringLiteral("heic")};
+    static const QStringList known{u"png"_s, u"jpg"_s, u"jpeg"_s, u"tif"_s, u"tiff"_s, u"heic"_s};
     const auto source = isExtensionIn(known, path) ? getMyImageSource(path) : std::nullopt;
     const PropertyDictionary* exif
         = source ? source->dictionary(property::exifDictionary) : nullptr;
@@ -251,12 +246,7 @@ QString mMeta::hGetExifUc(const QString& path, const QString& name)
 
 QString mMeta::hGetSomeIPTC(const QString& path, const QString& name)
 {
-    static const QStringList known{
-        QStringLiteral("jpg"),
-        QStringLiteral("jpeg"),
-        QStringLiteral("tif"),
-        QStringLiteral("tiff"),
-        QStringLiteral("heic")};
+    static const QStringList known{u"jpg"_s, u"jpeg"_s, u"tif"_s, u"tiff"_s, u"heic"_s};
     const auto source = isExtensionIn(known, path) ? getMyImageSource(path) : std::nullopt;
     const PropertyDictionary* iptc
         = source ? source->dictionary(property::iptcDictionary) : nullptr;

@@ -3,17 +3,19 @@
 
 #include "common_rows.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 CodePanel::CodePanel()
-    : PanelView(u"vwQRBarCode"_qs)
+    : PanelView(u"vwQRBarCode"_s)
 {
     setLayout({
-        {Row{.label = u"Code"_qs, .fields = {{.control = &pubCodeType}}}},
-        {textRow(u"Text"_qs, tfQRtext)},
-        {textRow(u"Folder"_qs, tfQRDestination)},
-        {textRow(u"File name"_qs, tfQRName)},
-        {textRow(u"Size"_qs, tfQRSize, u"px"_qs)},
+        {Row{.label = u"Code"_s, .fields = {{.control = &pubCodeType}}}},
+        {textRow(u"Text"_s, tfQRtext)},
+        {textRow(u"Folder"_s, tfQRDestination)},
+        {textRow(u"File name"_s, tfQRName)},
+        {textRow(u"Size"_s, tfQRSize, u"px"_s)},
     });
 }
 

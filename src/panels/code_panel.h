@@ -4,6 +4,7 @@
 #include "layout.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -12,11 +13,11 @@ struct CodePanel : PanelView
 {
     CodePanel();
 
-    controls::PopUpButton pubCodeType{u"pubCodeType"_qs, {u"QR code"_qs, u"Code 128"_qs}};
-    controls::TextField tfQRtext{u"tfQRtext"_qs};
-    controls::TextField tfQRDestination{u"tfQRDestination"_qs};
-    controls::TextField tfQRName{u"tfQRName"_qs};
-    controls::TextField tfQRSize{u"tfQRSize"_qs};
+    controls::PopUpButton pubCodeType{u"pubCodeType"_s, {u"QR code"_s, u"Code 128"_s}};
+    controls::TextField tfQRtext{u"tfQRtext"_s};
+    controls::TextField tfQRDestination{u"tfQRDestination"_s};
+    controls::TextField tfQRName{u"tfQRName"_s};
+    controls::TextField tfQRSize{u"tfQRSize"_s};
 };
 
 } // namespace brenvaldo::panels

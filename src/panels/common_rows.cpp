@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "common_rows.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 Row colourRow(const QString& label, controls::ColorWell& well, controls::TextField& hexField)
@@ -9,16 +11,16 @@ Row colourRow(const QString& label, controls::ColorWell& well, controls::TextFie
         .label = label,
         .fields
         = {{.control = &well, .width = Field::Width::Narrow},
-           {.control = &hexField, .accessibleName = u"Colour as hexadecimal digits"_qs}}};
+           {.control = &hexField, .accessibleName = u"Colour as hexadecimal digits"_s}}};
 }
 
 Row offsetRow(controls::TextField& xOffset, controls::TextField& yOffset, const QString& hint)
 {
     return {
-        .label = u"Offset"_qs,
+        .label = u"Offset"_s,
         .fields
-        = {{.control = &xOffset, .unit = u"px"_qs, .accessibleName = u"Horizontal offset"_qs},
-           {.control = &yOffset, .unit = u"px"_qs, .accessibleName = u"Vertical offset"_qs}},
+        = {{.control = &xOffset, .unit = u"px"_s, .accessibleName = u"Horizontal offset"_s},
+           {.control = &yOffset, .unit = u"px"_s, .accessibleName = u"Vertical offset"_s}},
         .hint = hint};
 }
 

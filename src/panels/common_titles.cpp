@@ -1,31 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "common_titles.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 QStringList positionGridTitles()
 {
     return {
-        u"Top left"_qs,
-        u"Top centre"_qs,
-        u"Top right"_qs,
-        u"Middle left"_qs,
-        u"Centre"_qs,
-        u"Middle right"_qs,
-        u"Bottom left"_qs,
-        u"Bottom centre"_qs,
-        u"Bottom right"_qs,
+        u"Top left"_s,
+        u"Top centre"_s,
+        u"Top right"_s,
+        u"Middle left"_s,
+        u"Centre"_s,
+        u"Middle right"_s,
+        u"Bottom left"_s,
+        u"Bottom centre"_s,
+        u"Bottom right"_s,
     };
 }
 
 QStringList gradientAngleTitles()
 {
-    return {u"0\u00b0"_qs, u"90\u00b0"_qs, u"180\u00b0"_qs, u"270\u00b0"_qs};
+    return {u"0\u00b0"_s, u"90\u00b0"_s, u"180\u00b0"_s, u"270\u00b0"_s};
 }
 
 QStringList frameBlendTitles()
 {
-    return {u"Normal"_qs, u"Darken"_qs, u"Lighten"_qs, u"Multiply"_qs, u"Overlay"_qs, u"Colour"_qs};
+    return {u"Normal"_s, u"Darken"_s, u"Lighten"_s, u"Multiply"_s, u"Overlay"_s, u"Colour"_s};
 }
 
 QStringList intensityTitles()
@@ -36,6 +38,6 @@ QStringList intensityTitles()
     return titles;
 }
 
-QString endEditingAction() { return u"cCollectionViewController.controlTextDidEndEditing"_qs; }
+QString endEditingAction() { return u"cCollectionViewController.controlTextDidEndEditing"_s; }
 
 } // namespace brenvaldo::panels

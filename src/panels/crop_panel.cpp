@@ -4,58 +4,60 @@
 #include "common_rows.h"
 #include "field_roles.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 CropSizeView::CropSizeView()
-    : PanelView(u"dvVCUiCropWxHView"_qs)
+    : PanelView(u"dvVCUiCropWxHView"_s)
 {
     makeFunctionField(tfCropWidth, 71);
     makeFunctionField(tfCropHeight, 72);
     setLayout({
-        {Row{.label = u"Width"_qs, .fields = {{.control = &tfCropWidth, .unit = u"px"_qs}}}},
+        {Row{.label = u"Width"_s, .fields = {{.control = &tfCropWidth, .unit = u"px"_s}}}},
         {Row{
-            .label = u"Height"_qs,
-            .fields = {{.control = &tfCropHeight, .unit = u"px"_qs}},
-            .hint = u"Left empty, the photo keeps its size."_qs}},
+            .label = u"Height"_s,
+            .fields = {{.control = &tfCropHeight, .unit = u"px"_s}},
+            .hint = u"Left empty, the photo keeps its size."_s}},
         {Row{.fields = {{.control = &btnFlipCropWH}}}},
     });
 }
 
 CropMinusView::CropMinusView()
-    : PanelView(u"dvVCUiCropMinusView"_qs)
+    : PanelView(u"dvVCUiCropMinusView"_s)
 {
     makeFunctionField(tfCropCutOff, 73);
     setLayout({
         {Row{
-            .label = u"Cut off"_qs,
+            .label = u"Cut off"_s,
             .fields
             = {{.control = &tfCropCutOff,
-                .unit = u"% or px"_qs,
-                .accessibleName = u"Cut off, in percent or pixels"_qs}}}},
+                .unit = u"% or px"_s,
+                .accessibleName = u"Cut off, in percent or pixels"_s}}}},
     });
 }
 
 CropPositionView::CropPositionView()
-    : PanelView(u"dvVCUiCropPositionView"_qs)
+    : PanelView(u"dvVCUiCropPositionView"_s)
 {
-    scCropPosition.addAction(u"cCollectionViewController.hCropPositionSegmentedControl"_qs);
+    scCropPosition.addAction(u"cCollectionViewController.hCropPositionSegmentedControl"_s);
     makeFunctionField(tfXcropOffset, 74);
     makeFunctionField(tfYcropOffset, 75);
     setLayout({
-        {Row{.label = u"Position"_qs, .fields = {{.control = &scCropPosition}}}},
-        {offsetRow(tfXcropOffset, tfYcropOffset, u"To the right, and down."_qs)},
+        {Row{.label = u"Position"_s, .fields = {{.control = &scCropPosition}}}},
+        {offsetRow(tfXcropOffset, tfYcropOffset, u"To the right, and down."_s)},
         {Row{.fields = {{.control = &btnFlipCropXY}}}},
     });
 }
 
 CropPanel::CropPanel()
-    : PanelView(u"vwCropPhotos"_qs)
+    : PanelView(u"vwCropPhotos"_s)
 {
-    pubCropType.addAction(u"cGUIcontrols.hChooseCropTypeFunction"_qs);
+    pubCropType.addAction(u"cGUIcontrols.hChooseCropTypeFunction"_s);
     dvVCUiCropTypeView.addView(dvVCUiCropWxHView.name());
     dvVCUiCropPlaceView.addView(dvVCUiCropPositionView.name());
     setLayout({
-        {Row{.label = u"Crop by"_qs, .fields = {{.control = &pubCropType}}}},
+        {Row{.label = u"Crop by"_s, .fields = {{.control = &pubCropType}}}},
         {HolderPlace{.holder = &dvVCUiCropTypeView}},
         {HolderPlace{.holder = &dvVCUiCropPlaceView}},
     });

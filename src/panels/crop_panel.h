@@ -5,6 +5,7 @@
 #include "layout.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -13,12 +14,10 @@ struct CropSizeView : PanelView
 {
     CropSizeView();
 
-    controls::TextField tfCropWidth{u"tfCropWidth"_qs};
-    controls::TextField tfCropHeight{u"tfCropHeight"_qs};
+    controls::TextField tfCropWidth{u"tfCropWidth"_s};
+    controls::TextField tfCropHeight{u"tfCropHeight"_s};
     controls::Button btnFlipCropWH{
-        u"btnFlipCropWH"_qs,
-        u"Swap width and height"_qs,
-        u"cCollectionViewController.hFlipCropWH"_qs};
+        u"btnFlipCropWH"_s, u"Swap width and height"_s, u"cCollectionViewController.hFlipCropWH"_s};
 };
 
 /// The size of a crop as what is cut off.
@@ -26,7 +25,7 @@ struct CropMinusView : PanelView
 {
     CropMinusView();
 
-    controls::TextField tfCropCutOff{u"tfCropCutOff"_qs};
+    controls::TextField tfCropCutOff{u"tfCropCutOff"_s};
 };
 
 /// The place of a crop.
@@ -35,14 +34,14 @@ struct CropPositionView : PanelView
     CropPositionView();
 
     controls::SegmentedControl scCropPosition{
-        u"scCropPosition"_qs,
+        u"scCropPosition"_s,
         positionGridTitles(),
         4,
         controls::SegmentedControl::Look::PositionGrid};
-    controls::TextField tfXcropOffset{u"tfXcropOffset"_qs};
-    controls::TextField tfYcropOffset{u"tfYcropOffset"_qs};
+    controls::TextField tfXcropOffset{u"tfXcropOffset"_s};
+    controls::TextField tfYcropOffset{u"tfYcropOffset"_s};
     controls::Button btnFlipCropXY{
-        u"btnFlipCropXY"_qs, u"Swap offsets"_qs, u"cCollectionViewController.hFlipCropXY"_qs};
+        u"btnFlipCropXY"_s, u"Swap offsets"_s, u"cCollectionViewController.hFlipCropXY"_s};
 };
 
 /// Cropping: the type, the fields of that type in the holder `dvVCUiCropTypeView`, and the place.
@@ -50,9 +49,9 @@ struct CropPanel : PanelView
 {
     CropPanel();
 
-    controls::PopUpButton pubCropType{u"pubCropType"_qs, {u"W x H"_qs, u"%"_qs, u"px"_qs}};
-    controls::Holder dvVCUiCropTypeView{u"dvVCUiCropTypeView"_qs};
-    controls::Holder dvVCUiCropPlaceView{u"dvVCUiCropPlaceView"_qs};
+    controls::PopUpButton pubCropType{u"pubCropType"_s, {u"W x H"_s, u"%"_s, u"px"_s}};
+    controls::Holder dvVCUiCropTypeView{u"dvVCUiCropTypeView"_s};
+    controls::Holder dvVCUiCropPlaceView{u"dvVCUiCropPlaceView"_s};
     CropSizeView dvVCUiCropWxHView;
     CropMinusView dvVCUiCropMinusView;
     CropPositionView dvVCUiCropPositionView;

@@ -3,30 +3,32 @@
 
 #include "common_rows.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 ExifPanel::ExifPanel()
-    : PanelView(u"vwFileManagementEXIF"_qs)
+    : PanelView(u"vwFileManagementEXIF"_s)
 {
-    cbClearBeforeAdd.addAlias(u"cbClearCurrentEUC"_qs);
-    Row keyWords = textRow(u"Keywords"_qs, tfIPTCKeyWords);
-    keyWords.hint = u"Parted by semicolons."_qs;
+    cbClearBeforeAdd.addAlias(u"cbClearCurrentEUC"_s);
+    Row keyWords = textRow(u"Keywords"_s, tfIPTCKeyWords);
+    keyWords.hint = u"Parted by semicolons."_s;
     setLayout({
-        {textRow(u"Comment"_qs, tfExifUserComment)},
+        {textRow(u"Comment"_s, tfExifUserComment)},
         {Row{.fields = {{.control = &cbClearBeforeAdd}}}},
-        {Heading{u"IPTC"_qs}},
-        {textRow(u"Title"_qs, tfIPTCTitle)},
+        {Heading{u"IPTC"_s}},
+        {textRow(u"Title"_s, tfIPTCTitle)},
         {keyWords},
-        {textRow(u"Caption"_qs, tfIPTCCaption)},
-        {textRow(u"Headline"_qs, tfIPTCHeadline)},
-        {textRow(u"Copyright"_qs, tfIPTCCopyRight)},
-        {textRow(u"Usage terms"_qs, tfIPTCCopyRightTerms)},
-        {textRow(u"Creator"_qs, tfIPTCCreator)},
-        {textRow(u"Creator's title"_qs, tfIPTCCreatorTitle)},
-        {textRow(u"Source"_qs, tfIPTCSourceOwner)},
-        {textRow(u"Contact"_qs, tfIPTCImageContactInfo)},
-        {textRow(u"Caption writer"_qs, tfIPTCEditorContactInfo)},
-        {textRow(u"Creator's contact"_qs, tfIPTCCreatorContactInfo)},
+        {textRow(u"Caption"_s, tfIPTCCaption)},
+        {textRow(u"Headline"_s, tfIPTCHeadline)},
+        {textRow(u"Copyright"_s, tfIPTCCopyRight)},
+        {textRow(u"Usage terms"_s, tfIPTCCopyRightTerms)},
+        {textRow(u"Creator"_s, tfIPTCCreator)},
+        {textRow(u"Creator's title"_s, tfIPTCCreatorTitle)},
+        {textRow(u"Source"_s, tfIPTCSourceOwner)},
+        {textRow(u"Contact"_s, tfIPTCImageContactInfo)},
+        {textRow(u"Caption writer"_s, tfIPTCEditorContactInfo)},
+        {textRow(u"Creator's contact"_s, tfIPTCCreatorContactInfo)},
     });
 }
 

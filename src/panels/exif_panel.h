@@ -4,6 +4,7 @@
 #include "layout.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -12,23 +13,23 @@ struct ExifPanel : PanelView
 {
     ExifPanel();
 
-    controls::TextField tfExifUserComment{u"tfExifUserComment"_qs};
+    controls::TextField tfExifUserComment{u"tfExifUserComment"_s};
     controls::CheckBox cbClearBeforeAdd{
-        u"cbClearBeforeAdd"_qs, u"Replace the comment that stands there"_qs};
+        u"cbClearBeforeAdd"_s, u"Replace the comment that stands there"_s};
 
-    controls::TextField tfIPTCTitle{u"tfIPTCTitle"_qs};
+    controls::TextField tfIPTCTitle{u"tfIPTCTitle"_s};
     /// Parted by ";".
-    controls::TextField tfIPTCKeyWords{u"tfIPTCKeyWords"_qs};
-    controls::TextField tfIPTCCaption{u"tfIPTCCaption"_qs};
-    controls::TextField tfIPTCHeadline{u"tfIPTCHeadline"_qs};
-    controls::TextField tfIPTCCopyRight{u"tfIPTCCopyRight"_qs};
-    controls::TextField tfIPTCCopyRightTerms{u"tfIPTCCopyRightTerms"_qs};
-    controls::TextField tfIPTCCreator{u"tfIPTCCreator"_qs};
-    controls::TextField tfIPTCCreatorTitle{u"tfIPTCCreatorTitle"_qs};
-    controls::TextField tfIPTCSourceOwner{u"tfIPTCSourceOwner"_qs};
-    controls::TextField tfIPTCImageContactInfo{u"tfIPTCImageContactInfo"_qs};
-    controls::TextField tfIPTCEditorContactInfo{u"tfIPTCEditorContactInfo"_qs};
-    controls::TextField tfIPTCCreatorContactInfo{u"tfIPTCCreatorContactInfo"_qs};
+    controls::TextField tfIPTCKeyWords{u"tfIPTCKeyWords"_s};
+    controls::TextField tfIPTCCaption{u"tfIPTCCaption"_s};
+    controls::TextField tfIPTCHeadline{u"tfIPTCHeadline"_s};
+    controls::TextField tfIPTCCopyRight{u"tfIPTCCopyRight"_s};
+    controls::TextField tfIPTCCopyRightTerms{u"tfIPTCCopyRightTerms"_s};
+    controls::TextField tfIPTCCreator{u"tfIPTCCreator"_s};
+    controls::TextField tfIPTCCreatorTitle{u"tfIPTCCreatorTitle"_s};
+    controls::TextField tfIPTCSourceOwner{u"tfIPTCSourceOwner"_s};
+    controls::TextField tfIPTCImageContactInfo{u"tfIPTCImageContactInfo"_s};
+    controls::TextField tfIPTCEditorContactInfo{u"tfIPTCEditorContactInfo"_s};
+    controls::TextField tfIPTCCreatorContactInfo{u"tfIPTCCreatorContactInfo"_s};
 };
 
 } // namespace brenvaldo::panels

@@ -3,6 +3,8 @@
 
 #include "common_titles.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 void makeFunctionField(controls::TextField& field, int tag)
@@ -14,7 +16,7 @@ void makeFunctionField(controls::TextField& field, int tag)
 void makeHexField(controls::TextField& field, int tag)
 {
     field.setTag(tag);
-    field.addAction(u"cColorWellHandling.controlTextDidEndEditing"_qs);
+    field.addAction(u"cColorWellHandling.controlTextDidEndEditing"_s);
 }
 
 } // namespace brenvaldo::panels

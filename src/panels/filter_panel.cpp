@@ -4,102 +4,102 @@
 #include "common_rows.h"
 #include "field_roles.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 FilterScreenView::FilterScreenView()
-    : PanelView(u"vwFiltersScreenView"_qs)
+    : PanelView(u"vwFiltersScreenView"_s)
 {
-    tfFilterColorConvWidth.addAlias(u"tfColorConvWidth"_qs);
-    pubFilterColorConvSharpness.addAlias(u"pubColorConvSharpness"_qs);
-    cbFilterColorConvMask.addAlias(u"cbColorConvMask"_qs);
-    cbFilterColorConvInvert.addAlias(u"cbColorConvInvert"_qs);
-    pubFilterColorConvSharpness.addAction(u"cGUIcontrols.hScreenSharpnessCallsForPreview"_qs);
-    cbFilterColorConvMask.addAction(u"cGUIcontrols.hScreenMaskCallsForPreview"_qs);
-    cbFilterColorConvInvert.addAction(u"cGUIcontrols.hScreenInvertCallsForPreview"_qs);
+    tfFilterColorConvWidth.addAlias(u"tfColorConvWidth"_s);
+    pubFilterColorConvSharpness.addAlias(u"pubColorConvSharpness"_s);
+    cbFilterColorConvMask.addAlias(u"cbColorConvMask"_s);
+    cbFilterColorConvInvert.addAlias(u"cbColorConvInvert"_s);
+    pubFilterColorConvSharpness.addAction(u"cGUIcontrols.hScreenSharpnessCallsForPreview"_s);
+    cbFilterColorConvMask.addAction(u"cGUIcontrols.hScreenMaskCallsForPreview"_s);
+    cbFilterColorConvInvert.addAction(u"cGUIcontrols.hScreenInvertCallsForPreview"_s);
     makeFunctionField(tfFilterColorConvWidth, 51);
     makeFunctionField(tfFilterLineScreenAngle, 52);
     makeFunctionField(tfFilterCenterCircularWidth, 53);
     makeFunctionField(tfFilterCenterCircularHeight, 54);
     setLayout({
-        {textRow(u"Width"_qs, tfFilterColorConvWidth, u"px"_qs)},
-        {Row{.label = u"Sharpness"_qs, .fields = {{.control = &pubFilterColorConvSharpness}}}},
-        {textRow(u"Angle"_qs, tfFilterLineScreenAngle, u"\u00b0"_qs)},
+        {textRow(u"Width"_s, tfFilterColorConvWidth, u"px"_s)},
+        {Row{.label = u"Sharpness"_s, .fields = {{.control = &pubFilterColorConvSharpness}}}},
+        {textRow(u"Angle"_s, tfFilterLineScreenAngle, u"\u00b0"_s)},
         {Row{
-            .label = u"Centre"_qs,
+            .label = u"Centre"_s,
             .fields
             = {{.control = &tfFilterCenterCircularWidth,
-                .unit = u"%"_qs,
-                .accessibleName = u"Centre, percent of the width"_qs},
+                .unit = u"%"_s,
+                .accessibleName = u"Centre, percent of the width"_s},
                {.control = &tfFilterCenterCircularHeight,
-                .unit = u"%"_qs,
-                .accessibleName = u"Centre, percent of the height"_qs}}}},
+                .unit = u"%"_s,
+                .accessibleName = u"Centre, percent of the height"_s}}}},
         {Row{.fields = {{.control = &cbFilterColorConvMask}}}},
         {Row{.fields = {{.control = &cbFilterColorConvInvert}}}},
     });
 }
 
 FilterGaussianView::FilterGaussianView()
-    : PanelView(u"vwFiltersGaussianView"_qs)
+    : PanelView(u"vwFiltersGaussianView"_s)
 {
-    tfFilterBlurRadiusVal.addAlias(u"tfBlurRadiusVal"_qs);
+    tfFilterBlurRadiusVal.addAlias(u"tfBlurRadiusVal"_s);
     makeFunctionField(tfFilterBlurRadiusVal, 55);
-    setLayout({{textRow(u"Radius"_qs, tfFilterBlurRadiusVal, u"px"_qs)}});
+    setLayout({{textRow(u"Radius"_s, tfFilterBlurRadiusVal, u"px"_s)}});
 }
 
 FilterMonochromeView::FilterMonochromeView()
-    : PanelView(u"vwFiltersMonochromeView"_qs)
+    : PanelView(u"vwFiltersMonochromeView"_s)
 {
-    cwFilterMonochromeColor.addAlias(u"cwMonochromeColor"_qs);
-    cwFilterMonochromeColor.addAlias(u"ascNSColorWellObjMonochrome"_qs);
-    tfFilterMonochromeHexColor.addAlias(u"tfMonochromeHexColor"_qs);
-    pubFilterMonochromeIntensity.addAlias(u"pubMonochromeIntensity"_qs);
-    cwFilterMonochromeColor.addAction(u"cGUIcontrols.hMonochromeColorWellSelected"_qs);
+    cwFilterMonochromeColor.addAlias(u"cwMonochromeColor"_s);
+    cwFilterMonochromeColor.addAlias(u"ascNSColorWellObjMonochrome"_s);
+    tfFilterMonochromeHexColor.addAlias(u"tfMonochromeHexColor"_s);
+    pubFilterMonochromeIntensity.addAlias(u"pubMonochromeIntensity"_s);
+    cwFilterMonochromeColor.addAction(u"cGUIcontrols.hMonochromeColorWellSelected"_s);
     makeHexField(tfFilterMonochromeHexColor, 22);
-    pubFilterMonochromeIntensity.addAction(u"cGUIcontrols.hMonochromeIntensityCallsForPreview"_qs);
+    pubFilterMonochromeIntensity.addAction(u"cGUIcontrols.hMonochromeIntensityCallsForPreview"_s);
     setLayout({
-        {colourRow(u"Colour"_qs, cwFilterMonochromeColor, tfFilterMonochromeHexColor)},
-        {Row{.label = u"Strength"_qs, .fields = {{.control = &pubFilterMonochromeIntensity}}}},
+        {colourRow(u"Colour"_s, cwFilterMonochromeColor, tfFilterMonochromeHexColor)},
+        {Row{.label = u"Strength"_s, .fields = {{.control = &pubFilterMonochromeIntensity}}}},
     });
 }
 
 FilterPosterizeView::FilterPosterizeView()
-    : PanelView(u"vwFiltersPosterizeView"_qs)
+    : PanelView(u"vwFiltersPosterizeView"_s)
 {
-    tfFilterColorConvLevels.addAlias(u"tfColorConvLevels"_qs);
+    tfFilterColorConvLevels.addAlias(u"tfColorConvLevels"_s);
     makeFunctionField(tfFilterColorConvLevels, 56);
-    setLayout({{textRow(u"Levels"_qs, tfFilterColorConvLevels)}});
+    setLayout({{textRow(u"Levels"_s, tfFilterColorConvLevels)}});
 }
 
 FilterSepiaView::FilterSepiaView()
-    : PanelView(u"vwFiltersSepiaView"_qs)
+    : PanelView(u"vwFiltersSepiaView"_s)
 {
-    pubFilterColorConvIntensity.addAlias(u"pubColorConvIntensity"_qs);
-    pubFilterColorConvIntensity.addAction(u"cGUIcontrols.hSepiaCallsForPreview"_qs);
-    setLayout(
-        {{Row{.label = u"Strength"_qs, .fields = {{.control = &pubFilterColorConvIntensity}}}}}
+    pubFilterColorConvIntensity.addAlias(u"pubColorConvIntensity"_s);
+    pubFilterColorConvIntensity.addAction(u"cGUIcontrols.hSepiaCallsForPreview"_s);
+    setLayout({{Row{.label = u"Strength"_s, .fields = {{.control = &pubFilterColorConvIntensity}}}}}
     );
 }
 
 FilterUnsharpView::FilterUnsharpView()
-    : PanelView(u"vwFiltersUnsharpView"_qs)
+    : PanelView(u"vwFiltersUnsharpView"_s)
 {
-    tfFilterUnsharpMaskRadius.addAlias(u"tfUnsharpMaskRadius"_qs);
-    pubFilterUnsharpMaskIntensity.addAlias(u"pubUnsharpMaskIntensity"_qs);
+    tfFilterUnsharpMaskRadius.addAlias(u"tfUnsharpMaskRadius"_s);
+    pubFilterUnsharpMaskIntensity.addAlias(u"pubUnsharpMaskIntensity"_s);
     makeFunctionField(tfFilterUnsharpMaskRadius, 57);
-    pubFilterUnsharpMaskIntensity.addAction(u"cGUIcontrols.hUnsharpMaskIntensityCallsForPreview"_qs
-    );
+    pubFilterUnsharpMaskIntensity.addAction(u"cGUIcontrols.hUnsharpMaskIntensityCallsForPreview"_s);
     setLayout({
-        {textRow(u"Radius"_qs, tfFilterUnsharpMaskRadius, u"px"_qs)},
-        {Row{.label = u"Strength"_qs, .fields = {{.control = &pubFilterUnsharpMaskIntensity}}}},
+        {textRow(u"Radius"_s, tfFilterUnsharpMaskRadius, u"px"_s)},
+        {Row{.label = u"Strength"_s, .fields = {{.control = &pubFilterUnsharpMaskIntensity}}}},
     });
 }
 
 FilterPanel::FilterPanel()
-    : PanelView(u"vwFilterPhotos"_qs)
+    : PanelView(u"vwFilterPhotos"_s)
 {
-    pubFilterSelection.addAction(u"cGUIcontrols.onClickPubFilterType"_qs);
+    pubFilterSelection.addAction(u"cGUIcontrols.onClickPubFilterType"_s);
     setLayout({
-        {Row{.label = u"Filter"_qs, .fields = {{.control = &pubFilterSelection}}}},
+        {Row{.label = u"Filter"_s, .fields = {{.control = &pubFilterSelection}}}},
         {HolderPlace{.holder = &vwFiltersMainView}},
     });
 }

@@ -6,6 +6,7 @@
 
 #include <controls/color_well.h>
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -14,15 +15,15 @@ struct FilterScreenView : PanelView
 {
     FilterScreenView();
 
-    controls::TextField tfFilterColorConvWidth{u"tfFilterColorConvWidth"_qs, u"6"_qs};
+    controls::TextField tfFilterColorConvWidth{u"tfFilterColorConvWidth"_s, u"6"_s};
     controls::PopUpButton pubFilterColorConvSharpness{
-        u"pubFilterColorConvSharpness"_qs, intensityTitles(), 6};
-    controls::TextField tfFilterLineScreenAngle{u"tfFilterLineScreenAngle"_qs, u"0"_qs};
-    controls::TextField tfFilterCenterCircularWidth{u"tfFilterCenterCircularWidth"_qs, u"50"_qs};
-    controls::TextField tfFilterCenterCircularHeight{u"tfFilterCenterCircularHeight"_qs, u"50"_qs};
+        u"pubFilterColorConvSharpness"_s, intensityTitles(), 6};
+    controls::TextField tfFilterLineScreenAngle{u"tfFilterLineScreenAngle"_s, u"0"_s};
+    controls::TextField tfFilterCenterCircularWidth{u"tfFilterCenterCircularWidth"_s, u"50"_s};
+    controls::TextField tfFilterCenterCircularHeight{u"tfFilterCenterCircularHeight"_s, u"50"_s};
     controls::CheckBox cbFilterColorConvMask{
-        u"cbFilterColorConvMask"_qs, u"Keep the photo's colours"_qs};
-    controls::CheckBox cbFilterColorConvInvert{u"cbFilterColorConvInvert"_qs, u"Invert"_qs};
+        u"cbFilterColorConvMask"_s, u"Keep the photo's colours"_s};
+    controls::CheckBox cbFilterColorConvInvert{u"cbFilterColorConvInvert"_s, u"Invert"_s};
 };
 
 /// The radius of the blur.
@@ -30,7 +31,7 @@ struct FilterGaussianView : PanelView
 {
     FilterGaussianView();
 
-    controls::TextField tfFilterBlurRadiusVal{u"tfFilterBlurRadiusVal"_qs, u"10"_qs};
+    controls::TextField tfFilterBlurRadiusVal{u"tfFilterBlurRadiusVal"_s, u"10"_s};
 };
 
 /// The colour of the monochrome filter and of the square canvas.
@@ -38,10 +39,10 @@ struct FilterMonochromeView : PanelView
 {
     FilterMonochromeView();
 
-    controls::ColorWell cwFilterMonochromeColor{u"cwFilterMonochromeColor"_qs};
-    controls::TextField tfFilterMonochromeHexColor{u"tfFilterMonochromeHexColor"_qs, u"000000"_qs};
+    controls::ColorWell cwFilterMonochromeColor{u"cwFilterMonochromeColor"_s};
+    controls::TextField tfFilterMonochromeHexColor{u"tfFilterMonochromeHexColor"_s, u"000000"_s};
     controls::PopUpButton pubFilterMonochromeIntensity{
-        u"pubFilterMonochromeIntensity"_qs, intensityTitles(), 9};
+        u"pubFilterMonochromeIntensity"_s, intensityTitles(), 9};
 };
 
 /// The number of tones that a posterised photo keeps.
@@ -49,7 +50,7 @@ struct FilterPosterizeView : PanelView
 {
     FilterPosterizeView();
 
-    controls::TextField tfFilterColorConvLevels{u"tfFilterColorConvLevels"_qs, u"6"_qs};
+    controls::TextField tfFilterColorConvLevels{u"tfFilterColorConvLevels"_s, u"6"_s};
 };
 
 /// The strength of the sepia tone.
@@ -58,7 +59,7 @@ struct FilterSepiaView : PanelView
     FilterSepiaView();
 
     controls::PopUpButton pubFilterColorConvIntensity{
-        u"pubFilterColorConvIntensity"_qs, intensityTitles(), 9};
+        u"pubFilterColorConvIntensity"_s, intensityTitles(), 9};
 };
 
 /// Radius and strength of sharpening.
@@ -66,9 +67,9 @@ struct FilterUnsharpView : PanelView
 {
     FilterUnsharpView();
 
-    controls::TextField tfFilterUnsharpMaskRadius{u"tfFilterUnsharpMaskRadius"_qs, u"2.5"_qs};
+    controls::TextField tfFilterUnsharpMaskRadius{u"tfFilterUnsharpMaskRadius"_s, u"2.5"_s};
     controls::PopUpButton pubFilterUnsharpMaskIntensity{
-        u"pubFilterUnsharpMaskIntensity"_qs, intensityTitles(), 4};
+        u"pubFilterUnsharpMaskIntensity"_s, intensityTitles(), 4};
 };
 
 /// Filters: the filter, and its settings in the holder `vwFiltersMainView`.
@@ -77,36 +78,36 @@ struct FilterPanel : PanelView
     FilterPanel();
 
     controls::PopUpButton pubFilterSelection{
-        u"pubFilterSelection"_qs,
+        u"pubFilterSelection"_s,
         {
-            u"Noir"_qs,
-            u"Mono"_qs,
-            u"Chrome"_qs,
-            u"Circular screen"_qs,
-            u"Dots in three tones, light"_qs,
-            u"Dots in three tones, dark"_qs,
-            u"Dot screen"_qs,
-            u"Fabric, two threads"_qs,
-            u"Nine rings"_qs,
-            u"Fabric, eleven threads"_qs,
-            u"Fabric, eight threads"_qs,
-            u"Blur"_qs,
-            u"Square canvas"_qs,
-            u"Square canvas with frame"_qs,
-            u"Line screen"_qs,
-            u"Monochrome"_qs,
-            u"Invert"_qs,
-            u"Posterise"_qs,
-            u"Sepia"_qs,
-            u"Lines in three tones, light"_qs,
-            u"Lines in three tones, dark"_qs,
-            u"Sharpen"_qs,
-            u"Process"_qs,
-            u"Fade"_qs,
-            u"Instant"_qs,
-            u"Transfer"_qs,
+            u"Noir"_s,
+            u"Mono"_s,
+            u"Chrome"_s,
+            u"Circular screen"_s,
+            u"Dots in three tones, light"_s,
+            u"Dots in three tones, dark"_s,
+            u"Dot screen"_s,
+            u"Fabric, two threads"_s,
+            u"Nine rings"_s,
+            u"Fabric, eleven threads"_s,
+            u"Fabric, eight threads"_s,
+            u"Blur"_s,
+            u"Square canvas"_s,
+            u"Square canvas with frame"_s,
+            u"Line screen"_s,
+            u"Monochrome"_s,
+            u"Invert"_s,
+            u"Posterise"_s,
+            u"Sepia"_s,
+            u"Lines in three tones, light"_s,
+            u"Lines in three tones, dark"_s,
+            u"Sharpen"_s,
+            u"Process"_s,
+            u"Fade"_s,
+            u"Instant"_s,
+            u"Transfer"_s,
         }};
-    controls::Holder vwFiltersMainView{u"vwFiltersMainView"_qs};
+    controls::Holder vwFiltersMainView{u"vwFiltersMainView"_s};
     FilterScreenView vwFiltersScreenView;
     FilterGaussianView vwFiltersGaussianView;
     FilterMonochromeView vwFiltersMonochromeView;

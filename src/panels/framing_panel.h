@@ -6,6 +6,7 @@
 
 #include <controls/color_well.h>
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -15,16 +16,16 @@ struct FramingPanel : PanelView
     FramingPanel();
 
     controls::PopUpButton pubFramingType{
-        u"pubFramingType"_qs, {u"Inside the photo"_qs, u"Around the photo"_qs}};
-    controls::TextField tfFramingThickness{u"tfFramingThickness"_qs, u"20"_qs};
-    controls::TextField tfFramingInset{u"tfFramingInset"_qs, u"0"_qs};
-    controls::ColorWell myNSColorWellObjFraming{u"myNSColorWellObjFraming"_qs};
-    controls::TextField tfFramingHEXvalue{u"tfFramingHEXvalue"_qs, u"000000"_qs};
-    controls::TextField tfFramingOpacity{u"tfFramingOpacity"_qs, u"100"_qs};
-    controls::PopUpButton pubFramingRenderMethod{u"pubFramingRenderMethod"_qs, frameBlendTitles()};
-    controls::CheckBox cbFramingGradient{u"cbFramingGradient"_qs, u"Fade out"_qs};
+        u"pubFramingType"_s, {u"Inside the photo"_s, u"Around the photo"_s}};
+    controls::TextField tfFramingThickness{u"tfFramingThickness"_s, u"20"_s};
+    controls::TextField tfFramingInset{u"tfFramingInset"_s, u"0"_s};
+    controls::ColorWell myNSColorWellObjFraming{u"myNSColorWellObjFraming"_s};
+    controls::TextField tfFramingHEXvalue{u"tfFramingHEXvalue"_s, u"000000"_s};
+    controls::TextField tfFramingOpacity{u"tfFramingOpacity"_s, u"100"_s};
+    controls::PopUpButton pubFramingRenderMethod{u"pubFramingRenderMethod"_s, frameBlendTitles()};
+    controls::CheckBox cbFramingGradient{u"cbFramingGradient"_s, u"Fade out"_s};
     controls::PopUpButton pubFramingGradientAngle{
-        u"pubFramingGradientAngle"_qs, gradientAngleTitles()};
+        u"pubFramingGradientAngle"_s, gradientAngleTitles()};
 
 private:
     void giveRoles();

@@ -3,17 +3,19 @@
 
 #include "common_rows.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 GalleryPanel::GalleryPanel()
-    : PanelView(u"vwHtmlExport"_qs)
+    : PanelView(u"vwHtmlExport"_s)
 {
-    pubPhotoGalleryModel.addAlias(u"pubTemplateChoice"_qs);
-    pubPhotoGalleryModel.addAction(u"cGUIcontrols.hChooseHTMLExportTemplate"_qs);
-    tfHTMLfileName.addAlias(u"tfHtmlFileName"_qs);
+    pubPhotoGalleryModel.addAlias(u"pubTemplateChoice"_s);
+    pubPhotoGalleryModel.addAction(u"cGUIcontrols.hChooseHTMLExportTemplate"_s);
+    tfHTMLfileName.addAlias(u"tfHtmlFileName"_s);
     setLayout({
-        {Row{.label = u"Template"_qs, .fields = {{.control = &pubPhotoGalleryModel}}}},
-        {textRow(u"Page name"_qs, tfHTMLfileName)},
+        {Row{.label = u"Template"_s, .fields = {{.control = &pubPhotoGalleryModel}}}},
+        {textRow(u"Page name"_s, tfHTMLfileName)},
     });
 }
 

@@ -4,6 +4,7 @@
 #include "layout.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -13,9 +14,9 @@ struct GalleryPanel : PanelView
     GalleryPanel();
 
     controls::PopUpButton pubPhotoGalleryModel{
-        u"pubPhotoGalleryModel"_qs,
-        {u"Table, light"_qs, u"Table, dark"_qs, u"Grid"_qs, u"Table, large photos"_qs}};
-    controls::TextField tfHTMLfileName{u"tfHTMLfileName"_qs};
+        u"pubPhotoGalleryModel"_s,
+        {u"Table, light"_s, u"Table, dark"_s, u"Grid"_s, u"Table, large photos"_s}};
+    controls::TextField tfHTMLfileName{u"tfHTMLfileName"_s};
 };
 
 } // namespace brenvaldo::panels

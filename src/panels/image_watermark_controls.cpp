@@ -3,6 +3,8 @@
 
 #include "common_titles.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 namespace {
@@ -61,32 +63,32 @@ void ImageWatermarkControls::giveTags()
 
 void ImageWatermarkControls::giveActions()
 {
-    mxImageScaleProperty.addAction(u"DVWatermark.hImageWatermarkSizeEntred"_qs);
-    pubRenderMethod.addAction(u"DVWatermark.hOpacityRenderMethodSelector"_qs);
-    scImageWaterMarkPos.addAction(u"DVWatermark.hImageWatermarkPositionSelector"_qs);
-    cbPatternCheck.addAction(u"DVWatermark.hImgPatternCheckBox"_qs);
-    cbImageShadowCheck.addAction(u"DVWatermark.hImageShadowCheckBox"_qs);
-    cwImageShadowColor.addAction(u"DVWatermark.hImageShadowColorEntred"_qs);
-    cbImageFadeOut.addAction(u"DVWatermark.hCheckFadeOutBox"_qs);
-    sliderFadeOutValue.addAction(u"DVWatermark.hSliderFadeOutImageSelector"_qs);
-    cbCircularFadeOut.addAction(u"DVWatermark.hCicularFadeOut"_qs);
-    cbCircularInvertFadeOut.addAction(u"DVWatermark.hCicularFadeOut"_qs);
-    pubWatermarkFilterType.addAction(u"DVWatermark.hChooseWatermarkFilterType"_qs);
-    tfWatermarkFilterSize.addAction(u"DVWatermark.hScreenSizeEntred"_qs);
-    pubWatermarkFilterSharpness.addAction(u"DVWatermark.hScreenSharpnessEntred"_qs);
-    cbWMSimulationMode.addAction(u"cGUIcontrols.hTxtSimulationModePressed"_qs);
-    cbWMSimulationMode.addAction(u"cGUIcontrols.hImgSimulationModePressed"_qs);
+    mxImageScaleProperty.addAction(u"DVWatermark.hImageWatermarkSizeEntred"_s);
+    pubRenderMethod.addAction(u"DVWatermark.hOpacityRenderMethodSelector"_s);
+    scImageWaterMarkPos.addAction(u"DVWatermark.hImageWatermarkPositionSelector"_s);
+    cbPatternCheck.addAction(u"DVWatermark.hImgPatternCheckBox"_s);
+    cbImageShadowCheck.addAction(u"DVWatermark.hImageShadowCheckBox"_s);
+    cwImageShadowColor.addAction(u"DVWatermark.hImageShadowColorEntred"_s);
+    cbImageFadeOut.addAction(u"DVWatermark.hCheckFadeOutBox"_s);
+    sliderFadeOutValue.addAction(u"DVWatermark.hSliderFadeOutImageSelector"_s);
+    cbCircularFadeOut.addAction(u"DVWatermark.hCicularFadeOut"_s);
+    cbCircularInvertFadeOut.addAction(u"DVWatermark.hCicularFadeOut"_s);
+    pubWatermarkFilterType.addAction(u"DVWatermark.hChooseWatermarkFilterType"_s);
+    tfWatermarkFilterSize.addAction(u"DVWatermark.hScreenSizeEntred"_s);
+    pubWatermarkFilterSharpness.addAction(u"DVWatermark.hScreenSharpnessEntred"_s);
+    cbWMSimulationMode.addAction(u"cGUIcontrols.hTxtSimulationModePressed"_s);
+    cbWMSimulationMode.addAction(u"cGUIcontrols.hImgSimulationModePressed"_s);
 }
 
 Layout ImageWatermarkControls::imageRows()
 {
     return {
-        {Heading{u"Image"_qs}},
-        {Row{.label = u"Image"_qs, .fields = {{.control = &tfWaterMarkImageFilePath}}}},
+        {Heading{u"Image"_s}},
+        {Row{.label = u"Image"_s, .fields = {{.control = &tfWaterMarkImageFilePath}}}},
         {Row{
             .fields
-            = {{.control = &iwWaterMarkImage, .accessibleName = u"The watermark image"_qs}}}},
-        {Row{.label = u"Look in"_qs, .fields = {{.control = &pubImageLookUp}}}},
+            = {{.control = &iwWaterMarkImage, .accessibleName = u"The watermark image"_s}}}},
+        {Row{.label = u"Look in"_s, .fields = {{.control = &pubImageLookUp}}}},
         {Row{.fields = {{.control = &cbImageFromLib}}}},
     };
 }
@@ -94,32 +96,30 @@ Layout ImageWatermarkControls::imageRows()
 Layout ImageWatermarkControls::scaleRows()
 {
     return {
-        {Heading{u"Size and blending"_qs}},
-        {Row{.label = u"Measure"_qs, .fields = {{.control = &mxImageScaleProperty}}}},
-        {Row{.label = u"Scale"_qs, .fields = {{.control = &tfImageScalePC, .unit = u"%"_qs}}}},
-        {Row{
-            .label = u"Opacity"_qs,
-            .fields = {{.control = &tfImageTransparancy, .unit = u"%"_qs}}}},
-        {Row{.label = u"Blend"_qs, .fields = {{.control = &pubRenderMethod}}}},
+        {Heading{u"Size and blending"_s}},
+        {Row{.label = u"Measure"_s, .fields = {{.control = &mxImageScaleProperty}}}},
+        {Row{.label = u"Scale"_s, .fields = {{.control = &tfImageScalePC, .unit = u"%"_s}}}},
+        {Row{.label = u"Opacity"_s, .fields = {{.control = &tfImageTransparancy, .unit = u"%"_s}}}},
+        {Row{.label = u"Blend"_s, .fields = {{.control = &pubRenderMethod}}}},
     };
 }
 
 Layout ImageWatermarkControls::imagePlaceRows()
 {
     return {
-        {Heading{u"Place"_qs}},
-        {Row{.label = u"Position"_qs, .fields = {{.control = &scImageWaterMarkPos}}}},
+        {Heading{u"Place"_s}},
+        {Row{.label = u"Position"_s, .fields = {{.control = &scImageWaterMarkPos}}}},
         {Row{
-            .label = u"Inset"_qs,
+            .label = u"Inset"_s,
             .fields
             = {{.control = &tfImageXOffset,
-                .unit = u"px across"_qs,
-                .accessibleName = u"Inset from the side"_qs},
+                .unit = u"px across"_s,
+                .accessibleName = u"Inset from the side"_s},
                {.control = &tfImageYOffset,
-                .unit = u"px down"_qs,
-                .accessibleName = u"Inset from the top or bottom"_qs}},
-            .hint = u"The gaps between the copies when the image is repeated."_qs}},
-        {Row{.label = u"Angle"_qs, .fields = {{.control = &tfImageWMAngle, .unit = u"\u00b0"_qs}}}},
+                .unit = u"px down"_s,
+                .accessibleName = u"Inset from the top or bottom"_s}},
+            .hint = u"The gaps between the copies when the image is repeated."_s}},
+        {Row{.label = u"Angle"_s, .fields = {{.control = &tfImageWMAngle, .unit = u"\u00b0"_s}}}},
         {Row{.fields = {{.control = &cbPatternCheck}}}},
     };
 }
@@ -127,71 +127,71 @@ Layout ImageWatermarkControls::imagePlaceRows()
 Layout ImageWatermarkControls::imageShadowRows()
 {
     return {
-        {Heading{u"Shadow"_qs}},
+        {Heading{u"Shadow"_s}},
         {Row{.fields = {{.control = &cbImageShadowCheck}}}},
         {Row{
-            .label = u"Shift"_qs,
+            .label = u"Shift"_s,
             .fields
             = {{.control = &tfImageShadowXOffset,
-                .unit = u"px right"_qs,
-                .accessibleName = u"Shift of the shadow to the right"_qs},
+                .unit = u"px right"_s,
+                .accessibleName = u"Shift of the shadow to the right"_s},
                {.control = &tfImageShadowYOffset,
-                .unit = u"px up"_qs,
-                .accessibleName = u"Shift of the shadow upward"_qs}}}},
+                .unit = u"px up"_s,
+                .accessibleName = u"Shift of the shadow upward"_s}}}},
         {Row{
-            .label = u"Softness"_qs,
+            .label = u"Softness"_s,
             .fields
             = {{.control = &tfImageShadowRadius,
-                .unit = u"px"_qs,
-                .accessibleName = u"Softness of the shadow"_qs},
-               {.control = &cwImageShadowColor, .accessibleName = u"Colour of the shadow"_qs}}}},
+                .unit = u"px"_s,
+                .accessibleName = u"Softness of the shadow"_s},
+               {.control = &cwImageShadowColor, .accessibleName = u"Colour of the shadow"_s}}}},
     };
 }
 
 Layout ImageWatermarkControls::fadeRows()
 {
     return {
-        {Heading{u"Fade"_qs}},
+        {Heading{u"Fade"_s}},
         {Row{
             .fields
             = {{.control = &cbImageFadeOut},
                {.control = &cbCircularFadeOut},
                {.control = &cbCircularInvertFadeOut}}}},
         {Row{
-            .label = u"Direction"_qs,
-            .fields = {{.control = &tfImageFadeOutAngle, .unit = u"\u00b0"_qs}}}},
-        {Row{.label = u"Extent"_qs, .fields = {{.control = &sliderFadeOutValue}}}},
+            .label = u"Direction"_s,
+            .fields = {{.control = &tfImageFadeOutAngle, .unit = u"\u00b0"_s}}}},
+        {Row{.label = u"Extent"_s, .fields = {{.control = &sliderFadeOutValue}}}},
     };
 }
 
 Layout ImageWatermarkControls::filterRows()
 {
     return {
-        {Heading{u"Filter"_qs}},
-        {Row{.label = u"Filter"_qs, .fields = {{.control = &pubWatermarkFilterType}}}},
+        {Heading{u"Filter"_s}},
+        {Row{.label = u"Filter"_s, .fields = {{.control = &pubWatermarkFilterType}}}},
         {Row{
-            .label = u"Size"_qs,
+            .label = u"Size"_s,
             .fields
             = {{.control = &tfWatermarkFilterSize,
-                .unit = u"px"_qs,
-                .accessibleName = u"Size of the screen"_qs},
+                .unit = u"px"_s,
+                .accessibleName = u"Size of the screen"_s},
                {.control = &pubWatermarkFilterSharpness,
-                .accessibleName = u"Sharpness of the screen"_qs}}}},
+                .accessibleName = u"Sharpness of the screen"_s}}}},
         {Row{
-            .label = u"Angle"_qs,
+            .label = u"Angle"_s,
             .fields
             = {{.control = &tfLineScreenAngle,
-                .unit = u"\u00b0"_qs,
-                .accessibleName = u"Angle of the screen"_qs}}}},
+                .unit = u"\u00b0"_s,
+                .accessibleName = u"Angle of the screen"_s}}}},
         {Row{
-            .label = u"Centre"_qs,
+            .label = u"Centre"_s,
             .fields
             = {{.control = &tfCenterCircularWidth,
-                .unit = u"% width"_qs,
-                .accessibleName = u"Centre of the circles across"_qs},
+                .unit = u"% width"_s,
+                .accessibleName = u"Centre of the circles across"_s},
                {.control = &tfCenterCircularHeight,
-                .unit = u"% height"_qs,
-                .accessibleName = u"Centre of the circles upward"_qs}}}},
+                .unit = u"% height"_s,
+                .accessibleName = u"Centre of the circles upward"_s}}}},
     };
 }
 

@@ -8,6 +8,7 @@
 #include <controls/image_view.h>
 #include <controls/range_controls.h>
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -16,79 +17,78 @@ struct ImageWatermarkControls
 {
     ImageWatermarkControls();
 
-    controls::TextField tfWaterMarkImageFilePath{u"tfWaterMarkImageFilePath"_qs};
-    controls::ImageView iwWaterMarkImage{u"iwWaterMarkImage"_qs};
+    controls::TextField tfWaterMarkImageFilePath{u"tfWaterMarkImageFilePath"_s};
+    controls::ImageView iwWaterMarkImage{u"iwWaterMarkImage"_s};
     controls::PopUpButton pubImageLookUp{
-        u"pubImageLookUp"_qs, {u"Last folder"_qs, u"Watermark library"_qs, u"Pattern library"_qs}};
-    controls::CheckBox cbImageFromLib{u"cbImageFromLib"_qs, u"Image from the library"_qs};
+        u"pubImageLookUp"_s, {u"Last folder"_s, u"Watermark library"_s, u"Pattern library"_s}};
+    controls::CheckBox cbImageFromLib{u"cbImageFromLib"_s, u"Image from the library"_s};
 
     controls::Matrix mxImageScaleProperty{
-        u"mxImageScaleProperty"_qs,
+        u"mxImageScaleProperty"_s,
         {
-            u"% of the image"_qs,
-            u"% of the photo's width"_qs,
-            u"% of the photo's height"_qs,
-            u"The image's own size"_qs,
+            u"% of the image"_s,
+            u"% of the photo's width"_s,
+            u"% of the photo's height"_s,
+            u"The image's own size"_s,
         }};
-    controls::TextField tfImageScalePC{u"tfImageScalePC"_qs, u"100"_qs};
-    controls::TextField tfImageTransparancy{u"tfImageTransparancy"_qs, u"100"_qs};
+    controls::TextField tfImageScalePC{u"tfImageScalePC"_s, u"100"_s};
+    controls::TextField tfImageTransparancy{u"tfImageTransparancy"_s, u"100"_s};
     controls::PopUpButton pubRenderMethod{
-        u"pubRenderMethod"_qs,
+        u"pubRenderMethod"_s,
         {
-            u"Normal"_qs,
-            u"Add, darker"_qs,
-            u"Add, lighter"_qs,
-            u"Multiply"_qs,
-            u"Difference"_qs,
-            u"Colour dodge"_qs,
-            u"Luminosity"_qs,
-            u"Colour"_qs,
-            u"Exclusion"_qs,
-            u"Colour burn"_qs,
-            u"Soft light"_qs,
+            u"Normal"_s,
+            u"Add, darker"_s,
+            u"Add, lighter"_s,
+            u"Multiply"_s,
+            u"Difference"_s,
+            u"Colour dodge"_s,
+            u"Luminosity"_s,
+            u"Colour"_s,
+            u"Exclusion"_s,
+            u"Colour burn"_s,
+            u"Soft light"_s,
         }};
 
     controls::SegmentedControl scImageWaterMarkPos{
-        u"scImageWaterMarkPos"_qs,
+        u"scImageWaterMarkPos"_s,
         positionGridTitles(),
         8,
         controls::SegmentedControl::Look::PositionGrid};
-    controls::TextField tfImageXOffset{u"tfImageXOffset"_qs, u"0"_qs};
-    controls::TextField tfImageYOffset{u"tfImageYOffset"_qs, u"0"_qs};
-    controls::TextField tfImageWMAngle{u"tfImageWMAngle"_qs, u"0"_qs};
-    controls::CheckBox cbPatternCheck{u"cbPatternCheck"_qs, u"Repeat over the whole photo"_qs};
+    controls::TextField tfImageXOffset{u"tfImageXOffset"_s, u"0"_s};
+    controls::TextField tfImageYOffset{u"tfImageYOffset"_s, u"0"_s};
+    controls::TextField tfImageWMAngle{u"tfImageWMAngle"_s, u"0"_s};
+    controls::CheckBox cbPatternCheck{u"cbPatternCheck"_s, u"Repeat over the whole photo"_s};
 
-    controls::CheckBox cbImageShadowCheck{u"cbImageShadowCheck"_qs, u"Cast a shadow"_qs};
-    controls::TextField tfImageShadowXOffset{u"tfImageShadowXOffset"_qs, u"2"_qs};
-    controls::TextField tfImageShadowYOffset{u"tfImageShadowYOffset"_qs, u"-2"_qs};
-    controls::TextField tfImageShadowRadius{u"tfImageShadowRadius"_qs, u"4"_qs};
-    controls::ColorWell cwImageShadowColor{u"cwImageShadowColor"_qs};
+    controls::CheckBox cbImageShadowCheck{u"cbImageShadowCheck"_s, u"Cast a shadow"_s};
+    controls::TextField tfImageShadowXOffset{u"tfImageShadowXOffset"_s, u"2"_s};
+    controls::TextField tfImageShadowYOffset{u"tfImageShadowYOffset"_s, u"-2"_s};
+    controls::TextField tfImageShadowRadius{u"tfImageShadowRadius"_s, u"4"_s};
+    controls::ColorWell cwImageShadowColor{u"cwImageShadowColor"_s};
 
-    controls::CheckBox cbImageFadeOut{u"cbImageFadeOut"_qs, u"Fade out"_qs};
-    controls::TextField tfImageFadeOutAngle{u"tfImageFadeOutAngle"_qs, u"0"_qs};
-    controls::Slider sliderFadeOutValue{u"sliderFadeOutValue"_qs, 0.0, 1.0, 0.5};
-    controls::CheckBox cbCircularFadeOut{u"cbCircularFadeOut"_qs, u"Circular"_qs};
-    controls::CheckBox cbCircularInvertFadeOut{
-        u"cbCircularInvertFadeOut"_qs, u"From the middle"_qs};
+    controls::CheckBox cbImageFadeOut{u"cbImageFadeOut"_s, u"Fade out"_s};
+    controls::TextField tfImageFadeOutAngle{u"tfImageFadeOutAngle"_s, u"0"_s};
+    controls::Slider sliderFadeOutValue{u"sliderFadeOutValue"_s, 0.0, 1.0, 0.5};
+    controls::CheckBox cbCircularFadeOut{u"cbCircularFadeOut"_s, u"Circular"_s};
+    controls::CheckBox cbCircularInvertFadeOut{u"cbCircularInvertFadeOut"_s, u"From the middle"_s};
 
     controls::PopUpButton pubWatermarkFilterType{
-        u"pubWatermarkFilterType"_qs,
+        u"pubWatermarkFilterType"_s,
         {
-            u"None"_qs,
-            u"Black and white"_qs,
-            u"Negative"_qs,
-            u"Dots"_qs,
-            u"Lines"_qs,
-            u"Circles"_qs,
+            u"None"_s,
+            u"Black and white"_s,
+            u"Negative"_s,
+            u"Dots"_s,
+            u"Lines"_s,
+            u"Circles"_s,
         }};
-    controls::TextField tfWatermarkFilterSize{u"tfWatermarkFilterSize"_qs, u"6"_qs};
+    controls::TextField tfWatermarkFilterSize{u"tfWatermarkFilterSize"_s, u"6"_s};
     controls::PopUpButton pubWatermarkFilterSharpness{
-        u"pubWatermarkFilterSharpness"_qs, {u"Soft"_qs, u"Sharp"_qs}};
-    controls::TextField tfLineScreenAngle{u"tfLineScreenAngle"_qs, u"0"_qs};
-    controls::TextField tfCenterCircularWidth{u"tfCenterCircularWidth"_qs, u"50"_qs};
-    controls::TextField tfCenterCircularHeight{u"tfCenterCircularHeight"_qs, u"50"_qs};
+        u"pubWatermarkFilterSharpness"_s, {u"Soft"_s, u"Sharp"_s}};
+    controls::TextField tfLineScreenAngle{u"tfLineScreenAngle"_s, u"0"_s};
+    controls::TextField tfCenterCircularWidth{u"tfCenterCircularWidth"_s, u"50"_s};
+    controls::TextField tfCenterCircularHeight{u"tfCenterCircularHeight"_s, u"50"_s};
 
-    controls::CheckBox cbWMSimulationMode{u"cbWMSimulationMode"_qs, u"Simulation"_qs};
+    controls::CheckBox cbWMSimulationMode{u"cbWMSimulationMode"_s, u"Simulation"_s};
 
     [[nodiscard]] Layout imageWatermarkPage();
 

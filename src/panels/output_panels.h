@@ -4,6 +4,7 @@
 #include "layout.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -12,7 +13,7 @@ struct ShowPreviewPanel : PanelView
 {
     ShowPreviewPanel();
 
-    controls::CheckBox cbShowPreview{u"cbShowPreview"_qs, u"Show preview"_qs};
+    controls::CheckBox cbShowPreview{u"cbShowPreview"_s, u"Show preview"_s};
 };
 
 /// Which of the ticked photos a run takes.
@@ -21,8 +22,8 @@ struct ApplyOnPanel : PanelView
     ApplyOnPanel();
 
     controls::PopUpButton pubPhotoOrientation{
-        u"pubPhotoOrientation"_qs,
-        {u"All photos"_qs, u"Landscape photos"_qs, u"Portrait photos"_qs, u"Square photos"_qs}};
+        u"pubPhotoOrientation"_s,
+        {u"All photos"_s, u"Landscape photos"_s, u"Portrait photos"_s, u"Square photos"_s}};
 };
 
 /// Type and quality of the files that a run writes.
@@ -31,19 +32,19 @@ struct FileTypePanel : PanelView
     FileTypePanel();
 
     controls::PopUpButton pubFileType{
-        u"pubFileType"_qs,
-        {u"original file type"_qs,
-         u"png"_qs,
-         u"tiff"_qs,
-         u"bmp"_qs,
-         u"gif"_qs,
-         u"jpeg"_qs,
-         u"jp2"_qs,
-         u"heic"_qs,
-         u"pdf"_qs}};
+        u"pubFileType"_s,
+        {u"original file type"_s,
+         u"png"_s,
+         u"tiff"_s,
+         u"bmp"_s,
+         u"gif"_s,
+         u"jpeg"_s,
+         u"jp2"_s,
+         u"heic"_s,
+         u"pdf"_s}};
     controls::PopUpButton pubJPEGCompressionLevel{
-        u"pubJPEGCompressionLevel"_qs,
-        {u"1"_qs, u"2"_qs, u"3"_qs, u"4"_qs, u"5"_qs, u"6"_qs, u"7"_qs, u"8"_qs, u"9"_qs, u"10"_qs},
+        u"pubJPEGCompressionLevel"_s,
+        {u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s, u"8"_s, u"9"_s, u"10"_s},
         8};
 };
 
@@ -52,13 +53,13 @@ struct MainDestinationPanel : PanelView
 {
     MainDestinationPanel();
 
-    controls::TextField tfImageDestinationFolder{u"tfImageDestinationFolder"_qs};
+    controls::TextField tfImageDestinationFolder{u"tfImageDestinationFolder"_s};
     controls::Button btnChooseDestination{
-        u"btnChooseDestination"_qs,
-        u"Choose\u2026"_qs,
-        u"cGUIcontrols.hChooseScalingDestinationFolder"_qs};
+        u"btnChooseDestination"_s,
+        u"Choose\u2026"_s,
+        u"cGUIcontrols.hChooseScalingDestinationFolder"_s};
     controls::Button btnShowDestination{
-        u"btnShowDestination"_qs, u"Show"_qs, u"cGUIcontrols.hShowDestinationFolderInFinder"_qs};
+        u"btnShowDestination"_s, u"Show"_s, u"cGUIcontrols.hShowDestinationFolderInFinder"_s};
 };
 
 } // namespace brenvaldo::panels

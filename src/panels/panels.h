@@ -22,6 +22,8 @@
 #include "watermark_panel.h"
 #include "window_controls.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QHash>
 
 namespace brenvaldo::panels {
@@ -44,8 +46,8 @@ public:
     RoundingsPanel vwRoundings;
     ProfilePanel vwProfileConversion;
     NotePanel vwCopyFaces{
-        u"vwCopyFaces"_qs,
-        u"Each face in a ticked photo becomes a photo of its own. There is nothing to set."_qs};
+        u"vwCopyFaces"_s,
+        u"Each face in a ticked photo becomes a photo of its own. There is nothing to set."_s};
     RotatePanel vwRotatePhotos;
     FilterPanel vwFilterPhotos;
     CropPanel vwCropPhotos;
@@ -53,9 +55,9 @@ public:
     ExifPanel vwFileManagementEXIF;
     RenamePanel vwFileManagementRename;
     NotePanel vwFileManagementConvert{
-        u"vwFileManagementConvert"_qs,
+        u"vwFileManagementConvert"_s,
         u"Each ticked photo is written anew as the file type below, with its metadata where the "
-        u"type can hold it."_qs};
+        u"type can hold it."_s};
     CodePanel vwQRBarCode;
     GalleryPanel vwHtmlExport;
     PhotoInfoPanel vwPhotoInfo;

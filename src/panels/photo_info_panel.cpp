@@ -3,22 +3,23 @@
 
 #include "common_rows.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 PhotoInfoPanel::PhotoInfoPanel()
-    : PanelView(u"vwPhotoInfo"_qs)
+    : PanelView(u"vwPhotoInfo"_s)
 {
     setLayout({
-        {Heading{u"Photo"_qs}},
-        {textRow(u"File"_qs, tfActiveFilePath)},
-        {Heading{u"Properties"_qs}},
+        {Heading{u"Photo"_s}},
+        {textRow(u"File"_s, tfActiveFilePath)},
+        {Heading{u"Properties"_s}},
         {Table{
             .table = &myPropertyTreeView,
             .columns
-            = {{.key = u"key"_qs, .title = u"Property"_qs},
-               {.key = u"val"_qs, .title = u"Value"_qs}},
-            .accessibleName = u"Properties of the selected photo"_qs,
-            .emptyText = u"Select a photo to see its properties."_qs}},
+            = {{.key = u"key"_s, .title = u"Property"_s}, {.key = u"val"_s, .title = u"Value"_s}},
+            .accessibleName = u"Properties of the selected photo"_s,
+            .emptyText = u"Select a photo to see its properties."_s}},
     });
 }
 

@@ -4,6 +4,7 @@
 #include "layout.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -12,10 +13,10 @@ struct PhotoInfoPanel : PanelView
 {
     PhotoInfoPanel();
 
-    controls::TextField tfActiveFilePath{u"tfActiveFilePath"_qs};
+    controls::TextField tfActiveFilePath{u"tfActiveFilePath"_s};
     /// The property tree from the top down: depth from 0, name and value of each property.
-    controls::ArrayController mTree{u"mTree"_qs, {u"depth"_qs, u"key"_qs, u"val"_qs}};
-    controls::TableView myPropertyTreeView{u"myPropertyTreeView"_qs, mTree};
+    controls::ArrayController mTree{u"mTree"_s, {u"depth"_s, u"key"_s, u"val"_s}};
+    controls::TableView myPropertyTreeView{u"myPropertyTreeView"_s, mTree};
 };
 
 } // namespace brenvaldo::panels

@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preferences_sheet.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 PreferencesSheet::PreferencesSheet()
-    : PanelView(u"wwPreferencesWindow"_qs)
+    : PanelView(u"wwPreferencesWindow"_s)
 {
     tfLibraryFilePath.setEnabled(false);
     setLayout({
         {Row{
-            .label = u"Support folder"_qs,
+            .label = u"Support folder"_s,
             .fields
             = {{.control = &tfLibraryFilePath},
                {.control = &btnChooseLibraryDestination, .width = Field::Width::Narrow}},
             .hint = u"Patterns, watermarks and file-name actions are kept in a folder inside it. "
-                    u"What is in the old folder stays there."_qs}},
+                    u"What is in the old folder stays there."_s}},
         {Row{.fields = {{.control = &btnClosePreferences}}}},
     });
 }

@@ -4,6 +4,7 @@
 #include "layout.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -14,13 +15,13 @@ struct PreferencesSheet : PanelView
 
     /// Named as the view is.
     controls::Sheet sheet{name()};
-    controls::TextField tfLibraryFilePath{u"tfLibraryFilePath"_qs};
+    controls::TextField tfLibraryFilePath{u"tfLibraryFilePath"_s};
     controls::Button btnChooseLibraryDestination{
-        u"btnChooseLibraryDestination"_qs,
-        u"Choose\u2026"_qs,
-        u"cSheetControl.chooseLibraryDestination"_qs};
+        u"btnChooseLibraryDestination"_s,
+        u"Choose\u2026"_s,
+        u"cSheetControl.chooseLibraryDestination"_s};
     controls::Button btnClosePreferences{
-        u"btnClosePreferences"_qs, u"Close"_qs, u"cSheetControl.closePreferencesSheetObjC"_qs};
+        u"btnClosePreferences"_s, u"Close"_s, u"cSheetControl.closePreferencesSheetObjC"_s};
 };
 
 } // namespace brenvaldo::panels

@@ -5,6 +5,7 @@
 
 #include <controls/image_view.h>
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -15,19 +16,19 @@ struct PresetsSheet : PanelView
 
     /// Named as the view is.
     controls::Sheet sheet{name()};
-    controls::TextField tfInputPDM{u"tfInputPDM"_qs};
-    controls::Button btnAddPreset{u"btnAddPreset"_qs, u"Save"_qs, u"cPresetManager.hAddPreset"_qs};
+    controls::TextField tfInputPDM{u"tfInputPDM"_s};
+    controls::Button btnAddPreset{u"btnAddPreset"_s, u"Save"_s, u"cPresetManager.hAddPreset"_s};
     controls::ArrayController thePresetsData{
-        u"thePresetsData"_qs, {u"nmPreset"_qs, u"nmProces"_qs, u"nmbrAction"_qs}};
-    controls::TableView myPresetsTableView{u"myPresetsTableView"_qs, thePresetsData};
+        u"thePresetsData"_s, {u"nmPreset"_s, u"nmProces"_s, u"nmbrAction"_s}};
+    controls::TableView myPresetsTableView{u"myPresetsTableView"_s, thePresetsData};
     controls::Button btnApplyPreset{
-        u"btnApplyPreset"_qs, u"Use these settings"_qs, u"cPresetManager.hApplySelectedPreset"_qs};
+        u"btnApplyPreset"_s, u"Use these settings"_s, u"cPresetManager.hApplySelectedPreset"_s};
     controls::Button btnRemovePreset{
-        u"btnRemovePreset"_qs, u"Remove"_qs, u"cPresetManager.hRemovePreset"_qs};
+        u"btnRemovePreset"_s, u"Remove"_s, u"cPresetManager.hRemovePreset"_s};
     controls::Button btnClosePresets{
-        u"btnClosePresets"_qs, u"Close"_qs, u"cPresetManager.closePresetsSheetObjC"_qs};
+        u"btnClosePresets"_s, u"Close"_s, u"cPresetManager.closePresetsSheetObjC"_s};
     /// A second picture, which a load of a preset clears.
-    controls::ImageView my2ndView{u"my2ndView"_qs};
+    controls::ImageView my2ndView{u"my2ndView"_s};
 };
 
 } // namespace brenvaldo::panels

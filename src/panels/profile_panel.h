@@ -3,6 +3,8 @@
 
 #include "layout.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 /// Conversion to a colour profile.
@@ -11,10 +13,9 @@ struct ProfilePanel : PanelView
     ProfilePanel();
 
     /// Filled when the function is selected.
-    controls::ComboBox pubInstalledICCProfiles{u"pubInstalledICCProfiles"_qs, {}};
+    controls::ComboBox pubInstalledICCProfiles{u"pubInstalledICCProfiles"_s, {}};
     controls::PopUpButton pubCPCRenderIntent{
-        u"pubCPCRenderIntent"_qs,
-        {u"perceptual"_qs, u"relative"_qs, u"absolute"_qs, u"saturation"_qs}};
+        u"pubCPCRenderIntent"_s, {u"perceptual"_s, u"relative"_s, u"absolute"_s, u"saturation"_s}};
 };
 
 } // namespace brenvaldo::panels

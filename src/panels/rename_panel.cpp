@@ -3,18 +3,20 @@
 
 #include "common_rows.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 RenamePanel::RenamePanel()
-    : PanelView(u"vwFileManagementRename"_qs)
+    : PanelView(u"vwFileManagementRename"_s)
 {
     setLayout({
-        {Heading{u"Before the name"_qs}},
-        {textRow(u"Text"_qs, tfPrefixToAdd)},
-        {Row{.label = u"Property"_qs, .fields = {{.control = &cbxPrefixMetaData}}}},
-        {Heading{u"Behind the name"_qs}},
-        {textRow(u"Text"_qs, tfPostfixToAdd)},
-        {Row{.label = u"Property"_qs, .fields = {{.control = &cbxPostfixMetaData}}}},
+        {Heading{u"Before the name"_s}},
+        {textRow(u"Text"_s, tfPrefixToAdd)},
+        {Row{.label = u"Property"_s, .fields = {{.control = &cbxPrefixMetaData}}}},
+        {Heading{u"Behind the name"_s}},
+        {textRow(u"Text"_s, tfPostfixToAdd)},
+        {Row{.label = u"Property"_s, .fields = {{.control = &cbxPostfixMetaData}}}},
     });
 }
 

@@ -4,6 +4,7 @@
 #include "layout.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -12,12 +13,12 @@ struct RenamePanel : PanelView
 {
     RenamePanel();
 
-    controls::TextField tfPrefixToAdd{u"tfPrefixToAdd"_qs};
+    controls::TextField tfPrefixToAdd{u"tfPrefixToAdd"_s};
     /// Filled at start.
-    controls::ComboBox cbxPrefixMetaData{u"cbxPrefixMetaData"_qs, {}};
-    controls::TextField tfPostfixToAdd{u"tfPostfixToAdd"_qs};
+    controls::ComboBox cbxPrefixMetaData{u"cbxPrefixMetaData"_s, {}};
+    controls::TextField tfPostfixToAdd{u"tfPostfixToAdd"_s};
     /// Filled at start.
-    controls::ComboBox cbxPostfixMetaData{u"cbxPostfixMetaData"_qs, {}};
+    controls::ComboBox cbxPostfixMetaData{u"cbxPostfixMetaData"_s, {}};
 };
 
 } // namespace brenvaldo::panels

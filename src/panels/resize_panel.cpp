@@ -1,43 +1,45 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "resize_panel.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 ScaleMaxView::ScaleMaxView()
-    : PanelView(u"dvVCUiScaleMaxView"_qs)
+    : PanelView(u"dvVCUiScaleMaxView"_s)
 {
     setLayout({
-        {Row{.label = u"Set the"_qs, .fields = {{.control = &pubScaleMaxType}}}},
+        {Row{.label = u"Set the"_s, .fields = {{.control = &pubScaleMaxType}}}},
         {Row{
-            .label = u"To"_qs,
+            .label = u"To"_s,
             .fields
             = {{.control = &tfScaleMaxVal,
-                .unit = u"px or %"_qs,
-                .accessibleName = u"Size in pixels or percent"_qs}},
-            .hint = u"The other side follows, so nothing is distorted."_qs}},
+                .unit = u"px or %"_s,
+                .accessibleName = u"Size in pixels or percent"_s}},
+            .hint = u"The other side follows, so nothing is distorted."_s}},
     });
 }
 
 ScaleFixView::ScaleFixView()
-    : PanelView(u"dvVCUiScaleFixView"_qs)
+    : PanelView(u"dvVCUiScaleFixView"_s)
 {
     setLayout({
-        {Row{.label = u"Width"_qs, .fields = {{.control = &tfScaleFixWidth, .unit = u"px"_qs}}}},
-        {Row{.label = u"Height"_qs, .fields = {{.control = &tfScaleFixHeight, .unit = u"px"_qs}}}},
+        {Row{.label = u"Width"_s, .fields = {{.control = &tfScaleFixWidth, .unit = u"px"_s}}}},
+        {Row{.label = u"Height"_s, .fields = {{.control = &tfScaleFixHeight, .unit = u"px"_s}}}},
         {Row{.fields = {{.control = &btnFlipScaleFixWH}}}},
         {Row{
             .fields = {{.control = &cbScaleAspectRatio}},
-            .hint = u"Without it the photo is stretched to the box."_qs}},
+            .hint = u"Without it the photo is stretched to the box."_s}},
     });
 }
 
 ResizePanel::ResizePanel()
-    : PanelView(u"vwResizePhotos"_qs)
+    : PanelView(u"vwResizePhotos"_s)
 {
-    pubScaleType.addAction(u"cGUIcontrols.hChooseScaleTypeFunction"_qs);
+    pubScaleType.addAction(u"cGUIcontrols.hChooseScaleTypeFunction"_s);
     dvVCUiResizeMainView.addView(dvVCUiScaleMaxView.name());
     setLayout({
-        {Row{.label = u"Resize to"_qs, .fields = {{.control = &pubScaleType}}}},
+        {Row{.label = u"Resize to"_s, .fields = {{.control = &pubScaleType}}}},
         {HolderPlace{.holder = &dvVCUiResizeMainView}},
     });
 }

@@ -4,6 +4,7 @@
 #include "layout.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -13,10 +14,8 @@ struct ScaleMaxView : PanelView
     ScaleMaxView();
 
     controls::PopUpButton pubScaleMaxType{
-        u"pubScaleMaxType"_qs,
-        {u"Width"_qs, u"Height"_qs, u"Longest side"_qs, u"Percentage"_qs},
-        2};
-    controls::TextField tfScaleMaxVal{u"tfScaleMaxVal"_qs};
+        u"pubScaleMaxType"_s, {u"Width"_s, u"Height"_s, u"Longest side"_s, u"Percentage"_s}, 2};
+    controls::TextField tfScaleMaxVal{u"tfScaleMaxVal"_s};
 };
 
 /// The fixed mode of resizing: a box of width and height.
@@ -24,14 +23,14 @@ struct ScaleFixView : PanelView
 {
     ScaleFixView();
 
-    controls::TextField tfScaleFixWidth{u"tfScaleFixWidth"_qs};
-    controls::TextField tfScaleFixHeight{u"tfScaleFixHeight"_qs};
+    controls::TextField tfScaleFixWidth{u"tfScaleFixWidth"_s};
+    controls::TextField tfScaleFixHeight{u"tfScaleFixHeight"_s};
     controls::Button btnFlipScaleFixWH{
-        u"btnFlipScaleFixWH"_qs,
-        u"Swap width and height"_qs,
-        u"cCollectionViewController.hFlipScaleFixWH"_qs};
+        u"btnFlipScaleFixWH"_s,
+        u"Swap width and height"_s,
+        u"cCollectionViewController.hFlipScaleFixWH"_s};
     controls::CheckBox cbScaleAspectRatio{
-        u"cbScaleAspectRatio"_qs, u"Keep proportions, cut the excess"_qs, 1};
+        u"cbScaleAspectRatio"_s, u"Keep proportions, cut the excess"_s, 1};
 };
 
 /// Resizing: the mode, and the fields of that mode in the holder `dvVCUiResizeMainView`.
@@ -40,9 +39,9 @@ struct ResizePanel : PanelView
     ResizePanel();
 
     controls::PopUpButton pubScaleType{
-        u"pubScaleType"_qs, {u"One side or percentage"_qs, u"Fixed width and height"_qs}};
-    controls::PopUpButton pubResizeType{u"pubResizeType"_qs, {u"Resize"_qs}};
-    controls::Holder dvVCUiResizeMainView{u"dvVCUiResizeMainView"_qs};
+        u"pubScaleType"_s, {u"One side or percentage"_s, u"Fixed width and height"_s}};
+    controls::PopUpButton pubResizeType{u"pubResizeType"_s, {u"Resize"_s}};
+    controls::Holder dvVCUiResizeMainView{u"dvVCUiResizeMainView"_s};
     ScaleMaxView dvVCUiScaleMaxView;
     ScaleFixView dvVCUiScaleFixView;
 };

@@ -4,14 +4,16 @@
 #include "common_rows.h"
 #include "field_roles.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 RotatePanel::RotatePanel()
-    : PanelView(u"vwRotatePhotos"_qs)
+    : PanelView(u"vwRotatePhotos"_s)
 {
     makeFunctionField(tfRotationAngle, 81);
-    cbRotationBackgroundColor.addAction(u"cGUIcontrols.hAddRotationBackGroundCallsForPreview"_qs);
-    cwRotationBackgroundColor.addAction(u"cGUIcontrols.hAddRotationBackgroundColorWellSelected"_qs);
+    cbRotationBackgroundColor.addAction(u"cGUIcontrols.hAddRotationBackGroundCallsForPreview"_s);
+    cwRotationBackgroundColor.addAction(u"cGUIcontrols.hAddRotationBackgroundColorWellSelected"_s);
     makeHexField(tfRotationBackgroundHexColor, 23);
     makeFunctionField(tfRotationEnlargeCanvas, 82);
     cwRotationBackgroundColor.setEnabled(false);
@@ -19,14 +21,14 @@ RotatePanel::RotatePanel()
     tfRotationEnlargeCanvas.setEnabled(false);
     setLayout({
         {Row{
-            .label = u"Angle"_qs,
-            .fields = {{.control = &tfRotationAngle, .unit = u"\u00b0"_qs}},
-            .hint = u"Positive angles turn to the left."_qs}},
+            .label = u"Angle"_s,
+            .fields = {{.control = &tfRotationAngle, .unit = u"\u00b0"_s}},
+            .hint = u"Positive angles turn to the left."_s}},
         {Row{.fields = {{.control = &cbRotationBackgroundColor}}}},
-        {colourRow(u"Colour"_qs, cwRotationBackgroundColor, tfRotationBackgroundHexColor)},
+        {colourRow(u"Colour"_s, cwRotationBackgroundColor, tfRotationBackgroundHexColor)},
         {Row{
-            .label = u"Margin"_qs,
-            .fields = {{.control = &tfRotationEnlargeCanvas, .unit = u"px"_qs}}}},
+            .label = u"Margin"_s,
+            .fields = {{.control = &tfRotationEnlargeCanvas, .unit = u"px"_s}}}},
     });
 }
 

@@ -5,6 +5,7 @@
 
 #include <controls/color_well.h>
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -13,13 +14,13 @@ struct RotatePanel : PanelView
 {
     RotatePanel();
 
-    controls::TextField tfRotationAngle{u"tfRotationAngle"_qs, u"0"_qs};
+    controls::TextField tfRotationAngle{u"tfRotationAngle"_s, u"0"_s};
     controls::CheckBox cbRotationBackgroundColor{
-        u"cbRotationBackgroundColor"_qs, u"Coloured canvas"_qs};
-    controls::ColorWell cwRotationBackgroundColor{u"cwRotationBackgroundColor"_qs};
+        u"cbRotationBackgroundColor"_s, u"Coloured canvas"_s};
+    controls::ColorWell cwRotationBackgroundColor{u"cwRotationBackgroundColor"_s};
     controls::TextField tfRotationBackgroundHexColor{
-        u"tfRotationBackgroundHexColor"_qs, u"000000"_qs};
-    controls::TextField tfRotationEnlargeCanvas{u"tfRotationEnlargeCanvas"_qs, u"0"_qs};
+        u"tfRotationBackgroundHexColor"_s, u"000000"_s};
+    controls::TextField tfRotationEnlargeCanvas{u"tfRotationEnlargeCanvas"_s, u"0"_s};
 };
 
 } // namespace brenvaldo::panels

@@ -4,10 +4,12 @@
 #include "common_rows.h"
 #include "field_roles.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 RoundingsPanel::RoundingsPanel()
-    : PanelView(u"vwRoundings"_qs)
+    : PanelView(u"vwRoundings"_s)
 {
     giveRoles();
     setLayout(joined({shapeRows(), borderRows()}));
@@ -15,19 +17,19 @@ RoundingsPanel::RoundingsPanel()
 
 void RoundingsPanel::giveRoles()
 {
-    pubRCType.addAction(u"cGUIcontrols.hAddRoundedCornersTypeCallsForPreview"_qs);
-    cbRCBackgroundColor.addAction(u"cGUIcontrols.hAddRoundedCornersBackGroundCallsForPreview"_qs);
-    cwRCBackgroundColor.addAlias(u"ascNSColorWellObjRCbackground"_qs);
-    cwRCBackgroundColor.addAction(u"cGUIcontrols.hAddRCBackgroundColorWellSelected"_qs);
+    pubRCType.addAction(u"cGUIcontrols.hAddRoundedCornersTypeCallsForPreview"_s);
+    cbRCBackgroundColor.addAction(u"cGUIcontrols.hAddRoundedCornersBackGroundCallsForPreview"_s);
+    cwRCBackgroundColor.addAlias(u"ascNSColorWellObjRCbackground"_s);
+    cwRCBackgroundColor.addAction(u"cGUIcontrols.hAddRCBackgroundColorWellSelected"_s);
     makeHexField(tfRCBackgroundHexColor, 9);
-    cbRCBorderColor.addAction(u"cGUIcontrols.hAddRoundedCornersBorderCallsForPreview"_qs);
-    cwRCBorderColor.addAlias(u"ascNSColorWellObjRCborder"_qs);
-    cwRCBorderColor.addAction(u"cGUIcontrols.hAddRCBorderColorWellSelected"_qs);
+    cbRCBorderColor.addAction(u"cGUIcontrols.hAddRoundedCornersBorderCallsForPreview"_s);
+    cwRCBorderColor.addAlias(u"ascNSColorWellObjRCborder"_s);
+    cwRCBorderColor.addAction(u"cGUIcontrols.hAddRCBorderColorWellSelected"_s);
     makeHexField(tfRCBorderHexColor, 10);
-    pubRCBorderPos.addAction(u"cGUIcontrols.hAddRoundedCornersPositionCallsForPreview"_qs);
-    pubRCRenderMethod.addAction(u"cGUIcontrols.hAddRoundedCornersPositionCallsForPreview"_qs);
-    cbRCGradient.addAction(u"cGUIcontrols.hAddRoundedCornersBorderCallsForPreview"_qs);
-    pubRCGradientAngle.addAction(u"cGUIcontrols.hAddRoundedCornersPositionCallsForPreview"_qs);
+    pubRCBorderPos.addAction(u"cGUIcontrols.hAddRoundedCornersPositionCallsForPreview"_s);
+    pubRCRenderMethod.addAction(u"cGUIcontrols.hAddRoundedCornersPositionCallsForPreview"_s);
+    cbRCGradient.addAction(u"cGUIcontrols.hAddRoundedCornersBorderCallsForPreview"_s);
+    pubRCGradientAngle.addAction(u"cGUIcontrols.hAddRoundedCornersPositionCallsForPreview"_s);
     makeFunctionField(tfRCDiameter, 101);
     makeFunctionField(tfRCEnlargeCanvas, 102);
     makeFunctionField(tfRCBorderWidth, 103);
@@ -48,34 +50,32 @@ void RoundingsPanel::giveRoles()
 Layout RoundingsPanel::shapeRows()
 {
     return {
-        {Row{.label = u"Shape"_qs, .fields = {{.control = &pubRCType}}}},
-        {Row{
-            .label = u"Corner radius"_qs,
-            .fields = {{.control = &tfRCDiameter, .unit = u"px"_qs}}}},
-        {Heading{u"Background"_qs}},
+        {Row{.label = u"Shape"_s, .fields = {{.control = &pubRCType}}}},
+        {Row{.label = u"Corner radius"_s, .fields = {{.control = &tfRCDiameter, .unit = u"px"_s}}}},
+        {Heading{u"Background"_s}},
         {Row{.fields = {{.control = &cbRCBackgroundColor}}}},
-        {colourRow(u"Colour"_qs, cwRCBackgroundColor, tfRCBackgroundHexColor)},
-        {Row{.label = u"Margin"_qs, .fields = {{.control = &tfRCEnlargeCanvas, .unit = u"px"_qs}}}},
+        {colourRow(u"Colour"_s, cwRCBackgroundColor, tfRCBackgroundHexColor)},
+        {Row{.label = u"Margin"_s, .fields = {{.control = &tfRCEnlargeCanvas, .unit = u"px"_s}}}},
     };
 }
 
 Layout RoundingsPanel::borderRows()
 {
     return {
-        {Heading{u"Border"_qs}},
+        {Heading{u"Border"_s}},
         {Row{.fields = {{.control = &cbRCBorderColor}}}},
-        {colourRow(u"Colour"_qs, cwRCBorderColor, tfRCBorderHexColor)},
+        {colourRow(u"Colour"_s, cwRCBorderColor, tfRCBorderHexColor)},
         {Row{
-            .label = u"Width"_qs,
+            .label = u"Width"_s,
             .fields
-            = {{.control = &tfRCBorderWidth, .unit = u"px"_qs},
-               {.control = &pubRCBorderPos, .accessibleName = u"Place of the border"_qs}}}},
-        {Row{.label = u"Opacity"_qs, .fields = {{.control = &tfRCOpacity, .unit = u"%"_qs}}}},
-        {Row{.label = u"Blend"_qs, .fields = {{.control = &pubRCRenderMethod}}}},
+            = {{.control = &tfRCBorderWidth, .unit = u"px"_s},
+               {.control = &pubRCBorderPos, .accessibleName = u"Place of the border"_s}}}},
+        {Row{.label = u"Opacity"_s, .fields = {{.control = &tfRCOpacity, .unit = u"%"_s}}}},
+        {Row{.label = u"Blend"_s, .fields = {{.control = &pubRCRenderMethod}}}},
         {Row{
             .fields
             = {{.control = &cbRCGradient},
-               {.control = &pubRCGradientAngle, .accessibleName = u"Direction of the fade"_qs}}}},
+               {.control = &pubRCGradientAngle, .accessibleName = u"Direction of the fade"_s}}}},
     };
 }
 

@@ -6,6 +6,7 @@
 
 #include <controls/color_well.h>
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -15,24 +16,24 @@ struct RoundingsPanel : PanelView
     RoundingsPanel();
 
     controls::PopUpButton pubRCType{
-        u"pubRCType"_qs, {u"Rounded rectangle"_qs, u"Circle"_qs, u"Ellipse"_qs}};
-    controls::TextField tfRCDiameter{u"tfRCDiameter"_qs, u"50"_qs};
+        u"pubRCType"_s, {u"Rounded rectangle"_s, u"Circle"_s, u"Ellipse"_s}};
+    controls::TextField tfRCDiameter{u"tfRCDiameter"_s, u"50"_s};
 
-    controls::CheckBox cbRCBackgroundColor{u"cbRCBackgroundColor"_qs, u"Coloured background"_qs};
-    controls::ColorWell cwRCBackgroundColor{u"cwRCBackgroundColor"_qs};
-    controls::TextField tfRCBackgroundHexColor{u"tfRCBackgroundHexColor"_qs, u"000000"_qs};
-    controls::TextField tfRCEnlargeCanvas{u"tfRCEnlargeCanvas"_qs, u"0"_qs};
+    controls::CheckBox cbRCBackgroundColor{u"cbRCBackgroundColor"_s, u"Coloured background"_s};
+    controls::ColorWell cwRCBackgroundColor{u"cwRCBackgroundColor"_s};
+    controls::TextField tfRCBackgroundHexColor{u"tfRCBackgroundHexColor"_s, u"000000"_s};
+    controls::TextField tfRCEnlargeCanvas{u"tfRCEnlargeCanvas"_s, u"0"_s};
 
-    controls::CheckBox cbRCBorderColor{u"cbRCBorderColor"_qs, u"Border"_qs};
-    controls::ColorWell cwRCBorderColor{u"cwRCBorderColor"_qs};
-    controls::TextField tfRCBorderHexColor{u"tfRCBorderHexColor"_qs, u"000000"_qs};
-    controls::TextField tfRCBorderWidth{u"tfRCBorderWidth"_qs, u"10"_qs};
+    controls::CheckBox cbRCBorderColor{u"cbRCBorderColor"_s, u"Border"_s};
+    controls::ColorWell cwRCBorderColor{u"cwRCBorderColor"_s};
+    controls::TextField tfRCBorderHexColor{u"tfRCBorderHexColor"_s, u"000000"_s};
+    controls::TextField tfRCBorderWidth{u"tfRCBorderWidth"_s, u"10"_s};
     controls::PopUpButton pubRCBorderPos{
-        u"pubRCBorderPos"_qs, {u"On the photo"_qs, u"Around the photo"_qs}};
-    controls::TextField tfRCOpacity{u"tfRCOpacity"_qs, u"100"_qs};
-    controls::PopUpButton pubRCRenderMethod{u"pubRCRenderMethod"_qs, frameBlendTitles()};
-    controls::CheckBox cbRCGradient{u"cbRCGradient"_qs, u"Fade out"_qs};
-    controls::PopUpButton pubRCGradientAngle{u"pubRCGradientAngle"_qs, gradientAngleTitles()};
+        u"pubRCBorderPos"_s, {u"On the photo"_s, u"Around the photo"_s}};
+    controls::TextField tfRCOpacity{u"tfRCOpacity"_s, u"100"_s};
+    controls::PopUpButton pubRCRenderMethod{u"pubRCRenderMethod"_s, frameBlendTitles()};
+    controls::CheckBox cbRCGradient{u"cbRCGradient"_s, u"Fade out"_s};
+    controls::PopUpButton pubRCGradientAngle{u"pubRCGradientAngle"_s, gradientAngleTitles()};
 
 private:
     void giveRoles();

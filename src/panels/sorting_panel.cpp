@@ -3,29 +3,31 @@
 
 #include "common_rows.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 SortingPanel::SortingPanel()
-    : PanelView(u"vwFileManagementSorting"_qs)
+    : PanelView(u"vwFileManagementSorting"_s)
 {
-    mySortTabView.addAction(u"cGUIcontrols.tabViewdidSelectTabViewItem"_qs);
+    mySortTabView.addAction(u"cGUIcontrols.tabViewdidSelectTabViewItem"_s);
     setLayout({{Pages{
         .tabs = &mySortTabView,
         .pages
         = {manualPage(),
-           {{Note{u"Photos and files that meet your criteria go to the destination folder."_qs}}},
+           {{Note{u"Photos and files that meet your criteria go to the destination folder."_s}}},
            uploadPage()}}}});
 }
 
 Layout SortingPanel::manualPage()
 {
     return {
-        {textRow(u"Folder 1"_qs, tfSortDestination01)},
-        {textRow(u"Folder 2"_qs, tfSortDestination02)},
-        {textRow(u"Folder 3"_qs, tfSortDestination03)},
-        {textRow(u"Folder 4"_qs, tfSortDestination04)},
-        {textRow(u"Folder 5"_qs, tfSortDestination05)},
-        {textRow(u"Folder 6"_qs, tfSortDestination06)},
+        {textRow(u"Folder 1"_s, tfSortDestination01)},
+        {textRow(u"Folder 2"_s, tfSortDestination02)},
+        {textRow(u"Folder 3"_s, tfSortDestination03)},
+        {textRow(u"Folder 4"_s, tfSortDestination04)},
+        {textRow(u"Folder 5"_s, tfSortDestination05)},
+        {textRow(u"Folder 6"_s, tfSortDestination06)},
     };
 }
 
@@ -34,11 +36,11 @@ Layout SortingPanel::uploadPage()
     return {
         {Table{
             .table = &myPhotosTableView,
-            .columns = {{.key = u"photosAlbumName"_qs, .title = u"Album"_qs}},
-            .accessibleName = u"Albums of the photo library"_qs}},
-        {textRow(u"Title"_qs, tfAddTitle)},
-        {textRow(u"Keywords"_qs, tfAddKeyword)},
-        {textRow(u"Description"_qs, tfAddDescription)},
+            .columns = {{.key = u"photosAlbumName"_s, .title = u"Album"_s}},
+            .accessibleName = u"Albums of the photo library"_s}},
+        {textRow(u"Title"_s, tfAddTitle)},
+        {textRow(u"Keywords"_s, tfAddKeyword)},
+        {textRow(u"Description"_s, tfAddDescription)},
         {Row{.fields = {{.control = &cbAddToFavorite}}}},
     };
 }

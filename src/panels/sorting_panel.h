@@ -4,6 +4,7 @@
 #include "layout.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -13,25 +14,25 @@ struct SortingPanel : PanelView
     SortingPanel();
 
     controls::TabView mySortTabView{
-        u"mySortTabView"_qs,
-        {{.identifier = u"1"_qs, .label = u"By hand"_qs},
-         {.identifier = u"2"_qs, .label = u"Batch mode"_qs},
-         {.identifier = u"3"_qs, .label = u"Upload"_qs}}};
+        u"mySortTabView"_s,
+        {{.identifier = u"1"_s, .label = u"By hand"_s},
+         {.identifier = u"2"_s, .label = u"Batch mode"_s},
+         {.identifier = u"3"_s, .label = u"Upload"_s}}};
 
-    controls::TextField tfSortDestination01{u"tfSortDestination01"_qs};
-    controls::TextField tfSortDestination02{u"tfSortDestination02"_qs};
-    controls::TextField tfSortDestination03{u"tfSortDestination03"_qs};
-    controls::TextField tfSortDestination04{u"tfSortDestination04"_qs};
-    controls::TextField tfSortDestination05{u"tfSortDestination05"_qs};
-    controls::TextField tfSortDestination06{u"tfSortDestination06"_qs};
+    controls::TextField tfSortDestination01{u"tfSortDestination01"_s};
+    controls::TextField tfSortDestination02{u"tfSortDestination02"_s};
+    controls::TextField tfSortDestination03{u"tfSortDestination03"_s};
+    controls::TextField tfSortDestination04{u"tfSortDestination04"_s};
+    controls::TextField tfSortDestination05{u"tfSortDestination05"_s};
+    controls::TextField tfSortDestination06{u"tfSortDestination06"_s};
 
     /// The albums of the photo library.
-    controls::ArrayController theApplePhotosData{u"theApplePhotosData"_qs, {u"photosAlbumName"_qs}};
-    controls::TableView myPhotosTableView{u"myPhotosTableView"_qs, theApplePhotosData};
-    controls::TextField tfAddTitle{u"tfAddTitle"_qs};
-    controls::TextField tfAddKeyword{u"tfAddKeyword"_qs};
-    controls::TextField tfAddDescription{u"tfAddDescription"_qs};
-    controls::CheckBox cbAddToFavorite{u"cbAddToFavorite"_qs, u"Mark as favourite"_qs};
+    controls::ArrayController theApplePhotosData{u"theApplePhotosData"_s, {u"photosAlbumName"_s}};
+    controls::TableView myPhotosTableView{u"myPhotosTableView"_s, theApplePhotosData};
+    controls::TextField tfAddTitle{u"tfAddTitle"_s};
+    controls::TextField tfAddKeyword{u"tfAddKeyword"_s};
+    controls::TextField tfAddDescription{u"tfAddDescription"_s};
+    controls::CheckBox cbAddToFavorite{u"cbAddToFavorite"_s, u"Mark as favourite"_s};
 
 private:
     [[nodiscard]] Layout manualPage();

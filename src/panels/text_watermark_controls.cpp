@@ -3,6 +3,8 @@
 
 #include "common_titles.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 namespace {
@@ -13,9 +15,9 @@ constexpr int firstTextWatermarkTag = 200;
 
 TextWatermarkControls::TextWatermarkControls()
 {
-    pubPhotoProperties.addAlias(u"pubTWMPhotoProperties"_qs);
-    cbFontList.addAlias(u"cbWatermarkFont"_qs);
-    cActionsTWMArrayController.addAlias(u"cActionsIWMArrayController"_qs);
+    pubPhotoProperties.addAlias(u"pubTWMPhotoProperties"_s);
+    cbFontList.addAlias(u"cbWatermarkFont"_s);
+    cActionsTWMArrayController.addAlias(u"cActionsIWMArrayController"_s);
     for (controls::Control* control : std::initializer_list<controls::Control*>{
              &tfTextShadowXOffset,
              &tfTextShadowYOffset,
@@ -51,84 +53,83 @@ void TextWatermarkControls::giveTags()
 
 void TextWatermarkControls::giveActions()
 {
-    tvWaterMarkText.addTypingAction(u"DVWatermark.textDidChange"_qs);
-    pubPhotoProperties.addAction(u"DVWatermark.hInsertPhotoProperty"_qs);
-    pubFileNamePhotoProperties.addAction(u"cGUIcontrols.hInsertPhotoProperty"_qs);
-    scTxtAlign.addAction(u"DVWatermark.hTextAlignment"_qs);
-    cbFontList.addAction(u"DVWatermark.hTextFontFamilyComboBox"_qs);
-    cwFontColor.addAction(u"DVWatermark.hTextColorEntred"_qs);
-    cbFontBold.addAction(u"DVWatermark.hTextBoldCheckBox"_qs);
-    cbFontItalic.addAction(u"DVWatermark.hTextItalicCheckBox"_qs);
-    pubTxtUnderline.addAction(u"DVWatermark.hUnderlineComboBox"_qs);
-    scWaterMarkPos.addAction(u"DVWatermark.hTextWatermarkPositionSelector"_qs);
-    cbTextPatternCheck.addAction(u"DVWatermark.hTxtPatternCheckBox"_qs);
-    cbShadowCheck.addAction(u"DVWatermark.hTextShadowCheckBox"_qs);
-    cwShadowColor.addAction(u"DVWatermark.hTextShadowColorEntred"_qs);
-    cbOutlineCheck.addAction(u"DVWatermark.hTextOutlineCheckBox"_qs);
-    pubOutlineThickness.addAction(u"DVWatermark.hTextOutlineThicknessComboBox"_qs);
-    pubWatermarkTextEffect.addAction(u"DVWatermark.hAddTextWatermarkEffect"_qs);
-    pubWatermarkTextEffectIntensity.addAction(u"DVWatermark.hAddTextWatermarkEffectIntensity"_qs);
-    cwEmbossColor.addAction(u"DVWatermark.hEmbossColorEntred"_qs);
+    tvWaterMarkText.addTypingAction(u"DVWatermark.textDidChange"_s);
+    pubPhotoProperties.addAction(u"DVWatermark.hInsertPhotoProperty"_s);
+    pubFileNamePhotoProperties.addAction(u"cGUIcontrols.hInsertPhotoProperty"_s);
+    scTxtAlign.addAction(u"DVWatermark.hTextAlignment"_s);
+    cbFontList.addAction(u"DVWatermark.hTextFontFamilyComboBox"_s);
+    cwFontColor.addAction(u"DVWatermark.hTextColorEntred"_s);
+    cbFontBold.addAction(u"DVWatermark.hTextBoldCheckBox"_s);
+    cbFontItalic.addAction(u"DVWatermark.hTextItalicCheckBox"_s);
+    pubTxtUnderline.addAction(u"DVWatermark.hUnderlineComboBox"_s);
+    scWaterMarkPos.addAction(u"DVWatermark.hTextWatermarkPositionSelector"_s);
+    cbTextPatternCheck.addAction(u"DVWatermark.hTxtPatternCheckBox"_s);
+    cbShadowCheck.addAction(u"DVWatermark.hTextShadowCheckBox"_s);
+    cwShadowColor.addAction(u"DVWatermark.hTextShadowColorEntred"_s);
+    cbOutlineCheck.addAction(u"DVWatermark.hTextOutlineCheckBox"_s);
+    pubOutlineThickness.addAction(u"DVWatermark.hTextOutlineThicknessComboBox"_s);
+    pubWatermarkTextEffect.addAction(u"DVWatermark.hAddTextWatermarkEffect"_s);
+    pubWatermarkTextEffectIntensity.addAction(u"DVWatermark.hAddTextWatermarkEffectIntensity"_s);
+    cwEmbossColor.addAction(u"DVWatermark.hEmbossColorEntred"_s);
 }
 
 Layout TextWatermarkControls::textRows()
 {
     return {
-        {Heading{u"Text"_qs}},
-        {Row{.label = u"Text"_qs, .fields = {{.control = &tvWaterMarkText}}}},
+        {Heading{u"Text"_s}},
+        {Row{.label = u"Text"_s, .fields = {{.control = &tvWaterMarkText}}}},
         {Row{
-            .label = u"Insert"_qs,
+            .label = u"Insert"_s,
             .fields
-            = {{.control = &pubPhotoProperties, .accessibleName = u"Insert a photo property"_qs}},
-            .hint = u"Each photo shows its own value in place of <[\u2026]>."_qs}},
-        {Row{.label = u"Align"_qs, .fields = {{.control = &scTxtAlign}}}},
+            = {{.control = &pubPhotoProperties, .accessibleName = u"Insert a photo property"_s}},
+            .hint = u"Each photo shows its own value in place of <[\u2026]>."_s}},
+        {Row{.label = u"Align"_s, .fields = {{.control = &scTxtAlign}}}},
     };
 }
 
 Layout TextWatermarkControls::fontRows()
 {
     return {
-        {Heading{u"Font"_qs}},
-        {Row{.label = u"Font"_qs, .fields = {{.control = &cbFontList}}}},
+        {Heading{u"Font"_s}},
+        {Row{.label = u"Font"_s, .fields = {{.control = &cbFontList}}}},
         {Row{
-            .label = u"Size"_qs,
+            .label = u"Size"_s,
             .fields
-            = {{.control = &tfFontSize, .unit = u"pt"_qs},
-               {.control = &cwFontColor, .accessibleName = u"Text colour"_qs}}}},
+            = {{.control = &tfFontSize, .unit = u"pt"_s},
+               {.control = &cwFontColor, .accessibleName = u"Text colour"_s}}}},
         {Row{
-            .label = u"Style"_qs,
+            .label = u"Style"_s,
             .fields
             = {{.control = &cbFontBold},
                {.control = &cbFontItalic},
-               {.control = &pubTxtUnderline, .accessibleName = u"Underline"_qs}}}},
+               {.control = &pubTxtUnderline, .accessibleName = u"Underline"_s}}}},
         {Row{
-            .label = u"Spacing"_qs,
+            .label = u"Spacing"_s,
             .fields
             = {{.control = &tfKerning,
-                .unit = u"pt letters"_qs,
-                .accessibleName = u"Extra space between letters"_qs},
+                .unit = u"pt letters"_s,
+                .accessibleName = u"Extra space between letters"_s},
                {.control = &tfLeading,
-                .unit = u"pt lines"_qs,
-                .accessibleName = u"Extra space between lines"_qs}}}},
-        {Row{
-            .label = u"Opacity"_qs, .fields = {{.control = &tfFontTransparancy, .unit = u"%"_qs}}}},
+                .unit = u"pt lines"_s,
+                .accessibleName = u"Extra space between lines"_s}}}},
+        {Row{.label = u"Opacity"_s, .fields = {{.control = &tfFontTransparancy, .unit = u"%"_s}}}},
     };
 }
 
 Layout TextWatermarkControls::placeRows()
 {
     return {
-        {Heading{u"Place"_qs}},
-        {Row{.label = u"Position"_qs, .fields = {{.control = &scWaterMarkPos}}}},
+        {Heading{u"Place"_s}},
+        {Row{.label = u"Position"_s, .fields = {{.control = &scWaterMarkPos}}}},
         {Row{
-            .label = u"Shift"_qs,
+            .label = u"Shift"_s,
             .fields
             = {{.control = &tfXOffset,
-                .unit = u"px right"_qs,
-                .accessibleName = u"Shift to the right"_qs},
-               {.control = &tfYOffset, .unit = u"px up"_qs, .accessibleName = u"Shift upward"_qs}},
-            .hint = u"The gaps between the copies when the text is repeated."_qs}},
-        {Row{.label = u"Angle"_qs, .fields = {{.control = &tfWMAngle, .unit = u"\u00b0"_qs}}}},
+                .unit = u"px right"_s,
+                .accessibleName = u"Shift to the right"_s},
+               {.control = &tfYOffset, .unit = u"px up"_s, .accessibleName = u"Shift upward"_s}},
+            .hint = u"The gaps between the copies when the text is repeated."_s}},
+        {Row{.label = u"Angle"_s, .fields = {{.control = &tfWMAngle, .unit = u"\u00b0"_s}}}},
         {Row{.fields = {{.control = &cbTextPatternCheck}}}},
     };
 }
@@ -136,39 +137,39 @@ Layout TextWatermarkControls::placeRows()
 Layout TextWatermarkControls::shadowRows()
 {
     return {
-        {Heading{u"Shadow"_qs}},
+        {Heading{u"Shadow"_s}},
         {Row{.fields = {{.control = &cbShadowCheck}}}},
         {Row{
-            .label = u"Shift"_qs,
+            .label = u"Shift"_s,
             .fields
             = {{.control = &tfTextShadowXOffset,
-                .unit = u"px right"_qs,
-                .accessibleName = u"Shift of the shadow to the right"_qs},
+                .unit = u"px right"_s,
+                .accessibleName = u"Shift of the shadow to the right"_s},
                {.control = &tfTextShadowYOffset,
-                .unit = u"px up"_qs,
-                .accessibleName = u"Shift of the shadow upward"_qs}}}},
+                .unit = u"px up"_s,
+                .accessibleName = u"Shift of the shadow upward"_s}}}},
         {Row{
-            .label = u"Softness"_qs,
+            .label = u"Softness"_s,
             .fields
             = {{.control = &tfTextShadowRadius,
-                .unit = u"px"_qs,
-                .accessibleName = u"Softness of the shadow"_qs},
-               {.control = &cwShadowColor, .accessibleName = u"Colour of the shadow"_qs}}}},
+                .unit = u"px"_s,
+                .accessibleName = u"Softness of the shadow"_s},
+               {.control = &cwShadowColor, .accessibleName = u"Colour of the shadow"_s}}}},
     };
 }
 
 Layout TextWatermarkControls::lookRows()
 {
     return {
-        {Heading{u"Look"_qs}},
+        {Heading{u"Look"_s}},
         {Row{
             .fields
             = {{.control = &cbOutlineCheck},
                {.control = &pubOutlineThickness,
-                .accessibleName = u"Thickness of the outline"_qs}}}},
-        {Row{.label = u"Effect"_qs, .fields = {{.control = &pubWatermarkTextEffect}}}},
-        {Row{.label = u"Strength"_qs, .fields = {{.control = &pubWatermarkTextEffectIntensity}}}},
-        {Row{.label = u"Relief colour"_qs, .fields = {{.control = &cwEmbossColor}}}},
+                .accessibleName = u"Thickness of the outline"_s}}}},
+        {Row{.label = u"Effect"_s, .fields = {{.control = &pubWatermarkTextEffect}}}},
+        {Row{.label = u"Strength"_s, .fields = {{.control = &pubWatermarkTextEffectIntensity}}}},
+        {Row{.label = u"Relief colour"_s, .fields = {{.control = &cwEmbossColor}}}},
     };
 }
 

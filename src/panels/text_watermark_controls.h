@@ -6,6 +6,7 @@
 
 #include <controls/color_well.h>
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -14,95 +15,93 @@ struct TextWatermarkControls
 {
     TextWatermarkControls();
 
-    controls::TextView tvWaterMarkText{u"tvWaterMarkText"_qs};
+    controls::TextView tvWaterMarkText{u"tvWaterMarkText"_s};
     /// In the order of the tokens that they insert.
     controls::PopUpButton pubPhotoProperties{
-        u"pubPhotoProperties"_qs,
+        u"pubPhotoProperties"_s,
         {
-            u"Date taken"_qs,
-            u"User comment"_qs,
-            u"Width in pixels"_qs,
-            u"Height in pixels"_qs,
-            u"Resolution (dpi)"_qs,
-            u"File name"_qs,
-            u"Colour model"_qs,
-            u"Colour profile"_qs,
-            u"Bits per channel"_qs,
-            u"Creator"_qs,
-            u"Creator's job title"_qs,
-            u"Caption"_qs,
-            u"Copyright notice"_qs,
-            u"Headline"_qs,
-            u"Keywords"_qs,
-            u"Title"_qs,
-            u"Source"_qs,
-            u"Rights and usage terms"_qs,
+            u"Date taken"_s,
+            u"User comment"_s,
+            u"Width in pixels"_s,
+            u"Height in pixels"_s,
+            u"Resolution (dpi)"_s,
+            u"File name"_s,
+            u"Colour model"_s,
+            u"Colour profile"_s,
+            u"Bits per channel"_s,
+            u"Creator"_s,
+            u"Creator's job title"_s,
+            u"Caption"_s,
+            u"Copyright notice"_s,
+            u"Headline"_s,
+            u"Keywords"_s,
+            u"Title"_s,
+            u"Source"_s,
+            u"Rights and usage terms"_s,
         }};
-    controls::SegmentedControl scTxtAlign{
-        u"scTxtAlign"_qs, {u"Left"_qs, u"Centre"_qs, u"Right"_qs}};
+    controls::SegmentedControl scTxtAlign{u"scTxtAlign"_s, {u"Left"_s, u"Centre"_s, u"Right"_s}};
 
-    controls::ComboBox cbFontList{u"cbFontList"_qs, {}, -1};
-    controls::TextField tfFontSize{u"tfFontSize"_qs, u"72"_qs};
-    controls::ColorWell cwFontColor{u"cwFontColor"_qs, {.red = 1, .green = 1, .blue = 1}};
-    controls::CheckBox cbFontBold{u"cbFontBold"_qs, u"Bold"_qs};
-    controls::CheckBox cbFontItalic{u"cbFontItalic"_qs, u"Italic"_qs};
+    controls::ComboBox cbFontList{u"cbFontList"_s, {}, -1};
+    controls::TextField tfFontSize{u"tfFontSize"_s, u"72"_s};
+    controls::ColorWell cwFontColor{u"cwFontColor"_s, {.red = 1, .green = 1, .blue = 1}};
+    controls::CheckBox cbFontBold{u"cbFontBold"_s, u"Bold"_s};
+    controls::CheckBox cbFontItalic{u"cbFontItalic"_s, u"Italic"_s};
     controls::PopUpButton pubTxtUnderline{
-        u"pubTxtUnderline"_qs,
+        u"pubTxtUnderline"_s,
         {
-            u"No underline"_qs,
-            u"Thin underline"_qs,
-            u"Thick underline"_qs,
+            u"No underline"_s,
+            u"Thin underline"_s,
+            u"Thick underline"_s,
         }};
-    controls::TextField tfKerning{u"tfKerning"_qs, u"0"_qs};
-    controls::TextField tfLeading{u"tfLeading"_qs, u"0"_qs};
-    controls::TextField tfFontTransparancy{u"tfFontTransparancy"_qs, u"100"_qs};
+    controls::TextField tfKerning{u"tfKerning"_s, u"0"_s};
+    controls::TextField tfLeading{u"tfLeading"_s, u"0"_s};
+    controls::TextField tfFontTransparancy{u"tfFontTransparancy"_s, u"100"_s};
 
     controls::SegmentedControl scWaterMarkPos{
-        u"scWaterMarkPos"_qs,
+        u"scWaterMarkPos"_s,
         positionGridTitles(),
         8,
         controls::SegmentedControl::Look::PositionGrid};
-    controls::TextField tfXOffset{u"tfXOffset"_qs, u"0"_qs};
-    controls::TextField tfYOffset{u"tfYOffset"_qs, u"0"_qs};
-    controls::TextField tfWMAngle{u"tfWMAngle"_qs, u"0"_qs};
+    controls::TextField tfXOffset{u"tfXOffset"_s, u"0"_s};
+    controls::TextField tfYOffset{u"tfYOffset"_s, u"0"_s};
+    controls::TextField tfWMAngle{u"tfWMAngle"_s, u"0"_s};
     controls::CheckBox cbTextPatternCheck{
-        u"cbTextPatternCheck"_qs, u"Repeat over the whole photo"_qs};
+        u"cbTextPatternCheck"_s, u"Repeat over the whole photo"_s};
 
-    controls::CheckBox cbShadowCheck{u"cbShadowCheck"_qs, u"Cast a shadow"_qs};
-    controls::TextField tfTextShadowXOffset{u"tfTextShadowXOffset"_qs, u"2"_qs};
-    controls::TextField tfTextShadowYOffset{u"tfTextShadowYOffset"_qs, u"-2"_qs};
-    controls::TextField tfTextShadowRadius{u"tfTextShadowRadius"_qs, u"4"_qs};
-    controls::ColorWell cwShadowColor{u"cwShadowColor"_qs};
+    controls::CheckBox cbShadowCheck{u"cbShadowCheck"_s, u"Cast a shadow"_s};
+    controls::TextField tfTextShadowXOffset{u"tfTextShadowXOffset"_s, u"2"_s};
+    controls::TextField tfTextShadowYOffset{u"tfTextShadowYOffset"_s, u"-2"_s};
+    controls::TextField tfTextShadowRadius{u"tfTextShadowRadius"_s, u"4"_s};
+    controls::ColorWell cwShadowColor{u"cwShadowColor"_s};
 
-    controls::CheckBox cbOutlineCheck{u"cbOutlineCheck"_qs, u"Outline only"_qs};
+    controls::CheckBox cbOutlineCheck{u"cbOutlineCheck"_s, u"Outline only"_s};
     controls::PopUpButton pubOutlineThickness{
-        u"pubOutlineThickness"_qs,
-        {u"Hairline"_qs, u"Thin"_qs, u"Medium"_qs, u"Thick"_qs, u"Heavy"_qs}};
+        u"pubOutlineThickness"_s, {u"Hairline"_s, u"Thin"_s, u"Medium"_s, u"Thick"_s, u"Heavy"_s}};
     controls::PopUpButton pubWatermarkTextEffect{
-        u"pubWatermarkTextEffect"_qs,
+        u"pubWatermarkTextEffect"_s,
         {
-            u"Plain colour"_qs,
-            u"Relief 1"_qs,
-            u"Relief 2"_qs,
-            u"Relief 3"_qs,
-            u"Relief 4"_qs,
-            u"Relief 5"_qs,
-            u"Relief in a colour"_qs,
-            u"Filled with the photo"_qs,
-            u"Filled with the photo in black and white"_qs,
-            u"Relief 6"_qs,
+            u"Plain colour"_s,
+            u"Relief 1"_s,
+            u"Relief 2"_s,
+            u"Relief 3"_s,
+            u"Relief 4"_s,
+            u"Relief 5"_s,
+            u"Relief in a colour"_s,
+            u"Filled with the photo"_s,
+            u"Filled with the photo in black and white"_s,
+            u"Relief 6"_s,
         }};
     controls::PopUpButton pubWatermarkTextEffectIntensity{
-        u"pubWatermarkTextEffectIntensity"_qs, {u"Light"_qs, u"Medium"_qs, u"Strong"_qs}, 1};
-    controls::ColorWell cwEmbossColor{u"cwEmbossColor"_qs, {.red = 0.8, .green = 0.8, .blue = 0.8}};
+        u"pubWatermarkTextEffectIntensity"_s, {u"Light"_s, u"Medium"_s, u"Strong"_s}, 1};
+    controls::ColorWell cwEmbossColor{u"cwEmbossColor"_s, {.red = 0.8, .green = 0.8, .blue = 0.8}};
 
-    controls::TextView tvFileName{u"tvFileName"_qs};
+    controls::TextView tvFileName{u"tvFileName"_s};
     /// Inserts tokens into `tvFileName`.
     controls::PopUpButton pubFileNamePhotoProperties{
-        u"pubFileNamePhotoProperties"_qs, {u"Width in pixels"_qs, u"Height in pixels"_qs}};
+        u"pubFileNamePhotoProperties"_s, {u"Width in pixels"_s, u"Height in pixels"_s}};
     controls::ArrayController cActionsTWMArrayController{
-        u"cActionsTWMArrayController"_qs, {u"cActions"_qs}};
-    controls::TableView tvwTWMActions{u"tvwTWMActions"_qs, cActionsTWMArrayController};
+        u"cActionsTWMArrayController"_s, {u"cActions"_s}};
+    controls::TableView tvwTWMActions{u"tvwTWMActions"_s, cActionsTWMArrayController};
 
     [[nodiscard]] Layout textWatermarkPage();
 

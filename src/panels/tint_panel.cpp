@@ -4,36 +4,38 @@
 #include "common_rows.h"
 #include "field_roles.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 TintPanel::TintPanel()
-    : PanelView(u"vwAddTint"_qs)
+    : PanelView(u"vwAddTint"_s)
 {
     giveRoles();
     setLayout(joined({
         colourRows(),
-        {{Heading{u"Size"_qs}}, {sizePages()}},
-        {{Heading{u"Place"_qs}},
-         {Row{.label = u"Position"_qs, .fields = {{.control = &scAddTintPosition}}}},
-         {offsetRow(tfAddTintPosX, tfAddTintPosY, u"To the right, and up."_qs)}},
+        {{Heading{u"Size"_s}}, {sizePages()}},
+        {{Heading{u"Place"_s}},
+         {Row{.label = u"Position"_s, .fields = {{.control = &scAddTintPosition}}}},
+         {offsetRow(tfAddTintPosX, tfAddTintPosY, u"To the right, and up."_s)}},
     }));
 }
 
 void TintPanel::giveRoles()
 {
-    cwAddTint.addAlias(u"ascNSColorWellAddTint"_qs);
-    cwAddTint.addAction(u"cGUIcontrols.hAddTintColorWell"_qs);
+    cwAddTint.addAlias(u"ascNSColorWellAddTint"_s);
+    cwAddTint.addAction(u"cGUIcontrols.hAddTintColorWell"_s);
     makeHexField(tfAddTintHexValue, 7);
-    pubAddTintRenderMethod.addAction(u"cGUIcontrols.hAddTintRenderMethod"_qs);
-    cbAddTintDuoTone.addAction(u"cGUIcontrols.hAddTintDuoTone"_qs);
-    cbAddTintGradient.addAction(u"cGUIcontrols.hAddTintGradient"_qs);
-    pubAddTintAngle.addAction(u"cGUIcontrols.hAddTintAngle"_qs);
+    pubAddTintRenderMethod.addAction(u"cGUIcontrols.hAddTintRenderMethod"_s);
+    cbAddTintDuoTone.addAction(u"cGUIcontrols.hAddTintDuoTone"_s);
+    cbAddTintGradient.addAction(u"cGUIcontrols.hAddTintGradient"_s);
+    pubAddTintAngle.addAction(u"cGUIcontrols.hAddTintAngle"_s);
     pubAddTintAngle.setEnabled(false);
-    cbAddTintOrigSize.addAction(u"cGUIcontrols.hAddTintActivePhotoSize"_qs);
+    cbAddTintOrigSize.addAction(u"cGUIcontrols.hAddTintActivePhotoSize"_s);
     tfAddTintWidth.setEnabled(false);
     tfAddTintHeight.setEnabled(false);
-    pubAddTintPercentageOrient.addAction(u"cGUIcontrols.hAddTintPercWidth"_qs);
-    scAddTintPosition.addAction(u"cGUIcontrols.hAddTintPosition"_qs);
+    pubAddTintPercentageOrient.addAction(u"cGUIcontrols.hAddTintPercWidth"_s);
+    scAddTintPosition.addAction(u"cGUIcontrols.hAddTintPosition"_s);
     makeFunctionField(tfAddTintOpacity, 400);
     makeFunctionField(tfAddTintWidth, 401);
     makeFunctionField(tfAddTintHeight, 402);
@@ -46,14 +48,14 @@ void TintPanel::giveRoles()
 Layout TintPanel::colourRows()
 {
     return {
-        {colourRow(u"Colour"_qs, cwAddTint, tfAddTintHexValue)},
-        {Row{.label = u"Opacity"_qs, .fields = {{.control = &tfAddTintOpacity, .unit = u"%"_qs}}}},
-        {Row{.label = u"Blend"_qs, .fields = {{.control = &pubAddTintRenderMethod}}}},
+        {colourRow(u"Colour"_s, cwAddTint, tfAddTintHexValue)},
+        {Row{.label = u"Opacity"_s, .fields = {{.control = &tfAddTintOpacity, .unit = u"%"_s}}}},
+        {Row{.label = u"Blend"_s, .fields = {{.control = &pubAddTintRenderMethod}}}},
         {Row{.fields = {{.control = &cbAddTintDuoTone}}}},
         {Row{
             .fields
             = {{.control = &cbAddTintGradient},
-               {.control = &pubAddTintAngle, .accessibleName = u"Direction of the fade"_qs}}}},
+               {.control = &pubAddTintAngle, .accessibleName = u"Direction of the fade"_s}}}},
     };
 }
 
@@ -63,21 +65,20 @@ Pages TintPanel::sizePages()
         .tabs = &tbvFrameType,
         .pages = {
             {{Row{.fields = {{.control = &cbAddTintOrigSize}}}},
+             {Row{.label = u"Width"_s, .fields = {{.control = &tfAddTintWidth, .unit = u"px"_s}}}},
              {Row{
-                 .label = u"Width"_qs, .fields = {{.control = &tfAddTintWidth, .unit = u"px"_qs}}}},
-             {Row{
-                 .label = u"Height"_qs,
-                 .fields = {{.control = &tfAddTintHeight, .unit = u"px"_qs}}}}},
+                 .label = u"Height"_s,
+                 .fields = {{.control = &tfAddTintHeight, .unit = u"px"_s}}}}},
             {{Row{
-                 .label = u"Part"_qs,
-                 .fields = {{.control = &tfAddTintPercentage, .unit = u"%"_qs}}}},
+                 .label = u"Part"_s,
+                 .fields = {{.control = &tfAddTintPercentage, .unit = u"%"_s}}}},
              {Row{
                  .fields
                  = {{.control = &pubAddTintPercentageOrient,
-                     .accessibleName = u"What the percentage counts"_qs}}}}},
+                     .accessibleName = u"What the percentage counts"_s}}}}},
             {{Row{
-                .label = u"Left free"_qs,
-                .fields = {{.control = &tfAddTintPixels, .unit = u"px"_qs}}}}},
+                .label = u"Left free"_s,
+                .fields = {{.control = &tfAddTintPixels, .unit = u"px"_s}}}}},
         }};
 }
 

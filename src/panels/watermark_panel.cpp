@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "watermark_panel.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 WatermarkPanel::WatermarkPanel()
-    : PanelView(u"vwWatermark"_qs)
+    : PanelView(u"vwWatermark"_s)
 {
-    tbvWatermarkType.addAction(u"cCollectionViewController.tabViewdidSelectTabViewItem"_qs);
+    tbvWatermarkType.addAction(u"cCollectionViewController.tabViewdidSelectTabViewItem"_s);
     setLayout(
         {{Pages{.tabs = &tbvWatermarkType, .pages = {textWatermarkPage(), imageWatermarkPage()}}}}
     );

@@ -4,6 +4,8 @@
 #include "image_watermark_controls.h"
 #include "text_watermark_controls.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 /// Watermarks: a tab for text and a tab for an image.
@@ -12,9 +14,8 @@ struct WatermarkPanel : PanelView, TextWatermarkControls, ImageWatermarkControls
     WatermarkPanel();
 
     controls::TabView tbvWatermarkType{
-        u"tbvWatermarkType"_qs,
-        {{.identifier = u"1"_qs, .label = u"Text"_qs},
-         {.identifier = u"2"_qs, .label = u"Image"_qs}}};
+        u"tbvWatermarkType"_s,
+        {{.identifier = u"1"_s, .label = u"Text"_s}, {.identifier = u"2"_s, .label = u"Image"_s}}};
 };
 
 } // namespace brenvaldo::panels

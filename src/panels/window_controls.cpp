@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "window_controls.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::panels {
 
 WindowControls::WindowControls()
 {
-    pubEditPhoto.addAction(u"cGUIcontrols.hChooseMainEditFunction"_qs);
-    pubFileManagementSelect.addAction(u"cGUIcontrols.hChooseMainFileManagementFunction"_qs);
-    tfHTMLAlertTitle.addAlias(u"tfAlertTitle"_qs);
-    tfHTMLAlertInfo.addAlias(u"tfAlertDescription"_qs);
-    cbPhotoToProcess.addAction(u"cCollectionViewController.hProcessAllPhotoFlag"_qs);
+    pubEditPhoto.addAction(u"cGUIcontrols.hChooseMainEditFunction"_s);
+    pubFileManagementSelect.addAction(u"cGUIcontrols.hChooseMainFileManagementFunction"_s);
+    tfHTMLAlertTitle.addAlias(u"tfAlertTitle"_s);
+    tfHTMLAlertInfo.addAlias(u"tfAlertDescription"_s);
+    cbPhotoToProcess.addAction(u"cCollectionViewController.hProcessAllPhotoFlag"_s);
 }
 
 QList<controls::Control*> WindowControls::all()

@@ -6,6 +6,7 @@
 #include <controls/image_view.h>
 #include <controls/range_controls.h>
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::panels {
 
@@ -16,55 +17,55 @@ struct WindowControls
     WindowControls();
 
     controls::Button btnEditPhoto{
-        u"btnEditPhoto"_qs, u"Edit photos"_qs, u"cGUIcontrols.hEditPhotoClicked"_qs};
+        u"btnEditPhoto"_s, u"Edit photos"_s, u"cGUIcontrols.hEditPhotoClicked"_s};
     controls::Button btnFileManagement{
-        u"btnFileManagement"_qs, u"Manage files"_qs, u"cGUIcontrols.hFileManagementClicked"_qs};
+        u"btnFileManagement"_s, u"Manage files"_s, u"cGUIcontrols.hFileManagementClicked"_s};
     controls::Button btnExportHtml{
-        u"btnExportHtml"_qs, u"Web gallery"_qs, u"cGUIcontrols.hExportHTMLClicked"_qs};
+        u"btnExportHtml"_s, u"Web gallery"_s, u"cGUIcontrols.hExportHTMLClicked"_s};
     controls::Button btnPresets{
-        u"btnPresets"_qs, u"Presets\u2026"_qs, u"cPresetManager.hLoadPreset"_qs};
-    controls::Button btnPresetsHelp{u"btnPresetsHelp"_qs, u"?"_qs, QString()};
-    controls::Button btnProcess{u"btnProcess"_qs, u"Process"_qs, u"cGUIcontrols.hLoadImages"_qs};
+        u"btnPresets"_s, u"Presets\u2026"_s, u"cPresetManager.hLoadPreset"_s};
+    controls::Button btnPresetsHelp{u"btnPresetsHelp"_s, u"?"_s, QString()};
+    controls::Button btnProcess{u"btnProcess"_s, u"Process"_s, u"cGUIcontrols.hLoadImages"_s};
 
     controls::PopUpButton pubEditPhoto{
-        u"pubEditPhoto"_qs,
-        {u"Watermark"_qs,
-         u"Tint"_qs,
-         u"Frame"_qs,
-         u"Rounded corners"_qs,
-         u"Colour profile"_qs,
-         u"Cut out faces"_qs,
-         u"Rotate"_qs,
-         u"Filters"_qs,
-         u"Resize"_qs,
-         u"Crop"_qs}};
+        u"pubEditPhoto"_s,
+        {u"Watermark"_s,
+         u"Tint"_s,
+         u"Frame"_s,
+         u"Rounded corners"_s,
+         u"Colour profile"_s,
+         u"Cut out faces"_s,
+         u"Rotate"_s,
+         u"Filters"_s,
+         u"Resize"_s,
+         u"Crop"_s}};
     controls::PopUpButton pubFileManagementSelect{
-        u"pubFileManagementSelect"_qs,
-        {u"Sort photos & files"_qs,
-         u"EXIF and IPTC"_qs,
-         u"Rename files"_qs,
-         u"Convert file type"_qs,
-         u"QR and bar codes"_qs}};
+        u"pubFileManagementSelect"_s,
+        {u"Sort photos & files"_s,
+         u"EXIF and IPTC"_s,
+         u"Rename files"_s,
+         u"Convert file type"_s,
+         u"QR and bar codes"_s}};
 
-    controls::Holder dvVCUiMainPropertySelect{u"dvVCUiMainPropertySelect"_qs};
-    controls::Holder dvVCUiMainPropertyView{u"dvVCUiMainPropertyView"_qs};
-    controls::Holder dvVCUiPreviewPropertyView{u"dvVCUiPreviewPropertyView"_qs};
-    controls::Holder dvVCUiApplyOnPropertyView{u"dvVCUiApplyOnPropertyView"_qs};
-    controls::Holder dvVCUiFileTypePropertyView{u"dvVCUiFileTypePropertyView"_qs};
-    controls::Holder dvVCUiMainDestinationPropertyView{u"dvVCUiMainDestinationPropertyView"_qs};
+    controls::Holder dvVCUiMainPropertySelect{u"dvVCUiMainPropertySelect"_s};
+    controls::Holder dvVCUiMainPropertyView{u"dvVCUiMainPropertyView"_s};
+    controls::Holder dvVCUiPreviewPropertyView{u"dvVCUiPreviewPropertyView"_s};
+    controls::Holder dvVCUiApplyOnPropertyView{u"dvVCUiApplyOnPropertyView"_s};
+    controls::Holder dvVCUiFileTypePropertyView{u"dvVCUiFileTypePropertyView"_s};
+    controls::Holder dvVCUiMainDestinationPropertyView{u"dvVCUiMainDestinationPropertyView"_s};
 
-    controls::ProgressIndicator myProgressBar{u"myProgressBar"_qs};
-    controls::TextField tfImageCount{u"tfImageCount"_qs, u"0"_qs};
-    controls::CheckBox cbPhotoToProcess{u"cbPhotoToProcess"_qs, u"All photos"_qs, 1};
-    controls::ImageView myTemplatePreview{u"myTemplatePreview"_qs};
-    controls::ImageView myTemplateOverlayPreview{u"myTemplateOverlayPreview"_qs};
+    controls::ProgressIndicator myProgressBar{u"myProgressBar"_s};
+    controls::TextField tfImageCount{u"tfImageCount"_s, u"0"_s};
+    controls::CheckBox cbPhotoToProcess{u"cbPhotoToProcess"_s, u"All photos"_s, 1};
+    controls::ImageView myTemplatePreview{u"myTemplatePreview"_s};
+    controls::ImageView myTemplateOverlayPreview{u"myTemplateOverlayPreview"_s};
 
-    controls::Sheet wwAlertWindow{u"wwAlertWindow"_qs};
-    controls::TextField tfHTMLAlertTitle{u"tfHTMLAlertTitle"_qs};
-    controls::TextField tfHTMLAlertInfo{u"tfHTMLAlertInfo"_qs};
+    controls::Sheet wwAlertWindow{u"wwAlertWindow"_s};
+    controls::TextField tfHTMLAlertTitle{u"tfHTMLAlertTitle"_s};
+    controls::TextField tfHTMLAlertInfo{u"tfHTMLAlertInfo"_s};
 
     /// Path of the photo that is printed.
-    controls::TextField tfOriginalPictureStrRef{u"tfOriginalPictureStrRef"_qs};
+    controls::TextField tfOriginalPictureStrRef{u"tfOriginalPictureStrRef"_s};
 
     [[nodiscard]] QList<controls::Control*> all();
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "action_chain.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::presets {
 
 namespace {
@@ -20,7 +22,7 @@ QString withPadding(const QString& row, const QString& padding)
 
 } // namespace
 
-QString noActions() { return u"NO ACTIONS"_qs; }
+QString noActions() { return u"NO ACTIONS"_s; }
 
 QString chainText(const controls::ArrayController& actions)
 {

@@ -3,6 +3,7 @@
 
 #include <files/ns_string_handling.h>
 #include <platform/foundation/exceptions.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
 namespace brenvaldo::presets {
@@ -23,9 +24,9 @@ public:
     [[nodiscard]] const QString& at(qsizetype index) const
     {
         if (index >= m_fields.size())
-            throw platform::RangeError(QStringLiteral("index %1 beyond bounds [0 .. %2]")
-                                           .arg(index)
-                                           .arg(m_fields.size() - 1));
+            throw platform::RangeError(
+                u"index %1 beyond bounds [0 .. %2]"_s.arg(index).arg(m_fields.size() - 1)
+            );
         return m_fields.at(index);
     }
 

@@ -5,6 +5,7 @@
 
 #include <platform/foundation/exceptions.h>
 #include <platform/foundation/folders.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 
@@ -27,7 +28,7 @@ void keepOpen(std::optional<Connection> connection)
 
 using Step = Statement::Step;
 
-QString presetsTable() { return u"Presets"_qs; }
+QString presetsTable() { return u"Presets"_s; }
 
 /// The values of the present row behind `ID`, joined by "|".
 QString rowText(const Statement& statement)
@@ -57,7 +58,7 @@ QStringList completeValues(const PresetRow& row)
     for (const std::optional<QString>& value : row) {
         if (!value)
             throw platform::InvalidArgument(
-                u"The preset has no value for %1."_qs.arg(columns[values.size()])
+                u"The preset has no value for %1."_s.arg(columns[values.size()])
             );
         values.append(*value);
     }
@@ -71,9 +72,9 @@ dbViewController::~dbViewController() { keepOpen(std::move(m_myDb)); }
 QString dbViewController::dbFilePath()
 {
     const QString folder
-        = platform::appendingPathComponent(platform::applicationSupportFolder(), u"DravothCom/"_qs);
+        = platform::appendingPathComponent(platform::applicationSupportFolder(), u"DravothCom/"_s);
     QDir().mkpath(folder);
-    return platform::appendingPathComponent(folder, u"Brenvaldo9.sql"_qs);
+    return platform::appendingPathComponent(folder, u"Brenvaldo9.sql"_s);
 }
 
 bool dbViewController::open()
@@ -86,7 +87,7 @@ bool dbViewController::open()
 void dbViewController::openOrRaise()
 {
     if (!open())
-        throw platform::AssertionFailure(u"Presets Db failed to open."_qs);
+        throw platform::AssertionFailure(u"Presets Db failed to open."_s);
 }
 
 void dbViewController::close() { m_myDb.reset(); }
@@ -99,11 +100,11 @@ void dbViewController::linkToPresetsDB()
         return;
     openmyPresetsDb();
     createTableNamed(presetsTable(), presetColumns());
-    createTableNamed(u"AppBookmarks"_qs, bookmarkColumns());
+    createTableNamed(u"AppBookmarks"_s, bookmarkColumns());
 
-    QStringList seed(columnCount, u""_qs);
-    seed.first() = u"myAppDestBookmark"_qs;
-    insertRecordIntoTableNamed(u"AppBookMarks"_qs, bookmarkColumns(), seed);
+    QStringList seed(columnCount, u""_s);
+    seed.first() = u"myAppDestBookmark"_s;
+    insertRecordIntoTableNamed(u"AppBookMarks"_s, bookmarkColumns(), seed);
     close();
 }
 
@@ -112,7 +113,7 @@ void dbViewController::createTableNamed(const QString& table, const QStringList&
     if (m_myDb && m_myDb->execute(createTableStatement(table, columns)))
         return;
     close();
-    throw platform::AssertionFailure(u"Presets Table failed to create."_qs);
+    throw platform::AssertionFailure(u"Presets Table failed to create."_s);
 }
 
 void dbViewController::insertRecordIntoTableNamed(
@@ -123,7 +124,7 @@ void dbViewController::insertRecordIntoTableNamed(
     if (m_myDb->execute(insertStatement(table, columns, values)))
         return;
     close();
-    throw platform::AssertionFailure(u"Error updating table."_qs);
+    throw platform::AssertionFailure(u"Error updating table."_s);
 }
 
 void dbViewController::insertSortingPresetToDB01(const PresetRow& row)
@@ -153,7 +154,7 @@ std::optional<QString> dbViewController::checkPresetNameFromTableNamed(
     if (!open())
         return m_myPresetExist;
     const QString text
-        = selectStatement(u"*"_qs, table, {{nameColumn, name}, {processColumn, process}});
+        = selectStatement(u"*"_s, table, {{nameColumn, name}, {processColumn, process}});
     if (const auto statement = m_myDb->prepare(text)) {
         while (statement->step() == Step::Row)
             m_myPresetExist = statement->text(1);
@@ -168,8 +169,7 @@ std::optional<QStringList> dbViewController::checkForActionType(
 {
     if (!open())
         return m_myPresetsArrayToPass;
-    if (const auto statement
-        = m_myDb->prepare(selectStatement(u"*"_qs, table, {{column, value}}))) {
+    if (const auto statement = m_myDb->prepare(selectStatement(u"*"_s, table, {{column, value}}))) {
         QStringList rows;
         while (statement->step() == Step::Row)
             rows.append(rowText(*statement));
@@ -186,7 +186,7 @@ dbViewController::getSelectedPreset(const QString& table, const QString& name)
     if (!open())
         return PresetValues();
     std::optional<PresetValues> values;
-    const QString text = selectStatement(u"*"_qs, table, {{u"NameOfPreset"_qs, name}});
+    const QString text = selectStatement(u"*"_s, table, {{u"NameOfPreset"_s, name}});
     if (const auto statement = m_myDb->prepare(text))
         values = valuesOfAllRows(*statement);
     else if (m_myDb->failedByStatement())
@@ -204,9 +204,9 @@ std::optional<QString> dbViewController::removePresetFromDatabase(
     {
         const auto statement = m_myDb->prepare(deleteStatement(table, {column, value}));
         if (!statement)
-            m_myPresetExist = u"preset not found"_qs;
+            m_myPresetExist = u"preset not found"_s;
         else if (statement->step() == Step::Row)
-            m_myPresetExist = u"preset removed"_qs;
+            m_myPresetExist = u"preset removed"_s;
     }
     close();
     return m_myPresetExist;
@@ -216,7 +216,7 @@ void dbViewController::getAllRowsFromTableNamed(const QString& table)
 {
     if (!open())
         return;
-    if (const auto statement = m_myDb->prepare(selectStatement(u"*"_qs, table))) {
+    if (const auto statement = m_myDb->prepare(selectStatement(u"*"_s, table))) {
         while (statement->step() == Step::Row) { }
     }
     close();
@@ -224,11 +224,11 @@ void dbViewController::getAllRowsFromTableNamed(const QString& table)
 
 void dbViewController::SaveImagesToSql(const QByteArray& image, const QString& url)
 {
-    const QString text = u"INSERT INTO IMAGES (URL, IMAGE) VALUES (?, ?)"_qs;
+    const QString text = u"INSERT INTO IMAGES (URL, IMAGE) VALUES (?, ?)"_s;
     const auto statement = m_myDb ? m_myDb->prepare(text) : std::nullopt;
     if (!statement) {
-        platform::log(u"SaveBody: Failed from sqlite3_prepare_v2. Error is:  %1"_qs.arg(
-            m_myDb ? m_myDb->errorMessage() : u"no connection"_qs
+        platform::log(u"SaveBody: Failed from sqlite3_prepare_v2. Error is:  %1"_s.arg(
+            m_myDb ? m_myDb->errorMessage() : u"no connection"_s
         ));
         return;
     }
@@ -239,7 +239,7 @@ void dbViewController::SaveImagesToSql(const QByteArray& image, const QString& u
 
 QByteArray dbViewController::LoadImagesFromSql(const QString& url)
 {
-    const QString text = selectStatement(u"IMAGE"_qs, u"IMAGES"_qs, {{u"URL"_qs, url}});
+    const QString text = selectStatement(u"IMAGE"_s, u"IMAGES"_s, {{u"URL"_s, url}});
     const auto statement = m_myDb ? m_myDb->prepare(text) : std::nullopt;
     return statement && statement->step() == Step::Row ? statement->blob(0) : QByteArray();
 }
@@ -248,7 +248,7 @@ void dbViewController::creatTableIfNotExist() const { }
 
 void dbViewController::hSaveSecurityScopedBookmarks(const QByteArray& bookmark)
 {
-    const QString text = u"insert into Image(Image)values(?)"_qs;
+    const QString text = u"insert into Image(Image)values(?)"_s;
     if (!open())
         return;
     const auto statement = m_myDb->prepare(text);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "default_patterns.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/atomic_file.h>
 
@@ -167,16 +168,16 @@ QByteArray png(const QImage& image)
 std::vector<DefaultPattern> defaultPatterns()
 {
     return {
-        {u"Bricks"_qs, tile(drawBricks)},
-        {u"Checks"_qs, tile(drawChecks)},
-        {u"Diagonals"_qs, tile(drawDiagonals)},
-        {u"Dots"_qs, tile(drawDots)},
-        {u"Lattice"_qs, tile(drawLattice)},
-        {u"Rings"_qs, tile(drawRings)},
-        {u"Scales"_qs, tile(drawScales)},
-        {u"Stars"_qs, tile(drawStars)},
-        {u"Waves"_qs, tile(drawWaves)},
-        {u"Zigzag"_qs, tile(drawZigzag)},
+        {u"Bricks"_s, tile(drawBricks)},
+        {u"Checks"_s, tile(drawChecks)},
+        {u"Diagonals"_s, tile(drawDiagonals)},
+        {u"Dots"_s, tile(drawDots)},
+        {u"Lattice"_s, tile(drawLattice)},
+        {u"Rings"_s, tile(drawRings)},
+        {u"Scales"_s, tile(drawScales)},
+        {u"Stars"_s, tile(drawStars)},
+        {u"Waves"_s, tile(drawWaves)},
+        {u"Zigzag"_s, tile(drawZigzag)},
     };
 }
 
@@ -185,7 +186,7 @@ void makeDefaultPatterns(const QString& folder)
     if (QFileInfo::exists(folder) || !QDir().mkpath(folder))
         return;
     for (const DefaultPattern& pattern : defaultPatterns()) {
-        const QString file = pattern.name + u".png"_qs;
+        const QString file = pattern.name + u".png"_s;
         (void)platform::storage::writeFileAtomically(
             platform::appendingPathComponent(folder, file), png(pattern.tile)
         );

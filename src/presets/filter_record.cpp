@@ -2,6 +2,7 @@
 #include "image_record_parts.h"
 #include "image_records.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
 namespace brenvaldo::presets {
@@ -172,7 +173,7 @@ PresetRecord filterRecord(panels::Panels& panels)
           monochromeFields(filters.vwFiltersMonochromeView),
           singleFilterFields(filters)})
         fields.insert(fields.end(), group.begin(), group.end());
-    PresetRecord record = editRecord(u"filters"_qs, withCommonFields(std::move(fields), panels));
+    PresetRecord record = editRecord(u"filters"_s, withCommonFields(std::move(fields), panels));
     record.before = PresetRecord::Before::ClearSimulation;
     return record;
 }

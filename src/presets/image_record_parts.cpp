@@ -2,6 +2,7 @@
 #include "image_record_parts.h"
 
 #include <imaging/ns_color_handling.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::presets {
 
@@ -20,7 +21,7 @@ PresetRecord editRecord(const QString& process, RecordFields fields)
 {
     return {
         .process = process,
-        .action = u"Edit"_qs,
+        .action = u"Edit"_s,
         .before = PresetRecord::Before::ClearSecondViewAndSimulation,
         .fields = std::move(fields),
     };

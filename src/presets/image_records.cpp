@@ -4,6 +4,7 @@
 #include "image_record_parts.h"
 #include "load_effects.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
 namespace brenvaldo::presets {
@@ -29,7 +30,7 @@ OtherForm tabForm(controls::TabView& tabs)
 OtherForm zeroWhenEmptyForm(controls::TextField& field)
 {
     const auto restore
-        = [&field](const QString& text) { field.setStringValue(text.isEmpty() ? u"0"_qs : text); };
+        = [&field](const QString& text) { field.setStringValue(text.isEmpty() ? u"0"_s : text); };
     return {.stored = [&field] { return field.stringValue(); }, .restore = restore};
 }
 
@@ -63,7 +64,7 @@ PresetRecord tintRecord(panels::Panels& panels)
     auto& orientation = panels.vwApplyOn.pubPhotoOrientation;
     auto& files = panels.vwFileType;
     return editRecord(
-        u"addTint"_qs,
+        u"addTint"_s,
         {
             {3, FolderForm{&destination}},
             {4, TextForm{&tint.tfAddTintHexValue}},
@@ -104,7 +105,7 @@ PresetRecord framingRecord(panels::Panels& panels)
 {
     auto& framing = panels.vwFraming;
     return editRecord(
-        u"framing"_qs,
+        u"framing"_s,
         withCommonFields(
             {
                 {4, TextForm{&framing.tfFramingThickness}},
@@ -166,14 +167,14 @@ PresetRecord roundingsRecord(panels::Panels& panels)
     );
     fields.push_back({14, IndexForm{&roundings.pubRCGradientAngle}});
     fields.push_back({16, TextForm{&roundings.tfRCOpacity}});
-    return editRecord(u"roundings"_qs, std::move(fields));
+    return editRecord(u"roundings"_s, std::move(fields));
 }
 
 PresetRecord profileRecord(panels::Panels& panels)
 {
     auto& profile = panels.vwProfileConversion;
     return editRecord(
-        u"profileConversion"_qs,
+        u"profileConversion"_s,
         withCommonFields(
             {
                 {4, IndexForm{&profile.pubCPCRenderIntent}},
@@ -204,7 +205,7 @@ PresetRecord rotationRecord(panels::Panels& panels)
         panels
     );
     fields.push_back(hexColorField(5, rotation.cwRotationBackgroundColor));
-    return editRecord(u"rotatePhotos"_qs, std::move(fields));
+    return editRecord(u"rotatePhotos"_s, std::move(fields));
 }
 
 PresetRecord resizeRecord(panels::Panels& panels)
@@ -215,7 +216,7 @@ PresetRecord resizeRecord(panels::Panels& panels)
     auto& fixed = resize.dvVCUiScaleFixView;
     auto& maximum = resize.dvVCUiScaleMaxView;
     return editRecord(
-        u"resizePhotos"_qs,
+        u"resizePhotos"_s,
         withCommonFields(
             {
                 {scaleType,
@@ -241,7 +242,7 @@ PresetRecord cropRecord(panels::Panels& panels)
     auto& minus = crop.dvVCUiCropMinusView;
     auto& place = crop.dvVCUiCropPositionView;
     return editRecord(
-        u"cropPhotos"_qs,
+        u"cropPhotos"_s,
         withCommonFields(
             {
                 {cropType,

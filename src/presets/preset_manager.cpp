@@ -3,6 +3,7 @@
 
 #include "action_chain.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 
 namespace brenvaldo::presets {
@@ -19,20 +20,20 @@ cPresetManager::cPresetManager(
 void cPresetManager::registerActions(controls::ActionRegistry& actions)
 {
     const auto add = [&](const QString& name, void (cPresetManager::*action)()) {
-        actions.add(u"cPresetManager"_qs, name, [this, action](const controls::Sender&) {
+        actions.add(u"cPresetManager"_s, name, [this, action](const controls::Sender&) {
             (this->*action)();
         });
     };
-    add(u"hAddPreset"_qs, &cPresetManager::hAddPreset);
-    add(u"hLoadPreset"_qs, &cPresetManager::hLoadPreset);
-    add(u"hRemovePreset"_qs, &cPresetManager::hRemovePreset);
-    add(u"hApplySelectedPreset"_qs, &cPresetManager::hApplySelectedPreset);
-    add(u"closePresetsSheetObjC"_qs, &cPresetManager::closePresetsSheetObjC);
+    add(u"hAddPreset"_s, &cPresetManager::hAddPreset);
+    add(u"hLoadPreset"_s, &cPresetManager::hLoadPreset);
+    add(u"hRemovePreset"_s, &cPresetManager::hRemovePreset);
+    add(u"hApplySelectedPreset"_s, &cPresetManager::hApplySelectedPreset);
+    add(u"closePresetsSheetObjC"_s, &cPresetManager::closePresetsSheetObjC);
 }
 
 void cPresetManager::hAddPreset()
 {
-    platform::log(u"myFunc: "_qs + m_selectedFunction());
+    platform::log(u"myFunc: "_s + m_selectedFunction());
     const PresetRecord* record = m_selectedRecord();
     if (!record)
         return;
@@ -60,9 +61,9 @@ void cPresetManager::hRemovePreset()
     const int row = sheet.myPresetsTableView.selectedRow();
     if (row < 0)
         return;
-    const QString name = sheet.thePresetsData.value(row, u"nmPreset"_qs);
-    const QString process = sheet.thePresetsData.value(row, u"nmProces"_qs);
-    dbViewController().removePresetFromDatabase(u"Presets"_qs, u"NameOfPreset"_qs, name);
+    const QString name = sheet.thePresetsData.value(row, u"nmPreset"_s);
+    const QString process = sheet.thePresetsData.value(row, u"nmProces"_s);
+    dbViewController().removePresetFromDatabase(u"Presets"_s, u"NameOfPreset"_s, name);
     sheet.thePresetsData.removeAllObjects();
     listPresetsOf(process);
 }
@@ -76,10 +77,10 @@ void cPresetManager::hApplySelectedPreset()
     const PresetRecord* record = m_selectedRecord();
     if (!record)
         return;
-    const QString name = sheet.thePresetsData.value(row, u"nmPreset"_qs);
-    const auto values = dbViewController().getSelectedPreset(u"Presets"_qs, name);
+    const QString name = sheet.thePresetsData.value(row, u"nmPreset"_s);
+    const auto values = dbViewController().getSelectedPreset(u"Presets"_s, name);
     if (!values) {
-        platform::log(u"The preset can't be read: "_qs + name);
+        platform::log(u"The preset can't be read: "_s + name);
         return;
     }
     loadValuesFromDB(*record, *values);
@@ -92,9 +93,9 @@ QString cPresetManager::addValuesToDB(const PresetRecord& record)
 {
     const QString name = m_panels.wwPresetsWindow.tfInputPDM.stringValue();
     const std::optional<QString> taken = dbViewController().checkPresetNameFromTableNamed(
-        u"Presets"_qs, u"NameOfPreset"_qs, name, u"Process"_qs, record.process
+        u"Presets"_s, u"NameOfPreset"_s, name, u"Process"_s, record.process
     );
-    const QString stored = taken == name ? name + u"_[x]"_qs : name;
+    const QString stored = taken == name ? name + u"_[x]"_s : name;
     dbViewController().insertSortingPresetToDB01(rowOf(record, stored));
     m_panels.wwPresetsWindow.thePresetsData.removeAllObjects();
     listPresetsOf(record.process);
@@ -116,7 +117,7 @@ void cPresetManager::loadValuesFromDB(const PresetRecord& record, const PresetVa
 
 void cPresetManager::listPresetsOf(const QString& process)
 {
-    hUpdateLoadPresetsTableView(u"Presets"_qs, u"Process"_qs, process);
+    hUpdateLoadPresetsTableView(u"Presets"_s, u"Process"_s, process);
 }
 
 void cPresetManager::hUpdateLoadPresetsTableView(
@@ -126,7 +127,7 @@ void cPresetManager::hUpdateLoadPresetsTableView(
     const auto rows = dbViewController().checkForActionType(table, column, value);
     if (!rows)
         return;
-    const QString separator = u"|"_qs;
+    const QString separator = u"|"_s;
     for (const QString& row : *rows) {
         const QStringList items = row.split(separator);
         const QString head = items.value(0) + separator + items.value(1);

@@ -3,6 +3,7 @@
 
 #include "preset_statements.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
 namespace brenvaldo::presets {
@@ -25,7 +26,7 @@ std::optional<QString>& valueAt(PresetRow& row, int position)
 PresetRow rowOf(const PresetRecord& record, const QString& name)
 {
     PresetRow row;
-    row.fill(u""_qs);
+    row.fill(u""_s);
     row[0] = name;
     row[1] = record.process;
     row[2] = record.action;

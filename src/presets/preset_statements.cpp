@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preset_statements.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::presets {
 
 namespace {
@@ -12,7 +14,7 @@ QString declaredType(qsizetype position)
     constexpr qsizetype lastInteger = 41;
 
     const bool isInteger = position >= firstInteger && position <= lastInteger;
-    return isInteger ? u"Integer"_qs : u"Text"_qs;
+    return isInteger ? u"Integer"_s : u"Text"_s;
 }
 
 /// 'a','b', 'c','d': one blank, behind the second comma.
@@ -21,7 +23,7 @@ QString quotedList(const QStringList& texts)
     QString list;
     for (qsizetype index = 0; index < texts.size(); ++index) {
         if (index > 0)
-            list += index == 2 ? u", "_qs : u","_qs;
+            list += index == 2 ? u", "_s : u","_s;
         list += QLatin1Char('\'') + texts[index] + QLatin1Char('\'');
     }
     return list;
@@ -29,7 +31,7 @@ QString quotedList(const QStringList& texts)
 
 QString comparison(const Condition& condition)
 {
-    return condition.column + u" = '"_qs + condition.value + QLatin1Char('\'');
+    return condition.column + u" = '"_s + condition.value + QLatin1Char('\'');
 }
 
 QStringList columnsWithHead(QStringList head)
@@ -43,28 +45,28 @@ QStringList columnsWithHead(QStringList head)
 
 QStringList presetColumns()
 {
-    return columnsWithHead({u"NameOfPreset"_qs, u"Process"_qs, u"Action"_qs});
+    return columnsWithHead({u"NameOfPreset"_s, u"Process"_s, u"Action"_s});
 }
 
 QStringList bookmarkColumns() { return columnsWithHead({}); }
 
-QString fieldName(int position) { return u"StrField%1"_qs.arg(position); }
+QString fieldName(int position) { return u"StrField%1"_s.arg(position); }
 
 QString createTableStatement(const QString& table, const QStringList& columns)
 {
-    QStringList declarations = {u"ID INTEGER PRIMARY KEY AUTOINCREMENT"_qs};
+    QStringList declarations = {u"ID INTEGER PRIMARY KEY AUTOINCREMENT"_s};
     for (qsizetype position = 0; position < columns.size(); ++position)
         declarations.append(
-            QLatin1Char('\'') + columns[position] + u"' "_qs + declaredType(position)
+            QLatin1Char('\'') + columns[position] + u"' "_s + declaredType(position)
         );
-    return u"Create table if not exists '"_qs + table + u"' ("_qs + declarations.join(u", "_qs)
-        + u");"_qs;
+    return u"Create table if not exists '"_s + table + u"' ("_s + declarations.join(u", "_s)
+        + u");"_s;
 }
 
 QString insertStatement(const QString& table, const QStringList& columns, const QStringList& values)
 {
-    return u"Insert or replace into '"_qs + table + u"' ("_qs + quotedList(columns) + u") "_qs
-        + u"values ("_qs + quotedList(values) + u")"_qs;
+    return u"Insert or replace into '"_s + table + u"' ("_s + quotedList(columns) + u") "_s
+        + u"values ("_s + quotedList(values) + u")"_s;
 }
 
 QString
@@ -73,15 +75,15 @@ selectStatement(const QString& what, const QString& table, const QList<Condition
     QStringList comparisons;
     for (const Condition& condition : conditions)
         comparisons.append(comparison(condition));
-    const QString select = u"SELECT "_qs + what + u" FROM "_qs + table;
+    const QString select = u"SELECT "_s + what + u" FROM "_s + table;
     if (comparisons.isEmpty())
         return select;
-    return select + u" WHERE "_qs + comparisons.join(u" AND "_qs);
+    return select + u" WHERE "_s + comparisons.join(u" AND "_s);
 }
 
 QString deleteStatement(const QString& table, const Condition& condition)
 {
-    return u"DELETE FROM "_qs + table + u" WHERE "_qs + comparison(condition);
+    return u"DELETE FROM "_s + table + u" WHERE "_s + comparison(condition);
 }
 
 } // namespace brenvaldo::presets

@@ -5,6 +5,7 @@
 #include "default_patterns.h"
 
 #include <files/file_handling.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 
@@ -12,7 +13,7 @@ namespace brenvaldo::presets {
 
 namespace {
 
-QString supportFilesKey() { return u"SupportFilesDestination"_qs; }
+QString supportFilesKey() { return u"SupportFilesDestination"_s; }
 
 controls::OpenPanel folderPanel(const QString& message)
 {
@@ -42,15 +43,15 @@ cSheetControl::cSheetControl(
 void cSheetControl::registerActions(controls::ActionRegistry& actions)
 {
     const auto add = [&](const QString& name, void (cSheetControl::*action)()) {
-        actions.add(u"cSheetControl"_qs, name, [this, action](const controls::Sender&) {
+        actions.add(u"cSheetControl"_s, name, [this, action](const controls::Sender&) {
             (this->*action)();
         });
     };
-    add(u"hCallPreferencesWw"_qs, &cSheetControl::hCallPreferencesWw);
-    add(u"closePreferencesSheetObjC"_qs, &cSheetControl::closePreferencesSheetObjC);
-    add(u"hCallAlertSheet"_qs, &cSheetControl::hCallAlertSheet);
-    add(u"closeAlertSheet"_qs, &cSheetControl::closeAlertSheet);
-    add(u"chooseLibraryDestination"_qs, &cSheetControl::chooseLibraryDestination);
+    add(u"hCallPreferencesWw"_s, &cSheetControl::hCallPreferencesWw);
+    add(u"closePreferencesSheetObjC"_s, &cSheetControl::closePreferencesSheetObjC);
+    add(u"hCallAlertSheet"_s, &cSheetControl::hCallAlertSheet);
+    add(u"closeAlertSheet"_s, &cSheetControl::closeAlertSheet);
+    add(u"chooseLibraryDestination"_s, &cSheetControl::chooseLibraryDestination);
 }
 
 void cSheetControl::hCallPreferencesWw()
@@ -60,7 +61,7 @@ void cSheetControl::hCallPreferencesWw()
         const auto url = DVbookmarks().urlForBookmark(bookmark->toByteArray());
         preferences.tfLibraryFilePath.setStringValue(
             url ? url->toLocalFile()
-                : u"Oh! Your previous defined folder has gone!?\rSelect a new location please."_qs
+                : u"Oh! Your previous defined folder has gone!?\rSelect a new location please."_s
         );
     }
     preferences.sheet.open();
@@ -70,8 +71,8 @@ void cSheetControl::closePreferencesSheetObjC() { m_panels.wwPreferencesWindow.s
 
 void cSheetControl::hCallAlertSheet()
 {
-    m_hAlertWindow(u"Dju!"_qs, u"'t is gelukt! Hoera!"_qs);
-    platform::log(u"hCallAlertSheet"_qs);
+    m_hAlertWindow(u"Dju!"_s, u"'t is gelukt! Hoera!"_s);
+    platform::log(u"hCallAlertSheet"_s);
 }
 
 void cSheetControl::closeAlertSheet() { m_panels.window.wwAlertWindow.close(); }
@@ -86,7 +87,7 @@ void cSheetControl::chooseLibraryDestination()
 void cSheetControl::setLibraryDestination()
 {
     const auto answer
-        = m_chooser.open(folderPanel(u"*** FIRST: Choose a root support folder please: ***"_qs));
+        = m_chooser.open(folderPanel(u"*** FIRST: Choose a root support folder please: ***"_s));
     if (answer && !answer->isEmpty())
         setUp(answer->last(), Patterns::Default);
 }
@@ -99,23 +100,23 @@ void cSheetControl::setUp(const QString& folder, Patterns patterns)
         remember(supportFilesKey(), *bookmark);
 
     const QString root
-        = platform::appendingPathComponent(url.toLocalFile(), u"Dravoth_SupportFiles"_qs);
+        = platform::appendingPathComponent(url.toLocalFile(), u"Dravoth_SupportFiles"_s);
     files::cNSFileHandling::hCreateDirectory(root);
 
-    const QString patternFolder = root + u"/Patterns"_qs;
-    remember(u"PatternsDestination"_qs, patternFolder);
+    const QString patternFolder = root + u"/Patterns"_s;
+    remember(u"PatternsDestination"_s, patternFolder);
     if (patterns == Patterns::Default)
         makeDefaultPatterns(patternFolder);
     else
         files::cNSFileHandling::hCreateDirectory(patternFolder);
 
-    const QString watermarks = root + u"/Watermarks"_qs;
+    const QString watermarks = root + u"/Watermarks"_s;
     files::cNSFileHandling::hCreateDirectory(watermarks);
-    remember(u"WatermarksDestination"_qs, watermarks);
+    remember(u"WatermarksDestination"_s, watermarks);
 
-    const QString actions = root + u"/C-Actions"_qs;
+    const QString actions = root + u"/C-Actions"_s;
     files::cNSFileHandling::hCreateDirectory(actions);
-    remember(u"CActionsDestination"_qs, actions);
+    remember(u"CActionsDestination"_s, actions);
 }
 
 void cSheetControl::remember(const QString& key, const QVariant& value)

@@ -5,6 +5,7 @@
 
 #include <platform/archives/color_archive.h>
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
 #include <QFileInfo>
@@ -38,7 +39,7 @@ void restoreColor(controls::ColorWell& well, const QString& archive)
 std::optional<QString> bookmarkOf(const QString& path)
 {
     if (path.isEmpty())
-        return u""_qs;
+        return u""_s;
     const QUrl url = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
     const auto bookmark = DVbookmarks().bookmarkForURL(url);
     if (!bookmark)

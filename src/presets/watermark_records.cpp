@@ -4,6 +4,8 @@
 #include "action_chain.h"
 #include "load_effects.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::presets {
 
 namespace {
@@ -15,7 +17,7 @@ OtherForm actionChainForm(controls::ArrayController& actions)
         .stored =
             [&actions] {
                 const QString chain = chainText(actions);
-                return chain == noActions() ? u""_qs : chain;
+                return chain == noActions() ? u""_s : chain;
             },
         .restore =
             [&actions](const QString& chain) {
@@ -34,8 +36,8 @@ PresetRecord textWatermarkRecord(panels::Panels& panels)
     auto& text = panels.vwWatermark;
     auto& files = panels.vwFileType;
     return {
-        .process = u"TextWM"_qs,
-        .action = u"Watermark"_qs,
+        .process = u"TextWM"_s,
+        .action = u"Watermark"_s,
         .before = PresetRecord::Before::ClearSecondViewAndSimulation,
         .fields = {
             {3, FolderForm{&panels.vwMainDestination.tfImageDestinationFolder}},
@@ -87,8 +89,8 @@ PresetRecord imageWatermarkRecord(panels::Panels& panels)
     auto& image = panels.vwWatermark;
     auto& files = panels.vwFileType;
     return {
-        .process = u"ImageWM"_qs,
-        .action = u"Watermark"_qs,
+        .process = u"ImageWM"_s,
+        .action = u"Watermark"_s,
         .before = PresetRecord::Before::ClearSecondViewAndSimulation,
         .fields = {
             {3, FolderForm{&panels.vwMainDestination.tfImageDestinationFolder}},

@@ -2,14 +2,13 @@
 #include "command_table.h"
 #include "control_values.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::script {
 
 namespace {
 
-QString unknownControl(const QString& name)
-{
-    return QStringLiteral("unknown control \"%1\"").arg(name);
-}
+QString unknownControl(const QString& name) { return u"unknown control \"%1\""_s.arg(name); }
 
 class SetCommand : public Command
 {
@@ -36,7 +35,7 @@ public:
             const controls::Control* control = workspace().panels().control(name);
             if (!control)
                 return unknownControl(name);
-            print(QStringLiteral("value"), QStringList{name} + valueFields(*control));
+            print(u"value"_s, QStringList{name} + valueFields(*control));
         }
         return std::nullopt;
     }
@@ -54,10 +53,10 @@ public:
             if (!state)
                 return unknownControl(name);
             print(
-                QStringLiteral("state"),
+                u"state"_s,
                 {name,
-                 state->isEnabled ? QStringLiteral("enabled") : QStringLiteral("disabled"),
-                 state->isShown ? QStringLiteral("shown") : QStringLiteral("hidden")}
+                 state->isEnabled ? u"enabled"_s : u"disabled"_s,
+                 state->isShown ? u"shown"_s : u"hidden"_s}
             );
         }
         return std::nullopt;
@@ -88,18 +87,18 @@ private:
 void addControlCommands(CommandTable& table, const ScriptContext& context)
 {
     table.add(
-        QStringLiteral("set"),
-        {.usage = QStringLiteral("NAME VALUE"), .least = 2, .most = 2},
+        u"set"_s,
+        {.usage = u"NAME VALUE"_s, .least = 2, .most = 2},
         std::make_unique<SetCommand>(context)
     );
     table.add(
-        QStringLiteral("show"),
-        {.usage = QStringLiteral("NAME..."), .least = 1, .most = CommandTable::Words::unlimited},
+        u"show"_s,
+        {.usage = u"NAME..."_s, .least = 1, .most = CommandTable::Words::unlimited},
         std::make_unique<ShowCommand>(context)
     );
     table.add(
-        QStringLiteral("state"),
-        {.usage = QStringLiteral("NAME..."), .least = 1, .most = CommandTable::Words::unlimited},
+        u"state"_s,
+        {.usage = u"NAME..."_s, .least = 1, .most = CommandTable::Words::unlimited},
         std::make_unique<StateCommand>(context)
     );
 }

@@ -4,6 +4,7 @@
 #include "arguments.h"
 
 #include <controls/image_view.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
 #include <QRegularExpression>
@@ -16,7 +17,7 @@ namespace {
 
 QString refusal(const QString& word, const controls::Control& control)
 {
-    return QStringLiteral("\"%1\" is no value of %2").arg(word, control.name());
+    return u"\"%1\" is no value of %2"_s.arg(word, control.name());
 }
 
 QStringList labels(const controls::TabView& tabs)
@@ -29,7 +30,7 @@ QStringList labels(const controls::TabView& tabs)
 
 std::optional<platform::graphics::Color> colorNamedBy(const QString& word)
 {
-    static const QRegularExpression sixHexDigits(QStringLiteral("\\A[0-9A-Fa-f]{6}\\z"));
+    static const QRegularExpression sixHexDigits(u"\\A[0-9A-Fa-f]{6}\\z"_s);
     if (!sixHexDigits.match(word).hasMatch())
         return std::nullopt;
     const auto component
@@ -43,7 +44,7 @@ QString nameOf(const platform::graphics::Color& color)
     QString name;
     for (const double component : {color.red, color.green, color.blue}) {
         const auto level = std::lround(component * 255);
-        name += QStringLiteral("%1").arg(level, 2, 16, QLatin1Char('0')).toUpper();
+        name += u"%1"_s.arg(level, 2, 16, QLatin1Char('0')).toUpper();
     }
     return name;
 }
@@ -169,7 +170,7 @@ struct ValueReader
     }
     QStringList operator()(const controls::ImageView& view) const
     {
-        return {view.image() ? QStringLiteral("image") : QString()};
+        return {view.image() ? u"image"_s : QString()};
     }
     QStringList operator()(const controls::Button& button) const { return {button.image()}; }
     QStringList operator()(const controls::Holder& holder) const
@@ -178,7 +179,7 @@ struct ValueReader
     }
     QStringList operator()(const controls::Sheet& sheet) const
     {
-        return {sheet.isOpen() ? QStringLiteral("opened") : QStringLiteral("closed")};
+        return {sheet.isOpen() ? u"opened"_s : u"closed"_s};
     }
 };
 
@@ -199,7 +200,7 @@ giveValue(controls::Control& control, const QString& word, const controls::UserI
         Slider>(
         control,
         ValueGiver{word, user},
-        Misunderstanding(QStringLiteral("%1 takes no value").arg(control.name()))
+        Misunderstanding(u"%1 takes no value"_s.arg(control.name()))
     );
 }
 

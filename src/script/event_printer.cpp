@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "event_printer.h"
 
+#include <platform/foundation/literals.h>
+
 #include <ostream>
 
 namespace brenvaldo::script {
@@ -9,10 +11,10 @@ namespace {
 
 QString escaped(QString field)
 {
-    field.replace(u'\\', u"\\\\"_qs);
-    field.replace(u'\t', u"\\t"_qs);
-    field.replace(u'\n', u"\\n"_qs);
-    field.replace(u'\r', u"\\r"_qs);
+    field.replace(u'\\', u"\\\\"_s);
+    field.replace(u'\t', u"\\t"_s);
+    field.replace(u'\n', u"\\n"_s);
+    field.replace(u'\r', u"\\r"_s);
     return field;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "event_watcher.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::script {
 
 EventWatcher::EventWatcher(workspace::Workspace& workspace, const EventPrinter& printer)
@@ -9,13 +11,13 @@ EventWatcher::EventWatcher(workspace::Workspace& workspace, const EventPrinter& 
 {
     m_subscriptions.push_back(
         workspace.alertShown.connect([this](const QString& title, const QString& text) {
-            m_printer.print(QStringLiteral("alert"), {title, text});
+            m_printer.print(u"alert"_s, {title, text});
         })
     );
     m_subscriptions.push_back(
         workspace.journal().recorded.connect([this](const workspace::RunRecord& record) {
             if (!record.source.isEmpty())
-                m_printer.print(QStringLiteral("result"), {record.source, text(record.word)});
+                m_printer.print(u"result"_s, {record.source, text(record.word)});
         })
     );
     m_subscriptions.push_back(workspace.actions().exceptionRaised.connect(
@@ -29,7 +31,7 @@ EventWatcher::EventWatcher(workspace::Workspace& workspace, const EventPrinter& 
 
 void EventWatcher::report(const platform::Exception& exception) const
 {
-    m_printer.print(QStringLiteral("exception"), {exception.kind(), exception.reason()});
+    m_printer.print(u"exception"_s, {exception.kind(), exception.reason()});
 }
 
 void EventWatcher::watch(const controls::Sheet& sheet)
@@ -46,13 +48,13 @@ void EventWatcher::reportChange(const controls::Sheet& sheet)
         return;
     if (wasOpen) {
         m_openSheets.erase(&sheet);
-        m_printer.print(QStringLiteral("sheet"), {sheet.name(), QStringLiteral("closed")});
+        m_printer.print(u"sheet"_s, {sheet.name(), u"closed"_s});
         return;
     }
     m_openSheets.insert(&sheet);
     // The opening of the alert window is told by the alert itself.
     if (&sheet != &m_alertWindow)
-        m_printer.print(QStringLiteral("sheet"), {sheet.name(), QStringLiteral("opened")});
+        m_printer.print(u"sheet"_s, {sheet.name(), u"opened"_s});
 }
 
 } // namespace brenvaldo::script

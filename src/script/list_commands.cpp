@@ -2,11 +2,13 @@
 #include "arguments.h"
 #include "command_table.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::script {
 
 namespace {
 
-QString noPhoto(const QString& word) { return QStringLiteral("no photo at index %1").arg(word); }
+QString noPhoto(const QString& word) { return u"no photo at index %1"_s.arg(word); }
 
 class OpenCommand : public Command
 {
@@ -55,12 +57,10 @@ public:
             return noPhoto(arguments.at(0));
         const auto tick = flag(arguments.at(1));
         if (!tick)
-            return QStringLiteral("a tick is 0 or 1, not \"%1\"").arg(arguments.at(1));
+            return u"a tick is 0 or 1, not \"%1\""_s.arg(arguments.at(1));
 
         photos.setTick(*index, *tick);
-        workspace().actions().send(
-            QStringLiteral("cCollectionViewController.cbPhotoToProcessClicked")
-        );
+        workspace().actions().send(u"cCollectionViewController.cbPhotoToProcessClicked"_s);
         return std::nullopt;
     }
 };
@@ -75,7 +75,7 @@ public:
         int index = 0;
         for (const workspace::cCollectionViewItem& entry : workspace().photos().entries()) {
             print(
-                QStringLiteral("photo"),
+                u"photo"_s,
                 {QString::number(index++),
                  QString::number(entry.myPhotoSelect),
                  QString::number(entry.myRenameSelect),
@@ -95,21 +95,21 @@ public:
 void addListCommands(CommandTable& table, const ScriptContext& context)
 {
     table.add(
-        QStringLiteral("open"),
-        {.usage = QStringLiteral("PATH..."), .least = 1, .most = CommandTable::Words::unlimited},
+        u"open"_s,
+        {.usage = u"PATH..."_s, .least = 1, .most = CommandTable::Words::unlimited},
         std::make_unique<OpenCommand>(context)
     );
     table.add(
-        QStringLiteral("select"),
-        {.usage = QStringLiteral("INDEX or select none"), .least = 1, .most = 1},
+        u"select"_s,
+        {.usage = u"INDEX or select none"_s, .least = 1, .most = 1},
         std::make_unique<SelectCommand>(context)
     );
     table.add(
-        QStringLiteral("tick"),
-        {.usage = QStringLiteral("INDEX 0/1"), .least = 2, .most = 2},
+        u"tick"_s,
+        {.usage = u"INDEX 0/1"_s, .least = 2, .most = 2},
         std::make_unique<TickCommand>(context)
     );
-    table.add(QStringLiteral("photos"), {}, std::make_unique<PhotosCommand>(context));
+    table.add(u"photos"_s, {}, std::make_unique<PhotosCommand>(context));
 }
 
 } // namespace brenvaldo::script

@@ -3,6 +3,7 @@
 #include "command_table.h"
 
 #include <platform/codecs/image_destination.h>
+#include <platform/foundation/literals.h>
 #include <platform/storage/atomic_file.h>
 
 namespace brenvaldo::script {
@@ -36,11 +37,8 @@ public:
         const QString path = absolutePath(arguments.first());
         const bool isWritten = picture && writePng(*picture, path);
         if (picture && !isWritten && canBeDrawn(*picture))
-            return QStringLiteral("the preview can't be written to \"%1\"").arg(path);
-        print(
-            QStringLiteral("preview"),
-            {isWritten ? QStringLiteral("shown") : QStringLiteral("empty")}
-        );
+            return u"the preview can't be written to \"%1\""_s.arg(path);
+        print(u"preview"_s, {isWritten ? u"shown"_s : u"empty"_s});
         return std::nullopt;
     }
 };
@@ -50,8 +48,8 @@ public:
 void addPreviewCommand(CommandTable& table, const ScriptContext& context)
 {
     table.add(
-        QStringLiteral("preview"),
-        {.usage = QStringLiteral("FILE"), .least = 1, .most = 1},
+        u"preview"_s,
+        {.usage = u"FILE"_s, .least = 1, .most = 1},
         std::make_unique<PreviewCommand>(context)
     );
 }

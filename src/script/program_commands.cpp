@@ -2,6 +2,8 @@
 #include "arguments.h"
 #include "command_table.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::script {
 
 namespace {
@@ -16,12 +18,12 @@ public:
         const QString& action = arguments.first();
         const auto tag = tagIn(arguments.mid(1));
         if (!tag)
-            return QStringLiteral("\"%1\" is no tag").arg(arguments.last());
+            return u"\"%1\" is no tag"_s.arg(arguments.last());
         switch (workspace().actions().send(action, {.tag = *tag})) {
         case controls::ActionRegistry::Sent::Unknown:
-            return QStringLiteral("unknown action \"%1\"").arg(action);
+            return u"unknown action \"%1\""_s.arg(action);
         case controls::ActionRegistry::Sent::Ambiguous:
-            return QStringLiteral("more than one class has the action \"%1\"").arg(action);
+            return u"more than one class has the action \"%1\""_s.arg(action);
         case controls::ActionRegistry::Sent::Done:
         case controls::ActionRegistry::Sent::Raised:
             break;
@@ -34,7 +36,7 @@ private:
     {
         if (words.isEmpty())
             return 0;
-        const QString prefix = QStringLiteral("tag=");
+        const QString prefix = u"tag="_s;
         bool isNumber = false;
         const int tag = words.first().mid(prefix.size()).toInt(&isNumber);
         if (!isNumber || !words.first().startsWith(prefix))
@@ -50,7 +52,7 @@ public:
 
     [[nodiscard]] Misunderstanding run(const QStringList& arguments) const override
     {
-        if (arguments == QStringList{QStringLiteral("cancel")}) {
+        if (arguments == QStringList{u"cancel"_s}) {
             chooser().queueCancel();
             return std::nullopt;
         }
@@ -73,7 +75,7 @@ public:
         if (arguments.size() > 1)
             defaults().set(key, arguments.at(1));
         else
-            print(QStringLiteral("default"), {key, defaults().text(key)});
+            print(u"default"_s, {key, defaults().text(key)});
         return std::nullopt;
     }
 };
@@ -83,20 +85,20 @@ public:
 void addProgramCommands(CommandTable& table, const ScriptContext& context)
 {
     table.add(
-        QStringLiteral("press"),
-        {.usage = QStringLiteral("ACTION [tag=N]"), .least = 1, .most = 2},
+        u"press"_s,
+        {.usage = u"ACTION [tag=N]"_s, .least = 1, .most = 2},
         std::make_unique<PressCommand>(context)
     );
     table.add(
-        QStringLiteral("answer"),
-        {.usage = QStringLiteral("PATH... or answer cancel"),
+        u"answer"_s,
+        {.usage = u"PATH... or answer cancel"_s,
          .least = 1,
          .most = CommandTable::Words::unlimited},
         std::make_unique<AnswerCommand>(context)
     );
     table.add(
-        QStringLiteral("defaults"),
-        {.usage = QStringLiteral("KEY [VALUE]"), .least = 1, .most = 2},
+        u"defaults"_s,
+        {.usage = u"KEY [VALUE]"_s, .least = 1, .most = 2},
         std::make_unique<DefaultsCommand>(context)
     );
 }

@@ -4,6 +4,7 @@
 #include "words.h"
 
 #include <platform/foundation/handled_exception.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/run_loop.h>
 
@@ -70,7 +71,7 @@ Misunderstanding ScriptProgram::carryOut(QByteArrayView line)
         return misunderstanding;
     } catch (...) {
         const platform::Exception exception = platform::handledException();
-        platform::log(found.words.first() + QStringLiteral(": ") + exception.reason());
+        platform::log(found.words.first() + u": "_s + exception.reason());
         m_watcher.report(exception);
         return std::nullopt;
     }
@@ -82,7 +83,7 @@ int runScripts(const QStringList& files, const Streams& streams)
     const auto run = [&](std::istream& script) {
         const auto fault = program.run(script);
         if (fault) {
-            const QString text = QStringLiteral("line %1: %2").arg(fault->line).arg(fault->reason);
+            const QString text = u"line %1: %2"_s.arg(fault->line).arg(fault->reason);
             streams.errors << text.toStdString() << std::endl;
         }
         return fault ? notUnderstood : understood;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "scripted_file_chooser.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QFileInfo>
 
 namespace brenvaldo::script {
@@ -32,14 +34,14 @@ void ScriptedFileChooser::queueCancel() { m_answers.append(std::nullopt); }
 std::optional<QStringList> ScriptedFileChooser::open(const controls::OpenPanel& panel)
 {
     const Answer answer = choosable(nextAnswer(), panel);
-    report(QStringLiteral("open"), panel.message, answer);
+    report(u"open"_s, panel.message, answer);
     return answer;
 }
 
 std::optional<QString> ScriptedFileChooser::save(const controls::SavePanel& panel)
 {
     const Answer answer = nextAnswer();
-    report(QStringLiteral("save"), panel.message, answer);
+    report(u"save"_s, panel.message, answer);
     if (!answer)
         return std::nullopt;
     return answer->value(0);
@@ -64,8 +66,8 @@ ScriptedFileChooser::choosable(const Answer& answer, const controls::OpenPanel& 
 void ScriptedFileChooser::report(const QString& kind, const QString& message, const Answer& answer)
     const
 {
-    const QString text = answer ? answer->join(u' ') : QStringLiteral("cancel");
-    m_printer.print(QStringLiteral("panel"), {kind, message, text});
+    const QString text = answer ? answer->join(u' ') : u"cancel"_s;
+    m_printer.print(u"panel"_s, {kind, message, text});
 }
 
 } // namespace brenvaldo::script

@@ -3,15 +3,13 @@
 #include "command_table.h"
 
 #include <controls/user_input.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::script {
 
 namespace {
 
-QString unknownTable(const QString& name)
-{
-    return QStringLiteral("unknown table \"%1\"").arg(name);
-}
+QString unknownTable(const QString& name) { return u"unknown table \"%1\""_s.arg(name); }
 
 class RowCommand : public Command
 {
@@ -27,7 +25,7 @@ public:
         const auto row
             = arguments.at(1) == u"-1" ? std::optional(-1) : indexBelow(count, arguments.at(1));
         if (!row)
-            return QStringLiteral("%1 has no row %2").arg(arguments.at(0), arguments.at(1));
+            return u"%1 has no row %2"_s.arg(arguments.at(0), arguments.at(1));
         controls::UserInput(workspace().actions()).select(*table, *row);
         return std::nullopt;
     }
@@ -63,7 +61,7 @@ public:
             return unknownTable(arguments.first());
         int index = 0;
         for (const QStringList& row : rows->arrangedObjects())
-            print(QStringLiteral("row"), QStringList{QString::number(index++)} + row);
+            print(u"row"_s, QStringList{QString::number(index++)} + row);
         return std::nullopt;
     }
 };
@@ -73,13 +71,13 @@ public:
 void addTableCommands(CommandTable& table, const ScriptContext& context)
 {
     table.add(
-        QStringLiteral("row"),
-        {.usage = QStringLiteral("TABLE INDEX"), .least = 2, .most = 2},
+        u"row"_s,
+        {.usage = u"TABLE INDEX"_s, .least = 2, .most = 2},
         std::make_unique<RowCommand>(context)
     );
     table.add(
-        QStringLiteral("rows"),
-        {.usage = QStringLiteral("TABLE"), .least = 1, .most = 1},
+        u"rows"_s,
+        {.usage = u"TABLE"_s, .least = 1, .most = 1},
         std::make_unique<RowsCommand>(context)
     );
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "words.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QStringDecoder>
 
 #include <optional>
@@ -79,12 +81,12 @@ private:
             word.append(character == backslash ? escape() : character);
         }
         if (m_rest.isEmpty()) {
-            fail(QStringLiteral("a quote is not closed"));
+            fail(u"a quote is not closed"_s);
             return word;
         }
         take();
         if (!m_rest.isEmpty() && !isBlank(m_rest.front()))
-            fail(QStringLiteral("a blank is missing after a quoted word"));
+            fail(u"a blank is missing after a quoted word"_s);
         return word;
     }
 
@@ -95,7 +97,7 @@ private:
         const QChar letter = take();
         const auto character = escapedCharacter(letter);
         if (!character)
-            fail(QStringLiteral("unknown escape \\%1").arg(letter));
+            fail(u"unknown escape \\%1"_s.arg(letter));
         return character.value_or(letter);
     }
 
@@ -124,7 +126,7 @@ Words wordsOfLine(QByteArrayView line)
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder(line);
     if (decoder.hasError())
-        return {.fault = QStringLiteral("the line is not UTF-8")};
+        return {.fault = u"the line is not UTF-8"_s};
     return WordScanner(text).scan();
 }
 

@@ -5,6 +5,8 @@
 #include "muted_label.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
@@ -27,7 +29,7 @@ AboutBox::AboutBox(QWidget* parent)
     : QDialog(parent)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setObjectName(u"aboutBox"_qs);
+    setObjectName(u"aboutBox"_s);
     setWindowTitle(tr("About Brenvaldo"));
     setAccessibleName(windowTitle());
     setWindowModality(Qt::WindowModal);

@@ -7,6 +7,8 @@
 #include "subscriptions.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -26,14 +28,14 @@ public:
         : QWidget(parent)
     {
         setFixedSize(36, 36);
-        setObjectName(QStringLiteral("alertMark"));
+        setObjectName(u"alertMark"_s);
     }
 
 protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
-        paintIcon(painter, QStringLiteral("alert"), rect(), colours().accent);
+        paintIcon(painter, u"alert"_s, rect(), colours().accent);
     }
 };
 
@@ -85,7 +87,7 @@ AlertSheet::AlertSheet(
     grid->addWidget(title, 0, 1);
     grid->addWidget(shownText(window.tfHTMLAlertInfo, this), 1, 1);
     auto* close = new QPushButton(tr("&OK"), this);
-    close->setObjectName(QStringLiteral("closeAlert"));
+    close->setObjectName(u"closeAlert"_s);
     close->setAccessibleName(tr("OK"));
     close->setDefault(true);
     close->setMinimumWidth(96);
@@ -106,6 +108,6 @@ void AlertSheet::follow()
         done(QDialog::Accepted);
 }
 
-void AlertSheet::reject() { m_actions.send(u"cGUIcontrols.closeApplicationAlertSheetObjC"_qs); }
+void AlertSheet::reject() { m_actions.send(u"cGUIcontrols.closeApplicationAlertSheetObjC"_s); }
 
 } // namespace brenvaldo::views

@@ -3,6 +3,8 @@
 
 #include "icons.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QHash>
 #include <QPushButton>
 
@@ -14,8 +16,8 @@ namespace {
 const QHash<QString, QString>& drawings()
 {
     static const QHash<QString, QString> drawings{
-        {QStringLiteral("btnShowDestination"), QStringLiteral("reveal")},
-        {QStringLiteral("btnPresetsHelp"), QStringLiteral("help")},
+        {u"btnShowDestination"_s, u"reveal"_s},
+        {u"btnPresetsHelp"_s, u"help"_s},
     };
     return drawings;
 }

@@ -6,6 +6,8 @@
 #include "theme.h"
 #include "unit_field.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QAbstractButton>
 #include <QGridLayout>
 #include <QLabel>
@@ -98,9 +100,9 @@ QWidget* ColourPanel::hexRow()
     auto* label = new QLabel(tr("&Hex"), row);
     label->setBuddy(m_hex);
     m_hex->setAccessibleName(tr("Colour as six hexadecimal digits"));
-    m_hex->setValidator(new QRegularExpressionValidator(
-        QRegularExpression(QStringLiteral("[0-9A-Fa-f]{0,6}")), m_hex
-    ));
+    m_hex->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(u"[0-9A-Fa-f]{0,6}"_s), m_hex)
+    );
     line->addWidget(label);
     line->addWidget(m_hex, 1);
     return row;

@@ -3,6 +3,8 @@
 
 #include "icons.h"
 
+#include <platform/foundation/literals.h>
+
 #include <array>
 
 namespace brenvaldo::views {
@@ -167,7 +169,7 @@ QString toolTipOf(const QAction& command)
 {
     const QString text = command.text().remove(QLatin1Char('&'));
     const QString keys = command.shortcut().toString(QKeySequence::NativeText);
-    return keys.isEmpty() ? text : QStringLiteral("%1 (%2)").arg(text, keys);
+    return keys.isEmpty() ? text : u"%1 (%2)"_s.arg(text, keys);
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "desktop_scheme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -14,16 +16,15 @@ namespace {
 
 constexpr uint preferDark = 1;
 
-const QString service = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString settings = QStringLiteral("org.freedesktop.portal.Settings");
-const QString appearance = QStringLiteral("org.freedesktop.appearance");
-const QString colourScheme = QStringLiteral("color-scheme");
+const QString service = u"org.freedesktop.portal.Desktop"_s;
+const QString path = u"/org/freedesktop/portal/desktop"_s;
+const QString settings = u"org.freedesktop.portal.Settings"_s;
+const QString appearance = u"org.freedesktop.appearance"_s;
+const QString colourScheme = u"color-scheme"_s;
 
 QDBusMessage readScheme()
 {
-    QDBusMessage message
-        = QDBusMessage::createMethodCall(service, path, settings, QStringLiteral("Read"));
+    QDBusMessage message = QDBusMessage::createMethodCall(service, path, settings, u"Read"_s);
     message << appearance << colourScheme;
     return message;
 }
@@ -47,7 +48,7 @@ void DesktopScheme::follow()
         service,
         path,
         settings,
-        QStringLiteral("SettingChanged"),
+        u"SettingChanged"_s,
         this,
         SLOT(settingChanged(QString, QString, QDBusVariant))
     );

@@ -3,6 +3,8 @@
 
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>
@@ -16,15 +18,14 @@ namespace {
 
 QPixmap rendered(const QString& name, const QSize& pixels, const QColor& colour)
 {
-    const QString key = QStringLiteral("%1-%2x%3-%4")
-                            .arg(name)
+    const QString key = u"%1-%2x%3-%4"_s.arg(name)
                             .arg(pixels.width())
                             .arg(pixels.height())
                             .arg(colour.rgba(), 8, 16);
     QPixmap pixmap;
     if (QPixmapCache::find(key, &pixmap))
         return pixmap;
-    QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
+    QFile file(u":/icons/%1.svg"_s.arg(name));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QSvgRenderer renderer(file.readAll().replace("currentColor", colour.name().toLatin1()));
@@ -62,7 +63,7 @@ public:
     }
 
     [[nodiscard]] QIconEngine* clone() const override { return new DrawnIconEngine(m_name); }
-    QString key() const override { return QStringLiteral("brenvaldo"); }
+    QString key() const override { return u"brenvaldo"_s; }
 
 private:
     static QColor colourOf(QIcon::Mode mode)

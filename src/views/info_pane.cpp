@@ -3,6 +3,8 @@
 
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QLabel>
 #include <QPainter>
 #include <QScrollArea>
@@ -19,7 +21,7 @@ constexpr int paneWidth = 360;
 InfoPane::InfoPane(const panels::PanelView& view, const FormBuilder& builder, QWidget* parent)
     : QWidget(parent)
 {
-    setObjectName(u"infoPane"_qs);
+    setObjectName(u"infoPane"_s);
     setAccessibleName(tr("Photo info"));
     setFixedWidth(paneWidth);
     auto* all = new QVBoxLayout(this);

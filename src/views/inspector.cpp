@@ -13,6 +13,8 @@
 #include "subscriptions.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -25,7 +27,7 @@ namespace brenvaldo::views {
 namespace {
 
 /// Picture of the section button that is pressed.
-const QString pressedImage = QStringLiteral("SelectMainTabView1.png");
+const QString pressedImage = u"SelectMainTabView1.png"_s;
 
 /// The frame round the three section buttons.
 class SectionFrame : public QWidget
@@ -92,9 +94,9 @@ QWidget* Inspector::sections()
     line->setContentsMargins(2, 2, 2, 2);
     line->setSpacing(2);
     const std::pair<controls::Button*, QString> buttons[]{
-        {&m_panels.window.btnEditPhoto, QStringLiteral("edit-photos")},
-        {&m_panels.window.btnFileManagement, QStringLiteral("manage-files")},
-        {&m_panels.window.btnExportHtml, QStringLiteral("web-gallery")}};
+        {&m_panels.window.btnEditPhoto, u"edit-photos"_s},
+        {&m_panels.window.btnFileManagement, u"manage-files"_s},
+        {&m_panels.window.btnExportHtml, u"web-gallery"_s}};
     for (const auto& [control, drawing] : buttons) {
         auto* button = new SectionButton(control->title(), drawing, frame);
         button->setCheckable(true);
@@ -142,7 +144,7 @@ QWidget* Inspector::sectionTitle(QWidget* parent)
 QWidget* Inspector::settings()
 {
     auto* scroll = new QScrollArea(this);
-    scroll->setObjectName(QStringLiteral("functionSettings"));
+    scroll->setObjectName(u"functionSettings"_s);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -203,7 +205,7 @@ QWidget* Inspector::laterNotice()
            "presets already."),
         this
     );
-    m_later->setObjectName(QStringLiteral("laterNotice"));
+    m_later->setObjectName(u"laterNotice"_s);
     return m_later;
 }
 

@@ -6,6 +6,7 @@
 #include "subscriptions.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/atomic_file.h>
@@ -34,7 +35,7 @@ JournalWindow::JournalWindow(
     , m_rows(new QTreeWidget(this))
     , m_stack(new QStackedLayout)
 {
-    setObjectName(u"runJournal"_qs);
+    setObjectName(u"runJournal"_s);
     setWindowTitle(tr("Run Journal"));
     setAccessibleName(windowTitle());
     resize(860, 420);
@@ -90,7 +91,7 @@ void JournalWindow::add(const workspace::RunRecord& record)
 {
     auto* row = new QTreeWidgetItem(
         m_rows,
-        {record.time.time().toString(u"HH:mm:ss"_qs),
+        {record.time.time().toString(u"HH:mm:ss"_s),
          functionTitle(record.function),
          platform::lastPathComponent(record.source),
          record.target,
@@ -108,11 +109,11 @@ void JournalWindow::save()
 {
     const auto path = m_chooser.save(
         {.message = tr("Save the Run Journal"),
-         .suggestedName = u"Run Journal.txt"_qs,
-         .allowedTypes = {u"txt"_qs}}
+         .suggestedName = u"Run Journal.txt"_s,
+         .allowedTypes = {u"txt"_s}}
     );
     if (path && !platform::storage::writeFileAtomically(*path, m_journal.asText().toUtf8()))
-        platform::log(u"The Run Journal could not be written to "_qs + *path);
+        platform::log(u"The Run Journal could not be written to "_s + *path);
 }
 
 void JournalWindow::clear()

@@ -3,6 +3,8 @@
 
 #include "icons.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QApplication>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -63,7 +65,7 @@ void fillEditMenu(QMenu& menu, const Commands& commands)
         &QPlainTextEdit::selectAll
     );
     menu.addSeparator();
-    menu.addAction(commands.command(u"hCallPreferencesWw"_qs));
+    menu.addAction(commands.command(u"hCallPreferencesWw"_s));
 }
 
 void addCommands(QMenu& menu, const Commands& commands, const QStringList& names)
@@ -88,7 +90,7 @@ WindowOrders makeWindowOrders(QObject& owner)
         .fullScreen = order(owner, "fullScreen", tr("Full &screen"), "F11"),
         .about = order(owner, "about", tr("&About Brenvaldo"), ""),
         .quit = order(owner, "quit", tr("&Quit"), "Ctrl+Q")};
-    orders.photoInfo->setIcon(icon(u"info"_qs));
+    orders.photoInfo->setIcon(icon(u"info"_s));
     orders.photoInfo->setToolTip(tr("Photo info (Ctrl+I)"));
     for (QAction* toggle : {orders.photoInfo, orders.fit, orders.pixels, orders.fullScreen})
         toggle->setCheckable(true);
@@ -103,16 +105,16 @@ void fillMenuBar(QMainWindow& window, const Commands& commands, const WindowOrde
     addCommands(
         file,
         commands,
-        {u"hChoosePhotos"_qs,
-         u"hInsertPhotos"_qs,
+        {u"hChoosePhotos"_s,
+         u"hInsertPhotos"_s,
          {},
-         u"hChooseScalingDestinationFolder"_qs,
-         u"hShowDestinationFolderInFinder"_qs,
+         u"hChooseScalingDestinationFolder"_s,
+         u"hShowDestinationFolderInFinder"_s,
          {},
-         u"hLoadImages"_qs,
+         u"hLoadImages"_s,
          {},
-         u"hShareMyPhoto"_qs,
-         u"hPrintOrigPicture"_qs,
+         u"hShareMyPhoto"_s,
+         u"hPrintOrigPicture"_s,
          {}}
     );
     file.addAction(orders.quit);
@@ -120,23 +122,23 @@ void fillMenuBar(QMainWindow& window, const Commands& commands, const WindowOrde
     addCommands(
         *bar.addMenu(tr("&Photos")),
         commands,
-        {u"hRemoveSelectedObject"_qs,
-         u"hRemoveAllPhoto"_qs,
+        {u"hRemoveSelectedObject"_s,
+         u"hRemoveAllPhoto"_s,
          {},
-         u"setSortingModeAz"_qs,
-         u"setSortingModezA"_qs,
+         u"setSortingModeAz"_s,
+         u"setSortingModezA"_s,
          {},
-         u"hRotateLeft"_qs,
-         u"hRotateRight"_qs,
-         u"hFlipHorizontal"_qs,
-         u"hFlipVertical"_qs}
+         u"hRotateLeft"_s,
+         u"hRotateRight"_s,
+         u"hFlipHorizontal"_s,
+         u"hFlipVertical"_s}
     );
-    addCommands(*bar.addMenu(tr("P&resets")), commands, {u"hLoadPreset"_qs});
+    addCommands(*bar.addMenu(tr("P&resets")), commands, {u"hLoadPreset"_s});
     QMenu& view = *bar.addMenu(tr("&View"));
     addCommands(
         view,
         commands,
-        {u"hEditPhotoClicked"_qs, u"hFileManagementClicked"_qs, u"hExportHTMLClicked"_qs, {}}
+        {u"hEditPhotoClicked"_s, u"hFileManagementClicked"_s, u"hExportHTMLClicked"_s, {}}
     );
     view.addActions({orders.photoInfo, orders.runJournal});
     view.addSeparator();
@@ -147,7 +149,7 @@ void fillMenuBar(QMainWindow& window, const Commands& commands, const WindowOrde
     addCommands(
         help,
         commands,
-        {u"hCallPreviewHelp"_qs, u"hCallCActionsHelp"_qs, u"hCallExportHTMLHelp"_qs, {}}
+        {u"hCallPreviewHelp"_s, u"hCallCActionsHelp"_s, u"hCallExportHTMLHelp"_s, {}}
     );
     help.addAction(orders.about);
 }

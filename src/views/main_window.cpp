@@ -15,6 +15,7 @@
 #include "subscriptions.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
 #include <workspace/list/collection_view_controller.h>
 #include <workspace/start/app_delegate.h>
 
@@ -64,7 +65,7 @@ MainWindow::MainWindow(workspace::Workspace& workspace, QtFileChooser& chooser)
     , m_commands(workspace.actions(), workspace.photos())
     , m_orders(makeWindowOrders(*this))
 {
-    setObjectName(u"wwMainWindow"_qs);
+    setObjectName(u"wwMainWindow"_s);
     setWindowTitle(tr("Brenvaldo"));
     setAcceptDrops(true);
     m_drags.awakeFromNib();
@@ -112,7 +113,7 @@ void MainWindow::openInto(const QSize& screenRoom)
 QWidget* MainWindow::inspector(QWidget* parent)
 {
     auto* inspector = new Inspector(m_workspace, m_builder, m_binder, parent);
-    QAction* process = m_commands.command(u"hLoadImages"_qs);
+    QAction* process = m_commands.command(u"hLoadImages"_s);
     connect(inspector, &Inspector::runOffered, process, &QAction::setEnabled);
     return inspector;
 }
@@ -173,7 +174,7 @@ void MainWindow::connectGrid()
         m_workspace.collectionView().acceptDrop(rows, gap);
     });
     connect(
-        m_grid, &PhotoGrid::addWanted, m_commands.command(u"hChoosePhotos"_qs), &QAction::trigger
+        m_grid, &PhotoGrid::addWanted, m_commands.command(u"hChoosePhotos"_s), &QAction::trigger
     );
 }
 
@@ -235,7 +236,7 @@ void MainWindow::tick(int row)
 {
     const bool isTicked = m_workspace.photos().entries().at(row).myPhotoSelect > 0;
     m_workspace.photos().setTick(row, isTicked ? 0 : 1);
-    m_workspace.actions().send(u"cCollectionViewController.cbPhotoToProcessClicked"_qs);
+    m_workspace.actions().send(u"cCollectionViewController.cbPhotoToProcessClicked"_s);
 }
 
 void MainWindow::showJournal()
@@ -296,7 +297,7 @@ bool MainWindow::focusNextPrevChild(bool next)
     const auto& text = m_workspace.panels().vwWatermark.tvWaterMarkText;
     if (!next || !before || before->objectName() != text.name())
         return QMainWindow::focusNextPrevChild(next);
-    m_workspace.delegate().textViewdoCommandBySelector(u"insertTab:"_qs);
+    m_workspace.delegate().textViewdoCommandBySelector(u"insertTab:"_s);
     return focusWidget() != before || QMainWindow::focusNextPrevChild(next);
 }
 

@@ -4,6 +4,8 @@
 #include "icons.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -34,7 +36,7 @@ void Notice::paintEvent(QPaintEvent*)
     painter.fillRect(rect().adjusted(1, 0, 0, 0), colours().selection);
     QRect mark(0, 0, markSide, markSide);
     mark.moveCenter({Metrics::margin + markSide / 2, rect().center().y()});
-    paintIcon(painter, QStringLiteral("info"), mark, colours().accent);
+    paintIcon(painter, u"info"_s, mark, colours().accent);
 }
 
 } // namespace brenvaldo::views

@@ -4,6 +4,8 @@
 #include "subscriptions.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QHash>
 #include <QVBoxLayout>
 
@@ -16,10 +18,10 @@ constexpr int sheetWidth = 460;
 QString titleOf(const QString& sheet)
 {
     static const QHash<QString, const char*> titles{
-        {u"wwPresetsWindow"_qs, QT_TRANSLATE_NOOP("PanelSheet", "Presets")},
-        {u"wwPreferencesWindow"_qs, QT_TRANSLATE_NOOP("PanelSheet", "Preferences")},
-        {u"wwInfoWindow"_qs, QT_TRANSLATE_NOOP("PanelSheet", "Help")},
-        {u"wwApplicationVersionWindow"_qs, QT_TRANSLATE_NOOP("PanelSheet", "New version")},
+        {u"wwPresetsWindow"_s, QT_TRANSLATE_NOOP("PanelSheet", "Presets")},
+        {u"wwPreferencesWindow"_s, QT_TRANSLATE_NOOP("PanelSheet", "Preferences")},
+        {u"wwInfoWindow"_s, QT_TRANSLATE_NOOP("PanelSheet", "Help")},
+        {u"wwApplicationVersionWindow"_s, QT_TRANSLATE_NOOP("PanelSheet", "New version")},
     };
     return PanelSheet::tr(titles.value(sheet, "Brenvaldo"));
 }

@@ -6,6 +6,8 @@
 #include "photo_grid_model.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -23,7 +25,7 @@ constexpr int pictureScale = 2;
 /// Only the grid itself gives out its items.
 bool isOwnDrag(const QDropEvent& event)
 {
-    return event.mimeData()->hasFormat(u"application/x-qabstractitemmodeldatalist"_qs);
+    return event.mimeData()->hasFormat(u"application/x-qabstractitemmodeldatalist"_s);
 }
 
 QStringList localPaths(const QMimeData& data)
@@ -45,9 +47,9 @@ PhotoGrid::PhotoGrid(workspace::PhotoList& photos, QWidget* parent)
     , m_delegate(new PhotoGridDelegate(this))
     , m_selection(photos.selectionChanged.connect([this] { showSelection(); }))
     , m_places(photos.entriesChanged.connect([this] { showSelection(); }))
-    , m_addButton(new QPushButton(icon(u"add"_qs), tr("Add photos\u2026"), viewport()))
+    , m_addButton(new QPushButton(icon(u"add"_s), tr("Add photos\u2026"), viewport()))
 {
-    setObjectName(QStringLiteral("myPhotoCollectionView"));
+    setObjectName(u"myPhotoCollectionView"_s);
     setAccessibleName(tr("Photos"));
     setModel(m_model);
     setItemDelegate(m_delegate);
@@ -202,7 +204,7 @@ void PhotoGrid::paintEmpty(QPainter& painter) const
     const QRect room = viewport()->rect();
     QRect place(0, 0, 44, 44);
     place.moveCenter(room.center() - QPoint(0, 44));
-    paintIcon(painter, QStringLiteral("photos"), place, colours().disabled);
+    paintIcon(painter, u"photos"_s, place, colours().disabled);
     painter.setPen(colours().muted);
     const QRect line(room.left(), place.bottom() + 4, room.width(), fontMetrics().height() + 6);
     painter.drawText(line, Qt::AlignCenter, tr("Drop photos here or choose Add photos\u2026"));

@@ -6,6 +6,8 @@
 #include "style_painting.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -34,7 +36,7 @@ void paintPicture(QPainter& painter, const QRect& cell, const QModelIndex& index
     const auto picture = index.data(PhotoGridModel::PictureRole).value<QImage>();
     if (picture.isNull()) {
         const bool isDocument = index.data(PhotoGridModel::DocumentRole).toBool();
-        const QString drawing = isDocument ? QStringLiteral("document") : QStringLiteral("photos");
+        const QString drawing = isDocument ? u"document"_s : u"photos"_s;
         QRect place(0, 0, 48, 48);
         place.moveCenter(room.center());
         painter.setOpacity(isDocument ? 1 : 0.4);
@@ -77,8 +79,8 @@ void paintTexts(
     painter.setFont(scaledFont(option.font, smallScale));
     const bool isRenamed = !newName.isEmpty();
     painter.setPen(isRenamed ? colours().accent : colours().muted);
-    const QString below = isRenamed ? QStringLiteral("\u2192 ") + newName
-                                    : index.data(PhotoGridModel::SizeRole).toString();
+    const QString below
+        = isRenamed ? u"\u2192 "_s + newName : index.data(PhotoGridModel::SizeRole).toString();
     paintLine(painter, line, below, isRenamed ? Qt::ElideMiddle : Qt::ElideRight);
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo_grid_model.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::views {
 
 using workspace::cCollectionViewItem;
@@ -59,7 +61,7 @@ QVariant PhotoGridModel::data(const QModelIndex& index, int role) const
 QString PhotoGridModel::spokenText(const cCollectionViewItem& entry) const
 {
     const QString tick = entry.myPhotoSelect > 0 ? tr("ticked") : tr("not ticked");
-    return QStringLiteral("%1, %2, %3").arg(entry.myPhotoName, entry.myPhotoPxSize, tick);
+    return u"%1, %2, %3"_s.arg(entry.myPhotoName, entry.myPhotoPxSize, tick);
 }
 
 Qt::ItemFlags PhotoGridModel::flags(const QModelIndex& index) const

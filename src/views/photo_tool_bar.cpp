@@ -5,6 +5,8 @@
 #include "muted_label.h"
 #include "style.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPushButton>
@@ -33,16 +35,13 @@ PhotoToolBar::PhotoToolBar(
     auto* line = new QHBoxLayout(this);
     line->setContentsMargins(12, 6, 12, 6);
     line->setSpacing(2);
-    addTitled(*line, *commands.command(QStringLiteral("hChoosePhotos")));
-    addTitled(*line, *commands.command(QStringLiteral("hInsertPhotos")));
+    addTitled(*line, *commands.command(u"hChoosePhotos"_s));
+    addTitled(*line, *commands.command(u"hInsertPhotos"_s));
     const QList<QStringList> groups{
-        {QStringLiteral("hRemoveSelectedObject"), QStringLiteral("hRemoveAllPhoto")},
-        {QStringLiteral("setSortingModeAz"), QStringLiteral("setSortingModezA")},
-        {QStringLiteral("hRotateLeft"),
-         QStringLiteral("hRotateRight"),
-         QStringLiteral("hFlipHorizontal"),
-         QStringLiteral("hFlipVertical")},
-        {QStringLiteral("hShareMyPhoto"), QStringLiteral("hPrintOrigPicture")}};
+        {u"hRemoveSelectedObject"_s, u"hRemoveAllPhoto"_s},
+        {u"setSortingModeAz"_s, u"setSortingModezA"_s},
+        {u"hRotateLeft"_s, u"hRotateRight"_s, u"hFlipHorizontal"_s, u"hFlipVertical"_s},
+        {u"hShareMyPhoto"_s, u"hPrintOrigPicture"_s}};
     for (const QStringList& group : groups) {
         addGap(*line);
         for (const QString& name : group)
@@ -68,7 +67,7 @@ void PhotoToolBar::resizeEvent(QResizeEvent*) { showTitles(width() >= m_titledWi
 void PhotoToolBar::addTitled(QHBoxLayout& line, QAction& command)
 {
     auto* button = new QPushButton(command.icon(), command.text().remove(QLatin1Char('&')), this);
-    button->setObjectName(QStringLiteral("tool.") + command.objectName());
+    button->setObjectName(u"tool."_s + command.objectName());
     button->setAccessibleName(button->text());
     button->setToolTip(command.toolTip());
     setButtonRole(*button, line.isEmpty() ? ButtonRole::Plain : ButtonRole::Flat);
@@ -83,7 +82,7 @@ void PhotoToolBar::addDrawn(QHBoxLayout& line, QAction& command)
         return;
     auto* button = new QToolButton(this);
     button->setDefaultAction(&command);
-    button->setObjectName(QStringLiteral("tool.") + command.objectName());
+    button->setObjectName(u"tool."_s + command.objectName());
     button->setAccessibleName(command.text().remove(QLatin1Char('&')));
     button->setToolButtonStyle(Qt::ToolButtonIconOnly);
     button->setIconSize({18, 18});
@@ -112,8 +111,7 @@ void PhotoToolBar::addCounter(
     auto* count = new MutedLabel(QString(), this);
     count->setAccessibleName(tr("Number of photos"));
     count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    count->setMinimumWidth(count->fontMetrics().horizontalAdvance(countText(QStringLiteral("1000")))
-    );
+    count->setMinimumWidth(count->fontMetrics().horizontalAdvance(countText(u"1000"_s)));
     const auto& counter = window.tfImageCount;
     followControl(*count, counter, [count, &counter] {
         count->setText(countText(counter.stringValue()));

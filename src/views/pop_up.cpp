@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pop_up.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 #include <QWheelEvent>
@@ -28,7 +30,7 @@ QSize PopUp::minimumSizeHint() const
 {
     QSize size = QComboBox::minimumSizeHint();
     if (!m_lead.isEmpty())
-        size.setWidth(fontMetrics().horizontalAdvance(m_lead + QStringLiteral(" 00")) + 40);
+        size.setWidth(fontMetrics().horizontalAdvance(m_lead + u" 00"_s) + 40);
     return size;
 }
 

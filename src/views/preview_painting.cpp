@@ -5,6 +5,8 @@
 #include "icons.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QPainter>
 
 namespace brenvaldo::views {
@@ -44,7 +46,7 @@ void paintEmptyPreview(QPainter& painter, const QRect& room, const QString& text
     QRect place(0, 0, emptyMark, emptyMark);
     place.moveCenter(room.center() - QPoint(0, 22));
     const QColor ink(255, 255, 255, 205);
-    paintIcon(painter, QStringLiteral("edit-photos"), place, ink);
+    paintIcon(painter, u"edit-photos"_s, place, ink);
     painter.setPen(ink);
     const QRect line(room.left(), place.bottom() + 8, room.width(), room.bottom() - place.bottom());
     painter.drawText(line, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text);

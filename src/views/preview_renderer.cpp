@@ -3,6 +3,7 @@
 
 #include <platform/codecs/image_source.h>
 #include <platform/drawing/stamp.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/graphics/screen_scaling.h>
 
@@ -20,11 +21,11 @@ QString colourModelName(platform::graphics::ColorModel model)
     case platform::graphics::ColorModel::Gray:
         return PreviewRenderer::tr("grey");
     case platform::graphics::ColorModel::Rgb:
-        return QStringLiteral("RGB");
+        return u"RGB"_s;
     case platform::graphics::ColorModel::Cmyk:
-        return QStringLiteral("CMYK");
+        return u"CMYK"_s;
     case platform::graphics::ColorModel::Lab:
-        return QStringLiteral("Lab");
+        return u"Lab"_s;
     }
     return {};
 }
@@ -125,13 +126,12 @@ QString photoCaption(const QString& path, const QString& fileSize)
     if (!source)
         return name;
     const auto& header = source->header();
-    const QString text = QStringLiteral("%1  \u00b7  %2 \u00d7 %3  \u00b7  %4 bit %5")
-                             .arg(name)
+    const QString text = u"%1  \u00b7  %2 \u00d7 %3  \u00b7  %4 bit %5"_s.arg(name)
                              .arg(header.uprightSize.width)
                              .arg(header.uprightSize.height)
                              .arg(header.bitsPerComponent)
                              .arg(colourModelName(header.colorModel));
-    return fileSize.isEmpty() ? text : text + QStringLiteral("  \u00b7  ") + fileSize;
+    return fileSize.isEmpty() ? text : text + u"  \u00b7  "_s + fileSize;
 }
 
 QImage PreviewRenderer::renderedPhoto(const PreviewRequest& request)

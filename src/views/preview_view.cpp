@@ -6,6 +6,8 @@
 #include "shown_focus.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -24,7 +26,7 @@ constexpr int keyStep = 60;
 /// The size of the file as the grid tells it: what follows the pixels.
 QString fileSizeOf(const workspace::cCollectionViewItem& entry)
 {
-    return entry.myPhotoPxSize.section(QStringLiteral(" | "), 1);
+    return entry.myPhotoPxSize.section(u" | "_s, 1);
 }
 
 } // namespace
@@ -41,7 +43,7 @@ PreviewView::PreviewView(const Sources& sources, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     m_zoomChip->select(0);
-    m_zoomChip->setObjectName(QStringLiteral("previewZoom"));
+    m_zoomChip->setObjectName(u"previewZoom"_s);
     connect(m_zoomChip, &ChoiceChip::picked, this, [this](int index) {
         setZoom(index == 0 ? Zoom::Fit : Zoom::Pixels);
     });

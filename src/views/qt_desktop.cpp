@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt_desktop.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -23,10 +25,10 @@ void openFolderOf(const QString& path)
 QDBusMessage showItems(const QString& path)
 {
     QDBusMessage message = QDBusMessage::createMethodCall(
-        u"org.freedesktop.FileManager1"_qs,
-        u"/org/freedesktop/FileManager1"_qs,
-        u"org.freedesktop.FileManager1"_qs,
-        u"ShowItems"_qs
+        u"org.freedesktop.FileManager1"_s,
+        u"/org/freedesktop/FileManager1"_s,
+        u"org.freedesktop.FileManager1"_s,
+        u"ShowItems"_s
     );
     const QString uri = QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded);
     message << QStringList{uri} << QString();

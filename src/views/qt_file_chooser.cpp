@@ -2,6 +2,7 @@
 #include "qt_file_chooser.h"
 
 #include <controls/control.h>
+#include <platform/foundation/literals.h>
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -48,7 +49,7 @@ private:
 
     void completeName()
     {
-        auto* const field = findChild<QLineEdit*>(u"fileNameEdit"_qs);
+        auto* const field = findChild<QLineEdit*>(u"fileNameEdit"_s);
         const bool namesFolder = QFileInfo(selectedFiles().value(0)).isDir();
         if (field && !namesFolder)
             field->setText(controls::withAllowedType(field->text(), m_panel));
@@ -67,7 +68,7 @@ QString nameFilter(const QStringList& types)
     QStringList patterns;
     for (const QString& type : types) {
         for (const QString& spelling : {type.toLower(), type.toUpper()}) {
-            const QString pattern = u"*."_qs + spelling;
+            const QString pattern = u"*."_s + spelling;
             if (!patterns.contains(pattern))
                 patterns.append(pattern);
         }

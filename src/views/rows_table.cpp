@@ -3,6 +3,8 @@
 
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -91,7 +93,7 @@ void RowsTable::fillModel(const controls::ArrayController& content)
             cells.append(cell);
         }
         cells.first()->setData(row, rowRole);
-        const int depth = isTree ? content.value(row, QStringLiteral("depth")).toInt() : 0;
+        const int depth = isTree ? content.value(row, u"depth"_s).toInt() : 0;
         branch.resize(std::clamp(depth + 1, 1, static_cast<int>(branch.size())));
         branch.last()->appendRow(cells);
         branch.append(cells.first());

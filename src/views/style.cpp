@@ -4,6 +4,8 @@
 #include "style_painting.h"
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSlider>
@@ -34,7 +36,7 @@ ButtonRole buttonRole(const QWidget* button)
 }
 
 Style::Style()
-    : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion")))
+    : QProxyStyle(QStyleFactory::create(u"Fusion"_s))
 {
 }
 

@@ -3,6 +3,8 @@
 
 #include "style.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QApplication>
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -97,8 +99,8 @@ QPalette paletteOf(Scheme scheme)
 QFont windowFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    if (QFontDatabase::hasFamily(QStringLiteral("Inter")))
-        font.setFamily(QStringLiteral("Inter"));
+    if (QFontDatabase::hasFamily(u"Inter"_s))
+        font.setFamily(u"Inter"_s);
     font.setPointSizeF(9.75);
     return font;
 }

@@ -3,6 +3,8 @@
 
 #include "theme.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QEvent>
 #include <QPainter>
 
@@ -36,7 +38,7 @@ void UnitField::makeRoomForUnit()
 
 QSize UnitField::minimumSizeHint() const
 {
-    const int digits = fontMetrics().horizontalAdvance(QStringLiteral("0000"));
+    const int digits = fontMetrics().horizontalAdvance(u"0000"_s);
     return {digits + unitWidth() + 2 * edge + 8, QLineEdit::sizeHint().height()};
 }
 

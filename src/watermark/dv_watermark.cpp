@@ -8,6 +8,7 @@
 #include <imaging/dv_image_handling.h>
 #include <imaging/writer_rules.h>
 #include <panels/watermark_panel.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 #include <platform/metadata/metadata_reader.h>
@@ -73,7 +74,7 @@ DVWatermark::markPhoto(const WatermarkRun& run, const QString& path, imaging::Pi
     finishStages(stagesOfNaming);
     const TextWatermarkSettings settings = readSettings(m_surroundings.panel);
     if (settings.text.isEmpty()) {
-        platform::log(QStringLiteral("no watermark text"));
+        platform::log(u"no watermark text"_s);
         return Step::EndRun;
     }
     finishStages(stagesOfReadingSettings);

@@ -6,6 +6,7 @@
 
 #include <controls/action_registry.h>
 #include <panels/watermark_panel.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/notification_center.h>
 
 #include <array>
@@ -96,7 +97,7 @@ void followsImageSize(WatermarkPanel& panel)
         panel.tfImageScalePC.setEnabled(true);
         return;
     }
-    panel.tfImageScalePC.setStringValue(QStringLiteral("100"));
+    panel.tfImageScalePC.setStringValue(u"100"_s);
     panel.tfImageScalePC.setEnabled(false);
     panel.cbPatternCheck.setState(0);
 }
@@ -180,7 +181,7 @@ void registerPanelActions(
 {
     for (const PanelAction& action : panelActions) {
         actions.add(
-            QStringLiteral("DVWatermark"),
+            u"DVWatermark"_s,
             QString::fromUtf16(action.name),
             [&panel, &notifications, action](const controls::Sender&) {
                 action.adjust(panel);

@@ -3,6 +3,7 @@
 
 #include "kept_properties.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/metadata/image_properties.h>
 
 namespace brenvaldo::watermark {
@@ -44,7 +45,7 @@ QString joinedText(const PropertyValue& value)
     QStringList texts;
     for (const PropertyValue& element : *array)
         texts.append(element.text());
-    return texts.join(QStringLiteral("; "));
+    return texts.join(u"; "_s);
 }
 
 std::optional<QString> textOf(const PropertyValue& value, Placeholder::Form form)

@@ -1,32 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui_controls.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::workspace {
 
 namespace {
 
-const QString className = u"cGUIcontrols"_qs;
+const QString className = u"cGUIcontrols"_s;
 
 /// Actions that do nothing but draw the preview anew.
 QStringList previewActions()
 {
     return {
-        u"hAddTintAngle"_qs,
-        u"hAddTintDuoTone"_qs,
-        u"hAddTintPosition"_qs,
-        u"hAddTintRenderMethod"_qs,
-        u"hAddTintPercWidth"_qs,
-        u"hAddFramePositionCallsForPreview"_qs,
-        u"hAddFrameRenderMethodCallsForPreview"_qs,
-        u"hAddRoundedCornersPositionCallsForPreview"_qs,
-        u"hCtPSelectICCProfileCallPreview"_qs,
-        u"hCtPRenderIntentCallPreview"_qs,
-        u"hSepiaCallsForPreview"_qs,
-        u"hScreenSharpnessCallsForPreview"_qs,
-        u"hScreenMaskCallsForPreview"_qs,
-        u"hScreenInvertCallsForPreview"_qs,
-        u"hUnsharpMaskIntensityCallsForPreview"_qs,
-        u"hMonochromeIntensityCallsForPreview"_qs,
+        u"hAddTintAngle"_s,
+        u"hAddTintDuoTone"_s,
+        u"hAddTintPosition"_s,
+        u"hAddTintRenderMethod"_s,
+        u"hAddTintPercWidth"_s,
+        u"hAddFramePositionCallsForPreview"_s,
+        u"hAddFrameRenderMethodCallsForPreview"_s,
+        u"hAddRoundedCornersPositionCallsForPreview"_s,
+        u"hCtPSelectICCProfileCallPreview"_s,
+        u"hCtPRenderIntentCallPreview"_s,
+        u"hSepiaCallsForPreview"_s,
+        u"hScreenSharpnessCallsForPreview"_s,
+        u"hScreenMaskCallsForPreview"_s,
+        u"hScreenInvertCallsForPreview"_s,
+        u"hUnsharpMaskIntensityCallsForPreview"_s,
+        u"hMonochromeIntensityCallsForPreview"_s,
     };
 }
 
@@ -80,15 +82,15 @@ void cGUIcontrols::registerFunctionActions(controls::ActionRegistry& actions)
     const auto add = [&](const QString& name, void (cGUIcontrols::*action)()) {
         actions.add(className, name, [this, action](const auto&) { (this->*action)(); });
     };
-    add(u"hEditPhotoClicked"_qs, &cGUIcontrols::hEditPhotoClicked);
-    add(u"hFileManagementClicked"_qs, &cGUIcontrols::hFileManagementClicked);
-    add(u"hExportHTMLClicked"_qs, &cGUIcontrols::hExportHTMLClicked);
-    add(u"hChooseMainEditFunction"_qs, &cGUIcontrols::hChooseMainEditFunction);
-    add(u"hChooseMainFileManagementFunction"_qs, &cGUIcontrols::hChooseMainFileManagementFunction);
-    add(u"hChooseHTMLExportTemplate"_qs, &cGUIcontrols::hChooseHTMLExportTemplate);
-    add(u"tabViewdidSelectTabViewItem"_qs, &cGUIcontrols::tabViewdidSelectTabViewItem);
-    add(u"hChooseScaleTypeFunction"_qs, &cGUIcontrols::hChooseScaleTypeFunction);
-    add(u"hChooseCropTypeFunction"_qs, &cGUIcontrols::hChooseCropTypeFunction);
+    add(u"hEditPhotoClicked"_s, &cGUIcontrols::hEditPhotoClicked);
+    add(u"hFileManagementClicked"_s, &cGUIcontrols::hFileManagementClicked);
+    add(u"hExportHTMLClicked"_s, &cGUIcontrols::hExportHTMLClicked);
+    add(u"hChooseMainEditFunction"_s, &cGUIcontrols::hChooseMainEditFunction);
+    add(u"hChooseMainFileManagementFunction"_s, &cGUIcontrols::hChooseMainFileManagementFunction);
+    add(u"hChooseHTMLExportTemplate"_s, &cGUIcontrols::hChooseHTMLExportTemplate);
+    add(u"tabViewdidSelectTabViewItem"_s, &cGUIcontrols::tabViewdidSelectTabViewItem);
+    add(u"hChooseScaleTypeFunction"_s, &cGUIcontrols::hChooseScaleTypeFunction);
+    add(u"hChooseCropTypeFunction"_s, &cGUIcontrols::hChooseCropTypeFunction);
 }
 
 void cGUIcontrols::registerDriverActions(controls::ActionRegistry& actions)
@@ -96,13 +98,13 @@ void cGUIcontrols::registerDriverActions(controls::ActionRegistry& actions)
     const auto add = [&](const QString& name, void (cGUIcontrols::*action)()) {
         actions.add(className, name, [this, action](const auto&) { (this->*action)(); });
     };
-    actions.add(className, u"hLoadImages"_qs, [this](const auto&) { m_driver.hLoadImages(); });
-    actions.add(className, u"hCalledCActionFunc"_qs, [this](const auto&) {
+    actions.add(className, u"hLoadImages"_s, [this](const auto&) { m_driver.hLoadImages(); });
+    actions.add(className, u"hCalledCActionFunc"_s, [this](const auto&) {
         m_driver.hCalledCActionFunc();
     });
-    add(u"hChooseScalingDestinationFolder"_qs, &cGUIcontrols::hChooseScalingDestinationFolder);
-    add(u"hShowDestinationFolderInFinder"_qs, &cGUIcontrols::hShowDestinationFolderInFinder);
-    add(u"closeApplicationAlertSheetObjC"_qs, &cGUIcontrols::closeApplicationAlertSheetObjC);
+    add(u"hChooseScalingDestinationFolder"_s, &cGUIcontrols::hChooseScalingDestinationFolder);
+    add(u"hShowDestinationFolderInFinder"_s, &cGUIcontrols::hShowDestinationFolderInFinder);
+    add(u"closeApplicationAlertSheetObjC"_s, &cGUIcontrols::closeApplicationAlertSheetObjC);
 }
 
 void cGUIcontrols::registerPanelActions(controls::ActionRegistry& actions)
@@ -115,23 +117,23 @@ void cGUIcontrols::registerPanelActions(controls::ActionRegistry& actions)
             m_collectionView.callForPreview();
         });
     }
-    add(u"hAddTintGradient"_qs, &cGUIcontrols::hAddTintGradient);
-    add(u"hAddTintActivePhotoSize"_qs, &cGUIcontrols::hAddTintActivePhotoSize);
-    add(u"hAddTintColorWell"_qs, &cGUIcontrols::hAddTintColorWell);
-    add(u"hAddRoundedCornersTypeCallsForPreview"_qs,
+    add(u"hAddTintGradient"_s, &cGUIcontrols::hAddTintGradient);
+    add(u"hAddTintActivePhotoSize"_s, &cGUIcontrols::hAddTintActivePhotoSize);
+    add(u"hAddTintColorWell"_s, &cGUIcontrols::hAddTintColorWell);
+    add(u"hAddRoundedCornersTypeCallsForPreview"_s,
         &cGUIcontrols::hAddRoundedCornersTypeCallsForPreview);
-    add(u"hAddRoundedCornersBackGroundCallsForPreview"_qs,
+    add(u"hAddRoundedCornersBackGroundCallsForPreview"_s,
         &cGUIcontrols::hAddRoundedCornersBackGroundCallsForPreview);
-    add(u"hAddRoundedCornersBorderCallsForPreview"_qs,
+    add(u"hAddRoundedCornersBorderCallsForPreview"_s,
         &cGUIcontrols::hAddRoundedCornersBorderCallsForPreview);
-    add(u"hAddRotationBackGroundCallsForPreview"_qs,
+    add(u"hAddRotationBackGroundCallsForPreview"_s,
         &cGUIcontrols::hAddRotationBackGroundCallsForPreview);
-    add(u"hAddFramingPosition"_qs, &cGUIcontrols::hAddFramingPosition);
-    add(u"hInsertPhotoProperty"_qs, &cGUIcontrols::hInsertPhotoProperty);
-    add(u"onClickPubFilterType"_qs, &cGUIcontrols::onClickPubFilterType);
-    add(u"hTxtSimulationModePressed"_qs, &cGUIcontrols::hTxtSimulationModePressed);
-    add(u"hImgSimulationModePressed"_qs, &cGUIcontrols::hImgSimulationModePressed);
-    add(u"hPrintOrigPicture"_qs, &cGUIcontrols::hPrintOrigPicture);
+    add(u"hAddFramingPosition"_s, &cGUIcontrols::hAddFramingPosition);
+    add(u"hInsertPhotoProperty"_s, &cGUIcontrols::hInsertPhotoProperty);
+    add(u"onClickPubFilterType"_s, &cGUIcontrols::onClickPubFilterType);
+    add(u"hTxtSimulationModePressed"_s, &cGUIcontrols::hTxtSimulationModePressed);
+    add(u"hImgSimulationModePressed"_s, &cGUIcontrols::hImgSimulationModePressed);
+    add(u"hPrintOrigPicture"_s, &cGUIcontrols::hPrintOrigPicture);
 }
 
 } // namespace brenvaldo::workspace

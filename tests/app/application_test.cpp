@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
+
 #include <support/log_lines.h>
 #include <support/text_printing.h>
 
@@ -29,5 +31,5 @@ TEST(Application, GoesOnAfterAnExceptionInTheHandlingOfAnEvent)
 
     QCoreApplication::sendEvent(&receiver, &event);
 
-    EXPECT_EQ(log.lines(), QStringList{u"no memory for the picture"_qs});
+    EXPECT_EQ(log.lines(), QStringList{u"no memory for the picture"_s});
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <app/single_instance.h>
+#include <platform/foundation/literals.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
 
@@ -39,7 +40,7 @@ protected:
     }
 
     test::TemporaryFolder folder;
-    QString path = folder.path(u"program.sock"_qs);
+    QString path = folder.path(u"program.sock"_s);
 };
 
 } // namespace
@@ -57,10 +58,10 @@ TEST_F(SingleInstance, GivesTheFilesOfASecondStartToTheFirst)
     const auto subscription
         = first.filesArrived.connect([&](const auto& files) { arrived = files; });
 
-    EXPECT_TRUE(handOverFromSecondStart({u"/a/b c.jpg"_qs, u"/d/\u00e4.png"_qs}));
+    EXPECT_TRUE(handOverFromSecondStart({u"/a/b c.jpg"_s, u"/d/\u00e4.png"_s}));
     deliverEventsUntil([&] { return !arrived.isEmpty(); });
 
-    EXPECT_EQ(arrived, (QStringList{u"/a/b c.jpg"_qs, u"/d/\u00e4.png"_qs}));
+    EXPECT_EQ(arrived, (QStringList{u"/a/b c.jpg"_s, u"/d/\u00e4.png"_s}));
 }
 
 TEST_F(SingleInstance, OutlivesASecondStartThatHangsUpWhileItsFilesAreTaken)
@@ -81,7 +82,7 @@ TEST_F(SingleInstance, OutlivesASecondStartThatHangsUpWhileItsFilesAreTaken)
         isTaken = true;
     });
 
-    EXPECT_TRUE(handOverFromSecondStart({u"/a.jpg"_qs}));
+    EXPECT_TRUE(handOverFromSecondStart({u"/a.jpg"_s}));
     deliverEventsUntil([&] { return isTaken; });
 
     EXPECT_TRUE(isTaken);
@@ -107,7 +108,7 @@ TEST_F(SingleInstance, WaitsForAProgramThatIsBusy)
     std::atomic<bool> ended = false;
 
     std::thread second([&] {
-        answer = app::SingleInstance(path).handOver({u"/a.jpg"_qs});
+        answer = app::SingleInstance(path).handOver({u"/a.jpg"_s});
         ended = true;
     });
     std::this_thread::sleep_for(std::chrono::milliseconds(800));
@@ -121,7 +122,7 @@ TEST_F(SingleInstance, WaitsForAProgramThatIsBusy)
 
 TEST_F(SingleInstance, ReplacesASocketThatACrashedProgramLeftBehind)
 {
-    (void)folder.write(u"program.sock"_qs, {});
+    (void)folder.write(u"program.sock"_s, {});
     app::SingleInstance first(path);
 
     ASSERT_TRUE(first.listen());

@@ -5,23 +5,24 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::controls;
 
 TEST(SavedName, GetsTheFirstTypeUnlessItHasAnAllowedOne)
 {
-    const SavePanel panel = {.allowedTypes = {u"jpeg"_qs, u"jpg"_qs}, .allowsOtherTypes = false};
+    const SavePanel panel = {.allowedTypes = {u"jpeg"_s, u"jpg"_s}, .allowsOtherTypes = false};
 
-    EXPECT_EQ(withAllowedType(u"/a/copy"_qs, panel), u"/a/copy.jpeg"_qs);
-    EXPECT_EQ(withAllowedType(u"/a/v1.2"_qs, panel), u"/a/v1.2.jpeg"_qs);
-    EXPECT_EQ(withAllowedType(u"/a/copy.jpg"_qs, panel), u"/a/copy.jpg"_qs);
-    EXPECT_EQ(withAllowedType(u"/a/copy.JPEG"_qs, panel), u"/a/copy.JPEG"_qs);
+    EXPECT_EQ(withAllowedType(u"/a/copy"_s, panel), u"/a/copy.jpeg"_s);
+    EXPECT_EQ(withAllowedType(u"/a/v1.2"_s, panel), u"/a/v1.2.jpeg"_s);
+    EXPECT_EQ(withAllowedType(u"/a/copy.jpg"_s, panel), u"/a/copy.jpg"_s);
+    EXPECT_EQ(withAllowedType(u"/a/copy.JPEG"_s, panel), u"/a/copy.JPEG"_s);
 }
 
 TEST(SavedName, KeepsAnyTypeWhereOtherTypesAreAllowed)
 {
-    const SavePanel panel = {.allowedTypes = {u"txt"_qs}};
+    const SavePanel panel = {.allowedTypes = {u"txt"_s}};
 
-    EXPECT_EQ(withAllowedType(u"/a/log.csv"_qs, panel), u"/a/log.csv"_qs);
-    EXPECT_EQ(withAllowedType(u"/a/log"_qs, panel), u"/a/log.txt"_qs);
-    EXPECT_EQ(withAllowedType(u"/a/log"_qs, {}), u"/a/log"_qs);
+    EXPECT_EQ(withAllowedType(u"/a/log.csv"_s, panel), u"/a/log.csv"_s);
+    EXPECT_EQ(withAllowedType(u"/a/log"_s, panel), u"/a/log.txt"_s);
+    EXPECT_EQ(withAllowedType(u"/a/log"_s, {}), u"/a/log"_s);
 }

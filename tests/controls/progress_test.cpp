@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/progress.h>
+#include <platform/foundation/literals.h>
 
 #include <gtest/gtest.h>
 
@@ -55,7 +56,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Progress, ShowsTheBarWhileItRuns)
 {
-    controls::ProgressIndicator bar(u"myProgressBar"_qs);
+    controls::ProgressIndicator bar(u"myProgressBar"_s);
     controls::Progress progress(bar, controls::guiControlsBar);
 
     progress.hInitialisePB();
@@ -68,7 +69,7 @@ TEST(Progress, ShowsTheBarWhileItRuns)
 
 TEST(Progress, StopsShortOfTheEndWhenTheStepDoesNotDivideIt)
 {
-    controls::ProgressIndicator bar(u"myProgressBar"_qs);
+    controls::ProgressIndicator bar(u"myProgressBar"_s);
     controls::Progress progress(bar, controls::guiControlsBar);
     progress.hInitialisePB();
 
@@ -80,7 +81,7 @@ TEST(Progress, StopsShortOfTheEndWhenTheStepDoesNotDivideIt)
 
 TEST(Progress, HidesTheBarAtTheEnd)
 {
-    controls::ProgressIndicator bar(u"myProgressBar"_qs);
+    controls::ProgressIndicator bar(u"myProgressBar"_s);
     controls::Progress progress(bar, controls::guiControlsBar);
     progress.hInitialisePB();
     progress.hProgressPB(100);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <controls/containers.h>
+#include <platform/foundation/literals.h>
 
 #include <gtest/gtest.h>
 
@@ -10,10 +11,10 @@ namespace {
 class TableView : public testing::Test
 {
 protected:
-    TableView() { rows.setObjects({{u"a"_qs}, {u"b"_qs}}); }
+    TableView() { rows.setObjects({{u"a"_s}, {u"b"_s}}); }
 
-    controls::ArrayController rows{u"rows"_qs, {u"name"_qs}};
-    controls::TableView table{u"table"_qs, rows};
+    controls::ArrayController rows{u"rows"_s, {u"name"_s}};
+    controls::TableView table{u"table"_s, rows};
 };
 
 } // namespace
@@ -35,7 +36,7 @@ TEST_F(TableView, LosesTheSelectionOfARowThatIsGone)
 {
     table.selectRow(1);
 
-    rows.addObject({u"c"_qs});
+    rows.addObject({u"c"_s});
     EXPECT_EQ(table.selectedRow(), 1);
 
     rows.removeAllObjects();

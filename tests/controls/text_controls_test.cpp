@@ -3,16 +3,17 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::controls;
 
 TEST(TextControls, TellObserversOfAChangeOnly)
 {
-    TextField field(QStringLiteral("tfSize"));
+    TextField field(u"tfSize"_s);
     int changes = 0;
     const auto subscription = field.changed.connect([&] { ++changes; });
 
-    field.setStringValue(QStringLiteral("12"));
-    field.setStringValue(QStringLiteral("12"));
+    field.setStringValue(u"12"_s);
+    field.setStringValue(u"12"_s);
 
     EXPECT_EQ(changes, 1);
 }

@@ -3,6 +3,7 @@
 
 #include "injected_faults.h"
 
+#include <platform/foundation/literals.h>
 #include <script/script_fixture.h>
 #include <support/exif_block.h>
 #include <support/log_lines.h>
@@ -66,7 +67,7 @@ class FullDiskAtEachCall : public test::ScriptTest, public testing::WithParamInt
 protected:
     FullDiskAtEachCall()
     {
-        QDir(folder()).mkdir(u"out"_qs);
+        QDir(folder()).mkdir(u"out"_s);
         const int side = photoSide();
         m_photo = PhotoBuilder()
                       .size(side, side * 2 / 3)
@@ -75,14 +76,14 @@ protected:
                           return test::Samples{noise, (noise * 3) & 255, (noise * 5) & 255};
                       })
                       .exif(test::exifBlock({.make = "Maker of cameras"}))
-                      .write(folder() + u"photo.jpg"_qs);
+                      .write(folder() + u"photo.jpg"_s);
     }
 
     [[nodiscard]] static const OutputCase& output() { return std::get<OutputCase>(GetParam()); }
 
     [[nodiscard]] QString target() const
     {
-        return folder() + u"out/"_qs + QLatin1String(output().target);
+        return folder() + u"out/"_s + QLatin1String(output().target);
     }
 
     [[nodiscard]] static bool isOverOldFile()
@@ -94,8 +95,7 @@ protected:
     {
         QFile::remove(target());
         if (isOverOldFile())
-            static_cast<void>(
-                files().write(u"out/"_qs + QLatin1String(output().target), oldContents)
+            static_cast<void>(files().write(u"out/"_s + QLatin1String(output().target), oldContents)
             );
     }
 
@@ -104,10 +104,10 @@ protected:
     {
         const auto outcome = run(lines(
             {QLatin1String(output().commands),
-             u"set tfImageDestinationFolder "_qs + folder() + u"out/"_qs,
-             u"set pubFileType "_qs + QLatin1String(output().type),
-             u"open "_qs + m_photo,
-             u"press hLoadImages"_qs}
+             u"set tfImageDestinationFolder "_s + folder() + u"out/"_s,
+             u"set pubFileType "_s + QLatin1String(output().type),
+             u"open "_s + m_photo,
+             u"press hLoadImages"_s}
         ));
         EXPECT_EQ(outcome.errors, QString());
         const QString line = outcome.lines.isEmpty() ? QString() : outcome.lines.last();
@@ -116,7 +116,7 @@ protected:
 
     [[nodiscard]] QStringList filesOfFolder() const
     {
-        return QDir(folder() + u"out"_qs)
+        return QDir(folder() + u"out"_s)
             .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
     }
 
@@ -128,7 +128,7 @@ protected:
 
     void expectNoHarm(const QString& word, const QStringList& log) const
     {
-        EXPECT_EQ(word, u"Failed"_qs);
+        EXPECT_EQ(word, u"Failed"_s);
         EXPECT_THAT(log.join(u'\n').toStdString(), testing::HasSubstr("No space left on device"));
         EXPECT_EQ(
             filesOfFolder(),
@@ -148,8 +148,8 @@ TEST_P(FullDiskAtEachCall, FailsAndLeavesTheOldFileAlone)
     int calls = 0;
     {
         prepareTarget();
-        const InjectedFaults none(folder() + u"out/"_qs, plan(0, false));
-        ASSERT_EQ(wordOfRun(), u"OK"_qs);
+        const InjectedFaults none(folder() + u"out/"_s, plan(0, false));
+        ASSERT_EQ(wordOfRun(), u"OK"_s);
         calls = none.calls();
         ASSERT_GE(calls, 3);
         ASSERT_EQ(filesOfFolder(), QStringList{QLatin1String(output().target)});
@@ -163,7 +163,7 @@ TEST_P(FullDiskAtEachCall, FailsAndLeavesTheOldFileAlone)
             );
             prepareTarget();
             const LogLines log;
-            const InjectedFaults faults(folder() + u"out/"_qs, plan(call, stays));
+            const InjectedFaults faults(folder() + u"out/"_s, plan(call, stays));
             const QString word = wordOfRun();
             expectNoHarm(word, log.lines());
         }

@@ -19,6 +19,7 @@
 
 #include <csignal>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::storage;
 using brenvaldo::test::CaseName;
 using brenvaldo::test::InjectedFaults;
@@ -51,7 +52,7 @@ class KilledBeforeTheRename : public testing::TestWithParam<KillCase>
 TEST_P(KilledBeforeTheRename, LeavesTheOldFileAndWhatTheNextRunRemoves)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.jpg"_qs, "old");
+    const QString path = folder.write(u"photo.jpg"_s, "old");
 
     EXPECT_EXIT(
         {
@@ -68,7 +69,7 @@ TEST_P(KilledBeforeTheRename, LeavesTheOldFileAndWhatTheNextRunRemoves)
     EXPECT_EQ(TemporaryFolder::read(path), "old");
     EXPECT_EQ(allEntries(folder.path()).size(), 2);
     removeAbandonedFiles(folder.path());
-    EXPECT_EQ(allEntries(folder.path()), QStringList{u"photo.jpg"_qs});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"photo.jpg"_s});
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -84,20 +85,20 @@ class FolderOfRuns : public brenvaldo::test::ScriptTest
 
 TEST_F(FolderOfRuns, IsRidOfAbandonedFilesWhenARunStarts)
 {
-    QDir(folder()).mkdir(u"out"_qs);
-    static_cast<void>(files().write(u"out/.brenvaldo-0123abcd"_qs, "half a picture"));
-    const QString photo = PhotoBuilder().write(folder() + u"photo.jpg"_qs);
+    QDir(folder()).mkdir(u"out"_s);
+    static_cast<void>(files().write(u"out/.brenvaldo-0123abcd"_s, "half a picture"));
+    const QString photo = PhotoBuilder().write(folder() + u"photo.jpg"_s);
 
     const auto outcome = run(lines(
-        {u"set pubFileManagementSelect 3"_qs,
-         u"set tfImageDestinationFolder "_qs + folder() + u"out/"_qs,
-         u"set pubFileType png"_qs,
-         u"open "_qs + photo,
-         u"press hLoadImages"_qs}
+        {u"set pubFileManagementSelect 3"_s,
+         u"set tfImageDestinationFolder "_s + folder() + u"out/"_s,
+         u"set pubFileType png"_s,
+         u"open "_s + photo,
+         u"press hLoadImages"_s}
     ));
 
-    EXPECT_EQ(outcome.lines, QStringList{u"result\t%1\tOK"_qs.arg(photo)});
-    EXPECT_EQ(allEntries(folder() + u"out"_qs), QStringList{u"photo.png"_qs});
+    EXPECT_EQ(outcome.lines, QStringList{u"result\t%1\tOK"_s.arg(photo)});
+    EXPECT_EQ(allEntries(folder() + u"out"_s), QStringList{u"photo.png"_s});
 }
 
 class OldFileSystem : public testing::Test
@@ -110,23 +111,22 @@ protected:
 
 TEST_F(OldFileSystem, MovesFilesAndFolders)
 {
-    const QString source = folder.write(u"source"_qs, "a");
-    createFolder(folder.path(u"tree/inner"_qs));
+    const QString source = folder.write(u"source"_s, "a");
+    createFolder(folder.path(u"tree/inner"_s));
 
-    EXPECT_TRUE(moveItem({.source = source, .target = folder.path(u"moved"_qs)}));
-    EXPECT_TRUE(
-        moveItem({.source = folder.path(u"tree"_qs), .target = folder.path(u"moved tree"_qs)})
+    EXPECT_TRUE(moveItem({.source = source, .target = folder.path(u"moved"_s)}));
+    EXPECT_TRUE(moveItem({.source = folder.path(u"tree"_s), .target = folder.path(u"moved tree"_s)})
     );
 
-    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"moved"_qs, u"moved tree"_qs}));
-    EXPECT_EQ(TemporaryFolder::read(folder.path(u"moved"_qs)), "a");
+    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"moved"_s, u"moved tree"_s}));
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"moved"_s)), "a");
 }
 
 TEST_F(OldFileSystem, ReplacesNothingThatAppearsMeanwhile)
 {
-    const QString path = folder.path(u"photo.jpg"_qs);
+    const QString path = folder.path(u"photo.jpg"_s);
     AtomicFile file(path);
-    ASSERT_EQ(folder.write(u"photo.jpg"_qs, "of another"), path);
+    ASSERT_EQ(folder.write(u"photo.jpg"_s, "of another"), path);
 
     EXPECT_FALSE(file.commit(AtomicFile::Existing::Kept));
 
@@ -135,24 +135,24 @@ TEST_F(OldFileSystem, ReplacesNothingThatAppearsMeanwhile)
 
 TEST_F(OldFileSystem, CopiesFiles)
 {
-    const QString source = folder.write(u"source"_qs, "a");
+    const QString source = folder.write(u"source"_s, "a");
 
-    EXPECT_TRUE(copyItem({.source = source, .target = folder.path(u"copy"_qs)}));
+    EXPECT_TRUE(copyItem({.source = source, .target = folder.path(u"copy"_s)}));
 
-    EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy"_qs)), "a");
-    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"copy"_qs, u"source"_qs}));
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy"_s)), "a");
+    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"copy"_s, u"source"_s}));
 }
 
 TEST(CopyItem, KeepsWhatAppearsAtTheTargetMeanwhile)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source"_qs, "a");
+    const QString source = folder.write(u"source"_s, "a");
     const InjectedFaults faults(folder.path(), {.atFlush = [&folder] {
-                                    static_cast<void>(folder.write(u"copy"_qs, "of another"));
+                                    static_cast<void>(folder.write(u"copy"_s, "of another"));
                                 }});
 
-    EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"copy"_qs)}));
+    EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"copy"_s)}));
 
-    EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy"_qs)), "of another");
-    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"copy"_qs, u"source"_qs}));
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy"_s)), "of another");
+    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"copy"_s, u"source"_s}));
 }

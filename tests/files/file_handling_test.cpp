@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::files;
 using namespace brenvaldo::test;
 namespace platform = brenvaldo::platform;
@@ -32,44 +33,44 @@ QStringList allEntries(const QString& folder)
 
 TEST(FileResult, HasTheseTexts)
 {
-    EXPECT_EQ(text(FileResult::Ok), u"OK"_qs);
-    EXPECT_EQ(text(FileResult::Failed), u"Failed"_qs);
-    EXPECT_EQ(text(FileResult::NotCreated), u"FAILED"_qs);
-    EXPECT_EQ(text(FileResult::Exists), u"EXISTS"_qs);
-    EXPECT_EQ(text(FileResult::Success), u"Success"_qs);
-    EXPECT_EQ(text(FileResult::No), u"NO"_qs);
+    EXPECT_EQ(text(FileResult::Ok), u"OK"_s);
+    EXPECT_EQ(text(FileResult::Failed), u"Failed"_s);
+    EXPECT_EQ(text(FileResult::NotCreated), u"FAILED"_s);
+    EXPECT_EQ(text(FileResult::Exists), u"EXISTS"_s);
+    EXPECT_EQ(text(FileResult::Success), u"Success"_s);
+    EXPECT_EQ(text(FileResult::No), u"NO"_s);
 }
 
 TEST(CreateDirectory, MakesTheFoldersAroundItToo)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(cNSFileHandling::hCreateDirectory(folder.path(u"a/b"_qs)), FileResult::Ok);
-    EXPECT_EQ(cNSFileHandling::hCreateDirectory(folder.path(u"a/b"_qs)), FileResult::Exists);
+    EXPECT_EQ(cNSFileHandling::hCreateDirectory(folder.path(u"a/b"_s)), FileResult::Ok);
+    EXPECT_EQ(cNSFileHandling::hCreateDirectory(folder.path(u"a/b"_s)), FileResult::Exists);
 
-    EXPECT_TRUE(QFileInfo(folder.path(u"a/b"_qs)).isDir());
+    EXPECT_TRUE(QFileInfo(folder.path(u"a/b"_s)).isDir());
 }
 
 TEST(CreateDirectory, AnswersExistsForAFile)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(cNSFileHandling::hCreateDirectory(folder.write(u"file"_qs, "")), FileResult::Exists);
+    EXPECT_EQ(cNSFileHandling::hCreateDirectory(folder.write(u"file"_s, "")), FileResult::Exists);
 }
 
 TEST(CreateDirectory, AnswersFailedBelowAFile)
 {
     const TemporaryFolder folder;
-    const QString file = folder.write(u"file"_qs, "");
+    const QString file = folder.write(u"file"_s, "");
 
-    EXPECT_EQ(cNSFileHandling::hCreateDirectory(file + u"/inner"_qs), FileResult::NotCreated);
+    EXPECT_EQ(cNSFileHandling::hCreateDirectory(file + u"/inner"_s), FileResult::NotCreated);
 }
 
 TEST(CopyFileTo, ReplacesAnExistingTarget)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source.jpg"_qs, "new");
-    const QString target = folder.write(u"target.jpg"_qs, "old");
+    const QString source = folder.write(u"source.jpg"_s, "new");
+    const QString target = folder.write(u"target.jpg"_s, "old");
 
     EXPECT_EQ(cNSFileHandling::hCopyFileTo({.source = source, .target = target}), FileResult::Ok);
 
@@ -80,10 +81,10 @@ TEST(CopyFileTo, ReplacesAnExistingTarget)
 TEST(CopyFileTo, LosesTheOldFileEvenWhenTheCopyFails)
 {
     const TemporaryFolder folder;
-    const QString target = folder.write(u"target.jpg"_qs, "old");
+    const QString target = folder.write(u"target.jpg"_s, "old");
 
     EXPECT_EQ(
-        cNSFileHandling::hCopyFileTo({.source = folder.path(u"missing"_qs), .target = target}),
+        cNSFileHandling::hCopyFileTo({.source = folder.path(u"missing"_s), .target = target}),
         FileResult::Failed
     );
 
@@ -93,8 +94,8 @@ TEST(CopyFileTo, LosesTheOldFileEvenWhenTheCopyFails)
 TEST(CopyFileTo, CreatesAMissingFolder)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source.jpg"_qs, "a");
-    const QString target = folder.path(u"new/deep/target.jpg"_qs);
+    const QString source = folder.write(u"source.jpg"_s, "a");
+    const QString target = folder.path(u"new/deep/target.jpg"_s);
 
     EXPECT_EQ(cNSFileHandling::hCopyFileTo({.source = source, .target = target}), FileResult::Ok);
 
@@ -104,7 +105,7 @@ TEST(CopyFileTo, CreatesAMissingFolder)
 TEST(CopyFileTo, DeletesTheFileWhenSourceAndTargetAreOne)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.jpg"_qs, "a");
+    const QString path = folder.write(u"photo.jpg"_s, "a");
 
     EXPECT_EQ(cNSFileHandling::hCopyFileTo({.source = path, .target = path}), FileResult::Failed);
 
@@ -114,58 +115,58 @@ TEST(CopyFileTo, DeletesTheFileWhenSourceAndTargetAreOne)
 TEST(CopyFileTo, FailsWithoutAFolderForTheTarget)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source.jpg"_qs, "a");
+    const QString source = folder.write(u"source.jpg"_s, "a");
 
     EXPECT_EQ(
-        cNSFileHandling::hCopyFileTo({.source = source, .target = source + u"/a/b"_qs}),
+        cNSFileHandling::hCopyFileTo({.source = source, .target = source + u"/a/b"_s}),
         FileResult::Failed
     );
     EXPECT_EQ(
-        cNSFileHandling::hCopyFileTo({.source = source, .target = u"bare name"_qs}),
+        cNSFileHandling::hCopyFileTo({.source = source, .target = u"bare name"_s}),
         FileResult::Failed
     );
 
-    EXPECT_EQ(allEntries(folder.path()), QStringList{u"source.jpg"_qs});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"source.jpg"_s});
 }
 
 TEST(CopyFileTo, ReplacesAFolderThatStandsAtTheTarget)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source.jpg"_qs, "a");
-    platform::storage::createFolder(folder.path(u"target/inner"_qs));
+    const QString source = folder.write(u"source.jpg"_s, "a");
+    platform::storage::createFolder(folder.path(u"target/inner"_s));
 
     EXPECT_EQ(
-        cNSFileHandling::hCopyFileTo({.source = source, .target = folder.path(u"target"_qs)}),
+        cNSFileHandling::hCopyFileTo({.source = source, .target = folder.path(u"target"_s)}),
         FileResult::Ok
     );
 
-    EXPECT_EQ(TemporaryFolder::read(folder.path(u"target"_qs)), "a");
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"target"_s)), "a");
 }
 
 TEST(CopyFileTo, LeavesNoPartOfACopyOnAFullDisk)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source.jpg"_qs, QByteArray(100000, 'x'));
+    const QString source = folder.write(u"source.jpg"_s, QByteArray(100000, 'x'));
     {
         const FullDisk disk(4096);
         EXPECT_EQ(
-            cNSFileHandling::hCopyFileTo({.source = source, .target = folder.path(u"copy"_qs)}),
+            cNSFileHandling::hCopyFileTo({.source = source, .target = folder.path(u"copy"_s)}),
             FileResult::Failed
         );
     }
 
-    EXPECT_EQ(allEntries(folder.path()), QStringList{u"source.jpg"_qs});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"source.jpg"_s});
     EXPECT_EQ(TemporaryFolder::read(source).size(), 100000);
 }
 
 TEST(CopyFileTo, TakesNamesOfEveryKind)
 {
     const TemporaryFolder folder;
-    const QStringList names = {u"é ü 写真.jpg"_qs, u"a#b?c%20.jpg"_qs, QString(255, u'n')};
+    const QStringList names = {u"é ü 写真.jpg"_s, u"a#b?c%20.jpg"_s, QString(255, u'n')};
 
     for (const QString& name : names) {
         const QString source = folder.write(name, name.toUtf8());
-        const QString target = folder.path(u"copies/"_qs + name);
+        const QString target = folder.path(u"copies/"_s + name);
         EXPECT_EQ(
             cNSFileHandling::hCopyFileTo({.source = source, .target = target}), FileResult::Ok
         );
@@ -176,19 +177,19 @@ TEST(CopyFileTo, TakesNamesOfEveryKind)
 TEST(MoveFileTo, ReplacesAnExistingTarget)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source.jpg"_qs, "new");
-    const QString target = folder.write(u"target.jpg"_qs, "old");
+    const QString source = folder.write(u"source.jpg"_s, "new");
+    const QString target = folder.write(u"target.jpg"_s, "old");
 
     EXPECT_EQ(cNSFileHandling::hMoveFileTo({.source = source, .target = target}), FileResult::Ok);
 
-    EXPECT_EQ(allEntries(folder.path()), QStringList{u"target.jpg"_qs});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"target.jpg"_s});
     EXPECT_EQ(TemporaryFolder::read(target), "new");
 }
 
 TEST(MoveFileTo, DeletesTheFileWhenSourceAndTargetAreOne)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.jpg"_qs, "a");
+    const QString path = folder.write(u"photo.jpg"_s, "a");
 
     EXPECT_EQ(cNSFileHandling::hMoveFileTo({.source = path, .target = path}), FileResult::Failed);
 
@@ -198,8 +199,8 @@ TEST(MoveFileTo, DeletesTheFileWhenSourceAndTargetAreOne)
 TEST(AliasFileTo, MakesALinkToTheSource)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source.jpg"_qs, "new");
-    const QString target = folder.write(u"target.jpg"_qs, "old");
+    const QString source = folder.write(u"source.jpg"_s, "new");
+    const QString target = folder.write(u"target.jpg"_s, "old");
 
     EXPECT_EQ(cNSFileHandling::hAliasFileTo({.source = source, .target = target}), FileResult::Ok);
 
@@ -210,8 +211,8 @@ TEST(AliasFileTo, MakesALinkToTheSource)
 TEST(CopyFileToDest, MakesTheTargetAFolderAndFails)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source.jpg"_qs, "a");
-    const QString target = folder.path(u"a/target.jpg"_qs);
+    const QString source = folder.write(u"source.jpg"_s, "a");
+    const QString target = folder.path(u"a/target.jpg"_s);
 
     EXPECT_EQ(
         cNSFileHandling::hCopyFileToDest({.source = source, .target = target}), FileResult::Failed
@@ -224,30 +225,30 @@ TEST(CopyFileToDest, MakesTheTargetAFolderAndFails)
 TEST(CopyFolderTo, CopiesWithoutReplacing)
 {
     const TemporaryFolder folder;
-    platform::storage::createFolder(folder.path(u"source/inner"_qs));
-    const QString target = folder.path(u"target"_qs);
+    platform::storage::createFolder(folder.path(u"source/inner"_s));
+    const QString target = folder.path(u"target"_s);
 
     EXPECT_EQ(
-        cNSFileHandling::hCopyFolderTo({.source = folder.path(u"source"_qs), .target = target}),
+        cNSFileHandling::hCopyFolderTo({.source = folder.path(u"source"_s), .target = target}),
         FileResult::Success
     );
     EXPECT_EQ(
-        cNSFileHandling::hCopyFolderTo({.source = folder.path(u"source"_qs), .target = target}),
+        cNSFileHandling::hCopyFolderTo({.source = folder.path(u"source"_s), .target = target}),
         FileResult::Failed
     );
 
-    EXPECT_EQ(allEntries(target), QStringList{u"inner"_qs});
+    EXPECT_EQ(allEntries(target), QStringList{u"inner"_s});
 }
 
 TEST(CopyAppTo, DeletesASourceThatExists)
 {
     const TemporaryFolder folder;
-    platform::storage::createFolder(folder.path(u"source/inner"_qs));
-    static_cast<void>(folder.write(u"source/.hidden"_qs, "a"));
+    platform::storage::createFolder(folder.path(u"source/inner"_s));
+    static_cast<void>(folder.write(u"source/.hidden"_s, "a"));
 
     EXPECT_EQ(
         cNSFileHandling::hCopyAppTo(
-            {.source = folder.path(u"source"_qs), .target = folder.path(u"target"_qs)}
+            {.source = folder.path(u"source"_s), .target = folder.path(u"target"_s)}
         ),
         FileResult::Success
     );
@@ -258,47 +259,45 @@ TEST(CopyAppTo, DeletesASourceThatExists)
 TEST(CopyAppTo, CopiesTheFilesAroundASourceThatIsMissing)
 {
     const TemporaryFolder folder;
-    platform::storage::createFolder(folder.path(u"parent/inner"_qs));
-    platform::storage::createFolder(folder.path(u"target"_qs));
-    static_cast<void>(folder.write(u"parent/a"_qs, "a"));
-    static_cast<void>(folder.write(u"parent/b"_qs, "b"));
-    static_cast<void>(folder.write(u"parent/.hidden"_qs, "h"));
-    const QString kept = folder.write(u"target/b"_qs, "kept");
+    platform::storage::createFolder(folder.path(u"parent/inner"_s));
+    platform::storage::createFolder(folder.path(u"target"_s));
+    static_cast<void>(folder.write(u"parent/a"_s, "a"));
+    static_cast<void>(folder.write(u"parent/b"_s, "b"));
+    static_cast<void>(folder.write(u"parent/.hidden"_s, "h"));
+    const QString kept = folder.write(u"target/b"_s, "kept");
     QStringList logged;
     platform::setLogSink([&](const QString& line) { logged += line; });
 
     const FileResult result = cNSFileHandling::hCopyAppTo(
-        {.source = folder.path(u"parent/missing"_qs), .target = folder.path(u"target"_qs)}
+        {.source = folder.path(u"parent/missing"_s), .target = folder.path(u"target"_s)}
     );
     platform::setLogSink({});
 
     EXPECT_EQ(result, FileResult::Success);
-    EXPECT_EQ(
-        allEntries(folder.path(u"target"_qs)), (QStringList{u".hidden"_qs, u"a"_qs, u"b"_qs})
-    );
+    EXPECT_EQ(allEntries(folder.path(u"target"_s)), (QStringList{u".hidden"_s, u"a"_s, u"b"_s}));
     EXPECT_EQ(TemporaryFolder::read(kept), "kept");
     ASSERT_EQ(logged.size(), 1);
-    EXPECT_TRUE(logged.first().startsWith(u"Error Copying: "_qs));
+    EXPECT_TRUE(logged.first().startsWith(u"Error Copying: "_s));
 }
 
 TEST(TrashFile, AnswersByItsSuccess)
 {
     const TemporaryFolder folder;
-    const Environment data("XDG_DATA_HOME", folder.path(u"data"_qs).toUtf8());
-    const QString path = folder.write(u"photo.jpg"_qs, "a");
+    const Environment data("XDG_DATA_HOME", folder.path(u"data"_s).toUtf8());
+    const QString path = folder.write(u"photo.jpg"_s, "a");
 
     EXPECT_EQ(cNSFileHandling::hTrashFile(path), FileResult::Ok);
     EXPECT_EQ(cNSFileHandling::hTrashFile(path), FileResult::Failed);
 
-    EXPECT_TRUE(QFile::exists(folder.path(u"data/Trash/files/photo.jpg"_qs)));
+    EXPECT_TRUE(QFile::exists(folder.path(u"data/Trash/files/photo.jpg"_s)));
 }
 
 TEST(TrashFile, TakesALinkWhoseFileIsGone)
 {
     const TemporaryFolder folder;
-    const Environment data("XDG_DATA_HOME", folder.path(u"data"_qs).toUtf8());
-    const QString link = folder.path(u"alias"_qs);
-    QFile::link(folder.path(u"missing"_qs), link);
+    const Environment data("XDG_DATA_HOME", folder.path(u"data"_s).toUtf8());
+    const QString link = folder.path(u"alias"_s);
+    QFile::link(folder.path(u"missing"_s), link);
 
     EXPECT_EQ(cNSFileHandling::hTrashFile(link), FileResult::Ok);
 
@@ -308,48 +307,47 @@ TEST(TrashFile, TakesALinkWhoseFileIsGone)
 TEST(MoveFileTo, LeavesNoSecondCopyWhereTheSourceMustStay)
 {
     const TemporaryFolder folder;
-    const QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
+    const QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_s);
     setMode(shared.path(), 0777);
-    platform::storage::createFolder(folder.path(u"locked"_qs));
-    const QString source = folder.write(u"locked/source"_qs, "a");
+    platform::storage::createFolder(folder.path(u"locked"_s));
+    const QString source = folder.write(u"locked/source"_s, "a");
     setMode(source, 0644);
     setMode(folder.path(), 0755);
-    setMode(folder.path(u"locked"_qs), 0555);
+    setMode(folder.path(u"locked"_s), 0555);
     {
         const WithoutPrivileges user;
         EXPECT_EQ(
-            cNSFileHandling::hMoveFileTo({.source = source, .target = shared.filePath(u"moved"_qs)}
-            ),
+            cNSFileHandling::hMoveFileTo({.source = source, .target = shared.filePath(u"moved"_s)}),
             FileResult::Failed
         );
     }
 
     EXPECT_EQ(TemporaryFolder::read(source), "a");
     EXPECT_EQ(allEntries(shared.path()), QStringList());
-    setMode(folder.path(u"locked"_qs), 0755);
+    setMode(folder.path(u"locked"_s), 0755);
 }
 
 TEST(AddIconToFile, GivesTheFileItsIcon)
 {
     const TemporaryFolder folder;
-    const Environment data("XDG_DATA_HOME", folder.path(u"data"_qs).toUtf8());
+    const Environment data("XDG_DATA_HOME", folder.path(u"data"_s).toUtf8());
     const Environment path("PATH", folder.path().toUtf8());
-    const QString command = folder.write(u"gio"_qs, "#!/bin/sh\n");
+    const QString command = folder.write(u"gio"_s, "#!/bin/sh\n");
     setMode(command, 0755);
     QImage icon(3, 3, QImage::Format_RGB32);
     icon.fill(Qt::red);
 
-    cNSFileHandling::hAddIconToFile(folder.write(u"a.c-action"_qs, ""), icon);
+    cNSFileHandling::hAddIconToFile(folder.write(u"a.c-action"_s, ""), icon);
 
-    EXPECT_EQ(allEntries(folder.path(u"data/Brenvaldo/Icons"_qs)).size(), 1);
+    EXPECT_EQ(allEntries(folder.path(u"data/Brenvaldo/Icons"_s)).size(), 1);
 }
 
 TEST(DeleteFiles, IgnoresWhatIsMissing)
 {
     const TemporaryFolder folder;
     const QList<QUrl> files
-        = {QUrl::fromLocalFile(folder.path(u"missing"_qs)),
-           QUrl::fromLocalFile(folder.write(u"a b#c.jpg"_qs, ""))};
+        = {QUrl::fromLocalFile(folder.path(u"missing"_s)),
+           QUrl::fromLocalFile(folder.write(u"a b#c.jpg"_s, ""))};
 
     EXPECT_EQ(cNSFileHandling::hDeleteFiles(files), FileResult::Ok);
 
@@ -360,52 +358,52 @@ TEST(ShowInFinder, AsksTheDesktop)
 {
     DesktopRecorder desktop;
 
-    cNSFileHandling::hShowInFinder(desktop, u"/dir/"_qs);
+    cNSFileHandling::hShowInFinder(desktop, u"/dir/"_s);
 
-    EXPECT_EQ(desktop.revealed, QStringList{u"/dir/"_qs});
+    EXPECT_EQ(desktop.revealed, QStringList{u"/dir/"_s});
 }
 
 TEST(RenameFile, MovesToTheNewName)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"old.jpg"_qs, "a");
+    const QString path = folder.write(u"old.jpg"_s, "a");
 
-    cNSFileHandling::hRenameFile({.path = path, .name = u"new.jpg"_qs});
+    cNSFileHandling::hRenameFile({.path = path, .name = u"new.jpg"_s});
 
-    EXPECT_EQ(allEntries(folder.path()), QStringList{u"new.jpg"_qs});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"new.jpg"_s});
 }
 
 TEST(RenameFile, DoesNothingForNamesThatAreNoAddress)
 {
     const TemporaryFolder folder;
-    const QString plain = folder.write(u"plain.jpg"_qs, "a");
-    const QString blank = folder.write(u"a blank.jpg"_qs, "b");
+    const QString plain = folder.write(u"plain.jpg"_s, "a");
+    const QString blank = folder.write(u"a blank.jpg"_s, "b");
 
-    cNSFileHandling::hRenameFile({.path = plain, .name = u"with blank.jpg"_qs});
-    cNSFileHandling::hRenameFile({.path = plain, .name = u"é.jpg"_qs});
-    cNSFileHandling::hRenameFile({.path = plain, .name = u"100%.jpg"_qs});
-    cNSFileHandling::hRenameFile({.path = blank, .name = u"new.jpg"_qs});
+    cNSFileHandling::hRenameFile({.path = plain, .name = u"with blank.jpg"_s});
+    cNSFileHandling::hRenameFile({.path = plain, .name = u"é.jpg"_s});
+    cNSFileHandling::hRenameFile({.path = plain, .name = u"100%.jpg"_s});
+    cNSFileHandling::hRenameFile({.path = blank, .name = u"new.jpg"_s});
 
-    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"a blank.jpg"_qs, u"plain.jpg"_qs}));
+    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"a blank.jpg"_s, u"plain.jpg"_s}));
 }
 
 TEST(RenameFile, ReadsTheNameAsAnAddressDoes)
 {
     const TemporaryFolder folder;
 
-    cNSFileHandling::hRenameFile({.path = folder.write(u"a.jpg"_qs, "a"), .name = u"x%20y.jpg"_qs});
-    cNSFileHandling::hRenameFile({.path = folder.write(u"b.jpg"_qs, "b"), .name = u"z#1.jpg"_qs});
+    cNSFileHandling::hRenameFile({.path = folder.write(u"a.jpg"_s, "a"), .name = u"x%20y.jpg"_s});
+    cNSFileHandling::hRenameFile({.path = folder.write(u"b.jpg"_s, "b"), .name = u"z#1.jpg"_s});
 
-    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"x y.jpg"_qs, u"z"_qs}));
+    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"x y.jpg"_s, u"z"_s}));
 }
 
 TEST(RenameFile, LeavesAnExistingTarget)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"old.jpg"_qs, "a");
-    const QString taken = folder.write(u"new.jpg"_qs, "b");
+    const QString path = folder.write(u"old.jpg"_s, "a");
+    const QString taken = folder.write(u"new.jpg"_s, "b");
 
-    cNSFileHandling::hRenameFile({.path = path, .name = u"new.jpg"_qs});
+    cNSFileHandling::hRenameFile({.path = path, .name = u"new.jpg"_s});
 
     EXPECT_EQ(TemporaryFolder::read(path), "a");
     EXPECT_EQ(TemporaryFolder::read(taken), "b");
@@ -414,8 +412,8 @@ TEST(RenameFile, LeavesAnExistingTarget)
 TEST(RenameFile2, CopiesAndKeepsTheSource)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"old é.jpg"_qs, "a");
-    const QString target = folder.path(u"new é.jpg"_qs);
+    const QString source = folder.write(u"old é.jpg"_s, "a");
+    const QString target = folder.path(u"new é.jpg"_s);
 
     cNSFileHandling::hRenameFile2({.source = source, .target = target});
 
@@ -426,8 +424,8 @@ TEST(RenameFile2, CopiesAndKeepsTheSource)
 TEST(RenameFile2, LeavesAnExistingTargetWithoutASign)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"old.jpg"_qs, "a");
-    const QString target = folder.write(u"new.jpg"_qs, "b");
+    const QString source = folder.write(u"old.jpg"_s, "a");
+    const QString target = folder.write(u"new.jpg"_s, "b");
 
     cNSFileHandling::hRenameFile2({.source = source, .target = target});
 
@@ -440,6 +438,6 @@ TEST(CheckIfFileExist, AnswersOkOrNo)
     const TemporaryFolder folder;
 
     EXPECT_EQ(cNSFileHandling::hCheckIfFileExist(folder.path()), FileResult::Ok);
-    EXPECT_EQ(cNSFileHandling::hCheckIfFileExist(folder.path(u"a"_qs)), FileResult::No);
-    EXPECT_EQ(cNSFileHandling::hCheckIfFileExist(u""_qs), FileResult::No);
+    EXPECT_EQ(cNSFileHandling::hCheckIfFileExist(folder.path(u"a"_s)), FileResult::No);
+    EXPECT_EQ(cNSFileHandling::hCheckIfFileExist(u""_s), FileResult::No);
 }

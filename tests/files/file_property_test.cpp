@@ -11,6 +11,7 @@
 
 #include <sys/xattr.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::files;
 using brenvaldo::test::TemporaryFolder;
 
@@ -29,13 +30,13 @@ void setModificationDate(const QString& path, const QDateTime& date)
 TEST(FileDate, MayStandInAFileName)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a.jpg"_qs, "");
+    const QString path = folder.write(u"a.jpg"_s, "");
     setModificationDate(path, QDateTime({2026, 11, 15}, {10, 44, 33}));
 
-    for (const QString& mode : {u"0"_qs, u"1"_qs, u"2"_qs}) {
+    for (const QString& mode : {u"0"_s, u"1"_s, u"2"_s}) {
         cNSFileHandling files;
         EXPECT_EQ(
-            files.hGetModificationDateFile({.path = path, .mode = mode}), u"15-Nov-2026T10-44-33"_qs
+            files.hGetModificationDateFile({.path = path, .mode = mode}), u"15-Nov-2026T10-44-33"_s
         );
     }
 }
@@ -43,11 +44,11 @@ TEST(FileDate, MayStandInAFileName)
 TEST(FileDate, IsTheDayOfCreation)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a.jpg"_qs, "");
+    const QString path = folder.write(u"a.jpg"_s, "");
     setModificationDate(path, QDateTime({2001, 2, 3}, {4, 5, 6}));
     cNSFileHandling files;
 
-    const QString text = files.hGetCreationDateFile({.path = path, .mode = u"0"_qs});
+    const QString text = files.hGetCreationDateFile({.path = path, .mode = u"0"_s});
 
     EXPECT_TRUE(text.contains(QString::number(QDate::currentDate().year()))) << text.toStdString();
 }
@@ -55,29 +56,29 @@ TEST(FileDate, IsTheDayOfCreation)
 TEST(FileDate, AnswersThePreviousTextInOtherModes)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a.jpg"_qs, "");
+    const QString path = folder.write(u"a.jpg"_s, "");
     setModificationDate(path, QDateTime({2026, 11, 15}, {10, 44, 33}));
     cNSFileHandling files;
 
-    EXPECT_EQ(files.hGetModificationDateFile({.path = path, .mode = u"3"_qs}), u""_qs);
+    EXPECT_EQ(files.hGetModificationDateFile({.path = path, .mode = u"3"_s}), u""_s);
 
-    files.hGetModificationDateFile({.path = path, .mode = u"0"_qs});
+    files.hGetModificationDateFile({.path = path, .mode = u"0"_s});
     EXPECT_EQ(
-        files.hGetCreationDateFile({.path = path, .mode = u"3"_qs}), u"15-Nov-2026T10-44-33"_qs
+        files.hGetCreationDateFile({.path = path, .mode = u"3"_s}), u"15-Nov-2026T10-44-33"_s
     );
 }
 
 TEST(FileDate, IsEmptyForAMissingFile)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a.jpg"_qs, "");
+    const QString path = folder.write(u"a.jpg"_s, "");
     cNSFileHandling files;
-    ASSERT_NE(files.hGetCreationDateFile({.path = path, .mode = u"0"_qs}), u""_qs);
+    ASSERT_NE(files.hGetCreationDateFile({.path = path, .mode = u"0"_s}), u""_s);
 
     EXPECT_EQ(
-        files.hGetCreationDateFile({.path = folder.path(u"missing"_qs), .mode = u"0"_qs}), u""_qs
+        files.hGetCreationDateFile({.path = folder.path(u"missing"_s), .mode = u"0"_s}), u""_s
     );
-    EXPECT_EQ(files.hGetCreationDateFile({.path = path, .mode = u"3"_qs}), u""_qs);
+    EXPECT_EQ(files.hGetCreationDateFile({.path = path, .mode = u"3"_s}), u""_s);
 }
 
 TEST(FileSize, IsTheTextOfTheByteCount)
@@ -85,8 +86,8 @@ TEST(FileSize, IsTheTextOfTheByteCount)
     const TemporaryFolder folder;
     cNSFileHandling files;
 
-    EXPECT_EQ(files.getFileSize(folder.write(u"a"_qs, QByteArray(5500, 'x'))), u"6 KB"_qs);
-    EXPECT_EQ(files.getFileSize(folder.write(u"b"_qs, "")), u"Zero KB"_qs);
+    EXPECT_EQ(files.getFileSize(folder.write(u"a"_s, QByteArray(5500, 'x'))), u"6 KB"_s);
+    EXPECT_EQ(files.getFileSize(folder.write(u"b"_s, "")), u"Zero KB"_s);
 }
 
 TEST(FileSize, KeepsTheLastTextForAMissingFile)
@@ -94,52 +95,52 @@ TEST(FileSize, KeepsTheLastTextForAMissingFile)
     const TemporaryFolder folder;
     cNSFileHandling files;
 
-    EXPECT_EQ(files.getFileSize(folder.path(u"missing"_qs)), u""_qs);
+    EXPECT_EQ(files.getFileSize(folder.path(u"missing"_s)), u""_s);
 
-    files.getFileSize(folder.write(u"a"_qs, "1"));
-    EXPECT_EQ(files.getFileSize(folder.path(u"missing"_qs)), u"1 byte"_qs);
+    files.getFileSize(folder.write(u"a"_s, "1"));
+    EXPECT_EQ(files.getFileSize(folder.path(u"missing"_s)), u"1 byte"_s);
 }
 
 TEST(FileType, IsTheIdentifierOfTheExtension)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(cNSFileHandling::hGetFileType(folder.write(u"a.JPG"_qs, "")), u"public.jpeg"_qs);
-    EXPECT_EQ(cNSFileHandling::hGetFileType(folder.write(u"b"_qs, "")), u"public.data"_qs);
-    EXPECT_EQ(cNSFileHandling::hGetFileType(folder.path()), u"public.folder"_qs);
+    EXPECT_EQ(cNSFileHandling::hGetFileType(folder.write(u"a.JPG"_s, "")), u"public.jpeg"_s);
+    EXPECT_EQ(cNSFileHandling::hGetFileType(folder.write(u"b"_s, "")), u"public.data"_s);
+    EXPECT_EQ(cNSFileHandling::hGetFileType(folder.path()), u"public.folder"_s);
 }
 
 TEST(FileType, IsEmptyForAMissingFile)
 {
-    EXPECT_EQ(cNSFileHandling::hGetFileType(u"/nowhere/a.jpg"_qs), u""_qs);
+    EXPECT_EQ(cNSFileHandling::hGetFileType(u"/nowhere/a.jpg"_s), u""_s);
 }
 
 TEST(FileLabel, IsNoneForAMissingFile)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(DVFileProperty::dvGetFileLabel(folder.path(u"missing"_qs)), u"none"_qs);
+    EXPECT_EQ(DVFileProperty::dvGetFileLabel(folder.path(u"missing"_s)), u"none"_s);
 }
 
 TEST(FileLabel, IsANumber)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a"_qs, "");
-    EXPECT_EQ(DVFileProperty::dvGetFileLabel(path), u"0"_qs);
+    const QString path = folder.write(u"a"_s, "");
+    EXPECT_EQ(DVFileProperty::dvGetFileLabel(path), u"0"_s);
 
     ASSERT_EQ(::setxattr(path.toUtf8().constData(), "user.kMDItemFSLabel", "6", 1, 0), 0);
 
-    EXPECT_EQ(DVFileProperty::dvGetFileLabel(path), u"6"_qs);
+    EXPECT_EQ(DVFileProperty::dvGetFileLabel(path), u"6"_s);
 }
 
 TEST(FileNameProps, AreNameExtensionAndBareName)
 {
     EXPECT_EQ(
-        DVFileProperty::hGetFileNameProps(u"/dir/a.b.jpg"_qs),
-        (QStringList{u"a.b.jpg"_qs, u"jpg"_qs, u"a.b"_qs})
+        DVFileProperty::hGetFileNameProps(u"/dir/a.b.jpg"_s),
+        (QStringList{u"a.b.jpg"_s, u"jpg"_s, u"a.b"_s})
     );
     EXPECT_EQ(
-        DVFileProperty::hGetFileNameProps(u"/dir/name"_qs),
-        (QStringList{u"name"_qs, u""_qs, u"name"_qs})
+        DVFileProperty::hGetFileNameProps(u"/dir/name"_s),
+        (QStringList{u"name"_s, u""_s, u"name"_s})
     );
 }

@@ -14,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::files;
 using brenvaldo::platform::RangeError;
 using brenvaldo::test::LogLines;
@@ -28,14 +29,14 @@ StripSettings nothingToStrip()
 {
     return {
         .count = {},
-        .side = u"0"_qs,
+        .side = u"0"_s,
         .character = {},
         .start = {},
         .stop = {},
         .fragment = {},
-        .removeMode = u"0"_qs,
-        .allowedMode = u"0"_qs,
-        .preserve = u"1"_qs};
+        .removeMode = u"0"_s,
+        .allowedMode = u"0"_s,
+        .preserve = u"1"_s};
 }
 
 QString stripped(
@@ -66,15 +67,15 @@ class StripFragment : public testing::TestWithParam<FragmentCase>
 QString text(const char16_t* literal) { return QString::fromUtf16(literal); }
 
 /// "é" as one character, and as "e" with an accent that follows.
-const QString composed = u"\u00e9"_qs;
-const QString decomposed = u"e\u0301"_qs;
+const QString composed = u"\u00e9"_s;
+const QString decomposed = u"e\u0301"_s;
 
 ReplaceSettings nothingToReplace()
 {
     return {
-        .caseMode = u"0"_qs,
-        .start = u"0"_qs,
-        .stop = u"0"_qs,
+        .caseMode = u"0"_s,
+        .start = u"0"_s,
+        .stop = u"0"_s,
         .character = {},
         .find = {},
         .replacement = {}};
@@ -92,13 +93,13 @@ protected:
                 QDateTime({2026, 11, 15}, {10, 44, 33}), QFileDevice::FileModificationTime
             ))
             qFatal("the date can't be set");
-        creation = cNSFileHandling().hGetCreationDateFile({.path = path, .mode = u"0"_qs});
+        creation = cNSFileHandling().hGetCreationDateFile({.path = path, .mode = u"0"_s});
     }
 
     TemporaryFolder folder;
-    QString path = folder.write(u"a.txt"_qs, "12345");
+    QString path = folder.write(u"a.txt"_s, "12345");
     QString creation;
-    const QString modification = u"15-Nov-2026T10-44-33"_qs;
+    const QString modification = u"15-Nov-2026T10-44-33"_s;
 };
 
 } // namespace
@@ -106,69 +107,69 @@ protected:
 TEST(StripCount, DropsAtTheStartOrTheEnd)
 {
     StripSettings settings = nothingToStrip();
-    settings.count = u"3"_qs;
-    EXPECT_EQ(Text::hFileNameStripper(u"abcd.jpg"_qs, settings), u"d.jpg"_qs);
-    settings.side = u"1"_qs;
-    EXPECT_EQ(Text::hFileNameStripper(u"abcd.jpg"_qs, settings), u"a.jpg"_qs);
-    settings.side = u"7"_qs;
-    EXPECT_EQ(Text::hFileNameStripper(u"abcd.jpg"_qs, settings), u"a.jpg"_qs);
+    settings.count = u"3"_s;
+    EXPECT_EQ(Text::hFileNameStripper(u"abcd.jpg"_s, settings), u"d.jpg"_s);
+    settings.side = u"1"_s;
+    EXPECT_EQ(Text::hFileNameStripper(u"abcd.jpg"_s, settings), u"a.jpg"_s);
+    settings.side = u"7"_s;
+    EXPECT_EQ(Text::hFileNameStripper(u"abcd.jpg"_s, settings), u"a.jpg"_s);
 }
 
 TEST(StripCount, NeverEmptiesAName)
 {
-    EXPECT_EQ(stripped(u"abc.jpg"_qs, &StripSettings::count, u"3"_qs, u"1"_qs), u"abc.jpg"_qs);
-    EXPECT_EQ(stripped(u"abc.jpg"_qs, &StripSettings::count, u"9"_qs, u"1"_qs), u"abc.jpg"_qs);
-    EXPECT_EQ(stripped(u"abc.jpg"_qs, &StripSettings::count, u"6"_qs, u"0"_qs), u"g"_qs);
+    EXPECT_EQ(stripped(u"abc.jpg"_s, &StripSettings::count, u"3"_s, u"1"_s), u"abc.jpg"_s);
+    EXPECT_EQ(stripped(u"abc.jpg"_s, &StripSettings::count, u"9"_s, u"1"_s), u"abc.jpg"_s);
+    EXPECT_EQ(stripped(u"abc.jpg"_s, &StripSettings::count, u"6"_s, u"0"_s), u"g"_s);
 }
 
 TEST(StripCount, TellsNotSetByTheText)
 {
-    for (const QString& count : {u""_qs, u"0"_qs, u"00"_qs, u"x"_qs})
-        EXPECT_EQ(stripped(u"abcd.jpg"_qs, &StripSettings::count, count, u"1"_qs), u"abcd.jpg"_qs);
+    for (const QString& count : {u""_s, u"0"_s, u"00"_s, u"x"_s})
+        EXPECT_EQ(stripped(u"abcd.jpg"_s, &StripSettings::count, count, u"1"_s), u"abcd.jpg"_s);
 }
 
 TEST(StripCount, RaisesBelowZero)
 {
-    EXPECT_THROW(stripped(u"abcd.jpg"_qs, &StripSettings::count, u"-1"_qs, u"1"_qs), RangeError);
+    EXPECT_THROW(stripped(u"abcd.jpg"_s, &StripSettings::count, u"-1"_s, u"1"_s), RangeError);
 }
 
 TEST(StripCharacter, RemovesTheWholeText)
 {
     EXPECT_EQ(
-        stripped(u"a_b__c_d.jpg"_qs, &StripSettings::character, u"__"_qs, u"1"_qs), u"a_bc_d.jpg"_qs
+        stripped(u"a_b__c_d.jpg"_s, &StripSettings::character, u"__"_s, u"1"_s), u"a_bc_d.jpg"_s
     );
-    EXPECT_EQ(stripped(u"aXbx.Xx"_qs, &StripSettings::character, u"X"_qs, u"1"_qs), u"abx.Xx"_qs);
-    EXPECT_EQ(stripped(u"aXbx.Xx"_qs, &StripSettings::character, u"X"_qs, u"0"_qs), u"abx.x"_qs);
+    EXPECT_EQ(stripped(u"aXbx.Xx"_s, &StripSettings::character, u"X"_s, u"1"_s), u"abx.Xx"_s);
+    EXPECT_EQ(stripped(u"aXbx.Xx"_s, &StripSettings::character, u"X"_s, u"0"_s), u"abx.x"_s);
 }
 
 TEST(StripV2, TakesAListOfTexts)
 {
     StripSettings settings = nothingToStrip();
-    settings.character = u"a;b,c~d"_qs;
-    EXPECT_EQ(Text::hFileNameStripperV2(u"ab,c~dx.jpg"_qs, settings, u"0"_qs), u"x.jpg"_qs);
-    EXPECT_EQ(Text::hFileNameStripperV2(u"a;bxc~d.jpg"_qs, settings, u"1"_qs), u"x.jpg"_qs);
-    EXPECT_EQ(Text::hFileNameStripperV2(u"da;b,cx.jpg"_qs, settings, u"2"_qs), u"x.jpg"_qs);
-    settings.character = u"b;;ac"_qs;
-    EXPECT_EQ(Text::hFileNameStripperV2(u"abcx.jpg"_qs, settings, u"0"_qs), u"x.jpg"_qs);
+    settings.character = u"a;b,c~d"_s;
+    EXPECT_EQ(Text::hFileNameStripperV2(u"ab,c~dx.jpg"_s, settings, u"0"_s), u"x.jpg"_s);
+    EXPECT_EQ(Text::hFileNameStripperV2(u"a;bxc~d.jpg"_s, settings, u"1"_s), u"x.jpg"_s);
+    EXPECT_EQ(Text::hFileNameStripperV2(u"da;b,cx.jpg"_s, settings, u"2"_s), u"x.jpg"_s);
+    settings.character = u"b;;ac"_s;
+    EXPECT_EQ(Text::hFileNameStripperV2(u"abcx.jpg"_s, settings, u"0"_s), u"x.jpg"_s);
 }
 
 TEST(StripRange, TakesTheSecondNumberAsALength)
 {
     StripSettings settings = nothingToStrip();
-    settings.start = u"3"_qs;
-    settings.stop = u"5"_qs;
-    EXPECT_EQ(Text::hFileNameStripper(u"abcdefghij"_qs, settings), u"abghij."_qs);
-    EXPECT_EQ(Text::hFileNameStripper(u"abcdefgcdefh.x"_qs, settings), u"abgh.x"_qs);
-    settings.start = u"1"_qs;
-    EXPECT_EQ(Text::hFileNameStripper(u"abcdefghij.x"_qs, settings), u"efghij.x"_qs);
+    settings.start = u"3"_s;
+    settings.stop = u"5"_s;
+    EXPECT_EQ(Text::hFileNameStripper(u"abcdefghij"_s, settings), u"abghij."_s);
+    EXPECT_EQ(Text::hFileNameStripper(u"abcdefgcdefh.x"_s, settings), u"abgh.x"_s);
+    settings.start = u"1"_s;
+    EXPECT_EQ(Text::hFileNameStripper(u"abcdefghij.x"_s, settings), u"efghij.x"_s);
 }
 
 TEST(StripRange, RaisesBeyondTheEnd)
 {
     StripSettings settings = nothingToStrip();
-    settings.start = u"8"_qs;
-    settings.stop = u"9"_qs;
-    EXPECT_THROW(Text::hFileNameStripper(u"abcdefghij.jpg"_qs, settings), RangeError);
+    settings.start = u"8"_s;
+    settings.stop = u"9"_s;
+    EXPECT_THROW(Text::hFileNameStripper(u"abcdefghij.jpg"_s, settings), RangeError);
 }
 
 TEST(StripRange, IsLeftOutUnlessBothNumbersAreSetAndInOrder)
@@ -180,19 +181,19 @@ TEST(StripRange, IsLeftOutUnlessBothNumbersAreSetAndInOrder)
         QString result;
     };
     const QList<Case> cases{
-        {u""_qs, u"3"_qs, u"abcdef.x"_qs},
-        {u"0"_qs, u"3"_qs, u"abcdef.x"_qs},
-        {u"1"_qs, u""_qs, u"abcdef.x"_qs},
-        {u"-5"_qs, u"0"_qs, u"abcdef.x"_qs},
-        {u"3"_qs, u"2"_qs, u"abcdef.x"_qs},
-        {u"2"_qs, u"2"_qs, u"acdef.x"_qs},
-        {u"1"_qs, u"6"_qs, u"abcdef.x"_qs},
-        {u"1"_qs, u"5"_qs, u"ef.x"_qs}};
+        {u""_s, u"3"_s, u"abcdef.x"_s},
+        {u"0"_s, u"3"_s, u"abcdef.x"_s},
+        {u"1"_s, u""_s, u"abcdef.x"_s},
+        {u"-5"_s, u"0"_s, u"abcdef.x"_s},
+        {u"3"_s, u"2"_s, u"abcdef.x"_s},
+        {u"2"_s, u"2"_s, u"acdef.x"_s},
+        {u"1"_s, u"6"_s, u"abcdef.x"_s},
+        {u"1"_s, u"5"_s, u"ef.x"_s}};
     for (const Case& each : cases) {
         StripSettings settings = nothingToStrip();
         settings.start = each.start;
         settings.stop = each.stop;
-        EXPECT_EQ(Text::hFileNameStripper(u"abcdef.x"_qs, settings), each.result)
+        EXPECT_EQ(Text::hFileNameStripper(u"abcdef.x"_s, settings), each.result)
             << each.start.toStdString() << " to " << each.stop.toStdString();
     }
 }
@@ -200,15 +201,15 @@ TEST(StripRange, IsLeftOutUnlessBothNumbersAreSetAndInOrder)
 TEST(StripRange, MeasuresTheBaseThoughItCutsTheWholeName)
 {
     StripSettings settings = nothingToStrip();
-    settings.preserve = u"0"_qs;
-    settings.start = u"1"_qs;
-    settings.stop = u"3"_qs;
-    EXPECT_EQ(Text::hFileNameStripper(u"abc.jpeg"_qs, settings), u"abc.jpeg"_qs);
-    EXPECT_EQ(Text::hFileNameStripper(u"abcd.jpeg"_qs, settings), u"cd.jpeg"_qs);
+    settings.preserve = u"0"_s;
+    settings.start = u"1"_s;
+    settings.stop = u"3"_s;
+    EXPECT_EQ(Text::hFileNameStripper(u"abc.jpeg"_s, settings), u"abc.jpeg"_s);
+    EXPECT_EQ(Text::hFileNameStripper(u"abcd.jpeg"_s, settings), u"cd.jpeg"_s);
     // The count has shortened the name, not the length that is measured.
-    settings.count = u"6"_qs;
-    settings.stop = u"4"_qs;
-    EXPECT_THROW(Text::hFileNameStripper(u"abcde.jp"_qs, settings), RangeError);
+    settings.count = u"6"_s;
+    settings.stop = u"4"_s;
+    EXPECT_THROW(Text::hFileNameStripper(u"abcde.jp"_s, settings), RangeError);
 }
 
 TEST_P(StripFragment, RemovesWhatStandsAtIt)
@@ -216,7 +217,7 @@ TEST_P(StripFragment, RemovesWhatStandsAtIt)
     const FragmentCase& fragmentCase = GetParam();
     const LogLines log;
     StripSettings settings = nothingToStrip();
-    settings.fragment = u"-"_qs;
+    settings.fragment = u"-"_s;
     settings.removeMode = text(fragmentCase.mode);
     settings.preserve = text(fragmentCase.preserve);
     EXPECT_EQ(
@@ -249,12 +250,12 @@ TEST(StripFragmentLog, TellsThePieceWhereTheExtensionIsKept)
 {
     const LogLines log;
     StripSettings settings = nothingToStrip();
-    settings.fragment = u"-"_qs;
-    settings.removeMode = u"1"_qs;
-    Text::hFileNameStripper(u"ab-cd.jpg"_qs, settings);
-    EXPECT_EQ(log.lines(), QStringList{u"cd"_qs});
-    settings.preserve = u"0"_qs;
-    Text::hFileNameStripper(u"ab-cd.jpg"_qs, settings);
+    settings.fragment = u"-"_s;
+    settings.removeMode = u"1"_s;
+    Text::hFileNameStripper(u"ab-cd.jpg"_s, settings);
+    EXPECT_EQ(log.lines(), QStringList{u"cd"_s});
+    settings.preserve = u"0"_s;
+    Text::hFileNameStripper(u"ab-cd.jpg"_s, settings);
     EXPECT_EQ(log.lines().size(), 1);
 }
 
@@ -263,15 +264,15 @@ TEST(StripAllowed, KeepsLettersMarksAndDigits)
     const auto allowed = [](const QString& name, const QString& mode, const QString& preserve) {
         return stripped(name, &StripSettings::allowedMode, mode, preserve);
     };
-    EXPECT_EQ(allowed(u"a1-é_9 b.jpg"_qs, u"1"_qs, u"1"_qs), u"a1é9b.jpg"_qs);
-    EXPECT_EQ(allowed(u"a1-é_9 b.jpg"_qs, u"2"_qs, u"1"_qs), u"aéb.jpg"_qs);
-    EXPECT_EQ(allowed(u"a1-é_9 b.jpg"_qs, u"0"_qs, u"1"_qs), u"a1-é_9 b.jpg"_qs);
-    EXPECT_EQ(allowed(u"a.b"_qs, u"1"_qs, u"0"_qs), u"ab"_qs);
-    EXPECT_EQ(allowed(u"..."_qs, u"1"_qs, u"0"_qs), u"..."_qs);
-    EXPECT_EQ(allowed(u"123.jpg"_qs, u"2"_qs, u"1"_qs), u"123.jpg"_qs);
+    EXPECT_EQ(allowed(u"a1-é_9 b.jpg"_s, u"1"_s, u"1"_s), u"a1é9b.jpg"_s);
+    EXPECT_EQ(allowed(u"a1-é_9 b.jpg"_s, u"2"_s, u"1"_s), u"aéb.jpg"_s);
+    EXPECT_EQ(allowed(u"a1-é_9 b.jpg"_s, u"0"_s, u"1"_s), u"a1-é_9 b.jpg"_s);
+    EXPECT_EQ(allowed(u"a.b"_s, u"1"_s, u"0"_s), u"ab"_s);
+    EXPECT_EQ(allowed(u"..."_s, u"1"_s, u"0"_s), u"..."_s);
+    EXPECT_EQ(allowed(u"123.jpg"_s, u"2"_s, u"1"_s), u"123.jpg"_s);
     EXPECT_EQ(
-        allowed(u"x\u0915\u093f\U0001d49c\U0001f600"_qs, u"2"_qs, u"0"_qs),
-        u"x\u0915\u093f\U0001d49c"_qs
+        allowed(u"x\u0915\u093f\U0001d49c\U0001f600"_s, u"2"_s, u"0"_s),
+        u"x\u0915\u093f\U0001d49c"_s
     );
 }
 
@@ -279,27 +280,27 @@ TEST(Strip, TakesItsStepsInOrder)
 {
     const LogLines log;
     const StripSettings settings{
-        .count = u"2"_qs,
-        .side = u"0"_qs,
-        .character = u"x"_qs,
-        .start = u"1"_qs,
-        .stop = u"3"_qs,
-        .fragment = u"-"_qs,
-        .removeMode = u"2"_qs,
-        .allowedMode = u"2"_qs,
-        .preserve = u"1"_qs};
+        .count = u"2"_s,
+        .side = u"0"_s,
+        .character = u"x"_s,
+        .start = u"1"_s,
+        .stop = u"3"_s,
+        .fragment = u"-"_s,
+        .removeMode = u"2"_s,
+        .allowedMode = u"2"_s,
+        .preserve = u"1"_s};
     // "12axbcd-e1f": count "axbcd-e1f", character "abcd-e1f", range "cd-e1f", fragment "e1f".
-    EXPECT_EQ(Text::hFileNameStripper(u"12axbcd-e1f.jpg"_qs, settings), u"ef.jpg"_qs);
+    EXPECT_EQ(Text::hFileNameStripper(u"12axbcd-e1f.jpg"_s, settings), u"ef.jpg"_s);
 }
 
 TEST(Strip, AnswersInFormC)
 {
     EXPECT_EQ(
-        Text::hFileNameStripper(decomposed + u".jpg"_qs, nothingToStrip()), composed + u".jpg"_qs
+        Text::hFileNameStripper(decomposed + u".jpg"_s, nothingToStrip()), composed + u".jpg"_s
     );
     StripSettings whole = nothingToStrip();
-    whole.preserve = u"0"_qs;
-    EXPECT_EQ(Text::hFileNameStripper(u"a."_qs + decomposed, whole), u"a."_qs + composed);
+    whole.preserve = u"0"_s;
+    EXPECT_EQ(Text::hFileNameStripper(u"a."_s + decomposed, whole), u"a."_s + composed);
 }
 
 TEST(Replace, ChangesTheCaseOfBaseAndExtension)
@@ -307,223 +308,222 @@ TEST(Replace, ChangesTheCaseOfBaseAndExtension)
     ReplaceSettings settings = nothingToReplace();
     const auto replaced = [&](const QString& mode) {
         settings.caseMode = mode;
-        return Text::hReplaceText(u"my Photo.JpG"_qs, settings);
+        return Text::hReplaceText(u"my Photo.JpG"_s, settings);
     };
-    EXPECT_EQ(replaced(u"0"_qs), u"my Photo.JpG"_qs);
-    EXPECT_EQ(replaced(u"1"_qs), u"my photo.jpg"_qs);
-    EXPECT_EQ(replaced(u"2"_qs), u"MY PHOTO.JPG"_qs);
-    EXPECT_EQ(replaced(u"3"_qs), u"My Photo.Jpg"_qs);
-    EXPECT_EQ(replaced(u"4"_qs), u"my Photo.JpG"_qs);
-    EXPECT_EQ(Text::hReplaceText(u"ab"_qs, settings), u"ab"_qs);
+    EXPECT_EQ(replaced(u"0"_s), u"my Photo.JpG"_s);
+    EXPECT_EQ(replaced(u"1"_s), u"my photo.jpg"_s);
+    EXPECT_EQ(replaced(u"2"_s), u"MY PHOTO.JPG"_s);
+    EXPECT_EQ(replaced(u"3"_s), u"My Photo.Jpg"_s);
+    EXPECT_EQ(replaced(u"4"_s), u"my Photo.JpG"_s);
+    EXPECT_EQ(Text::hReplaceText(u"ab"_s, settings), u"ab"_s);
 }
 
 TEST(Replace, ChangesEachPlaceOfTheRangesText)
 {
     ReplaceSettings settings = nothingToReplace();
-    settings.start = u"2"_qs;
-    settings.stop = u"3"_qs;
-    settings.character = u"_"_qs;
-    EXPECT_EQ(Text::hReplaceText(u"abcxbc.bc"_qs, settings), u"a_x_.bc"_qs);
-    settings.start = u"0"_qs;
-    EXPECT_EQ(Text::hReplaceText(u"abcxbc.bc"_qs, settings), u"abcxbc.bc"_qs);
-    settings.start = u"6"_qs;
-    EXPECT_EQ(Text::hReplaceText(u"abcxbc.bc"_qs, settings), u"abcxbc.bc"_qs);
-    settings.start = u"5"_qs;
-    EXPECT_EQ(Text::hReplaceText(u"abcxbc.bc"_qs, settings), u"a_x_.bc"_qs);
-    settings.stop = u"4"_qs;
-    EXPECT_THROW(Text::hReplaceText(u"abcxbc.bc"_qs, settings), RangeError);
-    settings.stop = u"0"_qs;
-    EXPECT_THROW(Text::hReplaceText(u"abcxbc.bc"_qs, settings), RangeError);
+    settings.start = u"2"_s;
+    settings.stop = u"3"_s;
+    settings.character = u"_"_s;
+    EXPECT_EQ(Text::hReplaceText(u"abcxbc.bc"_s, settings), u"a_x_.bc"_s);
+    settings.start = u"0"_s;
+    EXPECT_EQ(Text::hReplaceText(u"abcxbc.bc"_s, settings), u"abcxbc.bc"_s);
+    settings.start = u"6"_s;
+    EXPECT_EQ(Text::hReplaceText(u"abcxbc.bc"_s, settings), u"abcxbc.bc"_s);
+    settings.start = u"5"_s;
+    EXPECT_EQ(Text::hReplaceText(u"abcxbc.bc"_s, settings), u"a_x_.bc"_s);
+    settings.stop = u"4"_s;
+    EXPECT_THROW(Text::hReplaceText(u"abcxbc.bc"_s, settings), RangeError);
+    settings.stop = u"0"_s;
+    EXPECT_THROW(Text::hReplaceText(u"abcxbc.bc"_s, settings), RangeError);
 }
 
 TEST(Replace, FindsInTheBaseOnly)
 {
     ReplaceSettings settings = nothingToReplace();
-    settings.find = u"a"_qs;
-    settings.replacement = u"--"_qs;
-    EXPECT_EQ(Text::hReplaceText(u"aAa.a"_qs, settings), u"--A--.a"_qs);
-    settings.caseMode = u"2"_qs;
-    EXPECT_EQ(Text::hReplaceText(u"aAa.a"_qs, settings), u"AAA.A"_qs);
+    settings.find = u"a"_s;
+    settings.replacement = u"--"_s;
+    EXPECT_EQ(Text::hReplaceText(u"aAa.a"_s, settings), u"--A--.a"_s);
+    settings.caseMode = u"2"_s;
+    EXPECT_EQ(Text::hReplaceText(u"aAa.a"_s, settings), u"AAA.A"_s);
     settings = nothingToReplace();
-    EXPECT_EQ(Text::hReplaceText(decomposed + u".jpg"_qs, settings), composed + u".jpg"_qs);
+    EXPECT_EQ(Text::hReplaceText(decomposed + u".jpg"_s, settings), composed + u".jpg"_s);
 }
 
 TEST(Replace, TrimsInFormC)
 {
-    EXPECT_EQ(Text::hTrimReplace(decomposed + u"b"_qs, u"x"_qs, u"1"_qs, u"2"_qs), u"xb"_qs);
-    EXPECT_THROW(Text::hTrimReplace(u"ab"_qs, u"x"_qs, u"3"_qs, u"2"_qs), RangeError);
+    EXPECT_EQ(Text::hTrimReplace(decomposed + u"b"_s, u"x"_s, u"1"_s, u"2"_s), u"xb"_s);
+    EXPECT_THROW(Text::hTrimReplace(u"ab"_s, u"x"_s, u"3"_s, u"2"_s), RangeError);
 }
 
 TEST_F(NameAffixes, PrefixHasTheTextBehindEachValue)
 {
     PrefixSettings settings{
-        .text = u"_"_qs, .metadataKey = {}, .creationDate = u"0"_qs, .modificationDate = u"0"_qs};
-    EXPECT_EQ(Text::hAddPrefix(path, u"n.x"_qs, settings), u"_n.x"_qs);
-    settings.modificationDate = u"1"_qs;
-    EXPECT_EQ(Text::hAddPrefix(path, u"n.x"_qs, settings), modification + u"_n.x"_qs);
-    settings.creationDate = u"1"_qs;
+        .text = u"_"_s, .metadataKey = {}, .creationDate = u"0"_s, .modificationDate = u"0"_s};
+    EXPECT_EQ(Text::hAddPrefix(path, u"n.x"_s, settings), u"_n.x"_s);
+    settings.modificationDate = u"1"_s;
+    EXPECT_EQ(Text::hAddPrefix(path, u"n.x"_s, settings), modification + u"_n.x"_s);
+    settings.creationDate = u"1"_s;
     EXPECT_EQ(
-        Text::hAddPrefix(path, u"n.x"_qs, settings), creation + u"_"_qs + modification + u"_n.x"_qs
+        Text::hAddPrefix(path, u"n.x"_s, settings), creation + u"_"_s + modification + u"_n.x"_s
     );
-    settings.metadataKey = u"FSSize"_qs;
+    settings.metadataKey = u"FSSize"_s;
     EXPECT_EQ(
-        Text::hAddPrefix(path, u"n.x"_qs, settings),
-        creation + u"_"_qs + modification + u"_5_n.x"_qs
+        Text::hAddPrefix(path, u"n.x"_s, settings), creation + u"_"_s + modification + u"_5_n.x"_s
     );
-    settings.metadataKey = u"FSTypeCode"_qs;
+    settings.metadataKey = u"FSTypeCode"_s;
     EXPECT_EQ(
-        Text::hAddPrefix(path, u"n.x"_qs, settings), creation + u"_"_qs + modification + u"_n.x"_qs
+        Text::hAddPrefix(path, u"n.x"_s, settings), creation + u"_"_s + modification + u"_n.x"_s
     );
 }
 
 TEST_F(NameAffixes, PrefixNeedsNoText)
 {
     PrefixSettings settings{
-        .text = {}, .metadataKey = {}, .creationDate = u"0"_qs, .modificationDate = u"0"_qs};
-    EXPECT_EQ(Text::hAddPrefix(path, u"n"_qs, settings), u"n"_qs);
+        .text = {}, .metadataKey = {}, .creationDate = u"0"_s, .modificationDate = u"0"_s};
+    EXPECT_EQ(Text::hAddPrefix(path, u"n"_s, settings), u"n"_s);
     EXPECT_EQ(Text::hAddPrefix(path, decomposed, settings), composed);
-    settings.creationDate = u"1"_qs;
-    EXPECT_EQ(Text::hAddPrefix(path, u"n.x"_qs, settings), creation + u"n.x"_qs);
-    EXPECT_EQ(Text::hAddPrefix(path + u"?"_qs, u"n.x"_qs, settings), u"n.x"_qs);
+    settings.creationDate = u"1"_s;
+    EXPECT_EQ(Text::hAddPrefix(path, u"n.x"_s, settings), creation + u"n.x"_s);
+    EXPECT_EQ(Text::hAddPrefix(path + u"?"_s, u"n.x"_s, settings), u"n.x"_s);
 }
 
 TEST_F(NameAffixes, PostfixHasTheTextBeforeEachValue)
 {
     PostfixSettings settings{
-        .text = u"_"_qs,
+        .text = u"_"_s,
         .metadataKey = {},
-        .creationDate = u"1"_qs,
-        .modificationDate = u"0"_qs,
-        .beforeExtension = u"1"_qs};
-    EXPECT_EQ(Text::hAddPostfix(path, u"n.x"_qs, settings), u"n_"_qs + creation + u".x"_qs);
-    settings.modificationDate = u"1"_qs;
-    settings.metadataKey = u"FSName"_qs;
+        .creationDate = u"1"_s,
+        .modificationDate = u"0"_s,
+        .beforeExtension = u"1"_s};
+    EXPECT_EQ(Text::hAddPostfix(path, u"n.x"_s, settings), u"n_"_s + creation + u".x"_s);
+    settings.modificationDate = u"1"_s;
+    settings.metadataKey = u"FSName"_s;
     EXPECT_EQ(
-        Text::hAddPostfix(path, u"n.x"_qs, settings),
-        u"n_"_qs + creation + u"_"_qs + modification + u"_a.txt.x"_qs
+        Text::hAddPostfix(path, u"n.x"_s, settings),
+        u"n_"_s + creation + u"_"_s + modification + u"_a.txt.x"_s
     );
 }
 
 TEST_F(NameAffixes, PostfixBeginsWithTheTextInAnyCase)
 {
     PostfixSettings settings{
-        .text = u"_"_qs,
+        .text = u"_"_s,
         .metadataKey = {},
-        .creationDate = u"0"_qs,
-        .modificationDate = u"1"_qs,
-        .beforeExtension = u"1"_qs};
-    EXPECT_EQ(Text::hAddPostfix(path, u"n.x"_qs, settings), u"n__"_qs + modification + u".x"_qs);
-    settings.modificationDate = u"0"_qs;
-    EXPECT_EQ(Text::hAddPostfix(path, u"n.x"_qs, settings), u"n_.x"_qs);
-    settings.metadataKey = u"FSSize"_qs;
-    EXPECT_EQ(Text::hAddPostfix(path, u"n.x"_qs, settings), u"n__5.x"_qs);
-    EXPECT_EQ(Text::hAddPostfix(path + u"?"_qs, u"n.x"_qs, settings), u"n_.x"_qs);
+        .creationDate = u"0"_s,
+        .modificationDate = u"1"_s,
+        .beforeExtension = u"1"_s};
+    EXPECT_EQ(Text::hAddPostfix(path, u"n.x"_s, settings), u"n__"_s + modification + u".x"_s);
+    settings.modificationDate = u"0"_s;
+    EXPECT_EQ(Text::hAddPostfix(path, u"n.x"_s, settings), u"n_.x"_s);
+    settings.metadataKey = u"FSSize"_s;
+    EXPECT_EQ(Text::hAddPostfix(path, u"n.x"_s, settings), u"n__5.x"_s);
+    EXPECT_EQ(Text::hAddPostfix(path + u"?"_s, u"n.x"_s, settings), u"n_.x"_s);
 }
 
 TEST_F(NameAffixes, PostfixStandsBehindTheExtensionUnlessAsked)
 {
     PostfixSettings settings{
-        .text = u"_"_qs,
+        .text = u"_"_s,
         .metadataKey = {},
         .creationDate = {},
         .modificationDate = {},
-        .beforeExtension = u"0"_qs};
-    EXPECT_EQ(Text::hAddPostfix(path, u"n.x"_qs, settings), u"n.x_"_qs);
-    EXPECT_EQ(Text::hAddPostfix(path, decomposed + u".x"_qs, settings), composed + u".x_"_qs);
-    settings.beforeExtension = u"1"_qs;
-    EXPECT_EQ(Text::hAddPostfix(path, u"n"_qs, settings), u"n_"_qs);
-    EXPECT_EQ(Text::hAddPostfix(path, decomposed + u".x"_qs, settings), composed + u"_.x"_qs);
+        .beforeExtension = u"0"_s};
+    EXPECT_EQ(Text::hAddPostfix(path, u"n.x"_s, settings), u"n.x_"_s);
+    EXPECT_EQ(Text::hAddPostfix(path, decomposed + u".x"_s, settings), composed + u".x_"_s);
+    settings.beforeExtension = u"1"_s;
+    EXPECT_EQ(Text::hAddPostfix(path, u"n"_s, settings), u"n_"_s);
+    EXPECT_EQ(Text::hAddPostfix(path, decomposed + u".x"_s, settings), composed + u"_.x"_s);
 }
 
 TEST(Numbering, AdvancesBeforeItPrints)
 {
     QString& number = cKeepNumber::sharedNumber().myNumberString;
-    number = u"0"_qs;
+    number = u"0"_s;
     const NumberingSettings settings{
-        .prefix = u"<"_qs, .postfix = u">"_qs, .digits = 3, .position = u"0"_qs};
-    EXPECT_EQ(Text::hNumbering(u"n.x"_qs, settings), u"n<001>.x"_qs);
-    EXPECT_EQ(Text::hNumbering(u"n.x"_qs, settings), u"n<002>.x"_qs);
-    EXPECT_EQ(number, u"2"_qs);
-    number = u"98"_qs;
-    EXPECT_EQ(Text::hNumbering(u"n.x"_qs, settings), u"n<099>.x"_qs);
-    EXPECT_EQ(Text::hNumbering(u"n.x"_qs, settings), u"n<>.x"_qs);
-    EXPECT_EQ(number, u"100"_qs);
+        .prefix = u"<"_s, .postfix = u">"_s, .digits = 3, .position = u"0"_s};
+    EXPECT_EQ(Text::hNumbering(u"n.x"_s, settings), u"n<001>.x"_s);
+    EXPECT_EQ(Text::hNumbering(u"n.x"_s, settings), u"n<002>.x"_s);
+    EXPECT_EQ(number, u"2"_s);
+    number = u"98"_s;
+    EXPECT_EQ(Text::hNumbering(u"n.x"_s, settings), u"n<099>.x"_s);
+    EXPECT_EQ(Text::hNumbering(u"n.x"_s, settings), u"n<>.x"_s);
+    EXPECT_EQ(number, u"100"_s);
 }
 
 TEST(Numbering, DropsNumbersWithoutASparePlace)
 {
     for (const int digits : {-1, 0, 1}) {
-        cKeepNumber::sharedNumber().myNumberString = u"0"_qs;
+        cKeepNumber::sharedNumber().myNumberString = u"0"_s;
         EXPECT_EQ(
             Text::hNumbering(
-                u"n"_qs, {.prefix = {}, .postfix = {}, .digits = digits, .position = u"1"_qs}
+                u"n"_s, {.prefix = {}, .postfix = {}, .digits = digits, .position = u"1"_s}
             ),
-            u"n"_qs
+            u"n"_s
         );
     }
-    cKeepNumber::sharedNumber().myNumberString = u"99"_qs;
+    cKeepNumber::sharedNumber().myNumberString = u"99"_s;
     EXPECT_EQ(
-        Text::hNumbering(u"n"_qs, {.prefix = {}, .postfix = {}, .digits = 2, .position = u"1"_qs}),
-        u"n"_qs
+        Text::hNumbering(u"n"_s, {.prefix = {}, .postfix = {}, .digits = 2, .position = u"1"_s}),
+        u"n"_s
     );
 }
 
 TEST(Numbering, StandsBehindTheBaseOrBeforeTheName)
 {
     const auto numbered = [](const QString& name, const QString& position) {
-        cKeepNumber::sharedNumber().myNumberString = u"6"_qs;
+        cKeepNumber::sharedNumber().myNumberString = u"6"_s;
         return Text::hNumbering(
-            name, {.prefix = u"a"_qs, .postfix = u"b"_qs, .digits = 2, .position = position}
+            name, {.prefix = u"a"_s, .postfix = u"b"_s, .digits = 2, .position = position}
         );
     };
-    EXPECT_EQ(numbered(u"n"_qs, u"0"_qs), u"na07b."_qs);
-    EXPECT_EQ(numbered(u"n.x"_qs, u"1"_qs), u"a07bn.x"_qs);
-    EXPECT_EQ(numbered(decomposed + u".x"_qs, u"0"_qs), decomposed + u"a07b.x"_qs);
-    EXPECT_EQ(numbered(decomposed, u"1"_qs), u"a07b"_qs + decomposed);
+    EXPECT_EQ(numbered(u"n"_s, u"0"_s), u"na07b."_s);
+    EXPECT_EQ(numbered(u"n.x"_s, u"1"_s), u"a07bn.x"_s);
+    EXPECT_EQ(numbered(decomposed + u".x"_s, u"0"_s), decomposed + u"a07b.x"_s);
+    EXPECT_EQ(numbered(decomposed, u"1"_s), u"a07b"_s + decomposed);
 }
 
 TEST(StringHelpers, KeepTheTextWhereARangeIsOutside)
 {
-    EXPECT_EQ(Text::hStripString(u""_qs, u"fLeft"_qs, 1), u""_qs);
-    EXPECT_EQ(Text::hStripString(u"abc"_qs, u"fLeft"_qs, 2), u"c"_qs);
-    EXPECT_EQ(Text::hStripString(u"abc"_qs, u"fRight"_qs, 2), u"a"_qs);
-    EXPECT_EQ(Text::hStripString(u"abc"_qs, u"fRight"_qs, 4), u"abc"_qs);
-    EXPECT_EQ(Text::hStripString(u"abc"_qs, u"fLeft"_qs, 4), u"abc"_qs);
-    EXPECT_EQ(Text::hStripString(u"abc"_qs, u"left"_qs, 1), u"abc"_qs);
-    EXPECT_EQ(Text::hSubsectionString(u"abcd"_qs, 1, 2), u"bc"_qs);
-    EXPECT_EQ(Text::hSubsectionString(u"abcd"_qs, 3, 2), u"abcd"_qs);
-    EXPECT_EQ(Text::hInsertStringInString(u"ad"_qs, u"bc"_qs, 1), u"abcd"_qs);
-    EXPECT_EQ(Text::hInsertStringInString(u"ad"_qs, u"bc"_qs, 3), u"ad"_qs);
+    EXPECT_EQ(Text::hStripString(u""_s, u"fLeft"_s, 1), u""_s);
+    EXPECT_EQ(Text::hStripString(u"abc"_s, u"fLeft"_s, 2), u"c"_s);
+    EXPECT_EQ(Text::hStripString(u"abc"_s, u"fRight"_s, 2), u"a"_s);
+    EXPECT_EQ(Text::hStripString(u"abc"_s, u"fRight"_s, 4), u"abc"_s);
+    EXPECT_EQ(Text::hStripString(u"abc"_s, u"fLeft"_s, 4), u"abc"_s);
+    EXPECT_EQ(Text::hStripString(u"abc"_s, u"left"_s, 1), u"abc"_s);
+    EXPECT_EQ(Text::hSubsectionString(u"abcd"_s, 1, 2), u"bc"_s);
+    EXPECT_EQ(Text::hSubsectionString(u"abcd"_s, 3, 2), u"abcd"_s);
+    EXPECT_EQ(Text::hInsertStringInString(u"ad"_s, u"bc"_s, 1), u"abcd"_s);
+    EXPECT_EQ(Text::hInsertStringInString(u"ad"_s, u"bc"_s, 3), u"ad"_s);
 }
 
 TEST(StringHelpers, DoWhatTheirNamesSay)
 {
-    EXPECT_EQ(Text::hRemoveNonLetters(u"a1 b"_qs, u"XX"_qs), u"a1 b"_qs);
-    EXPECT_EQ(Text::hSplitString(u"a;;b"_qs, u";"_qs), (QStringList{u"a"_qs, u""_qs, u"b"_qs}));
-    EXPECT_EQ(Text::hReplaceStringInString(u"abab"_qs, u"b"_qs, u"c"_qs), u"acac"_qs);
-    EXPECT_EQ(Text::hConcatString(u"a"_qs, u"b"_qs, u"c"_qs), u"abc"_qs);
-    EXPECT_TRUE(Text::hStringContainsString(u"abc"_qs, u"b"_qs));
-    EXPECT_FALSE(Text::hStringContainsString(u"abc"_qs, u"B"_qs));
-    EXPECT_TRUE(Text::hStringBeginsWith(u"abc"_qs, u"ab"_qs));
-    EXPECT_FALSE(Text::hStringBeginsWith(u"abc"_qs, u"bc"_qs));
-    EXPECT_TRUE(Text::hStringEndWith(u"abc"_qs, u"bc"_qs));
-    EXPECT_FALSE(Text::hStringEndWith(u"abc"_qs, u"ab"_qs));
-    EXPECT_EQ(Text::hRemoveWhiteSpace(u" a b\t\u00a0c "_qs), u"ab\t\u00a0c"_qs);
-    EXPECT_EQ(Text::hReverseString(u"ab1"_qs), u"1ba"_qs);
+    EXPECT_EQ(Text::hRemoveNonLetters(u"a1 b"_s, u"XX"_s), u"a1 b"_s);
+    EXPECT_EQ(Text::hSplitString(u"a;;b"_s, u";"_s), (QStringList{u"a"_s, u""_s, u"b"_s}));
+    EXPECT_EQ(Text::hReplaceStringInString(u"abab"_s, u"b"_s, u"c"_s), u"acac"_s);
+    EXPECT_EQ(Text::hConcatString(u"a"_s, u"b"_s, u"c"_s), u"abc"_s);
+    EXPECT_TRUE(Text::hStringContainsString(u"abc"_s, u"b"_s));
+    EXPECT_FALSE(Text::hStringContainsString(u"abc"_s, u"B"_s));
+    EXPECT_TRUE(Text::hStringBeginsWith(u"abc"_s, u"ab"_s));
+    EXPECT_FALSE(Text::hStringBeginsWith(u"abc"_s, u"bc"_s));
+    EXPECT_TRUE(Text::hStringEndWith(u"abc"_s, u"bc"_s));
+    EXPECT_FALSE(Text::hStringEndWith(u"abc"_s, u"ab"_s));
+    EXPECT_EQ(Text::hRemoveWhiteSpace(u" a b\t\u00a0c "_s), u"ab\t\u00a0c"_s);
+    EXPECT_EQ(Text::hReverseString(u"ab1"_s), u"1ba"_s);
 }
 
 TEST(StringHelpers, TurnTextsIntoBytesAndBack)
 {
     EXPECT_EQ(
         Text::hNSDateToNSString(QDateTime({2026, 1, 5}, {10, 44, 33}, Qt::OffsetFromUTC, 7200)),
-        u"2026-01-05 08:44:33 +0000"_qs
+        u"2026-01-05 08:44:33 +0000"_s
     );
-    EXPECT_EQ(Text::hNSDataToNSString("h\xc3\xa9"), u"hé"_qs);
+    EXPECT_EQ(Text::hNSDataToNSString("h\xc3\xa9"), u"hé"_s);
     EXPECT_EQ(Text::hNSDataToNSString("h\xe9"), std::nullopt);
-    EXPECT_EQ(Text::hNSStringToNSData(u"abc"_qs), QByteArray("abc"));
-    EXPECT_EQ(Text::hNSStringToNSData(u"é"_qs), std::nullopt);
-    EXPECT_EQ(Text::hConvertNSdToNSstr("a\0b"), u"YQ=="_qs);
-    EXPECT_EQ(Text::hConvertNSdToNSstr(QByteArray("abc")), u"YWJj"_qs);
-    EXPECT_EQ(Text::hConvertNSstrToNSd(u"YWJj"_qs), QByteArray("abc"));
-    EXPECT_EQ(Text::hConvertNSstrToNSd(u"!!!!"_qs), std::nullopt);
+    EXPECT_EQ(Text::hNSStringToNSData(u"abc"_s), QByteArray("abc"));
+    EXPECT_EQ(Text::hNSStringToNSData(u"é"_s), std::nullopt);
+    EXPECT_EQ(Text::hConvertNSdToNSstr("a\0b"), u"YQ=="_s);
+    EXPECT_EQ(Text::hConvertNSdToNSstr(QByteArray("abc")), u"YWJj"_s);
+    EXPECT_EQ(Text::hConvertNSstrToNSd(u"YWJj"_s), QByteArray("abc"));
+    EXPECT_EQ(Text::hConvertNSstrToNSd(u"!!!!"_s), std::nullopt);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <files/tool_box.h>
+#include <platform/foundation/literals.h>
 
 #include <support/temporary_folder.h>
 
@@ -55,7 +56,7 @@ protected:
     TemporaryFolder folder;
     ChooserRecorder chooser;
     DesktopRecorder desktop;
-    platform::UserDefaults defaults{folder.path(QStringLiteral("settings/a.conf"))};
+    platform::UserDefaults defaults{folder.path(u"settings/a.conf"_s)};
     files::cToolBox box{{.chooser = chooser, .desktop = desktop, .defaults = defaults}};
 };
 

@@ -5,22 +5,22 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::files;
 
 TEST(UrlFromText, TakesWhatIsWrittenAsAnAddress)
 {
-    EXPECT_EQ(urlFromText(u"/dir/a%20b.jpg"_qs)->path(), u"/dir/a b.jpg"_qs);
-    EXPECT_EQ(urlFromText(u"https://www.example/a?b=c#d"_qs)->host(), u"www.example"_qs);
+    EXPECT_EQ(urlFromText(u"/dir/a%20b.jpg"_s)->path(), u"/dir/a b.jpg"_s);
+    EXPECT_EQ(urlFromText(u"https://www.example/a?b=c#d"_s)->host(), u"www.example"_s);
 }
 
 TEST(UrlFromText, RefusesWhatAnAddressMustEncode)
 {
-    for (const QString& text :
-         {u""_qs, u"a b"_qs, u"é"_qs, u"a%"_qs, u"a%2x"_qs, u"a[1]"_qs, u"a|b"_qs})
+    for (const QString& text : {u""_s, u"a b"_s, u"é"_s, u"a%"_s, u"a%2x"_s, u"a[1]"_s, u"a|b"_s})
         EXPECT_EQ(urlFromText(text), std::nullopt) << text.toStdString();
 }
 
 TEST(WithEncodedQuerySigns, EncodesFourCharactersOnly)
 {
-    EXPECT_EQ(withEncodedQuerySigns(u"a?b=c&d+e #%é"_qs), u"a%3Fb%3Dc%26d%2Be #%é"_qs);
+    EXPECT_EQ(withEncodedQuerySigns(u"a?b=c&d+e #%é"_s), u"a%3Fb%3Dc%26d%2Be #%é"_s);
 }

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::imaging::DVImageHandling;
 using brenvaldo::platform::graphics::PixelSize;
 using namespace brenvaldo::test;
@@ -18,7 +19,7 @@ PhotoBuilder turnedPhoto() { return PhotoBuilder().size(400, 300).corners().orie
 
 QString noPhoto(const TemporaryFolder& folder)
 {
-    return folder.write(u"note.jpg"_qs, "this is no photo");
+    return folder.write(u"note.jpg"_s, "this is no photo");
 }
 
 } // namespace
@@ -26,7 +27,7 @@ QString noPhoto(const TemporaryFolder& folder)
 TEST(ImageAccess, OpensAPhotoUpright)
 {
     const TemporaryFolder folder;
-    const QString path = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
+    const QString path = turnedPhoto().write(folder.path(u"photo.jpg"_s));
 
     const auto image = DVImageHandling::hNSURLtoCIImage(QUrl::fromLocalFile(path));
 
@@ -38,7 +39,7 @@ TEST(ImageAccess, OpensAPhotoUpright)
 TEST(ImageAccess, OpensTheStoredPixelsOfAPhoto)
 {
     const TemporaryFolder folder;
-    const QString path = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
+    const QString path = turnedPhoto().write(folder.path(u"photo.jpg"_s));
 
     const auto image = DVImageHandling::hStringToCGImageRef(path);
 
@@ -54,13 +55,13 @@ TEST(ImageAccess, GivesNothingForAFileThatIsNoPhoto)
 
     EXPECT_FALSE(DVImageHandling::hNSURLtoCIImage(QUrl::fromLocalFile(path)));
     EXPECT_FALSE(DVImageHandling::hStringToCGImageRef(path));
-    EXPECT_FALSE(DVImageHandling::hStringToCGImageRef(folder.path(u"missing.jpg"_qs)));
+    EXPECT_FALSE(DVImageHandling::hStringToCGImageRef(folder.path(u"missing.jpg"_s)));
 }
 
 TEST(ImageAccess, DrawsAPictureAtOnePixelAPoint)
 {
     const TemporaryFolder folder;
-    const QString path = PhotoBuilder().dotsPerInch(300).write(folder.path(u"photo.jpg"_qs));
+    const QString path = PhotoBuilder().dotsPerInch(300).write(folder.path(u"photo.jpg"_s));
     const auto image = DVImageHandling::hStringToCGImageRef(path);
     ASSERT_TRUE(image);
 
@@ -73,7 +74,7 @@ TEST(ImageAccess, DrawsAPictureAtOnePixelAPoint)
 TEST(ImageAccess, KeepsThePixelsOfAPictureThroughItsOtherForms)
 {
     const TemporaryFolder folder;
-    const QString path = PhotoBuilder().corners().write(folder.path(u"photo.jpg"_qs));
+    const QString path = PhotoBuilder().corners().write(folder.path(u"photo.jpg"_s));
     const auto image = DVImageHandling::hStringToCGImageRef(path);
     ASSERT_TRUE(image);
 
@@ -88,7 +89,7 @@ TEST(ImageAccess, GivesNothingForTheOtherFormOfADamagedPhoto)
 {
     const TemporaryFolder folder;
     const QByteArray whole = PhotoBuilder().size(400, 300).bytes();
-    const QString path = folder.write(u"half.jpg"_qs, whole.left(whole.size() / 2));
+    const QString path = folder.write(u"half.jpg"_s, whole.left(whole.size() / 2));
     const auto image = DVImageHandling::hStringToCGImageRef(path);
     ASSERT_TRUE(image);
 
@@ -98,7 +99,7 @@ TEST(ImageAccess, GivesNothingForTheOtherFormOfADamagedPhoto)
 TEST(ImageSize, IsThatOfTheUprightPhoto)
 {
     const TemporaryFolder folder;
-    const QString path = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
+    const QString path = turnedPhoto().write(folder.path(u"photo.jpg"_s));
 
     EXPECT_EQ(DVImageHandling::hGetImgPixelSize(path), (PixelSize{300, 400}));
 }
@@ -106,7 +107,7 @@ TEST(ImageSize, IsThatOfTheUprightPhoto)
 TEST(ImageSize, IsThatOfAPictureInHand)
 {
     const TemporaryFolder folder;
-    const QString path = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
+    const QString path = turnedPhoto().write(folder.path(u"photo.jpg"_s));
     const auto image = DVImageHandling::hNSURLtoCIImage(QUrl::fromLocalFile(path));
 
     EXPECT_EQ(DVImageHandling::hGetCIImgPixelSize(image), (PixelSize{300, 400}));
@@ -116,9 +117,9 @@ TEST(ImageSize, IsToldAsText)
 {
     const TemporaryFolder folder;
     const QString path
-        = PhotoBuilder().size(4000, 3000).solid({90, 90, 90}).write(folder.path(u"photo.jpg"_qs));
+        = PhotoBuilder().size(4000, 3000).solid({90, 90, 90}).write(folder.path(u"photo.jpg"_s));
 
-    EXPECT_EQ(DVImageHandling::hGetPixelSize(path), u"4000px x 3000px (w x h)"_qs);
+    EXPECT_EQ(DVImageHandling::hGetPixelSize(path), u"4000px x 3000px (w x h)"_s);
 }
 
 TEST(ImageSize, IsZeroForAFileThatIsNoPhoto)
@@ -128,5 +129,5 @@ TEST(ImageSize, IsZeroForAFileThatIsNoPhoto)
 
     EXPECT_EQ(DVImageHandling::hGetImgPixelSize(path), (PixelSize{0, 0}));
     EXPECT_EQ(DVImageHandling::hGetCIImgPixelSize(std::nullopt), (PixelSize{0, 0}));
-    EXPECT_EQ(DVImageHandling::hGetPixelSize(path), u"0px x 0px (w x h)"_qs);
+    EXPECT_EQ(DVImageHandling::hGetPixelSize(path), u"0px x 0px (w x h)"_s);
 }

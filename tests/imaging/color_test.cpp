@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using brenvaldo::controls::ActionRegistry;
 using brenvaldo::controls::ColorWell;
@@ -36,15 +37,15 @@ class ColorFromHex : public testing::TestWithParam<HexCase>
 };
 
 const HexCase hexCases[] = {
-    {"Red", u"FF0000"_qs, u"FF0000"_qs},
-    {"LowerCase", u"00ff00"_qs, u"00FF00"_qs},
-    {"Hash", u"#FF0000"_qs, u"000000"_qs},
-    {"Missing", {}, u"000000"_qs},
-    {"NoDigit", u"zz"_qs, u"000000"_qs},
-    {"ThreeDigits", u"FFF"_qs, u"000FFF"_qs},
-    {"TextBehind", u"0000FFzz"_qs, u"0000FF"_qs},
-    {"EightDigits", u"12FF0000"_qs, u"FF0000"_qs},
-    {"MoreThan32Bits", u"123456789"_qs, u"FFFFFF"_qs},
+    {"Red", u"FF0000"_s, u"FF0000"_s},
+    {"LowerCase", u"00ff00"_s, u"00FF00"_s},
+    {"Hash", u"#FF0000"_s, u"000000"_s},
+    {"Missing", {}, u"000000"_s},
+    {"NoDigit", u"zz"_s, u"000000"_s},
+    {"ThreeDigits", u"FFF"_s, u"000FFF"_s},
+    {"TextBehind", u"0000FFzz"_s, u"0000FF"_s},
+    {"EightDigits", u"12FF0000"_s, u"FF0000"_s},
+    {"MoreThan32Bits", u"123456789"_s, u"FFFFFF"_s},
 };
 
 struct AcceptedCase
@@ -61,16 +62,16 @@ class SetHexValue : public testing::TestWithParam<AcceptedCase>
 };
 
 const AcceptedCase acceptedCases[] = {
-    {"SixDigits", u"FF0000"_qs, u"FF0000"_qs},
-    {"Hash", u"#FF0000"_qs, u"FF0000"_qs},
-    {"LowerCase", u"a1b2c3"_qs, u"A1B2C3"_qs},
-    {"TextBehind", u"FF0000zz"_qs, u"FF0000"_qs},
-    {"BlanksInFront", u"  FF0000"_qs, u"FF0000"_qs},
-    {"ThreeDigits", u"FFF"_qs, {}},
-    {"SevenDigits", u"FF00001"_qs, {}},
-    {"TwoHashes", u"##FF0000"_qs, {}},
-    {"Prefix", u"0xFF00"_qs, {}},
-    {"Nothing", u""_qs, {}},
+    {"SixDigits", u"FF0000"_s, u"FF0000"_s},
+    {"Hash", u"#FF0000"_s, u"FF0000"_s},
+    {"LowerCase", u"a1b2c3"_s, u"A1B2C3"_s},
+    {"TextBehind", u"FF0000zz"_s, u"FF0000"_s},
+    {"BlanksInFront", u"  FF0000"_s, u"FF0000"_s},
+    {"ThreeDigits", u"FFF"_s, {}},
+    {"SevenDigits", u"FF00001"_s, {}},
+    {"TwoHashes", u"##FF0000"_s, {}},
+    {"Prefix", u"0xFF00"_s, {}},
+    {"Nothing", u""_s, {}},
 };
 
 } // namespace
@@ -90,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, ColorFromHex, testing::ValuesIn(hexCases), CaseNa
 
 TEST(ColorFromHex, DividesInSinglePrecision)
 {
-    const Color color = cNSColorHandling::colorFromHexRGB(u"330000"_qs);
+    const Color color = cNSColorHandling::colorFromHexRGB(u"330000"_s);
 
     EXPECT_EQ(color.red, static_cast<double>(51.0F / 255.0F));
     EXPECT_NE(color.red, 51 / 255.0);
@@ -98,22 +99,22 @@ TEST(ColorFromHex, DividesInSinglePrecision)
 
 TEST(HexValue, TruncatesComponents)
 {
-    EXPECT_EQ(cColorWellHandling::getHEXValue(grey), u"7F7F7F"_qs);
-    EXPECT_EQ(cNSColorHandling::hGetHexFromRGB(grey), u"7F7F7F"_qs);
+    EXPECT_EQ(cColorWellHandling::getHEXValue(grey), u"7F7F7F"_s);
+    EXPECT_EQ(cNSColorHandling::hGetHexFromRGB(grey), u"7F7F7F"_s);
 }
 
 TEST(HexValue, IsWrittenInUpperCaseAndTwoDigitsAComponent)
 {
     EXPECT_EQ(
         cColorWellHandling::getHEXValue({.red = 10.5 / 255, .green = 0, .blue = 171.5 / 255}),
-        u"0A00AB"_qs
+        u"0A00AB"_s
     );
 }
 
 TEST_P(SetHexValue, TakesExactlySixDigits)
 {
     const AcceptedCase& row = GetParam();
-    ColorWell well(u"cwTest"_qs, grey);
+    ColorWell well(u"cwTest"_s, grey);
 
     const auto color = cColorWellHandling::setHEXValue(row.text, well);
 
@@ -128,40 +129,40 @@ INSTANTIATE_TEST_SUITE_P(Rows, SetHexValue, testing::ValuesIn(acceptedCases), Ca
 
 TEST(SetHexValue, TellsAHashApartFromTheFieldReader)
 {
-    ColorWell well(u"cwTest"_qs);
+    ColorWell well(u"cwTest"_s);
 
-    EXPECT_EQ(cColorWellHandling::setHEXValue(u"#FF0000"_qs, well), red);
-    EXPECT_EQ(cNSColorHandling::colorFromHexRGB(u"#FF0000"_qs), black);
+    EXPECT_EQ(cColorWellHandling::setHEXValue(u"#FF0000"_s, well), red);
+    EXPECT_EQ(cNSColorHandling::colorFromHexRGB(u"#FF0000"_s), black);
 }
 
 TEST(ColorWellTags, NameAWellForAHexField)
 {
     const QStringList expected{
-        u"ascNSColorWellObjBGCt"_qs,
-        u"ascNSColorWellObjTCt"_qs,
-        u"ascNSColorWellObjBGCc"_qs,
-        u""_qs,
-        u"ascNSColorWellObjBsImage"_qs,
-        u"ascNSColorWellObjBbImage"_qs,
-        u"ascNSColorWellObjPhotoNameCt"_qs,
-        u"ascNSColorWellAddTint"_qs,
-        u"myNSColorWellObjFraming"_qs,
-        u"ascNSColorWellObjRCbackground"_qs,
-        u"ascNSColorWellObjRCborder"_qs,
-        u"ascNSColorWellObjThumbnail"_qs,
-        u"ascNSColorWellObjThumbnailShadow"_qs,
-        u"ascNSColorWellObjSsDescriptionTextColor"_qs,
-        u"ascNSColorWellObjSsCaptionTextColor"_qs,
-        u"ascNSColorWellObjSsBackgroundColor"_qs,
-        u"ascNSColorWellObjRGBackgroundColor"_qs,
-        u"ascNSColorWellObjRGDescriptionColor"_qs,
-        u"ascNSColorWellObjRgMetaDataColor"_qs,
-        u"ascNSColorWellObjSsDotColor"_qs,
-        u"ascNSColorWellObjRDLightboxBgColor"_qs,
-        u"ascNSColorWellObjRGLightboxBgColor"_qs,
-        u"ascNSColorWellObjMonochrome"_qs,
-        u"cwRotationBackgroundColor"_qs,
-        u""_qs,
+        u"ascNSColorWellObjBGCt"_s,
+        u"ascNSColorWellObjTCt"_s,
+        u"ascNSColorWellObjBGCc"_s,
+        u""_s,
+        u"ascNSColorWellObjBsImage"_s,
+        u"ascNSColorWellObjBbImage"_s,
+        u"ascNSColorWellObjPhotoNameCt"_s,
+        u"ascNSColorWellAddTint"_s,
+        u"myNSColorWellObjFraming"_s,
+        u"ascNSColorWellObjRCbackground"_s,
+        u"ascNSColorWellObjRCborder"_s,
+        u"ascNSColorWellObjThumbnail"_s,
+        u"ascNSColorWellObjThumbnailShadow"_s,
+        u"ascNSColorWellObjSsDescriptionTextColor"_s,
+        u"ascNSColorWellObjSsCaptionTextColor"_s,
+        u"ascNSColorWellObjSsBackgroundColor"_s,
+        u"ascNSColorWellObjRGBackgroundColor"_s,
+        u"ascNSColorWellObjRGDescriptionColor"_s,
+        u"ascNSColorWellObjRgMetaDataColor"_s,
+        u"ascNSColorWellObjSsDotColor"_s,
+        u"ascNSColorWellObjRDLightboxBgColor"_s,
+        u"ascNSColorWellObjRGLightboxBgColor"_s,
+        u"ascNSColorWellObjMonochrome"_s,
+        u"cwRotationBackgroundColor"_s,
+        u""_s,
     };
 
     QStringList names;
@@ -175,23 +176,23 @@ TEST(ColorWellTags, NameAWellForAHexField)
 TEST(ColorWellTags, NameAHexFieldForAWell)
 {
     const QStringList expected{
-        u"tfNSColorWellObjBGCt"_qs,
-        u"tfNSColorWellObjBGCc"_qs,
-        u"tfNSColorWellObjBCc"_qs,
-        u"tfNSColorWellObjTCt"_qs,
-        u"tfNSColorWellObjPhotoNameCt"_qs,
-        u"tfNSColorWellObjUserExifCommentCt"_qs,
-        u"tfNSColorWellObjBsImage"_qs,
-        u"tfNSColorWellObjThumbnail"_qs,
-        u"tfNSColorWellObjThumbnailShadow"_qs,
-        u"tfNSColorWellObjBbImage"_qs,
-        u"tfNSColorWellObjLightBox"_qs,
-        u"tfNSColorWellObjLightBoxShadow"_qs,
-        u"tfNSColorWellObjRDLightboxBgColor"_qs,
-        u"tfNSColorWellObjRGLightboxBgColor"_qs,
-        u"tfRotationBackgroundHexColor"_qs,
-        u"tfRCBackgroundHexColor"_qs,
-        u""_qs,
+        u"tfNSColorWellObjBGCt"_s,
+        u"tfNSColorWellObjBGCc"_s,
+        u"tfNSColorWellObjBCc"_s,
+        u"tfNSColorWellObjTCt"_s,
+        u"tfNSColorWellObjPhotoNameCt"_s,
+        u"tfNSColorWellObjUserExifCommentCt"_s,
+        u"tfNSColorWellObjBsImage"_s,
+        u"tfNSColorWellObjThumbnail"_s,
+        u"tfNSColorWellObjThumbnailShadow"_s,
+        u"tfNSColorWellObjBbImage"_s,
+        u"tfNSColorWellObjLightBox"_s,
+        u"tfNSColorWellObjLightBoxShadow"_s,
+        u"tfNSColorWellObjRDLightboxBgColor"_s,
+        u"tfNSColorWellObjRGLightboxBgColor"_s,
+        u"tfRotationBackgroundHexColor"_s,
+        u"tfRCBackgroundHexColor"_s,
+        u""_s,
     };
 
     QStringList names;
@@ -206,9 +207,9 @@ TEST(ColorWellTags, LeaveControlsAloneThatNoPanelHas)
 {
     const Panels panels;
     const cColorWellHandling handling(panels);
-    TextField field(u"tfTest"_qs, u"FF0000"_qs);
+    TextField field(u"tfTest"_s, u"FF0000"_s);
     field.setTag(3);
-    ColorWell well(u"cwTest"_qs);
+    ColorWell well(u"cwTest"_s);
     well.setTag(99);
 
     EXPECT_NO_THROW(handling.controlTextDidEndEditing(field));
@@ -219,9 +220,9 @@ TEST(ColorWellTags, LetTheWellFollowItsHexField)
 {
     const Panels panels;
     const cColorWellHandling handling(panels);
-    auto* well = dynamic_cast<ColorWell*>(panels.control(u"ascNSColorWellAddTint"_qs));
+    auto* well = dynamic_cast<ColorWell*>(panels.control(u"ascNSColorWellAddTint"_s));
     ASSERT_TRUE(well);
-    TextField field(u"tfTest"_qs, u"FF0000"_qs);
+    TextField field(u"tfTest"_s, u"FF0000"_s);
     field.setTag(7);
 
     handling.controlTextDidEndEditing(field);
@@ -233,14 +234,14 @@ TEST(ColorWellTags, LetTheHexFieldFollowItsWell)
 {
     const Panels panels;
     const cColorWellHandling handling(panels);
-    auto* field = dynamic_cast<TextField*>(panels.control(u"tfRotationBackgroundHexColor"_qs));
+    auto* field = dynamic_cast<TextField*>(panels.control(u"tfRotationBackgroundHexColor"_s));
     ASSERT_TRUE(field);
-    ColorWell well(u"cwTest"_qs, grey);
+    ColorWell well(u"cwTest"_s, grey);
     well.setTag(14);
 
     handling.hCallHEXfromColorwell(well);
 
-    EXPECT_EQ(field->stringValue(), u"7F7F7F"_qs);
+    EXPECT_EQ(field->stringValue(), u"7F7F7F"_s);
 }
 
 TEST(ColorWellTags, AreReadByTheActionsOfFieldsAndWells)
@@ -249,22 +250,21 @@ TEST(ColorWellTags, AreReadByTheActionsOfFieldsAndWells)
     const cColorWellHandling handling(panels);
     ActionRegistry actions;
     handling.registerActions(actions);
-    auto* well = dynamic_cast<ColorWell*>(panels.control(u"cwRotationBackgroundColor"_qs));
-    auto* hexField = dynamic_cast<TextField*>(panels.control(u"tfRotationBackgroundHexColor"_qs));
+    auto* well = dynamic_cast<ColorWell*>(panels.control(u"cwRotationBackgroundColor"_s));
+    auto* hexField = dynamic_cast<TextField*>(panels.control(u"tfRotationBackgroundHexColor"_s));
     ASSERT_TRUE(well && hexField);
-    TextField field(u"tfTest"_qs, u"FF0000"_qs);
+    TextField field(u"tfTest"_s, u"FF0000"_s);
     field.setTag(23);
-    ColorWell changed(u"cwTest"_qs, grey);
+    ColorWell changed(u"cwTest"_s, grey);
     changed.setTag(14);
 
-    const auto edited
-        = actions.send(u"controlTextDidEndEditing"_qs, {.tag = 23, .control = &field});
-    const auto chosen = actions.send(u"hCallHEXfromColorwell"_qs, {.tag = 14, .control = &changed});
+    const auto edited = actions.send(u"controlTextDidEndEditing"_s, {.tag = 23, .control = &field});
+    const auto chosen = actions.send(u"hCallHEXfromColorwell"_s, {.tag = 14, .control = &changed});
 
     EXPECT_EQ(edited, ActionRegistry::Sent::Done);
     EXPECT_EQ(chosen, ActionRegistry::Sent::Done);
     EXPECT_EQ(well->color(), red);
-    EXPECT_EQ(hexField->stringValue(), u"7F7F7F"_qs);
+    EXPECT_EQ(hexField->stringValue(), u"7F7F7F"_s);
 }
 
 TEST(DrawingColor, KeepsComponentsAndSpace)

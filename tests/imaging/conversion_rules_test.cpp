@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using brenvaldo::platform::codecs::FileFormat;
 using brenvaldo::test::CaseName;
@@ -34,14 +35,14 @@ class ConversionTable : public testing::TestWithParam<ConversionCase>
 };
 
 const ConversionCase conversionCases[] = {
-    {"Pdf", u"public.pdf"_qs, u"pdf"_qs, FileFormat::Pdf, Route::Plain},
-    {"Png", u"public.png"_qs, u"png"_qs, FileFormat::Png, Route::Metadata},
-    {"Tiff", u"public.tiff"_qs, u"tiff"_qs, FileFormat::Tiff, Route::Metadata},
-    {"Bmp", u"com.microsoft.bmp"_qs, u"bmp"_qs, FileFormat::Bmp, Route::Plain},
-    {"Gif", u"com.compuserve.gif"_qs, u"gif"_qs, FileFormat::Gif, Route::Plain},
-    {"Jpeg", u"public.jpeg"_qs, u"jpeg"_qs, FileFormat::Jpeg, Route::Plain},
-    {"Jpeg2000", u"public.jp2"_qs, u"jp2"_qs, FileFormat::Jpeg2000, Route::Plain},
-    {"Heic", u"public.heic"_qs, u"heic"_qs, FileFormat::Heic, Route::Metadata},
+    {"Pdf", u"public.pdf"_s, u"pdf"_s, FileFormat::Pdf, Route::Plain},
+    {"Png", u"public.png"_s, u"png"_s, FileFormat::Png, Route::Metadata},
+    {"Tiff", u"public.tiff"_s, u"tiff"_s, FileFormat::Tiff, Route::Metadata},
+    {"Bmp", u"com.microsoft.bmp"_s, u"bmp"_s, FileFormat::Bmp, Route::Plain},
+    {"Gif", u"com.compuserve.gif"_s, u"gif"_s, FileFormat::Gif, Route::Plain},
+    {"Jpeg", u"public.jpeg"_s, u"jpeg"_s, FileFormat::Jpeg, Route::Plain},
+    {"Jpeg2000", u"public.jp2"_s, u"jp2"_s, FileFormat::Jpeg2000, Route::Plain},
+    {"Heic", u"public.heic"_s, u"heic"_s, FileFormat::Heic, Route::Metadata},
 };
 
 struct QualityCase
@@ -58,11 +59,11 @@ class ConversionQuality : public testing::TestWithParam<QualityCase>
 };
 
 const QualityCase qualityCases[] = {
-    {"Lowest", u"1"_qs, 0.1},
-    {"Eighth", u"8"_qs, 0.8},
-    {"Ninth", u"9"_qs, 0.9},
-    {"Ten", u"10"_qs, 0.9},
-    {"Empty", u""_qs, 0.9},
+    {"Lowest", u"1"_s, 0.1},
+    {"Eighth", u"8"_s, 0.8},
+    {"Ninth", u"9"_s, 0.9},
+    {"Ten", u"10"_s, 0.9},
+    {"Empty", u""_s, 0.9},
 };
 
 } // namespace
@@ -96,24 +97,24 @@ TEST_P(ConversionTable, NamesTheTargetAfterTheSuffix)
 {
     const ConversionCase& row = GetParam();
 
-    EXPECT_EQ(conversionTarget(u"/out/a"_qs, row.type), u"/out/a."_qs + row.word);
+    EXPECT_EQ(conversionTarget(u"/out/a"_s, row.type), u"/out/a."_s + row.word);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, ConversionTable, testing::ValuesIn(conversionCases), CaseName());
 
 TEST(ConversionRule, IsMissingForOtherTypes)
 {
-    EXPECT_FALSE(conversionRuleForType(u"com.adobe.raw-image"_qs));
-    EXPECT_FALSE(conversionRuleForType(u"public.jpg"_qs));
-    EXPECT_FALSE(conversionRuleForType(u""_qs));
-    EXPECT_EQ(conversionTarget(u"/out/a"_qs, u"com.adobe.raw-image"_qs), u"/out/a"_qs);
+    EXPECT_FALSE(conversionRuleForType(u"com.adobe.raw-image"_s));
+    EXPECT_FALSE(conversionRuleForType(u"public.jpg"_s));
+    EXPECT_FALSE(conversionRuleForType(u""_s));
+    EXPECT_EQ(conversionTarget(u"/out/a"_s, u"com.adobe.raw-image"_s), u"/out/a"_s);
 }
 
 TEST(ConversionRule, TestsTheWordHeicAloneAsASuffix)
 {
-    EXPECT_TRUE(conversionRuleForWord(u"xheic"_qs));
-    EXPECT_FALSE(conversionRuleForWord(u"xpng"_qs));
-    EXPECT_FALSE(conversionRuleForWord(u"jpg"_qs));
+    EXPECT_TRUE(conversionRuleForWord(u"xheic"_s));
+    EXPECT_FALSE(conversionRuleForWord(u"xpng"_s));
+    EXPECT_FALSE(conversionRuleForWord(u"jpg"_s));
 }
 
 TEST_P(ConversionQuality, NeverReachesOne)

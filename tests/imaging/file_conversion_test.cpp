@@ -19,6 +19,7 @@
 
 #include <QDir>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
 using brenvaldo::platform::containers::typeIdentifierOfContents;
@@ -48,14 +49,14 @@ class FileConversionTable : public testing::TestWithParam<ConversionCase>
 };
 
 const ConversionCase conversionCases[] = {
-    {"Pdf", u"public.pdf"_qs, u"pdf"_qs, u"com.adobe.pdf"_qs, Trace::None},
-    {"Png", u"public.png"_qs, u"png"_qs, u"public.png"_qs, Trace::Metadata},
-    {"Tiff", u"public.tiff"_qs, u"tiff"_qs, u"public.tiff"_qs, Trace::Metadata},
-    {"Bmp", u"public.bmp"_qs, u"bmp"_qs, u"com.microsoft.bmp"_qs, Trace::None},
-    {"Gif", u"com.compuserve.gif"_qs, u"gif"_qs, u"com.compuserve.gif"_qs, Trace::None},
-    {"Jpeg", u"public.jpeg"_qs, u"jpeg"_qs, u"public.jpeg"_qs, Trace::None},
-    {"Jpeg2000", u"public.jp2"_qs, u"jp2"_qs, u"public.jp2"_qs, Trace::None},
-    {"Heic", u"public.heic"_qs, u"heic"_qs, u"public.heic"_qs, Trace::Metadata},
+    {"Pdf", u"public.pdf"_s, u"pdf"_s, u"com.adobe.pdf"_s, Trace::None},
+    {"Png", u"public.png"_s, u"png"_s, u"public.png"_s, Trace::Metadata},
+    {"Tiff", u"public.tiff"_s, u"tiff"_s, u"public.tiff"_s, Trace::Metadata},
+    {"Bmp", u"public.bmp"_s, u"bmp"_s, u"com.microsoft.bmp"_s, Trace::None},
+    {"Gif", u"com.compuserve.gif"_s, u"gif"_s, u"com.compuserve.gif"_s, Trace::None},
+    {"Jpeg", u"public.jpeg"_s, u"jpeg"_s, u"public.jpeg"_s, Trace::None},
+    {"Jpeg2000", u"public.jp2"_s, u"jp2"_s, u"public.jp2"_s, Trace::None},
+    {"Heic", u"public.heic"_s, u"heic"_s, u"public.heic"_s, Trace::Metadata},
 };
 
 PhotoBuilder turnedPhoto()
@@ -63,7 +64,7 @@ PhotoBuilder turnedPhoto()
     return PhotoBuilder().size(48, 32).exif(exifBlock({.orientation = 6, .make = "Maker"}));
 }
 
-bool isPdf(const ConversionCase& row) { return row.word == u"pdf"_qs; }
+bool isPdf(const ConversionCase& row) { return row.word == u"pdf"_s; }
 
 QStringList filesOf(const TemporaryFolder& folder)
 {
@@ -76,18 +77,18 @@ TEST_P(FileConversionTable, WritesTheFormatOfTheType)
 {
     const ConversionCase& row = GetParam();
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.JPG"_qs));
-    const QString target = conversionTarget(folder.path(u"out"_qs), row.type);
+    const QString source = turnedPhoto().write(folder.path(u"photo.JPG"_s));
+    const QString target = conversionTarget(folder.path(u"out"_s), row.type);
 
     const ConversionResult result
-        = FileConversion().hConvertFileType({source, row.type, u"8"_qs, target});
+        = FileConversion().hConvertFileType({source, row.type, u"8"_s, target});
 
     EXPECT_EQ(result.word, ResultWord::Ok);
     EXPECT_EQ(result.saveURL, QUrl::fromLocalFile(target));
     EXPECT_EQ(result.type, row.type);
-    EXPECT_EQ(result.name, u"photo"_qs);
+    EXPECT_EQ(result.name, u"photo"_s);
     EXPECT_EQ(typeIdentifierOfContents(target), row.contents);
-    EXPECT_EQ(filesOf(folder), (QStringList{u"out."_qs + row.word, u"photo.JPG"_qs}));
+    EXPECT_EQ(filesOf(folder), (QStringList{u"out."_s + row.word, u"photo.JPG"_s}));
 }
 
 TEST_P(FileConversionTable, WorksOnStoredPixelsAndKeepsTheTagWithTheMetadata)
@@ -96,11 +97,11 @@ TEST_P(FileConversionTable, WorksOnStoredPixelsAndKeepsTheTagWithTheMetadata)
     if (isPdf(row))
         return;
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
-    const QString target = folder.path(u"out"_qs);
+    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_s));
+    const QString target = folder.path(u"out"_s);
 
     const ConversionResult result
-        = FileConversion().hConvertFileType({source, row.type, u"8"_qs, target});
+        = FileConversion().hConvertFileType({source, row.type, u"8"_s, target});
 
     const auto blocks = readMetadataBlocks(target);
     ASSERT_TRUE(blocks);
@@ -113,19 +114,19 @@ TEST_P(FileConversionTable, LeavesAnEmptyFileOfTheMetadataRouteForAnUnreadablePh
 {
     const ConversionCase& row = GetParam();
     const TemporaryFolder folder;
-    const QString source = folder.write(u"note.jpg"_qs, "this is no photo");
-    const QString target = folder.path(u"out"_qs);
+    const QString source = folder.write(u"note.jpg"_s, "this is no photo");
+    const QString target = folder.path(u"out"_s);
 
     const LogLines log;
 
     const ConversionResult result
-        = FileConversion().hConvertFileType({source, row.type, u"8"_qs, target});
+        = FileConversion().hConvertFileType({source, row.type, u"8"_s, target});
 
     EXPECT_EQ(result.word, ResultWord::Failed);
     EXPECT_EQ(QFile::exists(target), row.trace == Trace::Metadata);
     EXPECT_EQ(TemporaryFolder::read(target), QByteArray());
     EXPECT_TRUE(log.lines().contains(
-        u"Failed to write %1: %2 can't be read as a photo"_qs.arg(target, source)
+        u"Failed to write %1: %2 can't be read as a photo"_s.arg(target, source)
     ));
 }
 
@@ -133,14 +134,14 @@ TEST_P(FileConversionTable, LogsHeicAlone)
 {
     const ConversionCase& row = GetParam();
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
+    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_s));
     const LogLines log;
 
     const ConversionResult result
-        = FileConversion().hConvertFileType({source, row.type, u"8"_qs, folder.path(u"out"_qs)});
+        = FileConversion().hConvertFileType({source, row.type, u"8"_s, folder.path(u"out"_s)});
 
     const QStringList expected
-        = row.word == u"heic"_qs ? QStringList{u"Convert: save as heic"_qs} : QStringList();
+        = row.word == u"heic"_s ? QStringList{u"Convert: save as heic"_s} : QStringList();
     EXPECT_EQ(result.word, ResultWord::Ok);
     EXPECT_EQ(log.lines(), expected);
 }
@@ -149,14 +150,14 @@ TEST_P(FileConversionTable, ReplacesAWorkFileByItsConversion)
 {
     const ConversionCase& row = GetParam();
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
+    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_s));
 
     const ConversionResult result
-        = FileConversion().hSaveAsFileType({source, row.word, u"8"_qs, folder.path()});
+        = FileConversion().hSaveAsFileType({source, row.word, u"8"_s, folder.path()});
 
     EXPECT_EQ(result.word, ResultWord::Ok);
-    ASSERT_EQ(filesOf(folder), QStringList{u"photo."_qs + row.word});
-    EXPECT_EQ(typeIdentifierOfContents(folder.path(u"photo."_qs + row.word)), row.contents);
+    ASSERT_EQ(filesOf(folder), QStringList{u"photo."_s + row.word});
+    EXPECT_EQ(typeIdentifierOfContents(folder.path(u"photo."_s + row.word)), row.contents);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -166,80 +167,80 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(FileConversion, WritesNothingForAnUnknownType)
 {
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_qs));
+    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_s));
 
     const LogLines log;
 
     const ConversionResult result = FileConversion().hConvertFileType(
-        {source, u"com.canon.cr2-raw-image"_qs, u"8"_qs, folder.path(u"out"_qs)}
+        {source, u"com.canon.cr2-raw-image"_s, u"8"_s, folder.path(u"out"_s)}
     );
 
     EXPECT_EQ(
         log.lines(),
         QStringList{
-            u"Failed to write %1: the type \"com.canon.cr2-raw-image\" is not written here"_qs.arg(
-                folder.path(u"out"_qs)
+            u"Failed to write %1: the type \"com.canon.cr2-raw-image\" is not written here"_s.arg(
+                folder.path(u"out"_s)
             )}
     );
     EXPECT_EQ(result.word, ResultWord::Failed);
-    EXPECT_EQ(filesOf(folder), QStringList{u"photo.jpg"_qs});
+    EXPECT_EQ(filesOf(folder), QStringList{u"photo.jpg"_s});
 }
 
 TEST(FileConversion, FollowsTheCompressionLevelUpToNineTenths)
 {
     const TemporaryFolder folder;
-    const QString source = PhotoBuilder().size(96, 64).write(folder.path(u"photo.jpg"_qs));
+    const QString source = PhotoBuilder().size(96, 64).write(folder.path(u"photo.jpg"_s));
     const auto converted = [&](const QString& level) {
-        const QString target = folder.path(u"level "_qs + level);
+        const QString target = folder.path(u"level "_s + level);
         const auto result
-            = FileConversion().hConvertFileType({source, u"public.jpeg"_qs, level, target});
+            = FileConversion().hConvertFileType({source, u"public.jpeg"_s, level, target});
         EXPECT_EQ(result.word, ResultWord::Ok);
         return TemporaryFolder::read(target);
     };
 
-    EXPECT_LT(converted(u"1"_qs).size(), converted(u"8"_qs).size());
-    EXPECT_LT(converted(u"8"_qs).size(), converted(u"9"_qs).size());
-    EXPECT_EQ(converted(u"10"_qs), converted(u"9"_qs));
+    EXPECT_LT(converted(u"1"_s).size(), converted(u"8"_s).size());
+    EXPECT_LT(converted(u"8"_s).size(), converted(u"9"_s).size());
+    EXPECT_EQ(converted(u"10"_s), converted(u"9"_s));
 }
 
 TEST(FileConversion, AgreesWithTheWritersOnLevelNineAlone)
 {
     const TemporaryFolder folder;
-    const QString source = PhotoBuilder().size(96, 64).write(folder.path(u"photo.jpg"_qs));
+    const QString source = PhotoBuilder().size(96, 64).write(folder.path(u"photo.jpg"_s));
     const auto properties = readMetadataBlocks(source);
     ASSERT_TRUE(properties);
     const auto written = [&](const QString& level) {
         const ResultWord word = DVImageHandling::hSaveToNewImageFileX(
-            {.destination = folder.path(u"written"_qs),
-             .typeIdentifier = u"public.jpeg"_qs,
+            {.destination = folder.path(u"written"_s),
+             .typeIdentifier = u"public.jpeg"_s,
              .image = openedPhoto(source).image(),
              .properties = properties,
              .compressionLevel = level}
         );
         EXPECT_EQ(word, ResultWord::Ok);
-        return storedPixels(folder.path(u"written.jpg"_qs));
+        return storedPixels(folder.path(u"written.jpg"_s));
     };
     const auto converted = [&](const QString& level) {
-        const QString target = folder.path(u"converted"_qs);
+        const QString target = folder.path(u"converted"_s);
         const auto result
-            = FileConversion().hConvertFileType({source, u"public.jpeg"_qs, level, target});
+            = FileConversion().hConvertFileType({source, u"public.jpeg"_s, level, target});
         EXPECT_EQ(result.word, ResultWord::Ok);
         return storedPixels(target);
     };
 
-    EXPECT_EQ(largestDifference(written(u"9"_qs), converted(u"9"_qs)), 0);
-    EXPECT_NE(largestDifference(written(u"10"_qs), converted(u"10"_qs)), 0);
+    EXPECT_EQ(largestDifference(written(u"9"_s), converted(u"9"_s)), 0);
+    EXPECT_NE(largestDifference(written(u"10"_s), converted(u"10"_s)), 0);
 }
 
 TEST(FileConversion, LeavesTheOldFileOfThePlainRouteWhenThePhotoIsDamaged)
 {
     const TemporaryFolder folder;
     const QByteArray whole = PhotoBuilder().size(400, 300).bytes();
-    const QString source = folder.write(u"half.jpg"_qs, whole.left(whole.size() / 2));
-    const QString target = folder.write(u"out.jpeg"_qs, "output of a run before");
+    const QString source = folder.write(u"half.jpg"_s, whole.left(whole.size() / 2));
+    const QString target = folder.write(u"out.jpeg"_s, "output of a run before");
 
     const ConversionResult result
-        = FileConversion().hConvertFileType({source, u"public.jpeg"_qs, u"8"_qs, target});
+        = FileConversion().hConvertFileType({source, u"public.jpeg"_s, u"8"_s, target});
 
     EXPECT_EQ(result.word, ResultWord::Failed);
     EXPECT_EQ(TemporaryFolder::read(target), "output of a run before");
@@ -250,16 +251,15 @@ TEST(FileConversion, LeavesTheOldFileOnAFullDisk)
     const TemporaryFolder folder;
     const auto busy = [](int x, int y) { return Samples{x * y % 256, x * 7 % 256, y * 5 % 256}; };
     const QString source
-        = PhotoBuilder().size(400, 300).pixels(busy).write(folder.path(u"photo.jpg"_qs));
-    for (const QString& type : {u"png"_qs, u"tiff"_qs, u"heic"_qs}) {
-        const QString target = folder.write(u"out."_qs + type, "output of a run before");
+        = PhotoBuilder().size(400, 300).pixels(busy).write(folder.path(u"photo.jpg"_s));
+    for (const QString& type : {u"png"_s, u"tiff"_s, u"heic"_s}) {
+        const QString target = folder.write(u"out."_s + type, "output of a run before");
         ConversionResult result;
 
         {
             const FullDisk full(4096);
             result
-                = FileConversion().hConvertFileType({source, u"public."_qs + type, u"8"_qs, target}
-                );
+                = FileConversion().hConvertFileType({source, u"public."_s + type, u"8"_s, target});
         }
 
         EXPECT_EQ(result.word, ResultWord::Failed) << type.toStdString();
@@ -271,10 +271,10 @@ TEST(FileConversion, NeverEmptiesADamagedPhotoThatIsItsOwnTarget)
 {
     const TemporaryFolder folder;
     const QByteArray whole = PhotoBuilder().format(PhotoFormat::Png).size(400, 300).bytes();
-    const QString source = folder.write(u"half.png"_qs, whole.left(whole.size() / 2));
+    const QString source = folder.write(u"half.png"_s, whole.left(whole.size() / 2));
 
     const ConversionResult result
-        = FileConversion().hConvertFileType({source, u"public.png"_qs, u"8"_qs, source});
+        = FileConversion().hConvertFileType({source, u"public.png"_s, u"8"_s, source});
 
     EXPECT_EQ(result.word, ResultWord::Failed);
     EXPECT_EQ(TemporaryFolder::read(source), whole.left(whole.size() / 2));
@@ -284,12 +284,12 @@ TEST(FileConversion, LeavesTheOldFileOfTheMetadataRouteWhenThePhotoIsDamaged)
 {
     const TemporaryFolder folder;
     const QByteArray whole = PhotoBuilder().size(400, 300).bytes();
-    const QString source = folder.write(u"half.jpg"_qs, whole.left(whole.size() / 2));
-    for (const QString& type : {u"png"_qs, u"tiff"_qs, u"heic"_qs}) {
-        const QString target = folder.write(u"out."_qs + type, "output of a run before");
+    const QString source = folder.write(u"half.jpg"_s, whole.left(whole.size() / 2));
+    for (const QString& type : {u"png"_s, u"tiff"_s, u"heic"_s}) {
+        const QString target = folder.write(u"out."_s + type, "output of a run before");
 
         const ConversionResult result
-            = FileConversion().hConvertFileType({source, u"public."_qs + type, u"8"_qs, target});
+            = FileConversion().hConvertFileType({source, u"public."_s + type, u"8"_s, target});
 
         EXPECT_EQ(result.word, ResultWord::Failed);
         EXPECT_EQ(TemporaryFolder::read(target), "output of a run before");
@@ -300,11 +300,11 @@ TEST(FileConversion, LeavesAnEmptyFileOfTheMetadataRouteWhenTheEncoderRefusesThe
 {
     const TemporaryFolder folder;
     const QString source // higher than a HEIC can be
-        = PhotoBuilder().size(1, 65537).format(PhotoFormat::Png).write(folder.path(u"long.png"_qs));
-    const QString target = folder.write(u"out.heic"_qs, "output of a run before");
+        = PhotoBuilder().size(1, 65537).format(PhotoFormat::Png).write(folder.path(u"long.png"_s));
+    const QString target = folder.write(u"out.heic"_s, "output of a run before");
 
     const ConversionResult result
-        = FileConversion().hConvertFileType({source, u"public.heic"_qs, u"8"_qs, target});
+        = FileConversion().hConvertFileType({source, u"public.heic"_s, u"8"_s, target});
 
     EXPECT_EQ(result.word, ResultWord::Failed);
     EXPECT_EQ(TemporaryFolder::read(target), QByteArray());
@@ -314,11 +314,11 @@ TEST(FileConversion, NeverEmptiesAPhotoThatIsItsOwnTargetForARefusingEncoder)
 {
     const TemporaryFolder folder;
     const QString source
-        = PhotoBuilder().size(1, 65537).format(PhotoFormat::Png).write(folder.path(u"long.png"_qs));
+        = PhotoBuilder().size(1, 65537).format(PhotoFormat::Png).write(folder.path(u"long.png"_s));
     const QByteArray before = TemporaryFolder::read(source);
 
     const ConversionResult result
-        = FileConversion().hConvertFileType({source, u"public.heic"_qs, u"8"_qs, source});
+        = FileConversion().hConvertFileType({source, u"public.heic"_s, u"8"_s, source});
 
     EXPECT_EQ(result.word, ResultWord::Failed);
     EXPECT_EQ(TemporaryFolder::read(source), before);
@@ -327,55 +327,55 @@ TEST(FileConversion, NeverEmptiesAPhotoThatIsItsOwnTargetForARefusingEncoder)
 TEST(SaveAsFileType, RemovesTheSourceEvenForAWordThatItDoesNotKnow)
 {
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.png"_qs));
+    const QString source = turnedPhoto().write(folder.path(u"photo.png"_s));
 
     const ConversionResult result
-        = FileConversion().hSaveAsFileType({source, u"jpg"_qs, u"8"_qs, folder.path()});
+        = FileConversion().hSaveAsFileType({source, u"jpg"_s, u"8"_s, folder.path()});
 
     EXPECT_EQ(result.word, ResultWord::Failed);
-    EXPECT_EQ(result.saveURL, QUrl::fromLocalFile(folder.path(u"photo.jpg"_qs)));
+    EXPECT_EQ(result.saveURL, QUrl::fromLocalFile(folder.path(u"photo.jpg"_s)));
     EXPECT_EQ(filesOf(folder), QStringList());
 }
 
 TEST(SaveAsFileType, KeepsASourceThatIsItsOwnTarget)
 {
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpeg"_qs));
-    const QString unknown = folder.write(u"photo.xyz"_qs, "contents");
+    const QString source = turnedPhoto().write(folder.path(u"photo.jpeg"_s));
+    const QString unknown = folder.write(u"photo.xyz"_s, "contents");
 
     const ConversionResult same
-        = FileConversion().hSaveAsFileType({source, u"jpeg"_qs, u"1"_qs, folder.path()});
+        = FileConversion().hSaveAsFileType({source, u"jpeg"_s, u"1"_s, folder.path()});
     const ConversionResult nothing
-        = FileConversion().hSaveAsFileType({unknown, u"xyz"_qs, u"1"_qs, folder.path()});
+        = FileConversion().hSaveAsFileType({unknown, u"xyz"_s, u"1"_s, folder.path()});
 
     EXPECT_EQ(same.word, ResultWord::Ok);
     EXPECT_EQ(nothing.word, ResultWord::Failed);
-    EXPECT_EQ(filesOf(folder), (QStringList{u"photo.jpeg"_qs, u"photo.xyz"_qs}));
-    EXPECT_EQ(typeIdentifierOfContents(source), u"public.jpeg"_qs);
+    EXPECT_EQ(filesOf(folder), (QStringList{u"photo.jpeg"_s, u"photo.xyz"_s}));
+    EXPECT_EQ(typeIdentifierOfContents(source), u"public.jpeg"_s);
 }
 
 TEST(SaveAsFileType, RemovesTheSourceFromAnotherFolder)
 {
     const TemporaryFolder folder;
     const TemporaryFolder other;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpeg"_qs));
+    const QString source = turnedPhoto().write(folder.path(u"photo.jpeg"_s));
 
     const ConversionResult result
-        = FileConversion().hSaveAsFileType({source, u"jpeg"_qs, u"8"_qs, other.path()});
+        = FileConversion().hSaveAsFileType({source, u"jpeg"_s, u"8"_s, other.path()});
 
     EXPECT_EQ(result.word, ResultWord::Ok);
     EXPECT_EQ(filesOf(folder), QStringList());
-    EXPECT_EQ(filesOf(other), QStringList{u"photo.jpeg"_qs});
+    EXPECT_EQ(filesOf(other), QStringList{u"photo.jpeg"_s});
 }
 
 TEST(FileConversion, TakesOnlyTheLastExtensionFromTheName)
 {
     const TemporaryFolder folder;
-    const QString source = PhotoBuilder().write(folder.path(u"a.b.jpg"_qs));
+    const QString source = PhotoBuilder().write(folder.path(u"a.b.jpg"_s));
 
     const ConversionResult result = FileConversion().hConvertFileType(
-        {source, u"public.png"_qs, u"8"_qs, folder.path(u"out.png"_qs)}
+        {source, u"public.png"_s, u"8"_s, folder.path(u"out.png"_s)}
     );
 
-    EXPECT_EQ(result.name, u"a.b"_qs);
+    EXPECT_EQ(result.name, u"a.b"_s);
 }

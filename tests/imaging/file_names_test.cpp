@@ -5,22 +5,23 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::imaging::DVImageHandling;
 
 TEST(FileNamePrePostFixConstruct, PutsWidthAndHeightIntoTheirPlaces)
 {
     const QString name = DVImageHandling::hFileNamePrePostFixConstruct(
-        u"thumb_<[IMGW]>x<[IMGH]>_"_qs, {.width = u"640"_qs, .height = u"480"_qs}
+        u"thumb_<[IMGW]>x<[IMGH]>_"_s, {.width = u"640"_s, .height = u"480"_s}
     );
 
-    EXPECT_EQ(name, u"thumb_640x480_"_qs);
+    EXPECT_EQ(name, u"thumb_640x480_"_s);
 }
 
 TEST(FileNamePrePostFixConstruct, ReplacesEveryOccurrenceAndNoOtherToken)
 {
     const QString name = DVImageHandling::hFileNamePrePostFixConstruct(
-        u"<[IMGW]><[IMGW]><[NAME]><[imgh]>"_qs, {.width = u"1"_qs, .height = u"2"_qs}
+        u"<[IMGW]><[IMGW]><[NAME]><[imgh]>"_s, {.width = u"1"_s, .height = u"2"_s}
     );
 
-    EXPECT_EQ(name, u"11<[NAME]><[imgh]>"_qs);
+    EXPECT_EQ(name, u"11<[NAME]><[imgh]>"_s);
 }

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::imaging::DVImageHandling;
 using brenvaldo::test::CaseName;
 
@@ -29,15 +30,15 @@ class FileSizeText : public testing::TestWithParam<FileSizeCase>
 constexpr double terabyte = 1024.0 * 1024.0 * 1024.0 * 1024.0;
 
 const FileSizeCase fileSizeCases[] = {
-    {"Nothing", 0, u"0.00bytes"_qs},
-    {"Bytes", 512, u"512.00bytes"_qs},
-    {"ExactlyOneKilobyte", 1024, u"1024.00bytes"_qs},
-    {"JustAboveOneKilobyte", 1025, u"1.00KB"_qs},
-    {"MiddleAboveAnEvenHundredth", 1152, u"1.12KB"_qs},
-    {"MiddleAboveAnOddHundredth", 1408, u"1.38KB"_qs},
-    {"Megabytes", 1572864, u"1.50MB"_qs},
-    {"Gigabytes", 5368709120.0, u"5.00GB"_qs},
-    {"ExactlyTheLastUnit", 1024 * terabyte, u"1024.00TB"_qs},
+    {"Nothing", 0, u"0.00bytes"_s},
+    {"Bytes", 512, u"512.00bytes"_s},
+    {"ExactlyOneKilobyte", 1024, u"1024.00bytes"_s},
+    {"JustAboveOneKilobyte", 1025, u"1.00KB"_s},
+    {"MiddleAboveAnEvenHundredth", 1152, u"1.12KB"_s},
+    {"MiddleAboveAnOddHundredth", 1408, u"1.38KB"_s},
+    {"Megabytes", 1572864, u"1.50MB"_s},
+    {"Gigabytes", 5368709120.0, u"5.00GB"_s},
+    {"ExactlyTheLastUnit", 1024 * terabyte, u"1024.00TB"_s},
 };
 
 } // namespace

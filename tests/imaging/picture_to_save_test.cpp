@@ -12,6 +12,7 @@
 
 #include <QDir>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
 
@@ -20,16 +21,16 @@ namespace {
 class FinishedOutcome : public testing::Test
 {
 protected:
-    FinishedOutcome() { (void)PhotoBuilder().size(40, 30).write(folder.path(u"in.jpg"_qs)); }
+    FinishedOutcome() { (void)PhotoBuilder().size(40, 30).write(folder.path(u"in.jpg"_s)); }
 
     [[nodiscard]] Outcome resized(const QString& type) const
     {
         return DVImageHandling::hScalePhotosPercentage(
-            {.source = folder.path(u"in.jpg"_qs), .destinationBase = folder.path(u"out"_qs)},
+            {.source = folder.path(u"in.jpg"_s), .destinationBase = folder.path(u"out"_s)},
             50,
             3,
             {.outputType = type,
-             .compressionLevel = u"9"_qs,
+             .compressionLevel = u"9"_s,
              .fileExtension = {},
              .fileExtensionNSStr = {},
              .fileUTI = {},
@@ -50,27 +51,27 @@ protected:
 
 TEST(ResultWords, HaveTheirTexts)
 {
-    EXPECT_EQ(text(ResultWord::Ok), u"OK"_qs);
-    EXPECT_EQ(text(ResultWord::Failed), u"Failed"_qs);
-    EXPECT_EQ(text(ResultWord::NotSupported), u"Not Supported"_qs);
-    EXPECT_EQ(text(ResultWord::IoFailure), u"IOFailure"_qs);
-    EXPECT_EQ(text(ResultWord::Exists), u"EXISTS"_qs);
+    EXPECT_EQ(text(ResultWord::Ok), u"OK"_s);
+    EXPECT_EQ(text(ResultWord::Failed), u"Failed"_s);
+    EXPECT_EQ(text(ResultWord::NotSupported), u"Not Supported"_s);
+    EXPECT_EQ(text(ResultWord::IoFailure), u"IOFailure"_s);
+    EXPECT_EQ(text(ResultWord::Exists), u"EXISTS"_s);
     EXPECT_EQ(text(ResultWord::None), QString());
 }
 
 TEST_F(FinishedOutcome, IsNoFileBeforeItIsSaved)
 {
-    const Outcome outcome = resized(u"public.png"_qs);
+    const Outcome outcome = resized(u"public.png"_s);
 
-    EXPECT_EQ(files(), QStringList{u"in.jpg"_qs});
+    EXPECT_EQ(files(), QStringList{u"in.jpg"_s});
     EXPECT_EQ(handling.finish(outcome), ResultWord::Ok);
-    EXPECT_EQ(files(), (QStringList{u"in.jpg"_qs, u"out.png"_qs}));
+    EXPECT_EQ(files(), (QStringList{u"in.jpg"_s, u"out.png"_s}));
 }
 
 TEST_F(FinishedOutcome, OfAWordIsThatWordAndLeavesTheWordOfTheLastPicture)
 {
     EXPECT_EQ(handling.finish(WordOfPictureBefore{}), ResultWord::Failed);
-    EXPECT_EQ(handling.finish(resized(u"public.png"_qs)), ResultWord::Ok);
+    EXPECT_EQ(handling.finish(resized(u"public.png"_s)), ResultWord::Ok);
 
     EXPECT_EQ(handling.finish(ResultWord::Exists), ResultWord::Exists);
 
@@ -80,7 +81,7 @@ TEST_F(FinishedOutcome, OfAWordIsThatWordAndLeavesTheWordOfTheLastPicture)
 
 TEST_F(FinishedOutcome, KeepsTheWordOfATypeThatIsNotSupported)
 {
-    EXPECT_EQ(handling.finish(resized(u"com.adobe.pdf"_qs)), ResultWord::NotSupported);
+    EXPECT_EQ(handling.finish(resized(u"com.adobe.pdf"_s)), ResultWord::NotSupported);
 
     EXPECT_EQ(handling.storeResult(), ResultWord::NotSupported);
 }
@@ -88,23 +89,23 @@ TEST_F(FinishedOutcome, KeepsTheWordOfATypeThatIsNotSupported)
 TEST_F(FinishedOutcome, OfAConversionLeavesTheWordOfTheLastPicture)
 {
     const FileConversion::Settings settings{
-        .source = folder.path(u"in.jpg"_qs),
-        .type = u"public.png"_qs,
-        .destination = folder.path(u"out.png"_qs)};
+        .source = folder.path(u"in.jpg"_s),
+        .type = u"public.png"_s,
+        .destination = folder.path(u"out.png"_s)};
 
     EXPECT_EQ(handling.finish(FileConversion::conversion(settings)), ResultWord::Ok);
 
-    EXPECT_EQ(files(), (QStringList{u"in.jpg"_qs, u"out.png"_qs}));
+    EXPECT_EQ(files(), (QStringList{u"in.jpg"_s, u"out.png"_s}));
     EXPECT_EQ(handling.storeResult(), ResultWord::Failed);
 }
 
 TEST_F(FinishedOutcome, OfAnUnknownTypeOfConversionHasFailed)
 {
     const FileConversion::Settings settings{
-        .source = folder.path(u"in.jpg"_qs),
-        .type = u"public.xyz"_qs,
-        .destination = folder.path(u"out"_qs)};
+        .source = folder.path(u"in.jpg"_s),
+        .type = u"public.xyz"_s,
+        .destination = folder.path(u"out"_s)};
 
     EXPECT_EQ(handling.finish(FileConversion::conversion(settings)), ResultWord::Failed);
-    EXPECT_EQ(files(), QStringList{u"in.jpg"_qs});
+    EXPECT_EQ(files(), QStringList{u"in.jpg"_s});
 }

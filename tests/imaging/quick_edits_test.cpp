@@ -16,6 +16,7 @@
 
 #include <QDir>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
 using brenvaldo::platform::graphics::Image;
@@ -53,7 +54,7 @@ const TurnCase turnCases[] = {
 
 Image picture(const TemporaryFolder& folder, const PhotoBuilder& photo)
 {
-    const auto image = openedPhoto(photo.write(folder.path(u"picture.png"_qs))).image();
+    const auto image = openedPhoto(photo.write(folder.path(u"picture.png"_s))).image();
     if (!image)
         qFatal("a photo of a test can't be decoded");
     return *image;
@@ -65,7 +66,7 @@ TEST_P(QuickTurn, ReplacesThePhotoByItsTurn)
 {
     const TurnCase& row = GetParam();
     const TemporaryFolder folder;
-    const QString path = png(48, 32).write(folder.path(u"photo.png"_qs));
+    const QString path = png(48, 32).write(folder.path(u"photo.png"_s));
     DVImageHandling handling;
 
     const auto word = handling.hRotatePicture(path, folder.path(), row.angle);
@@ -86,7 +87,7 @@ TEST(QuickTurn, ComputesNoPixelsInAQuarterTurn)
                              .depth(16)
                              .size(47, 33)
                              .gradient()
-                             .write(folder.path(u"photo.png"_qs));
+                             .write(folder.path(u"photo.png"_s));
     const QImage before = storedPixels(path);
     DVImageHandling handling;
 
@@ -101,7 +102,7 @@ TEST(QuickTurn, TurnsTheStoredPixelsAndKeepsTheTag)
 {
     const TemporaryFolder folder;
     const QString path
-        = PhotoBuilder().size(400, 300).orientation(6).write(folder.path(u"photo.jpg"_qs));
+        = PhotoBuilder().size(400, 300).orientation(6).write(folder.path(u"photo.jpg"_s));
     DVImageHandling handling;
 
     EXPECT_EQ(handling.hRotatePicture(path, folder.path(), 90), ResultWord::Ok);
@@ -117,7 +118,7 @@ TEST(QuickTurn, LeavesBlackCornersToAnOpaquePhoto)
                              .format(PhotoFormat::Png)
                              .size(1000, 1000)
                              .solid({200, 100, 50})
-                             .write(folder.path(u"photo.png"_qs));
+                             .write(folder.path(u"photo.png"_s));
     DVImageHandling handling;
 
     EXPECT_EQ(handling.hRotatePicture(path, folder.path(), 45), ResultWord::Ok);
@@ -137,7 +138,7 @@ TEST(QuickTurn, LeavesTransparentCornersToAPhotoWithAlpha)
                              .model(PhotoModel::RgbAlpha)
                              .size(100, 100)
                              .solid({200, 100, 50, 255})
-                             .write(folder.path(u"photo.png"_qs));
+                             .write(folder.path(u"photo.png"_s));
     DVImageHandling handling;
 
     EXPECT_EQ(handling.hRotatePicture(path, folder.path(), 45), ResultWord::Ok);
@@ -151,7 +152,7 @@ TEST(QuickTurn, LeavesTransparentCornersToAPhotoWithAlpha)
 TEST(QuickTurn, FailsForAnAngleThatIsNoNumber)
 {
     const TemporaryFolder folder;
-    const QString path = png(48, 32).write(folder.path(u"photo.png"_qs));
+    const QString path = png(48, 32).write(folder.path(u"photo.png"_s));
     const QByteArray before = TemporaryFolder::read(path);
     DVImageHandling handling;
 
@@ -167,7 +168,7 @@ TEST(QuickEdits, KeepTheMetadataUnchanged)
     const TemporaryFolder folder;
     const QString path = PhotoBuilder()
                              .exif(exifBlock({.orientation = 3, .make = "Maker"}))
-                             .write(folder.path(u"photo.jpg"_qs));
+                             .write(folder.path(u"photo.jpg"_s));
     const auto before = readMetadataBlocks(path);
     DVImageHandling handling;
 
@@ -182,7 +183,7 @@ TEST(QuickEdits, KeepTheMetadataUnchanged)
 TEST(QuickEdits, MirrorThePhotoInPlace)
 {
     const TemporaryFolder folder;
-    const QString path = png(48, 32).write(folder.path(u"photo.png"_qs));
+    const QString path = png(48, 32).write(folder.path(u"photo.png"_s));
     DVImageHandling handling;
 
     EXPECT_EQ(handling.hFlipHorizontalPicture(path, folder.path()), ResultWord::Ok);
@@ -197,25 +198,25 @@ TEST(QuickEdits, WriteUnderThePhotosNameIntoAnotherFolder)
 {
     const TemporaryFolder folder;
     const TemporaryFolder other;
-    const QString path = png(48, 32).write(folder.path(u"photo.png"_qs));
+    const QString path = png(48, 32).write(folder.path(u"photo.png"_s));
     const QByteArray before = TemporaryFolder::read(path);
     DVImageHandling handling;
 
     EXPECT_EQ(handling.hFlipVerticalPicture(path, other.path()), ResultWord::Ok);
 
     EXPECT_EQ(TemporaryFolder::read(path), before);
-    EXPECT_EQ(cornerColors(storedPixels(other.path(u"photo.png"_qs))), "BWRG");
+    EXPECT_EQ(cornerColors(storedPixels(other.path(u"photo.png"_s))), "BWRG");
 }
 
 TEST(QuickEdits, TakeTheTypeFromTheExtension)
 {
     const TemporaryFolder folder;
-    const QString path = png(48, 32).write(folder.path(u"photo.jpg"_qs));
+    const QString path = png(48, 32).write(folder.path(u"photo.jpg"_s));
     DVImageHandling handling;
 
     EXPECT_EQ(handling.hFlipVerticalPicture(path, folder.path()), ResultWord::Ok);
 
-    EXPECT_EQ(openedPhoto(path).header().typeIdentifier, u"public.jpeg"_qs);
+    EXPECT_EQ(openedPhoto(path).header().typeIdentifier, u"public.jpeg"_s);
 }
 
 TEST(QuickEdits, DoNotSupportPhotoshopAndPdf)
@@ -223,7 +224,7 @@ TEST(QuickEdits, DoNotSupportPhotoshopAndPdf)
     const TemporaryFolder folder;
     DVImageHandling handling;
 
-    for (const QString& name : {u"photo.psd"_qs, u"photo.pdf"_qs}) {
+    for (const QString& name : {u"photo.psd"_s, u"photo.pdf"_s}) {
         const QString path = png(48, 32).write(folder.path(name));
         const QByteArray before = TemporaryFolder::read(path);
 
@@ -237,8 +238,8 @@ TEST(QuickEdits, DoNotSupportPhotoshopAndPdf)
 TEST(QuickEdits, LetTheWriterRefuseToTurnAPhotoshopFile)
 {
     const TemporaryFolder folder;
-    const QString path = png(48, 32).write(folder.path(u"photo.psd"_qs));
-    const QString missing = folder.path(u"missing.psd"_qs);
+    const QString path = png(48, 32).write(folder.path(u"photo.psd"_s));
+    const QString missing = folder.path(u"missing.psd"_s);
     DVImageHandling handling;
 
     EXPECT_EQ(handling.hRotatePicture(path, folder.path(), 90), ResultWord::NotSupported);
@@ -248,7 +249,7 @@ TEST(QuickEdits, LetTheWriterRefuseToTurnAPhotoshopFile)
 TEST(QuickEdits, TellTheLogThatThereIsNoFile)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(u"missing.jpg"_qs);
+    const QString path = folder.path(u"missing.jpg"_s);
     DVImageHandling handling;
     const LogLines log;
 
@@ -256,21 +257,21 @@ TEST(QuickEdits, TellTheLogThatThereIsNoFile)
     EXPECT_EQ(handling.hFlipHorizontalPicture(path, folder.path()), std::nullopt);
     EXPECT_EQ(handling.hFlipVerticalPicture(path, folder.path()), std::nullopt);
 
-    EXPECT_EQ(log.lines().filter(u"Image source is NULL."_qs).size(), 3);
+    EXPECT_EQ(log.lines().filter(u"Image source is NULL."_s).size(), 3);
     EXPECT_EQ(handling.storeResult(), ResultWord::Failed);
 }
 
 TEST(QuickEdits, TellTheLogThatThereIsNoPhotoInTheFile)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"note.jpg"_qs, "this is no photo");
+    const QString path = folder.write(u"note.jpg"_s, "this is no photo");
     DVImageHandling handling;
     const LogLines log;
 
     EXPECT_EQ(handling.hRotatePicture(path, folder.path(), 90), std::nullopt);
     EXPECT_EQ(handling.hFlipVerticalPicture(path, folder.path()), std::nullopt);
 
-    EXPECT_EQ(log.lines().filter(u"Image not created from image source."_qs).size(), 2);
+    EXPECT_EQ(log.lines().filter(u"Image not created from image source."_s).size(), 2);
     EXPECT_EQ(TemporaryFolder::read(path), "this is no photo");
 }
 

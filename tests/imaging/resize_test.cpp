@@ -19,6 +19,7 @@
 #include <limits>
 #include <map>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
 using brenvaldo::platform::containers::MetadataBlocks;
@@ -36,20 +37,20 @@ constexpr int covering = 1;
 OutputTail pngTail()
 {
     return {
-        .outputType = u"public.png"_qs,
-        .compressionLevel = u"9"_qs,
-        .fileExtension = u"jpg"_qs,
+        .outputType = u"public.png"_s,
+        .compressionLevel = u"9"_s,
+        .fileExtension = u"jpg"_s,
         .fileExtensionNSStr = {},
-        .fileUTI = u"public.jpeg"_qs,
-        .myFileType = u"public.png"_qs,
+        .fileUTI = u"public.jpeg"_s,
+        .myFileType = u"public.png"_s,
     };
 }
 
 OutputTail jpegTail()
 {
     OutputTail tail = pngTail();
-    tail.outputType = u"original file type"_qs;
-    tail.myFileType = u"public.jpeg"_qs;
+    tail.outputType = u"original file type"_s;
+    tail.myFileType = u"public.jpeg"_s;
     return tail;
 }
 
@@ -90,13 +91,13 @@ public:
     {
     }
     explicit Resizing(const QByteArray& photo)
-        : m_source(m_folder.write(u"source"_qs, photo))
+        : m_source(m_folder.write(u"source"_s, photo))
     {
     }
 
     [[nodiscard]] SourceAndBase photo() const
     {
-        return {.source = m_source, .destinationBase = m_folder.path(u"out"_qs)};
+        return {.source = m_source, .destinationBase = m_folder.path(u"out"_s)};
     }
 
     [[nodiscard]] QString path(const QString& name) const { return m_folder.path(name); }
@@ -108,10 +109,10 @@ public:
 
     [[nodiscard]] PixelSize outputSize() const
     {
-        return openedPhoto(path(u"out.png"_qs)).header().storedSize;
+        return openedPhoto(path(u"out.png"_s)).header().storedSize;
     }
 
-    [[nodiscard]] QImage output() const { return storedPixels(path(u"out.png"_qs)); }
+    [[nodiscard]] QImage output() const { return storedPixels(path(u"out.png"_s)); }
 
 private:
     TemporaryFolder m_folder;
@@ -192,7 +193,7 @@ Image picture(const TemporaryFolder& folder, double dotsPerInch)
                                        .size(120, 60)
                                        .corners()
                                        .dotsPerInch(dotsPerInch)
-                                       .write(folder.path(u"picture.png"_qs)))
+                                       .write(folder.path(u"picture.png"_s)))
                            .image();
     if (!image)
         qFatal("a photo of a test can't be decoded");
@@ -238,12 +239,12 @@ TEST(ResizeToMaximum, LeavesTheSourcesMetadataUncorrected)
         = handling.hScalePhotosPercentage(files.photo(), 50, Percentage, jpegTail());
 
     const auto before = readMetadataBlocks(files.photo().source);
-    const auto after = readMetadataBlocks(files.path(u"out.jpg"_qs));
+    const auto after = readMetadataBlocks(files.path(u"out.jpg"_s));
     ASSERT_TRUE(before && after);
     EXPECT_EQ(word, ResultWord::Ok);
     EXPECT_EQ(after->exif, before->exif);
-    EXPECT_EQ(openedPhoto(files.path(u"out.jpg"_qs)).header().orientation, 6);
-    EXPECT_EQ(openedPhoto(files.path(u"out.jpg"_qs)).header().storedSize, (PixelSize{150, 200}));
+    EXPECT_EQ(openedPhoto(files.path(u"out.jpg"_s)).header().orientation, 6);
+    EXPECT_EQ(openedPhoto(files.path(u"out.jpg"_s)).header().storedSize, (PixelSize{150, 200}));
 }
 
 TEST(ResizeToMaximum, WritesNothingAndAnswersOkForAValueOfZero)
@@ -263,14 +264,14 @@ TEST(ResizeToMaximum, WritesNothingAndAnswersOkForAnUnreadablePhoto)
 {
     const TemporaryFolder folder;
     const SourceAndBase photo{
-        .source = folder.write(u"note.jpg"_qs, "this is no photo"),
-        .destinationBase = folder.path(u"out"_qs)};
+        .source = folder.write(u"note.jpg"_s, "this is no photo"),
+        .destinationBase = folder.path(u"out"_s)};
     SavingHandling handling;
 
     for (const MaximumTypeIndex type : {Width, Height, LongestSide, Percentage})
         EXPECT_EQ(handling.hScalePhotosPercentage(photo, 100, type, pngTail()), ResultWord::Ok);
 
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"note.jpg"_qs});
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"note.jpg"_s});
 }
 
 TEST(ResizeToMaximum, WritesNothingAndAnswersOkForASizeBeyondAllContexts)
@@ -289,14 +290,14 @@ TEST(ResizeToMaximum, FailsForAPhotoThatIsDamagedInside)
     const TemporaryFolder folder;
     const QByteArray whole = PhotoBuilder().size(400, 300).bytes();
     const SourceAndBase photo{
-        .source = folder.write(u"half.jpg"_qs, whole.left(whole.size() / 2)),
-        .destinationBase = folder.path(u"out"_qs)};
+        .source = folder.write(u"half.jpg"_s, whole.left(whole.size() / 2)),
+        .destinationBase = folder.path(u"out"_s)};
     SavingHandling handling;
 
     EXPECT_EQ(
         handling.hScalePhotosPercentage(photo, 100, LongestSide, pngTail()), ResultWord::Failed
     );
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"half.jpg"_qs});
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"half.jpg"_s});
 }
 
 TEST(ResizeToMaximum, AnswersTheWordOfTheWriter)
@@ -305,11 +306,11 @@ TEST(ResizeToMaximum, AnswersTheWordOfTheWriter)
     OutputTail tail = pngTail();
     SavingHandling handling;
 
-    tail.myFileType = u"com.adobe.pdf"_qs;
+    tail.myFileType = u"com.adobe.pdf"_s;
     EXPECT_EQ(
         handling.hScalePhotosPercentage(files.photo(), 10, Width, tail), ResultWord::NotSupported
     );
-    tail.myFileType = u"com.canon.cr2-raw-image"_qs;
+    tail.myFileType = u"com.canon.cr2-raw-image"_s;
     EXPECT_EQ(handling.hScalePhotosPercentage(files.photo(), 10, Width, tail), ResultWord::Failed);
     EXPECT_FALSE(files.hasOutput());
 }
@@ -319,12 +320,11 @@ TEST(Resize, DoesNotSupportAPhotoshopOrPdfFileThatKeepsItsType)
     const TemporaryFolder folder;
     OutputTail tail = pngTail();
 
-    for (const QString& type : {u"com.adobe.photoshop-image"_qs, u"com.adobe.pdf"_qs}) {
+    for (const QString& type : {u"com.adobe.photoshop-image"_s, u"com.adobe.pdf"_s}) {
         SavingHandling handling;
         tail.myFileType = type;
         const SourceAndBase photo{
-            .source = folder.write(u"source"_qs, "8BPS"),
-            .destinationBase = folder.path(u"out"_qs)};
+            .source = folder.write(u"source"_s, "8BPS"), .destinationBase = folder.path(u"out"_s)};
         EXPECT_EQ(
             handling.hScalePhotosPercentage(photo, 50, Percentage, tail), ResultWord::NotSupported
         );
@@ -336,7 +336,7 @@ TEST(Resize, DoesNotSupportAPhotoshopOrPdfFileThatKeepsItsType)
         );
         EXPECT_EQ(other.storeResult(), ResultWord::NotSupported);
     }
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"source"_qs});
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"source"_s});
 }
 
 TEST(ResizeToMaximum, KeepsDepthColorsAndTransparency)
@@ -352,7 +352,7 @@ TEST(ResizeToMaximum, KeepsDepthColorsAndTransparency)
     const ResultWord word
         = handling.hScalePhotosPercentage(files.photo(), 50, Percentage, pngTail());
 
-    const auto header = openedPhoto(files.path(u"out.png"_qs)).header();
+    const auto header = openedPhoto(files.path(u"out.png"_s)).header();
     const QColor middle = files.output().convertToFormat(QImage::Format_ARGB32).pixelColor(10, 7);
     EXPECT_EQ(word, ResultWord::Ok);
     EXPECT_EQ(header.bitsPerComponent, 16);
@@ -432,7 +432,7 @@ TEST(ResizeToBox, AnswersTheWordOfThePhotoBeforeWhenNothingCanBeDrawn)
 {
     const Resizing files(grey(40, 30));
     const SourceAndBase unreadable{
-        .source = files.path(u"missing.jpg"_qs), .destinationBase = files.path(u"other"_qs)};
+        .source = files.path(u"missing.jpg"_s), .destinationBase = files.path(u"other"_s)};
     SavingHandling handling;
     const auto resize = [&](const SourceAndBase& photo, PixelSize box, int aspectState) {
         return handling.hScalePhotosWidthAndHeight(photo, box, aspectState, pngTail());

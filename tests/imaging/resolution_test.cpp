@@ -10,6 +10,7 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::imaging::cMConversion;
 using brenvaldo::imaging::DVImageHandling;
 using brenvaldo::platform::graphics::Image;
@@ -26,7 +27,7 @@ QString photoAt(const TemporaryFolder& folder, double dotsPerInch)
         .size(1000, 501)
         .solid({90, 90, 90})
         .dotsPerInch(dotsPerInch)
-        .write(folder.path(u"photo.png"_qs));
+        .write(folder.path(u"photo.png"_s));
 }
 
 Image imageAt(const TemporaryFolder& folder, double dotsPerInch)
@@ -73,7 +74,7 @@ TEST(ImageResolution, IsNoNumberForAnUnreadablePhoto)
     const TemporaryFolder folder;
     DVImageHandling handling;
 
-    EXPECT_TRUE(std::isnan(handling.hGetImgResolution(folder.path(u"missing.jpg"_qs))));
+    EXPECT_TRUE(std::isnan(handling.hGetImgResolution(folder.path(u"missing.jpg"_s))));
 }
 
 TEST(ConvertImageResolution, ChangesNoPixels)
@@ -111,7 +112,7 @@ TEST(UnitConversion, UsesTheResolutionOfThePhoto)
     cMConversion conversion;
 
     const float pixels
-        = conversion.convertXtoPixel(photoAt(folder, 299.2), u"pixel"_qs, u"mm"_qs, 10);
+        = conversion.convertXtoPixel(photoAt(folder, 299.2), u"pixel"_s, u"mm"_s, 10);
 
     EXPECT_EQ(pixels, 118);
     EXPECT_EQ(conversion.myNewValue(), 118);
@@ -123,10 +124,10 @@ TEST(UnitConversion, AnswersTheLastResultForAnotherTargetUnit)
     const TemporaryFolder folder;
     const QString photo = photoAt(folder, 300);
     cMConversion conversion;
-    EXPECT_EQ(conversion.convertXtoPixel(photo, u"mm"_qs, u"pixel"_qs, 10), 0);
-    conversion.convertXtoPixel(photo, u"pixel"_qs, u"pixel"_qs, 77);
+    EXPECT_EQ(conversion.convertXtoPixel(photo, u"mm"_s, u"pixel"_s, 10), 0);
+    conversion.convertXtoPixel(photo, u"pixel"_s, u"pixel"_s, 77);
 
-    EXPECT_EQ(conversion.convertXtoPixel(photo, u"mm"_qs, u"inch"_qs, 1), 77);
+    EXPECT_EQ(conversion.convertXtoPixel(photo, u"mm"_s, u"inch"_s, 1), 77);
 }
 
 TEST(UnitConversion, ReadsNoResolutionForPixels)
@@ -134,7 +135,7 @@ TEST(UnitConversion, ReadsNoResolutionForPixels)
     const TemporaryFolder folder;
     cMConversion conversion;
 
-    conversion.convertXtoPixel(photoAt(folder, 300), u"pixel"_qs, u"pixel"_qs, 5);
+    conversion.convertXtoPixel(photoAt(folder, 300), u"pixel"_s, u"pixel"_s, 5);
 
     EXPECT_EQ(conversion.myDPIvalue(), 0);
 }
@@ -144,6 +145,6 @@ TEST(UnitConversion, ReadsTheResolutionForAnUnknownUnit)
     const TemporaryFolder folder;
     cMConversion conversion;
 
-    EXPECT_EQ(conversion.convertXtoPixel(photoAt(folder, 300), u"pixel"_qs, u"foot"_qs, 5.5F), 5);
+    EXPECT_EQ(conversion.convertXtoPixel(photoAt(folder, 300), u"pixel"_s, u"foot"_s, 5.5F), 5);
     EXPECT_EQ(conversion.myDPIvalue(), 300);
 }

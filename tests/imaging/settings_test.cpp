@@ -2,6 +2,7 @@
 #include <imaging/crop_settings.h>
 #include <imaging/resize_settings.h>
 #include <imaging/tint_settings.h>
+#include <platform/foundation/literals.h>
 
 #include <panels/crop_panel.h>
 #include <panels/resize_panel.h>
@@ -18,11 +19,11 @@ using namespace brenvaldo;
 TEST(CropSettings, AreReadFromTheirControls)
 {
     panels::CropPanel panel;
-    panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"11"_qs);
-    panel.dvVCUiCropWxHView.tfCropHeight.setStringValue(u"22"_qs);
-    panel.dvVCUiCropMinusView.tfCropCutOff.setStringValue(u"33"_qs);
-    panel.dvVCUiCropPositionView.tfXcropOffset.setStringValue(u"44"_qs);
-    panel.dvVCUiCropPositionView.tfYcropOffset.setStringValue(u"-55"_qs);
+    panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"11"_s);
+    panel.dvVCUiCropWxHView.tfCropHeight.setStringValue(u"22"_s);
+    panel.dvVCUiCropMinusView.tfCropCutOff.setStringValue(u"33"_s);
+    panel.dvVCUiCropPositionView.tfXcropOffset.setStringValue(u"44"_s);
+    panel.dvVCUiCropPositionView.tfYcropOffset.setStringValue(u"-55"_s);
     panel.dvVCUiCropPositionView.scCropPosition.setSelectedSegment(6);
     panel.pubCropType.selectIndex(1);
 
@@ -33,31 +34,30 @@ TEST(CropSettings, AreReadFromTheirControls)
     EXPECT_EQ(settings.xOffset, 44);
     EXPECT_EQ(settings.yOffset, -55);
     EXPECT_EQ(settings.anchor, 6);
-    EXPECT_EQ(settings.cropType, u"%"_qs);
+    EXPECT_EQ(settings.cropType, u"%"_s);
 }
 
 TEST(CropSettings, TakeThePhotosOwnSizeForARunWithoutSize)
 {
     const test::TemporaryFolder folder;
     const QString path
-        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"a.jpg"_qs));
+        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"a.jpg"_s));
     panels::CropPanel panel;
 
-    for (const auto& [width, height] :
-         {std::pair(u"10"_qs, u"0"_qs), std::pair(u""_qs, u"20"_qs)}) {
+    for (const auto& [width, height] : {std::pair(u"10"_s, u"0"_s), std::pair(u""_s, u"20"_s)}) {
         panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(width);
         panel.dvVCUiCropWxHView.tfCropHeight.setStringValue(height);
         const imaging::CropSettings settings = imaging::readSettings(panel, path);
         EXPECT_EQ(settings.size, (platform::graphics::PixelSize{30, 40}));
-        EXPECT_EQ(settings.cropType, u"W x H"_qs);
+        EXPECT_EQ(settings.cropType, u"W x H"_s);
         EXPECT_EQ(settings.anchor, 4);
         EXPECT_EQ(
-            imaging::readSettings(panel, folder.path(u"missing.jpg"_qs)).size,
+            imaging::readSettings(panel, folder.path(u"missing.jpg"_s)).size,
             (platform::graphics::PixelSize{0, 0})
         );
     }
 
-    panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"10"_qs);
+    panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"10"_s);
     EXPECT_EQ(imaging::readSettings(panel, path).size, (platform::graphics::PixelSize{10, 20}));
 }
 
@@ -68,18 +68,18 @@ TEST(TintSettings, AreReadFromTheirControls)
     panel.pubAddTintRenderMethod.selectIndex(4);
     panel.cbAddTintDuoTone.setState(1);
     panel.scAddTintPosition.setSelectedSegment(5);
-    panel.tfAddTintPosX.setStringValue(u"-11"_qs);
-    panel.tfAddTintPosY.setStringValue(u"12"_qs);
+    panel.tfAddTintPosX.setStringValue(u"-11"_s);
+    panel.tfAddTintPosY.setStringValue(u"12"_s);
     panel.tbvFrameType.selectIndex(1);
-    panel.tfAddTintWidth.setStringValue(u"13"_qs);
-    panel.tfAddTintHeight.setStringValue(u"14"_qs);
+    panel.tfAddTintWidth.setStringValue(u"13"_s);
+    panel.tfAddTintHeight.setStringValue(u"14"_s);
     panel.cbAddTintOrigSize.setState(0);
-    panel.tfAddTintPercentage.setStringValue(u"15"_qs);
-    panel.tfAddTintPixels.setStringValue(u"16"_qs);
+    panel.tfAddTintPercentage.setStringValue(u"15"_s);
+    panel.tfAddTintPixels.setStringValue(u"16"_s);
     panel.pubAddTintPercentageOrient.selectIndex(2);
     panel.cbAddTintGradient.setState(1);
     panel.pubAddTintAngle.selectIndex(3);
-    panel.tfAddTintOpacity.setStringValue(u"17"_qs);
+    panel.tfAddTintOpacity.setStringValue(u"17"_s);
 
     imaging::TintSettings settings = imaging::readSettings(panel);
 
@@ -92,7 +92,7 @@ TEST(TintSettings, AreReadFromTheirControls)
     EXPECT_EQ(settings.anchor, 5);
     EXPECT_EQ(settings.xOffset, -11);
     EXPECT_EQ(settings.yOffset, 12);
-    EXPECT_EQ(settings.sizeMode, u"%"_qs);
+    EXPECT_EQ(settings.sizeMode, u"%"_s);
     EXPECT_EQ(settings.width, 13);
     EXPECT_EQ(settings.height, 14);
     EXPECT_EQ(settings.originalSizeState, 0);
@@ -115,9 +115,9 @@ TEST(TintSettings, AreReadFromTheirControls)
 TEST(ResizeSettings, AreReadFromTheirControls)
 {
     panels::ResizePanel panel;
-    panel.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"11"_qs);
-    panel.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"12"_qs);
-    panel.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"13"_qs);
+    panel.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"11"_s);
+    panel.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"12"_s);
+    panel.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"13"_s);
     for (const int type : {0, 1, 3}) {
         panel.dvVCUiScaleMaxView.pubScaleMaxType.selectIndex(type);
         EXPECT_EQ(
@@ -137,9 +137,9 @@ TEST(ResizeSettings, AreReadFromTheirControls)
 TEST(ResizeSettings, WrapAtThirtyTwoBits)
 {
     panels::ResizePanel panel;
-    panel.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"4294967296"_qs);
-    panel.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"4294967297"_qs);
-    panel.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"4294967298"_qs);
+    panel.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"4294967296"_s);
+    panel.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"4294967297"_s);
+    panel.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"4294967298"_s);
 
     EXPECT_EQ(imaging::readSettings(panel.dvVCUiScaleMaxView).value, 0);
     EXPECT_EQ(

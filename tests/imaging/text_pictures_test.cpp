@@ -9,6 +9,7 @@
 
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using brenvaldo::platform::drawing::AttributedText;
 using brenvaldo::platform::graphics::Color;
@@ -42,7 +43,7 @@ TEST(EmbossedText, IsAsLargeAndAsOpaqueAsItsLayer)
 {
     const QImage layer = discLayer();
 
-    const QImage relief = embossed(u"texture2"_qs);
+    const QImage relief = embossed(u"texture2"_s);
 
     ASSERT_EQ(relief.size(), layer.size());
     EXPECT_EQ(qAlpha(relief.pixel(60, 50)), 255);
@@ -51,7 +52,7 @@ TEST(EmbossedText, IsAsLargeAndAsOpaqueAsItsLayer)
 
 TEST(EmbossedText, IsLitFromTheSideOfTheTexturesLamp)
 {
-    const QImage relief = embossed(u"texture3"_qs);
+    const QImage relief = embossed(u"texture3"_s);
 
     EXPECT_GT(qGray(relief.pixel(38, 31)), qGray(relief.pixel(82, 69)) + 40);
 }
@@ -60,7 +61,7 @@ TEST(EmbossedText, LooksDifferentForEachTexture)
 {
     QList<QImage> reliefs;
     for (int number = 1; number <= 8; ++number)
-        reliefs.append(embossed(u"texture%1"_qs.arg(number)));
+        reliefs.append(embossed(u"texture%1"_s.arg(number)));
 
     for (int i = 0; i < reliefs.size(); ++i) {
         for (int j = 0; j < i; ++j)
@@ -70,13 +71,13 @@ TEST(EmbossedText, LooksDifferentForEachTexture)
 
 TEST(EmbossedText, TakesItsColourForTheSixthTextureOnly)
 {
-    EXPECT_NE(embossed(u"texture6"_qs, red), embossed(u"texture6"_qs, green));
-    EXPECT_EQ(embossed(u"texture5"_qs, red), embossed(u"texture5"_qs, green));
+    EXPECT_NE(embossed(u"texture6"_s, red), embossed(u"texture6"_s, green));
+    EXPECT_EQ(embossed(u"texture5"_s, red), embossed(u"texture5"_s, green));
 }
 
 TEST(EmbossedText, HasTheDefaultHeightWhateverTheScale)
 {
-    EXPECT_EQ(embossed(u"texture1"_qs, red, 0.5F), embossed(u"texture1"_qs, red, 40));
+    EXPECT_EQ(embossed(u"texture1"_s, red, 0.5F), embossed(u"texture1"_s, red, 40));
 }
 
 TEST(ColorBall, IsOfTheColourAtItsHighlightAndBlackAtItsRim)
@@ -94,9 +95,9 @@ TEST(ColorBall, IsOfTheColourAtItsHighlightAndBlackAtItsRim)
 
 TEST(PictureOfAText, ShowsTheTextOnAGroundOfItsMeasuredSize)
 {
-    QFont font(u"DejaVu Sans Mono"_qs);
+    QFont font(u"DejaVu Sans Mono"_s);
     font.setPixelSize(40);
-    const AttributedText text(u"\u25a0 "_qs, {.font = font}); // a square, then a blank
+    const AttributedText text(u"\u25a0 "_s, {.font = font}); // a square, then a blank
 
     const QImage image = DVImageHandling::imageWithAttributedString(text, white, red);
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using brenvaldo::test::CaseName;
 
@@ -26,24 +27,24 @@ class PixelsOf : public testing::TestWithParam<UnitCase>
 };
 
 const UnitCase unitCases[] = {
-    {"Pixel", 12.9F, u"pixel"_qs, 300, 12},
-    {"NegativePixel", -12.9F, u"pixel"_qs, 300, -12},
-    {"Millimetre", 10.0F, u"mm"_qs, 300, 118}, // 118.11
-    {"MillimetreTruncates", 9.99F, u"mm"_qs, 300, 117}, // 117.99
-    {"Centimetre", 1.0F, u"cm"_qs, 300, 118},
-    {"CentimetreTruncates", 0.5F, u"cm"_qs, 72, 14}, // 14.17
-    {"CentimetreGainsInSinglePrecision", 12.7F, u"cm"_qs, 72, 360}, // 359.99
-    {"Inch", 2.0F, u"inch"_qs, 300, 600},
-    {"InchLosesInSinglePrecision", 1.0F, u"inch"_qs, 72, 71},
-    {"PicaRoundsDown", 1.0F, u"pica"_qs, 300, 50}, // 49.81
-    {"PicaRounds", 1.0F, u"pica"_qs, 72, 12}, // 11.95
-    {"PicaNarrowsBeforeItRounds", 388.375F, u"pica"_qs, 79, 5095}, // 5094.4999
-    {"NegativePicaRounds", -1.0F, u"pica"_qs, 72, -12},
-    {"Punt", 13.0F, u"punt"_qs, 300, 54}, // 54.17
-    {"PuntLosesInSinglePrecision", 12.0F, u"punt"_qs, 300, 49},
-    {"PuntTruncates", 1.0F, u"punt"_qs, 300, 4}, // 4.17
-    {"UnknownUnit", 12.9F, u"foot"_qs, 300, 12},
-    {"UnitOfAnotherCase", 12.9F, u"MM"_qs, 300, 12},
+    {"Pixel", 12.9F, u"pixel"_s, 300, 12},
+    {"NegativePixel", -12.9F, u"pixel"_s, 300, -12},
+    {"Millimetre", 10.0F, u"mm"_s, 300, 118}, // 118.11
+    {"MillimetreTruncates", 9.99F, u"mm"_s, 300, 117}, // 117.99
+    {"Centimetre", 1.0F, u"cm"_s, 300, 118},
+    {"CentimetreTruncates", 0.5F, u"cm"_s, 72, 14}, // 14.17
+    {"CentimetreGainsInSinglePrecision", 12.7F, u"cm"_s, 72, 360}, // 359.99
+    {"Inch", 2.0F, u"inch"_s, 300, 600},
+    {"InchLosesInSinglePrecision", 1.0F, u"inch"_s, 72, 71},
+    {"PicaRoundsDown", 1.0F, u"pica"_s, 300, 50}, // 49.81
+    {"PicaRounds", 1.0F, u"pica"_s, 72, 12}, // 11.95
+    {"PicaNarrowsBeforeItRounds", 388.375F, u"pica"_s, 79, 5095}, // 5094.4999
+    {"NegativePicaRounds", -1.0F, u"pica"_s, 72, -12},
+    {"Punt", 13.0F, u"punt"_s, 300, 54}, // 54.17
+    {"PuntLosesInSinglePrecision", 12.0F, u"punt"_s, 300, 49},
+    {"PuntTruncates", 1.0F, u"punt"_s, 300, 4}, // 4.17
+    {"UnknownUnit", 12.9F, u"foot"_s, 300, 12},
+    {"UnitOfAnotherCase", 12.9F, u"MM"_s, 300, 12},
 };
 
 } // namespace
@@ -59,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, PixelsOf, testing::ValuesIn(unitCases), CaseName(
 
 TEST(NeedsResolution, IsFalseForPixelsAlone)
 {
-    EXPECT_FALSE(needsResolution(u"pixel"_qs));
-    EXPECT_TRUE(needsResolution(u"mm"_qs));
-    EXPECT_TRUE(needsResolution(u"foot"_qs));
+    EXPECT_FALSE(needsResolution(u"pixel"_s));
+    EXPECT_TRUE(needsResolution(u"mm"_s));
+    EXPECT_TRUE(needsResolution(u"foot"_s));
 }

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using brenvaldo::platform::codecs::FileFormat;
 using brenvaldo::test::CaseName;
@@ -38,44 +39,34 @@ protected:
 };
 
 const RowCase rowCases[] = {
-    {"Png", u"public.png"_qs, FileFormat::Png, u".png"_qs, Properties::Carried, Failure::Logged},
-    {"Tiff",
-     u"public.tiff"_qs,
-     FileFormat::Tiff,
-     u".tiff"_qs,
-     Properties::Carried,
-     Failure::Logged},
+    {"Png", u"public.png"_s, FileFormat::Png, u".png"_s, Properties::Carried, Failure::Logged},
+    {"Tiff", u"public.tiff"_s, FileFormat::Tiff, u".tiff"_s, Properties::Carried, Failure::Logged},
     {"BmpOfAFile",
-     u"com.microsoft.bmp"_qs,
+     u"com.microsoft.bmp"_s,
      FileFormat::Bmp,
-     u""_qs,
+     u""_s,
      Properties::Dropped,
      Failure::Silent},
     {"BmpOfATitle",
-     u"public.bmp"_qs,
+     u"public.bmp"_s,
      FileFormat::Bmp,
-     u".bmp"_qs,
+     u".bmp"_s,
      Properties::Dropped,
      Failure::Logged},
     {"Gif",
-     u"com.compuserve.gif"_qs,
+     u"com.compuserve.gif"_s,
      FileFormat::Gif,
-     u".gif"_qs,
+     u".gif"_s,
      Properties::Dropped,
      Failure::Logged},
-    {"Jpeg", u"public.jpeg"_qs, FileFormat::Jpeg, u".jpg"_qs, Properties::Carried, Failure::Logged},
+    {"Jpeg", u"public.jpeg"_s, FileFormat::Jpeg, u".jpg"_s, Properties::Carried, Failure::Logged},
     {"Jpeg2000",
-     u"public.jp2"_qs,
+     u"public.jp2"_s,
      FileFormat::Jpeg2000,
-     u".jp2"_qs,
+     u".jp2"_s,
      Properties::Dropped,
      Failure::Logged},
-    {"Heic",
-     u"public.heic"_qs,
-     FileFormat::Heic,
-     u".heic"_qs,
-     Properties::Carried,
-     Failure::Logged},
+    {"Heic", u"public.heic"_s, FileFormat::Heic, u".heic"_s, Properties::Carried, Failure::Logged},
 };
 
 struct UnknownCase
@@ -91,13 +82,13 @@ class UnknownType : public testing::TestWithParam<UnknownCase>
 };
 
 const UnknownCase unknownCases[] = {
-    {"CameraRaw", u"com.adobe.raw-image"_qs},
-    {"Photoshop", u"com.adobe.photoshop-image"_qs},
-    {"Pdf", u"com.adobe.pdf"_qs},
-    {"AnotherCase", u"public.PNG"_qs},
-    {"TypeBehindAPrefix", u"x.public.png"_qs},
-    {"PublicGif", u"public.gif"_qs},
-    {"Nothing", u""_qs},
+    {"CameraRaw", u"com.adobe.raw-image"_s},
+    {"Photoshop", u"com.adobe.photoshop-image"_s},
+    {"Pdf", u"com.adobe.pdf"_s},
+    {"AnotherCase", u"public.PNG"_s},
+    {"TypeBehindAPrefix", u"x.public.png"_s},
+    {"PublicGif", u"public.gif"_s},
+    {"Nothing", u""_s},
 };
 
 struct QualityCase
@@ -114,16 +105,16 @@ class WriterQuality : public testing::TestWithParam<QualityCase>
 };
 
 const QualityCase qualityCases[] = {
-    {"Lowest", u"1"_qs, 0.1},
-    {"Second", u"2"_qs, 0.2},
-    {"Middle", u"5"_qs, 0.5},
-    {"Eighth", u"8"_qs, 0.8},
-    {"Ninth", u"9"_qs, 0.9},
-    {"Ten", u"10"_qs, 1.0},
-    {"Zero", u"0"_qs, 1.0},
-    {"Empty", u""_qs, 1.0},
-    {"Word", u"best"_qs, 1.0},
-    {"WithABlank", u"5 "_qs, 1.0},
+    {"Lowest", u"1"_s, 0.1},
+    {"Second", u"2"_s, 0.2},
+    {"Middle", u"5"_s, 0.5},
+    {"Eighth", u"8"_s, 0.8},
+    {"Ninth", u"9"_s, 0.9},
+    {"Ten", u"10"_s, 1.0},
+    {"Zero", u"0"_s, 1.0},
+    {"Empty", u""_s, 1.0},
+    {"Word", u"best"_s, 1.0},
+    {"WithABlank", u"5 "_s, 1.0},
 };
 
 } // namespace
@@ -187,34 +178,34 @@ INSTANTIATE_TEST_SUITE_P(Rows, UnknownType, testing::ValuesIn(unknownCases), Cas
 
 TEST(WriterRule, KnowsHeicByItsSuffixWhereThePathIsWhole)
 {
-    EXPECT_TRUE(writerRule(Writer::WholePath, u"x.public.heic"_qs));
-    EXPECT_FALSE(writerRule(Writer::Batch, u"x.public.heic"_qs));
+    EXPECT_TRUE(writerRule(Writer::WholePath, u"x.public.heic"_s));
+    EXPECT_FALSE(writerRule(Writer::Batch, u"x.public.heic"_s));
 }
 
 TEST(IsNotSupported, NamesTwoTypes)
 {
-    EXPECT_TRUE(isNotSupported(u"com.adobe.photoshop-image"_qs));
-    EXPECT_TRUE(isNotSupported(u"com.adobe.pdf"_qs));
-    EXPECT_FALSE(isNotSupported(u"public.png"_qs));
-    EXPECT_FALSE(isNotSupported(u""_qs));
+    EXPECT_TRUE(isNotSupported(u"com.adobe.photoshop-image"_s));
+    EXPECT_TRUE(isNotSupported(u"com.adobe.pdf"_s));
+    EXPECT_FALSE(isNotSupported(u"public.png"_s));
+    EXPECT_FALSE(isNotSupported(u""_s));
 }
 
 TEST(WrittenPath, AddsTheExtensionOfTheType)
 {
-    EXPECT_EQ(writtenPath(Writer::Batch, u"/out/a"_qs, u"public.jpeg"_qs), u"/out/a.jpg"_qs);
-    EXPECT_EQ(writtenPath(Writer::Batch, u"/out/a.b"_qs, u"public.png"_qs), u"/out/a.b.png"_qs);
+    EXPECT_EQ(writtenPath(Writer::Batch, u"/out/a"_s, u"public.jpeg"_s), u"/out/a.jpg"_s);
+    EXPECT_EQ(writtenPath(Writer::Batch, u"/out/a.b"_s, u"public.png"_s), u"/out/a.b.png"_s);
 }
 
 TEST(WrittenPath, IsTheBareBaseForABmpOfAFile)
 {
-    EXPECT_EQ(writtenPath(Writer::Batch, u"/out/a"_qs, u"com.microsoft.bmp"_qs), u"/out/a"_qs);
-    EXPECT_EQ(writtenPath(Writer::Batch, u"/out/a"_qs, u"public.bmp"_qs), u"/out/a.bmp"_qs);
+    EXPECT_EQ(writtenPath(Writer::Batch, u"/out/a"_s, u"com.microsoft.bmp"_s), u"/out/a"_s);
+    EXPECT_EQ(writtenPath(Writer::Batch, u"/out/a"_s, u"public.bmp"_s), u"/out/a.bmp"_s);
 }
 
 TEST(WrittenPath, IsEmptyWhereNothingIsWritten)
 {
-    EXPECT_EQ(writtenPath(Writer::Batch, u"/out/a"_qs, u"com.adobe.pdf"_qs), QString());
-    EXPECT_EQ(writtenPath(Writer::Watermark, u"/out/a"_qs, u"public.heic"_qs), QString());
+    EXPECT_EQ(writtenPath(Writer::Batch, u"/out/a"_s, u"com.adobe.pdf"_s), QString());
+    EXPECT_EQ(writtenPath(Writer::Watermark, u"/out/a"_s, u"public.heic"_s), QString());
 }
 
 TEST_P(WriterQuality, FollowsTheLevel)
@@ -226,14 +217,14 @@ INSTANTIATE_TEST_SUITE_P(Rows, WriterQuality, testing::ValuesIn(qualityCases), C
 
 TEST(OutputType, IsMadeOfTheTitle)
 {
-    EXPECT_EQ(outputTypeForTitle(u"png"_qs), u"public.png"_qs);
-    EXPECT_EQ(outputTypeForTitle(u"jp2"_qs), u"public.jp2"_qs);
-    EXPECT_EQ(outputTypeForTitle(u"gif"_qs), u"com.compuserve.gif"_qs);
-    EXPECT_EQ(outputTypeForTitle(u"original file type"_qs), u"original file type"_qs);
+    EXPECT_EQ(outputTypeForTitle(u"png"_s), u"public.png"_s);
+    EXPECT_EQ(outputTypeForTitle(u"jp2"_s), u"public.jp2"_s);
+    EXPECT_EQ(outputTypeForTitle(u"gif"_s), u"com.compuserve.gif"_s);
+    EXPECT_EQ(outputTypeForTitle(u"original file type"_s), u"original file type"_s);
 }
 
 TEST(OutputType, KeepsTheTypeOfEachPhotoForOneTitleAlone)
 {
-    EXPECT_TRUE(keepsOriginalType(u"original file type"_qs));
-    EXPECT_FALSE(keepsOriginalType(u"public.png"_qs));
+    EXPECT_TRUE(keepsOriginalType(u"original file type"_s));
+    EXPECT_FALSE(keepsOriginalType(u"public.png"_s));
 }

@@ -17,6 +17,7 @@
 
 #include <QDir>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
 using brenvaldo::platform::containers::MetadataBlocks;
@@ -34,7 +35,7 @@ public:
     Output()
         : m_source(PhotoBuilder()
                        .exif(exifBlock({.orientation = 6, .make = "Maker"}))
-                       .write(m_folder.path(u"source.jpg"_qs)))
+                       .write(m_folder.path(u"source.jpg"_s)))
         , m_properties(readMetadataBlocks(m_source).value_or(MetadataBlocks()))
     {
     }
@@ -49,7 +50,7 @@ public:
             .typeIdentifier = type,
             .image = openedPhoto(m_source).image(),
             .properties = m_properties,
-            .compressionLevel = u"9"_qs,
+            .compressionLevel = u"9"_s,
         };
     }
 
@@ -57,7 +58,7 @@ public:
     [[nodiscard]] QStringList files() const
     {
         QStringList names = QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-        names.removeAll(u"source.jpg"_qs);
+        names.removeAll(u"source.jpg"_s);
         return names;
     }
 
@@ -83,14 +84,14 @@ class Writers : public testing::TestWithParam<TypeCase>
 };
 
 const TypeCase typeCases[] = {
-    {"Png", u"public.png"_qs, u"out.png"_qs, u"public.png"_qs, true},
-    {"Tiff", u"public.tiff"_qs, u"out.tiff"_qs, u"public.tiff"_qs, true},
-    {"BmpOfAFile", u"com.microsoft.bmp"_qs, u"out"_qs, u"com.microsoft.bmp"_qs, false},
-    {"BmpOfATitle", u"public.bmp"_qs, u"out.bmp"_qs, u"com.microsoft.bmp"_qs, false},
-    {"Gif", u"com.compuserve.gif"_qs, u"out.gif"_qs, u"com.compuserve.gif"_qs, false},
-    {"Jpeg", u"public.jpeg"_qs, u"out.jpg"_qs, u"public.jpeg"_qs, true},
-    {"Jpeg2000", u"public.jp2"_qs, u"out.jp2"_qs, u"public.jp2"_qs, false},
-    {"Heic", u"public.heic"_qs, u"out.heic"_qs, u"public.heic"_qs, true},
+    {"Png", u"public.png"_s, u"out.png"_s, u"public.png"_s, true},
+    {"Tiff", u"public.tiff"_s, u"out.tiff"_s, u"public.tiff"_s, true},
+    {"BmpOfAFile", u"com.microsoft.bmp"_s, u"out"_s, u"com.microsoft.bmp"_s, false},
+    {"BmpOfATitle", u"public.bmp"_s, u"out.bmp"_s, u"com.microsoft.bmp"_s, false},
+    {"Gif", u"com.compuserve.gif"_s, u"out.gif"_s, u"com.compuserve.gif"_s, false},
+    {"Jpeg", u"public.jpeg"_s, u"out.jpg"_s, u"public.jpeg"_s, true},
+    {"Jpeg2000", u"public.jp2"_s, u"out.jp2"_s, u"public.jp2"_s, false},
+    {"Heic", u"public.heic"_s, u"out.heic"_s, u"public.heic"_s, true},
 };
 
 qint64 sizeOf(const QString& path) { return TemporaryFolder::read(path).size(); }
@@ -103,7 +104,7 @@ TEST_P(Writers, PutTheFormatOfTheTypeBesideTheBase)
     const Output output;
 
     const ResultWord word
-        = DVImageHandling::hSaveToNewImageFileX(output.picture(u"out"_qs, row.type));
+        = DVImageHandling::hSaveToNewImageFileX(output.picture(u"out"_s, row.type));
 
     EXPECT_EQ(word, ResultWord::Ok);
     ASSERT_EQ(output.files(), QStringList{row.file});
@@ -116,7 +117,7 @@ TEST_P(Writers, CarryMetadataUnchangedWhereTheTypeTakesIt)
     const TypeCase& row = GetParam();
     const Output output;
     EXPECT_EQ(
-        DVImageHandling::hSaveToNewImageFileX(output.picture(u"out"_qs, row.type)), ResultWord::Ok
+        DVImageHandling::hSaveToNewImageFileX(output.picture(u"out"_s, row.type)), ResultWord::Ok
     );
 
     const auto written = readMetadataBlocks(output.path(row.file));
@@ -129,18 +130,18 @@ TEST_P(Writers, CarryMetadataUnchangedWhereTheTypeTakesIt)
 TEST_P(Writers, WriteWatermarkedPhotosAlikeButForHeic)
 {
     const TypeCase& row = GetParam();
-    const bool isHeic = row.type == u"public.heic"_qs;
+    const bool isHeic = row.type == u"public.heic"_s;
     const Output output;
     const LogLines log;
 
     const ResultWord word
-        = DVImageHandling::hSaveToNewImageFileMPR(output.picture(u"out"_qs, row.type));
+        = DVImageHandling::hSaveToNewImageFileMPR(output.picture(u"out"_s, row.type));
 
     EXPECT_EQ(word, isHeic ? ResultWord::Failed : ResultWord::Ok);
     EXPECT_EQ(output.files(), isHeic ? QStringList() : QStringList{row.file});
     const QString reason
-        = u"Failed to write %1: the type \"public.heic\" is not written here"_qs.arg(
-            output.path(u"out"_qs)
+        = u"Failed to write %1: the type \"public.heic\" is not written here"_s.arg(
+            output.path(u"out"_s)
         );
     EXPECT_EQ(log.lines(), isHeic ? QStringList{reason} : QStringList());
 }
@@ -151,11 +152,11 @@ TEST_P(Writers, TakeAWholePathAsItStands)
     const Output output;
 
     const ResultWord word
-        = DVImageHandling::hSaveToNewImageFile(output.picture(u"out.xyz"_qs, row.type));
+        = DVImageHandling::hSaveToNewImageFile(output.picture(u"out.xyz"_s, row.type));
 
     EXPECT_EQ(word, ResultWord::Ok);
-    ASSERT_EQ(output.files(), QStringList{u"out.xyz"_qs});
-    EXPECT_EQ(typeIdentifierOfContents(output.path(u"out.xyz"_qs)), row.contents);
+    ASSERT_EQ(output.files(), QStringList{u"out.xyz"_s});
+    EXPECT_EQ(typeIdentifierOfContents(output.path(u"out.xyz"_s)), row.contents);
 }
 
 TEST_P(Writers, ReplaceTheOutputOfARunBefore)
@@ -168,7 +169,7 @@ TEST_P(Writers, ReplaceTheOutputOfARunBefore)
     before.close();
 
     const ResultWord word
-        = DVImageHandling::hSaveToNewImageFileX(output.picture(u"out"_qs, row.type));
+        = DVImageHandling::hSaveToNewImageFileX(output.picture(u"out"_s, row.type));
 
     EXPECT_EQ(word, ResultWord::Ok);
     EXPECT_EQ(typeIdentifierOfContents(output.path(row.file)), row.contents);
@@ -178,18 +179,18 @@ TEST_P(Writers, LogAFailureByTheRow)
 {
     const TypeCase& row = GetParam();
     const Output output;
-    PictureToSave picture = output.picture(u"no folder/out"_qs, row.type);
+    PictureToSave picture = output.picture(u"no folder/out"_s, row.type);
     const LogLines log;
 
     const ResultWord word = DVImageHandling::hSaveToNewImageFileX(picture);
 
-    const QString url = QUrl::fromLocalFile(output.path(u"no folder/"_qs) + row.file)
-                            .toString(QUrl::FullyEncoded);
-    const bool isSilent = row.type == u"com.microsoft.bmp"_qs;
+    const QString url
+        = QUrl::fromLocalFile(output.path(u"no folder/"_s) + row.file).toString(QUrl::FullyEncoded);
+    const bool isSilent = row.type == u"com.microsoft.bmp"_s;
     EXPECT_EQ(word, ResultWord::Failed);
-    EXPECT_EQ(log.lines().contains(u"Failed to write image to "_qs + url), !isSilent);
-    EXPECT_TRUE(log.lines().contains(u"Failed to write %1: No such file or directory"_qs.arg(
-        output.path(u"no folder/"_qs) + row.file
+    EXPECT_EQ(log.lines().contains(u"Failed to write image to "_s + url), !isSilent);
+    EXPECT_TRUE(log.lines().contains(u"Failed to write %1: No such file or directory"_s.arg(
+        output.path(u"no folder/"_s) + row.file
     )));
 }
 
@@ -200,11 +201,11 @@ TEST_P(Writers, LogAFailureOfAWholePathForHeicAlone)
     const LogLines log;
 
     const ResultWord word
-        = DVImageHandling::hSaveToNewImageFile(output.picture(u"no folder/out"_qs, row.type));
+        = DVImageHandling::hSaveToNewImageFile(output.picture(u"no folder/out"_s, row.type));
 
-    const QStringList failures = log.lines().filter(u"Failed to write image to "_qs);
+    const QStringList failures = log.lines().filter(u"Failed to write image to "_s);
     EXPECT_EQ(word, ResultWord::Failed);
-    EXPECT_EQ(failures.size(), row.type == u"public.heic"_qs ? 1 : 0);
+    EXPECT_EQ(failures.size(), row.type == u"public.heic"_s ? 1 : 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Types, Writers, testing::ValuesIn(typeCases), CaseName());
@@ -214,15 +215,15 @@ TEST(WritersOfUnknownTypes, FailWithoutAFile)
     const Output output;
     const LogLines log;
 
-    const auto picture = output.picture(u"out"_qs, u"com.canon.cr2-raw-image"_qs);
+    const auto picture = output.picture(u"out"_s, u"com.canon.cr2-raw-image"_s);
 
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileX(picture), ResultWord::Failed);
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileMPR(picture), ResultWord::Failed);
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFile(picture), ResultWord::Failed);
     EXPECT_EQ(output.files(), QStringList());
     const QString reason
-        = u"Failed to write %1: the type \"com.canon.cr2-raw-image\" is not written here"_qs.arg(
-            output.path(u"out"_qs)
+        = u"Failed to write %1: the type \"com.canon.cr2-raw-image\" is not written here"_s.arg(
+            output.path(u"out"_s)
         );
     EXPECT_EQ(log.lines(), (QStringList{reason, reason, reason}));
 }
@@ -230,7 +231,7 @@ TEST(WritersOfUnknownTypes, FailWithoutAFile)
 TEST(WritersWithoutAPicture, TellTheReason)
 {
     const Output output;
-    PictureToSave picture = output.picture(u"out"_qs, u"com.microsoft.bmp"_qs);
+    PictureToSave picture = output.picture(u"out"_s, u"com.microsoft.bmp"_s);
     picture.image.reset();
     const LogLines log;
 
@@ -238,7 +239,7 @@ TEST(WritersWithoutAPicture, TellTheReason)
 
     EXPECT_EQ(
         log.lines(),
-        QStringList{u"Failed to write %1: there is no picture"_qs.arg(output.path(u"out"_qs))}
+        QStringList{u"Failed to write %1: there is no picture"_s.arg(output.path(u"out"_s))}
     );
 }
 
@@ -246,8 +247,8 @@ TEST(WritersOfUnknownTypes, DoNotSupportPhotoshopAndPdf)
 {
     const Output output;
 
-    for (const QString& type : {u"com.adobe.photoshop-image"_qs, u"com.adobe.pdf"_qs}) {
-        const auto picture = output.picture(u"out"_qs, type);
+    for (const QString& type : {u"com.adobe.photoshop-image"_s, u"com.adobe.pdf"_s}) {
+        const auto picture = output.picture(u"out"_s, type);
         EXPECT_EQ(DVImageHandling::hSaveToNewImageFileX(picture), ResultWord::NotSupported);
         EXPECT_EQ(DVImageHandling::hSaveToNewImageFileMPR(picture), ResultWord::NotSupported);
         EXPECT_EQ(DVImageHandling::hSaveToNewImageFile(picture), ResultWord::NotSupported);
@@ -258,7 +259,7 @@ TEST(WritersOfUnknownTypes, DoNotSupportPhotoshopAndPdf)
 TEST(Writer, FailsWithoutAPicture)
 {
     const Output output;
-    PictureToSave picture = output.picture(u"out"_qs, u"public.png"_qs);
+    PictureToSave picture = output.picture(u"out"_s, u"public.png"_s);
     picture.image.reset();
 
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileX(picture), ResultWord::Failed);
@@ -269,12 +270,12 @@ TEST(Writer, LeavesTheOldFileWhenThePhotoIsDamaged)
 {
     const TemporaryFolder folder;
     const QByteArray whole = PhotoBuilder().size(400, 300).bytes();
-    const QString source = folder.write(u"half.jpg"_qs, whole.left(whole.size() / 2));
-    const QString target = folder.write(u"out.png"_qs, "output of a run before");
+    const QString source = folder.write(u"half.jpg"_s, whole.left(whole.size() / 2));
+    const QString target = folder.write(u"out.png"_s, "output of a run before");
 
     const ResultWord word = DVImageHandling::hSaveToNewImageFileX(
-        {.destination = folder.path(u"out"_qs),
-         .typeIdentifier = u"public.png"_qs,
+        {.destination = folder.path(u"out"_s),
+         .typeIdentifier = u"public.png"_s,
          .image = openedPhoto(source).image()}
     );
 
@@ -286,52 +287,52 @@ TEST(Writer, LeavesTheOldFileWhenThePhotoIsDamaged)
 TEST(Writer, FollowsTheCompressionLevelInJpeg)
 {
     const Output output;
-    PictureToSave low = output.picture(u"low"_qs, u"public.jpeg"_qs);
-    low.compressionLevel = u"1"_qs;
-    PictureToSave high = output.picture(u"high"_qs, u"public.jpeg"_qs);
-    PictureToSave highest = output.picture(u"highest"_qs, u"public.jpeg"_qs);
-    highest.compressionLevel = u"10"_qs;
+    PictureToSave low = output.picture(u"low"_s, u"public.jpeg"_s);
+    low.compressionLevel = u"1"_s;
+    PictureToSave high = output.picture(u"high"_s, u"public.jpeg"_s);
+    PictureToSave highest = output.picture(u"highest"_s, u"public.jpeg"_s);
+    highest.compressionLevel = u"10"_s;
 
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileX(low), ResultWord::Ok);
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileMPR(high), ResultWord::Ok);
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileX(highest), ResultWord::Ok);
 
-    EXPECT_LT(sizeOf(output.path(u"low.jpg"_qs)), sizeOf(output.path(u"high.jpg"_qs)));
-    EXPECT_LT(sizeOf(output.path(u"high.jpg"_qs)), sizeOf(output.path(u"highest.jpg"_qs)));
+    EXPECT_LT(sizeOf(output.path(u"low.jpg"_s)), sizeOf(output.path(u"high.jpg"_s)));
+    EXPECT_LT(sizeOf(output.path(u"high.jpg"_s)), sizeOf(output.path(u"highest.jpg"_s)));
 }
 
 TEST(Writer, HasNoPlaceForTheLevelWithoutProperties)
 {
     const Output output;
-    PictureToSave low = output.picture(u"low"_qs, u"public.jpeg"_qs);
-    low.compressionLevel = u"1"_qs;
+    PictureToSave low = output.picture(u"low"_s, u"public.jpeg"_s);
+    low.compressionLevel = u"1"_s;
     low.properties = std::nullopt;
-    PictureToSave high = output.picture(u"high"_qs, u"public.jpeg"_qs);
+    PictureToSave high = output.picture(u"high"_s, u"public.jpeg"_s);
     high.properties = std::nullopt;
 
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileX(low), ResultWord::Ok);
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFileX(high), ResultWord::Ok);
 
     EXPECT_EQ(
-        TemporaryFolder::read(output.path(u"low.jpg"_qs)),
-        TemporaryFolder::read(output.path(u"high.jpg"_qs))
+        TemporaryFolder::read(output.path(u"low.jpg"_s)),
+        TemporaryFolder::read(output.path(u"high.jpg"_s))
     );
 }
 
 TEST(Writer, IgnoresTheLevelWhereThePathIsWhole)
 {
     const Output output;
-    PictureToSave low = output.picture(u"low.jpg"_qs, u"public.jpeg"_qs);
-    low.compressionLevel = u"1"_qs;
+    PictureToSave low = output.picture(u"low.jpg"_s, u"public.jpeg"_s);
+    low.compressionLevel = u"1"_s;
 
     EXPECT_EQ(DVImageHandling::hSaveToNewImageFile(low), ResultWord::Ok);
     EXPECT_EQ(
-        DVImageHandling::hSaveToNewImageFile(output.picture(u"high.jpg"_qs, u"public.jpeg"_qs)),
+        DVImageHandling::hSaveToNewImageFile(output.picture(u"high.jpg"_s, u"public.jpeg"_s)),
         ResultWord::Ok
     );
 
     EXPECT_EQ(
-        TemporaryFolder::read(output.path(u"low.jpg"_qs)),
-        TemporaryFolder::read(output.path(u"high.jpg"_qs))
+        TemporaryFolder::read(output.path(u"low.jpg"_s)),
+        TemporaryFolder::read(output.path(u"high.jpg"_s))
     );
 }

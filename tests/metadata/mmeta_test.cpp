@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <metadata/metadata_texts.h>
 #include <metadata/mmeta.h>
+#include <platform/foundation/literals.h>
 #include <support/case_name.h>
 #include <support/color_profiles.h>
 #include <support/exif_block.h>
@@ -23,8 +24,8 @@ using test::PhotoFormat;
 
 namespace {
 
-const QString userComment = u"EXIF User Comment"_qs;
-const QString creationDate = u"EXIF Creation Date"_qs;
+const QString userComment = u"EXIF User Comment"_s;
+const QString creationDate = u"EXIF Creation Date"_s;
 
 QByteArray asciiComment(const QByteArray& text) { return QByteArray("ASCII\0\0\0", 8) + text; }
 
@@ -73,11 +74,8 @@ protected:
     {
         return photo.write(m_folder.path(name));
     }
-    [[nodiscard]] QString jpeg(const PhotoBuilder& photo) const
-    {
-        return write(photo, u"a.jpg"_qs);
-    }
-    [[nodiscard]] QString text() const { return m_folder.write(u"a.txt"_qs, "no image"); }
+    [[nodiscard]] QString jpeg(const PhotoBuilder& photo) const { return write(photo, u"a.jpg"_s); }
+    [[nodiscard]] QString text() const { return m_folder.write(u"a.txt"_s, "no image"); }
 
     [[nodiscard]] QString shownComment() const
     {
@@ -122,14 +120,14 @@ TEST_F(Meta, ShowsThatAPhotoWithoutExifHasNoCommentAndStillItsTree)
 
     EXPECT_EQ(m_panels.vwPhotoInfo.tfActiveFilePath.stringValue(), path);
     EXPECT_EQ(shownComment(), metadata::notSupportedOrAvailableText());
-    EXPECT_TRUE(shownRows().contains(QStringList({u"0"_qs, u"PixelWidth"_qs, u"47"_qs})));
+    EXPECT_TRUE(shownRows().contains(QStringList({u"0"_s, u"PixelWidth"_s, u"47"_s})));
 }
 
 TEST_F(Meta, ShowsTheCommentAndTheTreeOfThePhoto)
 {
     const QList<PropertyNode>& tree = m_meta.hiDoNothing(jpeg(photoWithComment("hello")));
 
-    EXPECT_EQ(shownComment(), u"hello"_qs);
+    EXPECT_EQ(shownComment(), u"hello"_s);
     EXPECT_EQ(shownRows(), metadata::propertyRows(tree));
     EXPECT_EQ(m_meta.myVarTree(), tree);
 }
@@ -156,7 +154,7 @@ TEST_F(Meta, GivesANestedDictionaryAsANodeWithSortedChildren)
     const QList<PropertyNode>& tree = m_meta.hiDoNothing(jpeg(photoWithComment("hello")));
 
     const auto exif = std::find_if(tree.begin(), tree.end(), [](const PropertyNode& node) {
-        return node.key == u"{Exif}"_qs;
+        return node.key == u"{Exif}"_s;
     });
     ASSERT_NE(exif, tree.end());
     EXPECT_EQ(exif->val, QString());
@@ -172,10 +170,8 @@ TEST_F(Meta, AnswersTheComment)
 {
     const QString path = jpeg(photoWithComment("hello"));
 
-    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), u"hello"_qs);
-    EXPECT_EQ(
-        mMeta::hGetExifUcFromSource(*mMeta::getMyImageSource(path), userComment), u"hello"_qs
-    );
+    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), u"hello"_s);
+    EXPECT_EQ(mMeta::hGetExifUcFromSource(*mMeta::getMyImageSource(path), userComment), u"hello"_s);
 }
 
 TEST_F(Meta, TakesACommentOfBlanksForNone)
@@ -192,7 +188,7 @@ TEST_F(Meta, AnswersTheCaptionInPlaceOfAnEmptyComment)
         '\xED', test::iptcSegmentContents(iptcDataSet(120, "a caption"))
     ));
 
-    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), u"a caption"_qs);
+    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), u"a caption"_s);
     EXPECT_EQ(mMeta::hGetExifUcFromSource(*mMeta::getMyImageSource(path), userComment), QString());
 }
 
@@ -210,11 +206,11 @@ TEST_F(Meta, AnswersTheDateForEveryOtherName)
 {
     const QString path = jpeg(photoWithComment("hello"));
 
-    EXPECT_EQ(mMeta::hGetExifUc(path, creationDate), u"2026:11:15 10:44:33"_qs);
-    EXPECT_EQ(mMeta::hGetExifUc(path, u"anything"_qs), u"2026:11:15 10:44:33"_qs);
+    EXPECT_EQ(mMeta::hGetExifUc(path, creationDate), u"2026:11:15 10:44:33"_s);
+    EXPECT_EQ(mMeta::hGetExifUc(path, u"anything"_s), u"2026:11:15 10:44:33"_s);
     const auto source = *mMeta::getMyImageSource(path);
-    EXPECT_EQ(mMeta::hGetExifUcFromSource(source, creationDate), u"2026:11:15 10:44:33"_qs);
-    EXPECT_EQ(mMeta::hGetExifUcFromSource(source, u"anything"_qs), u"2026:11:15 10:44:33"_qs);
+    EXPECT_EQ(mMeta::hGetExifUcFromSource(source, creationDate), u"2026:11:15 10:44:33"_s);
+    EXPECT_EQ(mMeta::hGetExifUcFromSource(source, u"anything"_s), u"2026:11:15 10:44:33"_s);
 }
 
 TEST_F(Meta, AnswersTheIptcTimeInPlaceOfAnEmptyDate)
@@ -224,7 +220,7 @@ TEST_F(Meta, AnswersTheIptcTimeInPlaceOfAnEmptyDate)
                    .exif(exifBlock({.dateTimeOriginal = QByteArray("\0", 1)}))
                    .jpegSegment('\xED', test::iptcSegmentContents(iptcDataSet(60, "104433"))));
 
-    EXPECT_EQ(mMeta::hGetExifUc(path, creationDate), u"104433"_qs);
+    EXPECT_EQ(mMeta::hGetExifUc(path, creationDate), u"104433"_s);
     EXPECT_EQ(mMeta::hGetExifUcFromSource(*mMeta::getMyImageSource(path), creationDate), QString());
 }
 
@@ -238,9 +234,9 @@ TEST_F(Meta, PassesExtensionsThatArePartOfAKnownOne)
 {
     const QByteArray photo = photoWithComment("hello").bytes();
 
-    EXPECT_EQ(mMeta::hGetExifUc(m_folder.write(u"a.P"_qs, photo), userComment), u"hello"_qs);
-    EXPECT_EQ(mMeta::hGetExifUc(m_folder.write(u"a.TIFF"_qs, photo), userComment), u"hello"_qs);
-    EXPECT_EQ(mMeta::hGetExifUc(m_folder.write(u"a.webp"_qs, photo), userComment), QString());
+    EXPECT_EQ(mMeta::hGetExifUc(m_folder.write(u"a.P"_s, photo), userComment), u"hello"_s);
+    EXPECT_EQ(mMeta::hGetExifUc(m_folder.write(u"a.TIFF"_s, photo), userComment), u"hello"_s);
+    EXPECT_EQ(mMeta::hGetExifUc(m_folder.write(u"a.webp"_s, photo), userComment), QString());
 }
 
 TEST_F(Meta, PassesPngForExifAndNotForIptc)
@@ -251,42 +247,42 @@ TEST_F(Meta, PassesPngForExifAndNotForIptc)
             .exif(exifBlock(
                 {.dateTimeOriginal = "2026:11:15 10:44:33", .userComment = asciiComment("hello")}
             )),
-        u"a.png"_qs
+        u"a.png"_s
     );
 
-    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), u"hello"_qs);
-    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC City"_qs), QString());
+    EXPECT_EQ(mMeta::hGetExifUc(path, userComment), u"hello"_s);
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC City"_s), QString());
 }
 
 TEST_F(Meta, JoinsKeywords)
 {
     const QString path = jpeg(photoWithIptc(iptcDataSet(25, "a") + iptcDataSet(25, "b")));
 
-    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Keyword"_qs), u"a; b"_qs);
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Keyword"_s), u"a; b"_s);
 }
 
 TEST_F(Meta, AnswersTheFirstOfTheCreatorsTitles)
 {
     const QString path = jpeg(photoWithIptc(iptcDataSet(85, "first") + iptcDataSet(85, "second")));
 
-    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Creator Title"_qs), u"first"_qs);
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Creator Title"_s), u"first"_s);
 }
 
 TEST_F(Meta, AnswersTheValueFoundLastForANameThatIsNotKnown)
 {
     const QString path = jpeg(photoWithIptc(iptcDataSet(90, "Bern") + iptcDataSet(105, "News")));
-    const QString found = m_meta.hGetSomeIPTC(path, u"IPTC City"_qs);
+    const QString found = m_meta.hGetSomeIPTC(path, u"IPTC City"_s);
 
-    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Description"_qs), found);
-    EXPECT_EQ(m_meta.hGetSomeIPTC(jpeg(PhotoBuilder{}), u"IPTC Description"_qs), QString());
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Description"_s), found);
+    EXPECT_EQ(m_meta.hGetSomeIPTC(jpeg(PhotoBuilder{}), u"IPTC Description"_s), QString());
 }
 
 TEST_F(Meta, AnswersNothingForAnIptcValueThatIsMissing)
 {
     const QString path = jpeg(photoWithIptc(iptcDataSet(90, "Bern")));
 
-    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Keyword"_qs), QString());
-    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Creator Title"_qs), QString());
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Keyword"_s), QString());
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, u"IPTC Creator Title"_s), QString());
 }
 
 struct IptcCase
@@ -306,62 +302,62 @@ TEST_P(IptcValue, IsFoundByItsName)
 {
     const QString path = jpeg(photoWithIptc(iptcDataSet(GetParam().dataSet, "value")));
 
-    EXPECT_EQ(m_meta.hGetSomeIPTC(path, GetParam().property), u"value"_qs);
+    EXPECT_EQ(m_meta.hGetSomeIPTC(path, GetParam().property), u"value"_s);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Names,
     IptcValue,
     testing::Values(
-        IptcCase{"CreatorTitle", u"IPTC Creator Title"_qs, 85},
-        IptcCase{"Caption", u"IPTC Caption"_qs, 120},
-        IptcCase{"Keyword", u"IPTC Keyword"_qs, 25},
-        IptcCase{"City", u"IPTC City"_qs, 90},
-        IptcCase{"CaptionWriter", u"IPTC Caption Writer"_qs, 122},
-        IptcCase{"Copyrights", u"IPTC Copyrights"_qs, 116},
-        IptcCase{"Country", u"IPTC Country"_qs, 101},
-        IptcCase{"Credits", u"IPTC Credits"_qs, 110},
-        IptcCase{"Headline", u"IPTC Headline"_qs, 105},
-        IptcCase{"SubjectCode", u"IPTC Subject Code"_qs, 12},
-        IptcCase{"StateProvince", u"IPTC State Province"_qs, 95}
+        IptcCase{"CreatorTitle", u"IPTC Creator Title"_s, 85},
+        IptcCase{"Caption", u"IPTC Caption"_s, 120},
+        IptcCase{"Keyword", u"IPTC Keyword"_s, 25},
+        IptcCase{"City", u"IPTC City"_s, 90},
+        IptcCase{"CaptionWriter", u"IPTC Caption Writer"_s, 122},
+        IptcCase{"Copyrights", u"IPTC Copyrights"_s, 116},
+        IptcCase{"Country", u"IPTC Country"_s, 101},
+        IptcCase{"Credits", u"IPTC Credits"_s, 110},
+        IptcCase{"Headline", u"IPTC Headline"_s, 105},
+        IptcCase{"SubjectCode", u"IPTC Subject Code"_s, 12},
+        IptcCase{"StateProvince", u"IPTC State Province"_s, 95}
     ),
     test::CaseName{}
 );
 
 TEST_F(Meta, FillsTheIptcFieldsAndEmptiesThemForAPhotoWithoutIptc)
 {
-    const QString full = write(photoWithEveryIptcField(), u"full.jpg"_qs);
-    const QString empty = write(PhotoBuilder{}, u"empty.jpg"_qs);
+    const QString full = write(photoWithEveryIptcField(), u"full.jpg"_s);
+    const QString empty = write(PhotoBuilder{}, u"empty.jpg"_s);
 
-    EXPECT_EQ(m_meta.hGetMetaData(full), u"OK"_qs);
-    EXPECT_EQ(shownComment(), u"hello"_qs);
+    EXPECT_EQ(m_meta.hGetMetaData(full), u"OK"_s);
+    EXPECT_EQ(shownComment(), u"hello"_s);
     EXPECT_EQ(
         shownIptc(),
         (QStringList{
-            u"title"_qs,
-            u"a;b;"_qs,
-            u"caption"_qs,
-            u"headline"_qs,
-            u"(c) Jane"_qs,
-            u"ask"_qs,
-            u"Jane"_qs,
-            u"Editor"_qs,
-            u"source"_qs,
-            u"contact"_qs,
-            u"writer"_qs,
-            u"Bern; jane@example.org"_qs})
+            u"title"_s,
+            u"a;b;"_s,
+            u"caption"_s,
+            u"headline"_s,
+            u"(c) Jane"_s,
+            u"ask"_s,
+            u"Jane"_s,
+            u"Editor"_s,
+            u"source"_s,
+            u"contact"_s,
+            u"writer"_s,
+            u"Bern; jane@example.org"_s})
     );
 
-    EXPECT_EQ(m_meta.hGetMetaData(empty), u"OK"_qs);
+    EXPECT_EQ(m_meta.hGetMetaData(empty), u"OK"_s);
     EXPECT_EQ(shownComment(), QString());
     EXPECT_EQ(shownIptc(), QStringList(12));
 }
 
 TEST_F(Meta, EmptiesTheIptcFieldsForAFileThatIsNoImage)
 {
-    m_meta.hGetMetaData(write(photoWithEveryIptcField(), u"full.jpg"_qs));
+    m_meta.hGetMetaData(write(photoWithEveryIptcField(), u"full.jpg"_s));
 
-    EXPECT_EQ(m_meta.hGetMetaData(text()), u"OK"_qs);
+    EXPECT_EQ(m_meta.hGetMetaData(text()), u"OK"_s);
 
     EXPECT_EQ(shownComment(), QString());
     EXPECT_EQ(shownIptc(), QStringList(12));
@@ -374,7 +370,7 @@ TEST_F(Meta, AnswersStoredAndUprightSizes)
     EXPECT_EQ(
         mMeta::hGetPixelFormatFromSource(*mMeta::getMyImageSource(path)), (QList<qint64>{61, 23})
     );
-    EXPECT_EQ(mMeta::hGetPixelFormat(path), (QStringList{u"23"_qs, u"61"_qs}));
+    EXPECT_EQ(mMeta::hGetPixelFormat(path), (QStringList{u"23"_s, u"61"_s}));
     EXPECT_TRUE(mMeta::hGetPixelFormat(text()).isEmpty());
 }
 
@@ -382,31 +378,31 @@ TEST_F(Meta, NamesTheColourSpaceOfAPhotoWithoutAProfile)
 {
     using test::PhotoModel;
     const auto tiff = [this](PhotoModel model) {
-        return write(PhotoBuilder{}.model(model).format(PhotoFormat::Tiff), u"a.tif"_qs);
+        return write(PhotoBuilder{}.model(model).format(PhotoFormat::Tiff), u"a.tif"_s);
     };
 
-    EXPECT_EQ(mMeta::hGetColorProfile(jpeg(PhotoBuilder{})), u"sRGB IEC61966-2.1"_qs);
+    EXPECT_EQ(mMeta::hGetColorProfile(jpeg(PhotoBuilder{})), u"sRGB IEC61966-2.1"_s);
     EXPECT_EQ(
         mMeta::hGetColorProfile(jpeg(PhotoBuilder{}.model(PhotoModel::Gray))),
-        u"Generic Gray Gamma 2.2 Profile"_qs
+        u"Generic Gray Gamma 2.2 Profile"_s
     );
-    EXPECT_EQ(mMeta::hGetColorProfile(tiff(PhotoModel::Cmyk)), u"Generic CMYK Profile"_qs);
+    EXPECT_EQ(mMeta::hGetColorProfile(tiff(PhotoModel::Cmyk)), u"Generic CMYK Profile"_s);
     EXPECT_EQ(mMeta::hGetColorProfile(text()), QString());
 }
 
 TEST_F(Meta, NamesTheProfileOfAPhotoThatHasOne)
 {
     const QString wide = write(
-        PhotoBuilder{}.format(PhotoFormat::Png).iccProfile(test::wideProfile()), u"wide.png"_qs
+        PhotoBuilder{}.format(PhotoFormat::Png).iccProfile(test::wideProfile()), u"wide.png"_s
     );
     const QString gray = write(
         PhotoBuilder{}
             .format(PhotoFormat::Png)
             .model(test::PhotoModel::Gray)
             .iccProfile(test::grayProfile()),
-        u"gray.png"_qs
+        u"gray.png"_s
     );
 
-    EXPECT_EQ(mMeta::hGetColorProfile(wide), u"RGB built-in"_qs);
-    EXPECT_EQ(mMeta::hGetColorProfile(gray), u"gray built-in"_qs);
+    EXPECT_EQ(mMeta::hGetColorProfile(wide), u"RGB built-in"_s);
+    EXPECT_EQ(mMeta::hGetColorProfile(gray), u"gray built-in"_s);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <panels/common_titles.h>
 #include <panels/panels.h>
+#include <platform/foundation/literals.h>
 
 #include <gtest/gtest.h>
 
@@ -78,21 +79,21 @@ INSTANTIATE_TEST_SUITE_P(
     Panels,
     FieldTags,
     testing::Values(
-        TagRange{"Tint", {u"vwAddTint"_qs}, 400, 499},
-        TagRange{"Framing", {u"vwFraming"_qs}, 151, 199},
-        TagRange{"Roundings", {u"vwRoundings"_qs}, 101, 150},
-        TagRange{"Rotation", {u"vwRotatePhotos"_qs}, 81, 100},
+        TagRange{"Tint", {u"vwAddTint"_s}, 400, 499},
+        TagRange{"Framing", {u"vwFraming"_s}, 151, 199},
+        TagRange{"Roundings", {u"vwRoundings"_s}, 101, 150},
+        TagRange{"Rotation", {u"vwRotatePhotos"_s}, 81, 100},
         TagRange{
             "Crop",
-            {u"dvVCUiCropWxHView"_qs, u"dvVCUiCropMinusView"_qs, u"dvVCUiCropPositionView"_qs},
+            {u"dvVCUiCropWxHView"_s, u"dvVCUiCropMinusView"_s, u"dvVCUiCropPositionView"_s},
             71,
             80},
         TagRange{
             "Filters",
-            {u"vwFiltersScreenView"_qs,
-             u"vwFiltersGaussianView"_qs,
-             u"vwFiltersPosterizeView"_qs,
-             u"vwFiltersUnsharpView"_qs},
+            {u"vwFiltersScreenView"_s,
+             u"vwFiltersGaussianView"_s,
+             u"vwFiltersPosterizeView"_s,
+             u"vwFiltersUnsharpView"_s},
             51,
             70}
     ),
@@ -109,7 +110,7 @@ TEST_P(WatermarkFields, SelectTheFunctionOfTheirTab)
         ASSERT_NE(field, nullptr) << name.toStdString();
         EXPECT_EQ(field->tag(), tag++) << name.toStdString();
         EXPECT_TRUE(
-            field->actions().contains(u"cCollectionViewController.controlTextDidEndEditing"_qs)
+            field->actions().contains(u"cCollectionViewController.controlTextDidEndEditing"_s)
         ) << name.toStdString();
     }
 }
@@ -121,33 +122,33 @@ INSTANTIATE_TEST_SUITE_P(
         TaggedFields{
             "Text",
             200,
-            {u"tvWaterMarkText"_qs,
-             u"tfFontSize"_qs,
-             u"tfKerning"_qs,
-             u"tfLeading"_qs,
-             u"tfFontTransparancy"_qs,
-             u"tfXOffset"_qs,
-             u"tfYOffset"_qs,
-             u"tfWMAngle"_qs,
-             u"tfTextShadowXOffset"_qs,
-             u"tfTextShadowYOffset"_qs,
-             u"tfTextShadowRadius"_qs}},
+            {u"tvWaterMarkText"_s,
+             u"tfFontSize"_s,
+             u"tfKerning"_s,
+             u"tfLeading"_s,
+             u"tfFontTransparancy"_s,
+             u"tfXOffset"_s,
+             u"tfYOffset"_s,
+             u"tfWMAngle"_s,
+             u"tfTextShadowXOffset"_s,
+             u"tfTextShadowYOffset"_s,
+             u"tfTextShadowRadius"_s}},
         TaggedFields{
             "Image",
             300,
-            {u"tfImageScalePC"_qs,
-             u"tfImageTransparancy"_qs,
-             u"tfImageXOffset"_qs,
-             u"tfImageYOffset"_qs,
-             u"tfImageWMAngle"_qs,
-             u"tfImageShadowXOffset"_qs,
-             u"tfImageShadowYOffset"_qs,
-             u"tfImageShadowRadius"_qs,
-             u"tfImageFadeOutAngle"_qs,
-             u"tfWatermarkFilterSize"_qs,
-             u"tfLineScreenAngle"_qs,
-             u"tfCenterCircularWidth"_qs,
-             u"tfCenterCircularHeight"_qs}}
+            {u"tfImageScalePC"_s,
+             u"tfImageTransparancy"_s,
+             u"tfImageXOffset"_s,
+             u"tfImageYOffset"_s,
+             u"tfImageWMAngle"_s,
+             u"tfImageShadowXOffset"_s,
+             u"tfImageShadowYOffset"_s,
+             u"tfImageShadowRadius"_s,
+             u"tfImageFadeOutAngle"_s,
+             u"tfWatermarkFilterSize"_s,
+             u"tfLineScreenAngle"_s,
+             u"tfCenterCircularWidth"_s,
+             u"tfCenterCircularHeight"_s}}
     ),
     test::CaseName{}
 );
@@ -162,7 +163,7 @@ TEST_P(HexFields, CarryTheTagOfTheirColourWell)
     ASSERT_NE(field, nullptr);
     EXPECT_NE(dynamic_cast<const controls::ColorWell*>(well), nullptr);
     EXPECT_EQ(field->tag(), GetParam().tag);
-    EXPECT_EQ(field->actions(), QStringList{u"cColorWellHandling.controlTextDidEndEditing"_qs});
+    EXPECT_EQ(field->actions(), QStringList{u"cColorWellHandling.controlTextDidEndEditing"_s});
 }
 
 INSTANTIATE_TEST_SUITE_P(

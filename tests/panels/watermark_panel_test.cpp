@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <panels/panels.h>
+#include <platform/foundation/literals.h>
 
 #include <gtest/gtest.h>
 
@@ -21,8 +22,8 @@ TEST(WatermarkPanel, TellsTheTextTabByLabelAndIdentifier)
 {
     const panels::Panels panels;
 
-    EXPECT_EQ(panels.vwWatermark.tbvWatermarkType.selectedIdentifier(), QStringLiteral("1"));
-    EXPECT_EQ(panels.vwWatermark.tbvWatermarkType.selectedLabel(), QStringLiteral("Text"));
+    EXPECT_EQ(panels.vwWatermark.tbvWatermarkType.selectedIdentifier(), u"1"_s);
+    EXPECT_EQ(panels.vwWatermark.tbvWatermarkType.selectedLabel(), u"Text"_s);
 }
 
 TEST(WatermarkPanel, GivesEveryFieldATagOfItsFunction)
@@ -37,16 +38,13 @@ TEST(WatermarkPanel, KnowsItsControlsByTheirOtherNames)
 {
     const panels::Panels panels;
 
+    EXPECT_EQ(panels.control(u"pubTWMPhotoProperties"_s), &panels.vwWatermark.pubPhotoProperties);
+    EXPECT_EQ(panels.control(u"cbWatermarkFont"_s), &panels.vwWatermark.cbFontList);
     EXPECT_EQ(
-        panels.control(QStringLiteral("pubTWMPhotoProperties")),
-        &panels.vwWatermark.pubPhotoProperties
-    );
-    EXPECT_EQ(panels.control(QStringLiteral("cbWatermarkFont")), &panels.vwWatermark.cbFontList);
-    EXPECT_EQ(
-        panels.control(QStringLiteral("cActionsIWMArrayController")),
+        panels.control(u"cActionsIWMArrayController"_s),
         &panels.vwWatermark.cActionsTWMArrayController
     );
-    EXPECT_EQ(panels.control(QStringLiteral("tvFileName")), &panels.vwWatermark.tvFileName);
+    EXPECT_EQ(panels.control(u"tvFileName"_s), &panels.vwWatermark.tvFileName);
 }
 
 TEST(WatermarkPanel, OffersAllPhotoPropertiesAndAnchors)

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::files::cKeepNumber;
 using brenvaldo::platform::RangeError;
 using brenvaldo::presets::renamedByActions;
@@ -17,12 +18,11 @@ namespace {
 /// A row with name, padding, the action, the mark, and these fields.
 QString row(const QString& action, const QStringList& fields)
 {
-    return (QStringList{u"My action"_qs, u"     "_qs, action, u"Brenvaldo9"_qs} + fields)
-        .join(u'\t');
+    return (QStringList{u"My action"_s, u"     "_s, action, u"Brenvaldo9"_s} + fields).join(u'\t');
 }
 
 QString
-renamed(const QString& name, const QStringList& rows, const QString& path = u"/x/none.jpg"_qs)
+renamed(const QString& name, const QStringList& rows, const QString& path = u"/x/none.jpg"_s)
 {
     QList<QStringList> list;
     for (const QString& each : rows)
@@ -32,72 +32,67 @@ renamed(const QString& name, const QStringList& rows, const QString& path = u"/x
 
 QString numbering(const QString& digits)
 {
-    return row(u"Numbering"_qs, {u"5"_qs, u"<"_qs, u">"_qs, digits, u"0"_qs, u"1"_qs});
+    return row(u"Numbering"_s, {u"5"_s, u"<"_s, u">"_s, digits, u"0"_s, u"1"_s});
 }
 
 } // namespace
 
-TEST(ActionRun, GivesNothingWithoutActions) { EXPECT_EQ(renamed(u"a.jpg"_qs, {}), u""_qs); }
+TEST(ActionRun, GivesNothingWithoutActions) { EXPECT_EQ(renamed(u"a.jpg"_s, {}), u""_s); }
 
 TEST(ActionRun, ReadsEachFieldOfStrip)
 {
     // count 1 at the end, "x" out, range 1 to 3, first piece at "-" with it, letters only,
     // preserved
-    const QString strip = row(
-        u"Strip"_qs,
-        {u"1"_qs, u"1"_qs, u"x"_qs, u"1"_qs, u"3"_qs, u"-"_qs, u"2"_qs, u"2"_qs, u"1"_qs}
-    );
-    EXPECT_EQ(renamed(u"abxc-d1e2.jpg"_qs, {strip}), u"de.jpg"_qs);
+    const QString strip
+        = row(u"Strip"_s, {u"1"_s, u"1"_s, u"x"_s, u"1"_s, u"3"_s, u"-"_s, u"2"_s, u"2"_s, u"1"_s});
+    EXPECT_EQ(renamed(u"abxc-d1e2.jpg"_s, {strip}), u"de.jpg"_s);
 }
 
 TEST(ActionRun, ReadsTheSeparatorOfStripV2BehindItsList)
 {
     const QString strip = row(
-        u"StripV2"_qs,
-        {u"1"_qs, u"1"_qs, u"x,y"_qs, u"1"_qs, u"1"_qs, u"3"_qs, u"-"_qs, u"2"_qs, u"2"_qs, u"1"_qs}
+        u"StripV2"_s,
+        {u"1"_s, u"1"_s, u"x,y"_s, u"1"_s, u"1"_s, u"3"_s, u"-"_s, u"2"_s, u"2"_s, u"1"_s}
     );
-    EXPECT_EQ(renamed(u"abxyc-d1e2.jpg"_qs, {strip}), u"de.jpg"_qs);
+    EXPECT_EQ(renamed(u"abxyc-d1e2.jpg"_s, {strip}), u"de.jpg"_s);
 }
 
 TEST(ActionRun, ReadsEachFieldOfReplace)
 {
-    const QString replace
-        = row(u"Replace"_qs, {u"2"_qs, u"1"_qs, u"3"_qs, u"_"_qs, u"C"_qs, u"see"_qs});
-    EXPECT_EQ(renamed(u"abcd.jpg"_qs, {replace}), u"_seeD.JPG"_qs);
+    const QString replace = row(u"Replace"_s, {u"2"_s, u"1"_s, u"3"_s, u"_"_s, u"C"_s, u"see"_s});
+    EXPECT_EQ(renamed(u"abcd.jpg"_s, {replace}), u"_seeD.JPG"_s);
 }
 
 TEST(ActionRun, ReadsTextsOfPrefixAndPostfix)
 {
-    const QString prefix = row(u"Prefix"_qs, {u"pre-"_qs, u""_qs, u"0"_qs, u"0"_qs});
-    const QString postfix = row(u"Postfix"_qs, {u"-post"_qs, u""_qs, u"0"_qs, u"0"_qs, u"1"_qs});
-    const QString behind = row(u"Postfix"_qs, {u"-post"_qs, u""_qs, u"0"_qs, u"0"_qs, u"0"_qs});
-    EXPECT_EQ(renamed(u"a.jpg"_qs, {prefix, postfix}), u"pre-a-post.jpg"_qs);
-    EXPECT_EQ(renamed(u"a.jpg"_qs, {behind, prefix}), u"pre-a.jpg-post"_qs);
+    const QString prefix = row(u"Prefix"_s, {u"pre-"_s, u""_s, u"0"_s, u"0"_s});
+    const QString postfix = row(u"Postfix"_s, {u"-post"_s, u""_s, u"0"_s, u"0"_s, u"1"_s});
+    const QString behind = row(u"Postfix"_s, {u"-post"_s, u""_s, u"0"_s, u"0"_s, u"0"_s});
+    EXPECT_EQ(renamed(u"a.jpg"_s, {prefix, postfix}), u"pre-a-post.jpg"_s);
+    EXPECT_EQ(renamed(u"a.jpg"_s, {behind, prefix}), u"pre-a.jpg-post"_s);
 }
 
 TEST(ActionRun, ReadsEachFieldOfNumbering)
 {
-    cKeepNumber::sharedNumber().myNumberString = u"0"_qs;
-    EXPECT_EQ(renamed(u"a.jpg"_qs, {numbering(u"3"_qs)}), u"a<001>.jpg"_qs);
-    const QString before
-        = row(u"Numbering"_qs, {u"5"_qs, u"p"_qs, u"q"_qs, u"2"_qs, u"1"_qs, u"1"_qs});
-    EXPECT_EQ(renamed(u"a.jpg"_qs, {before}), u"p02qa.jpg"_qs);
+    cKeepNumber::sharedNumber().myNumberString = u"0"_s;
+    EXPECT_EQ(renamed(u"a.jpg"_s, {numbering(u"3"_s)}), u"a<001>.jpg"_s);
+    const QString before = row(u"Numbering"_s, {u"5"_s, u"p"_s, u"q"_s, u"2"_s, u"1"_s, u"1"_s});
+    EXPECT_EQ(renamed(u"a.jpg"_s, {before}), u"p02qa.jpg"_s);
 }
 
 TEST(ActionRun, AdvancesTheNumberAtEachNumbering)
 {
-    cKeepNumber::sharedNumber().myNumberString = u"0"_qs;
-    const QStringList twice{numbering(u"2"_qs), numbering(u"2"_qs)};
-    EXPECT_EQ(renamed(u"a.jpg"_qs, twice), u"a<01><02>.jpg"_qs);
-    EXPECT_EQ(renamed(u"a.jpg"_qs, twice), u"a<03><04>.jpg"_qs);
+    cKeepNumber::sharedNumber().myNumberString = u"0"_s;
+    const QStringList twice{numbering(u"2"_s), numbering(u"2"_s)};
+    EXPECT_EQ(renamed(u"a.jpg"_s, twice), u"a<01><02>.jpg"_s);
+    EXPECT_EQ(renamed(u"a.jpg"_s, twice), u"a<03><04>.jpg"_s);
 }
 
 TEST(ActionRun, TakesAnUnknownActionForNumbering)
 {
-    cKeepNumber::sharedNumber().myNumberString = u"0"_qs;
-    const QString unknown
-        = row(u"strip"_qs, {u"1"_qs, u"<"_qs, u">"_qs, u"2"_qs, u"0"_qs, u"1"_qs});
-    EXPECT_EQ(renamed(u"a.jpg"_qs, {unknown}), u"a<01>.jpg"_qs);
+    cKeepNumber::sharedNumber().myNumberString = u"0"_s;
+    const QString unknown = row(u"strip"_s, {u"1"_s, u"<"_s, u">"_s, u"2"_s, u"0"_s, u"1"_s});
+    EXPECT_EQ(renamed(u"a.jpg"_s, {unknown}), u"a<01>.jpg"_s);
 }
 
 TEST(ActionRun, RaisesWhereFieldsAreMissing)
@@ -108,28 +103,27 @@ TEST(ActionRun, RaisesWhereFieldsAreMissing)
         int fields;
     };
     const QList<Needs> all{
-        {u"Strip"_qs, 9},
-        {u"StripV2"_qs, 10},
-        {u"Replace"_qs, 6},
-        {u"Prefix"_qs, 4},
-        {u"Postfix"_qs, 5},
-        {u"Numbering"_qs, 6}};
+        {u"Strip"_s, 9},
+        {u"StripV2"_s, 10},
+        {u"Replace"_s, 6},
+        {u"Prefix"_s, 4},
+        {u"Postfix"_s, 5},
+        {u"Numbering"_s, 6}};
     for (const Needs& needs : all) {
-        const QStringList enough(needs.fields, u"0"_qs);
-        EXPECT_NO_THROW(renamed(u"abc.jpg"_qs, {row(needs.action, enough)}))
+        const QStringList enough(needs.fields, u"0"_s);
+        EXPECT_NO_THROW(renamed(u"abc.jpg"_s, {row(needs.action, enough)}))
             << needs.action.toStdString();
-        EXPECT_THROW(renamed(u"abc.jpg"_qs, {row(needs.action, enough.mid(1))}), RangeError)
+        EXPECT_THROW(renamed(u"abc.jpg"_s, {row(needs.action, enough.mid(1))}), RangeError)
             << needs.action.toStdString();
     }
-    EXPECT_THROW(renamed(u"abc.jpg"_qs, {u"only a name"_qs}), RangeError);
+    EXPECT_THROW(renamed(u"abc.jpg"_s, {u"only a name"_s}), RangeError);
 }
 
 TEST(ActionRun, MisreadsAFieldThatHoldsATab)
 {
     const QString strip = row(
-        u"Strip"_qs,
-        {u""_qs, u"0"_qs, u"x\ty"_qs, u"0"_qs, u"0"_qs, u""_qs, u"0"_qs, u"0"_qs, u"1"_qs}
+        u"Strip"_s, {u""_s, u"0"_s, u"x\ty"_s, u"0"_s, u"0"_s, u""_s, u"0"_s, u"0"_s, u"1"_s}
     );
     // "y" is read as the start, the fragment as the stop, and so on; preserve reads as "0".
-    EXPECT_EQ(renamed(u"xyz.x"_qs, {strip}), u"yz."_qs);
+    EXPECT_EQ(renamed(u"xyz.x"_s, {strip}), u"yz."_s);
 }

@@ -4,6 +4,8 @@
 #include "support/case_name.h"
 #include "support/text_printing.h"
 
+#include <platform/foundation/literals.h>
+
 #include <algorithm>
 
 /// \file
@@ -21,27 +23,27 @@ using test::Round;
 namespace {
 
 const Positions screen = {
-    {4, u"tfFilterColorConvWidth"_qs, u"a4"_qs, u"b4"_qs},
-    {5, u"pubFilterColorConvIntensity"_qs, u"3"_qs, u"7"_qs},
-    {6, u"tfFilterCenterCircularWidth"_qs, u"a6"_qs, u"b6"_qs},
-    {7, u"tfFilterCenterCircularHeight"_qs, u"a7"_qs, u"b7"_qs},
-    {8, u"tfFilterLineScreenAngle"_qs, u"a8"_qs, u"b8"_qs},
-    {9, u"cbFilterColorConvMask"_qs, u"1"_qs, u"0"_qs},
-    {10, u"cbFilterColorConvInvert"_qs, u"0"_qs, u"1"_qs},
+    {4, u"tfFilterColorConvWidth"_s, u"a4"_s, u"b4"_s},
+    {5, u"pubFilterColorConvIntensity"_s, u"3"_s, u"7"_s},
+    {6, u"tfFilterCenterCircularWidth"_s, u"a6"_s, u"b6"_s},
+    {7, u"tfFilterCenterCircularHeight"_s, u"a7"_s, u"b7"_s},
+    {8, u"tfFilterLineScreenAngle"_s, u"a8"_s, u"b8"_s},
+    {9, u"cbFilterColorConvMask"_s, u"1"_s, u"0"_s},
+    {10, u"cbFilterColorConvInvert"_s, u"0"_s, u"1"_s},
 };
-const Positions blur = {{4, u"tfFilterBlurRadiusVal"_qs, u"a"_qs, u"b"_qs}};
-const Positions color = {{4, u"cwFilterMonochromeColor"_qs, u"1 0.5 0.25"_qs, u"0 0.5 1"_qs}};
+const Positions blur = {{4, u"tfFilterBlurRadiusVal"_s, u"a"_s, u"b"_s}};
+const Positions color = {{4, u"cwFilterMonochromeColor"_s, u"1 0.5 0.25"_s, u"0 0.5 1"_s}};
 const Positions monochrome = {
-    {5, u"tfFilterMonochromeHexColor"_qs, u"a5"_qs, u"b5"_qs},
-    {6, u"pubFilterMonochromeIntensity"_qs, u"4"_qs, u"8"_qs},
+    {5, u"tfFilterMonochromeHexColor"_s, u"a5"_s, u"b5"_s},
+    {6, u"pubFilterMonochromeIntensity"_s, u"4"_s, u"8"_s},
 };
-const Positions posterize = {{4, u"tfFilterColorConvLevels"_qs, u"c"_qs, u"d"_qs}};
-const Positions sepia = {{4, u"pubFilterColorConvIntensity"_qs, u"3"_qs, u"7"_qs}};
+const Positions posterize = {{4, u"tfFilterColorConvLevels"_s, u"c"_s, u"d"_s}};
+const Positions sepia = {{4, u"pubFilterColorConvIntensity"_s, u"3"_s, u"7"_s}};
 const Positions unsharp = {
-    {4, u"tfFilterUnsharpMaskRadius"_qs, u"e"_qs, u"f"_qs},
-    {5, u"pubFilterUnsharpMaskIntensity"_qs, u"2"_qs, u"6"_qs},
+    {4, u"tfFilterUnsharpMaskRadius"_s, u"e"_s, u"f"_s},
+    {5, u"pubFilterUnsharpMaskIntensity"_s, u"2"_s, u"6"_s},
 };
-const Positions never = {{0, u"pubFilterColorConvSharpness"_qs, u"1"_qs, u"5"_qs}};
+const Positions never = {{0, u"pubFilterColorConvSharpness"_s, u"1"_s, u"5"_s}};
 
 enum class Centre { Off, On };
 enum class Angle { Off, On };
@@ -49,21 +51,21 @@ enum class Angle { Off, On };
 Effects screenStates(Centre centre, Angle angle)
 {
     return {
-        {u"tfFilterColorConvWidth"_qs, true, true},
-        {u"pubFilterColorConvSharpness"_qs, true, true},
-        {u"cbFilterColorConvInvert"_qs, true, true},
-        {u"tfFilterCenterCircularWidth"_qs, centre == Centre::On, true},
-        {u"tfFilterCenterCircularHeight"_qs, centre == Centre::On, true},
-        {u"tfFilterLineScreenAngle"_qs, angle == Angle::On, true},
+        {u"tfFilterColorConvWidth"_s, true, true},
+        {u"pubFilterColorConvSharpness"_s, true, true},
+        {u"cbFilterColorConvInvert"_s, true, true},
+        {u"tfFilterCenterCircularWidth"_s, centre == Centre::On, true},
+        {u"tfFilterCenterCircularHeight"_s, centre == Centre::On, true},
+        {u"tfFilterLineScreenAngle"_s, angle == Angle::On, true},
     };
 }
 
 Effects monochromeStates(bool intensity)
 {
     return {
-        {u"cwFilterMonochromeColor"_qs, true, true},
-        {u"tfFilterMonochromeHexColor"_qs, true, true},
-        {u"pubFilterMonochromeIntensity"_qs, intensity, true},
+        {u"cwFilterMonochromeColor"_s, true, true},
+        {u"tfFilterMonochromeHexColor"_s, true, true},
+        {u"pubFilterMonochromeIntensity"_s, intensity, true},
     };
 }
 
@@ -85,43 +87,43 @@ const std::vector<KeptFilter>& keptFilters()
          {3},
          screen,
          screen,
-         u"vwFiltersScreenView"_qs,
+         u"vwFiltersScreenView"_s,
          screenStates(Centre::On, Angle::Off)},
         {"ScreensWithAngle",
          {4, 5, 6, 7, 10, 14, 19, 20},
          screen,
          screen,
-         u"vwFiltersScreenView"_qs,
+         u"vwFiltersScreenView"_s,
          screenStates(Centre::Off, Angle::On)},
         {"ScreensWithoutAngle",
          {8, 9},
          screen,
          screen,
-         u"vwFiltersScreenView"_qs,
+         u"vwFiltersScreenView"_s,
          screenStates(Centre::Off, Angle::Off)},
-        {"Blur", {11}, blur, {}, u"vwFiltersGaussianView"_qs, {}},
+        {"Blur", {11}, blur, {}, u"vwFiltersGaussianView"_s, {}},
         {"SquareCanvas",
          {12},
          joined(color, monochrome),
          monochrome,
-         u"vwFiltersMonochromeView"_qs,
+         u"vwFiltersMonochromeView"_s,
          monochromeStates(false)},
         {"FramedCanvas",
          {13},
          joined(color, monochrome),
          joined(color, monochrome),
-         u"vwFiltersMonochromeView"_qs,
+         u"vwFiltersMonochromeView"_s,
          monochromeStates(false)},
         {"Monochrome",
          {15},
          joined(color, monochrome),
          joined(color, monochrome),
-         u"vwFiltersMonochromeView"_qs,
+         u"vwFiltersMonochromeView"_s,
          monochromeStates(true)},
-        {"Posterize", {17}, posterize, posterize, u"vwFiltersPosterizeView"_qs, {}},
-        {"Sepia", {18}, sepia, sepia, u"vwFiltersSepiaView"_qs, {}},
-        {"Unsharp", {21}, unsharp, unsharp, u"vwFiltersUnsharpView"_qs, {}},
-        {"Others", {0, 1, 2, 16, 22, 23, 24, 25}, {}, {}, u""_qs, {}},
+        {"Posterize", {17}, posterize, posterize, u"vwFiltersPosterizeView"_s, {}},
+        {"Sepia", {18}, sepia, sepia, u"vwFiltersSepiaView"_s, {}},
+        {"Unsharp", {21}, unsharp, unsharp, u"vwFiltersUnsharpView"_s, {}},
+        {"Others", {0, 1, 2, 16, 22, 23, 24, 25}, {}, {}, u""_s, {}},
     };
     return all;
 }
@@ -148,13 +150,13 @@ protected:
         joined(joined(screen, blur), joined(color, monochrome)),
         joined(joined(posterize, unsharp), never)
     );
-    RecordBench bench{u"filters"_qs, u"filters"_qs, u"Edit"_qs};
+    RecordBench bench{u"filters"_s, u"filters"_s, u"Edit"_s};
     controls::Holder& holder = bench.panels.vwFilterPhotos.vwFiltersMainView;
 
     Positions positionsOf(int filter) const
     {
-        const Position number = {
-            11, u"pubFilterSelection"_qs, QString::number(filter), filter == 0 ? u"1"_qs : u"0"_qs};
+        const Position number
+            = {11, u"pubFilterSelection"_s, QString::number(filter), filter == 0 ? u"1"_s : u"0"_s};
         return joined(bench.commonPositions(), {number});
     }
 
@@ -194,7 +196,7 @@ TEST_P(FilterPositions, GiveBackWhatTheFilterNeeds)
         bench.give(joined(settings, always), Round::First);
         bench.saveRound(Round::First);
         bench.giveOther(joined(settings, always), Round::First);
-        holder.replaceViews(u"what was shown"_qs);
+        holder.replaceViews(u"what was shown"_s);
         for (const Position& setting : settings)
             bench.panels.control(setting.control)->setEnabled(false);
 
@@ -203,7 +205,7 @@ TEST_P(FilterPositions, GiveBackWhatTheFilterNeeds)
         bench.expectValues(Round::First, joined(always, kept.restored));
         bench.expectOther(Round::First, untouchedBy(kept));
         EXPECT_EQ(
-            holder.views(), QStringList(kept.view.isEmpty() ? u"what was shown"_qs : kept.view)
+            holder.views(), QStringList(kept.view.isEmpty() ? u"what was shown"_s : kept.view)
         );
         for (const Position& setting : settings) {
             const bool isEnabled = bench.panels.control(setting.control)->isEnabled();
@@ -218,12 +220,12 @@ INSTANTIATE_TEST_SUITE_P(, FilterPositions, testing::ValuesIn(keptFilters()), te
 
 TEST(FilterColor, StaysForAFilterWithoutOne)
 {
-    RecordBench bench(u"filters"_qs, u"filters"_qs, u"Edit"_qs);
-    bench.give(u"pubFilterSelection"_qs, u"18"_qs);
+    RecordBench bench(u"filters"_s, u"filters"_s, u"Edit"_s);
+    bench.give(u"pubFilterSelection"_s, u"18"_s);
     bench.saveRound(Round::First);
-    bench.give(u"cwFilterMonochromeColor"_qs, u"0 0.5 1"_qs);
+    bench.give(u"cwFilterMonochromeColor"_s, u"0 0.5 1"_s);
 
     bench.load(Round::First);
 
-    EXPECT_EQ(bench.read(u"cwFilterMonochromeColor"_qs), u"0 0.5 1"_qs);
+    EXPECT_EQ(bench.read(u"cwFilterMonochromeColor"_s), u"0 0.5 1"_s);
 }

@@ -2,6 +2,7 @@
 #include "presets_bench.h"
 
 #include <platform/archives/color_archive.h>
+#include <platform/foundation/literals.h>
 
 #include "support/case_name.h"
 #include "support/photo_builder.h"
@@ -47,12 +48,12 @@ TEST_P(KeptFunctions, AreSavedAppliedAndRemoved)
     auto& files = bench.panels.vwFileType;
     files.pubFileType.selectItemAtIndex(3);
 
-    bench.save(u"A"_qs);
+    bench.save(u"A"_s);
     bench.apply(0);
 
-    EXPECT_EQ(bench.listed(u"nmProces"_qs), QStringList(GetParam().process));
+    EXPECT_EQ(bench.listed(u"nmProces"_s), QStringList(GetParam().process));
     EXPECT_EQ(bench.file.rows("select Action from Presets"), QStringList(GetParam().action));
-    EXPECT_EQ(files.pubFileType.indexOfSelectedItem(), GetParam().id == u"addTint"_qs ? 0 : 3);
+    EXPECT_EQ(files.pubFileType.indexOfSelectedItem(), GetParam().id == u"addTint"_s ? 0 : 3);
 
     bench.press("hRemovePreset");
     EXPECT_TRUE(bench.listed().isEmpty());
@@ -62,30 +63,30 @@ INSTANTIATE_TEST_SUITE_P(
     ,
     KeptFunctions,
     testing::Values(
-        KeptFunction{"TextWatermark", u"textWM"_qs, u"TextWM"_qs, u"Watermark"_qs},
-        KeptFunction{"ImageWatermark", u"imageWM"_qs, u"ImageWM"_qs, u"Watermark"_qs},
-        KeptFunction{"Tint", u"addTint"_qs, u"addTint"_qs, u"Edit"_qs},
-        KeptFunction{"Framing", u"framing"_qs, u"framing"_qs, u"Edit"_qs},
-        KeptFunction{"Roundings", u"roundings"_qs, u"roundings"_qs, u"Edit"_qs},
-        KeptFunction{"Profile", u"profileConversion"_qs, u"profileConversion"_qs, u"Edit"_qs},
-        KeptFunction{"Rotation", u"rotatePhotos"_qs, u"rotatePhotos"_qs, u"Edit"_qs},
-        KeptFunction{"Resize", u"resizePhotos"_qs, u"resizePhotos"_qs, u"Edit"_qs},
-        KeptFunction{"Crop", u"cropPhotos"_qs, u"cropPhotos"_qs, u"Edit"_qs},
-        KeptFunction{"Filters", u"filters"_qs, u"filters"_qs, u"Edit"_qs}
+        KeptFunction{"TextWatermark", u"textWM"_s, u"TextWM"_s, u"Watermark"_s},
+        KeptFunction{"ImageWatermark", u"imageWM"_s, u"ImageWM"_s, u"Watermark"_s},
+        KeptFunction{"Tint", u"addTint"_s, u"addTint"_s, u"Edit"_s},
+        KeptFunction{"Framing", u"framing"_s, u"framing"_s, u"Edit"_s},
+        KeptFunction{"Roundings", u"roundings"_s, u"roundings"_s, u"Edit"_s},
+        KeptFunction{"Profile", u"profileConversion"_s, u"profileConversion"_s, u"Edit"_s},
+        KeptFunction{"Rotation", u"rotatePhotos"_s, u"rotatePhotos"_s, u"Edit"_s},
+        KeptFunction{"Resize", u"resizePhotos"_s, u"resizePhotos"_s, u"Edit"_s},
+        KeptFunction{"Crop", u"cropPhotos"_s, u"cropPhotos"_s, u"Edit"_s},
+        KeptFunction{"Filters", u"filters"_s, u"filters"_s, u"Edit"_s}
     ),
     test::CaseName()
 );
 
 TEST(ImageWatermarkRecord, PlacesTypeAndQualityOnePositionFurtherThanTheText)
 {
-    Bench bench(u"imageWM"_qs);
+    Bench bench(u"imageWM"_s);
     bench.panels.vwFileType.pubFileType.selectItemAtIndex(5);
     bench.panels.vwFileType.pubJPEGCompressionLevel.selectItemAtIndex(7);
-    bench.save(u"A"_qs);
-    ASSERT_EQ(bench.stored(u"A"_qs, 35), u"5"_qs);
-    ASSERT_EQ(bench.stored(u"A"_qs, 36), u"7"_qs);
+    bench.save(u"A"_s);
+    ASSERT_EQ(bench.stored(u"A"_s, 35), u"5"_s);
+    ASSERT_EQ(bench.stored(u"A"_s, 36), u"7"_s);
 
-    bench.function = u"textWM"_qs;
+    bench.function = u"textWM"_s;
     bench.apply(0);
 
     EXPECT_EQ(bench.panels.vwFileType.pubFileType.indexOfSelectedItem(), 0);
@@ -94,12 +95,12 @@ TEST(ImageWatermarkRecord, PlacesTypeAndQualityOnePositionFurtherThanTheText)
 
 TEST(ImageWatermarkRecord, ShowsTheImageAtTheStoredPath)
 {
-    Bench bench(u"imageWM"_qs);
+    Bench bench(u"imageWM"_s);
     auto& image = bench.panels.vwWatermark;
     const QString logo
-        = test::PhotoBuilder().size(31, 17).write(bench.file.folder().path(u"logo.png"_qs));
+        = test::PhotoBuilder().size(31, 17).write(bench.file.folder().path(u"logo.png"_s));
     image.tfWaterMarkImageFilePath.setStringValue(logo);
-    bench.save(u"A"_qs);
+    bench.save(u"A"_s);
     image.tfWaterMarkImageFilePath.setStringValue(QString());
 
     bench.apply(0);
@@ -111,40 +112,40 @@ TEST(ImageWatermarkRecord, ShowsTheImageAtTheStoredPath)
 
 TEST(ImageWatermarkRecord, LeavesTheStoredTextInTheFieldWhenTheImageIsGone)
 {
-    Bench bench(u"imageWM"_qs);
+    Bench bench(u"imageWM"_s);
     auto& image = bench.panels.vwWatermark;
-    const QString logo = bench.file.folder().write(u"logo.png"_qs, "gone soon");
+    const QString logo = bench.file.folder().write(u"logo.png"_s, "gone soon");
     image.tfWaterMarkImageFilePath.setStringValue(logo);
-    bench.save(u"A"_qs);
+    bench.save(u"A"_s);
     ASSERT_TRUE(QFile::remove(logo));
 
     bench.apply(0);
 
-    EXPECT_EQ(image.tfWaterMarkImageFilePath.stringValue(), bench.stored(u"A"_qs, 13));
+    EXPECT_EQ(image.tfWaterMarkImageFilePath.stringValue(), bench.stored(u"A"_s, 13));
     EXPECT_FALSE(image.tfWaterMarkImageFilePath.stringValue().isEmpty());
 }
 
 TEST(ImageWatermarkRecord, NeverSwitchesTheSimulationOn)
 {
-    Bench bench(u"imageWM"_qs);
+    Bench bench(u"imageWM"_s);
     bench.panels.vwWatermark.cbWMSimulationMode.setState(1);
-    bench.save(u"A"_qs);
+    bench.save(u"A"_s);
 
     bench.apply(0);
 
-    EXPECT_EQ(bench.stored(u"A"_qs, 25), u"1"_qs);
+    EXPECT_EQ(bench.stored(u"A"_s, 25), u"1"_s);
     EXPECT_EQ(bench.panels.vwWatermark.cbWMSimulationMode.state(), 0);
 }
 
 TEST(TintRecord, AlwaysComesBackWithTheFirstOutputChoices)
 {
-    Bench bench(u"addTint"_qs);
+    Bench bench(u"addTint"_s);
     bench.panels.vwApplyOn.pubPhotoOrientation.selectItemAtIndex(2);
     bench.panels.vwFileType.pubFileType.selectItemAtIndex(3);
     bench.panels.vwFileType.pubJPEGCompressionLevel.selectItemAtIndex(4);
-    bench.save(u"A"_qs);
-    ASSERT_EQ(bench.stored(u"A"_qs, 21), u"2"_qs);
-    ASSERT_EQ(bench.stored(u"A"_qs, 33), u""_qs);
+    bench.save(u"A"_s);
+    ASSERT_EQ(bench.stored(u"A"_s, 21), u"2"_s);
+    ASSERT_EQ(bench.stored(u"A"_s, 33), u""_s);
 
     bench.apply(0);
 
@@ -155,8 +156,8 @@ TEST(TintRecord, AlwaysComesBackWithTheFirstOutputChoices)
 
 TEST(TintRecord, ReadsTheOutputChoicesWhereAnImageWatermarkHasThem)
 {
-    Bench bench(u"addTint"_qs);
-    bench.save(u"A"_qs);
+    Bench bench(u"addTint"_s);
+    bench.save(u"A"_s);
     (void)bench.file.rows("update Presets set StrField33 = '2', StrField35 = '3', StrField36 = '4'"
     );
 
@@ -169,12 +170,12 @@ TEST(TintRecord, ReadsTheOutputChoicesWhereAnImageWatermarkHasThem)
 
 TEST(TintRecord, KeepsTheTabByItsLabelAndLeavesItForAnother)
 {
-    Bench bench(u"addTint"_qs);
+    Bench bench(u"addTint"_s);
     auto& tint = bench.panels.vwAddTint;
     tint.tbvFrameType.selectIndex(2);
     tint.cwAddTint.setColor(orange);
-    bench.save(u"A"_qs);
-    ASSERT_EQ(bench.stored(u"A"_qs, 19), u"px"_qs);
+    bench.save(u"A"_s);
+    ASSERT_EQ(bench.stored(u"A"_s, 19), u"px"_s);
     tint.tbvFrameType.selectIndex(0);
     tint.cwAddTint.setColor({});
 
@@ -189,14 +190,14 @@ TEST(TintRecord, KeepsTheTabByItsLabelAndLeavesItForAnother)
 
 TEST(TintRecord, EnablesTheSizeFieldsUnlessTheWholePhotoIsTinted)
 {
-    Bench bench(u"addTint"_qs);
+    Bench bench(u"addTint"_s);
     auto& tint = bench.panels.vwAddTint;
     tint.cbAddTintOrigSize.setState(0);
     tint.cbAddTintGradient.setState(1);
-    bench.save(u"part"_qs);
+    bench.save(u"part"_s);
     tint.cbAddTintOrigSize.setState(1);
     tint.cbAddTintGradient.setState(0);
-    bench.save(u"whole"_qs);
+    bench.save(u"whole"_s);
 
     bench.apply(0);
     EXPECT_TRUE(tint.tfAddTintWidth.isEnabled());
@@ -209,9 +210,9 @@ TEST(TintRecord, EnablesTheSizeFieldsUnlessTheWholePhotoIsTinted)
 
 TEST(FramingRecord, LeavesTheColorsArchiveInTheTintPanel)
 {
-    Bench bench(u"framing"_qs);
+    Bench bench(u"framing"_s);
     bench.panels.vwFraming.myNSColorWellObjFraming.setColor(orange);
-    bench.save(u"A"_qs);
+    bench.save(u"A"_s);
 
     bench.apply(0);
 
@@ -224,43 +225,43 @@ TEST(FramingRecord, LeavesTheColorsArchiveInTheTintPanel)
 
 TEST(RoundingsRecord, EnablesTheFieldsOfTheBoxesAndPutsZeroForAnEmptyCanvas)
 {
-    Bench bench(u"roundings"_qs);
+    Bench bench(u"roundings"_s);
     auto& roundings = bench.panels.vwRoundings;
     roundings.pubRCType.selectItemAtIndex(0);
     roundings.cbRCBackgroundColor.setState(1);
     roundings.cbRCBorderColor.setState(0);
     roundings.tfRCEnlargeCanvas.setStringValue(QString());
-    bench.save(u"A"_qs);
+    bench.save(u"A"_s);
 
     bench.apply(0);
 
     EXPECT_TRUE(roundings.tfRCDiameter.isEnabled());
     EXPECT_TRUE(roundings.tfRCBackgroundHexColor.isEnabled());
     EXPECT_FALSE(roundings.pubRCBorderPos.isEnabled());
-    EXPECT_EQ(roundings.tfRCEnlargeCanvas.stringValue(), u"0"_qs);
+    EXPECT_EQ(roundings.tfRCEnlargeCanvas.stringValue(), u"0"_s);
 }
 
 TEST(ProfileRecord, FollowsTheOrderOfTheListAndNotTheName)
 {
-    Bench bench(u"profileConversion"_qs);
+    Bench bench(u"profileConversion"_s);
     auto& profiles = bench.panels.vwProfileConversion.pubInstalledICCProfiles;
-    profiles.setTitles({u"Adobe RGB"_qs, u"sRGB"_qs});
+    profiles.setTitles({u"Adobe RGB"_s, u"sRGB"_s});
     profiles.selectItemAtIndex(1);
-    bench.save(u"A"_qs);
-    profiles.setTitles({u"Adobe RGB"_qs, u"Grey"_qs, u"sRGB"_qs});
+    bench.save(u"A"_s);
+    profiles.setTitles({u"Adobe RGB"_s, u"Grey"_s, u"sRGB"_s});
 
     bench.apply(0);
 
-    EXPECT_EQ(profiles.objectValueOfSelectedItem(), u"Grey"_qs);
+    EXPECT_EQ(profiles.objectValueOfSelectedItem(), u"Grey"_s);
 }
 
 TEST(RotationRecord, TakesTheColorFromTheHexField)
 {
-    Bench bench(u"rotatePhotos"_qs);
+    Bench bench(u"rotatePhotos"_s);
     auto& rotation = bench.panels.vwRotatePhotos;
-    rotation.tfRotationBackgroundHexColor.setStringValue(u"FF0000"_qs);
+    rotation.tfRotationBackgroundHexColor.setStringValue(u"FF0000"_s);
     rotation.cwRotationBackgroundColor.setColor(orange);
-    bench.save(u"A"_qs);
+    bench.save(u"A"_s);
 
     bench.apply(0);
 
@@ -269,50 +270,50 @@ TEST(RotationRecord, TakesTheColorFromTheHexField)
 
 TEST(CropRecord, LosesTheCutOffAndShowsItsView)
 {
-    Bench bench(u"cropPhotos"_qs);
+    Bench bench(u"cropPhotos"_s);
     auto& crop = bench.panels.vwCropPhotos;
     crop.pubCropType.selectItemAtIndex(1);
-    crop.dvVCUiCropMinusView.tfCropCutOff.setStringValue(u"12"_qs);
-    crop.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"640"_qs);
-    bench.save(u"A"_qs);
-    ASSERT_EQ(bench.stored(u"A"_qs, 9), u"12"_qs);
-    ASSERT_EQ(bench.stored(u"A"_qs, 7), u""_qs);
+    crop.dvVCUiCropMinusView.tfCropCutOff.setStringValue(u"12"_s);
+    crop.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"640"_s);
+    bench.save(u"A"_s);
+    ASSERT_EQ(bench.stored(u"A"_s, 9), u"12"_s);
+    ASSERT_EQ(bench.stored(u"A"_s, 7), u""_s);
     crop.pubCropType.selectItemAtIndex(0);
-    crop.dvVCUiCropMinusView.tfCropCutOff.setStringValue(u"99"_qs);
+    crop.dvVCUiCropMinusView.tfCropCutOff.setStringValue(u"99"_s);
 
     bench.apply(0);
 
-    EXPECT_EQ(crop.dvVCUiCropTypeView.views(), QStringList(u"dvVCUiCropMinusView"_qs));
+    EXPECT_EQ(crop.dvVCUiCropTypeView.views(), QStringList(u"dvVCUiCropMinusView"_s));
     EXPECT_EQ(crop.pubCropType.indexOfSelectedItem(), 1);
-    EXPECT_EQ(crop.dvVCUiCropMinusView.tfCropCutOff.stringValue(), u"99"_qs);
-    EXPECT_EQ(crop.dvVCUiCropWxHView.tfCropWidth.stringValue(), u"640"_qs);
+    EXPECT_EQ(crop.dvVCUiCropMinusView.tfCropCutOff.stringValue(), u"99"_s);
+    EXPECT_EQ(crop.dvVCUiCropWxHView.tfCropWidth.stringValue(), u"640"_s);
 }
 
 TEST(FilterRecord, ShowsTheBlurButKeepsItsRadius)
 {
-    Bench bench(u"filters"_qs);
+    Bench bench(u"filters"_s);
     auto& filters = bench.panels.vwFilterPhotos;
     filters.pubFilterSelection.selectItemAtIndex(11);
-    filters.vwFiltersGaussianView.tfFilterBlurRadiusVal.setStringValue(u"5"_qs);
-    bench.save(u"A"_qs);
-    ASSERT_EQ(bench.stored(u"A"_qs, 4), u"5"_qs);
-    filters.vwFiltersGaussianView.tfFilterBlurRadiusVal.setStringValue(u"9"_qs);
+    filters.vwFiltersGaussianView.tfFilterBlurRadiusVal.setStringValue(u"5"_s);
+    bench.save(u"A"_s);
+    ASSERT_EQ(bench.stored(u"A"_s, 4), u"5"_s);
+    filters.vwFiltersGaussianView.tfFilterBlurRadiusVal.setStringValue(u"9"_s);
 
     bench.apply(0);
 
-    EXPECT_EQ(filters.vwFiltersMainView.views(), QStringList(u"vwFiltersGaussianView"_qs));
-    EXPECT_EQ(filters.vwFiltersGaussianView.tfFilterBlurRadiusVal.stringValue(), u"9"_qs);
+    EXPECT_EQ(filters.vwFiltersMainView.views(), QStringList(u"vwFiltersGaussianView"_s));
+    EXPECT_EQ(filters.vwFiltersGaussianView.tfFilterBlurRadiusVal.stringValue(), u"9"_s);
 }
 
 TEST(FilterRecord, ReadsTheColorOfTheSquareCanvasAsHexadecimal)
 {
-    Bench bench(u"filters"_qs);
+    Bench bench(u"filters"_s);
     auto& view = bench.panels.vwFilterPhotos.vwFiltersMonochromeView;
     bench.panels.vwFilterPhotos.pubFilterSelection.selectItemAtIndex(12);
     view.cwFilterMonochromeColor.setColor(orange);
-    view.tfFilterMonochromeHexColor.setStringValue(u"FF7F3F"_qs);
-    bench.save(u"A"_qs);
-    ASSERT_EQ(bench.stored(u"A"_qs, 4), platform::archives::colorArchive({1.0F, 0.5F, 0.25F}));
+    view.tfFilterMonochromeHexColor.setStringValue(u"FF7F3F"_s);
+    bench.save(u"A"_s);
+    ASSERT_EQ(bench.stored(u"A"_s, 4), platform::archives::colorArchive({1.0F, 0.5F, 0.25F}));
 
     bench.apply(0);
 
@@ -321,17 +322,17 @@ TEST(FilterRecord, ReadsTheColorOfTheSquareCanvasAsHexadecimal)
         view.cwFilterMonochromeColor.color(),
         (platform::graphics::Color{.blue = static_cast<double>(0xBA / 255.0F)})
     );
-    EXPECT_EQ(view.tfFilterMonochromeHexColor.stringValue(), u"FF7F3F"_qs);
+    EXPECT_EQ(view.tfFilterMonochromeHexColor.stringValue(), u"FF7F3F"_s);
     EXPECT_FALSE(view.pubFilterMonochromeIntensity.isEnabled());
 }
 
 TEST(FilterRecord, GivesTheMonochromeColorBack)
 {
-    Bench bench(u"filters"_qs);
+    Bench bench(u"filters"_s);
     auto& view = bench.panels.vwFilterPhotos.vwFiltersMonochromeView;
     bench.panels.vwFilterPhotos.pubFilterSelection.selectItemAtIndex(15);
     view.cwFilterMonochromeColor.setColor(orange);
-    bench.save(u"A"_qs);
+    bench.save(u"A"_s);
     view.cwFilterMonochromeColor.setColor({});
 
     bench.apply(0);
@@ -342,19 +343,19 @@ TEST(FilterRecord, GivesTheMonochromeColorBack)
 
 TEST(FilterRecord, KeepsTheScreenFieldsAndTheirStates)
 {
-    Bench bench(u"filters"_qs);
+    Bench bench(u"filters"_s);
     auto& filters = bench.panels.vwFilterPhotos;
     auto& screen = filters.vwFiltersScreenView;
     filters.pubFilterSelection.selectItemAtIndex(3);
-    screen.tfFilterColorConvWidth.setStringValue(u"6"_qs);
-    screen.tfFilterLineScreenAngle.setStringValue(u"45"_qs);
-    bench.save(u"circles"_qs);
+    screen.tfFilterColorConvWidth.setStringValue(u"6"_s);
+    screen.tfFilterLineScreenAngle.setStringValue(u"45"_s);
+    bench.save(u"circles"_s);
     filters.pubFilterSelection.selectItemAtIndex(14);
-    bench.save(u"lines"_qs);
-    screen.tfFilterColorConvWidth.setStringValue(u"1"_qs);
+    bench.save(u"lines"_s);
+    screen.tfFilterColorConvWidth.setStringValue(u"1"_s);
 
     bench.apply(0);
-    EXPECT_EQ(screen.tfFilterColorConvWidth.stringValue(), u"6"_qs);
+    EXPECT_EQ(screen.tfFilterColorConvWidth.stringValue(), u"6"_s);
     EXPECT_TRUE(screen.tfFilterCenterCircularWidth.isEnabled());
     EXPECT_FALSE(screen.tfFilterLineScreenAngle.isEnabled());
 
@@ -365,14 +366,14 @@ TEST(FilterRecord, KeepsTheScreenFieldsAndTheirStates)
 
 TEST(FilterRecord, LeavesTheShownViewForAFilterWithoutSettings)
 {
-    Bench bench(u"filters"_qs);
+    Bench bench(u"filters"_s);
     auto& filters = bench.panels.vwFilterPhotos;
     filters.pubFilterSelection.selectItemAtIndex(1);
-    bench.save(u"A"_qs);
-    filters.vwFiltersMainView.replaceViews(u"vwFiltersSepiaView"_qs);
+    bench.save(u"A"_s);
+    filters.vwFiltersMainView.replaceViews(u"vwFiltersSepiaView"_s);
 
     bench.apply(0);
 
-    EXPECT_EQ(bench.stored(u"A"_qs, 4), u""_qs);
-    EXPECT_EQ(filters.vwFiltersMainView.views(), QStringList(u"vwFiltersSepiaView"_qs));
+    EXPECT_EQ(bench.stored(u"A"_s, 4), u""_s);
+    EXPECT_EQ(filters.vwFiltersMainView.views(), QStringList(u"vwFiltersSepiaView"_s));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <platform/foundation/literals.h>
 #include <presets/sqlite_connection.h>
 
 #include "support/environment.h"
@@ -20,7 +21,7 @@ class PresetFile
 public:
     /// The folder that the program takes for the user's application support.
     [[nodiscard]] const TemporaryFolder& folder() const { return m_folder; }
-    [[nodiscard]] QString path() const { return m_folder.path(u"DravothCom/Brenvaldo9.sql"_qs); }
+    [[nodiscard]] QString path() const { return m_folder.path(u"DravothCom/Brenvaldo9.sql"_s); }
 
     /// Runs `text` and answers its rows, the values of each joined by "|".
     [[nodiscard]] QStringList rows(const char* text) const

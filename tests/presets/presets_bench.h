@@ -4,6 +4,7 @@
 #include "preset_file.h"
 
 #include <controls/action_registry.h>
+#include <platform/foundation/literals.h>
 #include <presets/image_records.h>
 #include <presets/preset_manager.h>
 #include <presets/watermark_records.h>
@@ -14,16 +15,16 @@ namespace brenvaldo::test {
 inline QHash<QString, presets::PresetRecord> recordsOf(panels::Panels& panels)
 {
     return {
-        {u"textWM"_qs, presets::textWatermarkRecord(panels)},
-        {u"imageWM"_qs, presets::imageWatermarkRecord(panels)},
-        {u"addTint"_qs, presets::tintRecord(panels)},
-        {u"framing"_qs, presets::framingRecord(panels)},
-        {u"roundings"_qs, presets::roundingsRecord(panels)},
-        {u"profileConversion"_qs, presets::profileRecord(panels)},
-        {u"rotatePhotos"_qs, presets::rotationRecord(panels)},
-        {u"resizePhotos"_qs, presets::resizeRecord(panels)},
-        {u"cropPhotos"_qs, presets::cropRecord(panels)},
-        {u"filters"_qs, presets::filterRecord(panels)},
+        {u"textWM"_s, presets::textWatermarkRecord(panels)},
+        {u"imageWM"_s, presets::imageWatermarkRecord(panels)},
+        {u"addTint"_s, presets::tintRecord(panels)},
+        {u"framing"_s, presets::framingRecord(panels)},
+        {u"roundings"_s, presets::roundingsRecord(panels)},
+        {u"profileConversion"_s, presets::profileRecord(panels)},
+        {u"rotatePhotos"_s, presets::rotationRecord(panels)},
+        {u"resizePhotos"_s, presets::resizeRecord(panels)},
+        {u"cropPhotos"_s, presets::cropRecord(panels)},
+        {u"filters"_s, presets::filterRecord(panels)},
     };
 }
 
@@ -34,12 +35,12 @@ struct PresetsBench
     {
         presets::dbViewController().linkToPresetsDB();
         manager.registerActions(actions);
-        panels.vwWatermark.cbFontList.setTitles({u"DejaVu Sans"_qs, u"Liberation Serif"_qs});
+        panels.vwWatermark.cbFontList.setTitles({u"DejaVu Sans"_s, u"Liberation Serif"_s});
     }
 
     PresetFile file;
     panels::Panels panels;
-    QString function = u"textWM"_qs;
+    QString function = u"textWM"_s;
     QHash<QString, presets::PresetRecord> records = recordsOf(panels);
     presets::cPresetManager manager{
         panels,
@@ -66,10 +67,10 @@ struct PresetsBench
 
     controls::ActionRegistry::Sent press(const char* action)
     {
-        return actions.send(u"cPresetManager."_qs + QString::fromLatin1(action));
+        return actions.send(u"cPresetManager."_s + QString::fromLatin1(action));
     }
 
-    [[nodiscard]] QStringList listed(const QString& column = u"nmPreset"_qs) const
+    [[nodiscard]] QStringList listed(const QString& column = u"nmPreset"_s) const
     {
         const auto& list = panels.wwPresetsWindow.thePresetsData;
         QStringList values;
@@ -82,9 +83,9 @@ struct PresetsBench
     [[nodiscard]] QString stored(const QString& name, int position) const
     {
         return presets::dbViewController()
-            .getSelectedPreset(u"Presets"_qs, name)
+            .getSelectedPreset(u"Presets"_s, name)
             .value_or(presets::PresetValues())
-            .value(u"StrField%1"_qs.arg(position));
+            .value(u"StrField%1"_s.arg(position));
     }
 };
 

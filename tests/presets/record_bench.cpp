@@ -3,6 +3,7 @@
 
 #include <platform/archives/bookmark.h>
 #include <platform/archives/color_archive.h>
+#include <platform/foundation/literals.h>
 
 #include "support/text_printing.h"
 
@@ -17,7 +18,7 @@ constexpr QStringView fontList = u"cbWatermarkFont";
 
 QString colorText(const platform::graphics::Color& color)
 {
-    return u"%1 %2 %3"_qs.arg(color.red).arg(color.green).arg(color.blue);
+    return u"%1 %2 %3"_s.arg(color.red).arg(color.green).arg(color.blue);
 }
 
 platform::archives::ColorComponents componentsOf(const QString& text)
@@ -53,10 +54,10 @@ RecordBench::RecordBench(const QString& id, const QString& process, const QStrin
     , m_action(action)
 {
     function = id;
-    QDir(file.folder().path()).mkdir(u"one"_qs);
-    QDir(file.folder().path()).mkdir(u"two"_qs);
+    QDir(file.folder().path()).mkdir(u"one"_s);
+    QDir(file.folder().path()).mkdir(u"two"_s);
     panels.vwProfileConversion.pubInstalledICCProfiles.setTitles(
-        {u"Adobe RGB"_qs, u"Display P3"_qs, u"Grey"_qs, u"sRGB"_qs}
+        {u"Adobe RGB"_s, u"Display P3"_s, u"Grey"_s, u"sRGB"_s}
     );
 }
 
@@ -113,7 +114,7 @@ void RecordBench::give(const Positions& positions, Round round)
 QString RecordBench::otherValue(const Position& position, Round round) const
 {
     if (dynamic_cast<const controls::CheckBox*>(&control(position.control)))
-        return position.in(round) == u"1" ? u"0"_qs : u"1"_qs;
+        return position.in(round) == u"1" ? u"0"_s : u"1"_s;
     return position.in(round == Round::First ? Round::Second : Round::First);
 }
 
@@ -133,7 +134,7 @@ void RecordBench::load(Round round, const Effects& effects)
             << effect.control.toStdString();
 }
 
-QString RecordBench::nameOf(Round round) { return round == Round::First ? u"A"_qs : u"B"_qs; }
+QString RecordBench::nameOf(Round round) { return round == Round::First ? u"A"_s : u"B"_s; }
 
 QString RecordBench::storedFormOf(const QString& name, const QString& value) const
 {
@@ -150,14 +151,14 @@ QString RecordBench::storedFormOf(const QString& name, const QString& value) con
 
 void RecordBench::expectRow(Round round, const Positions& positions) const
 {
-    QStringList expected(columns, u""_qs);
+    QStringList expected(columns, u""_s);
     expected[0] = nameOf(round);
     expected[1] = m_process;
     expected[2] = m_action;
     for (const Position& position : positions)
         expected[position.place] = storedFormOf(position.control, position.in(round));
 
-    const QString query = u"select * from Presets where NameOfPreset = '%1'"_qs.arg(nameOf(round));
+    const QString query = u"select * from Presets where NameOfPreset = '%1'"_s.arg(nameOf(round));
     const QStringList rows = file.rows(query.toUtf8().constData());
     ASSERT_EQ(rows.size(), 1);
     const QStringList row = rows.first().split(u'|');
@@ -196,18 +197,18 @@ Position RecordBench::destination() const
 {
     return {
         3,
-        u"tfImageDestinationFolder"_qs,
-        file.folder().path(u"one/"_qs),
-        file.folder().path(u"two/"_qs)};
+        u"tfImageDestinationFolder"_s,
+        file.folder().path(u"one/"_s),
+        file.folder().path(u"two/"_s)};
 }
 
 Positions RecordBench::commonPositions() const
 {
     return {
         destination(),
-        {21, u"pubPhotoOrientation"_qs, u"1"_qs, u"3"_qs},
-        {23, u"pubFileType"_qs, u"6"_qs, u"2"_qs},
-        {24, u"pubJPEGCompressionLevel"_qs, u"8"_qs, u"4"_qs},
+        {21, u"pubPhotoOrientation"_s, u"1"_s, u"3"_s},
+        {23, u"pubFileType"_s, u"6"_s, u"2"_s},
+        {24, u"pubJPEGCompressionLevel"_s, u"8"_s, u"4"_s},
     };
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <presets/bookmarks.h>
 #include <presets/default_patterns.h>
 #include <presets/sheet_control.h>
@@ -45,7 +46,7 @@ protected:
 
     test::TemporaryFolder folder;
     test::TemporaryFolder settings;
-    platform::UserDefaults defaults{settings.path(u"test.conf"_qs)};
+    platform::UserDefaults defaults{settings.path(u"test.conf"_s)};
     FolderChooser chooser;
     panels::Panels panels;
     controls::ActionRegistry actions;
@@ -63,12 +64,12 @@ TEST_F(SheetControl, LeavesTheDefaultsUnsetWhenTheFirstPanelIsCancelled)
 {
     sheets.setLibraryDestination();
 
-    EXPECT_EQ(chooser.lastPanel.message, u"*** FIRST: Choose a root support folder please: ***"_qs);
+    EXPECT_EQ(chooser.lastPanel.message, u"*** FIRST: Choose a root support folder please: ***"_s);
     EXPECT_TRUE(chooser.lastPanel.choosesDirectories);
     EXPECT_FALSE(chooser.lastPanel.choosesFiles);
-    EXPECT_FALSE(defaults.value(u"SupportFilesDestination"_qs));
-    EXPECT_FALSE(defaults.value(u"PatternsDestination"_qs));
-    EXPECT_TRUE(filesIn(u"."_qs).isEmpty());
+    EXPECT_FALSE(defaults.value(u"SupportFilesDestination"_s));
+    EXPECT_FALSE(defaults.value(u"PatternsDestination"_s));
+    EXPECT_TRUE(filesIn(u"."_s).isEmpty());
 }
 
 TEST_F(SheetControl, SetsTheFoldersAndTheDefaultsUp)
@@ -77,16 +78,16 @@ TEST_F(SheetControl, SetsTheFoldersAndTheDefaultsUp)
 
     sheets.setLibraryDestination();
 
-    const QString root = folder.path(u"Dravoth_SupportFiles"_qs);
+    const QString root = folder.path(u"Dravoth_SupportFiles"_s);
     EXPECT_EQ(
-        filesIn(u"Dravoth_SupportFiles"_qs),
-        QStringList({u"C-Actions"_qs, u"Patterns"_qs, u"Watermarks"_qs})
+        filesIn(u"Dravoth_SupportFiles"_s),
+        QStringList({u"C-Actions"_s, u"Patterns"_s, u"Watermarks"_s})
     );
-    EXPECT_GE(filesIn(u"Dravoth_SupportFiles/Patterns"_qs).size(), 8);
-    EXPECT_EQ(defaults.text(u"PatternsDestination"_qs), root + u"/Patterns"_qs);
-    EXPECT_EQ(defaults.text(u"WatermarksDestination"_qs), root + u"/Watermarks"_qs);
-    EXPECT_EQ(defaults.text(u"CActionsDestination"_qs), root + u"/C-Actions"_qs);
-    EXPECT_FALSE(defaults.value(u"cActionsDestination"_qs));
+    EXPECT_GE(filesIn(u"Dravoth_SupportFiles/Patterns"_s).size(), 8);
+    EXPECT_EQ(defaults.text(u"PatternsDestination"_s), root + u"/Patterns"_s);
+    EXPECT_EQ(defaults.text(u"WatermarksDestination"_s), root + u"/Watermarks"_s);
+    EXPECT_EQ(defaults.text(u"CActionsDestination"_s), root + u"/C-Actions"_s);
+    EXPECT_FALSE(defaults.value(u"cActionsDestination"_s));
     EXPECT_EQ(preferences.tfLibraryFilePath.stringValue() + QLatin1Char('/'), folder.path());
 }
 
@@ -95,8 +96,8 @@ TEST_F(SheetControl, KeepsTheFolderAsABookmarkOverARestart)
     chooser.answer = {folder.path()};
     sheets.setLibraryDestination();
 
-    const platform::UserDefaults later(settings.path(u"test.conf"_qs));
-    const auto bookmark = later.value(u"SupportFilesDestination"_qs);
+    const platform::UserDefaults later(settings.path(u"test.conf"_s));
+    const auto bookmark = later.value(u"SupportFilesDestination"_s);
 
     ASSERT_TRUE(bookmark);
     const auto url = presets::DVbookmarks().urlForBookmark(bookmark->toByteArray());
@@ -107,65 +108,65 @@ TEST_F(SheetControl, KeepsTheFolderAsABookmarkOverARestart)
 TEST_F(SheetControl, LeavesAPatternFolderThatExists)
 {
     chooser.answer = {folder.path()};
-    ASSERT_TRUE(QDir().mkpath(folder.path(u"Dravoth_SupportFiles/Patterns"_qs)));
+    ASSERT_TRUE(QDir().mkpath(folder.path(u"Dravoth_SupportFiles/Patterns"_s)));
 
     sheets.setLibraryDestination();
 
-    EXPECT_TRUE(filesIn(u"Dravoth_SupportFiles/Patterns"_qs).isEmpty());
+    EXPECT_TRUE(filesIn(u"Dravoth_SupportFiles/Patterns"_s).isEmpty());
 }
 
 TEST_F(SheetControl, KeepsWhatIsInAChosenFolderAndCopiesNoPatterns)
 {
-    ASSERT_TRUE(QDir().mkpath(folder.path(u"Dravoth_SupportFiles/Watermarks"_qs)));
-    (void)folder.write(u"Dravoth_SupportFiles/Watermarks/logo.png"_qs, "logo");
+    ASSERT_TRUE(QDir().mkpath(folder.path(u"Dravoth_SupportFiles/Watermarks"_s)));
+    (void)folder.write(u"Dravoth_SupportFiles/Watermarks/logo.png"_s, "logo");
     chooser.answer = {folder.path()};
 
-    actions.send(u"cSheetControl.chooseLibraryDestination"_qs);
+    actions.send(u"cSheetControl.chooseLibraryDestination"_s);
 
     EXPECT_TRUE(chooser.lastPanel.message.isEmpty());
-    EXPECT_EQ(filesIn(u"Dravoth_SupportFiles/Watermarks"_qs), QStringList(u"logo.png"_qs));
-    EXPECT_TRUE(QDir(folder.path(u"Dravoth_SupportFiles/Patterns"_qs)).exists());
-    EXPECT_TRUE(filesIn(u"Dravoth_SupportFiles/Patterns"_qs).isEmpty());
-    EXPECT_TRUE(defaults.value(u"SupportFilesDestination"_qs));
+    EXPECT_EQ(filesIn(u"Dravoth_SupportFiles/Watermarks"_s), QStringList(u"logo.png"_s));
+    EXPECT_TRUE(QDir(folder.path(u"Dravoth_SupportFiles/Patterns"_s)).exists());
+    EXPECT_TRUE(filesIn(u"Dravoth_SupportFiles/Patterns"_s).isEmpty());
+    EXPECT_TRUE(defaults.value(u"SupportFilesDestination"_s));
 }
 
 TEST_F(SheetControl, ForgetsTheFolderOfBeforeWhenAnotherIsChosen)
 {
-    ASSERT_TRUE(QDir(folder.path()).mkdir(u"old"_qs));
-    ASSERT_TRUE(QDir(folder.path()).mkdir(u"new"_qs));
-    chooser.answer = {folder.path(u"old"_qs)};
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"old"_s));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"new"_s));
+    chooser.answer = {folder.path(u"old"_s)};
     sheets.setLibraryDestination();
     EXPECT_TRUE(chooser.lastPanel.canCreateDirectories);
-    chooser.answer = {folder.path(u"new"_qs)};
+    chooser.answer = {folder.path(u"new"_s)};
 
     sheets.chooseLibraryDestination();
 
-    const QString root = folder.path(u"new/Dravoth_SupportFiles"_qs);
+    const QString root = folder.path(u"new/Dravoth_SupportFiles"_s);
     EXPECT_TRUE(chooser.lastPanel.canCreateDirectories);
     EXPECT_FALSE(chooser.lastPanel.choosesFiles);
-    EXPECT_EQ(preferences.tfLibraryFilePath.stringValue(), folder.path(u"new"_qs));
-    EXPECT_EQ(defaults.text(u"PatternsDestination"_qs), root + u"/Patterns"_qs);
-    EXPECT_EQ(defaults.text(u"WatermarksDestination"_qs), root + u"/Watermarks"_qs);
-    EXPECT_EQ(defaults.text(u"CActionsDestination"_qs), root + u"/C-Actions"_qs);
-    const auto bookmark = defaults.value(u"SupportFilesDestination"_qs);
+    EXPECT_EQ(preferences.tfLibraryFilePath.stringValue(), folder.path(u"new"_s));
+    EXPECT_EQ(defaults.text(u"PatternsDestination"_s), root + u"/Patterns"_s);
+    EXPECT_EQ(defaults.text(u"WatermarksDestination"_s), root + u"/Watermarks"_s);
+    EXPECT_EQ(defaults.text(u"CActionsDestination"_s), root + u"/C-Actions"_s);
+    const auto bookmark = defaults.value(u"SupportFilesDestination"_s);
     ASSERT_TRUE(bookmark);
     EXPECT_EQ(
         presets::DVbookmarks().urlForBookmark(bookmark->toByteArray())->toLocalFile(),
-        folder.path(u"new"_qs)
+        folder.path(u"new"_s)
     );
-    EXPECT_TRUE(QDir(folder.path(u"old/Dravoth_SupportFiles/Watermarks"_qs)).exists());
+    EXPECT_TRUE(QDir(folder.path(u"old/Dravoth_SupportFiles/Watermarks"_s)).exists());
 }
 
 TEST_F(SheetControl, ChangesNothingWhenAnotherFolderIsNotChosen)
 {
     chooser.answer = {folder.path()};
     sheets.setLibraryDestination();
-    const auto before = defaults.value(u"SupportFilesDestination"_qs);
+    const auto before = defaults.value(u"SupportFilesDestination"_s);
     chooser.answer = std::nullopt;
 
     sheets.chooseLibraryDestination();
 
-    EXPECT_EQ(defaults.value(u"SupportFilesDestination"_qs), before);
+    EXPECT_EQ(defaults.value(u"SupportFilesDestination"_s), before);
     EXPECT_EQ(preferences.tfLibraryFilePath.stringValue() + QLatin1Char('/'), folder.path());
 }
 
@@ -175,26 +176,26 @@ TEST_F(SheetControl, ShowsTheFolderInThePreferences)
     sheets.setLibraryDestination();
     preferences.tfLibraryFilePath.setStringValue(QString());
 
-    actions.send(u"cSheetControl.hCallPreferencesWw"_qs);
+    actions.send(u"cSheetControl.hCallPreferencesWw"_s);
     EXPECT_TRUE(preferences.sheet.isOpen());
     EXPECT_EQ(preferences.tfLibraryFilePath.stringValue() + QLatin1Char('/'), folder.path());
 
-    actions.send(u"cSheetControl.closePreferencesSheetObjC"_qs);
+    actions.send(u"cSheetControl.closePreferencesSheetObjC"_s);
     EXPECT_FALSE(preferences.sheet.isOpen());
 }
 
 TEST_F(SheetControl, TellsInThePreferencesThatTheFolderHasGone)
 {
-    ASSERT_TRUE(QDir(folder.path()).mkdir(u"support"_qs));
-    chooser.answer = {folder.path(u"support"_qs)};
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"support"_s));
+    chooser.answer = {folder.path(u"support"_s)};
     sheets.setLibraryDestination();
-    ASSERT_TRUE(QDir(folder.path(u"support"_qs)).removeRecursively());
+    ASSERT_TRUE(QDir(folder.path(u"support"_s)).removeRecursively());
 
     sheets.hCallPreferencesWw();
 
     EXPECT_EQ(
         preferences.tfLibraryFilePath.stringValue(),
-        u"Oh! Your previous defined folder has gone!?\rSelect a new location please."_qs
+        u"Oh! Your previous defined folder has gone!?\rSelect a new location please."_s
     );
 }
 
@@ -209,29 +210,29 @@ TEST_F(SheetControl, OpensThePreferencesWithoutAFolder)
 TEST_F(SheetControl, ShowsAndClosesTheAlertOfSuccess)
 {
     const test::LogLines log;
-    actions.send(u"cSheetControl.hCallAlertSheet"_qs);
-    EXPECT_EQ(alert, QStringList({u"Dju!"_qs, u"'t is gelukt! Hoera!"_qs}));
-    EXPECT_EQ(log.lines(), QStringList(u"hCallAlertSheet"_qs));
+    actions.send(u"cSheetControl.hCallAlertSheet"_s);
+    EXPECT_EQ(alert, QStringList({u"Dju!"_s, u"'t is gelukt! Hoera!"_s}));
+    EXPECT_EQ(log.lines(), QStringList(u"hCallAlertSheet"_s));
 
     panels.window.wwAlertWindow.open();
-    actions.send(u"cSheetControl.closeAlertSheet"_qs);
+    actions.send(u"cSheetControl.closeAlertSheet"_s);
     EXPECT_FALSE(panels.window.wwAlertWindow.isOpen());
 }
 
 TEST(Bookmarks, ResolveFoldersThatMovedBackAndNoOthers)
 {
     const test::TemporaryFolder folder;
-    ASSERT_TRUE(QDir(folder.path()).mkdir(u"a"_qs));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"a"_s));
     const presets::DVbookmarks bookmarks;
-    const auto bookmark = bookmarks.bookmarkForURL(QUrl::fromLocalFile(folder.path(u"a/"_qs)));
+    const auto bookmark = bookmarks.bookmarkForURL(QUrl::fromLocalFile(folder.path(u"a/"_s)));
     ASSERT_TRUE(bookmark);
 
-    ASSERT_TRUE(QDir(folder.path()).rename(u"a"_qs, u"b"_qs));
+    ASSERT_TRUE(QDir(folder.path()).rename(u"a"_s, u"b"_s));
     EXPECT_FALSE(bookmarks.urlForBookmark(*bookmark));
 
-    ASSERT_TRUE(QDir(folder.path()).rename(u"b"_qs, u"a"_qs));
-    EXPECT_EQ(bookmarks.urlForBookmark(*bookmark)->toLocalFile(), folder.path(u"a"_qs));
-    EXPECT_FALSE(bookmarks.bookmarkForURL(QUrl(u"https://example.org/a"_qs)));
+    ASSERT_TRUE(QDir(folder.path()).rename(u"b"_s, u"a"_s));
+    EXPECT_EQ(bookmarks.urlForBookmark(*bookmark)->toLocalFile(), folder.path(u"a"_s));
+    EXPECT_FALSE(bookmarks.bookmarkForURL(QUrl(u"https://example.org/a"_s)));
 }
 
 TEST(DefaultPatterns, AreSeamlessAndNeitherEmptyNorFull)

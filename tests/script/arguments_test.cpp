@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::script;
 
 namespace {
@@ -37,14 +38,14 @@ INSTANTIATE_TEST_SUITE_P(
     Table,
     IndexBelowTen,
     testing::Values(
-        Index{"First", u"0"_qs, 0},
-        Index{"Last", u"9"_qs, 9},
-        Index{"BehindTheLast", u"10"_qs, std::nullopt},
-        Index{"Negative", u"-1"_qs, std::nullopt},
-        Index{"Signed", u"+1"_qs, std::nullopt},
+        Index{"First", u"0"_s, 0},
+        Index{"Last", u"9"_s, 9},
+        Index{"BehindTheLast", u"10"_s, std::nullopt},
+        Index{"Negative", u"-1"_s, std::nullopt},
+        Index{"Signed", u"+1"_s, std::nullopt},
         Index{"Empty", QString(), std::nullopt},
-        Index{"DigitsAndLetters", u"1a"_qs, std::nullopt},
-        Index{"TooLargeForANumber", u"99999999999"_qs, std::nullopt}
+        Index{"DigitsAndLetters", u"1a"_s, std::nullopt},
+        Index{"TooLargeForANumber", u"99999999999"_s, std::nullopt}
     ),
     nameOfRow
 );
@@ -55,7 +56,7 @@ class ItemOfQualities : public testing::TestWithParam<Index>
 
 TEST_P(ItemOfQualities, IsAnIndexBeforeItIsATitle)
 {
-    const QStringList qualities{u"1"_qs, u"2"_qs, u"9"_qs, u"best"_qs, u"=worst"_qs};
+    const QStringList qualities{u"1"_s, u"2"_s, u"9"_s, u"best"_s, u"=worst"_s};
 
     EXPECT_EQ(itemOf(qualities, GetParam().word), GetParam().index);
 }
@@ -64,14 +65,14 @@ INSTANTIATE_TEST_SUITE_P(
     Table,
     ItemOfQualities,
     testing::Values(
-        Index{"IndexThatIsATitleToo", u"1"_qs, 1},
-        Index{"NumberThatIsNoIndex", u"9"_qs, std::nullopt},
-        Index{"NumberAfterAnEqualsSign", u"=9"_qs, 2},
-        Index{"TitleAfterAnEqualsSign", u"=1"_qs, 0},
-        Index{"Title", u"best"_qs, 3},
-        Index{"TitleInAnotherCase", u"Best"_qs, std::nullopt},
-        Index{"TitleThatBeginsWithAnEqualsSign", u"=worst"_qs, 4},
-        Index{"UnknownTitle", u"good"_qs, std::nullopt},
+        Index{"IndexThatIsATitleToo", u"1"_s, 1},
+        Index{"NumberThatIsNoIndex", u"9"_s, std::nullopt},
+        Index{"NumberAfterAnEqualsSign", u"=9"_s, 2},
+        Index{"TitleAfterAnEqualsSign", u"=1"_s, 0},
+        Index{"Title", u"best"_s, 3},
+        Index{"TitleInAnotherCase", u"Best"_s, std::nullopt},
+        Index{"TitleThatBeginsWithAnEqualsSign", u"=worst"_s, 4},
+        Index{"UnknownTitle", u"good"_s, std::nullopt},
         Index{"Empty", QString(), std::nullopt}
     ),
     nameOfRow
@@ -79,15 +80,15 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Flag, IsZeroOrOne)
 {
-    EXPECT_EQ(flag(u"0"_qs), 0);
-    EXPECT_EQ(flag(u"1"_qs), 1);
-    EXPECT_EQ(flag(u"2"_qs), std::nullopt);
-    EXPECT_EQ(flag(u"on"_qs), std::nullopt);
+    EXPECT_EQ(flag(u"0"_s), 0);
+    EXPECT_EQ(flag(u"1"_s), 1);
+    EXPECT_EQ(flag(u"2"_s), std::nullopt);
+    EXPECT_EQ(flag(u"on"_s), std::nullopt);
 }
 
 TEST(AbsolutePath, StartsAtTheCurrentFolder)
 {
-    EXPECT_EQ(absolutePath(u"a b.jpg"_qs), QDir::currentPath() + u"/a b.jpg"_qs);
-    EXPECT_EQ(absolutePath(u"/photos/"_qs), u"/photos"_qs);
-    EXPECT_EQ(absolutePath(u"/photos/../a"_qs), u"/a"_qs);
+    EXPECT_EQ(absolutePath(u"a b.jpg"_s), QDir::currentPath() + u"/a b.jpg"_s);
+    EXPECT_EQ(absolutePath(u"/photos/"_s), u"/photos"_s);
+    EXPECT_EQ(absolutePath(u"/photos/../a"_s), u"/a"_s);
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <script/control_values.h>
 
 #include <controls/image_view.h>
@@ -21,22 +22,20 @@ using ControlMaker = std::function<std::unique_ptr<Control>()>;
 ControlMaker popUp()
 {
     return [] {
-        return std::make_unique<PopUpButton>(u"pub"_qs, QStringList{u"1"_qs, u"2"_qs, u"9"_qs});
+        return std::make_unique<PopUpButton>(u"pub"_s, QStringList{u"1"_s, u"2"_s, u"9"_s});
     };
 }
 
 ControlMaker segments()
 {
-    return [] {
-        return std::make_unique<SegmentedControl>(u"sc"_qs, QStringList{u"L"_qs, u"R"_qs});
-    };
+    return [] { return std::make_unique<SegmentedControl>(u"sc"_s, QStringList{u"L"_s, u"R"_s}); };
 }
 
 ControlMaker tabs()
 {
     return [] {
         return std::make_unique<TabView>(
-            u"tbv"_qs, QList<TabView::Tab>{{u"1"_qs, u"Text"_qs}, {u"2"_qs, u"Image"_qs}}
+            u"tbv"_s, QList<TabView::Tab>{{u"1"_s, u"Text"_s}, {u"2"_s, u"Image"_s}}
         );
     };
 }
@@ -75,8 +74,8 @@ struct WatchedControl
     explicit WatchedControl(std::unique_ptr<Control> made)
         : control(std::move(made))
     {
-        actions.add(u"cTest"_qs, u"changed"_qs, [this](const Sender&) { ++sent; });
-        control->addAction(u"cTest.changed"_qs);
+        actions.add(u"cTest"_s, u"changed"_s, [this](const Sender&) { ++sent; });
+        control->addAction(u"cTest.changed"_s);
     }
 
     std::unique_ptr<Control> control;
@@ -118,29 +117,25 @@ INSTANTIATE_TEST_SUITE_P(
     Table,
     GiveValue,
     testing::Values(
-        Given{"TextField", plain<TextField>(u"tf"_qs), u"12 px"_qs, {u"12 px"_qs}},
-        Given{"TextFieldMadeEmpty", plain<TextField>(u"tf"_qs, u"a"_qs), QString(), {QString()}},
-        Given{"TextView", plain<TextView>(u"tv"_qs), u"a\nb"_qs, {u"a\nb"_qs}},
-        Given{"TickedBox", plain<CheckBox>(u"cb"_qs), u"1"_qs, {u"1"_qs}},
-        Given{"UntickedBox", plain<CheckBox>(u"cb"_qs, u"Title"_qs, 1), u"0"_qs, {u"0"_qs}},
-        Given{"ItemByIndex", popUp(), u"1"_qs, {u"1"_qs, u"2"_qs}},
-        Given{"ItemByMarkedTitle", popUp(), u"=2"_qs, {u"1"_qs, u"2"_qs}},
+        Given{"TextField", plain<TextField>(u"tf"_s), u"12 px"_s, {u"12 px"_s}},
+        Given{"TextFieldMadeEmpty", plain<TextField>(u"tf"_s, u"a"_s), QString(), {QString()}},
+        Given{"TextView", plain<TextView>(u"tv"_s), u"a\nb"_s, {u"a\nb"_s}},
+        Given{"TickedBox", plain<CheckBox>(u"cb"_s), u"1"_s, {u"1"_s}},
+        Given{"UntickedBox", plain<CheckBox>(u"cb"_s, u"Title"_s, 1), u"0"_s, {u"0"_s}},
+        Given{"ItemByIndex", popUp(), u"1"_s, {u"1"_s, u"2"_s}},
+        Given{"ItemByMarkedTitle", popUp(), u"=2"_s, {u"1"_s, u"2"_s}},
         Given{
             "ComboBoxByTitle",
-            plain<ComboBox>(u"cb"_qs, QStringList{u"Sans"_qs, u"Serif"_qs}),
-            u"Serif"_qs,
-            {u"1"_qs, u"Serif"_qs}},
-        Given{"Segment", segments(), u"1"_qs, {u"1"_qs}},
-        Given{
-            "MatrixRow",
-            plain<Matrix>(u"mx"_qs, QStringList{u"a"_qs, u"b"_qs}),
-            u"1"_qs,
-            {u"1"_qs}},
-        Given{"TabByLabel", tabs(), u"Image"_qs, {u"Image"_qs}},
-        Given{"TabByIndex", tabs(), u"1"_qs, {u"Image"_qs}},
-        Given{"Color", plain<ColorWell>(u"cw"_qs), u"0a80FF"_qs, {u"0A80FF"_qs}},
-        Given{"Slider", plain<Slider>(u"sl"_qs, 0.0, 10.0, 1.0), u"2.5"_qs, {u"2.5"_qs}},
-        Given{"SliderBeyondItsEnd", plain<Slider>(u"sl"_qs, 0.0, 10.0, 1.0), u"12"_qs, {u"10"_qs}}
+            plain<ComboBox>(u"cb"_s, QStringList{u"Sans"_s, u"Serif"_s}),
+            u"Serif"_s,
+            {u"1"_s, u"Serif"_s}},
+        Given{"Segment", segments(), u"1"_s, {u"1"_s}},
+        Given{"MatrixRow", plain<Matrix>(u"mx"_s, QStringList{u"a"_s, u"b"_s}), u"1"_s, {u"1"_s}},
+        Given{"TabByLabel", tabs(), u"Image"_s, {u"Image"_s}},
+        Given{"TabByIndex", tabs(), u"1"_s, {u"Image"_s}},
+        Given{"Color", plain<ColorWell>(u"cw"_s), u"0a80FF"_s, {u"0A80FF"_s}},
+        Given{"Slider", plain<Slider>(u"sl"_s, 0.0, 10.0, 1.0), u"2.5"_s, {u"2.5"_s}},
+        Given{"SliderBeyondItsEnd", plain<Slider>(u"sl"_s, 0.0, 10.0, 1.0), u"12"_s, {u"10"_s}}
     ),
     nameOfRow
 );
@@ -165,51 +160,50 @@ INSTANTIATE_TEST_SUITE_P(
     Table,
     RefuseValue,
     testing::Values(
-        Refused{"BoxStateTwo", plain<CheckBox>(u"cb"_qs), u"2"_qs, u"\"2\" is no value of cb"_qs},
-        Refused{"UnknownItem", popUp(), u"ten"_qs, u"\"ten\" is no value of pub"_qs},
-        Refused{"TitleThatLooksLikeAnIndex", popUp(), u"9"_qs, u"\"9\" is no value of pub"_qs},
-        Refused{"ItemIndexBeyondTheLast", popUp(), u"3"_qs, u"\"3\" is no value of pub"_qs},
-        Refused{"NoItem", popUp(), u"-1"_qs, u"\"-1\" is no value of pub"_qs},
-        Refused{"SegmentByTitle", segments(), u"R"_qs, u"\"R\" is no value of sc"_qs},
-        Refused{"SegmentBeyondTheLast", segments(), u"2"_qs, u"\"2\" is no value of sc"_qs},
-        Refused{"UnknownTab", tabs(), u"Sound"_qs, u"\"Sound\" is no value of tbv"_qs},
-        Refused{
-            "ShortColor", plain<ColorWell>(u"cw"_qs), u"FFF"_qs, u"\"FFF\" is no value of cw"_qs},
+        Refused{"BoxStateTwo", plain<CheckBox>(u"cb"_s), u"2"_s, u"\"2\" is no value of cb"_s},
+        Refused{"UnknownItem", popUp(), u"ten"_s, u"\"ten\" is no value of pub"_s},
+        Refused{"TitleThatLooksLikeAnIndex", popUp(), u"9"_s, u"\"9\" is no value of pub"_s},
+        Refused{"ItemIndexBeyondTheLast", popUp(), u"3"_s, u"\"3\" is no value of pub"_s},
+        Refused{"NoItem", popUp(), u"-1"_s, u"\"-1\" is no value of pub"_s},
+        Refused{"SegmentByTitle", segments(), u"R"_s, u"\"R\" is no value of sc"_s},
+        Refused{"SegmentBeyondTheLast", segments(), u"2"_s, u"\"2\" is no value of sc"_s},
+        Refused{"UnknownTab", tabs(), u"Sound"_s, u"\"Sound\" is no value of tbv"_s},
+        Refused{"ShortColor", plain<ColorWell>(u"cw"_s), u"FFF"_s, u"\"FFF\" is no value of cw"_s},
         Refused{
             "ColorOfOtherLetters",
-            plain<ColorWell>(u"cw"_qs),
-            u"00000G"_qs,
-            u"\"00000G\" is no value of cw"_qs},
+            plain<ColorWell>(u"cw"_s),
+            u"00000G"_s,
+            u"\"00000G\" is no value of cw"_s},
         Refused{
             "SliderText",
-            plain<Slider>(u"sl"_qs, 0.0, 10.0, 1.0),
-            u"half"_qs,
-            u"\"half\" is no value of sl"_qs},
-        Refused{"Bar", plain<ProgressIndicator>(u"bar"_qs), u"1"_qs, u"bar takes no value"_qs},
-        Refused{"ImageView", plain<ImageView>(u"iv"_qs), u"1"_qs, u"iv takes no value"_qs}
+            plain<Slider>(u"sl"_s, 0.0, 10.0, 1.0),
+            u"half"_s,
+            u"\"half\" is no value of sl"_s},
+        Refused{"Bar", plain<ProgressIndicator>(u"bar"_s), u"1"_s, u"bar takes no value"_s},
+        Refused{"ImageView", plain<ImageView>(u"iv"_s), u"1"_s, u"iv takes no value"_s}
     ),
     nameOfRow
 );
 
 TEST(ValueFields, TellTheStateOfControlsThatTakeNoValue)
 {
-    ArrayController rows(u"rows"_qs, {u"name"_qs});
-    rows.setObjects({{u"a"_qs}, {u"b"_qs}});
-    TableView table(u"table"_qs, rows);
+    ArrayController rows(u"rows"_s, {u"name"_s});
+    rows.setObjects({{u"a"_s}, {u"b"_s}});
+    TableView table(u"table"_s, rows);
     table.selectRow(1);
-    ImageView view(u"view"_qs);
-    Sheet sheet(u"sheet"_qs);
-    Holder holder(u"holder"_qs);
-    holder.addView(u"vwA"_qs);
+    ImageView view(u"view"_s);
+    Sheet sheet(u"sheet"_s);
+    Holder holder(u"holder"_s);
+    holder.addView(u"vwA"_s);
 
-    EXPECT_EQ(valueFields(table), QStringList{u"1"_qs});
+    EXPECT_EQ(valueFields(table), QStringList{u"1"_s});
     EXPECT_EQ(valueFields(view), QStringList{QString()});
-    EXPECT_EQ(valueFields(sheet), QStringList{u"closed"_qs});
-    EXPECT_EQ(valueFields(holder), QStringList{u"vwA"_qs});
+    EXPECT_EQ(valueFields(sheet), QStringList{u"closed"_s});
+    EXPECT_EQ(valueFields(holder), QStringList{u"vwA"_s});
 
     view.setImage(platform::graphics::Image::fromQImage(QImage(3, 2, QImage::Format_RGB32)));
     sheet.open();
 
-    EXPECT_EQ(valueFields(view), QStringList{u"image"_qs});
-    EXPECT_EQ(valueFields(sheet), QStringList{u"opened"_qs});
+    EXPECT_EQ(valueFields(view), QStringList{u"image"_s});
+    EXPECT_EQ(valueFields(sheet), QStringList{u"opened"_s});
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <script/event_printer.h>
 #include <script/scripted_desktop.h>
 #include <script/scripted_file_chooser.h>
@@ -16,7 +17,7 @@ TEST(EventPrinter, SeparatesFieldsByTabs)
 {
     std::ostringstream out;
 
-    EventPrinter(out).print(u"value"_qs, {u"tfSize"_qs, QString(), u"12 px"_qs});
+    EventPrinter(out).print(u"value"_s, {u"tfSize"_s, QString(), u"12 px"_s});
 
     EXPECT_EQ(out.str(), "value\ttfSize\t\t12 px\n");
 }
@@ -25,7 +26,7 @@ TEST(EventPrinter, EscapesWhatWouldBreakALine)
 {
     std::ostringstream out;
 
-    EventPrinter(out).print(u"alert"_qs, {u"a\tb"_qs, u"c\nd\re\\n"_qs});
+    EventPrinter(out).print(u"alert"_s, {u"a\tb"_s, u"c\nd\re\\n"_s});
 
     EXPECT_EQ(out.str(), "alert\ta\\tb\tc\\nd\\re\\\\n\n");
 }
@@ -34,7 +35,7 @@ TEST(EventPrinter, WritesUtf8)
 {
     std::ostringstream out;
 
-    EventPrinter(out).print(u"value"_qs, {u"\u00C4"_qs});
+    EventPrinter(out).print(u"value"_s, {u"\u00C4"_s});
 
     EXPECT_EQ(out.str(), "value\t\xC3\x84\n");
 }
@@ -44,13 +45,13 @@ TEST(ScriptedFileChooser, AnswersPanelsInTheOrderOfTheQueue)
     std::ostringstream out;
     const EventPrinter printer(out);
     ScriptedFileChooser chooser(printer);
-    chooser.queueAnswer({u"/a.jpg"_qs, u"/b.jpg"_qs});
+    chooser.queueAnswer({u"/a.jpg"_s, u"/b.jpg"_s});
     chooser.queueCancel();
-    chooser.queueAnswer({u"/c.txt"_qs});
+    chooser.queueAnswer({u"/c.txt"_s});
 
-    EXPECT_EQ(chooser.open({.message = u"Open"_qs}), QStringList({u"/a.jpg"_qs, u"/b.jpg"_qs}));
-    EXPECT_EQ(chooser.open({.message = u"Open"_qs}), std::nullopt);
-    EXPECT_EQ(chooser.save({.message = u"Save"_qs}), u"/c.txt"_qs);
+    EXPECT_EQ(chooser.open({.message = u"Open"_s}), QStringList({u"/a.jpg"_s, u"/b.jpg"_s}));
+    EXPECT_EQ(chooser.open({.message = u"Open"_s}), std::nullopt);
+    EXPECT_EQ(chooser.save({.message = u"Save"_s}), u"/c.txt"_s);
     EXPECT_EQ(
         out.str(),
         "panel\topen\tOpen\t/a.jpg /b.jpg\n"
@@ -65,7 +66,7 @@ TEST(ScriptedFileChooser, CancelsAPanelThatHasNoAnswer)
     const EventPrinter printer(out);
     ScriptedFileChooser chooser(printer);
 
-    EXPECT_EQ(chooser.save({.message = u"Save"_qs}), std::nullopt);
+    EXPECT_EQ(chooser.save({.message = u"Save"_s}), std::nullopt);
     EXPECT_EQ(out.str(), "panel\tsave\tSave\tcancel\n");
 }
 
@@ -75,8 +76,8 @@ TEST(ScriptedDesktop, PrintsAddressesAndFiles)
     const EventPrinter printer(out);
     ScriptedDesktop desktop(printer);
 
-    desktop.openUrl(QUrl(u"https://example.com/a b"_qs));
-    desktop.reveal(u"/photos/a b"_qs);
+    desktop.openUrl(QUrl(u"https://example.com/a b"_s));
+    desktop.reveal(u"/photos/a b"_s);
 
     EXPECT_EQ(out.str(), "opened\thttps://example.com/a%20b\nopened\tfile:///photos/a%20b\n");
 }

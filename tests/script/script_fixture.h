@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <platform/foundation/literals.h>
 #include <script/script_program.h>
 
 #include <support/temporary_folder.h>
@@ -25,8 +26,8 @@ protected:
 
     ScriptTest()
     {
-        qputenv("XDG_DATA_HOME", m_folder.path(QStringLiteral("data")).toUtf8());
-        qputenv("XDG_CONFIG_HOME", m_folder.path(QStringLiteral("config")).toUtf8());
+        qputenv("XDG_DATA_HOME", m_folder.path(u"data"_s).toUtf8());
+        qputenv("XDG_CONFIG_HOME", m_folder.path(u"config"_s).toUtf8());
     }
 
     /// The folder of this test's photos and outputs; ends in "/".

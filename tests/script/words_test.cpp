@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::script::wordsOfLine;
 
 namespace {
@@ -49,24 +50,24 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Line{"Empty", "", {}},
         Line{"BlanksOnly", " \t ", {}},
-        Line{"OneWord", "photos", {u"photos"_qs}},
-        Line{"BlanksAndTabs", "  set \t tfSize   12 ", {u"set"_qs, u"tfSize"_qs, u"12"_qs}},
-        Line{"CarriageReturnAtTheEnd", "photos\r", {u"photos"_qs}},
-        Line{"QuotedBlanks", "set tf \"a  b\"", {u"set"_qs, u"tf"_qs, u"a  b"_qs}},
-        Line{"EmptyQuotes", "set tf \"\"", {u"set"_qs, u"tf"_qs, QString()}},
-        Line{"AllEscapes", R"("\"\\\n\r\t")", {u"\"\\\n\r\t"_qs}},
+        Line{"OneWord", "photos", {u"photos"_s}},
+        Line{"BlanksAndTabs", "  set \t tfSize   12 ", {u"set"_s, u"tfSize"_s, u"12"_s}},
+        Line{"CarriageReturnAtTheEnd", "photos\r", {u"photos"_s}},
+        Line{"QuotedBlanks", "set tf \"a  b\"", {u"set"_s, u"tf"_s, u"a  b"_s}},
+        Line{"EmptyQuotes", "set tf \"\"", {u"set"_s, u"tf"_s, QString()}},
+        Line{"AllEscapes", R"("\"\\\n\r\t")", {u"\"\\\n\r\t"_s}},
         Line{"CommentLine", "# set tf 1", {}},
-        Line{"CommentAfterWords", "select 1 # the second", {u"select"_qs, u"1"_qs}},
-        Line{"CommentAfterQuotes", "open \"a\" #b", {u"open"_qs, u"a"_qs}},
-        Line{"NumberSignInsideAWord", "open a#1.jpg", {u"open"_qs, u"a#1.jpg"_qs}},
+        Line{"CommentAfterWords", "select 1 # the second", {u"select"_s, u"1"_s}},
+        Line{"CommentAfterQuotes", "open \"a\" #b", {u"open"_s, u"a"_s}},
+        Line{"NumberSignInsideAWord", "open a#1.jpg", {u"open"_s, u"a#1.jpg"_s}},
         Line{
             "NumberSignInQuotes",
             "set tf \"# no comment\"",
-            {u"set"_qs, u"tf"_qs, u"# no comment"_qs}},
-        Line{"QuoteInsideABareWord", "set tf 24\"", {u"set"_qs, u"tf"_qs, u"24\""_qs}},
-        Line{"BackslashInABareWord", "set tf a\\nb", {u"set"_qs, u"tf"_qs, u"a\\nb"_qs}},
-        Line{"Umlauts", "set tf \xC3\x84pfel", {u"set"_qs, u"tf"_qs, u"\u00C4pfel"_qs}},
-        Line{"ByteOrderMark", "\xEF\xBB\xBFphotos", {u"photos"_qs}}
+            {u"set"_s, u"tf"_s, u"# no comment"_s}},
+        Line{"QuoteInsideABareWord", "set tf 24\"", {u"set"_s, u"tf"_s, u"24\""_s}},
+        Line{"BackslashInABareWord", "set tf a\\nb", {u"set"_s, u"tf"_s, u"a\\nb"_s}},
+        Line{"Umlauts", "set tf \xC3\x84pfel", {u"set"_s, u"tf"_s, u"\u00C4pfel"_s}},
+        Line{"ByteOrderMark", "\xEF\xBB\xBFphotos", {u"photos"_s}}
     ),
     nameOfRow
 );
@@ -87,14 +88,14 @@ INSTANTIATE_TEST_SUITE_P(
     Table,
     FaultOfLine,
     testing::Values(
-        FaultyLine{"OpenQuote", "set tf \"a", u"a quote is not closed"_qs},
-        FaultyLine{"QuoteClosedByAnEscape", R"(set tf "a\")", u"a quote is not closed"_qs},
-        FaultyLine{"BackslashAtTheEnd", "\"a\\", u"a quote is not closed"_qs},
-        FaultyLine{"UnknownEscape", R"("\x")", u"unknown escape \\x"_qs},
-        FaultyLine{"WordsGluedToQuotes", "\"a\"b", u"a blank is missing after a quoted word"_qs},
-        FaultyLine{"InvalidUtf8", "set tf \xFF", u"the line is not UTF-8"_qs},
-        FaultyLine{"UnfinishedUtf8", "set tf Andr\xE9", u"the line is not UTF-8"_qs},
-        FaultyLine{"UnfinishedLongUtf8", "set tf a\xF0\x9F\x98", u"the line is not UTF-8"_qs}
+        FaultyLine{"OpenQuote", "set tf \"a", u"a quote is not closed"_s},
+        FaultyLine{"QuoteClosedByAnEscape", R"(set tf "a\")", u"a quote is not closed"_s},
+        FaultyLine{"BackslashAtTheEnd", "\"a\\", u"a quote is not closed"_s},
+        FaultyLine{"UnknownEscape", R"("\x")", u"unknown escape \\x"_s},
+        FaultyLine{"WordsGluedToQuotes", "\"a\"b", u"a blank is missing after a quoted word"_s},
+        FaultyLine{"InvalidUtf8", "set tf \xFF", u"the line is not UTF-8"_s},
+        FaultyLine{"UnfinishedUtf8", "set tf Andr\xE9", u"the line is not UTF-8"_s},
+        FaultyLine{"UnfinishedLongUtf8", "set tf a\xF0\x9F\x98", u"the line is not UTF-8"_s}
     ),
     nameOfRow
 );

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "golden_image.h"
 
+#include <platform/foundation/literals.h>
+
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -48,11 +50,9 @@ testing::AssertionResult looksLike(const QImage& actual, const QString& name)
 {
     constexpr int largestDelta = 3;
     constexpr qint64 samplesPerVisibleOne = 5000;
-    const QString fileName = QString(name).replace(u'/', u'-') + QStringLiteral(".png");
-    const QString actualFile = QStringLiteral("golden-actual-") + fileName;
-    const QImage golden(
-        QStringLiteral(BRENVALDO_GOLDEN_FOLDER "/") + name + QStringLiteral(".png")
-    );
+    const QString fileName = QString(name).replace(u'/', u'-') + u".png"_s;
+    const QString actualFile = u"golden-actual-"_s + fileName;
+    const QImage golden(QString::fromUtf8(BRENVALDO_GOLDEN_FOLDER "/") + name + u".png"_s);
     if (golden.size() != actual.size()) {
         actual.save(actualFile);
         return testing::AssertionFailure()
@@ -63,7 +63,7 @@ testing::AssertionResult looksLike(const QImage& actual, const QString& name)
         && difference.visible * samplesPerVisibleOne <= difference.samples)
         return testing::AssertionSuccess();
     actual.save(actualFile);
-    difference.picture.save(QStringLiteral("golden-difference-") + fileName);
+    difference.picture.save(u"golden-difference-"_s + fileName);
     return testing::AssertionFailure()
         << difference.visible << " of " << difference.samples << " samples differ, by up to "
         << difference.largest << ", see " << qPrintable(actualFile);

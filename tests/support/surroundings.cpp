@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "surroundings.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QByteArrayList>
 #include <QDir>
 
@@ -42,11 +44,11 @@ Surroundings::Surroundings()
     qputenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3");
     const QByteArray fonts = qgetenv("BRENVALDO_TEST_FONTS");
     qputenv("FONTCONFIG_FILE", fonts.isEmpty() ? BRENVALDO_PACKAGED_FONTS : fonts);
-    makeFolder("HOME", QStringLiteral("home"));
-    makeFolder("XDG_CACHE_HOME", QStringLiteral("cache"));
-    makeFolder("XDG_CONFIG_HOME", QStringLiteral("configuration"));
-    makeFolder("XDG_DATA_HOME", QStringLiteral("data"));
-    makeFolder("XDG_RUNTIME_DIR", QStringLiteral("runtime"));
+    makeFolder("HOME", u"home"_s);
+    makeFolder("XDG_CACHE_HOME", u"cache"_s);
+    makeFolder("XDG_CONFIG_HOME", u"configuration"_s);
+    makeFolder("XDG_DATA_HOME", u"data"_s);
+    makeFolder("XDG_RUNTIME_DIR", u"runtime"_s);
 }
 
 void Surroundings::makeFolder(const char* variable, const QString& name) const

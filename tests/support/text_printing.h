@@ -14,5 +14,5 @@ inline void PrintTo(const QString& text, std::ostream* out)
 
 inline void PrintTo(const QStringList& texts, std::ostream* out)
 {
-    PrintTo(texts.join(QStringLiteral("\", \"")), out);
+    PrintTo(texts.join(u"\", \""), out);
 }

@@ -2,6 +2,7 @@
 #include "sent_actions.h"
 
 #include <controls/text_controls.h>
+#include <platform/foundation/literals.h>
 #include <support/text_printing.h>
 #include <views/binder.h>
 #include <views/colour_well.h>
@@ -52,26 +53,26 @@ using Binder = Binding;
 
 TEST_F(Binder, SendsTheActionOfAFieldWhenTheUserHasTypedAndLeaves)
 {
-    controls::TextField control(u"tfWidth"_qs, u"1"_qs);
+    controls::TextField control(u"tfWidth"_s, u"1"_s);
     control.setTag(75);
     sent.watch(control);
-    auto* field = new views::UnitField(u"px"_qs, &window);
+    auto* field = new views::UnitField(u"px"_s, &window);
     binder.bind(*field, control);
     show(field);
 
     QTest::keyClick(field, Qt::Key_End);
-    QTest::keyClicks(field, u"20"_qs);
-    EXPECT_EQ(control.stringValue(), u"120"_qs);
+    QTest::keyClicks(field, u"20"_s);
+    EXPECT_EQ(control.stringValue(), u"120"_s);
     EXPECT_TRUE(sent.names.isEmpty());
     other->setFocus();
 
-    EXPECT_EQ(sent.names, QStringList{u"tfWidth"_qs});
+    EXPECT_EQ(sent.names, QStringList{u"tfWidth"_s});
     EXPECT_EQ(sent.tags, QList<int>{75});
 }
 
 TEST_F(Binder, ShowsTheBeginningOfALongText)
 {
-    controls::TextField control(u"tfFolder"_qs);
+    controls::TextField control(u"tfFolder"_s);
     auto* field = new views::UnitField({}, &window);
     binder.bind(*field, control);
     show(other);
@@ -83,7 +84,7 @@ TEST_F(Binder, ShowsTheBeginningOfALongText)
 
 TEST_F(Binder, SendsNothingWhenAFieldIsLeftUntouched)
 {
-    controls::TextField control(u"tfWidth"_qs, u"1"_qs);
+    controls::TextField control(u"tfWidth"_s, u"1"_s);
     sent.watch(control);
     auto* field = new views::UnitField({}, &window);
     binder.bind(*field, control);
@@ -96,20 +97,20 @@ TEST_F(Binder, SendsNothingWhenAFieldIsLeftUntouched)
 
 TEST_F(Binder, ShowsWhatCodeGivesAControlAndSendsNothing)
 {
-    controls::TextField control(u"tfWidth"_qs);
+    controls::TextField control(u"tfWidth"_s);
     sent.watch(control);
     auto* field = new views::UnitField({}, &window);
     binder.bind(*field, control);
     show(field);
 
-    control.setStringValue(u"480"_qs);
+    control.setStringValue(u"480"_s);
     control.setEnabled(false);
-    control.setToolTip(u"why"_qs);
+    control.setToolTip(u"why"_s);
 
-    EXPECT_EQ(field->text(), u"480"_qs);
+    EXPECT_EQ(field->text(), u"480"_s);
     EXPECT_FALSE(field->isEnabled());
-    EXPECT_EQ(field->toolTip(), u"why"_qs);
-    EXPECT_EQ(field->objectName(), u"tfWidth"_qs);
+    EXPECT_EQ(field->toolTip(), u"why"_s);
+    EXPECT_EQ(field->objectName(), u"tfWidth"_s);
     EXPECT_TRUE(sent.names.isEmpty());
     control.setHidden(true);
     EXPECT_FALSE(field->isVisible());
@@ -117,45 +118,45 @@ TEST_F(Binder, ShowsWhatCodeGivesAControlAndSendsNothing)
 
 TEST_F(Binder, SendsTheTypingActionAtEachKey)
 {
-    controls::TextView control(u"tvText"_qs);
-    control.addTypingAction(u"test.typed"_qs);
+    controls::TextView control(u"tvText"_s);
+    control.addTypingAction(u"test.typed"_s);
     QStringList typed;
-    sent.registry.add(u"test"_qs, u"typed"_qs, [&](const controls::Sender&) {
+    sent.registry.add(u"test"_s, u"typed"_s, [&](const controls::Sender&) {
         typed.append(control.stringValue());
     });
     auto* text = new views::TextArea(&window);
     binder.bind(*text, control);
     show(text);
 
-    QTest::keyClicks(text, u"ab"_qs);
+    QTest::keyClicks(text, u"ab"_s);
     QTest::keyClick(text, Qt::Key_Left);
     QTest::keyClick(text, Qt::Key_Return);
     QTest::keyClick(text, Qt::Key_Backspace);
     other->setFocus();
-    control.setStringValue(u"by code"_qs);
+    control.setStringValue(u"by code"_s);
 
-    EXPECT_EQ(typed, (QStringList{u"a"_qs, u"ab"_qs, u"a\nb"_qs, u"ab"_qs}));
+    EXPECT_EQ(typed, (QStringList{u"a"_s, u"ab"_s, u"a\nb"_s, u"ab"_s}));
 }
 
 TEST_F(Binder, SendsTheActionOfATextViewWhenItIsLeftAfterAnEdit)
 {
-    controls::TextView control(u"tvText"_qs);
+    controls::TextView control(u"tvText"_s);
     sent.watch(control);
     auto* text = new views::TextArea(&window);
     binder.bind(*text, control);
     show(text);
 
-    QTest::keyClicks(text, u"hello"_qs);
+    QTest::keyClicks(text, u"hello"_s);
     QTest::keyClick(text, Qt::Key_Tab);
 
-    EXPECT_EQ(control.stringValue(), u"hello"_qs);
-    EXPECT_EQ(sent.names, QStringList{u"tvText"_qs});
+    EXPECT_EQ(control.stringValue(), u"hello"_s);
+    EXPECT_EQ(sent.names, QStringList{u"tvText"_s});
     EXPECT_TRUE(other->hasFocus());
 }
 
 TEST_F(Binder, TicksABoxByMouseAndKey)
 {
-    controls::CheckBox control(u"cbOn"_qs, u"On"_qs);
+    controls::CheckBox control(u"cbOn"_s, u"On"_s);
     sent.watch(control);
     auto* box = new QCheckBox(control.title(), &window);
     binder.bind(*box, control);
@@ -171,7 +172,7 @@ TEST_F(Binder, TicksABoxByMouseAndKey)
 
 TEST_F(Binder, PicksFromAPopUpByKeyAndFollowsNewTitles)
 {
-    controls::PopUpButton control(u"pubKind"_qs, {u"a"_qs, u"b"_qs, u"c"_qs});
+    controls::PopUpButton control(u"pubKind"_s, {u"a"_s, u"b"_s, u"c"_s});
     sent.watch(control);
     auto* popUp = new views::PopUp({}, &window);
     binder.bind(*popUp, control);
@@ -179,16 +180,16 @@ TEST_F(Binder, PicksFromAPopUpByKeyAndFollowsNewTitles)
 
     QTest::keyClick(popUp, Qt::Key_Down);
     EXPECT_EQ(control.selectedIndex(), 1);
-    EXPECT_EQ(sent.names, QStringList{u"pubKind"_qs});
-    control.setTitles({u"x"_qs, u"y"_qs});
+    EXPECT_EQ(sent.names, QStringList{u"pubKind"_s});
+    control.setTitles({u"x"_s, u"y"_s});
 
     EXPECT_EQ(popUp->count(), 2);
-    EXPECT_EQ(popUp->currentText(), u"x"_qs);
+    EXPECT_EQ(popUp->currentText(), u"x"_s);
 }
 
 TEST_F(Binder, PicksASegmentEvenTheOneThatIsChosen)
 {
-    controls::SegmentedControl control(u"scPlace"_qs, {u"l"_qs, u"m"_qs, u"r"_qs}, 1);
+    controls::SegmentedControl control(u"scPlace"_s, {u"l"_s, u"m"_s, u"r"_s}, 1);
     sent.watch(control);
     auto* segments = new views::Segments(views::Segments::Look::Row, &window);
     binder.bind(*segments, control);
@@ -203,7 +204,7 @@ TEST_F(Binder, PicksASegmentEvenTheOneThatIsChosen)
 
 TEST_F(Binder, PicksARadioRow)
 {
-    controls::Matrix control(u"mxSize"_qs, {u"a"_qs, u"b"_qs});
+    controls::Matrix control(u"mxSize"_s, {u"a"_s, u"b"_s});
     sent.watch(control);
     auto* column = new views::RadioColumn(&window);
     binder.bind(*column, control);
@@ -213,14 +214,14 @@ TEST_F(Binder, PicksARadioRow)
     QTest::mouseClick(second, Qt::LeftButton, {}, QPoint(8, second->height() / 2));
 
     EXPECT_EQ(control.selectedRow(), 1);
-    EXPECT_EQ(sent.names, QStringList{u"mxSize"_qs});
+    EXPECT_EQ(sent.names, QStringList{u"mxSize"_s});
 }
 
 TEST_F(Binder, PicksATabAndFollowsOneThatCodePicks)
 {
     controls::TabView control(
-        u"tbv"_qs,
-        {{.identifier = u"1"_qs, .label = u"One"_qs}, {.identifier = u"2"_qs, .label = u"Two"_qs}}
+        u"tbv"_s,
+        {{.identifier = u"1"_s, .label = u"One"_s}, {.identifier = u"2"_s, .label = u"Two"_s}}
     );
     sent.watch(control);
     auto* bar = new QTabBar(&window);
@@ -228,16 +229,16 @@ TEST_F(Binder, PicksATabAndFollowsOneThatCodePicks)
     show(bar);
 
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
-    EXPECT_EQ(control.selectedIdentifier(), u"2"_qs);
+    EXPECT_EQ(control.selectedIdentifier(), u"2"_s);
     control.selectIndex(0);
 
     EXPECT_EQ(bar->currentIndex(), 0);
-    EXPECT_EQ(sent.names, QStringList{u"tbv"_qs});
+    EXPECT_EQ(sent.names, QStringList{u"tbv"_s});
 }
 
 TEST_F(Binder, TakesTheColourThatTheUserChooses)
 {
-    controls::ColorWell control(u"cw"_qs);
+    controls::ColorWell control(u"cw"_s);
     sent.watch(control);
     auto* well = new views::ColourWell(&window);
     binder.bind(*well, control);
@@ -247,12 +248,12 @@ TEST_F(Binder, TakesTheColourThatTheUserChooses)
 
     EXPECT_NEAR(control.color().green, 128 / 255.0, 1e-9);
     EXPECT_EQ(well->colour(), QColor(0xff8000));
-    EXPECT_EQ(sent.names, QStringList{u"cw"_qs});
+    EXPECT_EQ(sent.names, QStringList{u"cw"_s});
 }
 
 TEST_F(Binder, DragsASliderByKey)
 {
-    controls::Slider control(u"sr"_qs, 0, 10, 5);
+    controls::Slider control(u"sr"_s, 0, 10, 5);
     sent.watch(control);
     auto* slider = new QSlider(Qt::Horizontal, &window);
     binder.bind(*slider, control);
@@ -261,15 +262,15 @@ TEST_F(Binder, DragsASliderByKey)
     QTest::keyClick(slider, Qt::Key_Right);
 
     EXPECT_GT(control.doubleValue(), 5);
-    EXPECT_EQ(sent.names, QStringList{u"sr"_qs});
+    EXPECT_EQ(sent.names, QStringList{u"sr"_s});
 }
 
 TEST_F(Binder, SelectsATableRowAndFollowsItsRows)
 {
-    controls::ArrayController rows(u"rows"_qs, {u"name"_qs});
-    controls::TableView control(u"table"_qs, rows);
+    controls::ArrayController rows(u"rows"_s, {u"name"_s});
+    controls::TableView control(u"table"_s, rows);
     sent.watch(control);
-    rows.setObjects({{u"first"_qs}, {u"second\t   \thidden"_qs}});
+    rows.setObjects({{u"first"_s}, {u"second\t   \thidden"_s}});
     auto* table = new views::RowsTable({}, &window);
     binder.bind(*table, control);
     show(table);
@@ -281,31 +282,31 @@ TEST_F(Binder, SelectsATableRowAndFollowsItsRows)
         table->visualRect(table->model()->index(1, 0)).center()
     );
     EXPECT_EQ(control.selectedRow(), 1);
-    EXPECT_EQ(table->model()->index(1, 0).data().toString(), u"second"_qs);
-    rows.addObject({u"third"_qs});
+    EXPECT_EQ(table->model()->index(1, 0).data().toString(), u"second"_s);
+    rows.addObject({u"third"_s});
 
     EXPECT_EQ(table->model()->rowCount(), 3);
     EXPECT_EQ(table->selectedRow(), 1);
-    EXPECT_EQ(sent.names, QStringList{u"table"_qs});
+    EXPECT_EQ(sent.names, QStringList{u"table"_s});
 }
 
 TEST_F(Binder, ShowsRowsWithADepthAsATree)
 {
-    controls::ArrayController rows(u"mTree"_qs, {u"depth"_qs, u"key"_qs, u"val"_qs});
-    controls::TableView control(u"tree"_qs, rows);
+    controls::ArrayController rows(u"mTree"_s, {u"depth"_s, u"key"_s, u"val"_s});
+    controls::TableView control(u"tree"_s, rows);
     auto* table = new views::RowsTable({}, &window);
     binder.bind(*table, control);
 
-    rows.setObjects({{u"0"_qs, u"{Exif}"_qs, {}}, {u"1"_qs, u"ISO"_qs, u"100"_qs}});
+    rows.setObjects({{u"0"_s, u"{Exif}"_s, {}}, {u"1"_s, u"ISO"_s, u"100"_s}});
 
     const QModelIndex parent = table->model()->index(0, 0);
     EXPECT_EQ(table->model()->rowCount(), 1);
-    EXPECT_EQ(table->model()->index(0, 1, parent).data().toString(), u"100"_qs);
+    EXPECT_EQ(table->model()->index(0, 1, parent).data().toString(), u"100"_s);
 }
 
 TEST_F(Binder, PressesAButton)
 {
-    controls::Button control(u"btn"_qs, u"Go"_qs, u"none.none"_qs);
+    controls::Button control(u"btn"_s, u"Go"_s, u"none.none"_s);
     sent.watch(control);
     auto* button = new QPushButton(control.title(), &window);
     binder.bind(*button, control);
@@ -313,5 +314,5 @@ TEST_F(Binder, PressesAButton)
 
     QTest::mouseClick(button, Qt::LeftButton);
 
-    EXPECT_EQ(sent.names, QStringList{u"btn"_qs});
+    EXPECT_EQ(sent.names, QStringList{u"btn"_s});
 }

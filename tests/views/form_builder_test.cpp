@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sent_actions.h"
 
+#include <platform/foundation/literals.h>
 #include <support/text_printing.h>
 #include <views/form_builder.h>
 #include <views/form_rows.h>
@@ -93,7 +94,7 @@ TEST_F(FormBuilder, NamesEveryFieldForThoseWhoCanNotSeeIt)
 TEST_F(FormBuilder, KeepsEveryPanelInsideTheInspector)
 {
     for (const auto* view : panels.views()) {
-        const bool isSheet = view->name().startsWith(u"ww"_qs);
+        const bool isSheet = view->name().startsWith(u"ww"_s);
         const QWidget* form = build(*view);
         if (isSheet)
             continue;
@@ -171,13 +172,13 @@ TEST_F(FormBuilder, FillsAHolderAnewWhenItsViewsChange)
 {
     auto& holder = panels.vwResizePhotos.dvVCUiResizeMainView;
     const QWidget* form = build(panels.vwResizePhotos);
-    EXPECT_TRUE(form->findChild<QWidget*>(u"tfScaleMaxVal"_qs));
+    EXPECT_TRUE(form->findChild<QWidget*>(u"tfScaleMaxVal"_s));
 
-    holder.replaceViews(u"dvVCUiScaleFixView"_qs);
+    holder.replaceViews(u"dvVCUiScaleFixView"_s);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
-    EXPECT_FALSE(form->findChild<QWidget*>(u"tfScaleMaxVal"_qs));
-    EXPECT_TRUE(form->findChild<QWidget*>(u"tfScaleFixWidth"_qs)->isVisible());
+    EXPECT_FALSE(form->findChild<QWidget*>(u"tfScaleMaxVal"_s));
+    EXPECT_TRUE(form->findChild<QWidget*>(u"tfScaleFixWidth"_s)->isVisible());
 }
 
 TEST_F(FormBuilder, PutsABareControlIntoAHolderThatNamesOne)
@@ -186,7 +187,7 @@ TEST_F(FormBuilder, PutsABareControlIntoAHolderThatNamesOne)
     auto* place
         = new views::HolderView(holder, builder, views::FormBuilder::Density::Compact, &window);
 
-    holder.replaceViews(u"pubEditPhoto"_qs);
+    holder.replaceViews(u"pubEditPhoto"_s);
 
-    EXPECT_TRUE(place->findChild<QWidget*>(u"pubEditPhoto"_qs));
+    EXPECT_TRUE(place->findChild<QWidget*>(u"pubEditPhoto"_s));
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <platform/foundation/user_defaults.h>
 #include <support/environment.h>
 #include <support/photo_builder.h>
@@ -82,7 +83,7 @@ protected:
     {
         QList<const QWidget*> stops;
         for (const QWidget* widget : window->findChildren<QWidget*>()) {
-            const bool isPart = widget->objectName().startsWith(u"qt_"_qs);
+            const bool isPart = widget->objectName().startsWith(u"qt_"_s);
             const auto policy = widget->focusPolicy();
             if (widget->window() == window.get() && widget->isVisible() && widget->isEnabled()
                 && !isPart && (policy & Qt::TabFocus) && !widget->focusProxy())
@@ -105,16 +106,16 @@ protected:
     {
         QStringList paths;
         for (int index = 0; index < count; ++index) {
-            const QString name = QStringLiteral("photo-%1.jpg").arg(index);
+            const QString name = u"photo-%1.jpg"_s.arg(index);
             paths.append(test::PhotoBuilder{}.size(60, 40).write(folder.path(name)));
         }
         return paths;
     }
 
     test::TemporaryFolder folder;
-    test::Environment data{"XDG_DATA_HOME", folder.path(u"data"_qs).toUtf8()};
-    test::Environment configuration{"XDG_CONFIG_HOME", folder.path(u"config"_qs).toUtf8()};
-    platform::UserDefaults defaults{folder.path(u"defaults.conf"_qs)};
+    test::Environment data{"XDG_DATA_HOME", folder.path(u"data"_s).toUtf8()};
+    test::Environment configuration{"XDG_CONFIG_HOME", folder.path(u"config"_s).toUtf8()};
+    platform::UserDefaults defaults{folder.path(u"defaults.conf"_s)};
     views::QtFileChooser chooser;
     views::QtDesktop desktop;
     workspace::Workspace workspace{{.chooser = chooser, .desktop = desktop, .defaults = defaults}};
@@ -138,79 +139,77 @@ bool isCut(const QWidget& widget)
 TEST_F(MainWindow, StartsWithTheTextWatermarkAndAllHoldersFilled)
 {
     for (const QString& name :
-         {u"pubEditPhoto"_qs,
-          u"vwWatermark"_qs,
-          u"vwShowPreview"_qs,
-          u"vwApplyOn"_qs,
-          u"vwFileType"_qs,
-          u"vwMainDestination"_qs,
-          u"btnPresets"_qs})
+         {u"pubEditPhoto"_s,
+          u"vwWatermark"_s,
+          u"vwShowPreview"_s,
+          u"vwApplyOn"_s,
+          u"vwFileType"_s,
+          u"vwMainDestination"_s,
+          u"btnPresets"_s})
         EXPECT_TRUE(find(name)->isVisible()) << name.toStdString();
-    EXPECT_TRUE(find<QAbstractButton>(u"btnEditPhoto"_qs)->isChecked());
+    EXPECT_TRUE(find<QAbstractButton>(u"btnEditPhoto"_s)->isChecked());
 }
 
 TEST_F(MainWindow, FillsTheHoldersWhenAFunctionIsPickedByKey)
 {
-    auto* popUp = find(u"pubEditPhoto"_qs);
+    auto* popUp = find(u"pubEditPhoto"_s);
     popUp->setFocus();
 
     QTest::keyClick(popUp, Qt::Key_Down);
     settle();
 
-    EXPECT_TRUE(find(u"vwAddTint"_qs)->isVisible());
-    EXPECT_FALSE(window->findChild<QWidget*>(u"vwWatermark"_qs));
+    EXPECT_TRUE(find(u"vwAddTint"_s)->isVisible());
+    EXPECT_FALSE(window->findChild<QWidget*>(u"vwWatermark"_s));
 }
 
 TEST_F(MainWindow, ChangesTheSectionByItsButton)
 {
-    QTest::mouseClick(find(u"btnFileManagement"_qs), Qt::LeftButton);
+    QTest::mouseClick(find(u"btnFileManagement"_s), Qt::LeftButton);
     settle();
 
-    EXPECT_TRUE(find<QAbstractButton>(u"btnFileManagement"_qs)->isChecked());
-    EXPECT_FALSE(find<QAbstractButton>(u"btnEditPhoto"_qs)->isChecked());
-    EXPECT_TRUE(find(u"pubFileManagementSelect"_qs)->isVisible());
+    EXPECT_TRUE(find<QAbstractButton>(u"btnFileManagement"_s)->isChecked());
+    EXPECT_FALSE(find<QAbstractButton>(u"btnEditPhoto"_s)->isChecked());
+    EXPECT_TRUE(find(u"pubFileManagementSelect"_s)->isVisible());
 }
 
 TEST_F(MainWindow, ShowsAnAlertThatClosesByItsButton)
 {
-    QTest::mouseClick(find(u"btnProcess"_qs), Qt::LeftButton);
-    auto* sheet = find(u"wwAlertWindow"_qs);
+    QTest::mouseClick(find(u"btnProcess"_s), Qt::LeftButton);
+    auto* sheet = find(u"wwAlertWindow"_s);
     ASSERT_TRUE(sheet->isVisible());
-    EXPECT_EQ(
-        sheet->findChild<QLabel*>(u"tfHTMLAlertTitle"_qs)->text(), u"Missing destination."_qs
-    );
+    EXPECT_EQ(sheet->findChild<QLabel*>(u"tfHTMLAlertTitle"_s)->text(), u"Missing destination."_s);
 
-    QTest::mouseClick(sheet->findChild<QPushButton*>(u"closeAlert"_qs), Qt::LeftButton);
+    QTest::mouseClick(sheet->findChild<QPushButton*>(u"closeAlert"_s), Qt::LeftButton);
 
     EXPECT_FALSE(sheet->isVisible());
 }
 
 TEST_F(MainWindow, RunsByTheProcessButton)
 {
-    QDir().mkpath(folder.path(u"out"_qs));
+    QDir().mkpath(folder.path(u"out"_s));
     workspace.openFiles(makePhotos(2));
     auto& panels = workspace.panels();
-    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(folder.path(u"out/"_qs));
+    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(folder.path(u"out/"_s));
     panels.window.pubEditPhoto.selectItemAtIndex(8);
-    workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_qs);
+    workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_s);
     settle();
-    auto* field = find<QLineEdit>(u"tfScaleMaxVal"_qs);
+    auto* field = find<QLineEdit>(u"tfScaleMaxVal"_s);
     field->setFocus();
-    QTest::keyClicks(field, u"30"_qs);
+    QTest::keyClicks(field, u"30"_s);
 
-    auto* button = find<QPushButton>(u"btnProcess"_qs);
-    EXPECT_EQ(button->text(), u"Process 2 photos"_qs);
+    auto* button = find<QPushButton>(u"btnProcess"_s);
+    EXPECT_EQ(button->text(), u"Process 2 photos"_s);
     QTest::mouseClick(button, Qt::LeftButton);
 
-    const QStringList made = QDir(folder.path(u"out"_qs)).entryList(QDir::Files);
-    EXPECT_EQ(made, (QStringList{u"photo-0.jpg"_qs, u"photo-1.jpg"_qs}));
+    const QStringList made = QDir(folder.path(u"out"_s)).entryList(QDir::Files);
+    EXPECT_EQ(made, (QStringList{u"photo-0.jpg"_s, u"photo-1.jpg"_s}));
     EXPECT_EQ(workspace.journal().records().size(), 2);
 }
 
 TEST_F(MainWindow, UntickingOnePhotoTurnsTheMasterTickOffOnly)
 {
     workspace.openFiles(makePhotos(3));
-    auto* grid = find<views::PhotoGrid>(u"myPhotoCollectionView"_qs);
+    auto* grid = find<views::PhotoGrid>(u"myPhotoCollectionView"_s);
     grid->setFocus();
     workspace.photos().select(1);
 
@@ -220,17 +219,17 @@ TEST_F(MainWindow, UntickingOnePhotoTurnsTheMasterTickOffOnly)
     EXPECT_EQ(entries.at(0).myPhotoSelect, 1);
     EXPECT_EQ(entries.at(1).myPhotoSelect, 0);
     EXPECT_EQ(entries.at(2).myPhotoSelect, 1);
-    EXPECT_FALSE(find<QCheckBox>(u"cbPhotoToProcess"_qs)->isChecked());
-    EXPECT_EQ(find<QPushButton>(u"btnProcess"_qs)->text(), u"Process 2 photos"_qs);
+    EXPECT_FALSE(find<QCheckBox>(u"cbPhotoToProcess"_s)->isChecked());
+    EXPECT_EQ(find<QPushButton>(u"btnProcess"_s)->text(), u"Process 2 photos"_s);
 }
 
 TEST_F(MainWindow, MovesADraggedPhotoThroughTheListsOwnRule)
 {
     workspace.openFiles(makePhotos(3));
 
-    Q_EMIT find<views::PhotoGrid>(u"myPhotoCollectionView"_qs)->moveWanted({0}, 1);
+    Q_EMIT find<views::PhotoGrid>(u"myPhotoCollectionView"_s)->moveWanted({0}, 1);
 
-    EXPECT_EQ(workspace.photos().entries().at(1).myPhotoName, u"photo-0.jpg"_qs);
+    EXPECT_EQ(workspace.photos().entries().at(1).myPhotoName, u"photo-0.jpg"_s);
 }
 
 TEST_F(MainWindow, AddsNothingForADropOnItsBody)
@@ -264,15 +263,15 @@ TEST_F(MainWindow, GivesThePreviewMostOfTheHeightAndTheGridTwoRowsWhereThereIsRo
 {
     window->resize(1600, 1000);
     settle();
-    const auto* grid = find<views::PhotoGrid>(u"myPhotoCollectionView"_qs);
-    const int preview = find(u"myTemplatePreview"_qs)->height();
+    const auto* grid = find<views::PhotoGrid>(u"myPhotoCollectionView"_s);
+    const int preview = find(u"myTemplatePreview"_s)->height();
     EXPECT_GE(grid->height(), 2 * grid->gridSize().height() - 10);
     EXPECT_GT(preview, 1.5 * grid->height());
 
     window->resize(1280, 720);
     settle();
     EXPECT_GE(grid->height(), grid->gridSize().height());
-    EXPECT_GT(find(u"myTemplatePreview"_qs)->height(), 1.5 * grid->height());
+    EXPECT_GT(find(u"myTemplatePreview"_s)->height(), 1.5 * grid->height());
 }
 
 TEST_F(MainWindow, FillsTheScreenByKeyAndGoesBackByEscape)
@@ -295,7 +294,7 @@ TEST_F(MainWindow, FillsTheScreenByKeyAndGoesBackByEscape)
     QTest::keyClick(window.get(), Qt::Key_F11);
     QTest::keyClick(window.get(), Qt::Key_Escape);
     EXPECT_FALSE(window->isFullScreen());
-    EXPECT_FALSE(orderNamed(u"fullScreen"_qs)->isChecked());
+    EXPECT_FALSE(orderNamed(u"fullScreen"_s)->isChecked());
 }
 
 TEST_F(MainWindow, FollowsAWindowManagerThatEndsFullScreen)
@@ -303,7 +302,7 @@ TEST_F(MainWindow, FollowsAWindowManagerThatEndsFullScreen)
     const QRect before = window->geometry();
     window->showFullScreen();
     settle();
-    EXPECT_TRUE(orderNamed(u"fullScreen"_qs)->isChecked());
+    EXPECT_TRUE(orderNamed(u"fullScreen"_s)->isChecked());
     EXPECT_FALSE(window->menuBar()->isVisible());
 
     window->showNormal();
@@ -314,7 +313,7 @@ TEST_F(MainWindow, FollowsAWindowManagerThatEndsFullScreen)
 
 TEST_F(MainWindow, EndsTheWorkWhenItIsClosed)
 {
-    const QString left = folder.path(u"data/Brenvaldo/Temp/left.txt"_qs);
+    const QString left = folder.path(u"data/Brenvaldo/Temp/left.txt"_s);
     QFile file(left);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
@@ -326,18 +325,18 @@ TEST_F(MainWindow, EndsTheWorkWhenItIsClosed)
 
 TEST_F(MainWindow, EndsARunAfterThePhotoInHandWhenItIsClosed)
 {
-    QDir().mkpath(folder.path(u"out"_qs));
+    QDir().mkpath(folder.path(u"out"_s));
     window->openFiles(makePhotos(3));
     panels::Panels& panels = workspace.panels();
     panels.window.pubFileManagementSelect.selectIndex(3);
-    workspace.actions().send(u"hChooseMainFileManagementFunction"_qs);
-    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(folder.path(u"out/"_qs));
+    workspace.actions().send(u"hChooseMainFileManagementFunction"_s);
+    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(folder.path(u"out/"_s));
     QSignalSpy closed(window.get(), &views::MainWindow::closed);
     const auto closing = workspace.journal().recorded.connect([&](const workspace::RunRecord&) {
         window->close();
     });
 
-    QTest::mouseClick(find(u"btnProcess"_qs), Qt::LeftButton);
+    QTest::mouseClick(find(u"btnProcess"_s), Qt::LeftButton);
 
     EXPECT_EQ(closed.size(), 1);
     EXPECT_EQ(workspace.journal().records().size(), 1);
@@ -348,29 +347,29 @@ TEST_F(MainWindow, KeepsAndUsesPresetsByKeyboard)
 {
     controls::TextView& text = workspace.panels().vwWatermark.tvWaterMarkText;
     controls::TextField& name = workspace.panels().wwPresetsWindow.tfInputPDM;
-    QTest::mouseClick(find(u"btnPresets"_qs), Qt::LeftButton);
-    auto* field = find<QLineEdit>(u"tfInputPDM"_qs);
-    auto* table = find<views::RowsTable>(u"myPresetsTableView"_qs);
-    text.setStringValue(u"kept"_qs);
+    QTest::mouseClick(find(u"btnPresets"_s), Qt::LeftButton);
+    auto* field = find<QLineEdit>(u"tfInputPDM"_s);
+    auto* table = find<views::RowsTable>(u"myPresetsTableView"_s);
+    text.setStringValue(u"kept"_s);
 
     field->setFocus();
-    QTest::keyClicks(field, u"first"_qs);
+    QTest::keyClicks(field, u"first"_s);
     QTest::keyClick(field, Qt::Key_Return);
     ASSERT_EQ(table->model()->rowCount(), 1);
-    EXPECT_EQ(name.stringValue(), u"first"_qs);
+    EXPECT_EQ(name.stringValue(), u"first"_s);
 
-    text.setStringValue(u"changed"_qs);
+    text.setStringValue(u"changed"_s);
     table->setFocus();
     QTest::keyClick(table, Qt::Key_Down);
     QTest::keyClick(table, Qt::Key_Return);
-    EXPECT_EQ(text.stringValue(), u"kept"_qs);
+    EXPECT_EQ(text.stringValue(), u"kept"_s);
     EXPECT_EQ(table->model()->rowCount(), 1);
 
-    text.setStringValue(u"changed"_qs);
+    text.setStringValue(u"changed"_s);
     const QPoint row = table->visualRect(table->model()->index(0, 0)).center();
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, row);
     QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, row);
-    EXPECT_EQ(text.stringValue(), u"kept"_qs);
+    EXPECT_EQ(text.stringValue(), u"kept"_s);
 
     QTest::keyClick(table, Qt::Key_Delete);
     EXPECT_EQ(table->model()->rowCount(), 0);
@@ -389,9 +388,9 @@ TEST_F(MainWindow, SaysInAnEmptyListOfPresetsWhatToDo)
         }
         return colours.size();
     };
-    QTest::mouseClick(find(u"btnPresets"_qs), Qt::LeftButton);
+    QTest::mouseClick(find(u"btnPresets"_s), Qt::LeftButton);
     settle();
-    auto* table = find<views::RowsTable>(u"myPresetsTableView"_qs);
+    auto* table = find<views::RowsTable>(u"myPresetsTableView"_s);
     const auto inksOfHint = inks(table->viewport()->grab().toImage());
 
     table->setEmptyText({});
@@ -403,7 +402,7 @@ TEST_F(MainWindow, NamesEveryWidgetThatTakesTheFocus)
 {
     const auto widgets = window->findChildren<QWidget*>();
     for (const QWidget* widget : widgets) {
-        const bool isPart = widget->objectName().startsWith(u"qt_"_qs);
+        const bool isPart = widget->objectName().startsWith(u"qt_"_s);
         if (!widget->isVisible() || isPart || !(widget->focusPolicy() & Qt::TabFocus))
             continue;
         EXPECT_FALSE(widget->accessibleName().isEmpty())
@@ -414,11 +413,11 @@ TEST_F(MainWindow, NamesEveryWidgetThatTakesTheFocus)
 TEST_F(MainWindow, ReachesEveryWidgetByTabInBothDirections)
 {
     workspace.openFiles(makePhotos(2));
-    orderNamed(u"photoInfo"_qs)->trigger();
+    orderNamed(u"photoInfo"_s)->trigger();
     auto& functions = workspace.panels().window.pubEditPhoto;
     for (int index = 0; index < functions.count(); ++index) {
         functions.selectItemAtIndex(index);
-        workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_qs);
+        workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_s);
         settle();
         const QList<const QWidget*> expected = tabStops();
         EXPECT_GT(expected.size(), 15);
@@ -437,24 +436,24 @@ TEST_F(MainWindow, LeadsTheTabKeyFromThePreviewToTheProcessButton)
     workspace.openFiles(makePhotos(2));
     settle();
     QStringList met;
-    find(u"myTemplatePreview"_qs)->setFocus();
+    find(u"myTemplatePreview"_s)->setFocus();
     for (int step = 0; step < 60; ++step) {
         met.append(window->focusWidget()->objectName());
         QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
     }
     const QStringList stations{
-        u"myTemplatePreview"_qs,
-        u"tool.hChoosePhotos"_qs,
-        u"cbPhotoToProcess"_qs,
-        u"myPhotoCollectionView"_qs,
-        u"btnEditPhoto"_qs,
-        u"pubEditPhoto"_qs,
-        u"btnPresets"_qs,
-        u"tvWaterMarkText"_qs,
-        u"cbShowPreview"_qs,
-        u"pubFileType"_qs,
-        u"tfImageDestinationFolder"_qs,
-        u"btnProcess"_qs};
+        u"myTemplatePreview"_s,
+        u"tool.hChoosePhotos"_s,
+        u"cbPhotoToProcess"_s,
+        u"myPhotoCollectionView"_s,
+        u"btnEditPhoto"_s,
+        u"pubEditPhoto"_s,
+        u"btnPresets"_s,
+        u"tvWaterMarkText"_s,
+        u"cbShowPreview"_s,
+        u"pubFileType"_s,
+        u"tfImageDestinationFolder"_s,
+        u"btnProcess"_s};
     qsizetype last = -1;
     for (const QString& station : stations) {
         const qsizetype place = met.indexOf(station);
@@ -466,10 +465,9 @@ TEST_F(MainWindow, LeadsTheTabKeyFromThePreviewToTheProcessButton)
 TEST_F(MainWindow, OffersNoButtonWithoutAnAction)
 {
     EXPECT_TRUE(workspace.panels().window.btnPresetsHelp.actions().join(QString()).isEmpty());
-    for (const QString& section :
-         {u"btnExportHtml"_qs, u"btnFileManagement"_qs, u"btnEditPhoto"_qs}) {
-        EXPECT_FALSE(find(u"btnPresetsHelp"_qs)->isVisible());
-        EXPECT_TRUE(find(u"btnPresets"_qs)->isVisible());
+    for (const QString& section : {u"btnExportHtml"_s, u"btnFileManagement"_s, u"btnEditPhoto"_s}) {
+        EXPECT_FALSE(find(u"btnPresetsHelp"_s)->isVisible());
+        EXPECT_TRUE(find(u"btnPresets"_s)->isVisible());
         QTest::mouseClick(find(section), Qt::LeftButton);
         settle();
     }
@@ -477,23 +475,23 @@ TEST_F(MainWindow, OffersNoButtonWithoutAnAction)
 
 TEST_F(MainWindow, LeavesTheWatermarkTextForTheFontSizeByTab)
 {
-    auto* text = find(u"tvWaterMarkText"_qs);
+    auto* text = find(u"tvWaterMarkText"_s);
     text->setFocus();
 
     QTest::keyClick(text, Qt::Key_Tab);
 
-    EXPECT_EQ(window->focusWidget(), find(u"tfFontSize"_qs));
+    EXPECT_EQ(window->focusWidget(), find(u"tfFontSize"_s));
 }
 
 TEST_F(MainWindow, ShowsEachTypedCharacterInThePreview)
 {
     workspace.openFiles(makePhotos(1));
-    QTest::mouseClick(find(u"cbShowPreview"_qs), Qt::LeftButton);
+    QTest::mouseClick(find(u"cbShowPreview"_s), Qt::LeftButton);
     auto& panels = workspace.panels();
-    panels.vwWatermark.cbFontList.selectItemWithObjectValue(u"DejaVu Sans"_qs);
-    panels.vwWatermark.tfFontSize.setStringValue(u"12"_qs); // small enough for the photo
+    panels.vwWatermark.cbFontList.selectItemWithObjectValue(u"DejaVu Sans"_s);
+    panels.vwWatermark.tfFontSize.setStringValue(u"12"_s); // small enough for the photo
     controls::ImageView& overlay = panels.window.myTemplateOverlayPreview;
-    auto* text = find(u"tvWaterMarkText"_qs);
+    auto* text = find(u"tvWaterMarkText"_s);
     text->setFocus();
     QList<QImage> shown;
     const auto afterKey = [&](const QString& key) {
@@ -502,8 +500,8 @@ TEST_F(MainWindow, ShowsEachTypedCharacterInThePreview)
     };
     ASSERT_FALSE(overlay.image().has_value());
 
-    afterKey(u"I"_qs);
-    afterKey(u"M"_qs);
+    afterKey(u"I"_s);
+    afterKey(u"M"_s);
     QTest::keyClick(text, Qt::Key_Backspace);
     QTest::keyClick(text, Qt::Key_Backspace);
 
@@ -536,11 +534,11 @@ TEST_F(MainWindow, CutsNoWidgetAtTheSmallestSize)
     auto& popUp = workspace.panels().window.pubEditPhoto;
     for (int index = 0; index < popUp.count(); ++index) {
         popUp.selectItemAtIndex(index);
-        workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_qs);
+        workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_s);
         settle();
         EXPECT_EQ(window->size(), smallest);
         for (const QWidget* widget : window->findChildren<QWidget*>()) {
-            const bool isPart = widget->objectName().startsWith(u"qt_"_qs);
+            const bool isPart = widget->objectName().startsWith(u"qt_"_s);
             if (!widget->isVisible() || isPart)
                 continue;
             EXPECT_FALSE(isCut(*widget))
@@ -552,20 +550,20 @@ TEST_F(MainWindow, CutsNoWidgetAtTheSmallestSize)
 
 TEST_F(MainWindow, TellsThatAFunctionComesLaterAndOffersNoRun)
 {
-    auto* process = find<QPushButton>(u"btnProcess"_qs);
-    const QAction* order = orderNamed(u"hLoadImages"_qs);
-    auto* notice = find(u"laterNotice"_qs);
+    auto* process = find<QPushButton>(u"btnProcess"_s);
+    const QAction* order = orderNamed(u"hLoadImages"_s);
+    auto* notice = find(u"laterNotice"_s);
     workspace.openFiles(makePhotos(2));
     EXPECT_TRUE(process->isEnabled());
     EXPECT_TRUE(notice->isHidden());
 
-    QTest::mouseClick(find(u"btnExportHtml"_qs), Qt::LeftButton);
-    EXPECT_EQ(process->text(), u"Process"_qs);
+    QTest::mouseClick(find(u"btnExportHtml"_s), Qt::LeftButton);
+    EXPECT_EQ(process->text(), u"Process"_s);
     EXPECT_FALSE(process->isEnabled());
     EXPECT_FALSE(order->isEnabled());
     EXPECT_TRUE(notice->isVisible());
 
-    QTest::mouseClick(find(u"btnEditPhoto"_qs), Qt::LeftButton);
+    QTest::mouseClick(find(u"btnEditPhoto"_s), Qt::LeftButton);
     EXPECT_TRUE(process->isEnabled());
     EXPECT_TRUE(order->isEnabled());
     EXPECT_TRUE(notice->isHidden());
@@ -577,19 +575,19 @@ TEST_F(MainWindow, TellsThatAFunctionComesLaterAndOffersNoRun)
 
 TEST_F(MainWindow, RunsAFunctionThatComesLaterByItsActionAllTheSame)
 {
-    QDir().mkpath(folder.path(u"out"_qs));
+    QDir().mkpath(folder.path(u"out"_s));
     workspace.openFiles(makePhotos(1));
     workspace.panels().vwMainDestination.tfImageDestinationFolder.setStringValue(
-        folder.path(u"out/"_qs)
+        folder.path(u"out/"_s)
     );
     workspace.panels().window.pubEditPhoto.selectItemAtIndex(9);
-    workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_qs);
-    ASSERT_FALSE(find<QPushButton>(u"btnProcess"_qs)->isEnabled());
+    workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_s);
+    ASSERT_FALSE(find<QPushButton>(u"btnProcess"_s)->isEnabled());
 
-    workspace.actions().send(u"cGUIcontrols.hLoadImages"_qs);
+    workspace.actions().send(u"cGUIcontrols.hLoadImages"_s);
 
     ASSERT_EQ(workspace.journal().records().size(), 1);
-    EXPECT_EQ(text(workspace.journal().records().first().word), u"Failed"_qs);
+    EXPECT_EQ(text(workspace.journal().records().first().word), u"Failed"_s);
 }
 
 TEST_F(MainWindow, FollowsTheSchemeWhileItIsOpen)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <support/text_printing.h>
 #include <views/photo_grid.h>
 #include <views/photo_grid_delegate.h>
@@ -25,7 +26,7 @@ protected:
         for (const QString& name : names) {
             workspace::cCollectionViewItem entry;
             entry.myPhotoName = name;
-            entry.myPhotoDescription = u"/nowhere/"_qs + name;
+            entry.myPhotoDescription = u"/nowhere/"_s + name;
             photos.append(entry);
         }
     }
@@ -55,18 +56,18 @@ protected:
 
 TEST_F(PhotoGrid, ShowsTheEntriesOfTheList)
 {
-    add({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    add({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     EXPECT_EQ(grid.model()->rowCount(), 3);
 
     photos.removeAt(0);
 
     EXPECT_EQ(grid.model()->rowCount(), 2);
-    EXPECT_EQ(grid.model()->index(0, 0).data().toString(), u"b.jpg"_qs);
+    EXPECT_EQ(grid.model()->index(0, 0).data().toString(), u"b.jpg"_s);
 }
 
 TEST_F(PhotoGrid, SelectsByMouseAndByArrowKeys)
 {
-    add({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    add({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     show();
 
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cell(1).center());
@@ -78,13 +79,13 @@ TEST_F(PhotoGrid, SelectsByMouseAndByArrowKeys)
 
 TEST_F(PhotoGrid, KeepsTheSelectionOnAPhotoThatGoesToAnotherPlace)
 {
-    add({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    add({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     show();
     photos.select(0);
 
     photos.move(0, 2);
     EXPECT_EQ(grid.currentIndex().row(), 2);
-    EXPECT_EQ(grid.currentIndex().data().toString(), u"a.jpg"_qs);
+    EXPECT_EQ(grid.currentIndex().data().toString(), u"a.jpg"_s);
 
     photos.removeAt(0);
     EXPECT_EQ(grid.currentIndex().row(), 1);
@@ -92,26 +93,26 @@ TEST_F(PhotoGrid, KeepsTheSelectionOnAPhotoThatGoesToAnotherPlace)
 
     photos.sortByName(workspace::PhotoList::Order::Ascending);
     EXPECT_EQ(grid.currentIndex().row(), 0);
-    EXPECT_EQ(grid.currentIndex().data().toString(), u"a.jpg"_qs);
+    EXPECT_EQ(grid.currentIndex().data().toString(), u"a.jpg"_s);
 }
 
 TEST_F(PhotoGrid, SelectsThePhotoBehindTheSelectedOneThatIsRemoved)
 {
-    add({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    add({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     show();
     photos.select(1);
 
     photos.removeAt(1);
-    EXPECT_EQ(grid.currentIndex().data().toString(), u"c.jpg"_qs);
+    EXPECT_EQ(grid.currentIndex().data().toString(), u"c.jpg"_s);
     photos.removeAt(1);
 
-    EXPECT_EQ(grid.currentIndex().data().toString(), u"a.jpg"_qs);
+    EXPECT_EQ(grid.currentIndex().data().toString(), u"a.jpg"_s);
     EXPECT_EQ(photos.selectedIndex(), 0);
 }
 
 TEST_F(PhotoGrid, FollowsTheSelectionOfTheList)
 {
-    add({u"a.jpg"_qs, u"b.jpg"_qs});
+    add({u"a.jpg"_s, u"b.jpg"_s});
     show();
 
     photos.select(1);
@@ -123,7 +124,7 @@ TEST_F(PhotoGrid, FollowsTheSelectionOfTheList)
 
 TEST_F(PhotoGrid, TicksByTheBoxOnThePictureAndBySpace)
 {
-    add({u"a.jpg"_qs, u"b.jpg"_qs});
+    add({u"a.jpg"_s, u"b.jpg"_s});
     show();
     QSignalSpy wanted(&grid, &views::PhotoGrid::tickWanted);
 
@@ -139,7 +140,7 @@ TEST_F(PhotoGrid, TicksByTheBoxOnThePictureAndBySpace)
 
 TEST_F(PhotoGrid, AsksToMoveADraggedPhotoToTheGapItWasDroppedOn)
 {
-    add({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    add({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     show();
     photos.select(0);
     QList<int> gaps;
@@ -167,12 +168,12 @@ TEST_F(PhotoGrid, AsksToAddFilesThatAreDroppedOnIt)
     show();
     QSignalSpy dropped(&grid, &views::PhotoGrid::filesDropped);
     QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(u"/a/b.jpg"_qs), QUrl(u"https://example.org/c.jpg"_qs)});
+    data.setUrls({QUrl::fromLocalFile(u"/a/b.jpg"_s), QUrl(u"https://example.org/c.jpg"_s)});
 
     drop(data, {40, 40});
 
     ASSERT_EQ(dropped.size(), 1);
-    EXPECT_EQ(dropped.at(0).at(0).toStringList(), QStringList{u"/a/b.jpg"_qs});
+    EXPECT_EQ(dropped.at(0).at(0).toStringList(), QStringList{u"/a/b.jpg"_s});
 }
 
 TEST_F(PhotoGrid, OffersToAddPhotosWhileItIsEmpty)
@@ -183,17 +184,17 @@ TEST_F(PhotoGrid, OffersToAddPhotosWhileItIsEmpty)
 
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_EQ(wanted.size(), 1);
-    add({u"a.jpg"_qs});
+    add({u"a.jpg"_s});
 
     EXPECT_FALSE(button->isVisible());
 }
 
 TEST_F(PhotoGrid, SpeaksNameSizeAndTick)
 {
-    add({u"a.jpg"_qs});
+    add({u"a.jpg"_s});
 
     const QString text = grid.model()->index(0, 0).data(Qt::AccessibleTextRole).toString();
 
-    EXPECT_TRUE(text.startsWith(u"a.jpg"_qs));
-    EXPECT_TRUE(text.endsWith(u", ticked"_qs));
+    EXPECT_TRUE(text.startsWith(u"a.jpg"_s));
+    EXPECT_TRUE(text.endsWith(u", ticked"_s));
 }

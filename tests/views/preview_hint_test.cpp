@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <support/text_printing.h>
 #include <views/preview_hint.h>
 
@@ -33,9 +34,9 @@ protected:
 
 TEST_F(PreviewHint, SaysWhatToDo)
 {
-    EXPECT_EQ(hint(), u"Your photo shows here"_qs);
+    EXPECT_EQ(hint(), u"Your photo shows here"_s);
     addEntry(0);
-    EXPECT_EQ(hint(), u"Select a photo to see it here"_qs);
+    EXPECT_EQ(hint(), u"Select a photo to see it here"_s);
 }
 
 TEST_F(PreviewHint, SaysWhatIsWrongWithTheSelectedFile)
@@ -43,9 +44,9 @@ TEST_F(PreviewHint, SaysWhatIsWrongWithTheSelectedFile)
     addEntry(0);
     addEntry(1);
     photos.select(0);
-    EXPECT_EQ(hint(), u"This photo can't be read"_qs);
+    EXPECT_EQ(hint(), u"This photo can't be read"_s);
     photos.select(1);
-    EXPECT_EQ(hint(), u"This file is not a photo"_qs);
+    EXPECT_EQ(hint(), u"This file is not a photo"_s);
 }
 
 TEST_F(PreviewHint, SaysThatAFunctionShowsNoPhoto)
@@ -53,10 +54,10 @@ TEST_F(PreviewHint, SaysThatAFunctionShowsNoPhoto)
     addEntry(0);
     photos.select(0);
     panels.window.dvVCUiMainPropertySelect.removeAllViews();
-    EXPECT_TRUE(hint().contains(u"gallery templates"_qs));
+    EXPECT_TRUE(hint().contains(u"gallery templates"_s));
 
     panels.window.dvVCUiMainPropertySelect.replaceViews(panels.window.pubFileManagementSelect.name()
     );
     panels.window.pubFileManagementSelect.selectItemAtIndex(3);
-    EXPECT_TRUE(hint().startsWith(u"Conversion"_qs));
+    EXPECT_TRUE(hint().startsWith(u"Conversion"_s));
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/drawing/stamp.h>
+#include <platform/foundation/literals.h>
 
 #include <support/photo_builder.h>
 #include <support/pixel_probe.h>
@@ -46,7 +47,7 @@ protected:
                                  .size(643, 427)
                                  .gradient()
                                  .format(test::PhotoFormat::Png)
-                                 .write(folder.path(u"a.png"_qs));
+                                 .write(folder.path(u"a.png"_s));
         return *test::openedPhoto(path).uprightImage(
             {.access = platform::codecs::ImageSource::Access::Random, .atLeast = {}}
         );
@@ -138,7 +139,7 @@ protected:
         );
     }
 
-    void render(const platform::graphics::Image& overlay, const QString& path = u"a.png"_qs)
+    void render(const platform::graphics::Image& overlay, const QString& path = u"a.png"_s)
     {
         renderer.render(
             {.photo = plain, .overlay = overlay, .room = room, .part = std::nullopt, .path = path}
@@ -208,10 +209,10 @@ TEST_F(BusyPreviewRenderer, ShowsWhatIsFinishedWhileTheSamePhotoIsChangedOn)
 TEST_F(BusyPreviewRenderer, DropsAPictureOfThePhotoBefore)
 {
     const HeldStamp first(plain);
-    render(first.marked(), u"before.png"_qs);
+    render(first.marked(), u"before.png"_s);
     first.waitUntilBegun();
 
-    render(platform::drawing::stamped(plain, stampAt({300, 200})), u"now.png"_qs);
+    render(platform::drawing::stamped(plain, stampAt({300, 200})), u"now.png"_s);
     first.letGo();
 
     EXPECT_TRUE(finishes());

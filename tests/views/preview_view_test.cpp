@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 
 #include <support/photo_builder.h>
 #include <support/temporary_folder.h>
@@ -46,11 +47,11 @@ protected:
         return platform::graphics::Image::fromQImage(solid(width, height, colour));
     }
 
-    controls::ImageView photo{u"myTemplatePreview"_qs};
-    controls::ImageView overlay{u"myTemplateOverlayPreview"_qs};
+    controls::ImageView photo{u"myTemplatePreview"_s};
+    controls::ImageView overlay{u"myTemplateOverlayPreview"_s};
     workspace::PhotoList photos;
     views::PreviewView view{{.photo = photo, .overlay = overlay, .photos = photos, .emptyText = [] {
-                                 return u"Nothing to see"_qs;
+                                 return u"Nothing to see"_s;
                              }}};
 };
 
@@ -115,10 +116,10 @@ TEST_F(PreviewView, ShowsPixelsAtOneToOneAndPansByMouse)
 TEST_F(PreviewView, TellsAboutTheFileOfTheSelectedPhoto)
 {
     const test::TemporaryFolder folder;
-    const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_qs));
+    const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_s));
     workspace::cCollectionViewItem entry;
     entry.myPhotoDescription = path;
-    entry.myPhotoPxSize = u"470x330px | 1.23KB"_qs;
+    entry.myPhotoPxSize = u"470x330px | 1.23KB"_s;
     photos.append(entry);
     photos.select(0);
     photo.setImage(picture(470, 330, Qt::red));
@@ -126,7 +127,7 @@ TEST_F(PreviewView, TellsAboutTheFileOfTheSelectedPhoto)
     (void)drawn();
 
     EXPECT_EQ(
-        view.caption(), u"a.jpg  \u00b7  470 \u00d7 330  \u00b7  8 bit RGB  \u00b7  1.23KB"_qs
+        view.caption(), u"a.jpg  \u00b7  470 \u00d7 330  \u00b7  8 bit RGB  \u00b7  1.23KB"_s
     );
 }
 

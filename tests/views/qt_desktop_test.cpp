@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <support/environment.h>
 #include <support/photo_builder.h>
 #include <support/temporary_folder.h>
@@ -40,7 +41,7 @@ public Q_SLOTS:
     void take(const QUrl& url) { taken.append(url); }
 
 private:
-    QStringList schemes{QStringLiteral("https"), QStringLiteral("file")};
+    QStringList schemes{u"https"_s, u"file"_s};
 };
 
 class QtDesktop : public testing::Test
@@ -56,14 +57,14 @@ protected:
 
 TEST_F(QtDesktop, OpensAddressesInTheBrowser)
 {
-    desktop.openUrl(QUrl(u"https://example.org/help"_qs));
+    desktop.openUrl(QUrl(u"https://example.org/help"_s));
 
-    EXPECT_EQ(viewer.taken, QList{QUrl(u"https://example.org/help"_qs)});
+    EXPECT_EQ(viewer.taken, QList{QUrl(u"https://example.org/help"_s)});
 }
 
 TEST_F(QtDesktop, OpensTheFolderOfAFileWithoutASessionBus)
 {
-    const QString photo = test::PhotoBuilder{}.size(5, 3).write(folder.path(u"a.jpg"_qs));
+    const QString photo = test::PhotoBuilder{}.size(5, 3).write(folder.path(u"a.jpg"_s));
 
     desktop.reveal(photo);
 
@@ -76,7 +77,7 @@ TEST_F(QtDesktop, OpensTheFolderOfAFileWithoutASessionBus)
 
 TEST_F(QtDesktop, OpensAFolderItself)
 {
-    const QString path = QFileInfo(folder.path(u"x"_qs)).path();
+    const QString path = QFileInfo(folder.path(u"x"_s)).path();
 
     desktop.reveal(path);
 

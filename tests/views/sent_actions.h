@@ -3,6 +3,7 @@
 
 #include <controls/action_registry.h>
 #include <controls/user_input.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::test {
 
@@ -17,9 +18,9 @@ struct SentActions
     /// Makes `control` send an action that is kept.
     void watch(controls::Control& control)
     {
-        const QString action = QStringLiteral("sent.") + control.name();
+        const QString action = u"sent."_s + control.name();
         control.addAction(action);
-        registry.add(u"sent"_qs, control.name(), [this, name = control.name()](const auto& sender) {
+        registry.add(u"sent"_s, control.name(), [this, name = control.name()](const auto& sender) {
             names.append(name);
             tags.append(sender.tag);
         });

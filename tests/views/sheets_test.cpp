@@ -3,6 +3,7 @@
 
 #include <controls/text_controls.h>
 #include <panels/panels.h>
+#include <platform/foundation/literals.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
 #include <views/alert_sheet.h>
@@ -26,7 +27,7 @@ struct AlertSheet : testing::Test
 {
     AlertSheet()
     {
-        actions.add(u"cGUIcontrols"_qs, u"closeApplicationAlertSheetObjC"_qs, [this](const auto&) {
+        actions.add(u"cGUIcontrols"_s, u"closeApplicationAlertSheetObjC"_s, [this](const auto&) {
             panels.window.wwAlertWindow.close();
         });
     }
@@ -62,21 +63,19 @@ struct OnePath : controls::FileChooser
 TEST_F(AlertSheet, ShowsTitleAndTextWithLineBreaks)
 {
     window.show();
-    alert(u"Missing destination."_qs, u"\rPlease choose.\rNow."_qs);
+    alert(u"Missing destination."_s, u"\rPlease choose.\rNow."_s);
 
     EXPECT_TRUE(sheet->isVisible());
     EXPECT_EQ(sheet->windowModality(), Qt::WindowModal);
-    EXPECT_EQ(
-        sheet->findChild<QLabel*>(u"tfHTMLAlertTitle"_qs)->text(), u"Missing destination."_qs
-    );
-    EXPECT_EQ(sheet->findChild<QLabel*>(u"tfHTMLAlertInfo"_qs)->text(), u"Please choose.\nNow."_qs);
+    EXPECT_EQ(sheet->findChild<QLabel*>(u"tfHTMLAlertTitle"_s)->text(), u"Missing destination."_s);
+    EXPECT_EQ(sheet->findChild<QLabel*>(u"tfHTMLAlertInfo"_s)->text(), u"Please choose.\nNow."_s);
 }
 
 TEST_F(AlertSheet, DrawsItsMarkInTheColoursOfTheScheme)
 {
     window.show();
-    alert(u"Title"_qs, u"Text"_qs);
-    auto* mark = sheet->findChild<QWidget*>(u"alertMark"_qs);
+    alert(u"Title"_s, u"Text"_s);
+    auto* mark = sheet->findChild<QWidget*>(u"alertMark"_s);
     const auto hasInk = [mark](const QColor& ink) {
         const QImage picture = mark->grab().toImage();
         for (int y = 0; y < picture.height(); ++y)
@@ -95,9 +94,9 @@ TEST_F(AlertSheet, DrawsItsMarkInTheColoursOfTheScheme)
 TEST_F(AlertSheet, ClosesByItsButtonThroughTheAction)
 {
     window.show();
-    alert(u"a"_qs, u"b"_qs);
+    alert(u"a"_s, u"b"_s);
 
-    QTest::mouseClick(sheet->findChild<QPushButton*>(u"closeAlert"_qs), Qt::LeftButton);
+    QTest::mouseClick(sheet->findChild<QPushButton*>(u"closeAlert"_s), Qt::LeftButton);
 
     EXPECT_FALSE(panels.window.wwAlertWindow.isOpen());
     EXPECT_FALSE(sheet->isVisible());
@@ -106,11 +105,11 @@ TEST_F(AlertSheet, ClosesByItsButtonThroughTheAction)
 TEST_F(AlertSheet, ClosesByEscapeAndOpensAgain)
 {
     window.show();
-    alert(u"a"_qs, u"b"_qs);
+    alert(u"a"_s, u"b"_s);
 
     QTest::keyClick(sheet, Qt::Key_Escape);
     EXPECT_FALSE(sheet->isVisible());
-    alert(u"c"_qs, u"d"_qs);
+    alert(u"c"_s, u"d"_s);
 
     EXPECT_TRUE(sheet->isVisible());
 }
@@ -120,25 +119,25 @@ TEST(PanelSheet, OpensAndClosesWithItsControl)
     struct View : panels::PanelView
     {
         View()
-            : PanelView(u"wwPresetsWindow"_qs)
+            : PanelView(u"wwPresetsWindow"_s)
         {
-            setLayout({{panels::Row{.label = u"Name"_qs, .fields = {{.control = &field}}}}});
+            setLayout({{panels::Row{.label = u"Name"_s, .fields = {{.control = &field}}}}});
         }
-        controls::TextField field{u"tfInputPDM"_qs};
+        controls::TextField field{u"tfInputPDM"_s};
     };
     const View view;
     const panels::Panels panels;
     const test::SentActions sent;
     const views::Binder binder(sent.input);
     const views::FormBuilder builder(panels, binder);
-    controls::Sheet control(u"wwPresetsWindow"_qs);
+    controls::Sheet control(u"wwPresetsWindow"_s);
     QWidget window;
     window.show();
     auto* sheet = new views::PanelSheet(control, view, builder, sent.registry, &window);
 
     control.open();
     EXPECT_TRUE(sheet->isVisible());
-    EXPECT_TRUE(sheet->findChild<QWidget*>(u"tfInputPDM"_qs));
+    EXPECT_TRUE(sheet->findChild<QWidget*>(u"tfInputPDM"_s));
     QTest::keyClick(sheet, Qt::Key_Escape);
 
     EXPECT_FALSE(control.isOpen());
@@ -148,13 +147,13 @@ TEST(PanelSheet, OpensAndClosesWithItsControl)
 TEST(JournalWindow, ListsWhatRunsDidAndSavesItAsText)
 {
     const test::TemporaryFolder folder;
-    OnePath chooser(folder.path(u"journal.txt"_qs));
+    OnePath chooser(folder.path(u"journal.txt"_s));
     workspace::RunJournal journal;
     const workspace::RunRecord record{
         .time = QDateTime::currentDateTime(),
-        .function = u"textWM"_qs,
-        .source = u"/photos/a.jpg"_qs,
-        .target = u"/out/a.jpg"_qs,
+        .function = u"textWM"_s,
+        .source = u"/photos/a.jpg"_s,
+        .target = u"/out/a.jpg"_s,
         .word = imaging::ResultWord::Ok};
     journal.add(record);
     views::JournalWindow window(journal, chooser);
@@ -164,7 +163,7 @@ TEST(JournalWindow, ListsWhatRunsDidAndSavesItAsText)
     EXPECT_EQ(window.rowCount(), 2);
     EXPECT_TRUE(window.findChildren<QPushButton*>().at(1)->isEnabled());
     const auto* rows = window.findChild<QTreeWidget*>();
-    EXPECT_EQ(rows->topLevelItem(0)->text(1), u"Text watermark"_qs);
+    EXPECT_EQ(rows->topLevelItem(0)->text(1), u"Text watermark"_s);
     QTest::mouseClick(window.findChildren<QPushButton*>().at(0), Qt::LeftButton);
 
     const QString saved = QString::fromUtf8(test::TemporaryFolder::read(chooser.path));

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::views;
 
 namespace {
@@ -71,14 +72,14 @@ TEST(Theme, TakesTheWishOfTheDesktopOutOfItsVariants)
 
 TEST(Theme, FollowsTheWishOfTheDesktopWhileRunning)
 {
-    const QString group = QStringLiteral("org.freedesktop.appearance");
-    const QString key = QStringLiteral("color-scheme");
+    const QString group = u"org.freedesktop.appearance"_s;
+    const QString key = u"color-scheme"_s;
     DesktopScheme scheme;
 
     scheme.settingChanged(group, key, QDBusVariant(1U));
     EXPECT_EQ(&colours(), &coloursOf(Scheme::Dark));
 
-    scheme.settingChanged(group, QStringLiteral("contrast"), QDBusVariant(0U));
+    scheme.settingChanged(group, u"contrast"_s, QDBusVariant(0U));
     EXPECT_EQ(&colours(), &coloursOf(Scheme::Dark));
 
     scheme.settingChanged(group, key, QDBusVariant(2U));

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <support/photo_builder.h>
 #include <support/temporary_folder.h>
 #include <views/thumbnail_store.h>
@@ -39,7 +40,7 @@ protected:
 
 TEST_F(ThumbnailStore, AnswersAtOnceAndTellsWhenThePictureIsThere)
 {
-    const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_qs));
+    const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_s));
     QSignalSpy arrived(&store, &views::ThumbnailStore::arrived);
 
     EXPECT_TRUE(store.picture(workspace::ListPicture{.path = path}).isNull());
@@ -51,30 +52,30 @@ TEST_F(ThumbnailStore, AnswersAtOnceAndTellsWhenThePictureIsThere)
 TEST_F(ThumbnailStore, TurnsPhotosUpright)
 {
     const QString path
-        = test::PhotoBuilder{}.size(470, 330).orientation(6).write(folder.path(u"a.jpg"_qs));
+        = test::PhotoBuilder{}.size(470, 330).orientation(6).write(folder.path(u"a.jpg"_s));
 
     EXPECT_EQ(awaited(path).size(), QSize(66, 94));
 }
 
 TEST_F(ThumbnailStore, FitsSmallPhotosIntoTheirBoxToo)
 {
-    const QString path = test::PhotoBuilder{}.size(47, 33).write(folder.path(u"a.png"_qs));
+    const QString path = test::PhotoBuilder{}.size(47, 33).write(folder.path(u"a.png"_s));
 
     EXPECT_EQ(awaited(path).size(), QSize(94, 66));
 }
 
 TEST_F(ThumbnailStore, KnowsFilesThatAreNoPhotos)
 {
-    const QString path = folder.write(u"a.jpg"_qs, "no photo at all");
+    const QString path = folder.write(u"a.jpg"_s, "no photo at all");
 
     EXPECT_TRUE(awaited(path).isNull());
     EXPECT_TRUE(store.isUnreadable(path));
-    EXPECT_TRUE(awaited(folder.path(u"missing.jpg"_qs)).isNull());
+    EXPECT_TRUE(awaited(folder.path(u"missing.jpg"_s)).isNull());
 }
 
 TEST_F(ThumbnailStore, MakesANewPictureWhenTheFileHasChanged)
 {
-    const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_qs));
+    const QString path = test::PhotoBuilder{}.size(470, 330).write(folder.path(u"a.jpg"_s));
     EXPECT_EQ(awaited(path).width(), 94);
 
     test::PhotoBuilder{}.size(330, 470).write(path);
@@ -89,7 +90,7 @@ TEST_F(ThumbnailStore, MakesThePictureOfAFileThatIsWrittenWhileItIsRead)
 {
     const QByteArray whole = test::PhotoBuilder{}.size(900, 1300).bytes();
     for (int round = 0; round < 12; ++round) {
-        const QString name = QStringLiteral("%1.jpg").arg(round);
+        const QString name = u"%1.jpg"_s.arg(round);
         const QString path = folder.write(name, whole.first(whole.size() / 2));
         store.checkFilesAgain();
         (void)store.picture(workspace::ListPicture{.path = path});
@@ -112,7 +113,7 @@ TEST_F(ThumbnailStore, EndsWhilePicturesAreStillToCome)
 {
     auto* brief = new views::ThumbnailStore(side, &store);
     for (int index = 0; index < 20; ++index) {
-        const QString name = QStringLiteral("%1.jpg").arg(index);
+        const QString name = u"%1.jpg"_s.arg(index);
         const QString path = test::PhotoBuilder{}.size(900, 700).write(folder.path(name));
         EXPECT_TRUE(brief->picture(workspace::ListPicture{.path = path}).isNull());
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text_watermark_fixture.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/metadata/metadata_reader.h>
 #include <support/exif_block.h>
@@ -20,15 +21,15 @@ using test::TextWatermark;
 
 TEST_F(TextWatermark, WritesAMarkedFileAPhoto)
 {
-    const QString first = darkPhoto(QStringLiteral("a.jpg"));
-    const QString second = darkPhoto(QStringLiteral("b.jpg"));
+    const QString first = darkPhoto(u"a.jpg"_s);
+    const QString second = darkPhoto(u"b.jpg"_s);
 
-    EXPECT_EQ(run({first, second}), QStringLiteral("b.jpg"));
+    EXPECT_EQ(run({first, second}), u"b.jpg"_s);
 
     ASSERT_EQ(done.size(), 2);
     EXPECT_EQ(done.at(1).source, second);
-    EXPECT_EQ(done.at(1).target, folder.path(QStringLiteral("b.png")));
-    EXPECT_EQ(done.at(1).word, QStringLiteral("OK"));
+    EXPECT_EQ(done.at(1).target, folder.path(u"b.png"_s));
+    EXPECT_EQ(done.at(1).word, u"OK"_s);
     const QImage result = test::storedPixels(done.at(1).target);
     EXPECT_EQ(result.pixel(60, 40), qRgb(255, 255, 255));
     EXPECT_NEAR(qRed(result.pixel(2, 2)), 10, 3);
@@ -36,22 +37,22 @@ TEST_F(TextWatermark, WritesAMarkedFileAPhoto)
 
 TEST_F(TextWatermark, UsesTheNameAfterTheChainOfActions)
 {
-    chainPrefix = QStringLiteral("new_");
+    chainPrefix = u"new_"_s;
 
-    EXPECT_EQ(run({darkPhoto(QStringLiteral("a.jpg"))}), QStringLiteral("new_a.jpg"));
+    EXPECT_EQ(run({darkPhoto(u"a.jpg"_s)}), u"new_a.jpg"_s);
 
-    EXPECT_TRUE(QFileInfo::exists(folder.path(QStringLiteral("new_a.png"))));
+    EXPECT_TRUE(QFileInfo::exists(folder.path(u"new_a.png"_s)));
 }
 
 TEST_F(TextWatermark, ShowsTheNameAfterTheChainOfActionsWithItsExtension)
 {
-    chainPrefix = QStringLiteral("new_");
-    panel.tfFontSize.setStringValue(QStringLiteral("12"));
-    panel.tvWaterMarkText.setStringValue(QStringLiteral("<[IMGFN]>"));
-    const QString photo = darkPhoto(QStringLiteral("a.jpg"));
+    chainPrefix = u"new_"_s;
+    panel.tfFontSize.setStringValue(u"12"_s);
+    panel.tvWaterMarkText.setStringValue(u"<[IMGFN]>"_s);
+    const QString photo = darkPhoto(u"a.jpg"_s);
     const auto byPlaceholder = mark.setWatermarkTextPreview(photo);
 
-    panel.tvWaterMarkText.setStringValue(QStringLiteral("new_a.jpg"));
+    panel.tvWaterMarkText.setStringValue(u"new_a.jpg"_s);
     const auto byName = mark.setWatermarkTextPreview(photo);
 
     EXPECT_EQ(byPlaceholder->toQImage(), byName->toQImage());
@@ -59,9 +60,9 @@ TEST_F(TextWatermark, ShowsTheNameAfterTheChainOfActionsWithItsExtension)
 
 TEST_F(TextWatermark, KeepsTheOriginalFileType)
 {
-    run({darkPhoto(QStringLiteral("a.jpeg"))}, QStringLiteral("original file type"));
+    run({darkPhoto(u"a.jpeg"_s)}, u"original file type"_s);
 
-    EXPECT_EQ(done.value(0).target, folder.path(QStringLiteral("a.jpg")));
+    EXPECT_EQ(done.value(0).target, folder.path(u"a.jpg"_s));
     EXPECT_TRUE(QFileInfo::exists(done.value(0).target));
 }
 
@@ -71,84 +72,81 @@ TEST_F(TextWatermark, WithoutATextEndsTheRun)
     platform::setLogSink([&](const QString& line) { logged.append(line); });
     panel.tvWaterMarkText.setStringValue({});
 
-    EXPECT_EQ(run({darkPhoto(QStringLiteral("a.jpg"))}), QStringLiteral("IOFailure"));
+    EXPECT_EQ(run({darkPhoto(u"a.jpg"_s)}), u"IOFailure"_s);
 
-    EXPECT_TRUE(logged.contains(QStringLiteral("no watermark text")));
-    EXPECT_EQ(done.value(0).word, QStringLiteral("IOFailure"));
-    EXPECT_FALSE(QFileInfo::exists(folder.path(QStringLiteral("a.png"))));
+    EXPECT_TRUE(logged.contains(u"no watermark text"_s));
+    EXPECT_EQ(done.value(0).word, u"IOFailure"_s);
+    EXPECT_FALSE(QFileInfo::exists(folder.path(u"a.png"_s)));
     EXPECT_TRUE(bar.isHidden());
 }
 
 TEST_F(TextWatermark, OfPlaceholdersThatResolveToNothingGoesOn)
 {
-    panel.tvWaterMarkText.setStringValue(QStringLiteral("<[IMGCD]>"));
+    panel.tvWaterMarkText.setStringValue(u"<[IMGCD]>"_s);
 
-    EXPECT_EQ(run({darkPhoto(QStringLiteral("a.jpg"))}), QStringLiteral("a.jpg"));
+    EXPECT_EQ(run({darkPhoto(u"a.jpg"_s)}), u"a.jpg"_s);
 
     EXPECT_NEAR(qRed(test::storedPixels(done.value(0).target).pixel(60, 40)), 10, 3);
 }
 
 TEST_F(TextWatermark, EndsAfterThePhotoInHandWhenTheProgramEnds)
 {
-    const QString first = darkPhoto(QStringLiteral("a.jpg"));
-    const QString second = darkPhoto(QStringLiteral("b.jpg"));
+    const QString first = darkPhoto(u"a.jpg"_s);
+    const QString second = darkPhoto(u"b.jpg"_s);
     const auto closing = bar.changed.connect([this] {
         if (bar.doubleValue() > 0)
             bar.askToEnd();
     });
 
-    EXPECT_EQ(run({first, second}), QStringLiteral("IOFailure"));
+    EXPECT_EQ(run({first, second}), u"IOFailure"_s);
 
     ASSERT_EQ(done.size(), 1);
-    EXPECT_EQ(done.first().word, QStringLiteral("OK"));
+    EXPECT_EQ(done.first().word, u"OK"_s);
     EXPECT_TRUE(bar.isHidden());
 }
 
 TEST_F(TextWatermark, OfAnUnreadablePhotoEndsTheRun)
 {
-    const QString good = darkPhoto(QStringLiteral("a.jpg"));
-    const QString bad = sources.write(QStringLiteral("b.jpg"), "no picture");
-    const QString never = darkPhoto(QStringLiteral("c.jpg"));
+    const QString good = darkPhoto(u"a.jpg"_s);
+    const QString bad = sources.write(u"b.jpg"_s, "no picture");
+    const QString never = darkPhoto(u"c.jpg"_s);
 
-    EXPECT_EQ(run({good, bad, never}), QStringLiteral("IOFailure"));
+    EXPECT_EQ(run({good, bad, never}), u"IOFailure"_s);
 
     EXPECT_EQ(done.size(), 2);
-    EXPECT_TRUE(QFileInfo::exists(folder.path(QStringLiteral("a.png"))));
-    EXPECT_FALSE(QFileInfo::exists(folder.path(QStringLiteral("c.png"))));
+    EXPECT_TRUE(QFileInfo::exists(folder.path(u"a.png"_s)));
+    EXPECT_FALSE(QFileInfo::exists(folder.path(u"c.png"_s)));
 }
 
 TEST_F(TextWatermark, OfADamagedPhotoFailsAndGoesOn)
 {
     const QByteArray whole
         = PhotoBuilder().size(400, 300).gradient().format(PhotoFormat::Jpeg).bytes();
-    const QString damaged = sources.write(QStringLiteral("a.jpg"), whole.left(whole.size() / 2));
-    const QString good = darkPhoto(QStringLiteral("b.jpg"));
+    const QString damaged = sources.write(u"a.jpg"_s, whole.left(whole.size() / 2));
+    const QString good = darkPhoto(u"b.jpg"_s);
 
-    EXPECT_EQ(run({damaged, good}), QStringLiteral("b.jpg"));
+    EXPECT_EQ(run({damaged, good}), u"b.jpg"_s);
 
-    EXPECT_EQ(done.value(0).word, QStringLiteral("Failed"));
-    EXPECT_FALSE(QFileInfo::exists(folder.path(QStringLiteral("a.png"))));
-    EXPECT_EQ(done.value(1).word, QStringLiteral("OK"));
+    EXPECT_EQ(done.value(0).word, u"Failed"_s);
+    EXPECT_FALSE(QFileInfo::exists(folder.path(u"a.png"_s)));
+    EXPECT_EQ(done.value(1).word, u"OK"_s);
 }
 
 TEST_F(TextWatermark, IntoHeicFails)
 {
-    EXPECT_EQ(
-        run({darkPhoto(QStringLiteral("a.jpg"))}, QStringLiteral("public.heic")),
-        QStringLiteral("IOFailure")
-    );
+    EXPECT_EQ(run({darkPhoto(u"a.jpg"_s)}, u"public.heic"_s), u"IOFailure"_s);
 
-    EXPECT_EQ(done.value(0).word, QStringLiteral("Failed"));
-    EXPECT_FALSE(QFileInfo::exists(folder.path(QStringLiteral("a.heic"))));
+    EXPECT_EQ(done.value(0).word, u"Failed"_s);
+    EXPECT_FALSE(QFileInfo::exists(folder.path(u"a.heic"_s)));
 }
 
 TEST_F(TextWatermark, OnlyTheLastPhotoDecidesTheAnswer)
 {
-    const QString bad = darkPhoto(QStringLiteral("a.xyz"));
-    const QString good = darkPhoto(QStringLiteral("b.jpg"));
+    const QString bad = darkPhoto(u"a.xyz"_s);
+    const QString good = darkPhoto(u"b.jpg"_s);
 
-    EXPECT_EQ(run({bad, good}, QStringLiteral("original file type")), QStringLiteral("b.jpg"));
-    EXPECT_EQ(done.value(0).word, QStringLiteral("Failed"));
+    EXPECT_EQ(run({bad, good}, u"original file type"_s), u"b.jpg"_s);
+    EXPECT_EQ(done.value(0).word, u"Failed"_s);
 }
 
 TEST_F(TextWatermark, DrawsUprightAndCarriesTheMetadataUnchanged)
@@ -158,9 +156,9 @@ TEST_F(TextWatermark, DrawsUprightAndCarriesTheMetadataUnchanged)
                               .size(120, 80)
                               .solid({10, 20, 30})
                               .exif(exif)
-                              .write(sources.path(QStringLiteral("a.jpg")));
+                              .write(sources.path(u"a.jpg"_s));
 
-    run({photo}, QStringLiteral("public.jpeg"));
+    run({photo}, u"public.jpeg"_s);
 
     const auto header = test::openedPhoto(done.value(0).target).header();
     EXPECT_EQ(header.storedSize, (platform::graphics::PixelSize{80, 120}));
@@ -173,7 +171,7 @@ TEST_F(TextWatermark, StepsTheBarByWholeNumbersOfAnEleventhOfAPhoto)
     const auto subscription
         = bar.changed.connect([&] { highest = std::max(highest, bar.doubleValue()); });
 
-    run({darkPhoto(QStringLiteral("a.jpg"))});
+    run({darkPhoto(u"a.jpg"_s)});
 
     EXPECT_EQ(highest, 11 * 90);
     EXPECT_TRUE(bar.isHidden());
@@ -184,7 +182,7 @@ TEST_F(TextWatermark, OfNinetyOnePhotosLeavesTheBarStill)
     double highest = 0;
     const auto subscription
         = bar.changed.connect([&] { highest = std::max(highest, bar.doubleValue()); });
-    const QString photo = PhotoBuilder().size(8, 8).write(sources.path(QStringLiteral("a.jpg")));
+    const QString photo = PhotoBuilder().size(8, 8).write(sources.path(u"a.jpg"_s));
 
     run(QStringList(91, photo));
 
@@ -194,13 +192,13 @@ TEST_F(TextWatermark, OfNinetyOnePhotosLeavesTheBarStill)
 
 TEST_F(TextWatermark, PreviewIsTheWrittenFilePixelByPixel)
 {
-    panel.tfWMAngle.setStringValue(QStringLiteral("17"));
+    panel.tfWMAngle.setStringValue(u"17"_s);
     panel.cbShadowCheck.setState(1);
     const QString photo = PhotoBuilder()
                               .size(160, 120)
                               .gradient()
                               .format(PhotoFormat::Png)
-                              .write(sources.path(QStringLiteral("a.png")));
+                              .write(sources.path(u"a.png"_s));
     run({photo});
 
     const auto preview = mark.setWatermarkTextPreview(photo);
@@ -228,7 +226,7 @@ TEST_F(TextWatermark, PreviewDrawsTheMarkWhenItIsLookedAt)
         );
     };
 
-    const auto preview = mark.setWatermarkTextPreview(darkPhoto(QStringLiteral("a.jpg")));
+    const auto preview = mark.setWatermarkTextPreview(darkPhoto(u"a.jpg"_s));
 
     ASSERT_TRUE(preview.has_value());
     EXPECT_EQ(preview->pixelSize(), (platform::graphics::PixelSize{120, 80}));
@@ -239,9 +237,9 @@ TEST_F(TextWatermark, PreviewDrawsTheMarkWhenItIsLookedAt)
 
 TEST_F(TextWatermark, PreviewKeepsTheSettingsOfItsMoment)
 {
-    const auto preview = mark.setWatermarkTextPreview(darkPhoto(QStringLiteral("a.jpg")));
+    const auto preview = mark.setWatermarkTextPreview(darkPhoto(u"a.jpg"_s));
 
-    panel.tvWaterMarkText.setStringValue(QStringLiteral(" "));
+    panel.tvWaterMarkText.setStringValue(u" "_s);
 
     EXPECT_EQ(preview->toQImage().pixel(60, 40), qRgb(255, 255, 255));
 }
@@ -250,7 +248,7 @@ TEST_F(TextWatermark, PreviewWithoutATextIsNothing)
 {
     panel.tvWaterMarkText.setStringValue({});
 
-    EXPECT_FALSE(mark.setWatermarkTextPreview(darkPhoto(QStringLiteral("a.jpg"))).has_value());
+    EXPECT_FALSE(mark.setWatermarkTextPreview(darkPhoto(u"a.jpg"_s)).has_value());
 }
 
 TEST_F(TextWatermark, IsCompressedAsTheLevelSays)
@@ -259,28 +257,28 @@ TEST_F(TextWatermark, IsCompressedAsTheLevelSays)
                               .size(160, 120)
                               .gradient()
                               .format(PhotoFormat::Png)
-                              .write(sources.path(QStringLiteral("a.png")));
+                              .write(sources.path(u"a.png"_s));
     const auto written = [&](const QString& level) {
         mark.setWatermarkText(
             {.photos = {photo},
              .destination = folder.path(),
-             .outputType = QStringLiteral("public.jpeg"),
+             .outputType = u"public.jpeg"_s,
              .compressionLevel = level,
              .fileNameText = {},
              .photoProperty = 0},
             sink
         );
-        return QFileInfo(folder.path(QStringLiteral("a.jpg"))).size();
+        return QFileInfo(folder.path(u"a.jpg"_s)).size();
     };
 
-    EXPECT_LT(written(QStringLiteral("1")), written(QStringLiteral("6")));
-    EXPECT_LT(written(QStringLiteral("6")), written(QStringLiteral("10")));
+    EXPECT_LT(written(u"1"_s), written(u"6"_s));
+    EXPECT_LT(written(u"6"_s), written(u"10"_s));
 }
 
 TEST_F(TextWatermark, PreviewStopsTheBar)
 {
-    const QString photo = darkPhoto(QStringLiteral("a.jpg"));
-    for (const QString& text : {QStringLiteral("a text"), QString()}) {
+    const QString photo = darkPhoto(u"a.jpg"_s);
+    for (const QString& text : {u"a text"_s, QString()}) {
         panel.tvWaterMarkText.setStringValue(text);
         bar.setHidden(false);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "marked_text.h"
 
+#include <platform/foundation/literals.h>
+
 #include <support/text_printing.h>
 
 #include <gtest/gtest.h>
@@ -51,7 +53,7 @@ class HardTextMark : public testing::TestWithParam<HardCase>
 {
 };
 
-QString longText() { return QStringLiteral("watermark ").repeated(1000); }
+QString longText() { return u"watermark "_s.repeated(1000); }
 
 } // namespace
 
@@ -92,8 +94,8 @@ INSTANTIATE_TEST_SUITE_P(
             .fontSize = 2000,
             .effect = TextEffect::Relief1},
         HardCase{.name = "MissingFont", .text = block(), .font = "No Such Font"},
-        HardCase{.name = "RightToLeft", .text = QStringLiteral("\u0634\u0645\u0633 1")},
-        HardCase{.name = "Emoji", .text = QStringLiteral("\U0001F600")},
+        HardCase{.name = "RightToLeft", .text = u"\u0634\u0645\u0633 1"_s},
+        HardCase{.name = "Emoji", .text = u"\U0001F600"_s},
         HardCase{.name = "NegativeFontSize", .text = block().repeated(9), .fontSize = -5}
     ),
     [](const auto& row) { return row.param.name; }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <watermark/kept_properties.h>
 
 #include <platform/metadata/image_properties.h>
@@ -31,35 +32,35 @@ protected:
 
 TEST_F(KeptProperties, AreReadOnceWhileTheFileStays)
 {
-    const QString path = PhotoBuilder().size(40, 20).write(folder.path(QStringLiteral("a.jpg")));
+    const QString path = PhotoBuilder().size(40, 20).write(folder.path(u"a.jpg"_s));
 
     const auto first = kept.of(path);
 
     EXPECT_EQ(kept.of(path), first);
-    EXPECT_EQ(widthOf(path), QStringLiteral("40"));
+    EXPECT_EQ(widthOf(path), u"40"_s);
 }
 
 TEST_F(KeptProperties, AreReadAnewWhenTheFileHasChanged)
 {
-    const QString path = PhotoBuilder().size(40, 20).write(folder.path(QStringLiteral("a.jpg")));
-    EXPECT_EQ(widthOf(path), QStringLiteral("40"));
+    const QString path = PhotoBuilder().size(40, 20).write(folder.path(u"a.jpg"_s));
+    EXPECT_EQ(widthOf(path), u"40"_s);
 
     PhotoBuilder().size(90, 70).write(path);
 
-    EXPECT_EQ(widthOf(path), QStringLiteral("90"));
+    EXPECT_EQ(widthOf(path), u"90"_s);
 }
 
 TEST_F(KeptProperties, AreThoseOfThePhotoAskedFor)
 {
-    const QString first = PhotoBuilder().size(40, 20).write(folder.path(QStringLiteral("a.jpg")));
-    const QString second = PhotoBuilder().size(50, 20).write(folder.path(QStringLiteral("b.jpg")));
+    const QString first = PhotoBuilder().size(40, 20).write(folder.path(u"a.jpg"_s));
+    const QString second = PhotoBuilder().size(50, 20).write(folder.path(u"b.jpg"_s));
 
-    EXPECT_EQ(widthOf(first), QStringLiteral("40"));
-    EXPECT_EQ(widthOf(second), QStringLiteral("50"));
-    EXPECT_EQ(widthOf(first), QStringLiteral("40"));
+    EXPECT_EQ(widthOf(first), u"40"_s);
+    EXPECT_EQ(widthOf(second), u"50"_s);
+    EXPECT_EQ(widthOf(first), u"40"_s);
 }
 
 TEST_F(KeptProperties, OfAnUnreadableFileAreEmpty)
 {
-    EXPECT_EQ(widthOf(folder.path(QStringLiteral("none.jpg"))), QString());
+    EXPECT_EQ(widthOf(folder.path(u"none.jpg"_s)), QString());
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text_watermark_fixture.h"
 
+#include <platform/foundation/literals.h>
+
 #include <support/case_name.h>
 #include <support/color_profiles.h>
 #include <support/pixel_probe.h>
@@ -51,12 +53,12 @@ TEST_P(MarkedPhotoKind, KeepsItsKindAndShowsAWhiteMark)
                               .depth(row.depth)
                               .solid({40, 40, 40, 128, 255})
                               .format(row.format)
-                              .write(sources.path(QStringLiteral("a.tif")));
+                              .write(sources.path(u"a.tif"_s));
     const platform::codecs::ImageHeader before = test::openedPhoto(photo).header();
 
     run({photo}, QString::fromLatin1(row.outputType));
 
-    ASSERT_EQ(done.value(0).word, QStringLiteral("OK"));
+    ASSERT_EQ(done.value(0).word, u"OK"_s);
     const platform::codecs::ImageHeader after = test::openedPhoto(done.value(0).target).header();
     EXPECT_EQ(after.bitsPerComponent, before.bitsPerComponent);
     EXPECT_EQ(after.colorModel, before.colorModel);
@@ -94,9 +96,9 @@ TEST_F(TextWatermark, OnACmykPhotoShowsTheColourThatWasPicked)
                               .model(PhotoModel::Cmyk)
                               .solid({200, 150, 20, 10})
                               .format(PhotoFormat::Tiff)
-                              .write(sources.path(QStringLiteral("a.tif")));
+                              .write(sources.path(u"a.tif"_s));
 
-    run({photo}, QStringLiteral("public.tiff"));
+    run({photo}, u"public.tiff"_s);
 
     const QRgb shown = test::storedPixels(done.value(0).target).pixel(middle);
     EXPECT_NEAR(qRed(shown), 153, 4);
@@ -117,11 +119,9 @@ TEST_F(TextWatermark, OnAGrayPhotoIsAsLightAsTheColourThatWasPicked)
         return storedComponents(done.last().target, middle)[0];
     };
 
+    EXPECT_NEAR(markOn(u"plain.png"_s, {}), test::grayOf(picked, test::srgb, 0), 1 / 255.0);
     EXPECT_NEAR(
-        markOn(QStringLiteral("plain.png"), {}), test::grayOf(picked, test::srgb, 0), 1 / 255.0
-    );
-    EXPECT_NEAR(
-        markOn(QStringLiteral("profile.png"), test::grayProfile()),
+        markOn(u"profile.png"_s, test::grayProfile()),
         test::grayOf(picked, test::srgb, 1.8),
         1 / 255.0
     );
@@ -158,7 +158,7 @@ TEST_P(MarkedWidePhoto, KeepsItsProfileAndHoldsThePickedColourInItsOwnNumbers)
                               .solid({40, 80, 120, 255})
                               .iccProfile(profile)
                               .format(PhotoFormat::Png)
-                              .write(sources.path(QStringLiteral("a.png")));
+                              .write(sources.path(u"a.png"_s));
 
     run({photo});
 

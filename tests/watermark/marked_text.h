@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <platform/foundation/literals.h>
 #include <watermark/text_mark.h>
 #include <watermark/text_overlay.h>
 
@@ -16,10 +17,10 @@ namespace brenvaldo::test {
 
 constexpr QRgb photoColor = qRgb(10, 20, 30);
 
-inline QFont blockFont() { return QFont(QStringLiteral("DejaVu Sans Mono")); }
+inline QFont blockFont() { return QFont(u"DejaVu Sans Mono"_s); }
 
 /// A glyph that is one rectangle.
-inline QString block() { return QStringLiteral("\u2588"); }
+inline QString block() { return u"\u2588"_s; }
 
 inline watermark::TextWatermarkSettings whiteBlock()
 {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <watermark/panel_actions.h>
 
 #include <controls/action_registry.h>
@@ -21,7 +22,7 @@ protected:
     void send(const char* action)
     {
         ASSERT_EQ(
-            actions.send(QStringLiteral("DVWatermark.") + QString::fromLatin1(action)),
+            actions.send(u"DVWatermark."_s + QString::fromLatin1(action)),
             controls::ActionRegistry::Sent::Done
         );
     }
@@ -97,26 +98,27 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(WatermarkPanelActions, InsertTheSelectedToken)
 {
-    panel.tvWaterMarkText.setStringValue(QStringLiteral("by "));
+    panel.tvWaterMarkText.setStringValue(u"by "_s);
     panel.pubPhotoProperties.selectItemAtIndex(9);
 
     send("hInsertPhotoProperty");
 
-    EXPECT_EQ(panel.tvWaterMarkText.stringValue(), QStringLiteral("by <[IPTCCREA]>"));
+    EXPECT_EQ(panel.tvWaterMarkText.stringValue(), u"by <[IPTCCREA]>"_s);
 }
 
 TEST_F(WatermarkPanelActions, InsertNothingWithoutASelectionAndStillPost)
 {
     int posted = 0;
-    const auto subscription = notifications.addObserver(
-        QStringLiteral("cbTextWatermarkMetaDataEntred"), [&](const QString&) { ++posted; }
-    );
-    panel.tvWaterMarkText.setStringValue(QStringLiteral("by "));
+    const auto subscription
+        = notifications.addObserver(u"cbTextWatermarkMetaDataEntred"_s, [&](const QString&) {
+              ++posted;
+          });
+    panel.tvWaterMarkText.setStringValue(u"by "_s);
     panel.pubPhotoProperties.selectItemAtIndex(-1);
 
     send("hInsertPhotoProperty");
 
-    EXPECT_EQ(panel.tvWaterMarkText.stringValue(), QStringLiteral("by "));
+    EXPECT_EQ(panel.tvWaterMarkText.stringValue(), u"by "_s);
     EXPECT_EQ(posted, 1);
 }
 
@@ -201,14 +203,14 @@ TEST_F(WatermarkPanelActions, AlignTheTextViewLikeTheMark)
 TEST_F(WatermarkPanelActions, FixTheScaleForTheOtherSizes)
 {
     for (const int row : {-1, 3, 4}) {
-        panel.tfImageScalePC.setStringValue(QStringLiteral("40"));
+        panel.tfImageScalePC.setStringValue(u"40"_s);
         panel.tfImageScalePC.setEnabled(true);
         panel.cbPatternCheck.setState(1);
         panel.mxImageScaleProperty.selectRow(row);
 
         send("hImageWatermarkSizeEntred");
 
-        EXPECT_EQ(panel.tfImageScalePC.stringValue(), QStringLiteral("100")) << row;
+        EXPECT_EQ(panel.tfImageScalePC.stringValue(), u"100"_s) << row;
         EXPECT_FALSE(panel.tfImageScalePC.isEnabled()) << row;
         EXPECT_EQ(panel.cbPatternCheck.state(), 0) << row;
     }
@@ -217,14 +219,14 @@ TEST_F(WatermarkPanelActions, FixTheScaleForTheOtherSizes)
 TEST_F(WatermarkPanelActions, LeaveTheScaleToTheSizesThatHaveOne)
 {
     for (const int row : {0, 1, 2}) {
-        panel.tfImageScalePC.setStringValue(QStringLiteral("40"));
+        panel.tfImageScalePC.setStringValue(u"40"_s);
         panel.tfImageScalePC.setEnabled(false);
         panel.cbPatternCheck.setState(1);
         panel.mxImageScaleProperty.selectRow(row);
 
         send("hImageWatermarkSizeEntred");
 
-        EXPECT_EQ(panel.tfImageScalePC.stringValue(), QStringLiteral("40")) << row;
+        EXPECT_EQ(panel.tfImageScalePC.stringValue(), u"40"_s) << row;
         EXPECT_TRUE(panel.tfImageScalePC.isEnabled()) << row;
         EXPECT_EQ(panel.cbPatternCheck.state(), 1) << row;
     }

@@ -2,6 +2,7 @@
 #include "marked_text.h"
 
 #include <platform/codecs/image_destination.h>
+#include <platform/foundation/literals.h>
 
 #include <support/case_name.h>
 #include <support/color_profiles.h>
@@ -48,14 +49,14 @@ protected:
         });
         if (row.isWide)
             builder.iccProfile(wideProfile());
-        const QString path = builder.write(folder.path(QStringLiteral("photo.tif")));
+        const QString path = builder.write(folder.path(u"photo.tif"_s));
         return openedPhoto(path).image()->scaledTo({160, 120}).copiedToMemory().value();
     }
 
     /// All samples, whatever their depth and colour model.
     [[nodiscard]] QByteArray samplesOf(const platform::graphics::Image& image) const
     {
-        const QString path = folder.path(QStringLiteral("samples.tiff"));
+        const QString path = folder.path(u"samples.tiff"_s);
         if (!platform::codecs::encode(image, platform::codecs::FileFormat::Tiff, {}, path))
             return {};
         QFile file(path);
@@ -122,9 +123,9 @@ TEST(TextFill, OfAWideGamutPhotoIsAsSaturatedAsThePhoto)
                              .solid({0, 255, 0})
                              .iccProfile(wideProfile())
                              .format(PhotoFormat::Png)
-                             .write(folder.path(QStringLiteral("a.png")));
+                             .write(folder.path(u"a.png"_s));
     const platform::graphics::Image photo = openedPhoto(path).image()->copiedToMemory().value();
-    const QString target = folder.path(QStringLiteral("b.png"));
+    const QString target = folder.path(u"b.png"_s);
 
     ASSERT_TRUE(platform::codecs::encode(
         marked(blockOfThePhoto(40, centre), photo), platform::codecs::FileFormat::Png, {}, target
@@ -141,11 +142,11 @@ TEST(TextFill, InBlackAndWhiteHasTheLevelsOfADeepPhoto)
                              .depth(16)
                              .solid({200, 100, 50})
                              .format(PhotoFormat::Png)
-                             .write(folder.path(QStringLiteral("a.png")));
+                             .write(folder.path(u"a.png"_s));
     const platform::graphics::Image photo = openedPhoto(path).image()->copiedToMemory().value();
     TextWatermarkSettings settings = blockOfThePhoto(40, centre);
     settings.effect = TextEffect::NoirPhoto;
-    const QString target = folder.path(QStringLiteral("b.png"));
+    const QString target = folder.path(u"b.png"_s);
 
     ASSERT_TRUE(platform::codecs::encode(
         marked(settings, photo), platform::codecs::FileFormat::Png, {}, target
@@ -265,7 +266,7 @@ TEST(TextFill, OfADamagedPhotoLeavesNoMark)
     const TemporaryFolder folder;
     const QByteArray whole
         = PhotoBuilder().size(400, 300).gradient().format(PhotoFormat::Jpeg).bytes();
-    const QString path = folder.write(QStringLiteral("a.jpg"), whole.left(whole.size() / 2));
+    const QString path = folder.write(u"a.jpg"_s, whole.left(whole.size() / 2));
     const auto photo = openedPhoto(path).uprightImage(
         {.access = platform::codecs::ImageSource::Access::Random, .atLeast = {}}
     );

@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::watermark;
 using namespace brenvaldo::test;
 
@@ -27,14 +28,14 @@ PhotoBuilder photoWithIptc(const QByteArray& dataSets)
 
 PlaceholderValue valuesOf(const QString& path)
 {
-    return placeholderValuesOf(path, u"new.jpg"_qs, std::make_shared<KeptProperties>());
+    return placeholderValuesOf(path, u"new.jpg"_s, std::make_shared<KeptProperties>());
 }
 
 /// `typed` with the tokens replaced by the values of the photo.
 QString shown(const QString& typed, const PhotoBuilder& photo)
 {
     const TemporaryFolder folder;
-    const QString path = photo.write(folder.path(QStringLiteral("photo")));
+    const QString path = photo.write(folder.path(u"photo"_s));
     return replacingPlaceholders(typed, valuesOf(path));
 }
 
@@ -75,10 +76,7 @@ PhotoBuilder photoOfEverything()
         );
 }
 
-QString token(const char* keyword)
-{
-    return QStringLiteral("<[%1]>").arg(QString::fromLatin1(keyword));
-}
+QString token(const char* keyword) { return u"<[%1]>"_s.arg(QString::fromLatin1(keyword)); }
 
 } // namespace
 
@@ -91,23 +89,23 @@ INSTANTIATE_TEST_SUITE_P(
     Tokens,
     PlaceholderOfAPhoto,
     testing::Values(
-        ValueCase{"Date", token("IMGCD"), photoOfEverything(), u"2026:11:15 10:44:33"_qs},
-        ValueCase{"Comment", token("IMGEUC"), photoOfEverything(), u"hello"_qs},
-        ValueCase{"StoredWidth", token("IMGW"), photoOfEverything(), u"61"_qs},
-        ValueCase{"StoredHeight", token("IMGH"), photoOfEverything(), u"23"_qs},
-        ValueCase{"Resolution", token("IMGDPI"), photoOfEverything(), u"300"_qs},
-        ValueCase{"OutputName", token("IMGFN"), photoOfEverything(), u"new.jpg"_qs},
-        ValueCase{"ColourModel", token("IMGCM"), photoOfEverything(), u"RGB"_qs},
-        ValueCase{"Profile", token("IMGCP"), photoOfEverything(), u"RGB built-in"_qs},
-        ValueCase{"Depth", token("IMGD"), photoOfEverything(), u"8"_qs},
-        ValueCase{"FirstCreator", token("IPTCCREA"), photoOfEverything(), u"Jane"_qs},
-        ValueCase{"FirstJobTitle", token("IPTCFUNC"), photoOfEverything(), u"Editor"_qs},
-        ValueCase{"Caption", token("IPTCCAP"), photoOfEverything(), u"a caption"_qs},
-        ValueCase{"Copyright", token("IPTCCOPY"), photoOfEverything(), u"\u00a9 Jane"_qs},
-        ValueCase{"Headline", token("IPTCHEAD"), photoOfEverything(), u"News"_qs},
-        ValueCase{"Keywords", token("IPTCKEYW"), photoOfEverything(), u"a; b"_qs},
-        ValueCase{"Title", token("IPTCNAME"), photoOfEverything(), u"a title"_qs},
-        ValueCase{"Source", token("IPTCSOUR"), photoOfEverything(), u"an agency"_qs},
+        ValueCase{"Date", token("IMGCD"), photoOfEverything(), u"2026:11:15 10:44:33"_s},
+        ValueCase{"Comment", token("IMGEUC"), photoOfEverything(), u"hello"_s},
+        ValueCase{"StoredWidth", token("IMGW"), photoOfEverything(), u"61"_s},
+        ValueCase{"StoredHeight", token("IMGH"), photoOfEverything(), u"23"_s},
+        ValueCase{"Resolution", token("IMGDPI"), photoOfEverything(), u"300"_s},
+        ValueCase{"OutputName", token("IMGFN"), photoOfEverything(), u"new.jpg"_s},
+        ValueCase{"ColourModel", token("IMGCM"), photoOfEverything(), u"RGB"_s},
+        ValueCase{"Profile", token("IMGCP"), photoOfEverything(), u"RGB built-in"_s},
+        ValueCase{"Depth", token("IMGD"), photoOfEverything(), u"8"_s},
+        ValueCase{"FirstCreator", token("IPTCCREA"), photoOfEverything(), u"Jane"_s},
+        ValueCase{"FirstJobTitle", token("IPTCFUNC"), photoOfEverything(), u"Editor"_s},
+        ValueCase{"Caption", token("IPTCCAP"), photoOfEverything(), u"a caption"_s},
+        ValueCase{"Copyright", token("IPTCCOPY"), photoOfEverything(), u"\u00a9 Jane"_s},
+        ValueCase{"Headline", token("IPTCHEAD"), photoOfEverything(), u"News"_s},
+        ValueCase{"Keywords", token("IPTCKEYW"), photoOfEverything(), u"a; b"_s},
+        ValueCase{"Title", token("IPTCNAME"), photoOfEverything(), u"a title"_s},
+        ValueCase{"Source", token("IPTCSOUR"), photoOfEverything(), u"an agency"_s},
         ValueCase{
             "Terms",
             token("IPTCTERM"),
@@ -118,20 +116,20 @@ INSTANTIATE_TEST_SUITE_P(
                 "<xmpRights:UsageTerms><rdf:Alt><rdf:li xml:lang='x-default'>ask</rdf:li></rdf:Alt>"
                 "</xmpRights:UsageTerms></rdf:Description></rdf:RDF></x:xmpmeta>"
             ),
-            u"ask"_qs},
-        ValueCase{"SameTwice", u"<[IMGW]> or <[IMGW]>"_qs, photoOfEverything(), u"61 or 61"_qs}
+            u"ask"_s},
+        ValueCase{"SameTwice", u"<[IMGW]> or <[IMGW]>"_s, photoOfEverything(), u"61 or 61"_s}
     ),
     CaseName()
 );
 
 TEST(PlaceholderOfAPhoto, VanishesInAPhotoWithoutExif)
 {
-    EXPECT_EQ(shown(u"(<[IMGCD]><[IMGEUC]>)"_qs, PhotoBuilder{}), u"()"_qs);
+    EXPECT_EQ(shown(u"(<[IMGCD]><[IMGEUC]>)"_s, PhotoBuilder{}), u"()"_s);
 }
 
 TEST(PlaceholderOfAPhoto, OfIptcVanishesInAPhotoWithoutIptc)
 {
-    EXPECT_EQ(shown(u"(<[IPTCCREA]><[IPTCKEYW]><[IPTCTERM]>)"_qs, PhotoBuilder{}), u"()"_qs);
+    EXPECT_EQ(shown(u"(<[IPTCCREA]><[IPTCKEYW]><[IPTCTERM]>)"_s, PhotoBuilder{}), u"()"_s);
 }
 
 TEST(PlaceholderOfAPhoto, StaysAsItWasTypedForAnEmptyComment)
@@ -139,14 +137,14 @@ TEST(PlaceholderOfAPhoto, StaysAsItWasTypedForAnEmptyComment)
     const PhotoBuilder photo
         = PhotoBuilder{}.exif(exifBlock({.make = "Maker", .userComment = comment("")}));
 
-    EXPECT_EQ(shown(u"(<[IMGEUC]>)"_qs, photo), u"(<[IMGEUC]>)"_qs);
+    EXPECT_EQ(shown(u"(<[IMGEUC]>)"_s, photo), u"(<[IMGEUC]>)"_s);
 }
 
 TEST(PlaceholderOfAPhoto, VanishesForAMissingComment)
 {
     const PhotoBuilder photo = PhotoBuilder{}.exif(exifBlock({.make = "Maker"}));
 
-    EXPECT_EQ(shown(u"(<[IMGEUC]>)"_qs, photo), u"()"_qs);
+    EXPECT_EQ(shown(u"(<[IMGEUC]>)"_s, photo), u"()"_s);
 }
 
 TEST(PlaceholderOfAPhoto, StaysForAnEmptyCaptionAndAnEmptyFirstCreator)
@@ -155,19 +153,19 @@ TEST(PlaceholderOfAPhoto, StaysForAnEmptyCaptionAndAnEmptyFirstCreator)
         iptcDataSet(120, "") + iptcDataSet(80, "") + iptcDataSet(80, "Joe") + iptcDataSet(25, "")
     );
 
-    EXPECT_EQ(shown(u"<[IPTCCAP]>"_qs, photo), u"<[IPTCCAP]>"_qs);
-    EXPECT_EQ(shown(u"<[IPTCCREA]>"_qs, photo), u"<[IPTCCREA]>"_qs);
-    EXPECT_EQ(shown(u"<[IPTCKEYW]>"_qs, photo), u"<[IPTCKEYW]>"_qs);
+    EXPECT_EQ(shown(u"<[IPTCCAP]>"_s, photo), u"<[IPTCCAP]>"_s);
+    EXPECT_EQ(shown(u"<[IPTCCREA]>"_s, photo), u"<[IPTCCREA]>"_s);
+    EXPECT_EQ(shown(u"<[IPTCKEYW]>"_s, photo), u"<[IPTCKEYW]>"_s);
 }
 
 TEST(PlaceholderOfAPhoto, OfTheResolutionVanishesWhenTheFileStatesNone)
 {
-    EXPECT_EQ(shown(u"(<[IMGDPI]>)"_qs, PhotoBuilder{}.format(PhotoFormat::Gif)), u"()"_qs);
+    EXPECT_EQ(shown(u"(<[IMGDPI]>)"_s, PhotoBuilder{}.format(PhotoFormat::Gif)), u"()"_s);
 }
 
 TEST(PlaceholderOfAPhoto, VanishesForAFileThatCannotBeRead)
 {
-    const auto values = valuesOf(u"/no/such/photo.jpg"_qs);
+    const auto values = valuesOf(u"/no/such/photo.jpg"_s);
 
-    EXPECT_EQ(replacingPlaceholders(u"(<[IMGW]><[IMGCD]>)"_qs, values), u"()"_qs);
+    EXPECT_EQ(replacingPlaceholders(u"(<[IMGW]><[IMGCD]>)"_s, values), u"()"_s);
 }

@@ -7,6 +7,7 @@
 
 #include <QHash>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::watermark;
 
 namespace {
@@ -30,69 +31,52 @@ TEST(Placeholders, AreEighteenInTheOrderOfThePopUp)
 
     EXPECT_EQ(
         tokens.join(QLatin1Char(' ')),
-        QStringLiteral("<[IMGCD]> <[IMGEUC]> <[IMGW]> <[IMGH]> <[IMGDPI]> <[IMGFN]> <[IMGCM]> "
-                       "<[IMGCP]> <[IMGD]> <[IPTCCREA]> <[IPTCFUNC]> <[IPTCCAP]> <[IPTCCOPY]> "
-                       "<[IPTCHEAD]> <[IPTCKEYW]> <[IPTCNAME]> <[IPTCSOUR]> <[IPTCTERM]>")
+        u"<[IMGCD]> <[IMGEUC]> <[IMGW]> <[IMGH]> <[IMGDPI]> <[IMGFN]> <[IMGCM]> "
+        u"<[IMGCP]> <[IMGD]> <[IPTCCREA]> <[IPTCFUNC]> <[IPTCCAP]> <[IPTCCOPY]> "
+        u"<[IPTCHEAD]> <[IPTCKEYW]> <[IPTCNAME]> <[IPTCSOUR]> <[IPTCTERM]>"_s
     );
 }
 
 TEST(Placeholders, VanishWhenTheirValueIsMissing)
 {
-    EXPECT_EQ(replaced(QStringLiteral("a<[IMGCD]>b<[IMGEUC]>c"), {}), QStringLiteral("abc"));
+    EXPECT_EQ(replaced(u"a<[IMGCD]>b<[IMGEUC]>c"_s, {}), u"abc"_s);
 }
 
 TEST(Placeholders, StayWhenAnExifValueIsEmpty)
 {
-    EXPECT_EQ(
-        replaced(QStringLiteral("<[IMGEUC]>!"), {{QStringLiteral("UserComment"), QString()}}),
-        QStringLiteral("<[IMGEUC]>!")
-    );
+    EXPECT_EQ(replaced(u"<[IMGEUC]>!"_s, {{u"UserComment"_s, QString()}}), u"<[IMGEUC]>!"_s);
 }
 
 TEST(Placeholders, VanishWhenATopValueIsEmpty)
 {
-    EXPECT_EQ(
-        replaced(QStringLiteral("<[IMGCP]>!"), {{QStringLiteral("ProfileName"), QString()}}),
-        QStringLiteral("!")
-    );
+    EXPECT_EQ(replaced(u"<[IMGCP]>!"_s, {{u"ProfileName"_s, QString()}}), u"!"_s);
 }
 
 TEST(Placeholders, AreReplacedEverywhere)
 {
     EXPECT_EQ(
-        replaced(
-            QStringLiteral("<[IMGW]> and <[IMGW]>"),
-            {{QStringLiteral("PixelWidth"), QStringLiteral("640")}}
-        ),
-        QStringLiteral("640 and 640")
+        replaced(u"<[IMGW]> and <[IMGW]>"_s, {{u"PixelWidth"_s, u"640"_s}}), u"640 and 640"_s
     );
 }
 
 TEST(Placeholders, ShowTheOutputName)
 {
-    EXPECT_EQ(
-        replaced(QStringLiteral("<[IMGFN]>"), {{QString(), QStringLiteral("new.jpg")}}),
-        QStringLiteral("new.jpg")
-    );
+    EXPECT_EQ(replaced(u"<[IMGFN]>"_s, {{QString(), u"new.jpg"_s}}), u"new.jpg"_s);
 }
 
 TEST(Placeholders, InsideOfAValueStayUnlessTypedAndLater)
 {
     const QHash<QString, QString> values{
-        {QStringLiteral("UserComment"), QStringLiteral("<[IMGW]>")},
-        {QStringLiteral("PixelWidth"), QStringLiteral("640")}};
+        {u"UserComment"_s, u"<[IMGW]>"_s}, {u"PixelWidth"_s, u"640"_s}};
 
-    EXPECT_EQ(replaced(QStringLiteral("<[IMGEUC]>"), values), QStringLiteral("<[IMGW]>"));
-    EXPECT_EQ(replaced(QStringLiteral("<[IMGEUC]> <[IMGW]>"), values), QStringLiteral("640 640"));
+    EXPECT_EQ(replaced(u"<[IMGEUC]>"_s, values), u"<[IMGW]>"_s);
+    EXPECT_EQ(replaced(u"<[IMGEUC]> <[IMGW]>"_s, values), u"640 640"_s);
 }
 
 TEST(Placeholders, InsideOfAValueThatComeEarlierStay)
 {
     const QHash<QString, QString> values{
-        {QStringLiteral("UserComment"), QStringLiteral("x")},
-        {QStringLiteral("Headline"), QStringLiteral("<[IMGEUC]>")}};
+        {u"UserComment"_s, u"x"_s}, {u"Headline"_s, u"<[IMGEUC]>"_s}};
 
-    EXPECT_EQ(
-        replaced(QStringLiteral("<[IMGEUC]> <[IPTCHEAD]>"), values), QStringLiteral("x <[IMGEUC]>")
-    );
+    EXPECT_EQ(replaced(u"<[IMGEUC]> <[IPTCHEAD]>"_s, values), u"x <[IMGEUC]>"_s);
 }

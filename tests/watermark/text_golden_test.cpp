@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <watermark/text_mark.h>
 
 #include <platform/graphics/image.h>
@@ -43,7 +44,7 @@ TEST_P(TextMarkLook, IsThatOfTheGoldenPicture)
 {
     const LookCase& row = GetParam();
     TextWatermarkSettings settings;
-    settings.text = QStringLiteral("Abg");
+    settings.text = u"Abg"_s;
     settings.fontSize = 44;
     settings.isBold = true;
     settings.fontColor = {.red = 1, .green = 0.9, .blue = 0.3};
@@ -60,13 +61,11 @@ TEST_P(TextMarkLook, IsThatOfTheGoldenPicture)
 
     const QImage marked
         = platform::drawing::stamped(
-              photo, textMark(settings, settings.text, QFont(QStringLiteral("DejaVu Sans")), photo)
+              photo, textMark(settings, settings.text, QFont(u"DejaVu Sans"_s), photo)
         )
               .toQImage();
 
-    EXPECT_TRUE(
-        test::looksLike(marked, QStringLiteral("watermark/") + QString::fromLatin1(row.name))
-    );
+    EXPECT_TRUE(test::looksLike(marked, u"watermark/"_s + QString::fromLatin1(row.name)));
 }
 
 INSTANTIATE_TEST_SUITE_P(

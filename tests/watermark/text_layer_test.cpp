@@ -2,6 +2,7 @@
 #include "marked_text.h"
 
 #include <imaging/dv_image_handling.h>
+#include <platform/foundation/literals.h>
 #include <support/pixel_probe.h>
 
 #include <gtest/gtest.h>
@@ -15,7 +16,7 @@ namespace {
 QImage turnedLayer(int angle)
 {
     watermark::TextWatermarkSettings settings = whiteBlock();
-    settings.text = QStringLiteral("Abc");
+    settings.text = u"Abc"_s;
     settings.fontSize = 60;
     settings.placement.angle = angle;
     return wholeLayer(overlayOf(settings));

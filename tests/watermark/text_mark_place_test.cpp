@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "marked_text.h"
 
+#include <platform/foundation/literals.h>
+
 #include <support/pixel_probe.h>
 #include <support/text_printing.h>
 
@@ -139,7 +141,7 @@ TEST(TextMark, TruncatesTheHalfOfAnOddRoomTowardZero)
 TEST(TextMark, LargerThanThePhotoIsCutAtTheAnchoredSide)
 {
     TextWatermarkSettings settings = whiteBlock();
-    settings.text = block() + QStringLiteral("  ");
+    settings.text = block() + u"  "_s;
     settings.placement.anchor = 3;
     const platform::graphics::PixelSize layer = overlayOf(settings).size();
 

@@ -2,6 +2,7 @@
 #include "marked_text.h"
 
 #include <platform/filters/photo_effect.h>
+#include <platform/foundation/literals.h>
 #include <support/case_name.h>
 #include <support/text_printing.h>
 
@@ -96,7 +97,7 @@ TEST(TextMark, OutlinesAreAsWideAsTheTableSays)
     constexpr std::array widths{0.5, 1.0, 3.0, 5.0, 7.0, 7.0};
     constexpr int fontSize = 400;
     TextWatermarkSettings settings = whiteBlock();
-    settings.text = QStringLiteral(" \u25a0 ");
+    settings.text = u" \u25a0 "_s;
     settings.fontSize = fontSize;
     settings.placement.anchor = 4;
     for (std::size_t index = 0; index < widths.size(); ++index) {
@@ -115,11 +116,11 @@ TEST(TextMark, OutlinesAreAsWideAsTheTableSays)
 TEST(TextMark, IsOneBlankWiderWhenItIsItalic)
 {
     TextWatermarkSettings settings = whiteBlock();
-    settings.text = QStringLiteral("AB");
+    settings.text = u"AB"_s;
     const int upright = overlayOf(settings).size().width;
-    settings.text = QStringLiteral("AB ");
+    settings.text = u"AB "_s;
     const int withBlank = overlayOf(settings).size().width;
-    settings.text = QStringLiteral("AB");
+    settings.text = u"AB"_s;
     settings.isItalic = true;
 
     EXPECT_GT(withBlank, upright);
@@ -129,7 +130,7 @@ TEST(TextMark, IsOneBlankWiderWhenItIsItalic)
 TEST(TextMark, OutlinesAreHollow)
 {
     TextWatermarkSettings settings = whiteBlock();
-    settings.text = QStringLiteral("\u25a0"); // a square in the middle of the line
+    settings.text = u"\u25a0"_s; // a square in the middle of the line
     settings.fontSize = 60;
     settings.placement.anchor = 4;
     const QRect filled = changedBox(markedPhoto(settings));
@@ -305,7 +306,7 @@ class TextMarkAttribute : public testing::TestWithParam<AttributeCase>
 TEST_P(TextMarkAttribute, ChangesTheLayer)
 {
     TextWatermarkSettings settings = whiteBlock();
-    settings.text = QStringLiteral("A text\nof lines");
+    settings.text = u"A text\nof lines"_s;
     const QImage plain = wholeLayer(overlayOf(settings));
 
     GetParam().set(settings);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "marked_text.h"
 
+#include <platform/foundation/literals.h>
+
 #include <support/pixel_probe.h>
 #include <support/text_printing.h>
 
@@ -105,7 +107,7 @@ TEST_P(TextMarkTiles, CoverThePhotoPixelByPixel)
 {
     const TilesCase& row = GetParam();
     TextWatermarkSettings settings = tiledBlock(row.xOffset, row.yOffset);
-    settings.text = QStringLiteral("A") + block();
+    settings.text = u"A"_s + block();
     settings.placement.angle = row.angle;
     settings.opacity = row.opacity;
     settings.effect = row.effect;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <platform/foundation/literals.h>
 #include <watermark/dv_watermark.h>
 
 #include <panels/watermark_panel.h>
@@ -22,22 +23,22 @@ class TextWatermark : public testing::Test
 protected:
     TextWatermark()
     {
-        panel.cbFontList.setTitles({QStringLiteral("DejaVu Sans Mono")});
-        panel.tvWaterMarkText.setStringValue(QStringLiteral("\u2588\u2588"));
-        panel.tfFontSize.setStringValue(QStringLiteral("20"));
-        panel.tfFontTransparancy.setStringValue(QStringLiteral("0"));
+        panel.cbFontList.setTitles({u"DejaVu Sans Mono"_s});
+        panel.tvWaterMarkText.setStringValue(u"\u2588\u2588"_s);
+        panel.tfFontSize.setStringValue(u"20"_s);
+        panel.tfFontTransparancy.setStringValue(u"0"_s);
         panel.scWaterMarkPos.setSelectedSegment(4);
     }
 
     ~TextWatermark() override { platform::setLogSink({}); }
 
-    QString run(const QStringList& photos, const QString& outputType = QStringLiteral("public.png"))
+    QString run(const QStringList& photos, const QString& outputType = u"public.png"_s)
     {
         return mark.setWatermarkText(
             {.photos = photos,
              .destination = folder.path(),
              .outputType = outputType,
-             .compressionLevel = QStringLiteral("9"),
+             .compressionLevel = u"9"_s,
              .fileNameText = {},
              .photoProperty = 0},
             sink
@@ -52,7 +53,7 @@ protected:
     TemporaryFolder sources;
     TemporaryFolder folder;
     panels::WatermarkPanel panel;
-    controls::ProgressIndicator bar{QStringLiteral("bar")};
+    controls::ProgressIndicator bar{u"bar"_s};
     QString chainPrefix;
     SavingSink sink;
     const QList<FinishedPhoto>& done = sink.done;

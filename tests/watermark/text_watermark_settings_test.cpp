@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <watermark/text_watermark_settings.h>
 
 #include <panels/watermark_panel.h>
@@ -13,17 +14,17 @@ using namespace brenvaldo::watermark;
 TEST(TextWatermarkSettings, SelectTheFirstFontWhenNoneIs)
 {
     panels::WatermarkPanel panel;
-    panel.cbFontList.setTitles({QStringLiteral("Alpha"), QStringLiteral("Beta")});
+    panel.cbFontList.setTitles({u"Alpha"_s, u"Beta"_s});
     panel.cbFontList.selectItemAtIndex(-1);
 
-    EXPECT_EQ(readSettings(panel).fontName, QStringLiteral("Alpha"));
+    EXPECT_EQ(readSettings(panel).fontName, u"Alpha"_s);
     EXPECT_EQ(panel.cbFontList.indexOfSelectedItem(), 0);
 }
 
 TEST(TextWatermarkSettings, TakeAFontSizeOfZeroAsTwentyFour)
 {
     panels::WatermarkPanel panel;
-    panel.tfFontSize.setStringValue(QStringLiteral("0"));
+    panel.tfFontSize.setStringValue(u"0"_s);
 
     EXPECT_EQ(readSettings(panel).fontSize, 24);
 }
@@ -31,12 +32,12 @@ TEST(TextWatermarkSettings, TakeAFontSizeOfZeroAsTwentyFour)
 TEST(TextWatermarkSettings, ReadEachControl)
 {
     panels::WatermarkPanel panel;
-    panel.tvWaterMarkText.setStringValue(QStringLiteral("A text"));
-    panel.cbFontList.setTitles({QStringLiteral("Alpha"), QStringLiteral("Beta")});
+    panel.tvWaterMarkText.setStringValue(u"A text"_s);
+    panel.cbFontList.setTitles({u"Alpha"_s, u"Beta"_s});
     panel.cbFontList.selectItemAtIndex(1);
-    panel.tfFontSize.setStringValue(QStringLiteral("31"));
-    panel.tfKerning.setStringValue(QStringLiteral("-3"));
-    panel.tfLeading.setStringValue(QStringLiteral("17"));
+    panel.tfFontSize.setStringValue(u"31"_s);
+    panel.tfKerning.setStringValue(u"-3"_s);
+    panel.tfLeading.setStringValue(u"17"_s);
     panel.cbFontBold.setState(1);
     panel.cbFontItalic.setState(1);
     panel.pubTxtUnderline.selectItemAtIndex(1);
@@ -45,23 +46,23 @@ TEST(TextWatermarkSettings, ReadEachControl)
     panel.pubOutlineThickness.selectItemAtIndex(3);
     panel.cwFontColor.setColor({.red = 0.1, .green = 0.2, .blue = 0.3});
     panel.cwEmbossColor.setColor({.red = 0.4, .green = 0.5, .blue = 0.6, .alpha = 0.25});
-    panel.tfFontTransparancy.setStringValue(QStringLiteral("80"));
+    panel.tfFontTransparancy.setStringValue(u"80"_s);
     panel.cbShadowCheck.setState(1);
     panel.cwShadowColor.setColor({.red = 0.7, .green = 0.8, .blue = 0.9});
-    panel.tfTextShadowXOffset.setStringValue(QStringLiteral("5"));
-    panel.tfTextShadowYOffset.setStringValue(QStringLiteral("-6"));
-    panel.tfTextShadowRadius.setStringValue(QStringLiteral("7"));
+    panel.tfTextShadowXOffset.setStringValue(u"5"_s);
+    panel.tfTextShadowYOffset.setStringValue(u"-6"_s);
+    panel.tfTextShadowRadius.setStringValue(u"7"_s);
     panel.pubWatermarkTextEffect.selectItemAtIndex(4);
     panel.scWaterMarkPos.setSelectedSegment(3);
-    panel.tfXOffset.setStringValue(QStringLiteral("11"));
-    panel.tfYOffset.setStringValue(QStringLiteral("-12"));
-    panel.tfWMAngle.setStringValue(QStringLiteral("-13"));
+    panel.tfXOffset.setStringValue(u"11"_s);
+    panel.tfYOffset.setStringValue(u"-12"_s);
+    panel.tfWMAngle.setStringValue(u"-13"_s);
     panel.cbTextPatternCheck.setState(1);
 
     const TextWatermarkSettings settings = readSettings(panel);
 
-    EXPECT_EQ(settings.text, QStringLiteral("A text"));
-    EXPECT_EQ(settings.fontName, QStringLiteral("Beta"));
+    EXPECT_EQ(settings.text, u"A text"_s);
+    EXPECT_EQ(settings.fontName, u"Beta"_s);
     EXPECT_EQ(settings.fontSize, 31);
     EXPECT_EQ(settings.kerning, -3);
     EXPECT_EQ(settings.leading, 17);
@@ -111,11 +112,11 @@ TEST(TextWatermarkSettings, ReplaceShadowOffsetsOfZeroOneByOne)
 {
     panels::WatermarkPanel panel;
     panel.cbShadowCheck.setState(1);
-    panel.tfTextShadowXOffset.setStringValue(QStringLiteral("0"));
-    panel.tfTextShadowYOffset.setStringValue(QStringLiteral("-7"));
+    panel.tfTextShadowXOffset.setStringValue(u"0"_s);
+    panel.tfTextShadowYOffset.setStringValue(u"-7"_s);
     const auto first = readSettings(panel).shadow;
-    panel.tfTextShadowXOffset.setStringValue(QStringLiteral("9"));
-    panel.tfTextShadowYOffset.setStringValue(QStringLiteral("0"));
+    panel.tfTextShadowXOffset.setStringValue(u"9"_s);
+    panel.tfTextShadowYOffset.setStringValue(u"0"_s);
     const auto second = readSettings(panel).shadow;
 
     EXPECT_EQ(first->xOffset, 2);
@@ -133,18 +134,18 @@ TEST(TextWatermarkSettings, TakeAShadowRadiusBelowTwoAsOne)
         return readSettings(panel).shadow->blurRadius;
     };
 
-    EXPECT_EQ(radius(QStringLiteral("-3")), 1);
-    EXPECT_EQ(radius(QStringLiteral("0")), 1);
-    EXPECT_EQ(radius(QStringLiteral("1")), 1);
-    EXPECT_EQ(radius(QStringLiteral("2")), 2);
+    EXPECT_EQ(radius(u"-3"_s), 1);
+    EXPECT_EQ(radius(u"0"_s), 1);
+    EXPECT_EQ(radius(u"1"_s), 1);
+    EXPECT_EQ(radius(u"2"_s), 2);
 }
 
 TEST(TextWatermarkSettings, KeepShadowOffsetsCountable)
 {
     panels::WatermarkPanel panel;
     panel.cbShadowCheck.setState(1);
-    panel.tfTextShadowXOffset.setStringValue(QStringLiteral("2147483647"));
-    panel.tfTextShadowYOffset.setStringValue(QStringLiteral("-2147483648"));
+    panel.tfTextShadowXOffset.setStringValue(u"2147483647"_s);
+    panel.tfTextShadowYOffset.setStringValue(u"-2147483648"_s);
 
     const auto shadow = readSettings(panel).shadow;
 
@@ -155,8 +156,8 @@ TEST(TextWatermarkSettings, KeepShadowOffsetsCountable)
 TEST(TextWatermarkSettings, KeepOffsetsOfTheMarkCountable)
 {
     panels::WatermarkPanel panel;
-    panel.tfXOffset.setStringValue(QStringLiteral("-2147483648"));
-    panel.tfYOffset.setStringValue(QStringLiteral("2147483647"));
+    panel.tfXOffset.setStringValue(u"-2147483648"_s);
+    panel.tfYOffset.setStringValue(u"2147483647"_s);
 
     const Placement placement = readSettings(panel).placement;
 
@@ -168,7 +169,7 @@ TEST(TextWatermarkSettings, GiveTheShadowTheTextsOpacity)
 {
     panels::WatermarkPanel panel;
     panel.cbShadowCheck.setState(1);
-    panel.tfFontTransparancy.setStringValue(QStringLiteral("40"));
+    panel.tfFontTransparancy.setStringValue(u"40"_s);
 
     const TextWatermarkSettings settings = readSettings(panel);
 
@@ -219,8 +220,8 @@ TEST(TextWatermarkSettings, MapAlignments)
 TEST(TextWatermarkSettings, AppendOneBlankToAnItalicText)
 {
     TextWatermarkSettings settings;
-    EXPECT_EQ(textToSet(settings, QStringLiteral("abc")), QStringLiteral("abc"));
+    EXPECT_EQ(textToSet(settings, u"abc"_s), u"abc"_s);
 
     settings.isItalic = true;
-    EXPECT_EQ(textToSet(settings, QStringLiteral("abc")), QStringLiteral("abc "));
+    EXPECT_EQ(textToSet(settings, u"abc"_s), u"abc "_s);
 }

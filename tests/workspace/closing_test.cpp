@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controller_fixture.h"
 
+#include <platform/foundation/literals.h>
+
 #include <support/case_name.h>
 
 using namespace brenvaldo;
@@ -24,21 +26,21 @@ class ClosingDuringARun : public test::ControllerTest, public testing::WithParam
 
 TEST_P(ClosingDuringARun, EndsItAfterThePhotoInHand)
 {
-    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(u"/out/"_qs);
+    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(u"/out/"_s);
     panels.vwShowPreview.cbShowPreview.setState(1);
     panels.window.pubEditPhoto.selectIndex(GetParam().editIndex);
-    for (const QString& name : {u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs, u"d.jpg"_qs})
-        photos.append(entry(u"/in/"_qs + name, u"L"_qs));
+    for (const QString& name : {u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s, u"d.jpg"_s})
+        photos.append(entry(u"/in/"_s + name, u"L"_s));
     select(GetParam().name);
     const auto closing = journal.recorded.connect([&](const workspace::RunRecord& record) {
         if (record.source == u"/in/b.jpg")
             panels.window.myProgressBar.askToEnd();
     });
 
-    actions.send(u"hLoadImages"_qs);
+    actions.send(u"hLoadImages"_s);
 
     ASSERT_EQ(journal.records().size(), 2);
-    EXPECT_EQ(journal.records().last().source, u"/in/b.jpg"_qs);
+    EXPECT_EQ(journal.records().last().source, u"/in/b.jpg"_s);
     EXPECT_TRUE(panels.window.myProgressBar.isHidden());
     EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
 }

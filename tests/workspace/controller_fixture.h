@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <platform/foundation/literals.h>
 #include <workspace/functions/selected_function.h>
 #include <workspace/gui_controls.h>
 
@@ -59,7 +60,7 @@ class ControllerTest : public testing::Test
 protected:
     ControllerTest()
     {
-        cSelectedFunction().myString = u"textWM"_qs;
+        cSelectedFunction().myString = u"textWM"_s;
         for (workspace::Function& function : functions) {
             std::visit(OperationTaken{}, function.run);
             function.preview = {};
@@ -75,7 +76,7 @@ protected:
     {
         return workspace::cSelectedFunction::sharedModel();
     }
-    static QString function() { return cSelectedFunction().myString.value_or(u"none"_qs); }
+    static QString function() { return cSelectedFunction().myString.value_or(u"none"_s); }
     static void select(const char* function)
     {
         cSelectedFunction().myString = QString::fromLatin1(function);
@@ -98,7 +99,7 @@ protected:
     }
     static workspace::cCollectionViewItem nonPhoto(const QString& path)
     {
-        workspace::cCollectionViewItem item = entry(path, u"S"_qs);
+        workspace::cCollectionViewItem item = entry(path, u"S"_s);
         item.myRenameSelect = 1;
         return item;
     }

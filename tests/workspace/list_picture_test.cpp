@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/list_picture.h>
 
 #include <support/case_name.h>
@@ -36,7 +37,7 @@ protected:
     drawnSize(ListPicture::Kind kind, int width, int height) const
     {
         const QString path
-            = test::PhotoBuilder().size(width, height).write(folder.path(u"a.png"_qs));
+            = test::PhotoBuilder().size(width, height).write(folder.path(u"a.png"_s));
         const auto drawn = workspace::drawnPicture({.kind = kind, .path = path}, 94);
         return drawn ? std::optional(drawn->pixelSize()) : std::nullopt;
     }
@@ -88,7 +89,7 @@ TEST_F(ListPictures, AreFullPicturesThatAreOnlyShrunk)
 TEST_F(ListPictures, AreNoPictureForTheSignOfAFileAndForAnUnreadablePhoto)
 {
     EXPECT_EQ(drawnSize(ListPicture::Kind::Generic, 40, 20), std::nullopt);
-    EXPECT_FALSE(workspace::drawnPicture({.path = folder.write(u"b.jpg"_qs, "no photo")}, 94));
+    EXPECT_FALSE(workspace::drawnPicture({.path = folder.write(u"b.jpg"_s, "no photo")}, 94));
 }
 
 TEST(ResizedImage, HasExactlyTheAskedSizeAndFourSamplesOfEightBits)

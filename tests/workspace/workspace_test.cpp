@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controller_fixture.h"
 
+#include <platform/foundation/literals.h>
 #include <workspace/preview/preview_notifications.h>
 #include <workspace/run/run_offer.h>
 #include <workspace/start/app_delegate.h>
@@ -19,37 +20,37 @@ namespace {
 const QStringList& notificationNames()
 {
     static const QStringList names{
-        u"cbTextShadowCheckBoxEntred"_qs,
-        u"cbTextOutlineCheckBoxEntred"_qs,
-        u"cbTextItalicCheckBoxEntred"_qs,
-        u"cbTextBoldCheckBoxEntred"_qs,
-        u"cbTextOutlineThicknessEntred"_qs,
-        u"cbTextWatermarkPositionEntred"_qs,
-        u"cbTextFontFamilyEntred"_qs,
-        u"cbTextEntred"_qs,
-        u"cbTextShadowColorEntred"_qs,
-        u"cbTextColorEntred"_qs,
-        u"cbTxtPatternCheckBoxEntred"_qs,
-        u"cbImageWatermarkPositionEntred"_qs,
-        u"pubOpacityRenderMethodEntred"_qs,
-        u"cbCheckFadeOutBoxEntred"_qs,
-        u"srSliderFadeOutImageEntred"_qs,
-        u"cbImageShadowCheckBoxEntred"_qs,
-        u"cwImageShadowColorEntred"_qs,
-        u"mxImageWatermarkSizeEntred"_qs,
-        u"pubWatermarkFilterTypeEntred"_qs,
-        u"pubScreenSizeEntred"_qs,
-        u"tfScreenSizeEntred"_qs,
-        u"pubScreenSharpnessEntred"_qs,
-        u"btnChooseWatermarkImageEntred"_qs,
-        u"cbTextWatermarkMetaDataEntred"_qs,
-        u"cbUnderlineComboBoxEntred"_qs,
-        u"cbTextWatermarkAlignment"_qs,
-        u"cbImagePatternCheckBoxEntred"_qs,
-        u"pubWatermarkTextEffectEntred"_qs,
-        u"pubWatermarkTextEffectIntensityEntred"_qs,
-        u"cbCircularFadeOutEntred"_qs,
-        u"cwEmbossColorEntred"_qs};
+        u"cbTextShadowCheckBoxEntred"_s,
+        u"cbTextOutlineCheckBoxEntred"_s,
+        u"cbTextItalicCheckBoxEntred"_s,
+        u"cbTextBoldCheckBoxEntred"_s,
+        u"cbTextOutlineThicknessEntred"_s,
+        u"cbTextWatermarkPositionEntred"_s,
+        u"cbTextFontFamilyEntred"_s,
+        u"cbTextEntred"_s,
+        u"cbTextShadowColorEntred"_s,
+        u"cbTextColorEntred"_s,
+        u"cbTxtPatternCheckBoxEntred"_s,
+        u"cbImageWatermarkPositionEntred"_s,
+        u"pubOpacityRenderMethodEntred"_s,
+        u"cbCheckFadeOutBoxEntred"_s,
+        u"srSliderFadeOutImageEntred"_s,
+        u"cbImageShadowCheckBoxEntred"_s,
+        u"cwImageShadowColorEntred"_s,
+        u"mxImageWatermarkSizeEntred"_s,
+        u"pubWatermarkFilterTypeEntred"_s,
+        u"pubScreenSizeEntred"_s,
+        u"tfScreenSizeEntred"_s,
+        u"pubScreenSharpnessEntred"_s,
+        u"btnChooseWatermarkImageEntred"_s,
+        u"cbTextWatermarkMetaDataEntred"_s,
+        u"cbUnderlineComboBoxEntred"_s,
+        u"cbTextWatermarkAlignment"_s,
+        u"cbImagePatternCheckBoxEntred"_s,
+        u"pubWatermarkTextEffectEntred"_s,
+        u"pubWatermarkTextEffectIntensityEntred"_s,
+        u"cbCircularFadeOutEntred"_s,
+        u"cwEmbossColorEntred"_s};
     return names;
 }
 
@@ -57,68 +58,68 @@ const QStringList& notificationNames()
 const QStringList& metadataNames()
 {
     static const QStringList names{
-        u""_qs,
-        u"AcquisitionMake"_qs,
-        u"AcquisitionModel"_qs,
-        u"BitsPerSample"_qs,
-        u"ColorSpace"_qs,
-        u"ContentCreationDate"_qs,
-        u"ContentModificationDate"_qs,
-        u"ContentType"_qs,
-        u"Creator"_qs,
-        u"Description"_qs,
-        u"DisplayName"_qs,
-        u"EXIFVersion"_qs,
-        u"ExposureMode"_qs,
-        u"ExposureTimeSeconds"_qs,
-        u"FlashOnOff"_qs,
-        u"FNumber"_qs,
-        u"FocalLength"_qs,
-        u"FSContentChangeDate"_qs,
-        u"FSCreationDate"_qs,
-        u"FSCreatorCode"_qs,
-        u"FSFinderFlags"_qs,
-        u"FSHasCustomIcon"_qs,
-        u"FSInvisible"_qs,
-        u"FSIsExtensionHidden"_qs,
-        u"FSIsStationery"_qs,
-        u"FSLabel"_qs,
-        u"FSName"_qs,
-        u"FSNodeCount"_qs,
-        u"FSOwnerGroupID"_qs,
-        u"FSOwnerUserID"_qs,
-        u"FSSize"_qs,
-        u"FSTypeCode"_qs,
-        u"HasAlphaChannel"_qs,
-        u"ISOSpeed"_qs,
-        u"Kind"_qs,
-        u"LastUsedDate"_qs,
-        u"Orientation"_qs,
-        u"PixelCount"_qs,
-        u"PixelHeight"_qs,
-        u"PixelWidth"_qs,
-        u"ProfileName"_qs,
-        u"RedEyeOnOff"_qs,
-        u"ResolutionHeightDPI"_qs,
-        u"ResolutionWidthDPI"_qs,
-        u"WhiteBalance"_qs};
+        u""_s,
+        u"AcquisitionMake"_s,
+        u"AcquisitionModel"_s,
+        u"BitsPerSample"_s,
+        u"ColorSpace"_s,
+        u"ContentCreationDate"_s,
+        u"ContentModificationDate"_s,
+        u"ContentType"_s,
+        u"Creator"_s,
+        u"Description"_s,
+        u"DisplayName"_s,
+        u"EXIFVersion"_s,
+        u"ExposureMode"_s,
+        u"ExposureTimeSeconds"_s,
+        u"FlashOnOff"_s,
+        u"FNumber"_s,
+        u"FocalLength"_s,
+        u"FSContentChangeDate"_s,
+        u"FSCreationDate"_s,
+        u"FSCreatorCode"_s,
+        u"FSFinderFlags"_s,
+        u"FSHasCustomIcon"_s,
+        u"FSInvisible"_s,
+        u"FSIsExtensionHidden"_s,
+        u"FSIsStationery"_s,
+        u"FSLabel"_s,
+        u"FSName"_s,
+        u"FSNodeCount"_s,
+        u"FSOwnerGroupID"_s,
+        u"FSOwnerUserID"_s,
+        u"FSSize"_s,
+        u"FSTypeCode"_s,
+        u"HasAlphaChannel"_s,
+        u"ISOSpeed"_s,
+        u"Kind"_s,
+        u"LastUsedDate"_s,
+        u"Orientation"_s,
+        u"PixelCount"_s,
+        u"PixelHeight"_s,
+        u"PixelWidth"_s,
+        u"ProfileName"_s,
+        u"RedEyeOnOff"_s,
+        u"ResolutionHeightDPI"_s,
+        u"ResolutionWidthDPI"_s,
+        u"WhiteBalance"_s};
     return names;
 }
 
 class WorkspaceTest : public testing::Test
 {
 protected:
-    [[nodiscard]] QString temp() const { return folder.path(u"data/Brenvaldo/Temp"_qs); }
+    [[nodiscard]] QString temp() const { return folder.path(u"data/Brenvaldo/Temp"_s); }
 
     void leaveInTemp(const QString& name) const
     {
         QDir().mkpath(temp());
-        (void)folder.write(u"data/Brenvaldo/Temp/"_qs + name, "left over");
+        (void)folder.write(u"data/Brenvaldo/Temp/"_s + name, "left over");
     }
 
     test::TemporaryFolder folder;
-    test::Environment data{"XDG_DATA_HOME", folder.path(u"data"_qs).toUtf8()};
-    test::Environment configuration{"XDG_CONFIG_HOME", folder.path(u"config"_qs).toUtf8()};
+    test::Environment data{"XDG_DATA_HOME", folder.path(u"data"_s).toUtf8()};
+    test::Environment configuration{"XDG_CONFIG_HOME", folder.path(u"config"_s).toUtf8()};
     platform::UserDefaults defaults;
     test::QueuedChooser chooser;
     test::RecordingDesktop desktop;
@@ -131,7 +132,7 @@ TEST_F(WorkspaceTest, StartsInItsFirstState)
 {
     panels::Panels& panels = program.panels();
     auto& resize = panels.vwResizePhotos;
-    resize.pubResizeType.setTitles({u"a"_qs, u"b"_qs});
+    resize.pubResizeType.setTitles({u"a"_s, u"b"_s});
     resize.pubResizeType.selectItemAtIndex(1);
     resize.pubScaleType.selectItemAtIndex(1);
     resize.pubScaleType.setHidden(true);
@@ -142,13 +143,13 @@ TEST_F(WorkspaceTest, StartsInItsFirstState)
 
     program.start();
 
-    EXPECT_EQ(workspace::cSelectedFunction::sharedModel().myString, u"textWM"_qs);
+    EXPECT_EQ(workspace::cSelectedFunction::sharedModel().myString, u"textWM"_s);
     EXPECT_EQ(panels.vwWatermark.cbFontList.selectedIndex(), 1);
     EXPECT_EQ(resize.pubScaleType.selectedIndex(), 0);
     EXPECT_FALSE(resize.pubScaleType.isHidden());
     EXPECT_EQ(resize.pubResizeType.selectedIndex(), 0);
     EXPECT_FALSE(panels.window.myTemplatePreview.image());
-    EXPECT_TRUE(QFileInfo::exists(folder.path(u"data/DravothCom/Brenvaldo9.sql"_qs)));
+    EXPECT_TRUE(QFileInfo::exists(folder.path(u"data/DravothCom/Brenvaldo9.sql"_s)));
     EXPECT_TRUE(QFileInfo(temp()).isDir());
 }
 
@@ -166,10 +167,10 @@ TEST_F(WorkspaceTest, OffersTheAttributesOfAFileForItsNewName)
 
 TEST_F(WorkspaceTest, EmptiesTempAtTheStart)
 {
-    leaveInTemp(u"old.jpg"_qs);
-    leaveInTemp(u".hidden"_qs);
-    QDir().mkpath(temp() + u"/folder/inner"_qs);
-    QFile::link(u"nowhere"_qs, temp() + u"/broken link"_qs);
+    leaveInTemp(u"old.jpg"_s);
+    leaveInTemp(u".hidden"_s);
+    QDir().mkpath(temp() + u"/folder/inner"_s);
+    QFile::link(u"nowhere"_s, temp() + u"/broken link"_s);
 
     program.start();
 
@@ -177,14 +178,14 @@ TEST_F(WorkspaceTest, EmptiesTempAtTheStart)
         QDir(temp()).entryList(
             QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot
         ),
-        QStringList{u".hidden"_qs}
+        QStringList{u".hidden"_s}
     );
 }
 
 TEST_F(WorkspaceTest, EmptiesTempWithTheLastWindow)
 {
     program.start();
-    leaveInTemp(u"work.jpg"_qs);
+    leaveInTemp(u"work.jpg"_s);
 
     program.lastWindowClosed();
 
@@ -195,16 +196,16 @@ TEST_F(WorkspaceTest, EmptiesTempWithTheLastWindow)
 TEST_F(WorkspaceTest, EndsARunAfterThePhotoInHandAndEmptiesTempThen)
 {
     program.start();
-    QDir().mkpath(folder.path(u"out"_qs));
+    QDir().mkpath(folder.path(u"out"_s));
     program.openFiles({
-        test::PhotoBuilder().write(folder.path(u"a.jpg"_qs)),
-        test::PhotoBuilder().write(folder.path(u"b.jpg"_qs)),
+        test::PhotoBuilder().write(folder.path(u"a.jpg"_s)),
+        test::PhotoBuilder().write(folder.path(u"b.jpg"_s)),
     });
     panels::Panels& panels = program.panels();
     const controls::UserInput user(program.actions());
     user.pick(panels.window.pubFileManagementSelect, 3);
-    user.type(panels.vwMainDestination.tfImageDestinationFolder, folder.path(u"out/"_qs));
-    leaveInTemp(u"work.jpg"_qs);
+    user.type(panels.vwMainDestination.tfImageDestinationFolder, folder.path(u"out/"_s));
+    leaveInTemp(u"work.jpg"_s);
     const auto closing = program.journal().recorded.connect([&](const workspace::RunRecord&) {
         program.lastWindowClosed();
         EXPECT_FALSE(QDir(temp()).isEmpty()) << "the run may still need it";
@@ -222,14 +223,14 @@ TEST_F(WorkspaceTest, DrawsThePreviewOnceWhenAPresetIsLoaded)
     panels::Panels& panels = program.panels();
     const controls::UserInput user(program.actions());
     user.pick(panels.window.pubEditPhoto, 8);
-    panels.wwPresetsWindow.tfInputPDM.setStringValue(u"small"_qs);
-    program.actions().send(u"hAddPreset"_qs);
+    panels.wwPresetsWindow.tfInputPDM.setStringValue(u"small"_s);
+    program.actions().send(u"hAddPreset"_s);
     panels.wwPresetsWindow.myPresetsTableView.selectRow(0);
     int drawn = 0;
     const auto subscription
         = panels.window.myTemplateOverlayPreview.changed.connect([&] { ++drawn; });
 
-    program.actions().send(u"hApplySelectedPreset"_qs);
+    program.actions().send(u"hApplySelectedPreset"_s);
 
     EXPECT_EQ(drawn, 1);
 }
@@ -238,15 +239,15 @@ TEST_F(WorkspaceTest, NotesAPresetThatCouldNotBeSavedInTheRunJournal)
 {
     program.start();
     program.panels().vwWatermark.cbFontList.selectItemAtIndex(-1);
-    program.panels().wwPresetsWindow.tfInputPDM.setStringValue(u"Gold tiles"_qs);
+    program.panels().wwPresetsWindow.tfInputPDM.setStringValue(u"Gold tiles"_s);
 
-    EXPECT_EQ(program.actions().send(u"hAddPreset"_qs), controls::ActionRegistry::Sent::Raised);
+    EXPECT_EQ(program.actions().send(u"hAddPreset"_s), controls::ActionRegistry::Sent::Raised);
 
     ASSERT_EQ(program.journal().records().size(), 1);
     const workspace::RunRecord& record = program.journal().records().first();
-    EXPECT_EQ(record.function, u"textWM"_qs);
+    EXPECT_EQ(record.function, u"textWM"_s);
     EXPECT_EQ(record.source, QString());
-    EXPECT_EQ(record.target, u"Gold tiles"_qs);
+    EXPECT_EQ(record.target, u"Gold tiles"_s);
     EXPECT_EQ(record.word, imaging::ResultWord::Failed);
     EXPECT_TRUE(record.time.isValid());
 }
@@ -255,13 +256,13 @@ TEST_F(WorkspaceTest, DescribesNoPhotoThatIsGone)
 {
     program.start();
     const panels::Panels& panels = program.panels();
-    const QString path = test::PhotoBuilder().write(folder.path(u"a.jpg"_qs));
+    const QString path = test::PhotoBuilder().write(folder.path(u"a.jpg"_s));
     program.openFiles({path});
     ASSERT_EQ(panels.vwPhotoInfo.tfActiveFilePath.stringValue(), path);
     ASSERT_FALSE(panels.vwPhotoInfo.mTree.arrangedObjects().isEmpty());
     ASSERT_NE(panels.vwFileManagementEXIF.tfExifUserComment.stringValue(), QString());
 
-    program.actions().send(u"hRemoveAllPhoto"_qs);
+    program.actions().send(u"hRemoveAllPhoto"_s);
 
     EXPECT_EQ(panels.vwPhotoInfo.tfActiveFilePath.stringValue(), QString());
     EXPECT_TRUE(panels.vwPhotoInfo.mTree.arrangedObjects().isEmpty());
@@ -271,14 +272,14 @@ TEST_F(WorkspaceTest, DescribesNoPhotoThatIsGone)
 TEST_F(WorkspaceTest, AddsFilesThatAreOpenedBeforeTheWindowShows)
 {
     const QString path
-        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"turned.jpg"_qs));
+        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"turned.jpg"_s));
 
     program.openFiles({path});
     EXPECT_TRUE(program.photos().isEmpty());
     program.start();
 
     ASSERT_EQ(program.photos().count(), 1);
-    EXPECT_EQ(program.photos().entries().first().myPhotoOrientation, u"L"_qs);
+    EXPECT_EQ(program.photos().entries().first().myPhotoOrientation, u"L"_s);
     EXPECT_EQ(program.composedPreview()->width(), 30);
 }
 
@@ -294,7 +295,7 @@ TEST_F(WorkspaceTest, DrawsThePreviewAtEachNotification)
         program.notifications().post(name);
         EXPECT_EQ(drawn, 1) << name.toStdString();
     }
-    program.notifications().post(u"cbTextEntered"_qs);
+    program.notifications().post(u"cbTextEntered"_s);
     EXPECT_EQ(drawn, 1);
 }
 
@@ -307,12 +308,12 @@ TEST_F(WorkspaceTest, MovesTheFocusWithTheTabKeyOfTheWatermarkText)
               focused.append(control.name());
           });
 
-    EXPECT_FALSE(program.delegate().textViewdoCommandBySelector(u"insertNewline:"_qs));
-    EXPECT_FALSE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs));
+    EXPECT_FALSE(program.delegate().textViewdoCommandBySelector(u"insertNewline:"_s));
+    EXPECT_FALSE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_s));
     program.panels().vwShowPreview.cbShowPreview.setState(1);
-    EXPECT_TRUE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs));
+    EXPECT_TRUE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_s));
 
-    EXPECT_EQ(focused, (QStringList{u"tfFontSize"_qs, u"tfFontSize"_qs}));
+    EXPECT_EQ(focused, (QStringList{u"tfFontSize"_s, u"tfFontSize"_s}));
 }
 
 TEST_F(WorkspaceTest, DrawsThePreviewWithTheTabKeyOnTheTextTabOnly)
@@ -323,16 +324,16 @@ TEST_F(WorkspaceTest, DrawsThePreviewWithTheTabKeyOnTheTextTabOnly)
         = program.panels().window.myTemplateOverlayPreview.changed.connect([&] { ++drawn; });
     auto& tabs = program.panels().vwWatermark.tbvWatermarkType;
 
-    program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs);
+    program.delegate().textViewdoCommandBySelector(u"insertTab:"_s);
     EXPECT_EQ(drawn, 0) << "the preview is off";
 
     program.panels().vwShowPreview.cbShowPreview.setState(1);
     tabs.selectIndex(1);
-    EXPECT_TRUE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs));
+    EXPECT_TRUE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_s));
     EXPECT_EQ(drawn, 0) << "the tab of the image";
 
     tabs.selectIndex(0);
-    EXPECT_TRUE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_qs));
+    EXPECT_TRUE(program.delegate().textViewdoCommandBySelector(u"insertTab:"_s));
     EXPECT_EQ(drawn, 1);
 }
 
@@ -344,26 +345,26 @@ TEST_F(WorkspaceTest, TellsItsAlerts)
         titles.append(title);
     });
 
-    program.actions().send(u"hLoadImages"_qs);
+    program.actions().send(u"hLoadImages"_s);
 
-    EXPECT_EQ(titles, QStringList{u"Missing destination."_qs});
+    EXPECT_EQ(titles, QStringList{u"Missing destination."_s});
 }
 
 TEST_F(WorkspaceTest, ResizesFromButtonToFile)
 {
     program.start();
-    program.openFiles({test::PhotoBuilder().size(80, 60).write(folder.path(u"a.jpg"_qs))});
-    QDir().mkpath(folder.path(u"out"_qs));
+    program.openFiles({test::PhotoBuilder().size(80, 60).write(folder.path(u"a.jpg"_s))});
+    QDir().mkpath(folder.path(u"out"_s));
     panels::Panels& panels = program.panels();
     const controls::UserInput user(program.actions());
 
     user.pick(panels.window.pubEditPhoto, 8);
-    user.type(panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal, u"40"_qs);
-    user.type(panels.vwMainDestination.tfImageDestinationFolder, folder.path(u"out/"_qs));
+    user.type(panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal, u"40"_s);
+    user.type(panels.vwMainDestination.tfImageDestinationFolder, folder.path(u"out/"_s));
     user.press(panels.window.btnProcess);
 
     ASSERT_EQ(program.journal().records().size(), 1);
-    EXPECT_EQ(text(program.journal().records().first().word), u"OK"_qs);
+    EXPECT_EQ(text(program.journal().records().first().word), u"OK"_s);
     EXPECT_TRUE(QFileInfo::exists(program.journal().records().first().target));
 }
 
@@ -372,7 +373,7 @@ TEST_F(WorkspaceTest, FollowsAHexFieldWithItsColourWell)
     program.start();
     const controls::UserInput user(program.actions());
 
-    user.type(program.panels().vwFraming.tfFramingHEXvalue, u"00FF00"_qs);
+    user.type(program.panels().vwFraming.tfFramingHEXvalue, u"00FF00"_s);
 
     EXPECT_EQ(
         program.panels().vwFraming.myNSColorWellObjFraming.color(),
@@ -385,18 +386,18 @@ TEST_F(WorkspaceTest, FindsRowsByTheNameOfTheTableAndOfItsRows)
     panels::Panels& panels = program.panels();
 
     EXPECT_EQ(
-        program.rowsOf(u"myPhotosTableView"_qs), &panels.vwFileManagementSorting.theApplePhotosData
+        program.rowsOf(u"myPhotosTableView"_s), &panels.vwFileManagementSorting.theApplePhotosData
     );
     EXPECT_EQ(
-        program.rowsOf(u"cActionsIWMArrayController"_qs),
+        program.rowsOf(u"cActionsIWMArrayController"_s),
         &panels.vwWatermark.cActionsTWMArrayController
     );
-    EXPECT_EQ(program.rowsOf(u"tfScaleMaxVal"_qs), nullptr);
+    EXPECT_EQ(program.rowsOf(u"tfScaleMaxVal"_s), nullptr);
 }
 
 TEST_F(WorkspaceTest, StartsWithoutPresetsWhereTheirFolderCannotBeMade)
 {
-    (void)folder.write(u"data"_qs, "a file where the folder is to be");
+    (void)folder.write(u"data"_s, "a file where the folder is to be");
     QStringList raised;
     const auto subscription
         = program.actions().exceptionRaised.connect([&](const platform::Exception& exception) {
@@ -405,7 +406,7 @@ TEST_F(WorkspaceTest, StartsWithoutPresetsWhereTheirFolderCannotBeMade)
 
     program.start();
 
-    EXPECT_EQ(raised, QStringList{u"Presets Db failed to open."_qs});
+    EXPECT_EQ(raised, QStringList{u"Presets Db failed to open."_s});
     EXPECT_EQ(program.panels().vwWatermark.cbFontList.selectedIndex(), 1);
 }
 
@@ -460,8 +461,8 @@ TEST_F(WorkspaceTest, OffersNothingForAnUploadTabThatWasLeft)
         workspace::Functions(functions)};
     own.start();
     own.openFiles(
-        {test::PhotoBuilder().size(40, 30).write(folder.path(u"wide.jpg"_qs)),
-         test::PhotoBuilder().size(30, 40).write(folder.path(u"tall.jpg"_qs))}
+        {test::PhotoBuilder().size(40, 30).write(folder.path(u"wide.jpg"_s)),
+         test::PhotoBuilder().size(30, 40).write(folder.path(u"tall.jpg"_s))}
     );
     own.panels().vwApplyOn.pubPhotoOrientation.selectIndex(1);
     controls::UserInput user(own.actions());
@@ -472,11 +473,11 @@ TEST_F(WorkspaceTest, OffersNothingForAnUploadTabThatWasLeft)
     user.press(own.panels().window.btnFileManagement);
     user.pick(own.panels().vwFileManagementSorting.mySortTabView, 2);
     EXPECT_EQ(own.runOffer(), workspace::RunOffer::Run);
-    EXPECT_EQ(own.photosOfRun(), QStringList{folder.path(u"wide.jpg"_qs)});
+    EXPECT_EQ(own.photosOfRun(), QStringList{folder.path(u"wide.jpg"_s)});
     EXPECT_EQ(told, 2);
 
     user.pick(functionsOfFiles, 1);
-    EXPECT_EQ(own.photosOfRun(), QStringList{folder.path(u"wide.jpg"_qs)});
+    EXPECT_EQ(own.photosOfRun(), QStringList{folder.path(u"wide.jpg"_s)});
 
     user.pick(functionsOfFiles, 0);
     EXPECT_EQ(own.runOffer(), workspace::RunOffer::ComesLater);

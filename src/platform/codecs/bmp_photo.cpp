@@ -4,6 +4,7 @@
 
 #include <platform/containers/bytes.h>
 #include <platform/containers/mapped_file.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/regular_file.h>
 #include <platform/graphics/color_profile.h>
 #include <platform/graphics/deferred_pixels.h>
@@ -139,7 +140,7 @@ public:
         if (file.size() < facts.expectedSize || !holdsWholeRuns(m_path, facts, m_header.storedSize))
             throw vips::VError("the bitmap is truncated");
         m_header.uprightSize = m_header.storedSize;
-        m_header.typeIdentifier = QStringLiteral("com.microsoft.bmp");
+        m_header.typeIdentifier = u"com.microsoft.bmp"_s;
         m_header.colorModel = facts.isGray ? graphics::ColorModel::Gray : graphics::ColorModel::Rgb;
         m_header.hasAlpha = hasAlpha && !facts.isGray;
         m_header.dotsPerInch = facts.dotsPerInch;

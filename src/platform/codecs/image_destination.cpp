@@ -3,6 +3,7 @@
 
 #include "encoders.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/graphics/evaluation.h>
 
@@ -58,7 +59,7 @@ bool encodeInto(
         return true;
     } catch (const std::exception& error) {
         const QString reason = file.isWhole() ? graphics::faultText(error) : file.fault();
-        log(QStringLiteral("Failed to encode a picture: ") + reason);
+        log(u"Failed to encode a picture: "_s + reason);
         return false;
     }
 }
@@ -78,7 +79,7 @@ bool canEncode(const Image& image, FileFormat format, const EncodeOptions& optio
     const int memory = memfd_create("picture", MFD_CLOEXEC);
     if (memory < 0)
         return true; // nothing is known against it
-    OutputFile file(QStringLiteral("/proc/self/fd/%1").arg(memory));
+    OutputFile file(u"/proc/self/fd/%1"_s.arg(memory));
     const bool isTaken = encodeInto(file, image, format, options) || !file.isWhole();
     close(memory);
     return isTaken;

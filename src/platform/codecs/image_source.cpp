@@ -5,6 +5,7 @@
 #include "tiff_claim.h"
 
 #include <platform/containers/type_identifier.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/graphics/deferred_pixels.h>
 
@@ -26,14 +27,14 @@ namespace {
 
 void logFault(const QString& path, const std::exception& error)
 {
-    log(QStringLiteral("Failed to read image %1: %2").arg(path, graphics::faultText(error)));
+    log(u"Failed to read image %1: %2"_s.arg(path, graphics::faultText(error)));
 }
 
 std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)
 {
     const QString type = containers::typeIdentifierOfContents(path);
     if (type == QLatin1String("public.tiff") && holdsOldJpeg(path)) {
-        log(QStringLiteral("Failed to read image %1: JPEG of the old style").arg(path));
+        log(u"Failed to read image %1: JPEG of the old style"_s.arg(path));
         return nullptr;
     }
     if (isStreamedType(type))
@@ -45,7 +46,7 @@ std::unique_ptr<const PhotoDecoder> openDecoder(const QString& path)
     if (isPsdType(type))
         return openPsdPhoto(path, type);
     if (!type.isEmpty())
-        log(QStringLiteral("Failed to read image %1: nothing here reads %2").arg(path, type));
+        log(u"Failed to read image %1: nothing here reads %2"_s.arg(path, type));
     return nullptr;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "jpeg_reader.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/regular_file.h>
 
@@ -18,7 +19,7 @@ QString messageOf(j_common_ptr decoder)
 {
     char text[JMSG_LENGTH_MAX];
     decoder->err->format_message(decoder, text);
-    return QStringLiteral("JPEG: ") + QString::fromLatin1(text);
+    return u"JPEG: "_s + QString::fromLatin1(text);
 }
 
 /// Warnings of the library behind which a part of the picture is made up.

@@ -3,6 +3,7 @@
 
 #include "signatures.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/regular_file.h>
 
 #include <QFile>
@@ -113,7 +114,7 @@ QString dynamicIdentifier(const QString& lowerCaseExtension)
 {
     static constexpr char alphabet[] = "abcdefghkmnpqrstuvwxyz0123456789";
     const QByteArray tags = "?0=6:1=" + lowerCaseExtension.toUtf8();
-    QString identifier = QStringLiteral("dyn.a");
+    QString identifier = u"dyn.a"_s;
     unsigned pending = 0;
     int pendingBits = 0;
     for (const char byte : tags) {
@@ -137,7 +138,7 @@ QString preferredTypeIdentifier(const QString& extension)
 {
     static const QHash<QString, QString> table = identifiersByExtension();
     if (extension.isEmpty())
-        return QStringLiteral("public.data");
+        return u"public.data"_s;
     const QString lowerCase = extension.toLower();
     const auto row = table.constFind(lowerCase);
     return row != table.constEnd() ? *row : dynamicIdentifier(lowerCase);

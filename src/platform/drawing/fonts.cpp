@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fonts.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/memo.h>
 
 #include <QFontDatabase>
@@ -13,11 +14,7 @@ constexpr int anySize = 12;
 
 bool isPlainStyle(const QString& style)
 {
-    static const QStringList plainStyles{
-        QStringLiteral("Regular"),
-        QStringLiteral("Normal"),
-        QStringLiteral("Book"),
-        QStringLiteral("Roman")};
+    static const QStringList plainStyles{u"Regular"_s, u"Normal"_s, u"Book"_s, u"Roman"_s};
     return style.isEmpty() || plainStyles.contains(style);
 }
 
@@ -30,15 +27,15 @@ QString faceName(const QString& family, const QString& style)
 QStringList shapeOf(const QString& style)
 {
     static const QStringList weights{
-        QStringLiteral("Thin"),
-        QStringLiteral("Hairline"),
-        QStringLiteral("ExtraLight"),
-        QStringLiteral("UltraLight"),
-        QStringLiteral("Light"),
-        QStringLiteral("Medium"),
-        QStringLiteral("SemiBold"),
-        QStringLiteral("DemiBold"),
-        QStringLiteral("Bold")};
+        u"Thin"_s,
+        u"Hairline"_s,
+        u"ExtraLight"_s,
+        u"UltraLight"_s,
+        u"Light"_s,
+        u"Medium"_s,
+        u"SemiBold"_s,
+        u"DemiBold"_s,
+        u"Bold"_s};
     QStringList words = style.split(QLatin1Char(' '), Qt::SkipEmptyParts);
     words.removeIf([](const QString& word) { return isPlainStyle(word) || weights.contains(word); }
     );

@@ -3,6 +3,7 @@
 
 #include "stamp_layer.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/graphics/deferred_pixels.h>
 #include <platform/graphics/image_node.h>
@@ -255,7 +256,7 @@ std::optional<PixelRect> stampedPart(const Image& marked, const Image& photo)
     try {
         return marked.node()->stampedPart();
     } catch (const std::exception& error) {
-        log(QStringLiteral("Failed to mark a photo: ") + QString::fromUtf8(error.what()));
+        log(u"Failed to mark a photo: "_s + QString::fromUtf8(error.what()));
         return std::nullopt;
     }
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "byte_count.h"
 
+#include "literals.h"
+
 #include <QLocale>
 
 #include <array>
@@ -57,8 +59,7 @@ QString magnitudeText(std::uint64_t bytes)
         return decimalText(dividedToEven(bytes, step), unit.decimals) + u' '
             + QLatin1String(unit.name);
     }
-    return QString::number(bytes)
-        + (bytes == 1 ? QStringLiteral(" byte") : QStringLiteral(" bytes"));
+    return QString::number(bytes) + (bytes == 1 ? u" byte"_s : u" bytes"_s);
 }
 
 } // namespace
@@ -66,7 +67,7 @@ QString magnitudeText(std::uint64_t bytes)
 QString byteCountText(std::int64_t bytes)
 {
     if (bytes == 0)
-        return QStringLiteral("Zero KB");
+        return u"Zero KB"_s;
     const auto unsignedBytes = static_cast<std::uint64_t>(bytes);
     return bytes < 0 ? u'-' + magnitudeText(0 - unsignedBytes) : magnitudeText(unsignedBytes);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "date_text.h"
 
+#include "literals.h"
+
 #include <array>
 
 namespace brenvaldo::platform {
@@ -14,11 +16,10 @@ QString dateTextForFileName(const QDateTime& date)
     const QDateTime local = date.toLocalTime();
     const QDate day = local.date();
     const char* const month = months.at(static_cast<std::size_t>(day.month() - 1));
-    return QStringLiteral("%1-%2-%3T%4")
-        .arg(day.day())
+    return u"%1-%2-%3T%4"_s.arg(day.day())
         .arg(QLatin1String(month))
         .arg(day.year())
-        .arg(local.time().toString(QStringLiteral("HH-mm-ss")));
+        .arg(local.time().toString(u"HH-mm-ss"_s));
 }
 
 } // namespace brenvaldo::platform

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "folders.h"
 
+#include "literals.h"
 #include "paths.h"
 
 #include <QStandardPaths>
@@ -12,10 +13,7 @@ QString applicationSupportFolder()
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
 }
 
-QString homeFolder()
-{
-    return appendingPathComponent(applicationSupportFolder(), QStringLiteral("Brenvaldo"));
-}
+QString homeFolder() { return appendingPathComponent(applicationSupportFolder(), u"Brenvaldo"_s); }
 
 QString configurationFolder()
 {

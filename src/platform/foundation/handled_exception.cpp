@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "handled_exception.h"
 
+#include "literals.h"
+
 namespace brenvaldo::platform {
 
 Exception handledException()
 {
-    const QString kind = QStringLiteral("NSGenericException");
+    const QString kind = u"NSGenericException"_s;
     try {
         throw;
     } catch (const Exception& exception) {
@@ -13,7 +15,7 @@ Exception handledException()
     } catch (const std::exception& exception) {
         return {kind, QString::fromUtf8(exception.what())};
     } catch (...) {
-        return {kind, QStringLiteral("an exception of no known type")};
+        return {kind, u"an exception of no known type"_s};
     }
 }
 

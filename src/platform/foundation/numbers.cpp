@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numbers.h"
 
+#include "literals.h"
+
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -65,7 +67,7 @@ std::int64_t integerValue(const QString& text) { return leadingInteger<std::int6
 double doubleValue(const QString& text)
 {
     static const QRegularExpression number(
-        QStringLiteral("^[+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?")
+        u"^[+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)(?:[eE][+-]?[0-9]+)?"_s
     );
     const qsizetype begin = skipWhiteSpace(text, 0);
     const QRegularExpressionMatch match = number.match(QStringView(text).mid(begin));
@@ -78,7 +80,7 @@ float floatValue(const QString& text) { return static_cast<float>(doubleValue(te
 std::optional<std::uint32_t> scanHexInt(const QString& text)
 {
     qsizetype position = skipWhiteSpace(text, 0);
-    if (text.mid(position, 2).compare(QStringLiteral("0x"), Qt::CaseInsensitive) == 0) {
+    if (text.mid(position, 2).compare(u"0x"_s, Qt::CaseInsensitive) == 0) {
         position += 2;
         if (position >= text.size() || hexDigitValue(text.at(position)) < 0)
             return 0;

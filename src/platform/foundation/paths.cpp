@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "paths.h"
 
+#include "literals.h"
+
 #include <algorithm>
 
 namespace brenvaldo::platform {
@@ -46,7 +48,7 @@ QString pathExtension(const QString& path)
 {
     const QString name = lastPathComponent(path);
     const qsizetype dot = name.lastIndexOf(u'.');
-    if (dot <= 0 || name.startsWith(QStringLiteral("..")))
+    if (dot <= 0 || name.startsWith(u".."_s))
         return {};
     const QString extension = name.mid(dot + 1);
     return mayBeExtension(extension) ? extension : QString();

@@ -2,6 +2,7 @@
 #include "text.h"
 
 #include "exceptions.h"
+#include "literals.h"
 
 namespace brenvaldo::platform {
 
@@ -62,10 +63,11 @@ bool isCased(char32_t character)
 void requireInside(const QString& text, qsizetype begin, qsizetype length)
 {
     if (begin < 0 || length < 0 || begin > text.size() || length > text.size() - begin)
-        throw RangeError(QStringLiteral("Range {%1, %2} out of bounds; string length %3")
-                             .arg(begin)
-                             .arg(length)
-                             .arg(text.size()));
+        throw RangeError(
+            u"Range {%1, %2} out of bounds; string length %3"_s.arg(begin).arg(length).arg(
+                text.size()
+            )
+        );
 }
 
 } // namespace

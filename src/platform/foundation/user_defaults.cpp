@@ -2,6 +2,7 @@
 #include "user_defaults.h"
 
 #include "folders.h"
+#include "literals.h"
 #include "paths.h"
 
 #include <QSettings>
@@ -9,7 +10,7 @@
 namespace brenvaldo::platform {
 
 UserDefaults::UserDefaults()
-    : UserDefaults(appendingPathComponent(configurationFolder(), QStringLiteral("Brenvaldo.conf")))
+    : UserDefaults(appendingPathComponent(configurationFolder(), u"Brenvaldo.conf"_s))
 {
 }
 

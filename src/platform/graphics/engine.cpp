@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "engine.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 
 #include <vips/vips8>
@@ -21,7 +22,7 @@ void logEngineMessage(
     static std::mutex mutex;
     static QString lastLine;
     const QString text = QString::fromUtf8(message).simplified();
-    const QString line = QString::fromUtf8(domain) + QStringLiteral(": ") + text;
+    const QString line = QString::fromUtf8(domain) + u": "_s + text;
     const std::lock_guard lock(mutex);
     if (text.isEmpty() || line == lastLine)
         return;

@@ -5,6 +5,7 @@
 #include "evaluation.h"
 #include "image_node.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 
 #include <algorithm>
@@ -87,7 +88,7 @@ std::optional<Image> Image::copiedToMemory() const
     try {
         return makeImage(m_node->withPixels(graphics::copiedToMemory(m_node->pixels)));
     } catch (const std::exception& error) {
-        log(QStringLiteral("Failed to compute the pixels of an image: ") + faultText(error));
+        log(u"Failed to compute the pixels of an image: "_s + faultText(error));
         return std::nullopt;
     }
 }

@@ -7,6 +7,7 @@
 #include "region_kernel.h"
 #include "sample_conversion.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 
 #include <array>
@@ -111,7 +112,7 @@ QImage Image::toQImage() const
         const QImage image = evaluatedQImage(*m_node);
         return hasAlpha() ? image : image.convertToFormat(QImage::Format_RGB32);
     } catch (const std::exception& error) {
-        log(QStringLiteral("Failed to draw an image: ") + faultText(error));
+        log(u"Failed to draw an image: "_s + faultText(error));
         return {};
     }
 }

@@ -8,6 +8,7 @@
 #include <platform/containers/png_chunks.h>
 #include <platform/containers/signatures.h>
 #include <platform/containers/tiff_directory.h>
+#include <platform/foundation/literals.h>
 
 #include <algorithm>
 #include <array>
@@ -139,12 +140,11 @@ void takeModificationTime(QByteArrayView data, PropertyDictionary& png)
     if (data.size() < length)
         return;
     const auto twoDigits = [&data](std::uint64_t offset) {
-        return QStringLiteral("%1").arg(bigInteger(data, offset, 1), 2, 10, QLatin1Char('0'));
+        return u"%1"_s.arg(bigInteger(data, offset, 1), 2, 10, QLatin1Char('0'));
     };
     png.insert(
         keyOf("ModificationTime"),
-        QStringLiteral("%1:%2:%3 %4:%5:%6")
-            .arg(bigInteger(data, 0, 2), 4, 10, QLatin1Char('0'))
+        u"%1:%2:%3 %4:%5:%6"_s.arg(bigInteger(data, 0, 2), 4, 10, QLatin1Char('0'))
             .arg(twoDigits(2), twoDigits(3), twoDigits(4), twoDigits(5), twoDigits(6))
     );
 }

@@ -4,6 +4,7 @@
 #include "exif_tables.h"
 
 #include <platform/containers/tiff_numbers.h>
+#include <platform/foundation/literals.h>
 
 #include <QStringDecoder>
 
@@ -110,8 +111,7 @@ std::optional<PropertyValue> timeOf(const TiffField& field, ByteOrder order)
     if (parts.isEmpty())
         return std::nullopt;
     const double wholeSeconds = std::floor(parts[2]);
-    QString text = QStringLiteral("%1:%2:%3")
-                       .arg(parts[0], 2, 'f', 0, QLatin1Char('0'))
+    QString text = u"%1:%2:%3"_s.arg(parts[0], 2, 'f', 0, QLatin1Char('0'))
                        .arg(parts[1], 2, 'f', 0, QLatin1Char('0'))
                        .arg(wholeSeconds, 2, 'f', 0, QLatin1Char('0'));
     const double thousandths = std::floor((parts[2] - wholeSeconds) * 1000);

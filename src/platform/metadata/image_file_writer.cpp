@@ -9,6 +9,7 @@
 
 #include <platform/containers/exif_facts.h>
 #include <platform/containers/mapped_file.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/output_file.h>
 #include <platform/storage/atomic_file.h>
@@ -50,7 +51,7 @@ bool writePieces(const QByteArrayList& pieces, const QString& path)
     for (const QByteArray& piece : pieces)
         file.write(piece);
     if (!file.finish())
-        log(QStringLiteral("Failed to write metadata: ") + file.fault());
+        log(u"Failed to write metadata: "_s + file.fault());
     return file.isWhole();
 }
 
@@ -93,7 +94,7 @@ bool encodeAndSplice(
     const containers::MappedFile file(encoded.path());
     const auto pieces = splicer(file.bytes(), *request.metadata);
     if (!pieces)
-        log(QStringLiteral("Failed to write metadata: the file can't hold it"));
+        log(u"Failed to write metadata: the file can't hold it"_s);
     return pieces && writePieces(*pieces, target.temporaryPath());
 }
 
@@ -107,8 +108,7 @@ bool encodeInto(const Image& image, const ImageFileRequest& request, const Atomi
 QString reasonOf(const AtomicFile& unwritten)
 {
     // The line before tells what kept its bytes from being made.
-    return unwritten.fault().isEmpty() ? QStringLiteral("its contents are not whole")
-                                       : unwritten.fault();
+    return unwritten.fault().isEmpty() ? u"its contents are not whole"_s : unwritten.fault();
 }
 
 } // namespace
@@ -119,7 +119,7 @@ bool writeImageFile(const Image& image, const ImageFileRequest& request, const Q
     const bool isWritten
         = target.isValid() && encodeInto(image, request, target) && target.commit();
     if (!isWritten)
-        log(QStringLiteral("Failed to write %1: %2").arg(path, reasonOf(target)));
+        log(u"Failed to write %1: %2"_s.arg(path, reasonOf(target)));
     return isWritten;
 }
 

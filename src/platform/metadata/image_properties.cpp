@@ -11,6 +11,7 @@
 
 #include <platform/codecs/image_source.h>
 #include <platform/containers/mapped_file.h>
+#include <platform/foundation/literals.h>
 
 #include <array>
 
@@ -68,13 +69,13 @@ QString colorModelText(ColorModel model)
 {
     switch (model) {
     case ColorModel::Gray:
-        return QStringLiteral("Gray");
+        return u"Gray"_s;
     case ColorModel::Rgb:
-        return QStringLiteral("RGB");
+        return u"RGB"_s;
     case ColorModel::Cmyk:
-        return QStringLiteral("CMYK");
+        return u"CMYK"_s;
     case ColorModel::Lab:
-        return QStringLiteral("Lab");
+        return u"Lab"_s;
     }
     return {};
 }
@@ -116,7 +117,7 @@ QString profileNameOf(const Facts& facts)
         return iccDescription(facts.iccProfile);
     const PropertyValue* colorSpace = facts.exif.exif.value(QLatin1StringView("ColorSpace"));
     const bool isSrgb = facts.container.isSrgb || (colorSpace && colorSpace->number() == sRgb);
-    return isSrgb ? QStringLiteral("sRGB IEC61966-2.1") : QString();
+    return isSrgb ? u"sRGB IEC61966-2.1"_s : QString();
 }
 
 /// What the file states; a HEIC is turned by its own boxes, and EXIF is only shown.

@@ -5,6 +5,7 @@
 #include "xmp_values.h"
 
 #include <platform/containers/bytes.h>
+#include <platform/foundation/literals.h>
 
 #include <QHash>
 #include <QRegularExpression>
@@ -126,8 +127,8 @@ QStringList textsOf(const DataSets& sets, const Row& row)
 QStringList partsOfXmpDate(const QString& date, Form form)
 {
     static const QRegularExpression pattern(
-        QStringLiteral("^(\\d{4})-(\\d\\d)-(\\d\\d)"
-                       "(?:T(\\d\\d):(\\d\\d)(?::(\\d\\d)(?:\\.\\d+)?)?(Z|[+-]\\d\\d:\\d\\d)?)?$")
+        u"^(\\d{4})-(\\d\\d)-(\\d\\d)"
+        u"(?:T(\\d\\d):(\\d\\d)(?::(\\d\\d)(?:\\.\\d+)?)?(Z|[+-]\\d\\d:\\d\\d)?)?$"_s
     );
     const QRegularExpressionMatch match = pattern.match(date);
     if (!match.hasMatch())
@@ -136,10 +137,10 @@ QStringList partsOfXmpDate(const QString& date, Form form)
         return {match.captured(1) + match.captured(2) + match.captured(3)};
     if (match.captured(4).isEmpty())
         return {};
-    const QString seconds = match.captured(6).isEmpty() ? QStringLiteral("00") : match.captured(6);
+    const QString seconds = match.captured(6).isEmpty() ? u"00"_s : match.captured(6);
     QString zone = match.captured(7).remove(QLatin1Char(':'));
-    if (zone == QStringLiteral("Z"))
-        zone = QStringLiteral("+0000");
+    if (zone == u"Z"_s)
+        zone = u"+0000"_s;
     return {match.captured(4) + match.captured(5) + seconds + zone};
 }
 
@@ -184,7 +185,7 @@ void fillMoment(
 )
 {
     static const QRegularExpression pattern(
-        QStringLiteral("^(\\d{4}):(\\d\\d):(\\d\\d) (\\d\\d):(\\d\\d):(\\d\\d)")
+        u"^(\\d{4}):(\\d\\d):(\\d\\d) (\\d\\d):(\\d\\d):(\\d\\d)"_s
     );
     const QRegularExpressionMatch match = pattern.match(moment.value_or(QString()));
     if (!match.hasMatch())

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "property_dictionary.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
 #include <algorithm>
@@ -23,9 +24,9 @@ QString escaped(QChar unit)
     if (unit == QLatin1Char('"') || unit == QLatin1Char('\\'))
         return QLatin1Char('\\') + QString(unit);
     if (unit == QLatin1Char('\n'))
-        return QStringLiteral("\\n");
+        return u"\\n"_s;
     if (unit.unicode() >= 0x80)
-        return QStringLiteral("\\U%1").arg(unit.unicode(), 4, 16, QLatin1Char('0'));
+        return u"\\U%1"_s.arg(unit.unicode(), 4, 16, QLatin1Char('0'));
     return unit;
 }
 
@@ -47,19 +48,19 @@ QString arrayText(const PropertyValue::Array& array, int level)
     QStringList lines;
     for (const PropertyValue& element : array)
         lines.append(indent(level + 1) + nestedText(element, level + 1));
-    const QString body = lines.join(QStringLiteral(",\n"));
-    return QStringLiteral("(\n") + body + (lines.isEmpty() ? QString() : QStringLiteral("\n"))
-        + indent(level) + QLatin1Char(')');
+    const QString body = lines.join(u",\n"_s);
+    return u"(\n"_s + body + (lines.isEmpty() ? QString() : u"\n"_s) + indent(level)
+        + QLatin1Char(')');
 }
 
 QString dictionaryText(const PropertyDictionary& dictionary, int level)
 {
     QStringList keys = dictionary.keys();
     std::sort(keys.begin(), keys.end());
-    QString text = QStringLiteral("{\n");
+    QString text = u"{\n"_s;
     for (const QString& key : keys) {
-        text += indent(level + 1) + quoted(key) + QStringLiteral(" = ")
-            + nestedText(*dictionary.value(key), level + 1) + QStringLiteral(";\n");
+        text += indent(level + 1) + quoted(key) + u" = "_s
+            + nestedText(*dictionary.value(key), level + 1) + u";\n"_s;
     }
     return text + indent(level) + QLatin1Char('}');
 }
@@ -162,7 +163,7 @@ QString PropertyValue::text() const
     if (const auto* real = std::get_if<double>(&m_value))
         return numberText(*real);
     if (const auto* truth = std::get_if<bool>(&m_value))
-        return *truth ? QStringLiteral("1") : QStringLiteral("0");
+        return *truth ? u"1"_s : u"0"_s;
     if (const QString* text = string())
         return *text;
     return nestedText(*this, 0);

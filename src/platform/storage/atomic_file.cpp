@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "atomic_file.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/output_file.h>
 
 #include <QFile>
@@ -61,7 +62,7 @@ AtomicFile::AtomicFile(const QString& target)
     : m_target(resolvedTarget(target))
 {
     if (!isPlainFileOrFree(m_target)) {
-        m_fault = QStringLiteral("something else than a plain file stands there");
+        m_fault = u"something else than a plain file stands there"_s;
         return;
     }
     m_file.emplace(folder());

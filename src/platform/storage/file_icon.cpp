@@ -5,6 +5,7 @@
 #include "file_system.h"
 
 #include <platform/foundation/folders.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 
 #include <QBuffer>
@@ -25,10 +26,9 @@ QString storedIcon(const QImage& icon)
     QBuffer buffer(&png);
     if (!icon.save(&buffer, "PNG"))
         return {};
-    const QString folder = appendingPathComponent(homeFolder(), QStringLiteral("Icons"));
+    const QString folder = appendingPathComponent(homeFolder(), u"Icons"_s);
     const QByteArray name = QCryptographicHash::hash(png, QCryptographicHash::Sha1).toHex();
-    const QString path
-        = appendingPathComponent(folder, QString::fromLatin1(name) + QStringLiteral(".png"));
+    const QString path = appendingPathComponent(folder, QString::fromLatin1(name) + u".png"_s);
     if (fileExists(path))
         return path;
     return createFolder(folder) && writeFileAtomically(path, png) ? path : QString();
@@ -39,7 +39,7 @@ QString storedIcon(const QImage& icon)
 void setFileIcon(const QString& path, const QImage& icon)
 {
     // The attribute store answers over a bus: its command waits for that in a process of its own.
-    const QString command = QStandardPaths::findExecutable(QStringLiteral("gio"));
+    const QString command = QStandardPaths::findExecutable(u"gio"_s);
     if (command.isEmpty() || icon.isNull() || !fileExists(path))
         return;
     const QString iconPath = storedIcon(icon);
@@ -48,9 +48,9 @@ void setFileIcon(const QString& path, const QImage& icon)
     QProcess process;
     process.setProgram(command);
     process.setArguments(
-        {QStringLiteral("set"),
+        {u"set"_s,
          QFileInfo(path).absoluteFilePath(),
-         QStringLiteral("metadata::custom-icon"),
+         u"metadata::custom-icon"_s,
          QUrl::fromLocalFile(iconPath).toString(QUrl::FullyEncoded)}
     );
     process.setStandardOutputFile(QProcess::nullDevice());

@@ -5,6 +5,7 @@
 #include "free_name.h"
 #include "hidden_file.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 
@@ -120,7 +121,7 @@ bool removeSource(const QString& source)
     if (hidden.isEmpty())
         return false;
     if (!removeItem(hidden))
-        log(QStringLiteral("Failed to remove all of %1").arg(hidden));
+        log(u"Failed to remove all of %1"_s.arg(hidden));
     return true;
 }
 

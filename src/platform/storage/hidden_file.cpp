@@ -3,6 +3,8 @@
 
 #include "file_descriptor.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -22,7 +24,7 @@ namespace {
 bool isHiddenName(const QString& name)
 {
     static const QRegularExpression pattern(
-        QStringLiteral("^\\.brenvaldo-[0-9a-f]{8}$"), QRegularExpression::DontCaptureOption
+        u"^\\.brenvaldo-[0-9a-f]{8}$"_s, QRegularExpression::DontCaptureOption
     );
     return pattern.match(name).hasMatch();
 }
@@ -41,8 +43,7 @@ QString hiddenName(const QString& folder, const std::function<bool(const QByteAr
     constexpr int attempts = 100;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         const QString path = QDir(folder).filePath(
-            QStringLiteral(".brenvaldo-%1")
-                .arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0'))
+            u".brenvaldo-%1"_s.arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0'))
         );
         if (make(QFile::encodeName(path)))
             return path;
@@ -63,9 +64,7 @@ void removeAbandonedFiles(const QString& folder)
     if (folder.isEmpty())
         return;
     QDirIterator files(
-        folder,
-        {QStringLiteral(".brenvaldo-*")},
-        QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks
+        folder, {u".brenvaldo-*"_s}, QDir::Files | QDir::Hidden | QDir::System | QDir::NoSymLinks
     );
     while (files.hasNext()) {
         const QString path = files.next();

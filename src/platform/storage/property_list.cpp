@@ -3,6 +3,8 @@
 
 #include "atomic_file.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QDateTime>
 #include <QFile>
 #include <QXmlStreamReader>
@@ -69,7 +71,7 @@ private:
             value = date;
         }
         if (!isValid)
-            m_xml.raiseError(QStringLiteral("no value: ") + kind);
+            m_xml.raiseError(u"no value: "_s + kind);
         return value;
     }
 
@@ -79,12 +81,12 @@ private:
         enterLevel();
         while (m_xml.readNextStartElement()) {
             if (m_xml.name() != u"key") {
-                m_xml.raiseError(QStringLiteral("a key is missing"));
+                m_xml.raiseError(u"a key is missing"_s);
                 break;
             }
             const QString key = m_xml.readElementText();
             if (!m_xml.readNextStartElement()) {
-                m_xml.raiseError(QStringLiteral("a value is missing"));
+                m_xml.raiseError(u"a value is missing"_s);
                 break;
             }
             result.insert(key, readValue());
@@ -106,7 +108,7 @@ private:
     void enterLevel()
     {
         if (++m_level > deepestNesting)
-            m_xml.raiseError(QStringLiteral("nested too deep"));
+            m_xml.raiseError(u"nested too deep"_s);
     }
 
     QXmlStreamReader m_xml;
@@ -126,8 +128,8 @@ public:
     bool write(const QVariantMap& dictionary)
     {
         m_xml.writeStartDocument();
-        m_xml.writeStartElement(QStringLiteral("plist"));
-        m_xml.writeAttribute(QStringLiteral("version"), QStringLiteral("1.0"));
+        m_xml.writeStartElement(u"plist"_s);
+        m_xml.writeAttribute(u"version"_s, u"1.0"_s);
         writeDictionary(dictionary);
         m_xml.writeEndDocument();
         return m_knowsAll && !m_xml.hasError();
@@ -143,25 +145,21 @@ private:
         case QMetaType::QStringList:
             return writeList(value.toList());
         case QMetaType::Bool:
-            return m_xml.writeEmptyElement(
-                value.toBool() ? QStringLiteral("true") : QStringLiteral("false")
-            );
+            return m_xml.writeEmptyElement(value.toBool() ? u"true"_s : u"false"_s);
         case QMetaType::Int:
         case QMetaType::LongLong:
-            return m_xml.writeTextElement(QStringLiteral("integer"), value.toString());
+            return m_xml.writeTextElement(u"integer"_s, value.toString());
         case QMetaType::Double:
-            return m_xml.writeTextElement(
-                QStringLiteral("real"), QString::number(value.toDouble(), 'g', 17)
-            );
+            return m_xml.writeTextElement(u"real"_s, QString::number(value.toDouble(), 'g', 17));
         case QMetaType::QString:
-            return m_xml.writeTextElement(QStringLiteral("string"), value.toString());
+            return m_xml.writeTextElement(u"string"_s, value.toString());
         case QMetaType::QByteArray:
             return m_xml.writeTextElement(
-                QStringLiteral("data"), QString::fromLatin1(value.toByteArray().toBase64())
+                u"data"_s, QString::fromLatin1(value.toByteArray().toBase64())
             );
         case QMetaType::QDateTime:
             return m_xml.writeTextElement(
-                QStringLiteral("date"), value.toDateTime().toUTC().toString(Qt::ISODate)
+                u"date"_s, value.toDateTime().toUTC().toString(Qt::ISODate)
             );
         default:
             m_knowsAll = false;
@@ -170,9 +168,9 @@ private:
 
     void writeDictionary(const QVariantMap& dictionary)
     {
-        m_xml.writeStartElement(QStringLiteral("dict"));
+        m_xml.writeStartElement(u"dict"_s);
         for (auto entry = dictionary.begin(); entry != dictionary.end(); ++entry) {
-            m_xml.writeTextElement(QStringLiteral("key"), entry.key());
+            m_xml.writeTextElement(u"key"_s, entry.key());
             writeValue(entry.value());
         }
         m_xml.writeEndElement();
@@ -180,7 +178,7 @@ private:
 
     void writeList(const QVariantList& list)
     {
-        m_xml.writeStartElement(QStringLiteral("array"));
+        m_xml.writeStartElement(u"array"_s);
         for (const QVariant& value : list)
             writeValue(value);
         m_xml.writeEndElement();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "system_desktop.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -15,10 +17,10 @@ namespace {
 QDBusMessage showItemsRequest(const QUrl& item)
 {
     QDBusMessage request = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.FileManager1"),
-        QStringLiteral("/org/freedesktop/FileManager1"),
-        QStringLiteral("org.freedesktop.FileManager1"),
-        QStringLiteral("ShowItems")
+        u"org.freedesktop.FileManager1"_s,
+        u"/org/freedesktop/FileManager1"_s,
+        u"org.freedesktop.FileManager1"_s,
+        u"ShowItems"_s
     );
     request << QStringList{item.toString(QUrl::FullyEncoded)} << QString();
     return request;
@@ -29,7 +31,7 @@ bool hasSessionBus()
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")
-        || (!runtime.isEmpty() && QFileInfo::exists(runtime + QStringLiteral("/bus")));
+        || (!runtime.isEmpty() && QFileInfo::exists(runtime + u"/bus"_s));
 }
 
 QUrl folderOf(const QFileInfo& item)

@@ -4,6 +4,8 @@
 #include "free_name.h"
 #include "hidden_file.h"
 
+#include <platform/foundation/literals.h>
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -74,7 +76,7 @@ bool TemporaryFile::makeNameless(const QString& folder)
     );
     if (m_descriptor < 0)
         return false;
-    m_path = QStringLiteral("/proc/self/fd/%1").arg(m_descriptor);
+    m_path = u"/proc/self/fd/%1"_s.arg(m_descriptor);
     // On its way over another file it has a hidden name for a moment.
     if (::access(QFile::encodeName(m_path).constData(), W_OK) == 0 && claimHiddenFile(m_descriptor))
         return true;

@@ -4,6 +4,7 @@
 #include "file_system.h"
 
 #include <platform/foundation/folders.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 
 #include <QDateTime>
@@ -19,8 +20,7 @@ namespace {
 /// The user's own trash, whose folders nobody else can look into.
 QString madeTrashFolder(const QString& name)
 {
-    const QString trash
-        = appendingPathComponent(applicationSupportFolder(), QStringLiteral("Trash"));
+    const QString trash = appendingPathComponent(applicationSupportFolder(), u"Trash"_s);
     const QString folder = appendingPathComponent(trash, name);
     constexpr auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     QDir().mkdir(trash, ownerOnly);
@@ -31,8 +31,7 @@ QString madeTrashFolder(const QString& name)
 QByteArray informationOn(const QString& path)
 {
     return "[Trash Info]\nPath=" + QUrl::toPercentEncoding(path, "/") + "\nDeletionDate="
-        + QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")).toLatin1()
-        + '\n';
+        + QDateTime::currentDateTime().toString(u"yyyy-MM-ddTHH:mm:ss"_s).toLatin1() + '\n';
 }
 
 /// Takes the first free one of "name", "name 2", "name 3" and so on by making its file in `folder`.
@@ -41,7 +40,7 @@ QString takenName(const QString& folder, const QString& name, const QByteArray& 
     constexpr int most = 10000;
     for (int number = 1; number <= most; ++number) {
         const QString tried = number == 1 ? name : name + u' ' + QString::number(number);
-        QFile file(appendingPathComponent(folder, tried + QStringLiteral(".trashinfo")));
+        QFile file(appendingPathComponent(folder, tried + u".trashinfo"_s));
         if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
             file.write(information);
             return tried;
@@ -55,8 +54,8 @@ QString takenName(const QString& folder, const QString& name, const QByteArray& 
 /// Qt looks at what a link leads to: whether that exists, and on which volume.
 bool moveLinkToTrash(const QString& link)
 {
-    const QString files = madeTrashFolder(QStringLiteral("files"));
-    const QString informations = madeTrashFolder(QStringLiteral("info"));
+    const QString files = madeTrashFolder(u"files"_s);
+    const QString informations = madeTrashFolder(u"info"_s);
     const QFileInfo item(link);
     const QString name
         = takenName(informations, item.fileName(), informationOn(item.absoluteFilePath()));
@@ -64,7 +63,7 @@ bool moveLinkToTrash(const QString& link)
         return false;
     if (moveItem({.source = link, .target = appendingPathComponent(files, name)}))
         return true;
-    removeItem(appendingPathComponent(informations, name + QStringLiteral(".trashinfo")));
+    removeItem(appendingPathComponent(informations, name + u".trashinfo"_s));
     return false;
 }
 

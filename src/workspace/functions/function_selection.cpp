@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selected_function.h"
+#include <platform/foundation/literals.h>
 #include <workspace/gui_controls.h>
 
 #include "function_id.h"
@@ -71,7 +72,7 @@ void cGUIcontrols::pressSection(controls::Button& pressed)
 {
     for (controls::Button* section :
          {&m_window.btnEditPhoto, &m_window.btnFileManagement, &m_window.btnExportHtml})
-        section->setImage(section == &pressed ? u"SelectMainTabView1.png"_qs : u"bgBlue.png"_qs);
+        section->setImage(section == &pressed ? u"SelectMainTabView1.png"_s : u"bgBlue.png"_s);
 }
 
 void cGUIcontrols::hChooseMainEditFunction()

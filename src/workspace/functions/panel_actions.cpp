@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/gui_controls.h>
 
 #include <imaging/color_well_handling.h>
@@ -89,11 +90,11 @@ void cGUIcontrols::hAddFramingPosition()
 
 void cGUIcontrols::hInsertPhotoProperty()
 {
-    static const QStringList tokens{u"<[IMGW]>"_qs, u"<[IMGH]>"_qs};
+    static const QStringList tokens{u"<[IMGW]>"_s, u"<[IMGH]>"_s};
     panels::WatermarkPanel& panel = m_panels.vwWatermark;
     const QString token = tokens.value(panel.pubFileNamePhotoProperties.indexOfSelectedItem());
     panel.tvFileName.setStringValue(panel.tvFileName.stringValue() + token);
-    m_notifications.post(u"cbTextWatermarkMetaDataEntred"_qs);
+    m_notifications.post(u"cbTextWatermarkMetaDataEntred"_s);
 }
 
 void cGUIcontrols::registerColorWellActions(controls::ActionRegistry& actions)
@@ -105,25 +106,25 @@ void cGUIcontrols::registerColorWellActions(controls::ActionRegistry& actions)
         controls::TextField& hexField;
     };
     const ColorPair pairs[] = {
-        {u"hAddFrameColorWellSelected"_qs,
+        {u"hAddFrameColorWellSelected"_s,
          m_panels.vwFraming.myNSColorWellObjFraming,
          m_panels.vwFraming.tfFramingHEXvalue},
-        {u"hAddRCBackgroundColorWellSelected"_qs,
+        {u"hAddRCBackgroundColorWellSelected"_s,
          m_panels.vwRoundings.cwRCBackgroundColor,
          m_panels.vwRoundings.tfRCBackgroundHexColor},
-        {u"hAddRCBorderColorWellSelected"_qs,
+        {u"hAddRCBorderColorWellSelected"_s,
          m_panels.vwRoundings.cwRCBorderColor,
          m_panels.vwRoundings.tfRCBorderHexColor},
-        {u"hAddRotationBackgroundColorWellSelected"_qs,
+        {u"hAddRotationBackgroundColorWellSelected"_s,
          m_panels.vwRotatePhotos.cwRotationBackgroundColor,
          m_panels.vwRotatePhotos.tfRotationBackgroundHexColor},
-        {u"hMonochromeColorWellSelected"_qs,
+        {u"hMonochromeColorWellSelected"_s,
          m_panels.vwFilterPhotos.vwFiltersMonochromeView.cwFilterMonochromeColor,
          m_panels.vwFilterPhotos.vwFiltersMonochromeView.tfFilterMonochromeHexColor},
     };
     for (const ColorPair& pair : pairs) {
         actions.add(
-            u"cGUIcontrols"_qs,
+            u"cGUIcontrols"_s,
             pair.action,
             [this, &well = pair.well, &hexField = pair.hexField](const controls::Sender&) {
                 hexField.setStringValue(imaging::cColorWellHandling::getHEXValue(well.color()));

@@ -5,6 +5,7 @@
 #include "rows.h"
 
 #include <panels/panels.h>
+#include <platform/foundation/literals.h>
 
 namespace brenvaldo::workspace {
 
@@ -22,7 +23,7 @@ PhotoUpload readUpload(const panels::SortingPanel& panel, const QString& path)
     return {
         .path = path,
         .album = panel.theApplePhotosData.value(
-            panel.myPhotosTableView.selectedRow(), u"photosAlbumName"_qs
+            panel.myPhotosTableView.selectedRow(), u"photosAlbumName"_s
         ),
         .keyword = panel.tfAddKeyword.stringValue(),
         .title = panel.tfAddTitle.stringValue(),

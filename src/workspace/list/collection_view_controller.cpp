@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "collection_view_controller.h"
 
+#include <platform/foundation/literals.h>
+
 namespace brenvaldo::workspace {
 
 cCollectionViewController::cCollectionViewController(const Links& links)
@@ -20,7 +22,7 @@ cCollectionViewController::cCollectionViewController(const Links& links)
 
 namespace {
 
-const QString className = u"cCollectionViewController"_qs;
+const QString className = u"cCollectionViewController"_s;
 
 } // namespace
 
@@ -35,19 +37,19 @@ void cCollectionViewController::registerListActions(controls::ActionRegistry& ac
     const auto add = [&](const QString& name, void (cCollectionViewController::*action)()) {
         actions.add(className, name, [this, action](const auto&) { (this->*action)(); });
     };
-    add(u"hChoosePhotos"_qs, &cCollectionViewController::hChoosePhotos);
-    add(u"hInsertPhotos"_qs, &cCollectionViewController::hInsertPhotos);
-    add(u"hRemoveAllPhoto"_qs, &cCollectionViewController::hRemoveAllPhoto);
-    add(u"hRemoveSelectedObject"_qs, &cCollectionViewController::hRemoveSelectedPhotoObject);
-    add(u"hRemoveSelectedPhotoObject"_qs, &cCollectionViewController::hRemoveSelectedPhotoObject);
-    add(u"hProcessAllPhotoFlag"_qs, &cCollectionViewController::hProcessAllPhotoFlag);
-    add(u"cbPhotoToProcessClicked"_qs, &cCollectionViewController::cbPhotoToProcessClicked);
-    add(u"setSortingModeAz"_qs, &cCollectionViewController::setSortingModeAz);
-    add(u"setSortingModezA"_qs, &cCollectionViewController::setSortingModezA);
-    add(u"hRotateRight"_qs, &cCollectionViewController::hRotateRight);
-    add(u"hRotateLeft"_qs, &cCollectionViewController::hRotateLeft);
-    add(u"hFlipHorizontal"_qs, &cCollectionViewController::hFlipHorizontal);
-    add(u"hFlipVertical"_qs, &cCollectionViewController::hFlipVertical);
+    add(u"hChoosePhotos"_s, &cCollectionViewController::hChoosePhotos);
+    add(u"hInsertPhotos"_s, &cCollectionViewController::hInsertPhotos);
+    add(u"hRemoveAllPhoto"_s, &cCollectionViewController::hRemoveAllPhoto);
+    add(u"hRemoveSelectedObject"_s, &cCollectionViewController::hRemoveSelectedPhotoObject);
+    add(u"hRemoveSelectedPhotoObject"_s, &cCollectionViewController::hRemoveSelectedPhotoObject);
+    add(u"hProcessAllPhotoFlag"_s, &cCollectionViewController::hProcessAllPhotoFlag);
+    add(u"cbPhotoToProcessClicked"_s, &cCollectionViewController::cbPhotoToProcessClicked);
+    add(u"setSortingModeAz"_s, &cCollectionViewController::setSortingModeAz);
+    add(u"setSortingModezA"_s, &cCollectionViewController::setSortingModezA);
+    add(u"hRotateRight"_s, &cCollectionViewController::hRotateRight);
+    add(u"hRotateLeft"_s, &cCollectionViewController::hRotateLeft);
+    add(u"hFlipHorizontal"_s, &cCollectionViewController::hFlipHorizontal);
+    add(u"hFlipVertical"_s, &cCollectionViewController::hFlipVertical);
 }
 
 void cCollectionViewController::registerPreviewActions(controls::ActionRegistry& actions)
@@ -55,17 +57,17 @@ void cCollectionViewController::registerPreviewActions(controls::ActionRegistry&
     const auto add = [&](const QString& name, void (cCollectionViewController::*action)()) {
         actions.add(className, name, [this, action](const auto&) { (this->*action)(); });
     };
-    add(u"callForPreview"_qs, &cCollectionViewController::callForPreview);
-    add(u"callForDefaultImage"_qs, &cCollectionViewController::callForDefaultImage);
-    add(u"callForTemplatePreview"_qs, &cCollectionViewController::callForTemplatePreview);
-    add(u"hCheckboxPreviewTouched"_qs, &cCollectionViewController::hCheckboxPreviewTouched);
-    add(u"hCropPositionSegmentedControl"_qs,
+    add(u"callForPreview"_s, &cCollectionViewController::callForPreview);
+    add(u"callForDefaultImage"_s, &cCollectionViewController::callForDefaultImage);
+    add(u"callForTemplatePreview"_s, &cCollectionViewController::callForTemplatePreview);
+    add(u"hCheckboxPreviewTouched"_s, &cCollectionViewController::hCheckboxPreviewTouched);
+    add(u"hCropPositionSegmentedControl"_s,
         &cCollectionViewController::hCropPositionSegmentedControl);
-    add(u"hFlipCropWH"_qs, &cCollectionViewController::hFlipCropWH);
-    add(u"hFlipCropXY"_qs, &cCollectionViewController::hFlipCropXY);
-    add(u"hFlipScaleFixWH"_qs, &cCollectionViewController::hFlipScaleFixWH);
-    add(u"tabViewdidSelectTabViewItem"_qs, &cCollectionViewController::tabViewdidSelectTabViewItem);
-    actions.add(className, u"controlTextDidEndEditing"_qs, [this](const controls::Sender& sender) {
+    add(u"hFlipCropWH"_s, &cCollectionViewController::hFlipCropWH);
+    add(u"hFlipCropXY"_s, &cCollectionViewController::hFlipCropXY);
+    add(u"hFlipScaleFixWH"_s, &cCollectionViewController::hFlipScaleFixWH);
+    add(u"tabViewdidSelectTabViewItem"_s, &cCollectionViewController::tabViewdidSelectTabViewItem);
+    actions.add(className, u"controlTextDidEndEditing"_s, [this](const controls::Sender& sender) {
         controlTextDidEndEditing(sender.tag);
     });
 }

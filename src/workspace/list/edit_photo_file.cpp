@@ -2,6 +2,7 @@
 #include "collection_view_controller.h"
 #include "list_entry.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 
 namespace brenvaldo::workspace {
@@ -17,18 +18,18 @@ QString folderOf(const QString& path)
 
 } // namespace
 
-void cCollectionViewController::hRotateRight() { rotateSelected(u"hRotateRight"_qs, -90); }
+void cCollectionViewController::hRotateRight() { rotateSelected(u"hRotateRight"_s, -90); }
 
-void cCollectionViewController::hRotateLeft() { rotateSelected(u"hRotateLeft"_qs, 90); }
+void cCollectionViewController::hRotateLeft() { rotateSelected(u"hRotateLeft"_s, 90); }
 
 void cCollectionViewController::hFlipHorizontal()
 {
-    editSelected(u"hFlipHorizontal"_qs, m_neighbours.quickEdits.hFlipHorizontalPicture);
+    editSelected(u"hFlipHorizontal"_s, m_neighbours.quickEdits.hFlipHorizontalPicture);
 }
 
 void cCollectionViewController::hFlipVertical()
 {
-    editSelected(u"hFlipVertical"_qs, m_neighbours.quickEdits.hFlipVerticalPicture);
+    editSelected(u"hFlipVertical"_s, m_neighbours.quickEdits.hFlipVerticalPicture);
 }
 
 void cCollectionViewController::rotateSelected(const QString& action, float angle)

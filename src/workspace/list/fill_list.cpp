@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "collection_view_controller.h"
 #include "list_entry.h"
+#include <platform/foundation/literals.h>
 #include <workspace/functions/selected_function.h>
 #include <workspace/preview/preview_switch.h>
 
@@ -39,24 +40,17 @@ void cCollectionViewController::hChoosePhotos()
 std::optional<QStringList> cCollectionViewController::chooseFiles()
 {
     return m_chooser.open(
-        {.message = u"*** Choose files to rename ***"_qs, .allowsMultipleSelection = true}
+        {.message = u"*** Choose files to rename ***"_s, .allowsMultipleSelection = true}
     );
 }
 
 std::optional<QStringList> cCollectionViewController::choosePhotoFiles()
 {
     return m_chooser.open(
-        {.message = u"*** Choose your photos ***"_qs,
+        {.message = u"*** Choose your photos ***"_s,
          .allowsMultipleSelection = true,
          .allowedTypes
-         = {u"jpg"_qs,
-            u"png"_qs,
-            u"gif"_qs,
-            u"bmp"_qs,
-            u"jpeg"_qs,
-            u"tif"_qs,
-            u"tiff"_qs,
-            u"heic"_qs}}
+         = {u"jpg"_s, u"png"_s, u"gif"_s, u"bmp"_s, u"jpeg"_s, u"tif"_s, u"tiff"_s, u"heic"_s}}
     );
 }
 
@@ -69,7 +63,7 @@ void cCollectionViewController::addAll(
     for (const QString& path : paths) {
         ++running;
         if (counter == Counter::RunningNumber)
-            m_window.tfImageCount.setStringValue(u"%1 of %2"_qs.arg(running).arg(count));
+            m_window.tfImageCount.setStringValue(u"%1 of %2"_s.arg(running).arg(count));
         m_photos.append(makeEntry(path));
         if (counter == Counter::ListCount)
             showCount();

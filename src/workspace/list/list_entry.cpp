@@ -2,6 +2,7 @@
 #include "list_entry.h"
 
 #include <imaging/dv_image_handling.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 
 #include <platform/codecs/image_source.h>
@@ -31,7 +32,7 @@ QString pixelText(int pixels) { return pixels == 0 ? QString() : QString::number
 bool hasImageExtension(const QString& path)
 {
     static const QStringList imageExtensions{
-        u"bmp"_qs, u"gif"_qs, u"png"_qs, u"jpg"_qs, u"jpeg"_qs, u"tif"_qs, u"tiff"_qs, u"heic"_qs};
+        u"bmp"_s, u"gif"_s, u"png"_s, u"jpg"_s, u"jpeg"_s, u"tif"_s, u"tiff"_s, u"heic"_s};
     return imageExtensions.contains(platform::pathExtension(path).toLower());
 }
 
@@ -66,13 +67,13 @@ ListPicture fullPicture(const QString& path)
 QString orientationLetter(platform::graphics::PixelSize size)
 {
     if (size.width == size.height)
-        return u"S"_qs;
-    return size.width > size.height ? u"L"_qs : u"P"_qs;
+        return u"S"_s;
+    return size.width > size.height ? u"L"_s : u"P"_s;
 }
 
 QString sizeText(platform::graphics::PixelSize size, qint64 bytes)
 {
-    return pixelText(size.width) + u'x' + pixelText(size.height) + u"px | "_qs
+    return pixelText(size.width) + u'x' + pixelText(size.height) + u"px | "_s
         + imaging::DVImageHandling::hNSFileSizeToHumanNotification(static_cast<double>(bytes));
 }
 
@@ -88,7 +89,7 @@ cCollectionViewItem renameEntry(const QString& path)
 {
     cCollectionViewItem entry = namedEntry(path);
     entry.myPhotoURL = QUrl::fromLocalFile(path);
-    entry.myPhotoOrientation = u"S"_qs;
+    entry.myPhotoOrientation = u"S"_s;
     if (hasImageExtension(path)) {
         entry.myPhoto = thumbnail(path);
     } else {

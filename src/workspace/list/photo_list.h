@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <platform/foundation/literals.h>
 #include <workspace/list_picture.h>
 
 #include <platform/foundation/signal.h>
@@ -16,10 +17,9 @@ namespace brenvaldo::workspace {
 /// One entry of the photo list.
 struct cCollectionViewItem
 {
-    QString myPhotoName = QStringLiteral("pictureName");
+    QString myPhotoName = u"pictureName"_s;
     QUrl myPhotoURL; ///< unset on entries added by dropping
-    QString myPhotoDescription
-        = QStringLiteral("Fantastisch"); ///< the file's path: the entry's identity
+    QString myPhotoDescription = u"Fantastisch"_s; ///< the file's path: the entry's identity
     QString myPhotoOrientation; ///< "L", "P" or "S"
     int myPhotoSelect = 1; ///< 1: takes part in a run
     ListPicture myPhoto; ///< what the grid draws

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/functions/selected_function.h>
 #include <workspace/list/collection_view_controller.h>
 
@@ -64,7 +65,7 @@ void cCollectionViewController::selectionChanged()
     m_window.myTemplateOverlayPreview.clear();
     const auto path = hGetActiveFileFilePath();
     if (!path) {
-        platform::log(u"no picture selected"_qs);
+        platform::log(u"no picture selected"_s);
         return;
     }
     callForPreview();
@@ -97,10 +98,10 @@ void cCollectionViewController::callForTemplatePreview()
         QString fileName; ///< "" leaves the name of the pages as it is
     };
     static const QList<Template> templates{
-        {u"Ex01XL.png"_qs, u"myFirstPhotoGallery"_qs},
-        {u"Ex02XL.png"_qs, {}},
-        {u"Ex03XL.png"_qs, {}},
-        {u"Ex04XL.png"_qs, u"myFourthPhotoGallery"_qs},
+        {u"Ex01XL.png"_s, u"myFirstPhotoGallery"_s},
+        {u"Ex02XL.png"_s, {}},
+        {u"Ex03XL.png"_s, {}},
+        {u"Ex04XL.png"_s, u"myFourthPhotoGallery"_s},
     };
     const int index = m_panels.vwHtmlExport.pubPhotoGalleryModel.indexOfSelectedItem();
     if (index < 0 || index >= templates.size())

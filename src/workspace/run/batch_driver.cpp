@@ -10,6 +10,7 @@
 #include <imaging/writer_rules.h>
 #include <panels/panels.h>
 #include <platform/containers/type_identifier.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/hidden_file.h>
 #include <workspace/functions/function_id.h>
@@ -62,7 +63,7 @@ void BatchDriver::hLoadImages()
     const PreviewSwitchedOff preview(m_panels.vwShowPreview.cbShowPreview);
     const QString selected = cSelectedFunction::sharedModel().myString.value_or(QString());
     const Function* function = functionOfRun(m_links.functions, selected, m_panels);
-    files::cKeepNumber::sharedNumber().myNumberString = u"0"_qs;
+    files::cKeepNumber::sharedNumber().myNumberString = u"0"_s;
     const Press press{
         .function = function ? function->id : QLatin1String(),
         .destination = m_panels.vwMainDestination.tfImageDestinationFolder.stringValue(),
@@ -178,7 +179,7 @@ void BatchDriver::hCalledRenameFilesFunc(const QString& path, int previewState, 
     const auto& rename = renamingOf(m_links.functions).rename;
     const RenameRequest request{
         .path = path,
-        .function = u"RenamingFunction"_qs,
+        .function = u"RenamingFunction"_s,
         .previewState = previewState,
         .index = index};
     const imaging::ResultWord word
@@ -190,7 +191,7 @@ void BatchDriver::hCalledRenameFilesFunc(const QString& path, int previewState, 
 void BatchDriver::hCalledCActionFunc()
 {
     if (const auto& rename = renamingOf(m_links.functions).rename)
-        rename(m_links.subsystems, {.path = {}, .function = u"CActionFunction"_qs});
+        rename(m_links.subsystems, {.path = {}, .function = u"CActionFunction"_s});
 }
 
 QStringList BatchDriver::takenForDestination(const Press& press, Takes takes)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batch_rules.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 
@@ -10,13 +11,13 @@ QString applyOnFilter(int index)
 {
     switch (index) {
     case 0:
-        return u"ALL"_qs;
+        return u"ALL"_s;
     case 1:
-        return u"L"_qs;
+        return u"L"_s;
     case 2:
-        return u"P"_qs;
+        return u"P"_s;
     default:
-        return u"S"_qs;
+        return u"S"_s;
     }
 }
 
@@ -30,7 +31,7 @@ QString destinationBase(const QString& folder, const QString& outputName)
 void logNotBuilt(const QLatin1String& function)
 {
     platform::log(
-        u"The function \"%1\" comes with a later version; its photos are left as they are."_qs.arg(
+        u"The function \"%1\" comes with a later version; its photos are left as they are."_s.arg(
             function
         )
     );

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/gui_controls.h>
 
 namespace brenvaldo::workspace {
@@ -6,7 +7,7 @@ namespace brenvaldo::workspace {
 void cGUIcontrols::hChooseScalingDestinationFolder()
 {
     const auto chosen = m_chooser.open(
-        {.message = u"*** Choose destination folder ***"_qs,
+        {.message = u"*** Choose destination folder ***"_s,
          .choosesFiles = false,
          .choosesDirectories = true,
          .canCreateDirectories = true}

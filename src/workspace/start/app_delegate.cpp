@@ -2,6 +2,7 @@
 #include "app_delegate.h"
 
 #include "metadata_keys.h"
+#include <platform/foundation/literals.h>
 #include <workspace/preview/preview_notifications.h>
 
 #include <files/tool_box.h>
@@ -17,7 +18,7 @@ namespace {
 /// Makes the folder of temporary files; one that stood there already is emptied.
 void prepareTemp()
 {
-    const QString temp = platform::appendingPathComponent(platform::homeFolder(), u"Temp"_qs);
+    const QString temp = platform::appendingPathComponent(platform::homeFolder(), u"Temp"_s);
     if (files::cNSFileHandling::hCreateDirectory(temp) != files::FileResult::Exists)
         return;
     files::cNSFileHandling::hDeleteFiles(files::cToolBox::hGetFilesInDir(temp));
@@ -63,7 +64,7 @@ void AppDelegate::linkToPresets()
     try {
         presets::dbViewController().linkToPresetsDB();
     } catch (const platform::Exception& exception) {
-        platform::log(u"linkToPresetsDB: "_qs + exception.reason());
+        platform::log(u"linkToPresetsDB: "_s + exception.reason());
         m_exceptionRaised(exception);
     }
 }
@@ -71,7 +72,7 @@ void AppDelegate::linkToPresets()
 void AppDelegate::makeFolders()
 {
     files::cNSFileHandling::hCreateDirectory(
-        platform::appendingPathComponent(platform::applicationSupportFolder(), u"DravothCom"_qs)
+        platform::appendingPathComponent(platform::applicationSupportFolder(), u"DravothCom"_s)
     );
     prepareTemp();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "slide_show_progress.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 
 namespace brenvaldo::workspace {
@@ -19,7 +20,7 @@ bool isOfSlideShow(const controls::ProgressIndicator& bar)
 
 void cProgressbar::hInitializeProgressbar(controls::ProgressIndicator& bar, double maximum) const
 {
-    platform::log(u"hInitializeProgressbar entred"_qs);
+    platform::log(u"hInitializeProgressbar entred"_s);
     if (!isOfSlideShow(bar))
         return;
     bar.setIndeterminate(true);
@@ -27,7 +28,7 @@ void cProgressbar::hInitializeProgressbar(controls::ProgressIndicator& bar, doub
     bar.setDoubleValue(0);
     bar.setHidden(false);
     bar.startAnimation();
-    platform::log(u"wordt geinitialiseerd"_qs);
+    platform::log(u"wordt geinitialiseerd"_s);
 }
 
 void cProgressbar::hUpdateProgressbar(controls::ProgressIndicator& bar) const

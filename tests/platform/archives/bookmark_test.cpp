@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/archives/bookmark.h>
+#include <platform/foundation/literals.h>
 
 #include "support/temporary_folder.h"
 #include "support/text_printing.h"
@@ -13,7 +14,7 @@ using namespace brenvaldo;
 TEST(Bookmark, GivesThePathBackWhileItExists)
 {
     const test::TemporaryFolder folder;
-    const QString path = folder.path(QStringLiteral("ph\u00f6tos \U0001F4F7"));
+    const QString path = folder.path(u"ph\u00f6tos \U0001F4F7"_s);
     ASSERT_TRUE(QDir().mkdir(path));
 
     const auto record = platform::archives::bookmarkFor(path);
@@ -25,7 +26,7 @@ TEST(Bookmark, GivesThePathBackWhileItExists)
 TEST(Bookmark, IsLostWithItsFolder)
 {
     const test::TemporaryFolder folder;
-    const QString path = folder.path(QStringLiteral("gone"));
+    const QString path = folder.path(u"gone"_s);
     ASSERT_TRUE(QDir().mkdir(path));
     const auto record = platform::archives::bookmarkFor(path);
     ASSERT_TRUE(QDir().rmdir(path));
@@ -37,13 +38,12 @@ TEST(Bookmark, IsLostWithItsFolder)
 TEST(Bookmark, CannotBeMadeForWhatDoesNotExist)
 {
     EXPECT_FALSE(platform::archives::bookmarkFor(QString()));
-    EXPECT_FALSE(platform::archives::bookmarkFor(QStringLiteral("/no/such/folder")));
+    EXPECT_FALSE(platform::archives::bookmarkFor(u"/no/such/folder"_s));
 }
 
 TEST(Bookmark, RefusesForeignAndDamagedRecords)
 {
-    const QByteArray record
-        = platform::archives::bookmarkFor(QStringLiteral("/")).value_or(QByteArray());
+    const QByteArray record = platform::archives::bookmarkFor(u"/"_s).value_or(QByteArray());
     ASSERT_TRUE(platform::archives::pathOfBookmark(record));
 
     EXPECT_FALSE(platform::archives::pathOfBookmark(QByteArray()));

@@ -3,6 +3,8 @@
 
 #include "support/text_printing.h"
 
+#include <platform/foundation/literals.h>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -133,7 +135,7 @@ TEST(ColorArchive, IsReadWhenWrappedAndWithoutPadding)
     QString text = platform::archives::colorArchive({0.0F, 0.0F, 0.0F});
     ASSERT_TRUE(text.endsWith(QLatin1Char('=')));
     text.chop(1);
-    text.insert(64, QStringLiteral("\r\n"));
+    text.insert(64, u"\r\n"_s);
 
     EXPECT_EQ(platform::archives::colorFromArchive(text), ColorComponents({0.0F, 0.0F, 0.0F}));
 }
@@ -141,8 +143,8 @@ TEST(ColorArchive, IsReadWhenWrappedAndWithoutPadding)
 TEST(ColorArchive, RefusesWhatIsNoArchive)
 {
     EXPECT_FALSE(platform::archives::colorFromArchive(QString()));
-    EXPECT_FALSE(platform::archives::colorFromArchive(QStringLiteral("FFAA00")));
-    EXPECT_FALSE(platform::archives::colorFromArchive(QStringLiteral("not base64!")));
+    EXPECT_FALSE(platform::archives::colorFromArchive(u"FFAA00"_s));
+    EXPECT_FALSE(platform::archives::colorFromArchive(u"not base64!"_s));
     EXPECT_FALSE(platform::archives::colorFromArchive(QString(20'000, QLatin1Char('A'))));
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_destination.h>
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 
 #include <support/case_name.h>
 #include <support/log_lines.h>
@@ -26,7 +27,7 @@ bool opens(const QByteArray& file)
 {
     const TemporaryFolder folder;
     const LogLines log;
-    return ImageSource::open(folder.write(QStringLiteral("photo"), file)).has_value();
+    return ImageSource::open(folder.write(u"photo"_s, file)).has_value();
 }
 
 template <typename Number>
@@ -221,7 +222,7 @@ TEST_P(FlatPhoto, OpensHoweverShortItsFileIs)
     const TemporaryFolder folder;
     QImage flat(3000, 2000, QImage::Format_Grayscale8);
     flat.fill(Qt::white);
-    const QString path = folder.path(QStringLiteral("flat"));
+    const QString path = folder.path(u"flat"_s);
     ASSERT_TRUE(encode(Image::fromQImage(flat), GetParam().format, {}, path));
 
     EXPECT_TRUE(ImageSource::open(path));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 
 #include <support/exif_block.h>
 #include <support/photo_builder.h>
@@ -25,7 +26,7 @@ TEST(EmbeddedThumbnail, StandsUpright)
     const QString path = PhotoBuilder()
                              .size(600, 400)
                              .exif(exifBlock({.orientation = 6, .thumbnail = smallJpeg(120, 80)}))
-                             .write(folder.path(QStringLiteral("a.jpg")));
+                             .write(folder.path(u"a.jpg"_s));
 
     const QImage thumbnail = embeddedThumbnail(path);
 
@@ -41,7 +42,7 @@ TEST(EmbeddedThumbnail, IsFoundBehindFillBytes)
     constexpr qsizetype behindTheStart = 2;
     photo.insert(behindTheStart, "\xFF\xFF");
 
-    const QString path = folder.write(QStringLiteral("a.jpg"), photo);
+    const QString path = folder.write(u"a.jpg"_s, photo);
 
     EXPECT_EQ(embeddedThumbnail(path).size(), QSize(30, 20));
 }
@@ -53,8 +54,7 @@ TEST(EmbeddedThumbnail, FollowsAnOrientationStoredAsAByte)
     constexpr char byte = 1;
     block[block.indexOf(QByteArrayView("\x12\x01\x03\0", 4)) + 2] = byte;
 
-    const QString path
-        = PhotoBuilder().size(120, 80).exif(block).write(folder.path(QStringLiteral("a.jpg")));
+    const QString path = PhotoBuilder().size(120, 80).exif(block).write(folder.path(u"a.jpg"_s));
 
     EXPECT_EQ(embeddedThumbnail(path).size(), QSize(20, 30));
 }
@@ -65,7 +65,7 @@ TEST(EmbeddedThumbnail, LosesTheBarsOfTheCamera)
     const QString path = PhotoBuilder()
                              .size(600, 400)
                              .exif(exifBlock({.thumbnail = smallJpeg(160, 120)}))
-                             .write(folder.path(QStringLiteral("a.jpg")));
+                             .write(folder.path(u"a.jpg"_s));
 
     EXPECT_EQ(embeddedThumbnail(path).size(), QSize(160, 106));
 }
@@ -74,11 +74,9 @@ TEST(EmbeddedThumbnail, IsNullWithoutOne)
 {
     const TemporaryFolder folder;
 
-    EXPECT_TRUE(
-        embeddedThumbnail(PhotoBuilder().write(folder.path(QStringLiteral("a.jpg")))).isNull()
-    );
-    EXPECT_TRUE(embeddedThumbnail(folder.path(QStringLiteral("missing.jpg"))).isNull());
-    EXPECT_TRUE(embeddedThumbnail(folder.write(QStringLiteral("b.jpg"), "no photo")).isNull());
+    EXPECT_TRUE(embeddedThumbnail(PhotoBuilder().write(folder.path(u"a.jpg"_s))).isNull());
+    EXPECT_TRUE(embeddedThumbnail(folder.path(u"missing.jpg"_s)).isNull());
+    EXPECT_TRUE(embeddedThumbnail(folder.write(u"b.jpg"_s, "no photo")).isNull());
 }
 
 TEST(EmbeddedThumbnail, IsNullInADamagedBlock)
@@ -87,7 +85,7 @@ TEST(EmbeddedThumbnail, IsNullInADamagedBlock)
     const QByteArray block = exifBlock({.orientation = 6, .thumbnail = smallJpeg(32, 24)});
     for (qsizetype length = 0; length < 100; ++length) {
         const QString path
-            = PhotoBuilder().exif(block.first(length)).write(folder.path(QStringLiteral("a.jpg")));
+            = PhotoBuilder().exif(block.first(length)).write(folder.path(u"a.jpg"_s));
 
         EXPECT_TRUE(embeddedThumbnail(path).isNull()) << length;
     }
@@ -100,8 +98,7 @@ TEST(EmbeddedThumbnail, SurvivesAnyByteOfTheBlock)
     for (qsizetype at = 0; at < 100; ++at) {
         QByteArray damaged = block;
         damaged[at] = '\xFF';
-        const QString path
-            = PhotoBuilder().exif(damaged).write(folder.path(QStringLiteral("a.jpg")));
+        const QString path = PhotoBuilder().exif(damaged).write(folder.path(u"a.jpg"_s));
 
         const QImage thumbnail = embeddedThumbnail(path);
 

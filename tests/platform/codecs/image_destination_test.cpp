@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_destination.h>
+#include <platform/foundation/literals.h>
 
 #include <support/case_name.h>
 #include <support/color_profiles.h>
@@ -48,8 +49,8 @@ TEST_P(ImageDestinationRoundTrip, GivesThePictureBack)
                                .depth(row.depth)
                                .format(PhotoFormat::Tiff)
                                .dotsPerInch(144)
-                               .write(folder.path(QStringLiteral("source.tiff")));
-    const QString target = folder.path(QStringLiteral("target"));
+                               .write(folder.path(u"source.tiff"_s));
+    const QString target = folder.path(u"target"_s);
 
     const bool done
         = encode(*openedPhoto(source).image(), row.format, {.lossyQuality = 1.0}, target);
@@ -201,8 +202,8 @@ TEST_P(ImageDestinationAlpha, IsLaidOnWhite)
                                .model(PhotoModel::RgbAlpha)
                                .solid({200, 0, 0, 0})
                                .format(PhotoFormat::Png)
-                               .write(folder.path(QStringLiteral("source.png")));
-    const QString target = folder.path(QStringLiteral("target"));
+                               .write(folder.path(u"source.png"_s));
+    const QString target = folder.path(u"target"_s);
 
     ASSERT_TRUE(encode(*openedPhoto(source).image(), GetParam().format, {}, target));
 
@@ -240,8 +241,8 @@ TEST_P(ImageDestinationProfile, StaysByteForByte)
                                .model(row.model)
                                .format(PhotoFormat::Tiff)
                                .iccProfile(profile)
-                               .write(folder.path(QStringLiteral("source.tiff")));
-    const QString target = folder.path(QStringLiteral("target"));
+                               .write(folder.path(u"source.tiff"_s));
+    const QString target = folder.path(u"target"_s);
 
     ASSERT_TRUE(encode(*openedPhoto(source).image(), row.format, {.lossyQuality = 1.0}, target));
 
@@ -278,8 +279,8 @@ TEST(ImageDestination, KeepsAProfileThatThePngLibraryRejects)
     const QString source = PhotoBuilder()
                                .format(PhotoFormat::Tiff)
                                .iccProfile(oddProfile())
-                               .write(folder.path(QStringLiteral("source.tiff")));
-    const QString target = folder.path(QStringLiteral("target.png"));
+                               .write(folder.path(u"source.tiff"_s));
+    const QString target = folder.path(u"target.png"_s);
 
     ASSERT_TRUE(encode(*openedPhoto(source).image(), FileFormat::Png, {}, target));
 
@@ -289,10 +290,9 @@ TEST(ImageDestination, KeepsAProfileThatThePngLibraryRejects)
 TEST(ImageDestination, SubsamplesChromaUpToNineTenths)
 {
     const TemporaryFolder folder;
-    const QString source
-        = PhotoBuilder().size(300, 200).write(folder.path(QStringLiteral("a.jpg")));
+    const QString source = PhotoBuilder().size(300, 200).write(folder.path(u"a.jpg"_s));
     const auto samplingOf = [&](double quality) {
-        const QString target = folder.path(QStringLiteral("b.jpg"));
+        const QString target = folder.path(u"b.jpg"_s);
         EXPECT_TRUE(encode(
             *openedPhoto(source).image(), FileFormat::Jpeg, {.lossyQuality = quality}, target
         ));
@@ -310,8 +310,8 @@ TEST(ImageDestination, SubsamplesChromaUpToNineTenths)
 TEST(ImageDestination, CarriesBlocksIntoHeic)
 {
     const TemporaryFolder folder;
-    const QString source = PhotoBuilder().write(folder.path(QStringLiteral("a.jpg")));
-    const QString target = folder.path(QStringLiteral("b.heic"));
+    const QString source = PhotoBuilder().write(folder.path(u"a.jpg"_s));
+    const QString target = folder.path(u"b.heic"_s);
     const MetadataBlocks blocks = {
         .exif = exifBlock({.make = "Maker of cameras", .dotsPerInch = 300}),
         .xmp = "<x:xmpmeta xmlns:x='adobe:ns:meta/'></x:xmpmeta>",
@@ -339,7 +339,7 @@ TEST_P(ImageDestinationMemory, RefusesAPictureThatCannotBeHeldWhole)
     constexpr int farTooMuch = 9'000'000;
     const Image huge = Image::fromQImage(dot).scaledTo({farTooMuch, farTooMuch});
 
-    EXPECT_FALSE(encode(huge, GetParam(), {}, folder.path(u"huge"_qs)));
+    EXPECT_FALSE(encode(huge, GetParam(), {}, folder.path(u"huge"_s)));
 
     EXPECT_THAT(log.lines().join(u'\n').toStdString(), testing::HasSubstr("not enough memory"));
 }
@@ -352,9 +352,8 @@ TEST(ImageDestination, WritesOnePageOfThePicturesPoints)
 {
     const TemporaryFolder folder;
     const QString source
-        = PhotoBuilder().size(300, 150).dotsPerInch(144).write(folder.path(QStringLiteral("a.jpg"))
-        );
-    const QString target = folder.path(QStringLiteral("b.pdf"));
+        = PhotoBuilder().size(300, 150).dotsPerInch(144).write(folder.path(u"a.jpg"_s));
+    const QString target = folder.path(u"b.pdf"_s);
 
     ASSERT_TRUE(encode(*openedPhoto(source).image(), FileFormat::Pdf, {}, target));
 
@@ -375,32 +374,27 @@ TEST_P(ImageDestinationFault, OfADamagedSourceIsReported)
 {
     const TemporaryFolder folder;
     const QByteArray whole = PhotoBuilder().size(300, 200).bytes();
-    const QString source = folder.write(QStringLiteral("a.jpg"), whole.first(whole.size() / 2));
+    const QString source = folder.write(u"a.jpg"_s, whole.first(whole.size() / 2));
 
-    EXPECT_FALSE(encode(
-        *openedPhoto(source).image(), GetParam().format, {}, folder.path(QStringLiteral("b"))
-    ));
+    EXPECT_FALSE(encode(*openedPhoto(source).image(), GetParam().format, {}, folder.path(u"b"_s)));
 }
 
 TEST_P(ImageDestinationFault, OfAFolderThatIsMissingIsReported)
 {
     const TemporaryFolder folder;
-    const QString source = PhotoBuilder().write(folder.path(QStringLiteral("a.jpg")));
+    const QString source = PhotoBuilder().write(folder.path(u"a.jpg"_s));
 
-    EXPECT_FALSE(encode(
-        *openedPhoto(source).image(), GetParam().format, {}, folder.path(QStringLiteral("none/b"))
-    ));
+    EXPECT_FALSE(
+        encode(*openedPhoto(source).image(), GetParam().format, {}, folder.path(u"none/b"_s))
+    );
 }
 
 TEST_P(ImageDestinationFault, OfAFullDiskIsReported)
 {
     const TemporaryFolder folder;
-    const QString source
-        = PhotoBuilder().size(300, 200).write(folder.path(QStringLiteral("a.jpg")));
+    const QString source = PhotoBuilder().size(300, 200).write(folder.path(u"a.jpg"_s));
 
-    EXPECT_FALSE(
-        encode(*openedPhoto(source).image(), GetParam().format, {}, QStringLiteral("/dev/full"))
-    );
+    EXPECT_FALSE(encode(*openedPhoto(source).image(), GetParam().format, {}, u"/dev/full"_s));
 }
 
 INSTANTIATE_TEST_SUITE_P(

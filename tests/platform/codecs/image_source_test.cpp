@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_destination.h>
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 
 #include <support/case_name.h>
 #include <support/color_profiles.h>
@@ -46,7 +47,7 @@ TEST_P(ImageSourceOrientation, TurnsThePixelsUpright)
                              .size(48, 32)
                              .corners()
                              .orientation(GetParam().tag)
-                             .write(folder.path(QStringLiteral("photo.jpg")));
+                             .write(folder.path(u"photo.jpg"_s));
 
     const QImage upright = uprightPixels(path);
 
@@ -62,7 +63,7 @@ TEST_P(ImageSourceOrientation, LeavesStoredPixelsAlone)
                              .size(48, 32)
                              .corners()
                              .orientation(GetParam().tag)
-                             .write(folder.path(QStringLiteral("photo.jpg")));
+                             .write(folder.path(u"photo.jpg"_s));
 
     const QImage stored = storedPixels(path);
 
@@ -94,8 +95,7 @@ TEST(ImageSource, ReportsTheSizeAPhotoShowsAt)
 {
     const TemporaryFolder folder;
     const QString path
-        = PhotoBuilder().size(400, 300).orientation(6).write(folder.path(QStringLiteral("photo.jpg")
-        ));
+        = PhotoBuilder().size(400, 300).orientation(6).write(folder.path(u"photo.jpg"_s));
 
     const auto source = openedPhoto(path);
 
@@ -110,7 +110,7 @@ TEST(ImageSource, ReadsWholePixelsAMetreAsWholeDotsPerInch)
         const QString path = PhotoBuilder()
                                  .format(PhotoFormat::Png)
                                  .dotsPerInch(dotsPerInch)
-                                 .write(folder.path(QStringLiteral("photo.png")));
+                                 .write(folder.path(u"photo.png"_s));
 
         EXPECT_EQ(openedPhoto(path).header().dotsPerInch, dotsPerInch);
         EXPECT_EQ(openedPhoto(path).image()->dotsPerInch(), dotsPerInch);
@@ -123,7 +123,7 @@ TEST(ImageSource, ReadsAResolutionOfOnePixelAMillimetre)
     const QString path = PhotoBuilder()
                              .format(PhotoFormat::Png)
                              .dotsPerInch(25.4)
-                             .write(folder.path(QStringLiteral("photo.png")));
+                             .write(folder.path(u"photo.png"_s));
 
     EXPECT_EQ(openedPhoto(path).header().dotsPerInch, 25.4);
     EXPECT_EQ(openedPhoto(path).image()->dotsPerInch(), 25.4);
@@ -133,9 +133,9 @@ TEST(ImageSource, ReadsTheProfileOfABitmap)
 {
     const TemporaryFolder folder;
     const PhotoBuilder bitmap = PhotoBuilder().format(PhotoFormat::Bmp).iccProfile(wideProfile());
-    const QString path = bitmap.write(folder.path(QStringLiteral("photo.bmp")));
+    const QString path = bitmap.write(folder.path(u"photo.bmp"_s));
     const QString cut
-        = folder.write(QStringLiteral("cut.bmp"), bitmap.bytes().chopped(wideProfile().size() / 2));
+        = folder.write(u"cut.bmp"_s, bitmap.bytes().chopped(wideProfile().size() / 2));
 
     EXPECT_EQ(openedPhoto(path).image()->iccProfile(), wideProfile());
     EXPECT_EQ(openedPhoto(cut).image()->iccProfile(), QByteArray());
@@ -144,11 +144,10 @@ TEST(ImageSource, ReadsTheProfileOfABitmap)
 TEST(ImageSource, ReadsTheHeaderOfAJpeg2000BehindABoxOf64BitLength)
 {
     const TemporaryFolder folder;
-    const auto photo = ImageSource::open(PhotoBuilder()
-                                             .iccProfile(oddProfile())
-                                             .dotsPerInch(300)
-                                             .write(folder.path(QStringLiteral("a.jpg"))));
-    const QString path = folder.path(QStringLiteral("a.jp2"));
+    const auto photo = ImageSource::open(
+        PhotoBuilder().iccProfile(oddProfile()).dotsPerInch(300).write(folder.path(u"a.jpg"_s))
+    );
+    const QString path = folder.path(u"a.jp2"_s);
     ASSERT_TRUE(encode(*photo->image(), FileFormat::Jpeg2000, {}, path));
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
@@ -176,16 +175,16 @@ TEST(ImageSource, ReadsTheHeaderOfAJpeg2000BehindABoxOf64BitLength)
 TEST(ImageSource, FollowsTheContentsNotTheName)
 {
     const TemporaryFolder folder;
-    const QString path = PhotoBuilder().write(folder.path(QStringLiteral("photo.png")));
+    const QString path = PhotoBuilder().write(folder.path(u"photo.png"_s));
 
-    EXPECT_EQ(openedPhoto(path).header().typeIdentifier, QStringLiteral("public.jpeg"));
+    EXPECT_EQ(openedPhoto(path).header().typeIdentifier, u"public.jpeg"_s);
 }
 
 TEST(ImageSource, TellsOfAnImageThatNothingReads)
 {
     const TemporaryFolder folder;
-    const QString page = folder.write(QStringLiteral("page.pdf"), "%PDF-1.4");
-    const QString text = folder.write(QStringLiteral("notes.txt"), "no image");
+    const QString page = folder.write(u"page.pdf"_s, "%PDF-1.4");
+    const QString text = folder.write(u"notes.txt"_s, "no image");
     const LogLines log;
 
     EXPECT_FALSE(ImageSource::open(page));
@@ -204,7 +203,7 @@ TEST(ImageSource, ReadsTheHeaderFacts)
                              .depth(16)
                              .dotsPerInch(300)
                              .format(PhotoFormat::Png)
-                             .write(folder.path(QStringLiteral("photo.png")));
+                             .write(folder.path(u"photo.png"_s));
 
     const ImageHeader header = openedPhoto(path).header();
 
@@ -220,8 +219,7 @@ TEST(ImageSource, TakesAMissingResolutionAs72)
     const TemporaryFolder folder;
 
     for (const PhotoFormat format : {PhotoFormat::Jpeg, PhotoFormat::Png, PhotoFormat::Bmp}) {
-        const QString path
-            = PhotoBuilder().format(format).write(folder.path(QStringLiteral("photo")));
+        const QString path = PhotoBuilder().format(format).write(folder.path(u"photo"_s));
 
         EXPECT_EQ(openedPhoto(path).header().dotsPerInch, 72);
     }
@@ -236,7 +234,7 @@ TEST(ImageSource, TurnsHeicByItsOwnBoxesAlone)
                              .format(PhotoFormat::Heic)
                              .orientation(3)
                              .heicTransformation(6)
-                             .write(folder.path(QStringLiteral("a.heic")));
+                             .write(folder.path(u"a.heic"_s));
 
     const ImageHeader header = openedPhoto(path).header();
 
@@ -255,7 +253,7 @@ TEST(ImageSource, FindsTheStoredPixelsOfAHeicThatStatesItsTurnedSize)
                              .format(PhotoFormat::Heic)
                              .heicTransformation(6)
                              .statesTurnedSize()
-                             .write(folder.path(QStringLiteral("a.heic")));
+                             .write(folder.path(u"a.heic"_s));
 
     const ImageHeader header = openedPhoto(path).header();
 
@@ -271,7 +269,7 @@ TEST(ImageSource, BelievesAStatedResolutionOfOnePixelAMillimetre)
     const QString path = PhotoBuilder()
                              .format(PhotoFormat::Tiff)
                              .dotsPerInch(25.4)
-                             .write(folder.path(QStringLiteral("a.tiff")));
+                             .write(folder.path(u"a.tiff"_s));
 
     EXPECT_EQ(openedPhoto(path).header().dotsPerInch, 25.4);
 }
@@ -284,7 +282,7 @@ TEST_P(ImageSourceShrinking, NeverGoesBelowTheRequest)
 {
     const TemporaryFolder folder;
     const QString path
-        = PhotoBuilder().size(403, 301).orientation(6).write(folder.path(QStringLiteral("a.jpg")));
+        = PhotoBuilder().size(403, 301).orientation(6).write(folder.path(u"a.jpg"_s));
     const PixelSize request = {GetParam(), GetParam()};
 
     const auto upright = openedPhoto(path).uprightImage({.atLeast = request});
@@ -308,7 +306,7 @@ TEST(ImageSource, ShrinksAsFarAsTheRequestAllows)
 {
     const TemporaryFolder folder;
     const QString path
-        = PhotoBuilder().size(400, 304).orientation(8).write(folder.path(QStringLiteral("a.jpg")));
+        = PhotoBuilder().size(400, 304).orientation(8).write(folder.path(u"a.jpg"_s));
 
     const auto image = openedPhoto(path).uprightImage({.atLeast = PixelSize{38, 50}});
 
@@ -333,7 +331,7 @@ TEST_P(ImageSourceDamage, OfAHalfFileGivesNoPicture)
     const TemporaryFolder folder;
     const QByteArray whole = PhotoBuilder().size(200, 150).format(GetParam().format).bytes();
 
-    const QString path = folder.write(QStringLiteral("photo"), whole.first(whole.size() / 2));
+    const QString path = folder.write(u"photo"_s, whole.first(whole.size() / 2));
 
     EXPECT_TRUE(storedPixels(path).isNull());
     EXPECT_TRUE(uprightPixels(path).isNull());
@@ -346,7 +344,7 @@ TEST_P(ImageSourceDamage, OfSingleBytesIsSurvived)
     for (qsizetype at = 0; at < whole.size(); at += 1 + whole.size() / 97) {
         QByteArray damaged = whole;
         damaged[at] = static_cast<char>(~damaged[at]);
-        const QString path = folder.write(QStringLiteral("photo"), damaged);
+        const QString path = folder.write(u"photo"_s, damaged);
 
         const QImage pixels = storedPixels(path);
 
@@ -374,16 +372,16 @@ TEST(ImageSource, DoesNotOpenWhatIsNoImage)
 {
     const TemporaryFolder folder;
 
-    EXPECT_FALSE(ImageSource::open(folder.write(QStringLiteral("a.jpg"), "")));
-    EXPECT_FALSE(ImageSource::open(folder.write(QStringLiteral("b.jpg"), "a line of text")));
-    EXPECT_FALSE(ImageSource::open(folder.path(QStringLiteral("missing.jpg"))));
+    EXPECT_FALSE(ImageSource::open(folder.write(u"a.jpg"_s, "")));
+    EXPECT_FALSE(ImageSource::open(folder.write(u"b.jpg"_s, "a line of text")));
+    EXPECT_FALSE(ImageSource::open(folder.path(u"missing.jpg"_s)));
     EXPECT_FALSE(ImageSource::open(folder.path()));
 }
 
 TEST(ImageSource, DoesNotWaitForAPipe)
 {
     const TemporaryFolder folder;
-    const QString pipe = folder.path(QStringLiteral("a.jpg"));
+    const QString pipe = folder.path(u"a.jpg"_s);
     ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
 
     EXPECT_FALSE(ImageSource::open(pipe));
@@ -396,7 +394,7 @@ TEST(ImageSource, DropsAProfileThatTellsNothing)
     const QString path = PhotoBuilder()
                              .format(PhotoFormat::Png)
                              .iccProfile(emptyProfile())
-                             .write(folder.path(QStringLiteral("a.png")));
+                             .write(folder.path(u"a.png"_s));
 
     EXPECT_EQ(openedPhoto(path).image()->iccProfile(), QByteArray());
     EXPECT_FALSE(storedPixels(path).isNull());
@@ -412,7 +410,7 @@ TEST_P(ImageSourceJpeg, FailsWhenItsDataEndEarlyWithAnEndMarker)
     const LogLines log;
     const QByteArray whole = PhotoBuilder().size(200, 150).format(GetParam().format).bytes();
     const QByteArray ended = whole.first(whole.size() * 7 / 10) + QByteArray("\xFF\xD9");
-    const QString path = folder.write(QStringLiteral("a.jpg"), ended);
+    const QString path = folder.write(u"a.jpg"_s, ended);
 
     EXPECT_TRUE(storedPixels(path).isNull());
     EXPECT_TRUE(openedPhoto(path).image({.atLeast = PixelSize{20, 15}})->toQImage().isNull());
@@ -430,9 +428,9 @@ TEST_P(ImageSourceJpeg, ForgivesStrayBytesBetweenItsSegments)
     QByteArray stray = whole;
     stray.insert(whole.indexOf("\xFF\xC4"), QByteArray(2, '\0')); // before a code table
 
-    const QImage pixels = storedPixels(folder.write(QStringLiteral("a.jpg"), stray));
+    const QImage pixels = storedPixels(folder.write(u"a.jpg"_s, stray));
 
-    EXPECT_EQ(pixels, storedPixels(folder.write(QStringLiteral("b.jpg"), whole)));
+    EXPECT_EQ(pixels, storedPixels(folder.write(u"b.jpg"_s, whole)));
     EXPECT_EQ(pixels.size(), QSize(200, 150));
 }
 
@@ -462,9 +460,7 @@ TEST(ImageSource, RefusesAbsurdSizes)
     const TemporaryFolder folder;
     const auto opens = [&folder](PhotoFormat format, quint16 side) {
         const QByteArray room(1 << 20, '\0'); // a shorter file would be refused anyway
-        return ImageSource::open(
-                   folder.write(QStringLiteral("a.jpg"), jpegOfClaimedSize(format, side) + room)
-        )
+        return ImageSource::open(folder.write(u"a.jpg"_s, jpegOfClaimedSize(format, side) + room))
             .has_value();
     };
 
@@ -477,7 +473,7 @@ TEST(ImageSource, RefusesAbsurdSizes)
 TEST(ImageSource, ReadsAFileAnewThatWasReplaced)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(QStringLiteral("a.png"));
+    const QString path = folder.path(u"a.png"_s);
     PhotoBuilder().size(10, 10).format(PhotoFormat::Png).write(path);
     EXPECT_EQ(storedPixels(path).width(), 10);
 
@@ -489,8 +485,7 @@ TEST(ImageSource, ReadsAFileAnewThatWasReplaced)
 /// Resident memory of the process in megabytes.
 double residentMegabytes()
 {
-    const QList<QByteArray> pages
-        = TemporaryFolder::read(QStringLiteral("/proc/self/statm")).split(' ');
+    const QList<QByteArray> pages = TemporaryFolder::read(u"/proc/self/statm"_s).split(' ');
     constexpr double pagesPerMegabyte = 256;
     return pages.size() > 1 ? pages[1].toDouble() / pagesPerMegabyte : 0;
 }
@@ -499,12 +494,12 @@ TEST(ImageSource, DoesNotHoldMemoryFromJobToJob)
 {
     const TemporaryFolder folder;
     const QString path
-        = PhotoBuilder().size(300, 200).orientation(6).write(folder.path(QStringLiteral("a.jpg")));
+        = PhotoBuilder().size(300, 200).orientation(6).write(folder.path(u"a.jpg"_s));
     const auto job = [&] {
         const auto image = openedPhoto(path).uprightImage();
-        EXPECT_TRUE(encode(
-            image->scaledTo({90, 130}), FileFormat::Jpeg, {}, folder.path(QStringLiteral("b.jpg"))
-        ));
+        EXPECT_TRUE(
+            encode(image->scaledTo({90, 130}), FileFormat::Jpeg, {}, folder.path(u"b.jpg"_s))
+        );
     };
     for (int i = 0; i < 40; ++i)
         job();

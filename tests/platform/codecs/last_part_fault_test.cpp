@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_destination.h>
+#include <platform/foundation/literals.h>
 #include <platform/graphics/screen_scaling.h>
 
 #include <support/case_name.h>
@@ -176,7 +177,7 @@ TEST_P(LastPartFault, IsNeverLost)
     const int repetitions = isNumber ? asked : 2 * threads;
     const TemporaryFolder folder;
     const LogLines log;
-    const QString source = folder.write(QStringLiteral("photo"), GetParam().photo.bytes());
+    const QString source = folder.write(u"photo"_s, GetParam().photo.bytes());
     std::atomic<int> left = repetitions;
     std::atomic<int> passed = 0;
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 
 #include <support/case_name.h>
 #include <support/color_profiles.h>
@@ -29,7 +30,7 @@ QByteArray bytes(std::initializer_list<int> values)
 
 QString written(const TemporaryFolder& folder, const QByteArray& file)
 {
-    const QString path = folder.path(QStringLiteral("layers.psd"));
+    const QString path = folder.path(u"layers.psd"_s);
     QFile target(path);
     if (!target.open(QIODevice::WriteOnly) || target.write(file) != file.size())
         qFatal("the file of a test can't be written");
@@ -205,7 +206,7 @@ TEST(PsdPhotoHeader, TellsProfileResolutionAndOrientation)
 
     const ImageHeader header = openedPhoto(path).header();
 
-    EXPECT_EQ(header.typeIdentifier, QStringLiteral("com.adobe.photoshop-image"));
+    EXPECT_EQ(header.typeIdentifier, u"com.adobe.photoshop-image"_s);
     EXPECT_EQ(header.dotsPerInch, 300.5);
     EXPECT_EQ(header.orientation, 6);
     EXPECT_EQ(openedPhoto(path).image()->iccProfile(), wideProfile());

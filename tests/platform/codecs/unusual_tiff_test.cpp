@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_destination.h>
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 
 #include <support/case_name.h>
 #include <support/photo_builder.h>
@@ -194,13 +195,11 @@ class UnusualTiff : public testing::TestWithParam<StorageCase>
 TEST_P(UnusualTiff, IsNoPhotoRatherThanAWrongOne)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(QStringLiteral("photo.tif"), GetParam().file);
+    const QString path = folder.write(u"photo.tif"_s, GetParam().file);
     const auto source = ImageSource::open(path);
     const auto image = source ? source->image() : std::nullopt;
 
-    EXPECT_FALSE(
-        image && encode(*image, FileFormat::Png, {}, folder.path(QStringLiteral("out.png")))
-    );
+    EXPECT_FALSE(image && encode(*image, FileFormat::Png, {}, folder.path(u"out.png"_s)));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/containers/mapped_file.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/regular_file.h>
 
 #include <support/temporary_folder.h>
@@ -17,7 +18,7 @@ namespace {
 
 QString pipeIn(const TemporaryFolder& folder)
 {
-    const QString path = folder.path(QStringLiteral("pipe"));
+    const QString path = folder.path(u"pipe"_s);
     if (::mkfifo(QFile::encodeName(path).constData(), 0600) != 0)
         qFatal("the pipe can't be made");
     return path;
@@ -34,7 +35,7 @@ bool opens(const QString& path)
 TEST(RegularFile, IsReadFromItsStart)
 {
     const TemporaryFolder folder;
-    QFile file(folder.write(QStringLiteral("a"), "bytes"));
+    QFile file(folder.write(u"a"_s, "bytes"));
 
     ASSERT_TRUE(openRegularFile(file));
 
@@ -48,8 +49,8 @@ TEST(RegularFile, IsNeitherAPipeNorAFolderNorADevice)
 
     EXPECT_FALSE(opens(pipeIn(folder)));
     EXPECT_FALSE(opens(folder.path()));
-    EXPECT_FALSE(opens(QStringLiteral("/dev/zero")));
-    EXPECT_FALSE(opens(folder.path(QStringLiteral("missing"))));
+    EXPECT_FALSE(opens(u"/dev/zero"_s));
+    EXPECT_FALSE(opens(folder.path(u"missing"_s)));
 }
 
 TEST(MappedFileOf, APipeIsEmpty)
@@ -62,7 +63,7 @@ TEST(MappedFileOf, APipeIsEmpty)
 TEST(MappedFileOf, AFileHoldsItsBytes)
 {
     const TemporaryFolder folder;
-    const MappedFile file(folder.write(QStringLiteral("a"), "bytes"));
+    const MappedFile file(folder.write(u"a"_s, "bytes"));
 
     EXPECT_EQ(file.bytes(), QByteArrayView("bytes"));
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/containers/type_identifier.h>
+#include <platform/foundation/literals.h>
 
 #include <support/case_name.h>
 #include <support/photo_builder.h>
@@ -78,7 +79,7 @@ TEST_P(TypeIdentifierOfContents, IgnoresTheName)
 {
     const TemporaryFolder folder;
     const QString path
-        = PhotoBuilder().format(GetParam().format).write(folder.path(QStringLiteral("photo.txt")));
+        = PhotoBuilder().format(GetParam().format).write(folder.path(u"photo.txt"_s));
 
     EXPECT_EQ(typeIdentifierOfContents(path), QString::fromLatin1(GetParam().identifier));
 }
@@ -102,11 +103,9 @@ TEST(TypeIdentifierOfContentsOf, NoImageIsEmpty)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(
-        typeIdentifierOfContents(folder.write(QStringLiteral("a.jpg"), "plain words")), QString()
-    );
-    EXPECT_EQ(typeIdentifierOfContents(folder.write(QStringLiteral("b.jpg"), "")), QString());
-    EXPECT_EQ(typeIdentifierOfContents(folder.path(QStringLiteral("missing.jpg"))), QString());
+    EXPECT_EQ(typeIdentifierOfContents(folder.write(u"a.jpg"_s, "plain words")), QString());
+    EXPECT_EQ(typeIdentifierOfContents(folder.write(u"b.jpg"_s, "")), QString());
+    EXPECT_EQ(typeIdentifierOfContents(folder.path(u"missing.jpg"_s)), QString());
 }
 
 } // namespace

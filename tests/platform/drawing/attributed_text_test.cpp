@@ -9,13 +9,14 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::drawing;
 
 namespace {
 
 TextAttributes plain(int pixelSize = 40)
 {
-    QFont font(QStringLiteral("DejaVu Sans"));
+    QFont font(u"DejaVu Sans"_s);
     font.setPixelSize(pixelSize);
     return {.font = font};
 }
@@ -140,7 +141,7 @@ TEST(AttributedText, OfHugeLettersIsTheSmallOneMagnified)
 
 TEST(AttributedText, SetsRightToLeftText)
 {
-    const AttributedText hebrew(QStringLiteral("\u05e9\u05dc\u05d5\u05dd"), plain());
+    const AttributedText hebrew(u"\u05e9\u05dc\u05d5\u05dd"_s, plain());
     const QRectF shape = hebrew.drawing().shape.boundingRect();
 
     EXPECT_GE(shape.left(), 0);
@@ -150,7 +151,7 @@ TEST(AttributedText, SetsRightToLeftText)
 TEST(AttributedText, BeginsARightToLeftLineAtTheRight)
 {
     // The exclamation mark closes the line: it stands left of the letters.
-    const QString line = QStringLiteral("\u05d0\u05d0\u05d0!");
+    const QString line = u"\u05d0\u05d0\u05d0!"_s;
     const QRectF withMark = AttributedText(line, plain()).drawing().shape.boundingRect();
     const QRectF letters = AttributedText(line.chopped(1), plain()).drawing().shape.boundingRect();
     const double markWidth = QFontMetricsF(plain().font).horizontalAdvance(QLatin1Char('!'));
@@ -160,8 +161,8 @@ TEST(AttributedText, BeginsARightToLeftLineAtTheRight)
 
 TEST(AttributedText, PutsCombiningMarksOverTheirLetter)
 {
-    const AttributedText letter(QStringLiteral("e"), plain());
-    const AttributedText marked(QStringLiteral("e\u0301"), plain());
+    const AttributedText letter(u"e"_s, plain());
+    const AttributedText marked(u"e\u0301"_s, plain());
 
     EXPECT_DOUBLE_EQ(marked.size().width(), letter.size().width());
     EXPECT_LT(
@@ -174,7 +175,7 @@ TEST(AttributedText, TakesAPairOfLineEndsAsOneBreak)
     const QSizeF two = AttributedText(text("A\nB"), plain()).size();
 
     EXPECT_EQ(AttributedText(text("A\r\nB"), plain()).size(), two);
-    EXPECT_EQ(AttributedText(QStringLiteral("A\u2028B"), plain()).size(), two);
+    EXPECT_EQ(AttributedText(u"A\u2028B"_s, plain()).size(), two);
     EXPECT_GT(AttributedText(text("A\n\nB"), plain()).size().height(), two.height());
 }
 
@@ -206,7 +207,7 @@ protected:
 
     static TextAttributes attributes(int pixelSize)
     {
-        QFont font(QStringLiteral("Test Pictures"));
+        QFont font(u"Test Pictures"_s);
         font.setPixelSize(pixelSize);
         return {.font = font};
     }

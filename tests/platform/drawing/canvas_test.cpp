@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/drawing/canvas.h>
+#include <platform/foundation/literals.h>
 
 #include <support/color_profiles.h>
 #include <support/photo_builder.h>
@@ -27,7 +28,7 @@ class CanvasOver : public testing::Test
 protected:
     [[nodiscard]] Image base(const PhotoBuilder& photo) const
     {
-        return *openedPhoto(photo.write(m_folder.path(QStringLiteral("photo")))).image();
+        return *openedPhoto(photo.write(m_folder.path(u"photo"_s))).image();
     }
 
 private:

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::drawing;
 
 namespace {
@@ -13,7 +14,7 @@ namespace {
 QPainterPath sampleIn(QFont font)
 {
     font.setPixelSize(80);
-    return AttributedText(u"Rags 12"_qs, {.font = font}).drawing().shape;
+    return AttributedText(u"Rags 12"_s, {.font = font}).drawing().shape;
 }
 
 } // namespace
@@ -22,39 +23,38 @@ TEST(Fonts, AreListedOnceByFamilyAndFace)
 {
     const QStringList names = installedFontNames();
 
-    EXPECT_TRUE(names.contains(u"DejaVu Sans"_qs));
-    EXPECT_TRUE(names.contains(u"DejaVu Sans Bold"_qs));
+    EXPECT_TRUE(names.contains(u"DejaVu Sans"_s));
+    EXPECT_TRUE(names.contains(u"DejaVu Sans Bold"_s));
     EXPECT_EQ(QSet<QString>(names.begin(), names.end()).size(), names.size());
 }
 
 TEST(Fonts, OfFacesAreFoundByName)
 {
-    EXPECT_EQ(fontNamed(u"DejaVu Sans Mono"_qs).family(), u"DejaVu Sans Mono"_qs);
-    EXPECT_NE(sampleIn(fontNamed(u"DejaVu Sans"_qs)), sampleIn(fontNamed(u"DejaVu Serif"_qs)));
-    EXPECT_NE(sampleIn(fontNamed(u"DejaVu Sans"_qs)), sampleIn(fontNamed(u"DejaVu Sans Bold"_qs)));
+    EXPECT_EQ(fontNamed(u"DejaVu Sans Mono"_s).family(), u"DejaVu Sans Mono"_s);
+    EXPECT_NE(sampleIn(fontNamed(u"DejaVu Sans"_s)), sampleIn(fontNamed(u"DejaVu Serif"_s)));
+    EXPECT_NE(sampleIn(fontNamed(u"DejaVu Sans"_s)), sampleIn(fontNamed(u"DejaVu Sans Bold"_s)));
 }
 
 TEST(Fonts, ThatAreNotInstalledHaveAStandIn)
 {
-    EXPECT_FALSE(sampleIn(fontNamed(u"No Such Font"_qs)).isEmpty());
+    EXPECT_FALSE(sampleIn(fontNamed(u"No Such Font"_s)).isEmpty());
 }
 
 TEST(Fonts, HaveTheBoldFaceOfTheirFamily)
 {
-    for (const QString& family : {u"DejaVu Sans"_qs, u"DejaVu Sans Mono"_qs, u"DejaVu Serif"_qs})
-        EXPECT_EQ(
-            sampleIn(boldFaceOf(fontNamed(family))), sampleIn(fontNamed(family + u" Bold"_qs))
-        ) << family.toStdString();
+    for (const QString& family : {u"DejaVu Sans"_s, u"DejaVu Sans Mono"_s, u"DejaVu Serif"_s})
+        EXPECT_EQ(sampleIn(boldFaceOf(fontNamed(family))), sampleIn(fontNamed(family + u" Bold"_s)))
+            << family.toStdString();
 }
 
 TEST(Fonts, KeepTheirWidthAndSlantWhenTheyGetBold)
 {
     const QList<std::pair<QString, QString>> faces{
-        {u"DejaVu Sans Condensed"_qs, u"DejaVu Sans Condensed Bold"_qs},
-        {u"DejaVu Serif Condensed"_qs, u"DejaVu Serif Condensed Bold"_qs},
-        {u"DejaVu Sans Condensed Oblique"_qs, u"DejaVu Sans Condensed Bold Oblique"_qs},
-        {u"DejaVu Sans Oblique"_qs, u"DejaVu Sans Bold Oblique"_qs},
-        {u"DejaVu Sans ExtraLight"_qs, u"DejaVu Sans Bold"_qs}};
+        {u"DejaVu Sans Condensed"_s, u"DejaVu Sans Condensed Bold"_s},
+        {u"DejaVu Serif Condensed"_s, u"DejaVu Serif Condensed Bold"_s},
+        {u"DejaVu Sans Condensed Oblique"_s, u"DejaVu Sans Condensed Bold Oblique"_s},
+        {u"DejaVu Sans Oblique"_s, u"DejaVu Sans Bold Oblique"_s},
+        {u"DejaVu Sans ExtraLight"_s, u"DejaVu Sans Bold"_s}};
     for (const auto& [plain, bold] : faces) {
         EXPECT_EQ(sampleIn(boldFaceOf(fontNamed(plain))), sampleIn(fontNamed(bold)))
             << plain.toStdString();
@@ -64,7 +64,7 @@ TEST(Fonts, KeepTheirWidthAndSlantWhenTheyGetBold)
 
 TEST(Fonts, ThatAreBoldStayAsTheyAre)
 {
-    const QFont bold = fontNamed(u"DejaVu Sans Bold"_qs);
+    const QFont bold = fontNamed(u"DejaVu Sans Bold"_s);
 
     EXPECT_EQ(boldFaceOf(bold), bold);
 }

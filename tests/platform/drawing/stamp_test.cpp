@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_destination.h>
 #include <platform/drawing/stamp.h>
+#include <platform/foundation/literals.h>
 
 #include <support/color_profiles.h>
 #include <support/geometry_printing.h>
@@ -119,7 +120,7 @@ TEST(StampToBeMade, ThatFailsGivesNoPicture)
 
     EXPECT_FALSE(platform::drawing::stampedPart(marked, plain).has_value());
     EXPECT_TRUE(marked.toQImage().isNull());
-    EXPECT_TRUE(log.lines().first().contains(u"no memory for the layer"_qs));
+    EXPECT_TRUE(log.lines().first().contains(u"no memory for the layer"_s));
 }
 
 TEST(Stamp, LaysEachSampleOverByItsOpacity)
@@ -156,7 +157,7 @@ TEST(Stamp, IsLaidOnAPhotoWithAProfileThatCannotBeDrawnIn)
                              .solid({10, 20, 30})
                              .format(test::PhotoFormat::Png)
                              .iccProfile(test::scannerProfile())
-                             .write(folder.path(QStringLiteral("a.png")));
+                             .write(folder.path(u"a.png"_s));
     QImage red(90, 60, QImage::Format_RGBA8888);
     red.fill(Qt::red);
 
@@ -167,7 +168,7 @@ TEST(Stamp, IsLaidOnAPhotoWithAProfileThatCannotBeDrawnIn)
     EXPECT_EQ(marked.iccProfile(), test::scannerProfile());
     EXPECT_EQ(
         platform::codecs::encode(
-            marked, platform::codecs::FileFormat::Png, {}, folder.path(QStringLiteral("b.png"))
+            marked, platform::codecs::FileFormat::Png, {}, folder.path(u"b.png"_s)
         ),
         true
     );

@@ -5,18 +5,19 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::platform::dateTextForFileName;
 
 TEST(DateTextForFileName, HoldsNoCharacterThatANameMayNot)
 {
     EXPECT_EQ(
-        dateTextForFileName(QDateTime({2026, 11, 15}, {10, 44, 33})), u"15-Nov-2026T10-44-33"_qs
+        dateTextForFileName(QDateTime({2026, 11, 15}, {10, 44, 33})), u"15-Nov-2026T10-44-33"_s
     );
 }
 
 TEST(DateTextForFileName, FillsTheTimeButNotTheDay)
 {
-    EXPECT_EQ(dateTextForFileName(QDateTime({2026, 11, 5}, {9, 5, 0})), u"5-Nov-2026T09-05-00"_qs);
+    EXPECT_EQ(dateTextForFileName(QDateTime({2026, 11, 5}, {9, 5, 0})), u"5-Nov-2026T09-05-00"_s);
 }
 
 TEST(DateTextForFileName, NamesEachMonthWithThreeLetters)
@@ -25,7 +26,7 @@ TEST(DateTextForFileName, NamesEachMonthWithThreeLetters)
     for (int month = 1; month <= 12; ++month)
         months += dateTextForFileName(QDateTime({2026, month, 1}, {0, 0})).section(u'-', 1, 1);
 
-    EXPECT_EQ(months.join(u' '), u"Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec"_qs);
+    EXPECT_EQ(months.join(u' '), u"Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec"_s);
 }
 
 TEST(DateTextForFileName, IsLocalTime)
@@ -35,4 +36,4 @@ TEST(DateTextForFileName, IsLocalTime)
     EXPECT_EQ(dateTextForFileName(local.toUTC()), dateTextForFileName(local));
 }
 
-TEST(DateTextForFileName, IsEmptyWithoutADate) { EXPECT_EQ(dateTextForFileName({}), u""_qs); }
+TEST(DateTextForFileName, IsEmptyWithoutADate) { EXPECT_EQ(dateTextForFileName({}), u""_s); }

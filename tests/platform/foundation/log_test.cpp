@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform;
 
 TEST(Log, GoesToItsSink)
@@ -15,17 +16,17 @@ TEST(Log, GoesToItsSink)
     QStringList lines;
     setLogSink([&](const QString& line) { lines += line; });
 
-    log(u"été"_qs);
+    log(u"été"_s);
     setLogSink({});
 
-    EXPECT_EQ(lines, QStringList{u"été"_qs});
+    EXPECT_EQ(lines, QStringList{u"été"_s});
 }
 
 TEST(Exceptions, CarryTheirKindAndReason)
 {
-    EXPECT_EQ(RangeError(u"why"_qs).kind(), u"NSRangeException"_qs);
-    EXPECT_EQ(InvalidArgument(u"why"_qs).kind(), u"NSInvalidArgumentException"_qs);
-    EXPECT_EQ(AssertionFailure(u"why"_qs).kind(), u"NSInternalInconsistencyException"_qs);
-    EXPECT_EQ(RangeError(u"why"_qs).reason(), u"why"_qs);
-    EXPECT_STREQ(RangeError(u"why"_qs).what(), "NSRangeException: why");
+    EXPECT_EQ(RangeError(u"why"_s).kind(), u"NSRangeException"_s);
+    EXPECT_EQ(InvalidArgument(u"why"_s).kind(), u"NSInvalidArgumentException"_s);
+    EXPECT_EQ(AssertionFailure(u"why"_s).kind(), u"NSInternalInconsistencyException"_s);
+    EXPECT_EQ(RangeError(u"why"_s).reason(), u"why"_s);
+    EXPECT_STREQ(RangeError(u"why"_s).what(), "NSRangeException: why");
 }

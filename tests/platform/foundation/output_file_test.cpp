@@ -7,13 +7,14 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::platform::OutputFile;
 using namespace brenvaldo::test;
 
 TEST(OutputFile, ReplacesWhatTheFileHeld)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a"_qs, "the old and longer contents");
+    const QString path = folder.write(u"a"_s, "the old and longer contents");
     OutputFile file(path);
 
     EXPECT_EQ(file.write("new"), 3);
@@ -26,7 +27,7 @@ TEST(OutputFile, ReplacesWhatTheFileHeld)
 TEST(OutputFile, CanBeWrittenOutOfOrderAndReadBack)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(u"a"_qs);
+    const QString path = folder.path(u"a"_s);
     OutputFile file(path);
 
     EXPECT_EQ(file.write("0123456789"), 10);
@@ -43,7 +44,7 @@ TEST(OutputFile, CanBeWrittenOutOfOrderAndReadBack)
 TEST(OutputFile, StaysSpoiledWhenThereIsRoomAgain)
 {
     const TemporaryFolder folder;
-    OutputFile file(folder.path(u"a"_qs));
+    OutputFile file(folder.path(u"a"_s));
     {
         const FullDisk disk(4096);
         EXPECT_EQ(file.write(QByteArray(100000, 'x')), -1);
@@ -55,13 +56,13 @@ TEST(OutputFile, StaysSpoiledWhenThereIsRoomAgain)
     EXPECT_EQ(file.read(1), QByteArray());
 
     EXPECT_FALSE(file.finish());
-    EXPECT_EQ(file.fault(), u"File too large"_qs);
+    EXPECT_EQ(file.fault(), u"File too large"_s);
 }
 
 TEST(OutputFile, IsSpoiledByBytesThatAreRefusedAtTheEnd)
 {
     const TemporaryFolder folder;
-    OutputFile file(folder.path(u"a"_qs));
+    OutputFile file(folder.path(u"a"_s));
     const FullDisk disk(2);
     EXPECT_EQ(file.write("few bytes wait until the end"), 28);
     EXPECT_TRUE(file.isWhole());
@@ -75,9 +76,9 @@ TEST(OutputFile, IsSpoiledByBytesThatAreRefusedAtTheEnd)
 TEST(OutputFile, IsSpoiledWithoutItsFolder)
 {
     const TemporaryFolder folder;
-    OutputFile file(folder.path(u"missing/a"_qs));
+    OutputFile file(folder.path(u"missing/a"_s));
 
     EXPECT_FALSE(file.isWhole());
-    EXPECT_EQ(file.fault(), u"No such file or directory"_qs);
+    EXPECT_EQ(file.fault(), u"No such file or directory"_s);
     EXPECT_FALSE(file.finish());
 }

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform;
 using brenvaldo::test::CaseName;
 
@@ -27,23 +28,23 @@ class PathParts : public testing::TestWithParam<PathCase>
 };
 
 const PathCase pathCases[] = {
-    {"File", u"/dir/a.txt"_qs, u"a.txt"_qs, u"txt"_qs, u"/dir/a"_qs},
-    {"TwoExtensions", u"/dir/a.txt.old"_qs, u"a.txt.old"_qs, u"old"_qs, u"/dir/a.txt"_qs},
-    {"Folder", u"/dir/"_qs, u"dir"_qs, u""_qs, u"/dir"_qs},
-    {"FolderWithExtension", u"a.b/"_qs, u"a.b"_qs, u"b"_qs, u"a"_qs},
-    {"Hidden", u".x"_qs, u".x"_qs, u""_qs, u".x"_qs},
-    {"HiddenWithExtension", u".x.y"_qs, u".x.y"_qs, u"y"_qs, u".x"_qs},
-    {"TrailingDot", u"a."_qs, u"a."_qs, u""_qs, u"a."_qs},
-    {"TwoDots", u"a..b"_qs, u"a..b"_qs, u"b"_qs, u"a."_qs},
-    {"LeadingTwoDots", u"..a.b"_qs, u"..a.b"_qs, u""_qs, u"..a.b"_qs},
-    {"DotsOnly", u"..."_qs, u"..."_qs, u""_qs, u"..."_qs},
-    {"BlankInExtension", u"a.b c"_qs, u"a.b c"_qs, u""_qs, u"a.b c"_qs},
-    {"BidirectionalControl", u"a.b\u202E"_qs, u"a.b\u202E"_qs, u""_qs, u"a.b\u202E"_qs},
-    {"Root", u"/"_qs, u"/"_qs, u""_qs, u"/"_qs},
-    {"Slashes", u"///"_qs, u"/"_qs, u""_qs, u"/"_qs},
-    {"Empty", u""_qs, u""_qs, u""_qs, u""_qs},
-    {"DotInFolder", u"/a.b/c"_qs, u"c"_qs, u""_qs, u"/a.b/c"_qs},
-    {"NonAscii", u"/dir/été.jpg"_qs, u"été.jpg"_qs, u"jpg"_qs, u"/dir/été"_qs},
+    {"File", u"/dir/a.txt"_s, u"a.txt"_s, u"txt"_s, u"/dir/a"_s},
+    {"TwoExtensions", u"/dir/a.txt.old"_s, u"a.txt.old"_s, u"old"_s, u"/dir/a.txt"_s},
+    {"Folder", u"/dir/"_s, u"dir"_s, u""_s, u"/dir"_s},
+    {"FolderWithExtension", u"a.b/"_s, u"a.b"_s, u"b"_s, u"a"_s},
+    {"Hidden", u".x"_s, u".x"_s, u""_s, u".x"_s},
+    {"HiddenWithExtension", u".x.y"_s, u".x.y"_s, u"y"_s, u".x"_s},
+    {"TrailingDot", u"a."_s, u"a."_s, u""_s, u"a."_s},
+    {"TwoDots", u"a..b"_s, u"a..b"_s, u"b"_s, u"a."_s},
+    {"LeadingTwoDots", u"..a.b"_s, u"..a.b"_s, u""_s, u"..a.b"_s},
+    {"DotsOnly", u"..."_s, u"..."_s, u""_s, u"..."_s},
+    {"BlankInExtension", u"a.b c"_s, u"a.b c"_s, u""_s, u"a.b c"_s},
+    {"BidirectionalControl", u"a.b\u202E"_s, u"a.b\u202E"_s, u""_s, u"a.b\u202E"_s},
+    {"Root", u"/"_s, u"/"_s, u""_s, u"/"_s},
+    {"Slashes", u"///"_s, u"/"_s, u""_s, u"/"_s},
+    {"Empty", u""_s, u""_s, u""_s, u""_s},
+    {"DotInFolder", u"/a.b/c"_s, u"c"_s, u""_s, u"/a.b/c"_s},
+    {"NonAscii", u"/dir/été.jpg"_s, u"été.jpg"_s, u"jpg"_s, u"/dir/été"_s},
 };
 
 } // namespace
@@ -74,12 +75,12 @@ class AppendingPathExtension : public testing::TestWithParam<JoinCase>
 };
 
 const JoinCase extensionCases[] = {
-    {"Name", u"a"_qs, u"txt"_qs, u"a.txt"_qs},
-    {"NameWithExtension", u"a.txt"_qs, u"old"_qs, u"a.txt.old"_qs},
-    {"EmptyExtension", u"a.txt"_qs, u""_qs, u"a.txt."_qs},
-    {"EmptyPath", u""_qs, u"txt"_qs, u""_qs},
-    {"TrailingSlash", u"a/"_qs, u"txt"_qs, u"a.txt"_qs},
-    {"Root", u"/"_qs, u"txt"_qs, u"/"_qs},
+    {"Name", u"a"_s, u"txt"_s, u"a.txt"_s},
+    {"NameWithExtension", u"a.txt"_s, u"old"_s, u"a.txt.old"_s},
+    {"EmptyExtension", u"a.txt"_s, u""_s, u"a.txt."_s},
+    {"EmptyPath", u""_s, u"txt"_s, u""_s},
+    {"TrailingSlash", u"a/"_s, u"txt"_s, u"a.txt"_s},
+    {"Root", u"/"_s, u"txt"_s, u"/"_s},
 };
 
 class AppendingPathComponent : public testing::TestWithParam<JoinCase>
@@ -87,13 +88,13 @@ class AppendingPathComponent : public testing::TestWithParam<JoinCase>
 };
 
 const JoinCase componentCases[] = {
-    {"Plain", u"/dir"_qs, u"a"_qs, u"/dir/a"_qs},
-    {"SlashesOnBothSides", u"/dir/"_qs, u"/a"_qs, u"/dir/a"_qs},
-    {"SlashOnTheRight", u"/dir"_qs, u"/a"_qs, u"/dir/a"_qs},
-    {"EmptyPath", u""_qs, u"a"_qs, u"a"_qs},
-    {"EmptyComponent", u"/dir"_qs, u""_qs, u"/dir"_qs},
-    {"TrailingSlash", u"/dir"_qs, u"a/"_qs, u"/dir/a"_qs},
-    {"Root", u"/"_qs, u"a"_qs, u"/a"_qs},
+    {"Plain", u"/dir"_s, u"a"_s, u"/dir/a"_s},
+    {"SlashesOnBothSides", u"/dir/"_s, u"/a"_s, u"/dir/a"_s},
+    {"SlashOnTheRight", u"/dir"_s, u"/a"_s, u"/dir/a"_s},
+    {"EmptyPath", u""_s, u"a"_s, u"a"_s},
+    {"EmptyComponent", u"/dir"_s, u""_s, u"/dir"_s},
+    {"TrailingSlash", u"/dir"_s, u"a/"_s, u"/dir/a"_s},
+    {"Root", u"/"_s, u"a"_s, u"/a"_s},
 };
 
 } // namespace
@@ -117,9 +118,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(DeletingLastPathComponent, AnswersTheFolder)
 {
-    EXPECT_EQ(deletingLastPathComponent(u"/dir/a"_qs), u"/dir"_qs);
-    EXPECT_EQ(deletingLastPathComponent(u"/dir/a/"_qs), u"/dir"_qs);
-    EXPECT_EQ(deletingLastPathComponent(u"/dir"_qs), u"/"_qs);
-    EXPECT_EQ(deletingLastPathComponent(u"/"_qs), u"/"_qs);
-    EXPECT_EQ(deletingLastPathComponent(u"a"_qs), u""_qs);
+    EXPECT_EQ(deletingLastPathComponent(u"/dir/a"_s), u"/dir"_s);
+    EXPECT_EQ(deletingLastPathComponent(u"/dir/a/"_s), u"/dir"_s);
+    EXPECT_EQ(deletingLastPathComponent(u"/dir"_s), u"/"_s);
+    EXPECT_EQ(deletingLastPathComponent(u"/"_s), u"/"_s);
+    EXPECT_EQ(deletingLastPathComponent(u"a"_s), u""_s);
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <platform/foundation/toolkit_notes.h>
 
 #include <support/environment.h>
@@ -48,7 +49,7 @@ TEST_F(ToolkitNotes, TellWhatIsSevere)
 
     qCritical("no display can be reached");
 
-    EXPECT_EQ(log.lines(), QStringList{u"no display can be reached"_qs});
+    EXPECT_EQ(log.lines(), QStringList{u"no display can be reached"_s});
 }
 
 TEST_F(ToolkitNotes, ComeThroughWhereTheyAreAskedFor)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <platform/graphics/image.h>
 
 #include <support/case_name.h>
@@ -25,7 +26,7 @@ class ImageOf : public testing::Test
 protected:
     [[nodiscard]] Image imageOf(const PhotoBuilder& photo) const
     {
-        return *openedPhoto(photo.write(m_folder.path(QStringLiteral("photo")))).image();
+        return *openedPhoto(photo.write(m_folder.path(u"photo"_s))).image();
     }
 
 private:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 #include <platform/graphics/screen_scaling.h>
 
 #include <support/geometry_printing.h>
@@ -30,7 +31,7 @@ protected:
                       return test::Samples{x * 7 % 256, y * 5 % 256, (x + y) % 256, 255, 255};
                   })
                   .format(test::PhotoFormat::Png)
-                  .write(folder.path(QStringLiteral("a.png")));
+                  .write(folder.path(u"a.png"_s));
         return *test::openedPhoto(path).image(
             {.access = platform::codecs::ImageSource::Access::Random, .atLeast = {}}
         );
@@ -85,7 +86,7 @@ TEST_F(ScaledForScreen, GivesAnySizeAndLooksLikeAScaledPicture)
 {
     test::PhotoBuilder builder;
     builder.size(643, 427).gradient().format(test::PhotoFormat::Png);
-    const QString path = builder.write(folder.path(QStringLiteral("b.png")));
+    const QString path = builder.write(folder.path(u"b.png"_s));
     const platform::graphics::Image image = *test::openedPhoto(path).image(
         {.access = platform::codecs::ImageSource::Access::Random, .atLeast = {}}
     );

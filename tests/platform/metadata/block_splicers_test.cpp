@@ -17,6 +17,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::containers;
 using namespace brenvaldo::platform::metadata;
 using namespace brenvaldo::test;
@@ -117,7 +118,7 @@ TEST(SplicedJpeg, TakesThePaddingFromAPacketThatIsTooLongWithIt)
     const MetadataBlocks read = throughJpeg(blocks);
 
     EXPECT_TRUE(read.jpegSegments.isEmpty());
-    EXPECT_EQ(XmpValues(read.xmp).texts("Xmp.dc.title"), QStringList(QStringLiteral("A title")));
+    EXPECT_EQ(XmpValues(read.xmp).texts("Xmp.dc.title"), QStringList(u"A title"_s));
 }
 
 TEST(SplicedJpeg, ExtendsAPacketThatIsTooLong)

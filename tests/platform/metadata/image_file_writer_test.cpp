@@ -17,6 +17,7 @@
 
 #include <QDir>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::containers;
 using namespace brenvaldo::platform::graphics;
 using namespace brenvaldo::platform::codecs;
@@ -32,9 +33,8 @@ namespace {
 MetadataBlocks carried(const MetadataBlocks& blocks, FileFormat format)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(QStringLiteral("out"));
-    const auto source
-        = ImageSource::open(PhotoBuilder{}.write(folder.path(QStringLiteral("source.jpg"))));
+    const QString path = folder.path(u"out"_s);
+    const auto source = ImageSource::open(PhotoBuilder{}.write(folder.path(u"source.jpg"_s)));
     const bool written
         = writeImageFile(*source->image(), {.format = format, .metadata = &blocks}, path);
     EXPECT_TRUE(written);
@@ -158,13 +158,13 @@ TEST(WriteImageFile, TurnsIptcIntoXmpForAHeicWithoutXmp)
 
     const XmpValues xmp(carried(blocks, FileFormat::Heic).xmp);
 
-    EXPECT_EQ(xmp.texts("Xmp.dc.description"), QStringList(QStringLiteral("caf\u00e9")));
+    EXPECT_EQ(xmp.texts("Xmp.dc.description"), QStringList(u"caf\u00e9"_s));
 }
 
 TEST(WriteImageFile, ReplacesTheFileItReadsFrom)
 {
     const TemporaryFolder folder;
-    const QString path = PhotoBuilder{}.size(61, 23).write(folder.path(QStringLiteral("a.jpg")));
+    const QString path = PhotoBuilder{}.size(61, 23).write(folder.path(u"a.jpg"_s));
     const auto source = ImageSource::open(path);
     const MetadataBlocks blocks = cameraBlocks();
 
@@ -180,9 +180,8 @@ TEST(WriteImageFile, ReplacesTheFileItReadsFrom)
 TEST(WriteImageFile, LeavesTheOldFileWhenTheDiskIsFull)
 {
     const TemporaryFolder folder;
-    const QString source
-        = PhotoBuilder{}.size(401, 301).write(folder.path(QStringLiteral("a.jpg")));
-    const QString target = folder.write(QStringLiteral("b.jpg"), "old");
+    const QString source = PhotoBuilder{}.size(401, 301).write(folder.path(u"a.jpg"_s));
+    const QString target = folder.write(u"b.jpg"_s, "old");
     const MetadataBlocks blocks = cameraBlocks();
     const auto image = ImageSource::open(source)->image();
     bool written = true;

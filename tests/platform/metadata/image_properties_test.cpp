@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::containers;
 using namespace brenvaldo::platform::metadata;
 using namespace brenvaldo::test;
@@ -19,7 +20,7 @@ namespace {
 PropertyDictionary propertiesOf(const PhotoBuilder& photo)
 {
     const TemporaryFolder folder;
-    return imageProperties(photo.write(folder.path(u"photo"_qs))).value_or(PropertyDictionary());
+    return imageProperties(photo.write(folder.path(u"photo"_s))).value_or(PropertyDictionary());
 }
 
 std::optional<QString>
@@ -35,11 +36,11 @@ TEST(ImageProperties, TellTheStoredSizeAndTheColours)
 {
     const PropertyDictionary properties = propertiesOf(PhotoBuilder{}.size(61, 23).orientation(6));
 
-    EXPECT_EQ(properties.text(property::pixelWidth), u"61"_qs);
-    EXPECT_EQ(properties.text(property::pixelHeight), u"23"_qs);
-    EXPECT_EQ(properties.text(property::depth), u"8"_qs);
-    EXPECT_EQ(properties.text(property::colorModel), u"RGB"_qs);
-    EXPECT_EQ(properties.text(property::orientation), u"6"_qs);
+    EXPECT_EQ(properties.text(property::pixelWidth), u"61"_s);
+    EXPECT_EQ(properties.text(property::pixelHeight), u"23"_s);
+    EXPECT_EQ(properties.text(property::depth), u"8"_s);
+    EXPECT_EQ(properties.text(property::colorModel), u"RGB"_s);
+    EXPECT_EQ(properties.text(property::orientation), u"6"_s);
 }
 
 TEST(ImageProperties, ShowAlphaOnlyWhereThereIsSome)
@@ -48,8 +49,7 @@ TEST(ImageProperties, ShowAlphaOnlyWhereThereIsSome)
 
     EXPECT_EQ(propertiesOf(png).text(property::hasAlpha), std::nullopt);
     EXPECT_EQ(
-        propertiesOf(PhotoBuilder(png).model(PhotoModel::RgbAlpha)).text(property::hasAlpha),
-        u"1"_qs
+        propertiesOf(PhotoBuilder(png).model(PhotoModel::RgbAlpha)).text(property::hasAlpha), u"1"_s
     );
 }
 
@@ -62,8 +62,8 @@ TEST(ImageProperties, ShowTheIptcOfAHeic)
     const PropertyDictionary properties
         = propertiesOf(PhotoBuilder{}.format(PhotoFormat::Heic).exif(exif));
 
-    EXPECT_EQ(nested(properties, property::iptcDictionary, u"Headline"_qs), u"A headline"_qs);
-    EXPECT_EQ(nested(properties, property::tiffDictionary, u"Make"_qs), u"Brand"_qs);
+    EXPECT_EQ(nested(properties, property::iptcDictionary, u"Headline"_s), u"A headline"_s);
+    EXPECT_EQ(nested(properties, property::tiffDictionary, u"Make"_s), u"Brand"_s);
 }
 
 TEST(ImageProperties, ShowAResolutionOnlyWhereTheFileStatesOne)
@@ -72,7 +72,7 @@ TEST(ImageProperties, ShowAResolutionOnlyWhereTheFileStatesOne)
         const PropertyDictionary stated
             = propertiesOf(PhotoBuilder{}.format(format).dotsPerInch(144));
 
-        EXPECT_EQ(stated.text(property::dpiHeight), u"144"_qs);
+        EXPECT_EQ(stated.text(property::dpiHeight), u"144"_s);
     }
     EXPECT_EQ(
         propertiesOf(PhotoBuilder{}.format(PhotoFormat::Gif)).text(property::dpiHeight),
@@ -85,7 +85,7 @@ TEST(ImageProperties, PreferTheResolutionOfExifToThatOfJfif)
     const PropertyDictionary properties
         = propertiesOf(PhotoBuilder{}.dotsPerInch(144).exif(exifBlock({.dotsPerInch = 300})));
 
-    EXPECT_EQ(properties.text(property::dpiWidth), u"300"_qs);
+    EXPECT_EQ(properties.text(property::dpiWidth), u"300"_s);
 }
 
 TEST(ImageProperties, HaveNoMetadataDictionariesWithoutMetadata)
@@ -107,14 +107,14 @@ TEST(ImageProperties, GatherExifAndIptc)
 
     EXPECT_EQ(
         nested(properties, property::exifDictionary, property::exifDateTimeOriginal),
-        u"2026:11:15 10:44:33"_qs
+        u"2026:11:15 10:44:33"_s
     );
-    EXPECT_EQ(nested(properties, property::tiffDictionary, u"Make"_qs), u"Brand"_qs);
+    EXPECT_EQ(nested(properties, property::tiffDictionary, u"Make"_s), u"Brand"_s);
     EXPECT_EQ(
-        nested(properties, property::iptcDictionary, property::iptcCaptionAbstract), u"caption"_qs
+        nested(properties, property::iptcDictionary, property::iptcCaptionAbstract), u"caption"_s
     );
     EXPECT_EQ(
-        nested(properties, property::iptcDictionary, property::iptcDateCreated), u"20261115"_qs
+        nested(properties, property::iptcDictionary, property::iptcDateCreated), u"20261115"_s
     );
 }
 
@@ -123,7 +123,7 @@ TEST(ImageProperties, TellWhatAProgressiveJpegIs)
     const PropertyDictionary properties
         = propertiesOf(PhotoBuilder{}.format(PhotoFormat::ProgressiveJpeg));
 
-    EXPECT_EQ(nested(properties, property::jfifDictionary, u"IsProgressive"_qs), u"1"_qs);
+    EXPECT_EQ(nested(properties, property::jfifDictionary, u"IsProgressive"_s), u"1"_s);
 }
 
 TEST(ImageProperties, TellPngAndGifFromTheirStructure)
@@ -132,10 +132,10 @@ TEST(ImageProperties, TellPngAndGifFromTheirStructure)
         = propertiesOf(PhotoBuilder{}.format(PhotoFormat::Png).dotsPerInch(144));
     const PropertyDictionary gif = propertiesOf(PhotoBuilder{}.format(PhotoFormat::Gif));
 
-    EXPECT_EQ(nested(png, property::pngDictionary, u"InterlaceType"_qs), u"0"_qs);
-    EXPECT_EQ(nested(png, property::pngDictionary, u"XPixelsPerMeter"_qs), u"5669"_qs);
-    EXPECT_EQ(nested(gif, property::gifDictionary, u"CanvasPixelWidth"_qs), u"47"_qs);
-    EXPECT_EQ(gif.text(property::isIndexed), u"1"_qs);
+    EXPECT_EQ(nested(png, property::pngDictionary, u"InterlaceType"_s), u"0"_s);
+    EXPECT_EQ(nested(png, property::pngDictionary, u"XPixelsPerMeter"_s), u"5669"_s);
+    EXPECT_EQ(nested(gif, property::gifDictionary, u"CanvasPixelWidth"_s), u"47"_s);
+    EXPECT_EQ(gif.text(property::isIndexed), u"1"_s);
 }
 
 TEST(ImageProperties, ReadAHeicWithItsExif)
@@ -146,15 +146,15 @@ TEST(ImageProperties, ReadAHeicWithItsExif)
                            .format(PhotoFormat::Heic)
                            .exif(exifBlock({.make = "Brand", .dotsPerInch = 300})));
 
-    EXPECT_EQ(properties.text(property::pixelWidth), u"64"_qs);
-    EXPECT_EQ(properties.text(property::dpiWidth), u"300"_qs);
-    EXPECT_EQ(nested(properties, property::tiffDictionary, u"Make"_qs), u"Brand"_qs);
+    EXPECT_EQ(properties.text(property::pixelWidth), u"64"_s);
+    EXPECT_EQ(properties.text(property::dpiWidth), u"300"_s);
+    EXPECT_EQ(nested(properties, property::tiffDictionary, u"Make"_s), u"Brand"_s);
 }
 
 TEST(ImageProperties, AreNothingForAFileThatIsNoImage)
 {
     const TemporaryFolder folder;
 
-    EXPECT_FALSE(imageProperties(folder.write(u"a.jpg"_qs, "no image")).has_value());
-    EXPECT_FALSE(imageProperties(folder.path(u"missing.jpg"_qs)).has_value());
+    EXPECT_FALSE(imageProperties(folder.write(u"a.jpg"_s, "no image")).has_value());
+    EXPECT_FALSE(imageProperties(folder.path(u"missing.jpg"_s)).has_value());
 }

@@ -14,6 +14,7 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::storage;
 using brenvaldo::test::FullDisk;
 using brenvaldo::test::setMode;
@@ -39,7 +40,7 @@ struct stat statusOf(const QString& path)
 /// Expects that nothing can be written at `path`, nor at a link to it, and that it stays.
 void expectRefused(const QString& path)
 {
-    const QString link = path + u".link"_qs;
+    const QString link = path + u".link"_s;
     ASSERT_TRUE(QFile::link(path, link));
     const struct stat before = statusOf(path);
 
@@ -49,7 +50,7 @@ void expectRefused(const QString& path)
     EXPECT_EQ(statusOf(path).st_ino, before.st_ino);
     EXPECT_EQ(statusOf(path).st_mode, before.st_mode);
     EXPECT_TRUE(QFileInfo(link).isSymLink());
-    EXPECT_EQ(AtomicFile(link).fault(), u"something else than a plain file stands there"_qs);
+    EXPECT_EQ(AtomicFile(link).fault(), u"something else than a plain file stands there"_s);
 }
 
 } // namespace
@@ -57,18 +58,18 @@ void expectRefused(const QString& path)
 TEST(AtomicFile, AppearsWholeAtItsPlace)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(u"photo.jpg"_qs);
+    const QString path = folder.path(u"photo.jpg"_s);
 
     EXPECT_TRUE(writeFileAtomically(path, "pixels"));
 
     EXPECT_EQ(TemporaryFolder::read(path), "pixels");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
 }
 
 TEST(AtomicFile, ReplacesWhatStandsThere)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.jpg"_qs, "the old and longer contents");
+    const QString path = folder.write(u"photo.jpg"_s, "the old and longer contents");
 
     EXPECT_TRUE(writeFileAtomically(path, "new"));
 
@@ -79,7 +80,7 @@ TEST(AtomicFile, LeavesNothingWithoutACommit)
 {
     const TemporaryFolder folder;
     {
-        const AtomicFile file(folder.path(u"photo.jpg"_qs));
+        const AtomicFile file(folder.path(u"photo.jpg"_s));
         ASSERT_TRUE(file.isValid());
     }
 
@@ -89,7 +90,7 @@ TEST(AtomicFile, LeavesNothingWithoutACommit)
 TEST(AtomicFile, LeavesTheOldFileAndNothingElseWhenItsProcessIsKilled)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.jpg"_qs, "old");
+    const QString path = folder.write(u"photo.jpg"_s, "old");
 
     EXPECT_EXIT(
         {
@@ -103,23 +104,23 @@ TEST(AtomicFile, LeavesTheOldFileAndNothingElseWhenItsProcessIsKilled)
     );
 
     EXPECT_EQ(TemporaryFolder::read(path), "old");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
 }
 
 TEST(AtomicFile, CommitsOnce)
 {
     const TemporaryFolder folder;
-    AtomicFile file(folder.path(u"photo.jpg"_qs));
+    AtomicFile file(folder.path(u"photo.jpg"_s));
 
     EXPECT_TRUE(file.commit());
     EXPECT_FALSE(file.commit());
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
 }
 
 TEST(AtomicFile, KeepsModeAndOwnerOfTheTarget)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.jpg"_qs, "old");
+    const QString path = folder.write(u"photo.jpg"_s, "old");
     setMode(path, 0604);
     const bool superuser = ::geteuid() == 0;
     if (superuser) {
@@ -137,7 +138,7 @@ TEST(AtomicFile, KeepsModeAndOwnerOfTheTarget)
 TEST(AtomicFile, FollowsTheUsersMaskWhenItIsNew)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(u"photo.jpg"_qs);
+    const QString path = folder.path(u"photo.jpg"_s);
     const mode_t before = ::umask(027);
 
     const bool written = writeFileAtomically(path, "new");
@@ -150,8 +151,8 @@ TEST(AtomicFile, FollowsTheUsersMaskWhenItIsNew)
 TEST(AtomicFile, WritesThroughALink)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.jpg"_qs, "old");
-    const QString link = folder.path(u"link.jpg"_qs);
+    const QString path = folder.write(u"photo.jpg"_s, "old");
+    const QString link = folder.path(u"link.jpg"_s);
     ASSERT_TRUE(QFile::link(path, link));
 
     EXPECT_TRUE(writeFileAtomically(link, "new"));
@@ -185,26 +186,26 @@ TEST(AtomicFile, FailsForANameThatIsTooLong)
 TEST(AtomicFile, FailsWithoutItsFolder)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(u"missing/photo.jpg"_qs);
+    const QString path = folder.path(u"missing/photo.jpg"_s);
 
     EXPECT_FALSE(AtomicFile(path).isValid());
     EXPECT_FALSE(writeFileAtomically(path, "a"));
     EXPECT_EQ(allEntries(folder), QStringList());
-    EXPECT_EQ(AtomicFile(path).fault(), u"No such file or directory"_qs);
+    EXPECT_EQ(AtomicFile(path).fault(), u"No such file or directory"_s);
 }
 
 TEST(AtomicFile, RefusesTheNameOfAFolder)
 {
     const TemporaryFolder folder;
-    QDir().mkpath(folder.path(u"target"_qs));
+    QDir().mkpath(folder.path(u"target"_s));
 
-    expectRefused(folder.path(u"target"_qs));
+    expectRefused(folder.path(u"target"_s));
 }
 
 TEST(AtomicFile, RefusesTheNameOfAPipe)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(u"pipe.png"_qs);
+    const QString path = folder.path(u"pipe.png"_s);
     ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
 
     expectRefused(path);
@@ -213,7 +214,7 @@ TEST(AtomicFile, RefusesTheNameOfAPipe)
 TEST(AtomicFile, RefusesTheNameOfASocket)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(u"socket.png"_qs);
+    const QString path = folder.path(u"socket.png"_s);
     ASSERT_EQ(::mknod(QFile::encodeName(path).constData(), S_IFSOCK | 0600, 0), 0);
 
     expectRefused(path);
@@ -222,8 +223,8 @@ TEST(AtomicFile, RefusesTheNameOfASocket)
 TEST(AtomicFile, TakesTheNameOfABrokenLink)
 {
     const TemporaryFolder folder;
-    const QString link = folder.path(u"link.png"_qs);
-    ASSERT_TRUE(QFile::link(folder.path(u"missing"_qs), link));
+    const QString link = folder.path(u"link.png"_s);
+    ASSERT_TRUE(QFile::link(folder.path(u"missing"_s), link));
 
     EXPECT_TRUE(writeFileAtomically(link, "new"));
 
@@ -233,20 +234,20 @@ TEST(AtomicFile, TakesTheNameOfABrokenLink)
 TEST(AtomicFile, KeepsWhatAppearedMeanwhileWhenToldSo)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(u"photo.jpg"_qs);
+    const QString path = folder.path(u"photo.jpg"_s);
     AtomicFile file(path);
-    ASSERT_EQ(folder.write(u"photo.jpg"_qs, "of another"), path);
+    ASSERT_EQ(folder.write(u"photo.jpg"_s, "of another"), path);
 
     EXPECT_FALSE(file.commit(AtomicFile::Existing::Kept));
 
-    EXPECT_EQ(file.fault(), u"File exists"_qs);
+    EXPECT_EQ(file.fault(), u"File exists"_s);
     EXPECT_EQ(TemporaryFolder::read(path), "of another");
 }
 
 TEST(AtomicFile, FailsInAReadOnlyFolder)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.jpg"_qs, "old");
+    const QString path = folder.write(u"photo.jpg"_s, "old");
     setMode(folder.path(), 0555);
     {
         const WithoutPrivileges user;
@@ -256,18 +257,18 @@ TEST(AtomicFile, FailsInAReadOnlyFolder)
     setMode(folder.path(), 0755);
 
     EXPECT_EQ(TemporaryFolder::read(path), "old");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
 }
 
 TEST(AtomicFile, LeavesTheOldFileOnAFullDisk)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.jpg"_qs, "old");
+    const QString path = folder.write(u"photo.jpg"_s, "old");
     {
         const FullDisk disk(4096);
         EXPECT_FALSE(writeFileAtomically(path, QByteArray(100000, 'x')));
     }
 
     EXPECT_EQ(TemporaryFolder::read(path), "old");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
 }

@@ -11,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::platform::storage::setFileIcon;
 using namespace brenvaldo::test;
 
@@ -27,7 +28,7 @@ QImage redSquare()
 void installRecorder(const TemporaryFolder& folder)
 {
     const QString path = folder.write(
-        u"gio"_qs, "#!/bin/sh\necho \"$*\" > \"$0.part\"\nmv \"$0.part\" \"${0%gio}arguments\"\n"
+        u"gio"_s, "#!/bin/sh\necho \"$*\" > \"$0.part\"\nmv \"$0.part\" \"${0%gio}arguments\"\n"
     );
     QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
@@ -36,14 +37,14 @@ QByteArray recordedArguments(const TemporaryFolder& folder)
 {
     QElapsedTimer clock;
     clock.start();
-    while (!QFile::exists(folder.path(u"arguments"_qs)) && clock.elapsed() < 5000)
+    while (!QFile::exists(folder.path(u"arguments"_s)) && clock.elapsed() < 5000)
         QThread::msleep(2);
-    return TemporaryFolder::read(folder.path(u"arguments"_qs));
+    return TemporaryFolder::read(folder.path(u"arguments"_s));
 }
 
 QStringList keptIcons(const TemporaryFolder& data)
 {
-    return QDir(data.path(u"Brenvaldo/Icons"_qs)).entryList(QDir::Files);
+    return QDir(data.path(u"Brenvaldo/Icons"_s)).entryList(QDir::Files);
 }
 
 } // namespace
@@ -55,14 +56,14 @@ TEST(FileIcon, IsSetAsAnAttributeOfTheDesktop)
     const Environment dataHome("XDG_DATA_HOME", data.path().toUtf8());
     const Environment path("PATH", programs.path().toUtf8() + ":/usr/bin:/bin");
     installRecorder(programs);
-    const QString target = data.write(u"a b.c-action"_qs, "");
+    const QString target = data.write(u"a b.c-action"_s, "");
 
     setFileIcon(target, redSquare());
 
     const QByteArray arguments = recordedArguments(programs);
     ASSERT_EQ(keptIcons(data).size(), 1);
     const QByteArray icon
-        = data.path(u"Brenvaldo/Icons/"_qs).toUtf8() + keptIcons(data).first().toUtf8();
+        = data.path(u"Brenvaldo/Icons/"_s).toUtf8() + keptIcons(data).first().toUtf8();
     EXPECT_EQ(arguments, "set " + target.toUtf8() + " metadata::custom-icon file://" + icon + "\n");
 }
 
@@ -74,9 +75,9 @@ TEST(FileIcon, DoesNothingForAMissingFileOrPicture)
     const Environment path("PATH", programs.path().toUtf8());
     installRecorder(programs);
 
-    setFileIcon(u""_qs, redSquare());
-    setFileIcon(data.path(u"missing"_qs), redSquare());
-    setFileIcon(data.write(u"a"_qs, ""), QImage());
+    setFileIcon(u""_s, redSquare());
+    setFileIcon(data.path(u"missing"_s), redSquare());
+    setFileIcon(data.write(u"a"_s, ""), QImage());
 
     EXPECT_EQ(keptIcons(data), QStringList());
 }
@@ -87,7 +88,7 @@ TEST(FileIcon, DoesNothingWithoutADesktop)
     const Environment dataHome("XDG_DATA_HOME", data.path().toUtf8());
     const Environment path("PATH", data.path().toUtf8());
 
-    setFileIcon(data.write(u"a"_qs, ""), redSquare());
+    setFileIcon(data.write(u"a"_s, ""), redSquare());
 
     EXPECT_EQ(keptIcons(data), QStringList());
 }

@@ -7,6 +7,7 @@
 
 #include <sys/xattr.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::platform::storage::fileLabel;
 using brenvaldo::test::TemporaryFolder;
 
@@ -32,21 +33,21 @@ TEST(FileLabel, IsNothingForAMissingFile)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(fileLabel(folder.path(u"missing"_qs)), std::nullopt);
+    EXPECT_EQ(fileLabel(folder.path(u"missing"_s)), std::nullopt);
 }
 
 TEST(FileLabel, IsZeroWithoutALabel)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(fileLabel(folder.write(u"a"_qs, "")), 0);
+    EXPECT_EQ(fileLabel(folder.write(u"a"_s, "")), 0);
     EXPECT_EQ(fileLabel(folder.path()), 0);
 }
 
 TEST(FileLabel, IsReadFromTheFilesAttribute)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a"_qs, "");
+    const QString path = folder.write(u"a"_s, "");
     setAttribute(path, "user.com.apple.FinderInfo", serverInformation(0x04));
     setAttribute(path, "user.kMDItemFSLabel", "6");
 
@@ -56,7 +57,7 @@ TEST(FileLabel, IsReadFromTheFilesAttribute)
 TEST(FileLabel, FallsBackOnTheInformationOfFileServers)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a"_qs, "");
+    const QString path = folder.write(u"a"_s, "");
     setAttribute(path, "user.com.apple.FinderInfo", serverInformation(0x0C));
 
     EXPECT_EQ(fileLabel(path), 6);
@@ -65,7 +66,7 @@ TEST(FileLabel, FallsBackOnTheInformationOfFileServers)
 TEST(FileLabel, IgnoresWhatIsNoLabel)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a"_qs, "");
+    const QString path = folder.write(u"a"_s, "");
     setAttribute(path, "user.com.apple.FinderInfo", "short");
     for (const char* const value : {"8", "-1", "red", "1000000000000"}) {
         setAttribute(path, "user.kMDItemFSLabel", value);

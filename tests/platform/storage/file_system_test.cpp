@@ -14,6 +14,7 @@
 #include <sys/stat.h>
 #include <sys/xattr.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::storage;
 using namespace brenvaldo::test;
 
@@ -37,12 +38,12 @@ QStringList relativePaths(const QList<FolderEntry>& entries, const TemporaryFold
 /// A folder "tree" with a file, a hidden file, a link, and a sub-folder with a file.
 QString makeTree(const TemporaryFolder& folder)
 {
-    createFolder(folder.path(u"tree/inner"_qs));
-    static_cast<void>(folder.write(u"tree/a.txt"_qs, "a"));
-    static_cast<void>(folder.write(u"tree/.hidden"_qs, "h"));
-    static_cast<void>(folder.write(u"tree/inner/b.txt"_qs, "b"));
-    QFile::link(u"a.txt"_qs, folder.path(u"tree/link"_qs));
-    return folder.path(u"tree"_qs);
+    createFolder(folder.path(u"tree/inner"_s));
+    static_cast<void>(folder.write(u"tree/a.txt"_s, "a"));
+    static_cast<void>(folder.write(u"tree/.hidden"_s, "h"));
+    static_cast<void>(folder.write(u"tree/inner/b.txt"_s, "b"));
+    QFile::link(u"a.txt"_s, folder.path(u"tree/link"_s));
+    return folder.path(u"tree"_s);
 }
 
 } // namespace
@@ -50,43 +51,43 @@ QString makeTree(const TemporaryFolder& folder)
 TEST(FileExists, LooksThroughLinks)
 {
     const TemporaryFolder folder;
-    const QString file = folder.write(u"a"_qs, "");
-    QFile::link(file, folder.path(u"good"_qs));
-    QFile::link(folder.path(u"missing"_qs), folder.path(u"broken"_qs));
+    const QString file = folder.write(u"a"_s, "");
+    QFile::link(file, folder.path(u"good"_s));
+    QFile::link(folder.path(u"missing"_s), folder.path(u"broken"_s));
 
     EXPECT_TRUE(fileExists(file));
     EXPECT_TRUE(fileExists(folder.path()));
-    EXPECT_TRUE(fileExists(folder.path(u"good"_qs)));
-    EXPECT_FALSE(fileExists(folder.path(u"broken"_qs)));
-    EXPECT_FALSE(fileExists(folder.path(u"missing"_qs)));
-    EXPECT_FALSE(fileExists(u""_qs));
+    EXPECT_TRUE(fileExists(folder.path(u"good"_s)));
+    EXPECT_FALSE(fileExists(folder.path(u"broken"_s)));
+    EXPECT_FALSE(fileExists(folder.path(u"missing"_s)));
+    EXPECT_FALSE(fileExists(u""_s));
 }
 
 TEST(CreateFolder, MakesTheFoldersAroundIt)
 {
     const TemporaryFolder folder;
 
-    EXPECT_TRUE(createFolder(folder.path(u"a/b/c"_qs)));
-    EXPECT_TRUE(createFolder(folder.path(u"a/b/c"_qs)));
+    EXPECT_TRUE(createFolder(folder.path(u"a/b/c"_s)));
+    EXPECT_TRUE(createFolder(folder.path(u"a/b/c"_s)));
 
-    EXPECT_TRUE(isFolder(folder.path(u"a/b/c"_qs)));
+    EXPECT_TRUE(isFolder(folder.path(u"a/b/c"_s)));
 }
 
 TEST(CreateFolder, FailsBelowAFileAndWithoutAName)
 {
     const TemporaryFolder folder;
-    const QString file = folder.write(u"file"_qs, "");
+    const QString file = folder.write(u"file"_s, "");
 
-    EXPECT_FALSE(createFolder(file + u"/inner"_qs));
-    EXPECT_FALSE(createFolder(u""_qs));
+    EXPECT_FALSE(createFolder(file + u"/inner"_s));
+    EXPECT_FALSE(createFolder(u""_s));
     EXPECT_FALSE(isFolder(file));
 }
 
 TEST(CopyItem, CopiesAFileWithItsDatesModeAndAttributes)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"été.jpg"_qs, "pixels");
-    const QString target = folder.path(u"ñ.jpg"_qs);
+    const QString source = folder.write(u"été.jpg"_s, "pixels");
+    const QString target = folder.path(u"ñ.jpg"_s);
     const QDateTime date({2020, 2, 3}, {4, 5, 6});
     {
         QFile file(source);
@@ -111,8 +112,8 @@ TEST(CopyItem, CopiesLargeFilesWhole)
     const TemporaryFolder folder;
     QByteArray contents(40'000'000, 'x');
     contents[39'999'999] = 'y';
-    const QString source = folder.write(u"large"_qs, contents);
-    const QString target = folder.path(u"copy"_qs);
+    const QString source = folder.write(u"large"_s, contents);
+    const QString target = folder.path(u"copy"_s);
 
     EXPECT_TRUE(copyItem({.source = source, .target = target}));
 
@@ -124,26 +125,26 @@ TEST(CopyItem, CopiesAFolderWithAllItHolds)
     const TemporaryFolder folder;
     const QString tree = makeTree(folder);
 
-    EXPECT_TRUE(copyItem({.source = tree, .target = folder.path(u"copy"_qs)}));
+    EXPECT_TRUE(copyItem({.source = tree, .target = folder.path(u"copy"_s)}));
 
-    EXPECT_EQ(allEntries(folder.path(u"copy"_qs)), allEntries(tree));
-    EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy/inner/b.txt"_qs)), "b");
-    EXPECT_TRUE(QFileInfo(folder.path(u"copy/link"_qs)).isSymLink());
+    EXPECT_EQ(allEntries(folder.path(u"copy"_s)), allEntries(tree));
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"copy/inner/b.txt"_s)), "b");
+    EXPECT_TRUE(QFileInfo(folder.path(u"copy/link"_s)).isSymLink());
 }
 
 TEST(CopyItem, GivesCopiedFoldersTheirDatesModesAndAttributes)
 {
     const TemporaryFolder folder;
     const QString tree = makeTree(folder);
-    const QByteArray inner = QFile::encodeName(tree + u"/inner"_qs);
+    const QByteArray inner = QFile::encodeName(tree + u"/inner"_s);
     ASSERT_EQ(::setxattr(inner.constData(), "user.label", "6", 1, 0), 0);
-    setMode(tree + u"/inner"_qs, 0750);
+    setMode(tree + u"/inner"_s, 0750);
     const timespec dates[] = {{1'000'000'000, 0}, {1'100'000'000, 0}};
     ASSERT_EQ(::utimensat(AT_FDCWD, inner.constData(), dates, 0), 0);
 
-    EXPECT_TRUE(copyItem({.source = tree, .target = folder.path(u"copy"_qs)}));
+    EXPECT_TRUE(copyItem({.source = tree, .target = folder.path(u"copy"_s)}));
 
-    const QByteArray copy = QFile::encodeName(folder.path(u"copy/inner"_qs));
+    const QByteArray copy = QFile::encodeName(folder.path(u"copy/inner"_s));
     struct stat status = {};
     ASSERT_EQ(::stat(copy.constData(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777U, 0750U);
@@ -156,23 +157,23 @@ TEST(CopyItem, GivesCopiedFoldersTheirDatesModesAndAttributes)
 TEST(CopyItem, CopiesALinkAsALink)
 {
     const TemporaryFolder folder;
-    QFile::link(u"nowhere"_qs, folder.path(u"link"_qs));
+    QFile::link(u"nowhere"_s, folder.path(u"link"_s));
 
-    EXPECT_TRUE(copyItem({.source = folder.path(u"link"_qs), .target = folder.path(u"copy"_qs)}));
+    EXPECT_TRUE(copyItem({.source = folder.path(u"link"_s), .target = folder.path(u"copy"_s)}));
 
-    EXPECT_TRUE(QFileInfo(folder.path(u"copy"_qs)).isSymLink());
+    EXPECT_TRUE(QFileInfo(folder.path(u"copy"_s)).isSymLink());
 }
 
 TEST(CopyItem, ReplacesNothing)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source"_qs, "new");
-    const QString target = folder.write(u"target"_qs, "old");
-    QFile::link(u"nowhere"_qs, folder.path(u"broken"_qs));
+    const QString source = folder.write(u"source"_s, "new");
+    const QString target = folder.write(u"target"_s, "old");
+    QFile::link(u"nowhere"_s, folder.path(u"broken"_s));
 
     EXPECT_FALSE(copyItem({.source = source, .target = target}));
     EXPECT_FALSE(copyItem({.source = source, .target = source}));
-    EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"broken"_qs)}));
+    EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"broken"_s)}));
     EXPECT_FALSE(copyItem({.source = source, .target = folder.path()}));
 
     EXPECT_EQ(TemporaryFolder::read(target), "old");
@@ -182,14 +183,13 @@ TEST(CopyItem, ReplacesNothing)
 TEST(CopyItem, FailsForAMissingSourceOrFolder)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source"_qs, "new");
+    const QString source = folder.write(u"source"_s, "new");
 
-    EXPECT_FALSE(copyItem({.source = folder.path(u"missing"_qs), .target = folder.path(u"copy"_qs)})
-    );
-    EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"missing/copy"_qs)}));
-    EXPECT_FALSE(copyItem({.source = source, .target = u""_qs}));
+    EXPECT_FALSE(copyItem({.source = folder.path(u"missing"_s), .target = folder.path(u"copy"_s)}));
+    EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"missing/copy"_s)}));
+    EXPECT_FALSE(copyItem({.source = source, .target = u""_s}));
 
-    EXPECT_EQ(allEntries(folder.path()), QStringList{u"source"_qs});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"source"_s});
 }
 
 TEST(CopyItem, RefusesToCopyAFolderIntoItself)
@@ -197,21 +197,21 @@ TEST(CopyItem, RefusesToCopyAFolderIntoItself)
     const TemporaryFolder folder;
     const QString tree = makeTree(folder);
 
-    EXPECT_FALSE(copyItem({.source = tree, .target = tree + u"/inner/copy"_qs}));
+    EXPECT_FALSE(copyItem({.source = tree, .target = tree + u"/inner/copy"_s}));
 
-    EXPECT_EQ(allEntries(tree + u"/inner"_qs), QStringList{u"b.txt"_qs});
+    EXPECT_EQ(allEntries(tree + u"/inner"_s), QStringList{u"b.txt"_s});
 }
 
 TEST(CopyItem, LeavesNothingOfAFileOnAFullDisk)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source"_qs, QByteArray(100000, 'x'));
+    const QString source = folder.write(u"source"_s, QByteArray(100000, 'x'));
     {
         const FullDisk disk(4096);
-        EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"copy"_qs)}));
+        EXPECT_FALSE(copyItem({.source = source, .target = folder.path(u"copy"_s)}));
     }
 
-    EXPECT_EQ(allEntries(folder.path()), QStringList{u"source"_qs});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"source"_s});
     EXPECT_EQ(TemporaryFolder::read(source).size(), 100000);
 }
 
@@ -219,22 +219,22 @@ TEST(CopyItem, LeavesNothingOfAFolderOnAFullDisk)
 {
     const TemporaryFolder folder;
     const QString tree = makeTree(folder);
-    static_cast<void>(folder.write(u"tree/z"_qs, QByteArray(100000, 'x')));
+    static_cast<void>(folder.write(u"tree/z"_s, QByteArray(100000, 'x')));
     {
         const FullDisk disk(4096);
-        EXPECT_FALSE(copyItem({.source = tree, .target = folder.path(u"copy"_qs)}));
+        EXPECT_FALSE(copyItem({.source = tree, .target = folder.path(u"copy"_s)}));
     }
 
-    EXPECT_EQ(allEntries(folder.path()), QStringList{u"tree"_qs});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"tree"_s});
 }
 
 TEST(CopyItem, FailsInAReadOnlyFolder)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source"_qs, "a");
-    const QString target = folder.path(u"locked/copy"_qs);
-    createFolder(folder.path(u"locked"_qs));
-    setMode(folder.path(u"locked"_qs), 0555);
+    const QString source = folder.write(u"source"_s, "a");
+    const QString target = folder.path(u"locked/copy"_s);
+    createFolder(folder.path(u"locked"_s));
+    setMode(folder.path(u"locked"_s), 0555);
     setMode(folder.path(), 0755);
     {
         const WithoutPrivileges user;
@@ -242,112 +242,112 @@ TEST(CopyItem, FailsInAReadOnlyFolder)
         EXPECT_FALSE(moveItem({.source = source, .target = target}));
     }
 
-    EXPECT_EQ(allEntries(folder.path(u"locked"_qs)), QStringList());
+    EXPECT_EQ(allEntries(folder.path(u"locked"_s)), QStringList());
     EXPECT_EQ(TemporaryFolder::read(source), "a");
 }
 
 TEST(MoveItem, MovesFilesAndFolders)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source"_qs, "a");
+    const QString source = folder.write(u"source"_s, "a");
     const QString tree = makeTree(folder);
 
-    EXPECT_TRUE(moveItem({.source = source, .target = folder.path(u"moved"_qs)}));
-    EXPECT_TRUE(moveItem({.source = tree, .target = folder.path(u"moved tree"_qs)}));
+    EXPECT_TRUE(moveItem({.source = source, .target = folder.path(u"moved"_s)}));
+    EXPECT_TRUE(moveItem({.source = tree, .target = folder.path(u"moved tree"_s)}));
 
-    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"moved"_qs, u"moved tree"_qs}));
-    EXPECT_EQ(TemporaryFolder::read(folder.path(u"moved tree/inner/b.txt"_qs)), "b");
+    EXPECT_EQ(allEntries(folder.path()), (QStringList{u"moved"_s, u"moved tree"_s}));
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"moved tree/inner/b.txt"_s)), "b");
 }
 
 TEST(MoveItem, CrossesVolumes)
 {
     const TemporaryFolder folder;
-    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
+    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_s);
     const QString tree = makeTree(folder);
-    const QString target = shared.filePath(u"moved"_qs);
+    const QString target = shared.filePath(u"moved"_s);
 
     EXPECT_TRUE(moveItem({.source = tree, .target = target}));
 
     EXPECT_FALSE(fileExists(tree));
-    EXPECT_EQ(TemporaryFolder::read(target + u"/inner/b.txt"_qs), "b");
+    EXPECT_EQ(TemporaryFolder::read(target + u"/inner/b.txt"_s), "b");
 }
 
 TEST(MoveItem, LeavesNoSecondCopyOfAFileThatMustStayOnItsVolume)
 {
     const TemporaryFolder folder;
-    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
+    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_s);
     setMode(shared.path(), 0777);
-    createFolder(folder.path(u"locked"_qs));
-    const QString source = folder.write(u"locked/source"_qs, "a");
+    createFolder(folder.path(u"locked"_s));
+    const QString source = folder.write(u"locked/source"_s, "a");
     setMode(source, 0644);
-    setMode(folder.path(u"locked"_qs), 0555);
+    setMode(folder.path(u"locked"_s), 0555);
     setMode(folder.path(), 0755);
     {
         const WithoutPrivileges user;
-        EXPECT_FALSE(moveItem({.source = source, .target = shared.filePath(u"moved"_qs)}));
+        EXPECT_FALSE(moveItem({.source = source, .target = shared.filePath(u"moved"_s)}));
     }
 
-    EXPECT_EQ(allEntries(folder.path(u"locked"_qs)), QStringList{u"source"_qs});
+    EXPECT_EQ(allEntries(folder.path(u"locked"_s)), QStringList{u"source"_s});
     EXPECT_EQ(TemporaryFolder::read(source), "a");
     EXPECT_EQ(allEntries(shared.path()), QStringList());
-    setMode(folder.path(u"locked"_qs), 0755);
+    setMode(folder.path(u"locked"_s), 0755);
 }
 
 TEST(MoveItem, TakesNothingOfAFolderAwayThatMustStayOnItsVolume)
 {
     const TemporaryFolder folder;
-    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
+    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_s);
     setMode(shared.path(), 0777);
     const QString tree = makeTree(folder);
     setMode(folder.path(), 0777);
     setMode(tree, 0777);
-    setMode(tree + u"/inner"_qs, 0555);
+    setMode(tree + u"/inner"_s, 0555);
     {
         const WithoutPrivileges user;
-        EXPECT_FALSE(moveItem({.source = tree, .target = shared.filePath(u"moved"_qs)}));
+        EXPECT_FALSE(moveItem({.source = tree, .target = shared.filePath(u"moved"_s)}));
     }
 
     EXPECT_EQ(allEntries(tree).size(), 4);
-    EXPECT_EQ(TemporaryFolder::read(tree + u"/inner/b.txt"_qs), "b");
-    EXPECT_EQ(allEntries(folder.path()), QStringList{u"tree"_qs});
+    EXPECT_EQ(TemporaryFolder::read(tree + u"/inner/b.txt"_s), "b");
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"tree"_s});
     EXPECT_EQ(allEntries(shared.path()), QStringList());
-    setMode(tree + u"/inner"_qs, 0755);
+    setMode(tree + u"/inner"_s, 0755);
 }
 
 TEST(MoveItem, LeavesNothingBesideTheSourceAcrossVolumes)
 {
     const TemporaryFolder folder;
-    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
-    const QString source = folder.write(u"source"_qs, "a");
+    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_s);
+    const QString source = folder.write(u"source"_s, "a");
 
-    EXPECT_TRUE(moveItem({.source = source, .target = shared.filePath(u"moved"_qs)}));
+    EXPECT_TRUE(moveItem({.source = source, .target = shared.filePath(u"moved"_s)}));
 
     EXPECT_EQ(allEntries(folder.path()), QStringList());
-    EXPECT_EQ(allEntries(shared.path()), QStringList{u"moved"_qs});
+    EXPECT_EQ(allEntries(shared.path()), QStringList{u"moved"_s});
 }
 
 TEST(MoveItem, MovesALinkAcrossVolumesAndNotWhatItLeadsTo)
 {
     const TemporaryFolder folder;
-    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_qs);
-    QFile::link(u"nowhere"_qs, folder.path(u"link"_qs));
+    QTemporaryDir shared(u"/dev/shm/brenvaldo-XXXXXX"_s);
+    QFile::link(u"nowhere"_s, folder.path(u"link"_s));
 
-    EXPECT_TRUE(moveItem({.source = folder.path(u"link"_qs), .target = shared.filePath(u"moved"_qs)}
-    ));
+    EXPECT_TRUE(moveItem({.source = folder.path(u"link"_s), .target = shared.filePath(u"moved"_s)})
+    );
 
     EXPECT_EQ(allEntries(folder.path()), QStringList());
-    EXPECT_TRUE(QFileInfo(shared.filePath(u"moved"_qs)).isSymLink());
+    EXPECT_TRUE(QFileInfo(shared.filePath(u"moved"_s)).isSymLink());
 }
 
 TEST(MoveItem, ReplacesNothing)
 {
     const TemporaryFolder folder;
-    const QString source = folder.write(u"source"_qs, "new");
-    const QString target = folder.write(u"target"_qs, "old");
+    const QString source = folder.write(u"source"_s, "new");
+    const QString target = folder.write(u"target"_s, "old");
 
     EXPECT_FALSE(moveItem({.source = source, .target = target}));
     EXPECT_FALSE(moveItem({.source = source, .target = source}));
-    EXPECT_FALSE(moveItem({.source = folder.path(u"missing"_qs), .target = folder.path(u"x"_qs)}));
+    EXPECT_FALSE(moveItem({.source = folder.path(u"missing"_s), .target = folder.path(u"x"_s)}));
 
     EXPECT_EQ(TemporaryFolder::read(target), "old");
     EXPECT_EQ(TemporaryFolder::read(source), "new");
@@ -356,12 +356,12 @@ TEST(MoveItem, ReplacesNothing)
 TEST(CreateSymbolicLink, NeedsNoSourceButAFreeTarget)
 {
     const TemporaryFolder folder;
-    const QString target = folder.path(u"link"_qs);
+    const QString target = folder.path(u"link"_s);
 
-    EXPECT_TRUE(createSymbolicLink({.source = u"/nowhere"_qs, .target = target}));
-    EXPECT_FALSE(createSymbolicLink({.source = u"/nowhere"_qs, .target = target}));
+    EXPECT_TRUE(createSymbolicLink({.source = u"/nowhere"_s, .target = target}));
+    EXPECT_FALSE(createSymbolicLink({.source = u"/nowhere"_s, .target = target}));
 
-    EXPECT_EQ(QFileInfo(target).symLinkTarget(), u"/nowhere"_qs);
+    EXPECT_EQ(QFileInfo(target).symLinkTarget(), u"/nowhere"_s);
 }
 
 TEST(RemoveItem, RemovesAFolderWithItsContents)
@@ -369,7 +369,7 @@ TEST(RemoveItem, RemovesAFolderWithItsContents)
     const TemporaryFolder folder;
 
     EXPECT_TRUE(removeItem(makeTree(folder)));
-    EXPECT_FALSE(removeItem(folder.path(u"tree"_qs)));
+    EXPECT_FALSE(removeItem(folder.path(u"tree"_s)));
 
     EXPECT_EQ(allEntries(folder.path()), QStringList());
 }
@@ -378,7 +378,7 @@ TEST(RemoveItem, LeavesWhatALinkLeadsTo)
 {
     const TemporaryFolder folder;
     const QString tree = makeTree(folder);
-    const QString link = folder.path(u"link"_qs);
+    const QString link = folder.path(u"link"_s);
     QFile::link(tree, link);
 
     EXPECT_TRUE(removeItem(link + u'/'));
@@ -390,7 +390,7 @@ TEST(RemoveItem, LeavesWhatALinkLeadsTo)
 TEST(FileAttributes, TellSizeAndDates)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a"_qs, "12345");
+    const QString path = folder.write(u"a"_s, "12345");
     const QDateTime now = QDateTime::currentDateTime();
 
     const auto attributes = fileAttributes(path);
@@ -399,15 +399,15 @@ TEST(FileAttributes, TellSizeAndDates)
     EXPECT_EQ(attributes->size, 5);
     EXPECT_LT(qAbs(attributes->creationDate.secsTo(now)), 60);
     EXPECT_LT(qAbs(attributes->modificationDate.secsTo(now)), 60);
-    EXPECT_EQ(fileAttributes(folder.path(u"missing"_qs)), std::nullopt);
+    EXPECT_EQ(fileAttributes(folder.path(u"missing"_s)), std::nullopt);
 }
 
 TEST(FileAttributes, AreThoseOfALinkItself)
 {
     const TemporaryFolder folder;
-    const QString file = folder.write(u"file"_qs, "a long text behind a short link");
-    const QString link = folder.path(u"link"_qs);
-    QFile::link(u"file"_qs, link);
+    const QString file = folder.write(u"file"_s, "a long text behind a short link");
+    const QString link = folder.path(u"link"_s);
+    QFile::link(u"file"_s, link);
     const timespec dates[] = {{1'000'000'000, 0}, {1'100'000'000, 0}};
     ASSERT_EQ(
         ::utimensat(AT_FDCWD, QFile::encodeName(link).constData(), dates, AT_SYMLINK_NOFOLLOW), 0
@@ -423,10 +423,10 @@ TEST(FileAttributes, AreThoseOfALinkItself)
 TEST(FolderEntries, ListBrokenLinks)
 {
     const TemporaryFolder folder;
-    QFile::link(u"nowhere"_qs, folder.path(u"broken"_qs));
+    QFile::link(u"nowhere"_s, folder.path(u"broken"_s));
 
-    EXPECT_EQ(relativePaths(folderEntries(folder.path()), folder), QStringList{u"broken"_qs});
-    EXPECT_EQ(relativePaths(folderTree(folder.path()), folder), QStringList{u"broken"_qs});
+    EXPECT_EQ(relativePaths(folderEntries(folder.path()), folder), QStringList{u"broken"_s});
+    EXPECT_EQ(relativePaths(folderTree(folder.path()), folder), QStringList{u"broken"_s});
 }
 
 TEST(FolderEntries, LeaveHiddenFilesOut)
@@ -436,31 +436,28 @@ TEST(FolderEntries, LeaveHiddenFilesOut)
 
     EXPECT_EQ(
         relativePaths(folderEntries(tree), folder),
-        (QStringList{u"tree/a.txt"_qs, u"tree/inner"_qs, u"tree/link"_qs})
+        (QStringList{u"tree/a.txt"_s, u"tree/inner"_s, u"tree/link"_s})
     );
     EXPECT_EQ(folderEntries(tree, HiddenFiles::Included).size(), 4);
-    EXPECT_TRUE(folderEntries(folder.path(u"missing"_qs)).isEmpty());
-    EXPECT_TRUE(folderEntries(u""_qs).isEmpty());
+    EXPECT_TRUE(folderEntries(folder.path(u"missing"_s)).isEmpty());
+    EXPECT_TRUE(folderEntries(u""_s).isEmpty());
 }
 
 TEST(FolderTree, GoesDownAllLevelsPastHiddenFolders)
 {
     const TemporaryFolder folder;
     const QString tree = makeTree(folder);
-    createFolder(tree + u"/.hidden folder"_qs);
-    static_cast<void>(folder.write(u"tree/.hidden folder/c"_qs, "c"));
-    QFile::link(tree, folder.path(u"tree/loop"_qs));
+    createFolder(tree + u"/.hidden folder"_s);
+    static_cast<void>(folder.write(u"tree/.hidden folder/c"_s, "c"));
+    QFile::link(tree, folder.path(u"tree/loop"_s));
 
     const QList<FolderEntry> entries = folderTree(tree);
 
     EXPECT_EQ(
         relativePaths(entries, folder),
         (QStringList{
-            u"tree/a.txt"_qs,
-            u"tree/inner"_qs,
-            u"tree/inner/b.txt"_qs,
-            u"tree/link"_qs,
-            u"tree/loop"_qs})
+            u"tree/a.txt"_s, u"tree/inner"_s, u"tree/inner/b.txt"_s, u"tree/link"_s, u"tree/loop"_s}
+        )
     );
     EXPECT_TRUE(entries.at(1).isFolder);
     EXPECT_FALSE(entries.at(4).isFolder);

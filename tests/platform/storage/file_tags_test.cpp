@@ -7,16 +7,17 @@
 
 #include <sys/xattr.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::platform::storage::setFileTags;
 using brenvaldo::test::TemporaryFolder;
 
 TEST(FileTags, StandInTheAttributeOfTheDesktop)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a"_qs, "");
+    const QString path = folder.write(u"a"_s, "");
 
-    EXPECT_TRUE(setFileTags(path, {u"old"_qs}));
-    EXPECT_TRUE(setFileTags(path, {u"one"_qs, u"été"_qs}));
+    EXPECT_TRUE(setFileTags(path, {u"old"_s}));
+    EXPECT_TRUE(setFileTags(path, {u"one"_s, u"été"_s}));
 
     QByteArray value(64, '\0');
     value.truncate(::getxattr(path.toUtf8().constData(), "user.xdg.tags", value.data(), 64));
@@ -27,5 +28,5 @@ TEST(FileTags, FailForAMissingFile)
 {
     const TemporaryFolder folder;
 
-    EXPECT_FALSE(setFileTags(folder.path(u"missing"_qs), {u"one"_qs}));
+    EXPECT_FALSE(setFileTags(folder.path(u"missing"_s), {u"one"_s}));
 }

@@ -14,6 +14,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::storage;
 using brenvaldo::test::TemporaryFolder;
 
@@ -30,8 +31,8 @@ QStringList allEntries(const TemporaryFolder& folder)
 TEST(RemoveAbandonedFiles, RemovesWhatNoProcessUses)
 {
     const TemporaryFolder folder;
-    static_cast<void>(folder.write(u".brenvaldo-0123abcd"_qs, "half a picture"));
-    static_cast<void>(folder.write(u".brenvaldo-ffffffff"_qs, ""));
+    static_cast<void>(folder.write(u".brenvaldo-0123abcd"_s, "half a picture"));
+    static_cast<void>(folder.write(u".brenvaldo-ffffffff"_s, ""));
 
     removeAbandonedFiles(folder.path());
 
@@ -47,15 +48,15 @@ TEST(RemoveAbandonedFiles, KeepsTheFilesOfLivingProcesses)
     removeAbandonedFiles(folder.path());
 
     ASSERT_EQ(allEntries(folder).size(), 1);
-    EXPECT_TRUE(file.moveTo(folder.path(u"photo.jpg"_qs)));
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+    EXPECT_TRUE(file.moveTo(folder.path(u"photo.jpg"_s)));
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
 }
 
 TEST(RemoveAbandonedFiles, KeepsTheFileThatIsJustAboutToReplaceAnother)
 {
     const TemporaryFolder folder;
     const TemporaryFile file(folder.path());
-    const QString hidden = folder.path(u".brenvaldo-01234567"_qs);
+    const QString hidden = folder.path(u".brenvaldo-01234567"_s);
     const int linked = ::linkat(
         AT_FDCWD,
         QFile::encodeName(file.path()).constData(),
@@ -67,18 +68,18 @@ TEST(RemoveAbandonedFiles, KeepsTheFileThatIsJustAboutToReplaceAnother)
 
     removeAbandonedFiles(folder.path());
 
-    EXPECT_TRUE(allEntries(folder).contains(u".brenvaldo-01234567"_qs));
+    EXPECT_TRUE(allEntries(folder).contains(u".brenvaldo-01234567"_s));
 }
 
 TEST(RemoveAbandonedFiles, KeepsWhatTheProgramDidNotMake)
 {
     const TemporaryFolder folder;
-    QDir().mkpath(folder.path(u".brenvaldo-00000001"_qs));
-    ASSERT_TRUE(QFile::link(u"nowhere"_qs, folder.path(u".brenvaldo-00000002"_qs)));
-    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.path(u".brenvaldo-00000003"_qs)), 0600), 0);
-    static_cast<void>(folder.write(u".brenvaldo-notes.txt"_qs, ""));
-    static_cast<void>(folder.write(u".brenvaldo-000000004"_qs, ""));
-    static_cast<void>(folder.write(u"x.brenvaldo-00000005"_qs, ""));
+    QDir().mkpath(folder.path(u".brenvaldo-00000001"_s));
+    ASSERT_TRUE(QFile::link(u"nowhere"_s, folder.path(u".brenvaldo-00000002"_s)));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(folder.path(u".brenvaldo-00000003"_s)), 0600), 0);
+    static_cast<void>(folder.write(u".brenvaldo-notes.txt"_s, ""));
+    static_cast<void>(folder.write(u".brenvaldo-000000004"_s, ""));
+    static_cast<void>(folder.write(u"x.brenvaldo-00000005"_s, ""));
     const QStringList before = allEntries(folder);
     ASSERT_EQ(before.size(), 6);
 
@@ -90,7 +91,7 @@ TEST(RemoveAbandonedFiles, KeepsWhatTheProgramDidNotMake)
 TEST(RemoveAbandonedFiles, KeepsTheFilesOfOtherUsers)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u".brenvaldo-00000001"_qs, "");
+    const QString path = folder.write(u".brenvaldo-00000001"_s, "");
     const bool isGivenAway = ::chown(QFile::encodeName(path).constData(), 1234, 1234) == 0;
 
     removeAbandonedFiles(folder.path());
@@ -101,12 +102,12 @@ TEST(RemoveAbandonedFiles, KeepsTheFilesOfOtherUsers)
 TEST(RemoveAbandonedFiles, DoesNothingWithoutAFolder)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u".brenvaldo-00000001"_qs, "");
+    const QString path = folder.write(u".brenvaldo-00000001"_s, "");
     const QString before = QDir::currentPath();
     QDir::setCurrent(folder.path());
 
     removeAbandonedFiles(QString());
-    removeAbandonedFiles(folder.path(u"missing"_qs));
+    removeAbandonedFiles(folder.path(u"missing"_s));
 
     QDir::setCurrent(before);
     EXPECT_TRUE(QFile::exists(path));

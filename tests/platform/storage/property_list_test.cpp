@@ -11,24 +11,25 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::storage;
 using namespace brenvaldo::test;
 
 TEST(PropertyList, GivesBackWhatItTook)
 {
     const TemporaryFolder folder;
-    const QString path = folder.path(u"a.plist"_qs);
+    const QString path = folder.path(u"a.plist"_s);
     const QVariantMap dictionary = {
-        {u"text"_qs, u"<é & \"\n>"_qs},
-        {u"empty"_qs, u""_qs},
-        {u"integer"_qs, -9223372036854775807LL},
-        {u"real"_qs, 0.1},
-        {u"yes"_qs, true},
-        {u"no"_qs, false},
-        {u"bytes"_qs, QByteArray("\0\xFF", 2)},
-        {u"date"_qs, QDateTime({2026, 11, 15}, {10, 44, 33}, Qt::UTC)},
-        {u"list"_qs, QVariantList{u"a"_qs, QVariantList(), QVariantMap{{u"k"_qs, u"v"_qs}}}},
-        {u"key & <é>"_qs, QVariantMap()},
+        {u"text"_s, u"<é & \"\n>"_s},
+        {u"empty"_s, u""_s},
+        {u"integer"_s, -9223372036854775807LL},
+        {u"real"_s, 0.1},
+        {u"yes"_s, true},
+        {u"no"_s, false},
+        {u"bytes"_s, QByteArray("\0\xFF", 2)},
+        {u"date"_s, QDateTime({2026, 11, 15}, {10, 44, 33}, Qt::UTC)},
+        {u"list"_s, QVariantList{u"a"_s, QVariantList(), QVariantMap{{u"k"_s, u"v"_s}}}},
+        {u"key & <é>"_s, QVariantMap()},
     };
 
     ASSERT_TRUE(writePropertyList(path, dictionary));
@@ -40,7 +41,7 @@ TEST(PropertyList, ReadsTheFormOfThePlatform)
 {
     const TemporaryFolder folder;
     const QString path = folder.write(
-        u"a.plist"_qs,
+        u"a.plist"_s,
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
         "<!DOCTYPE plist>\n"
         "<plist version=\"1.0\">\n<dict>\n"
@@ -51,8 +52,7 @@ TEST(PropertyList, ReadsTheFormOfThePlatform)
     );
 
     EXPECT_EQ(
-        readPropertyList(path),
-        (QVariantMap{{u"count"_qs, 7LL}, {u"bytes"_qs, QByteArray("abcdef")}})
+        readPropertyList(path), (QVariantMap{{u"count"_s, 7LL}, {u"bytes"_s, QByteArray("abcdef")}})
     );
 }
 
@@ -91,7 +91,7 @@ TEST_P(DamagedPropertyList, ReadsAsNothing)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(readPropertyList(folder.write(u"a.plist"_qs, GetParam().contents)), std::nullopt);
+    EXPECT_EQ(readPropertyList(folder.write(u"a.plist"_s, GetParam().contents)), std::nullopt);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -102,16 +102,16 @@ TEST(PropertyList, ReadsAsNothingWithoutAFile)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(readPropertyList(folder.path(u"missing"_qs)), std::nullopt);
+    EXPECT_EQ(readPropertyList(folder.path(u"missing"_s)), std::nullopt);
     EXPECT_EQ(readPropertyList(folder.path()), std::nullopt);
 }
 
 TEST(PropertyList, RefusesAValueOfAnotherKind)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a.plist"_qs, "old");
+    const QString path = folder.write(u"a.plist"_s, "old");
 
-    EXPECT_FALSE(writePropertyList(path, {{u"size"_qs, QSize(1, 2)}}));
+    EXPECT_FALSE(writePropertyList(path, {{u"size"_s, QSize(1, 2)}}));
 
     EXPECT_EQ(TemporaryFolder::read(path), "old");
 }
@@ -119,10 +119,10 @@ TEST(PropertyList, RefusesAValueOfAnotherKind)
 TEST(PropertyList, LeavesTheOldOneOnAFullDisk)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"a.plist"_qs, "old");
+    const QString path = folder.write(u"a.plist"_s, "old");
     {
         const FullDisk disk(1000);
-        EXPECT_FALSE(writePropertyList(path, {{u"text"_qs, QString(5000, u'x')}}));
+        EXPECT_FALSE(writePropertyList(path, {{u"text"_s, QString(5000, u'x')}}));
     }
 
     EXPECT_EQ(TemporaryFolder::read(path), "old");

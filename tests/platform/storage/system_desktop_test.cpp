@@ -8,6 +8,7 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::platform::storage::SystemDesktop;
 using namespace brenvaldo::test;
 
@@ -30,7 +31,7 @@ private:
 
 TEST_F(SystemDesktopTest, OpensAddresses)
 {
-    const QUrl url(u"https://www.example/help?a=b"_qs);
+    const QUrl url(u"https://www.example/help?a=b"_s);
 
     desktop.openUrl(url);
 
@@ -39,7 +40,7 @@ TEST_F(SystemDesktopTest, OpensAddresses)
 
 TEST_F(SystemDesktopTest, OpensTheFolderOfAFileWithoutAFileManager)
 {
-    desktop.reveal(folder.write(u"a#b été.jpg"_qs, ""));
+    desktop.reveal(folder.write(u"a#b été.jpg"_s, ""));
 
     EXPECT_EQ(opened, std::vector{QUrl::fromLocalFile(folder.path().chopped(1))});
 }
@@ -53,7 +54,7 @@ TEST_F(SystemDesktopTest, OpensAFolderItselfWithoutAFileManager)
 
 TEST_F(SystemDesktopTest, RevealsNothingWithoutAPath)
 {
-    desktop.reveal(u""_qs);
+    desktop.reveal(u""_s);
 
     EXPECT_TRUE(opened.empty());
 }

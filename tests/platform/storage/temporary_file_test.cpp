@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::storage;
 using brenvaldo::test::CaseName;
 using brenvaldo::test::TemporaryFolder;
@@ -48,24 +49,24 @@ TEST_P(TemporaryFileForm, TakesANewName)
     TemporaryFile file(folder.path(), GetParam().form);
 
     ASSERT_TRUE(fill(file, "contents"));
-    EXPECT_TRUE(file.moveTo(folder.path(u"photo.jpg"_qs)));
+    EXPECT_TRUE(file.moveTo(folder.path(u"photo.jpg"_s)));
 
     EXPECT_FALSE(file.isValid());
-    EXPECT_EQ(TemporaryFolder::read(folder.path(u"photo.jpg"_qs)), "contents");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"photo.jpg"_s)), "contents");
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
 }
 
 TEST_P(TemporaryFileForm, TakesTheNameOfAnother)
 {
     const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.jpg"_qs, "the old and longer contents");
+    const QString path = folder.write(u"photo.jpg"_s, "the old and longer contents");
     TemporaryFile file(folder.path(), GetParam().form);
 
     ASSERT_TRUE(fill(file, "new"));
     EXPECT_TRUE(file.moveTo(path));
 
     EXPECT_EQ(TemporaryFolder::read(path), "new");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_qs});
+    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
 }
 
 TEST_P(TemporaryFileForm, GoesAwayWithItsObject)
@@ -82,30 +83,30 @@ TEST_P(TemporaryFileForm, GoesAwayWithItsObject)
 TEST_P(TemporaryFileForm, StaysTemporaryWhereItCanNotGo)
 {
     const TemporaryFolder folder;
-    QDir().mkpath(folder.path(u"taken/by a folder"_qs));
+    QDir().mkpath(folder.path(u"taken/by a folder"_s));
     {
         TemporaryFile file(folder.path(), GetParam().form);
 
-        EXPECT_FALSE(file.moveTo(folder.path(u"taken"_qs)));
-        EXPECT_FALSE(file.moveTo(folder.path(u"missing/photo.jpg"_qs)));
+        EXPECT_FALSE(file.moveTo(folder.path(u"taken"_s)));
+        EXPECT_FALSE(file.moveTo(folder.path(u"missing/photo.jpg"_s)));
         EXPECT_TRUE(fill(file, "contents"));
     }
 
-    EXPECT_EQ(allEntries(folder), QStringList{u"taken"_qs});
+    EXPECT_EQ(allEntries(folder), QStringList{u"taken"_s});
 }
 
 TEST_P(TemporaryFileForm, TakesNoNameThatIsToBeKept)
 {
     const TemporaryFolder folder;
-    const QString taken = folder.write(u"taken.jpg"_qs, "old");
+    const QString taken = folder.write(u"taken.jpg"_s, "old");
     TemporaryFile file(folder.path(), GetParam().form);
     ASSERT_TRUE(fill(file, "new"));
 
     EXPECT_FALSE(file.moveTo(taken, TemporaryFile::Existing::Kept));
-    EXPECT_TRUE(file.moveTo(folder.path(u"free.jpg"_qs), TemporaryFile::Existing::Kept));
+    EXPECT_TRUE(file.moveTo(folder.path(u"free.jpg"_s), TemporaryFile::Existing::Kept));
 
     EXPECT_EQ(TemporaryFolder::read(taken), "old");
-    EXPECT_EQ(TemporaryFolder::read(folder.path(u"free.jpg"_qs)), "new");
+    EXPECT_EQ(TemporaryFolder::read(folder.path(u"free.jpg"_s)), "new");
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -134,5 +135,5 @@ TEST(TemporaryFile, IsInvalidWithoutItsFolder)
 {
     const TemporaryFolder folder;
 
-    EXPECT_FALSE(TemporaryFile(folder.path(u"missing"_qs)).isValid());
+    EXPECT_FALSE(TemporaryFile(folder.path(u"missing"_s)).isValid());
 }

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
 using brenvaldo::platform::storage::readTextFile;
 using brenvaldo::test::TemporaryFolder;
 
@@ -13,8 +14,8 @@ TEST(TextFile, IsReadAsUtf8)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(readTextFile(folder.write(u"a"_qs, "\xC3\xA9\n")), u"é\n"_qs);
-    EXPECT_EQ(readTextFile(folder.write(u"b"_qs, "")), u""_qs);
+    EXPECT_EQ(readTextFile(folder.write(u"a"_s, "\xC3\xA9\n")), u"é\n"_s);
+    EXPECT_EQ(readTextFile(folder.write(u"b"_s, "")), u""_s);
 }
 
 TEST(TextFile, IsReadWithoutItsByteOrderMark)
@@ -23,11 +24,11 @@ TEST(TextFile, IsReadWithoutItsByteOrderMark)
 
     EXPECT_EQ(
         readTextFile(folder.write(
-            u"a"_qs,
+            u"a"_s,
             "\xEF\xBB\xBF"
             "a"
         )),
-        u"a"_qs
+        u"a"_s
     );
 }
 
@@ -35,8 +36,8 @@ TEST(TextFile, IsNothingWhenItIsNoText)
 {
     const TemporaryFolder folder;
 
-    EXPECT_EQ(readTextFile(folder.write(u"a"_qs, "a\xFFz")), std::nullopt);
-    EXPECT_EQ(readTextFile(folder.write(u"b"_qs, "cut \xC3")), std::nullopt);
-    EXPECT_EQ(readTextFile(folder.path(u"missing"_qs)), std::nullopt);
+    EXPECT_EQ(readTextFile(folder.write(u"a"_s, "a\xFFz")), std::nullopt);
+    EXPECT_EQ(readTextFile(folder.write(u"b"_s, "cut \xC3")), std::nullopt);
+    EXPECT_EQ(readTextFile(folder.path(u"missing"_s)), std::nullopt);
     EXPECT_EQ(readTextFile(folder.path()), std::nullopt);
 }

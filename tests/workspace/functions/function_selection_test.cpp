@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../controller_fixture.h"
 
+#include <platform/foundation/literals.h>
+
 using namespace brenvaldo;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -40,36 +42,36 @@ TEST_F(FunctionSelection, StartsWithTheTextWatermarkAndAllHoldersFilled)
 {
     guiControls.hSetInitialView();
 
-    EXPECT_EQ(function(), u"textWM"_qs);
-    EXPECT_EQ(panels.window.dvVCUiMainPropertySelect.views(), QStringList{u"pubEditPhoto"_qs});
+    EXPECT_EQ(function(), u"textWM"_s);
+    EXPECT_EQ(panels.window.dvVCUiMainPropertySelect.views(), QStringList{u"pubEditPhoto"_s});
     EXPECT_EQ(
         holderViews(),
         (QStringList{
-            u"vwWatermark"_qs,
-            u"vwShowPreview"_qs,
-            u"vwApplyOn"_qs,
-            u"vwFileType"_qs,
-            u"vwMainDestination"_qs})
+            u"vwWatermark"_s,
+            u"vwShowPreview"_s,
+            u"vwApplyOn"_s,
+            u"vwFileType"_s,
+            u"vwMainDestination"_s})
     );
-    EXPECT_EQ(panels.window.btnEditPhoto.image(), u"SelectMainTabView1.png"_qs);
-    EXPECT_EQ(panels.window.btnFileManagement.image(), u"bgBlue.png"_qs);
-    EXPECT_EQ(panels.window.btnExportHtml.image(), u"bgBlue.png"_qs);
+    EXPECT_EQ(panels.window.btnEditPhoto.image(), u"SelectMainTabView1.png"_s);
+    EXPECT_EQ(panels.window.btnFileManagement.image(), u"bgBlue.png"_s);
+    EXPECT_EQ(panels.window.btnExportHtml.image(), u"bgBlue.png"_s);
     EXPECT_TRUE(showsPresets());
 }
 
 TEST_F(FunctionSelection, StoresTheIdOfEachEditFunction)
 {
     const QStringList ids{
-        u"textWM"_qs,
-        u"addTint"_qs,
-        u"framing"_qs,
-        u"roundings"_qs,
-        u"profileConversion"_qs,
-        u"faces"_qs,
-        u"rotatePhotos"_qs,
-        u"filters"_qs,
-        u"resizePhotos"_qs,
-        u"cropPhotos"_qs};
+        u"textWM"_s,
+        u"addTint"_s,
+        u"framing"_s,
+        u"roundings"_s,
+        u"profileConversion"_s,
+        u"faces"_s,
+        u"rotatePhotos"_s,
+        u"filters"_s,
+        u"resizePhotos"_s,
+        u"cropPhotos"_s};
 
     for (int index = 0; index < ids.size(); ++index) {
         pickEdit(index);
@@ -80,24 +82,20 @@ TEST_F(FunctionSelection, StoresTheIdOfEachEditFunction)
 TEST_F(FunctionSelection, FollowsTheTabOfTheWatermarkPanel)
 {
     user.pick(panels.vwWatermark.tbvWatermarkType, 1);
-    EXPECT_EQ(function(), u"imageWM"_qs);
+    EXPECT_EQ(function(), u"imageWM"_s);
     pickEdit(1);
 
     pickEdit(0);
-    EXPECT_EQ(function(), u"imageWM"_qs);
+    EXPECT_EQ(function(), u"imageWM"_s);
 
     user.pick(panels.vwWatermark.tbvWatermarkType, 0);
-    EXPECT_EQ(function(), u"textWM"_qs);
+    EXPECT_EQ(function(), u"textWM"_s);
 }
 
 TEST_F(FunctionSelection, StoresTheIdOfEachFileManagementFunction)
 {
     const QStringList ids{
-        u"manSort"_qs,
-        u"batchExifUC"_qs,
-        u"fileRenaming"_qs,
-        u"batchFileConvert"_qs,
-        u"batchQR"_qs};
+        u"manSort"_s, u"batchExifUC"_s, u"fileRenaming"_s, u"batchFileConvert"_s, u"batchQR"_s};
 
     for (int index = 0; index < ids.size(); ++index) {
         pickManagement(index);
@@ -138,23 +136,23 @@ TEST_F(FunctionSelection, LeavesFileTypeAndDestinationToAProfileConversionAfterF
     EXPECT_EQ(
         holderViews(),
         (QStringList{
-            u"vwProfileConversion"_qs,
-            u"vwShowPreview"_qs,
-            u"vwApplyOn"_qs,
-            u"vwFileType"_qs,
-            u"vwMainDestination"_qs})
+            u"vwProfileConversion"_s,
+            u"vwShowPreview"_s,
+            u"vwApplyOn"_s,
+            u"vwFileType"_s,
+            u"vwMainDestination"_s})
     );
 }
 
 TEST_F(FunctionSelection, LeavesTheHoldersOfAProfileConversionEmptyAfterExif)
 {
-    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(u"/out/"_qs);
+    panels.vwMainDestination.tfImageDestinationFolder.setStringValue(u"/out/"_s);
     pickManagement(1);
 
     pickEdit(4);
 
     EXPECT_EQ(holderViews().mid(3), (QStringList{QString(), QString()}));
-    EXPECT_EQ(panels.vwMainDestination.tfImageDestinationFolder.stringValue(), u"/out/"_qs);
+    EXPECT_EQ(panels.vwMainDestination.tfImageDestinationFolder.stringValue(), u"/out/"_s);
 }
 
 TEST_F(FunctionSelection, ListsTheProfilesForAProfileConversionAlone)
@@ -207,15 +205,15 @@ TEST_F(FunctionSelection, FollowsTheTabsOfSorting)
     const controls::Holder& destination = panels.window.dvVCUiMainDestinationPropertyView;
 
     pickSortTab(1);
-    EXPECT_EQ(function(), u"batchSort"_qs);
-    EXPECT_THAT(destination.views(), ElementsAre(u"vwMainDestination"_qs));
+    EXPECT_EQ(function(), u"batchSort"_s);
+    EXPECT_THAT(destination.views(), ElementsAre(u"vwMainDestination"_s));
 
     pickSortTab(2);
-    EXPECT_EQ(function(), u"batchUploadPhotos"_qs);
+    EXPECT_EQ(function(), u"batchUploadPhotos"_s);
     EXPECT_THAT(destination.views(), IsEmpty());
 
     pickSortTab(0);
-    EXPECT_EQ(function(), u"manSort"_qs);
+    EXPECT_EQ(function(), u"manSort"_s);
     EXPECT_THAT(destination.views(), IsEmpty());
 }
 
@@ -225,10 +223,9 @@ TEST_F(FunctionSelection, OpensSortingInBatchModeWhenItsTabIsSelected)
 
     pickManagement(0);
 
-    EXPECT_EQ(function(), u"batchSort"_qs);
+    EXPECT_EQ(function(), u"batchSort"_s);
     EXPECT_THAT(
-        panels.window.dvVCUiMainDestinationPropertyView.views(),
-        ElementsAre(u"vwMainDestination"_qs)
+        panels.window.dvVCUiMainDestinationPropertyView.views(), ElementsAre(u"vwMainDestination"_s)
     );
 }
 
@@ -242,30 +239,30 @@ TEST_F(FunctionSelection, ShowsTheGallery)
 
     user.press(panels.window.btnExportHtml);
 
-    EXPECT_EQ(function(), u"htmlExport"_qs);
+    EXPECT_EQ(function(), u"htmlExport"_s);
     EXPECT_THAT(panels.window.dvVCUiMainPropertySelect.views(), IsEmpty());
     EXPECT_EQ(
         holderViews(),
         (QStringList{
-            u"vwHtmlExport"_qs, QString(), u"vwApplyOn"_qs, QString(), u"vwMainDestination"_qs})
+            u"vwHtmlExport"_s, QString(), u"vwApplyOn"_s, QString(), u"vwMainDestination"_s})
     );
     EXPECT_TRUE(showsPresets());
     EXPECT_EQ(loaded, 3);
-    EXPECT_EQ(panels.vwHtmlExport.tfHTMLfileName.stringValue(), u"myFourthPhotoGallery"_qs);
+    EXPECT_EQ(panels.vwHtmlExport.tfHTMLfileName.stringValue(), u"myFourthPhotoGallery"_s);
 }
 
 TEST_F(FunctionSelection, PutsTheFunctionsOfASectionIntoTheWindow)
 {
     user.press(panels.window.btnFileManagement);
     EXPECT_THAT(
-        panels.window.dvVCUiMainPropertySelect.views(), ElementsAre(u"pubFileManagementSelect"_qs)
+        panels.window.dvVCUiMainPropertySelect.views(), ElementsAre(u"pubFileManagementSelect"_s)
     );
-    EXPECT_EQ(panels.window.btnFileManagement.image(), u"SelectMainTabView1.png"_qs);
-    EXPECT_EQ(panels.window.btnEditPhoto.image(), u"bgBlue.png"_qs);
+    EXPECT_EQ(panels.window.btnFileManagement.image(), u"SelectMainTabView1.png"_s);
+    EXPECT_EQ(panels.window.btnEditPhoto.image(), u"bgBlue.png"_s);
 
     user.press(panels.window.btnEditPhoto);
-    EXPECT_THAT(panels.window.dvVCUiMainPropertySelect.views(), ElementsAre(u"pubEditPhoto"_qs));
-    EXPECT_EQ(panels.window.btnEditPhoto.image(), u"SelectMainTabView1.png"_qs);
+    EXPECT_THAT(panels.window.dvVCUiMainPropertySelect.views(), ElementsAre(u"pubEditPhoto"_s));
+    EXPECT_EQ(panels.window.btnEditPhoto.image(), u"SelectMainTabView1.png"_s);
 }
 
 TEST_F(FunctionSelection, SwapsTheFieldsOfResizing)
@@ -273,10 +270,10 @@ TEST_F(FunctionSelection, SwapsTheFieldsOfResizing)
     panels::ResizePanel& resize = panels.vwResizePhotos;
 
     user.pick(resize.pubScaleType, 1);
-    EXPECT_THAT(resize.dvVCUiResizeMainView.views(), ElementsAre(u"dvVCUiScaleFixView"_qs));
+    EXPECT_THAT(resize.dvVCUiResizeMainView.views(), ElementsAre(u"dvVCUiScaleFixView"_s));
 
     user.pick(resize.pubScaleType, 0);
-    EXPECT_THAT(resize.dvVCUiResizeMainView.views(), ElementsAre(u"dvVCUiScaleMaxView"_qs));
+    EXPECT_THAT(resize.dvVCUiResizeMainView.views(), ElementsAre(u"dvVCUiScaleMaxView"_s));
 }
 
 TEST_F(FunctionSelection, StartsResizingWithTheMaximumFieldsWhateverTheType)
@@ -286,7 +283,7 @@ TEST_F(FunctionSelection, StartsResizingWithTheMaximumFieldsWhateverTheType)
 
     pickEdit(8);
 
-    EXPECT_THAT(resize.dvVCUiResizeMainView.views(), ElementsAre(u"dvVCUiScaleMaxView"_qs));
+    EXPECT_THAT(resize.dvVCUiResizeMainView.views(), ElementsAre(u"dvVCUiScaleMaxView"_s));
 }
 
 TEST_F(FunctionSelection, SwapsTheFieldsOfCropping)
@@ -294,14 +291,14 @@ TEST_F(FunctionSelection, SwapsTheFieldsOfCropping)
     panels::CropPanel& crop = panels.vwCropPhotos;
 
     user.pick(crop.pubCropType, 1);
-    EXPECT_THAT(crop.dvVCUiCropTypeView.views(), ElementsAre(u"dvVCUiCropMinusView"_qs));
+    EXPECT_THAT(crop.dvVCUiCropTypeView.views(), ElementsAre(u"dvVCUiCropMinusView"_s));
 
     user.pick(crop.pubCropType, 0);
-    EXPECT_THAT(crop.dvVCUiCropTypeView.views(), ElementsAre(u"dvVCUiCropWxHView"_qs));
+    EXPECT_THAT(crop.dvVCUiCropTypeView.views(), ElementsAre(u"dvVCUiCropWxHView"_s));
 
     user.pick(crop.pubCropType, 2);
     pickEdit(9);
-    EXPECT_THAT(crop.dvVCUiCropTypeView.views(), ElementsAre(u"dvVCUiCropWxHView"_qs));
+    EXPECT_THAT(crop.dvVCUiCropTypeView.views(), ElementsAre(u"dvVCUiCropWxHView"_s));
 }
 
 TEST_F(FunctionSelection, PutsThePlaceOfACropBesideTheFieldsOfResizing)
@@ -313,7 +310,7 @@ TEST_F(FunctionSelection, PutsThePlaceOfACropBesideTheFieldsOfResizing)
 
     EXPECT_THAT(
         panels.vwResizePhotos.dvVCUiResizeMainView.views(),
-        ElementsAre(u"dvVCUiScaleMaxView"_qs, u"dvVCUiCropPositionView"_qs)
+        ElementsAre(u"dvVCUiScaleMaxView"_s, u"dvVCUiCropPositionView"_s)
     );
     EXPECT_TRUE(panels.isShown(crop.dvVCUiCropPositionView));
 }
@@ -322,7 +319,7 @@ TEST_F(FunctionSelection, DrawsThePreviewOfAnotherCropTypeWhileItIsOn)
 {
     int crops = 0;
     row("cropPhotos").preview = countingPreview(crops);
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
     pickEdit(9);
 
     user.pick(panels.vwCropPhotos.pubCropType, 1);
@@ -335,7 +332,7 @@ TEST_F(FunctionSelection, DrawsThePreviewOfAnotherCropTypeWhileItIsOn)
 
 TEST_F(FunctionSelection, DrawsNoPreviewOfAnotherCropTypeWhileItIsOff)
 {
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
     pickEdit(9);
     panels.window.myTemplatePreview.clear();
 
@@ -348,7 +345,7 @@ TEST_F(FunctionSelection, ShowsThePlainPhotoAgainWhenAnotherFunctionIsChosen)
 {
     int twins = 0;
     row("framing").preview = countingPreview(twins);
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
     const auto showFrame = [this] {
         pickEdit(2);
         user.tick(panels.vwShowPreview.cbShowPreview, 1);
@@ -376,7 +373,7 @@ TEST_F(
 
     guiControls.hGetMainEditFunction();
 
-    EXPECT_EQ(function(), u"batchFileConvert"_qs);
+    EXPECT_EQ(function(), u"batchFileConvert"_s);
     EXPECT_EQ(holderViews(), before);
     EXPECT_TRUE(showsPresets());
 }
@@ -390,7 +387,7 @@ TEST_F(FunctionSelection, ChangesNothingAtAnIndexOutsideOfTheFileManagement)
 
     guiControls.hGetMainFileManagementFunction();
 
-    EXPECT_EQ(function(), u"batchFileConvert"_qs);
+    EXPECT_EQ(function(), u"batchFileConvert"_s);
     EXPECT_EQ(holderViews(), before);
     EXPECT_FALSE(showsPresets());
     EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
@@ -398,24 +395,24 @@ TEST_F(FunctionSelection, ChangesNothingAtAnIndexOutsideOfTheFileManagement)
 
 TEST_F(FunctionSelection, SelectsCroppingByATextEditInOneOfItsFields)
 {
-    photos.append(entry(u"/gone/a.jpg"_qs, u"L"_qs));
+    photos.append(entry(u"/gone/a.jpg"_s, u"L"_s));
     select("framing");
 
-    user.type(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset, u"12"_qs);
+    user.type(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset, u"12"_s);
 
     EXPECT_EQ(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset.tag(), 75);
-    EXPECT_EQ(function(), u"cropPhotos"_qs);
+    EXPECT_EQ(function(), u"cropPhotos"_s);
 }
 
 TEST_F(FunctionSelection, DrawsThePreviewOfTheFunctionThatATextEditSelects)
 {
     int crops = 0;
     row("cropPhotos").preview = countingPreview(crops);
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
     select("framing");
     panels.vwShowPreview.cbShowPreview.setState(1);
 
-    user.type(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset, u"12"_qs);
+    user.type(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset, u"12"_s);
 
     EXPECT_EQ(crops, 1);
     EXPECT_TRUE(showsOverlay());
@@ -425,28 +422,28 @@ TEST_F(FunctionSelection, IgnoresTextEditsWithoutPhotos)
 {
     select("framing");
 
-    user.type(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset, u"12"_qs);
+    user.type(panels.vwCropPhotos.dvVCUiCropPositionView.tfYcropOffset, u"12"_s);
 
-    EXPECT_EQ(function(), u"framing"_qs);
+    EXPECT_EQ(function(), u"framing"_s);
 }
 
 TEST_F(FunctionSelection, IgnoresTextEditsWhileAFileThatIsNoPhotoIsSelected)
 {
-    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    photos.append(nonPhoto(u"/gone/a.txt"_s));
     photos.select(0);
     select("framing");
 
-    user.type(panels.vwAddTint.tfAddTintOpacity, u"12"_qs);
+    user.type(panels.vwAddTint.tfAddTintOpacity, u"12"_s);
 
-    EXPECT_EQ(function(), u"framing"_qs);
+    EXPECT_EQ(function(), u"framing"_s);
 }
 
 TEST_F(FunctionSelection, IgnoresTextEditsInHexFields)
 {
-    photos.append(entry(u"/gone/a.jpg"_qs, u"L"_qs));
+    photos.append(entry(u"/gone/a.jpg"_s, u"L"_s));
     select("framing");
 
     collectionView.controlTextDidEndEditing(panels.vwAddTint.tfAddTintHexValue.tag());
 
-    EXPECT_EQ(function(), u"framing"_qs);
+    EXPECT_EQ(function(), u"framing"_s);
 }

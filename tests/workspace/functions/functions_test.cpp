@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/functions/functions.h>
 #include <workspace/functions/preset_records.h>
 
@@ -38,7 +39,7 @@ QStringList idsOf(const Condition& condition)
 
 QString processOf(const presets::PresetRecord* record)
 {
-    return record ? record->process + u' ' + record->action : u"none"_qs;
+    return record ? record->process + u' ' + record->action : u"none"_s;
 }
 
 } // namespace
@@ -48,25 +49,25 @@ TEST(Functions, StandInTheOrderOfTheCatalogue)
     EXPECT_THAT(
         idsOf([](const auto&) { return true; }),
         ElementsAre(
-            u"textWM"_qs,
-            u"imageWM"_qs,
-            u"addTint"_qs,
-            u"framing"_qs,
-            u"roundings"_qs,
-            u"profileConversion"_qs,
-            u"faces"_qs,
-            u"rotatePhotos"_qs,
-            u"filters"_qs,
-            u"resizePhotos"_qs,
-            u"cropPhotos"_qs,
-            u"manSort"_qs,
-            u"batchSort"_qs,
-            u"batchUploadPhotos"_qs,
-            u"batchExifUC"_qs,
-            u"fileRenaming"_qs,
-            u"batchFileConvert"_qs,
-            u"batchQR"_qs,
-            u"htmlExport"_qs
+            u"textWM"_s,
+            u"imageWM"_s,
+            u"addTint"_s,
+            u"framing"_s,
+            u"roundings"_s,
+            u"profileConversion"_s,
+            u"faces"_s,
+            u"rotatePhotos"_s,
+            u"filters"_s,
+            u"resizePhotos"_s,
+            u"cropPhotos"_s,
+            u"manSort"_s,
+            u"batchSort"_s,
+            u"batchUploadPhotos"_s,
+            u"batchExifUC"_s,
+            u"fileRenaming"_s,
+            u"batchFileConvert"_s,
+            u"batchQR"_s,
+            u"htmlExport"_s
         )
     );
 }
@@ -118,11 +119,11 @@ TEST(Functions, OfThisVersionAreThese)
 {
     EXPECT_THAT(
         idsOf([](const auto& row) { return workspace::hasOperation(row.run); }),
-        UnorderedElementsAre(u"textWM"_qs, u"resizePhotos"_qs, u"batchFileConvert"_qs)
+        UnorderedElementsAre(u"textWM"_s, u"resizePhotos"_s, u"batchFileConvert"_s)
     );
     EXPECT_THAT(
         idsOf([](const auto& row) { return static_cast<bool>(row.preview); }),
-        UnorderedElementsAre(u"textWM"_qs)
+        UnorderedElementsAre(u"textWM"_s)
     );
 }
 
@@ -130,7 +131,7 @@ TEST(Functions, ThatTakeThePlainPhotoAwayAreThese)
 {
     EXPECT_THAT(
         idsOf([](const auto& row) { return row.photoBelow == workspace::PhotoBelow::Goes; }),
-        UnorderedElementsAre(u"framing"_qs, u"roundings"_qs, u"rotatePhotos"_qs, u"filters"_qs)
+        UnorderedElementsAre(u"framing"_s, u"roundings"_s, u"rotatePhotos"_s, u"filters"_s)
     );
 }
 
@@ -148,19 +149,19 @@ TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
     const workspace::PresetRecords records(rows(), subsystems);
 
     const std::map<QString, QString> expected{
-        {u"textWM"_qs, u"TextWM Watermark"_qs},
-        {u"imageWM"_qs, u"ImageWM Watermark"_qs},
-        {u"addTint"_qs, u"addTint Edit"_qs},
-        {u"framing"_qs, u"framing Edit"_qs},
-        {u"roundings"_qs, u"roundings Edit"_qs},
-        {u"profileConversion"_qs, u"profileConversion Edit"_qs},
-        {u"rotatePhotos"_qs, u"rotatePhotos Edit"_qs},
-        {u"resizePhotos"_qs, u"resizePhotos Edit"_qs},
-        {u"cropPhotos"_qs, u"cropPhotos Edit"_qs},
-        {u"filters"_qs, u"filters Edit"_qs},
-        {u"faces"_qs, u"none"_qs},
-        {u"batchFileConvert"_qs, u"none"_qs},
-        {u"unknown"_qs, u"none"_qs},
+        {u"textWM"_s, u"TextWM Watermark"_s},
+        {u"imageWM"_s, u"ImageWM Watermark"_s},
+        {u"addTint"_s, u"addTint Edit"_s},
+        {u"framing"_s, u"framing Edit"_s},
+        {u"roundings"_s, u"roundings Edit"_s},
+        {u"profileConversion"_s, u"profileConversion Edit"_s},
+        {u"rotatePhotos"_s, u"rotatePhotos Edit"_s},
+        {u"resizePhotos"_s, u"resizePhotos Edit"_s},
+        {u"cropPhotos"_s, u"cropPhotos Edit"_s},
+        {u"filters"_s, u"filters Edit"_s},
+        {u"faces"_s, u"none"_s},
+        {u"batchFileConvert"_s, u"none"_s},
+        {u"unknown"_s, u"none"_s},
     };
     for (const auto& [function, process] : expected)
         EXPECT_EQ(processOf(records.recordOf(function)), process) << function.toStdString();
@@ -172,7 +173,7 @@ TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)
     const auto make = [](panels::Panels& panels) {
         return presets::PresetRecord{
             .process = panels.window.pubEditPhoto.name(),
-            .action = u"Test"_qs,
+            .action = u"Test"_s,
             .before = presets::PresetRecord::Before::Nothing,
             .fields = {}};
     };
@@ -191,15 +192,15 @@ TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)
          .previewPhoto = [](const QString&) { return std::nullopt; }}};
     const workspace::Subsystems subsystems{
         .panels = panels, .imageHandling = imageHandling, .watermark = mark};
-    workspace::Functions functions({*rows().withId(u"fileRenaming"_qs)});
+    workspace::Functions functions({*rows().withId(u"fileRenaming"_s)});
     functions.begin()->presets
         = {{.make = make, .applies = isFirstTab},
            {.make = make, .applies = isSecondTab, .afterLoad = [](const auto&) { ++loads; }}};
     const workspace::PresetRecords records(functions, subsystems);
 
-    const auto* first = records.recordOf(u"fileRenaming"_qs);
+    const auto* first = records.recordOf(u"fileRenaming"_s);
     panels.window.pubEditPhoto.selectIndex(1);
-    const auto* second = records.recordOf(u"fileRenaming"_qs);
+    const auto* second = records.recordOf(u"fileRenaming"_s);
     panels.window.pubEditPhoto.selectIndex(2);
 
     ASSERT_TRUE(first && second);
@@ -207,5 +208,5 @@ TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)
     EXPECT_FALSE(first->afterLoad);
     second->afterLoad();
     EXPECT_EQ(loads, 1);
-    EXPECT_EQ(records.recordOf(u"fileRenaming"_qs), nullptr);
+    EXPECT_EQ(records.recordOf(u"fileRenaming"_s), nullptr);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../controller_fixture.h"
 
+#include <platform/foundation/literals.h>
+
 #include <support/case_name.h>
 
 using namespace brenvaldo;
@@ -18,7 +20,7 @@ protected:
             ++previews;
             return std::nullopt;
         };
-        collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+        collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
         panels.vwShowPreview.cbShowPreview.setState(1);
     }
 
@@ -47,7 +49,7 @@ class ColorWells : public PanelActions, public testing::WithParamInterface<Color
 
 TEST_P(PlainPreviewActions, DrawThePreviewAnew)
 {
-    actions.send(u"cGUIcontrols."_qs + QString::fromLatin1(GetParam()));
+    actions.send(u"cGUIcontrols."_s + QString::fromLatin1(GetParam()));
 
     EXPECT_EQ(previews, 1);
 }
@@ -96,7 +98,7 @@ TEST_P(ColorWells, WriteTheirColourAndDrawThePreview)
 
     user.choose(*well, {.red = 1, .green = 0.5, .blue = 0});
 
-    EXPECT_EQ(hexField->stringValue(), u"FF7F00"_qs);
+    EXPECT_EQ(hexField->stringValue(), u"FF7F00"_s);
     EXPECT_EQ(previews, 1);
 }
 
@@ -123,8 +125,8 @@ TEST_F(PanelActions, DrawTheTintBeforeItsColourIsWritten)
 {
     user.choose(panels.vwAddTint.cwAddTint, {.red = 1, .green = 1, .blue = 1});
 
-    EXPECT_EQ(hexAtPreview, u"000000"_qs);
-    EXPECT_EQ(panels.vwAddTint.tfAddTintHexValue.stringValue(), u"FFFFFF"_qs);
+    EXPECT_EQ(hexAtPreview, u"000000"_s);
+    EXPECT_EQ(panels.vwAddTint.tfAddTintHexValue.stringValue(), u"FFFFFF"_s);
 }
 
 TEST_F(PanelActions, ShowThePlainPhotoWhileThePreviewIsOff)
@@ -221,7 +223,7 @@ TEST_F(PanelActions, ShowTheSettingsOfAFilter)
     panels::FilterPanel& panel = panels.vwFilterPhotos;
 
     user.pick(panel.pubFilterSelection, 3);
-    EXPECT_EQ(panel.vwFiltersMainView.views(), QStringList{u"vwFiltersScreenView"_qs});
+    EXPECT_EQ(panel.vwFiltersMainView.views(), QStringList{u"vwFiltersScreenView"_s});
     EXPECT_TRUE(panel.vwFiltersScreenView.tfFilterCenterCircularWidth.isEnabled());
     EXPECT_FALSE(panel.vwFiltersScreenView.tfFilterLineScreenAngle.isEnabled());
 
@@ -230,7 +232,7 @@ TEST_F(PanelActions, ShowTheSettingsOfAFilter)
     EXPECT_TRUE(panel.vwFiltersScreenView.tfFilterLineScreenAngle.isEnabled());
 
     user.pick(panel.pubFilterSelection, 21);
-    EXPECT_EQ(panel.vwFiltersMainView.views(), QStringList{u"vwFiltersUnsharpView"_qs});
+    EXPECT_EQ(panel.vwFiltersMainView.views(), QStringList{u"vwFiltersUnsharpView"_s});
 
     user.pick(panel.pubFilterSelection, 0);
     EXPECT_TRUE(panel.vwFiltersMainView.isEmpty());
@@ -244,7 +246,7 @@ TEST_F(PanelActions, TurnTheSimulationOffAtOnce)
     EXPECT_FALSE(simulation.isOn());
 
     simulation.setState(1);
-    actions.send(u"hTxtSimulationModePressed"_qs);
+    actions.send(u"hTxtSimulationModePressed"_s);
     EXPECT_FALSE(simulation.isOn());
 }
 
@@ -252,21 +254,21 @@ TEST_F(PanelActions, AppendTheTokensOfTheSizeToTheFileNameText)
 {
     int posted = 0;
     const auto subscription
-        = notifications.addObserver(u"cbTextWatermarkMetaDataEntred"_qs, [&](const QString&) {
+        = notifications.addObserver(u"cbTextWatermarkMetaDataEntred"_s, [&](const QString&) {
               ++posted;
           });
     panels::WatermarkPanel& panel = panels.vwWatermark;
-    panel.tvFileName.setStringValue(u"thumb_"_qs);
+    panel.tvFileName.setStringValue(u"thumb_"_s);
 
     user.pick(panel.pubFileNamePhotoProperties, 0);
     user.pick(panel.pubFileNamePhotoProperties, 1);
 
-    EXPECT_EQ(panel.tvFileName.stringValue(), u"thumb_<[IMGW]><[IMGH]>"_qs);
+    EXPECT_EQ(panel.tvFileName.stringValue(), u"thumb_<[IMGW]><[IMGH]>"_s);
     EXPECT_EQ(posted, 2);
 
     panel.pubFileNamePhotoProperties.selectItemAtIndex(-1);
-    actions.send(u"cGUIcontrols.hInsertPhotoProperty"_qs);
-    EXPECT_EQ(panel.tvFileName.stringValue(), u"thumb_<[IMGW]><[IMGH]>"_qs);
+    actions.send(u"cGUIcontrols.hInsertPhotoProperty"_s);
+    EXPECT_EQ(panel.tvFileName.stringValue(), u"thumb_<[IMGW]><[IMGH]>"_s);
 }
 
 TEST_F(PanelActions, PrintThePhotoThatIsNamed)
@@ -274,9 +276,9 @@ TEST_F(PanelActions, PrintThePhotoThatIsNamed)
     QStringList printed;
     neighbours.printService = [&](const QString& path) { printed.append(path); };
 
-    actions.send(u"hPrintOrigPicture"_qs);
-    panels.window.tfOriginalPictureStrRef.setStringValue(u"/in/a.jpg"_qs);
-    actions.send(u"hPrintOrigPicture"_qs);
+    actions.send(u"hPrintOrigPicture"_s);
+    panels.window.tfOriginalPictureStrRef.setStringValue(u"/in/a.jpg"_s);
+    actions.send(u"hPrintOrigPicture"_s);
 
-    EXPECT_EQ(printed, QStringList{u"/in/a.jpg"_qs});
+    EXPECT_EQ(printed, QStringList{u"/in/a.jpg"_s});
 }

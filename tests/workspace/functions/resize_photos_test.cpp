@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../controller_fixture.h"
 
+#include <platform/foundation/literals.h>
+
 #include <support/geometry_printing.h>
 #include <support/pixel_probe.h>
 
@@ -20,17 +22,17 @@ protected:
         select("resizePhotos");
         panels.window.pubEditPhoto.selectIndex(8);
         panels.vwFileType.pubFileType.selectIndex(1);
-        QDir().mkpath(folder.path(u"out"_qs));
-        panels.vwMainDestination.tfImageDestinationFolder.setStringValue(folder.path(u"out/"_qs));
+        QDir().mkpath(folder.path(u"out"_s));
+        panels.vwMainDestination.tfImageDestinationFolder.setStringValue(folder.path(u"out/"_s));
         photos.append(entry(
-            test::PhotoBuilder().size(80, 40).corners().write(folder.path(u"a.jpg"_qs)), u"L"_qs
+            test::PhotoBuilder().size(80, 40).corners().write(folder.path(u"a.jpg"_s)), u"L"_s
         ));
     }
 
     QImage written()
     {
-        actions.send(u"hLoadImages"_qs);
-        return test::storedPixels(folder.path(u"out/a.png"_qs));
+        actions.send(u"hLoadImages"_s);
+        return test::storedPixels(folder.path(u"out/a.png"_s));
     }
 };
 
@@ -39,7 +41,7 @@ protected:
 TEST_F(ResizePhotos, PassesOnValueAndTypeOfTheMaximum)
 {
     panels::ScaleMaxView& view = panels.vwResizePhotos.dvVCUiScaleMaxView;
-    view.tfScaleMaxVal.setStringValue(u"20"_qs);
+    view.tfScaleMaxVal.setStringValue(u"20"_s);
 
     view.pubScaleMaxType.selectIndex(0);
     EXPECT_EQ(written().size(), QSize(20, 10));
@@ -53,8 +55,8 @@ TEST_F(ResizePhotos, PassesOnTheBoxAndWhetherItIsCovered)
 {
     panels.vwResizePhotos.pubScaleType.selectIndex(1);
     panels::ScaleFixView& view = panels.vwResizePhotos.dvVCUiScaleFixView;
-    view.tfScaleFixWidth.setStringValue(u"10"_qs);
-    view.tfScaleFixHeight.setStringValue(u"20"_qs);
+    view.tfScaleFixWidth.setStringValue(u"10"_s);
+    view.tfScaleFixHeight.setStringValue(u"20"_s);
 
     view.cbScaleAspectRatio.setState(0);
     const QImage stretched = written();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../controller_fixture.h"
 
+#include <platform/foundation/literals.h>
+
 using namespace brenvaldo;
 
 namespace {
@@ -12,12 +14,12 @@ protected:
     void fillWithPhotos()
     {
         collectionView.hDroppedPhotos(
-            {photo(u"b.jpg"_qs, 20, 10), photo(u"c.jpg"_qs, 40, 30), photo(u"d.jpg"_qs, 60, 40)}
+            {photo(u"b.jpg"_s, 20, 10), photo(u"c.jpg"_s, 40, 30), photo(u"d.jpg"_s, 60, 40)}
         );
         photos.select(std::nullopt);
         neighbours.hiDoNothing
             = [this](const QString& path) { described.append(path.section(u'/', -1)); };
-        neighbours.forgetPhoto = [this] { described.append(u"none"_qs); };
+        neighbours.forgetPhoto = [this] { described.append(u"none"_s); };
     }
 
     [[nodiscard]] int shownWidth() const
@@ -45,7 +47,7 @@ protected:
     void fill(const QStringList& names)
     {
         for (const QString& name : names)
-            photos.append(entry(u"/gone/"_qs + name, u"L"_qs));
+            photos.append(entry(u"/gone/"_s + name, u"L"_s));
     }
 };
 
@@ -54,14 +56,14 @@ protected:
 TEST_F(EditList, RemovesTheSelectedEntry)
 {
     collectionView.hDroppedPhotos(
-        {photo(u"a.jpg"_qs), photo(u"b.jpg"_qs, 20, 10), photo(u"c.jpg"_qs, 60, 40)}
+        {photo(u"a.jpg"_s), photo(u"b.jpg"_s, 20, 10), photo(u"c.jpg"_s, 60, 40)}
     );
     photos.select(1);
 
-    actions.send(u"hRemoveSelectedObject"_qs);
+    actions.send(u"hRemoveSelectedObject"_s);
 
-    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"c.jpg"_qs}));
-    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"2"_qs);
+    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_s, u"c.jpg"_s}));
+    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"2"_s);
     EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 60);
 }
 
@@ -70,15 +72,15 @@ TEST_F(EditList, TellsOfThePhotoThatTakesThePlaceOfARemovedOne)
     fillWithPhotos();
     photos.select(1);
 
-    actions.send(u"hRemoveSelectedObject"_qs);
+    actions.send(u"hRemoveSelectedObject"_s);
     EXPECT_EQ(photos.selectedIndex(), 1);
     EXPECT_EQ(shownWidth(), 60);
 
-    actions.send(u"hRemoveSelectedObject"_qs);
+    actions.send(u"hRemoveSelectedObject"_s);
     EXPECT_EQ(photos.selectedIndex(), 0);
     EXPECT_EQ(shownWidth(), 20);
 
-    EXPECT_EQ(described, (QStringList{u"c.jpg"_qs, u"d.jpg"_qs, u"b.jpg"_qs}));
+    EXPECT_EQ(described, (QStringList{u"c.jpg"_s, u"d.jpg"_s, u"b.jpg"_s}));
 }
 
 TEST_F(EditList, ShowsTheEffectOnThePhotoThatTakesThePlaceOfARemovedOne)
@@ -89,7 +91,7 @@ TEST_F(EditList, ShowsTheEffectOnThePhotoThatTakesThePlaceOfARemovedOne)
     photos.select(0);
     panels.vwShowPreview.cbShowPreview.setState(1);
 
-    actions.send(u"hRemoveSelectedObject"_qs);
+    actions.send(u"hRemoveSelectedObject"_s);
 
     EXPECT_EQ(twins, 1);
     EXPECT_TRUE(showsOverlay());
@@ -100,27 +102,27 @@ TEST_F(EditList, TellsOfNoPhotoOnceTheListIsEmpty)
 {
     fillWithPhotos();
     photos.select(0);
-    actions.send(u"hRemoveAllPhoto"_qs);
-    EXPECT_EQ(described, (QStringList{u"b.jpg"_qs, u"none"_qs}));
+    actions.send(u"hRemoveAllPhoto"_s);
+    EXPECT_EQ(described, (QStringList{u"b.jpg"_s, u"none"_s}));
 
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
-    actions.send(u"hRemoveSelectedObject"_qs);
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
+    actions.send(u"hRemoveSelectedObject"_s);
 
-    EXPECT_EQ(described.mid(2), (QStringList{u"a.jpg"_qs, u"none"_qs}));
+    EXPECT_EQ(described.mid(2), (QStringList{u"a.jpg"_s, u"none"_s}));
 }
 
 TEST_F(EditList, ShowsAndTellsOfNoPhotoWhenAFileThatIsNoneIsSelectedByARemoval)
 {
-    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    photos.append(nonPhoto(u"/gone/a.txt"_s));
     fillWithPhotos();
     for (int removal = 0; removal < 3; ++removal) {
         photos.select(photos.count() - 1);
-        actions.send(u"hRemoveSelectedObject"_qs);
+        actions.send(u"hRemoveSelectedObject"_s);
     }
 
     EXPECT_EQ(photos.selectedIndex(), 0);
     EXPECT_EQ(shownWidth(), 0);
-    EXPECT_EQ(described.last(), u"none"_qs);
+    EXPECT_EQ(described.last(), u"none"_s);
 }
 
 TEST_F(EditList, TurnsThePhotoThatIsShownWhereverOthersFallIn)
@@ -132,18 +134,18 @@ TEST_F(EditList, TurnsThePhotoThatIsShownWhereverOthersFallIn)
     };
     fillWithPhotos();
     photos.select(0);
-    actions.send(u"setSortingModeAz"_qs);
+    actions.send(u"setSortingModeAz"_s);
     ASSERT_EQ(shownWidth(), 20);
 
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs, 80, 60)});
-    actions.send(u"hRotateRight"_qs);
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s, 80, 60)});
+    actions.send(u"hRotateRight"_s);
     EXPECT_EQ(photos.selectedIndex(), 1);
     EXPECT_EQ(shownWidth(), 20);
 
-    actions.send(u"hRemoveSelectedObject"_qs);
+    actions.send(u"hRemoveSelectedObject"_s);
 
-    EXPECT_EQ(turned, QStringList{u"b.jpg"_qs});
-    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"c.jpg"_qs, u"d.jpg"_qs}));
+    EXPECT_EQ(turned, QStringList{u"b.jpg"_s});
+    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_s, u"c.jpg"_s, u"d.jpg"_s}));
 }
 
 TEST_F(EditList, KeepsTheSelectionOnThePhotoThatADragMoves)
@@ -153,54 +155,54 @@ TEST_F(EditList, KeepsTheSelectionOnThePhotoThatADragMoves)
 
     collectionView.acceptDrop({0}, 3);
 
-    EXPECT_EQ(listedNames(), (QStringList{u"c.jpg"_qs, u"d.jpg"_qs, u"b.jpg"_qs}));
+    EXPECT_EQ(listedNames(), (QStringList{u"c.jpg"_s, u"d.jpg"_s, u"b.jpg"_s}));
     EXPECT_EQ(photos.selectedIndex(), 2);
-    EXPECT_EQ(collectionView.hGetActiveFileFilePath(), folder.path(u"b.jpg"_qs));
+    EXPECT_EQ(collectionView.hGetActiveFileFilePath(), folder.path(u"b.jpg"_s));
     EXPECT_EQ(shownWidth(), 20);
-    EXPECT_EQ(described, QStringList{u"b.jpg"_qs});
+    EXPECT_EQ(described, QStringList{u"b.jpg"_s});
 }
 
 TEST_F(EditList, KeepsASortedListSortedUnderADrag)
 {
-    fill({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    fill({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     photos.select(0);
-    actions.send(u"setSortingModeAz"_qs);
+    actions.send(u"setSortingModeAz"_s);
 
     collectionView.acceptDrop({2}, 0);
 
-    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs}));
+    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s}));
 }
 
 TEST_F(EditList, KeepsTheOrderForTheNextPhotosAfterRemovingAll)
 {
-    fill({u"b.jpg"_qs, u"a.jpg"_qs});
+    fill({u"b.jpg"_s, u"a.jpg"_s});
     photos.select(0);
-    actions.send(u"setSortingModezA"_qs);
+    actions.send(u"setSortingModezA"_s);
 
-    actions.send(u"hRemoveAllPhoto"_qs);
-    fill({u"a.jpg"_qs, u"c.jpg"_qs, u"b.jpg"_qs});
+    actions.send(u"hRemoveAllPhoto"_s);
+    fill({u"a.jpg"_s, u"c.jpg"_s, u"b.jpg"_s});
 
-    EXPECT_EQ(listedNames(), (QStringList{u"c.jpg"_qs, u"b.jpg"_qs, u"a.jpg"_qs}));
+    EXPECT_EQ(listedNames(), (QStringList{u"c.jpg"_s, u"b.jpg"_s, u"a.jpg"_s}));
 }
 
 TEST_F(EditList, ShowsAnEmptyPreviewAfterTheLastEntry)
 {
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
     ASSERT_TRUE(showsPhoto());
 
-    actions.send(u"hRemoveSelectedObject"_qs);
+    actions.send(u"hRemoveSelectedObject"_s);
 
     EXPECT_TRUE(photos.isEmpty());
     EXPECT_FALSE(showsPhoto());
-    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"0"_qs);
+    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"0"_s);
 }
 
 TEST_F(EditList, RemovesNothingWithoutASelection)
 {
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
     photos.select(std::nullopt);
 
-    actions.send(u"hRemoveSelectedObject"_qs);
+    actions.send(u"hRemoveSelectedObject"_s);
 
     EXPECT_EQ(photos.count(), 1);
     EXPECT_FALSE(showsPhoto());
@@ -208,25 +210,25 @@ TEST_F(EditList, RemovesNothingWithoutASelection)
 
 TEST_F(EditList, RemovesAllEntries)
 {
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs), photo(u"b.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s), photo(u"b.jpg"_s)});
     panels.vwShowPreview.cbShowPreview.setState(1);
 
-    actions.send(u"hRemoveAllPhoto"_qs);
+    actions.send(u"hRemoveAllPhoto"_s);
 
     EXPECT_TRUE(photos.isEmpty());
     EXPECT_FALSE(showsPhoto());
     EXPECT_FALSE(panels.vwShowPreview.cbShowPreview.isOn());
-    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"0"_qs);
+    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"0"_s);
 }
 
 TEST_F(EditList, ReplacesTheSelectedEntry)
 {
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs), photo(u"b.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s), photo(u"b.jpg"_s)});
     photos.select(0);
 
-    collectionView.hReplaceSelectedPhotoObject(photo(u"new.jpg"_qs, 70, 50));
+    collectionView.hReplaceSelectedPhotoObject(photo(u"new.jpg"_s, 70, 50));
 
-    EXPECT_EQ(listedNames(), (QStringList{u"new.jpg"_qs, u"b.jpg"_qs}));
+    EXPECT_EQ(listedNames(), (QStringList{u"new.jpg"_s, u"b.jpg"_s}));
     EXPECT_EQ(photos.selectedIndex(), 0);
     EXPECT_EQ(photos.entries().first().myPhoto.kind, workspace::ListPicture::Kind::FullPicture);
     EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 70);
@@ -243,28 +245,28 @@ TEST_F(EditList, ShowsTheNextFileAndCountsItWhileItReplacesAnEntry)
         );
     });
 
-    collectionView.hReplaceSelectedPhotoObject(photo(u"new.jpg"_qs, 70, 50));
+    collectionView.hReplaceSelectedPhotoObject(photo(u"new.jpg"_s, 70, 50));
 
-    EXPECT_EQ(seen, (QStringList{u"2 40"_qs, u"3 40"_qs}));
+    EXPECT_EQ(seen, (QStringList{u"2 40"_s, u"3 40"_s}));
     EXPECT_EQ(shownWidth(), 70);
-    EXPECT_EQ(described.last(), u"new.jpg"_qs);
+    EXPECT_EQ(described.last(), u"new.jpg"_s);
 }
 
 TEST_F(EditList, ReplacesNothingWithoutASelection)
 {
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
     photos.select(std::nullopt);
     ASSERT_TRUE(showsPhoto());
 
-    collectionView.hReplaceSelectedPhotoObject(u"/gone/new.jpg"_qs);
+    collectionView.hReplaceSelectedPhotoObject(u"/gone/new.jpg"_s);
 
-    EXPECT_EQ(listedNames(), QStringList{u"a.jpg"_qs});
+    EXPECT_EQ(listedNames(), QStringList{u"a.jpg"_s});
     EXPECT_FALSE(showsPhoto());
 }
 
 TEST_F(EditList, TicksAllEntriesAfterTheMasterTick)
 {
-    fill({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    fill({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     photos.setTick(1, 0);
     photos.select(2);
 
@@ -280,11 +282,11 @@ TEST_F(EditList, TicksAllEntriesAfterTheMasterTick)
 
 TEST_F(EditList, TurnsTheMasterTickOffWithASingleOne)
 {
-    fill({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    fill({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     user.tick(panels.window.cbPhotoToProcess, 1);
 
     photos.setTick(1, 0);
-    actions.send(u"cbPhotoToProcessClicked"_qs);
+    actions.send(u"cbPhotoToProcessClicked"_s);
 
     EXPECT_FALSE(panels.window.cbPhotoToProcess.isOn());
     EXPECT_EQ(photos.entries().at(0).myPhotoSelect, 1);
@@ -294,26 +296,26 @@ TEST_F(EditList, TurnsTheMasterTickOffWithASingleOne)
 
 TEST_F(EditList, SortsWithASelectionOnly)
 {
-    fill({u"b.jpg"_qs, u"C.jpg"_qs, u"a.jpg"_qs});
+    fill({u"b.jpg"_s, u"C.jpg"_s, u"a.jpg"_s});
 
-    actions.send(u"setSortingModeAz"_qs);
-    EXPECT_EQ(listedNames(), (QStringList{u"b.jpg"_qs, u"C.jpg"_qs, u"a.jpg"_qs}));
+    actions.send(u"setSortingModeAz"_s);
+    EXPECT_EQ(listedNames(), (QStringList{u"b.jpg"_s, u"C.jpg"_s, u"a.jpg"_s}));
 
     photos.select(2);
-    actions.send(u"setSortingModeAz"_qs);
-    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_qs, u"b.jpg"_qs, u"C.jpg"_qs}));
+    actions.send(u"setSortingModeAz"_s);
+    EXPECT_EQ(listedNames(), (QStringList{u"a.jpg"_s, u"b.jpg"_s, u"C.jpg"_s}));
     EXPECT_EQ(photos.selectedIndex(), 0);
 
-    actions.send(u"setSortingModezA"_qs);
-    EXPECT_EQ(listedNames(), (QStringList{u"C.jpg"_qs, u"b.jpg"_qs, u"a.jpg"_qs}));
+    actions.send(u"setSortingModezA"_s);
+    EXPECT_EQ(listedNames(), (QStringList{u"C.jpg"_s, u"b.jpg"_s, u"a.jpg"_s}));
 }
 
 TEST_F(EditList, ShowsThePhotoThatSortingBringsToTheSelectedPlace)
 {
-    collectionView.hDroppedPhotos({photo(u"b.jpg"_qs, 50, 30), photo(u"a.jpg"_qs, 40, 30)});
+    collectionView.hDroppedPhotos({photo(u"b.jpg"_s, 50, 30), photo(u"a.jpg"_s, 40, 30)});
     ASSERT_EQ(photos.selectedIndex(), 0);
 
-    actions.send(u"setSortingModeAz"_qs);
+    actions.send(u"setSortingModeAz"_s);
 
     ASSERT_TRUE(panels.window.myTemplatePreview.image());
     EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 40);
@@ -324,88 +326,88 @@ TEST_F(EditList, TellsOfThePhotoThatSortingBringsToTheSelectedPlace)
     fillWithPhotos();
     photos.select(0);
 
-    actions.send(u"setSortingModezA"_qs);
+    actions.send(u"setSortingModezA"_s);
 
     EXPECT_EQ(shownWidth(), 60);
-    EXPECT_EQ(described, (QStringList{u"b.jpg"_qs, u"d.jpg"_qs}));
+    EXPECT_EQ(described, (QStringList{u"b.jpg"_s, u"d.jpg"_s}));
 }
 
 TEST_F(EditList, KeepsThePlaceOfAnEntryThatGetsANewNameAmongOthersOfItsName)
 {
-    for (const QString& path : {u"/1/a.jpg"_qs, u"/2/a.jpg"_qs, u"/3/a.jpg"_qs})
-        photos.append(entry(path, u"L"_qs));
+    for (const QString& path : {u"/1/a.jpg"_s, u"/2/a.jpg"_s, u"/3/a.jpg"_s})
+        photos.append(entry(path, u"L"_s));
     photos.select(0);
-    actions.send(u"setSortingModeAz"_qs);
+    actions.send(u"setSortingModeAz"_s);
 
-    collectionView.hUpdateCollectionViewItem(u"renamed.jpg"_qs, 1);
+    collectionView.hUpdateCollectionViewItem(u"renamed.jpg"_s, 1);
 
     EXPECT_EQ(
         guiControls.hGetPhotosFromArrayController(),
-        (QStringList{u"/1/a.jpg"_qs, u"/2/a.jpg"_qs, u"/3/a.jpg"_qs})
+        (QStringList{u"/1/a.jpg"_s, u"/2/a.jpg"_s, u"/3/a.jpg"_s})
     );
-    EXPECT_EQ(photos.entries().at(1).myNewName, u"renamed.jpg"_qs);
+    EXPECT_EQ(photos.entries().at(1).myNewName, u"renamed.jpg"_s);
 }
 
 TEST_F(EditList, StoresANewName)
 {
-    fill({u"a.jpg"_qs, u"b.jpg"_qs});
+    fill({u"a.jpg"_s, u"b.jpg"_s});
 
-    collectionView.hUpdateCollectionViewItem(u"renamed.jpg"_qs, 1);
-    collectionView.hUpdateCollectionViewItem(u"nobody.jpg"_qs, 2);
+    collectionView.hUpdateCollectionViewItem(u"renamed.jpg"_s, 1);
+    collectionView.hUpdateCollectionViewItem(u"nobody.jpg"_s, 2);
 
     EXPECT_EQ(photos.entries().at(0).myNewName, QString());
-    EXPECT_EQ(photos.entries().at(1).myNewName, u"renamed.jpg"_qs);
+    EXPECT_EQ(photos.entries().at(1).myNewName, u"renamed.jpg"_s);
 }
 
 TEST_F(EditList, TellsTheActiveFile)
 {
-    fill({u"a.jpg"_qs});
+    fill({u"a.jpg"_s});
     EXPECT_EQ(collectionView.hGetActiveFileFilePath(), std::nullopt);
 
     photos.select(0);
-    EXPECT_EQ(collectionView.hGetActiveFileFilePath(), u"/gone/a.jpg"_qs);
+    EXPECT_EQ(collectionView.hGetActiveFileFilePath(), u"/gone/a.jpg"_s);
 }
 
 TEST_F(EditList, LeavesTheOrderWhenTheLastEntryIsDraggedToTheEnd)
 {
-    fill({u"a"_qs, u"b"_qs, u"c"_qs});
+    fill({u"a"_s, u"b"_s, u"c"_s});
 
     collectionView.acceptDrop({2}, 3);
 
-    EXPECT_EQ(listedNames(), (QStringList{u"a"_qs, u"b"_qs, u"c"_qs}));
+    EXPECT_EQ(listedNames(), (QStringList{u"a"_s, u"b"_s, u"c"_s}));
 }
 
 TEST_F(EditList, DropsADownwardMoveOnePlaceFurther)
 {
-    fill({u"a"_qs, u"b"_qs, u"c"_qs, u"d"_qs});
+    fill({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
 
     collectionView.acceptDrop({0}, 2);
 
-    EXPECT_EQ(listedNames(), (QStringList{u"b"_qs, u"c"_qs, u"a"_qs, u"d"_qs}));
+    EXPECT_EQ(listedNames(), (QStringList{u"b"_s, u"c"_s, u"a"_s, u"d"_s}));
 }
 
 TEST_F(EditList, DropsAnUpwardMoveIntoTheGap)
 {
-    fill({u"a"_qs, u"b"_qs, u"c"_qs, u"d"_qs});
+    fill({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
 
     collectionView.acceptDrop({3}, 0);
 
-    EXPECT_EQ(listedNames(), (QStringList{u"d"_qs, u"a"_qs, u"b"_qs, u"c"_qs}));
+    EXPECT_EQ(listedNames(), (QStringList{u"d"_s, u"a"_s, u"b"_s, u"c"_s}));
 }
 
 TEST_F(EditList, DoesNotCorrectTheIndexesOfSeveralDraggedEntries)
 {
-    fill({u"a"_qs, u"b"_qs, u"c"_qs, u"d"_qs, u"e"_qs});
+    fill({u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s});
 
     collectionView.acceptDrop({0, 1}, 3);
 
-    EXPECT_EQ(listedNames(), (QStringList{u"b"_qs, u"d"_qs, u"a"_qs, u"e"_qs, u"c"_qs}));
-    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"5"_qs);
+    EXPECT_EQ(listedNames(), (QStringList{u"b"_s, u"d"_s, u"a"_s, u"e"_s, u"c"_s}));
+    EXPECT_EQ(panels.window.tfImageCount.stringValue(), u"5"_s);
 }
 
 TEST_F(EditList, TurnsTheSelectedFileInItsFolder)
 {
-    const QString path = photo(u"a.jpg"_qs, 40, 30);
+    const QString path = photo(u"a.jpg"_s, 40, 30);
     collectionView.hDroppedPhotos({path});
     photos.setTick(0, 0);
     QStringList calls;
@@ -416,48 +418,48 @@ TEST_F(EditList, TurnsTheSelectedFileInItsFolder)
               return imaging::ResultWord::Ok;
           };
 
-    actions.send(u"hRotateRight"_qs);
-    actions.send(u"hRotateLeft"_qs);
+    actions.send(u"hRotateRight"_s);
+    actions.send(u"hRotateLeft"_s);
 
     EXPECT_EQ(
         calls,
         (QStringList{
-            path + u' ' + folder.path() + u" -90"_qs, path + u' ' + folder.path() + u" 90"_qs})
+            path + u' ' + folder.path() + u" -90"_s, path + u' ' + folder.path() + u" 90"_s})
     );
     const auto& edited = photos.entries().first();
-    EXPECT_TRUE(edited.myPhotoPxSize.startsWith(u"30x40px | "_qs));
-    EXPECT_EQ(edited.myPhotoOrientation, u"P"_qs);
+    EXPECT_TRUE(edited.myPhotoPxSize.startsWith(u"30x40px | "_s));
+    EXPECT_EQ(edited.myPhotoOrientation, u"P"_s);
     EXPECT_EQ(edited.myPhotoSelect, 1);
     EXPECT_EQ(edited.myPhoto.kind, workspace::ListPicture::Kind::FullPicture);
     EXPECT_EQ(panels.window.myTemplatePreview.image()->width(), 30);
     EXPECT_EQ(photos.selectedIndex(), 0);
     EXPECT_EQ(
         journalRows(),
-        (QStringList{u"hRotateRight a.jpg a.jpg OK"_qs, u"hRotateLeft a.jpg a.jpg OK"_qs})
+        (QStringList{u"hRotateRight a.jpg a.jpg OK"_s, u"hRotateLeft a.jpg a.jpg OK"_s})
     );
 }
 
 TEST_F(EditList, MirrorsTheSelectedFile)
 {
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
     QStringList calls;
     neighbours.quickEdits.hFlipHorizontalPicture = [&](const QString&, const QString&) {
-        calls.append(u"horizontal"_qs);
+        calls.append(u"horizontal"_s);
         return imaging::ResultWord::Ok;
     };
     neighbours.quickEdits.hFlipVerticalPicture = [&](const QString&, const QString&) {
-        calls.append(u"vertical"_qs);
+        calls.append(u"vertical"_s);
         return imaging::ResultWord::NotSupported;
     };
 
-    actions.send(u"hFlipHorizontal"_qs);
-    actions.send(u"hFlipVertical"_qs);
+    actions.send(u"hFlipHorizontal"_s);
+    actions.send(u"hFlipVertical"_s);
 
-    EXPECT_EQ(calls, (QStringList{u"horizontal"_qs, u"vertical"_qs}));
+    EXPECT_EQ(calls, (QStringList{u"horizontal"_s, u"vertical"_s}));
     EXPECT_EQ(
         journalRows(),
         (QStringList{
-            u"hFlipHorizontal a.jpg a.jpg OK"_qs, u"hFlipVertical a.jpg a.jpg Not Supported"_qs})
+            u"hFlipHorizontal a.jpg a.jpg OK"_s, u"hFlipVertical a.jpg a.jpg Not Supported"_s})
     );
 }
 
@@ -468,11 +470,11 @@ TEST_F(EditList, TurnsNoFileThatIsNoPhotoAndNoneWithoutASelection)
         ++calls;
         return imaging::ResultWord::Ok;
     };
-    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    photos.append(nonPhoto(u"/gone/a.txt"_s));
 
-    actions.send(u"hRotateRight"_qs);
+    actions.send(u"hRotateRight"_s);
     photos.select(0);
-    actions.send(u"hRotateRight"_qs);
+    actions.send(u"hRotateRight"_s);
 
     EXPECT_EQ(calls, 0);
 }
@@ -485,13 +487,13 @@ TEST_F(EditList, LaysAWatermarkOverATurnedPhotoWhateverTheFunction)
         = [](const auto&, const auto&, float) { return imaging::ResultWord::Ok; };
     row("textWM").preview = countingPreview(textTwins);
     row("imageWM").preview = countingPreview(imageTwins);
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
     select("cropPhotos");
     panels.vwShowPreview.cbShowPreview.setState(1);
 
-    actions.send(u"hRotateLeft"_qs);
+    actions.send(u"hRotateLeft"_s);
     panels.vwWatermark.tbvWatermarkType.selectIndex(1);
-    actions.send(u"hRotateLeft"_qs);
+    actions.send(u"hRotateLeft"_s);
 
     EXPECT_EQ(textTwins, 1);
     EXPECT_EQ(imageTwins, 1);

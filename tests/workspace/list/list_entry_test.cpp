@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/list/list_entry.h>
 
 #include <support/photo_builder.h>
@@ -19,8 +20,7 @@ class ListEntry : public testing::Test
 protected:
     [[nodiscard]] QString turnedPhoto() const
     {
-        return test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"turned.jpg"_qs)
-        );
+        return test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"turned.jpg"_s));
     }
 
     test::TemporaryFolder folder;
@@ -30,13 +30,13 @@ protected:
 
 TEST_F(ListEntry, TellsSizesWithoutBlanks)
 {
-    EXPECT_EQ(workspace::sizeText({4000, 3000}, 2202010), u"4000x3000px | 2.10MB"_qs);
-    EXPECT_EQ(workspace::sizeText({4000, 3000}, 1024), u"4000x3000px | 1024.00bytes"_qs);
+    EXPECT_EQ(workspace::sizeText({4000, 3000}, 2202010), u"4000x3000px | 2.10MB"_s);
+    EXPECT_EQ(workspace::sizeText({4000, 3000}, 1024), u"4000x3000px | 1024.00bytes"_s);
 }
 
 TEST_F(ListEntry, PrintsNothingForZeroPixels)
 {
-    EXPECT_EQ(workspace::sizeText({0, 0}, 2048), u"xpx | 2.00KB"_qs);
+    EXPECT_EQ(workspace::sizeText({0, 0}, 2048), u"xpx | 2.00KB"_s);
 }
 
 TEST_F(ListEntry, TakesAChosenPhotoAsItShows)
@@ -45,11 +45,11 @@ TEST_F(ListEntry, TakesAChosenPhotoAsItShows)
 
     const auto entry = workspace::chosenEntry(path);
 
-    EXPECT_EQ(entry.myPhotoName, u"turned.jpg"_qs);
+    EXPECT_EQ(entry.myPhotoName, u"turned.jpg"_s);
     EXPECT_EQ(entry.myPhotoDescription, path);
     EXPECT_EQ(entry.myPhotoURL, QUrl::fromLocalFile(path));
-    EXPECT_EQ(entry.myPhotoOrientation, u"P"_qs);
-    EXPECT_TRUE(entry.myPhotoPxSize.startsWith(u"30x40px | "_qs));
+    EXPECT_EQ(entry.myPhotoOrientation, u"P"_s);
+    EXPECT_TRUE(entry.myPhotoPxSize.startsWith(u"30x40px | "_s));
     EXPECT_EQ(entry.myPhotoSelect, 1);
     EXPECT_EQ(entry.myRenameSelect, 0);
     EXPECT_EQ(entry.myNewName, QString());
@@ -62,8 +62,8 @@ TEST_F(ListEntry, TakesADroppedPhotoAsItIsStored)
 
     const auto entry = workspace::droppedEntry(path);
 
-    EXPECT_EQ(entry.myPhotoOrientation, u"L"_qs);
-    EXPECT_TRUE(entry.myPhotoPxSize.startsWith(u"40x30px | "_qs));
+    EXPECT_EQ(entry.myPhotoOrientation, u"L"_s);
+    EXPECT_TRUE(entry.myPhotoPxSize.startsWith(u"40x30px | "_s));
     EXPECT_TRUE(entry.myPhotoURL.isEmpty());
     EXPECT_EQ(entry.myPhoto, (ListPicture{ListPicture::Kind::Thumbnail, path}));
 }
@@ -74,21 +74,21 @@ TEST_F(ListEntry, KeepsTheFullPictureOfAnInsertedPhoto)
 
     const auto entry = workspace::insertedEntry(path);
 
-    EXPECT_EQ(entry.myPhotoOrientation, u"L"_qs);
+    EXPECT_EQ(entry.myPhotoOrientation, u"L"_s);
     EXPECT_FALSE(entry.myPhotoURL.isEmpty());
     EXPECT_EQ(entry.myPhoto, (ListPicture{ListPicture::Kind::FullPicture, path}));
 }
 
 TEST_F(ListEntry, MarksATextFileForRenaming)
 {
-    const QString path = folder.write(u"notes.txt"_qs, "text");
+    const QString path = folder.write(u"notes.txt"_s, "text");
 
     const auto entry = workspace::renameEntry(path);
 
     EXPECT_EQ(entry.myPhoto.kind, ListPicture::Kind::Generic);
     EXPECT_EQ(entry.myRenameSelect, 1);
     EXPECT_EQ(entry.myPhotoSelect, 1);
-    EXPECT_EQ(entry.myPhotoOrientation, u"S"_qs);
+    EXPECT_EQ(entry.myPhotoOrientation, u"S"_s);
     EXPECT_EQ(entry.myPhotoPxSize, QString());
 }
 
@@ -96,39 +96,39 @@ TEST_F(ListEntry, KnowsThePhotosAmongTheFilesToRenameByEightExtensions)
 {
     for (const char* extension :
          {"bmp", "gif", "png", "jpg", "jpeg", "tif", "tiff", "heic", "HEIC"}) {
-        const QString path = u"/gone/a."_qs + QString::fromLatin1(extension);
+        const QString path = u"/gone/a."_s + QString::fromLatin1(extension);
         EXPECT_EQ(workspace::renameEntry(path).myRenameSelect, 0) << extension;
     }
     for (const char* extension : {"webp", "psd", "pdf", "jp2", ""}) {
-        const QString path = u"/gone/a."_qs + QString::fromLatin1(extension);
+        const QString path = u"/gone/a."_s + QString::fromLatin1(extension);
         EXPECT_EQ(workspace::renameEntry(path).myRenameSelect, 1) << extension;
     }
 }
 
 TEST_F(ListEntry, KeepsTheAddressOfAFileToRename)
 {
-    EXPECT_EQ(workspace::renameEntry(u"/gone/a.txt"_qs).myPhotoURL, QUrl(u"file:///gone/a.txt"_qs));
+    EXPECT_EQ(workspace::renameEntry(u"/gone/a.txt"_s).myPhotoURL, QUrl(u"file:///gone/a.txt"_s));
 }
 
 TEST_F(ListEntry, TakesAPhotoForRenamingAsSquareWithoutSize)
 {
-    const QString path = test::PhotoBuilder().size(40, 30).write(folder.path(u"a.JPG"_qs));
+    const QString path = test::PhotoBuilder().size(40, 30).write(folder.path(u"a.JPG"_s));
 
     const auto entry = workspace::renameEntry(path);
 
     EXPECT_EQ(entry.myPhoto, (ListPicture{ListPicture::Kind::Thumbnail, path}));
     EXPECT_EQ(entry.myRenameSelect, 0);
-    EXPECT_EQ(entry.myPhotoOrientation, u"S"_qs);
+    EXPECT_EQ(entry.myPhotoOrientation, u"S"_s);
     EXPECT_EQ(entry.myPhotoPxSize, QString());
 }
 
 TEST_F(ListEntry, GivesAnUnreadablePhotoAnEntryWithoutPicture)
 {
-    const QString path = folder.write(u"broken.jpg"_qs, QByteArray(2048, 'x'));
+    const QString path = folder.write(u"broken.jpg"_s, QByteArray(2048, 'x'));
 
     for (const auto& entry : {workspace::chosenEntry(path), workspace::droppedEntry(path)}) {
-        EXPECT_EQ(entry.myPhotoOrientation, u"S"_qs);
-        EXPECT_EQ(entry.myPhotoPxSize, u"xpx | 2.00KB"_qs);
+        EXPECT_EQ(entry.myPhotoOrientation, u"S"_s);
+        EXPECT_EQ(entry.myPhotoPxSize, u"xpx | 2.00KB"_s);
         EXPECT_FALSE(workspace::drawnPicture(entry.myPhoto, 94));
         EXPECT_EQ(entry.myRenameSelect, 0);
     }
@@ -139,7 +139,7 @@ TEST_F(ListEntry, DecodesNoPixels)
     const QString path = test::PhotoBuilder()
                              .size(4000, 3000)
                              .solid({90, 90, 90})
-                             .write(folder.path(u"big.jpg"_qs));
+                             .write(folder.path(u"big.jpg"_s));
     const auto start = std::chrono::steady_clock::now();
 
     for (int photo = 0; photo < 10; ++photo)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/list/photo_list.h>
 
 #include <support/text_printing.h>
@@ -37,40 +38,40 @@ TEST(CollectionViewItem, StartsTickedUnderItsPlaceholders)
 {
     const workspace::cCollectionViewItem entry;
 
-    EXPECT_EQ(entry.myPhotoName, u"pictureName"_qs);
-    EXPECT_EQ(entry.myPhotoDescription, u"Fantastisch"_qs);
+    EXPECT_EQ(entry.myPhotoName, u"pictureName"_s);
+    EXPECT_EQ(entry.myPhotoDescription, u"Fantastisch"_s);
     EXPECT_EQ(entry.myPhotoSelect, 1);
 }
 
 TEST(PhotoList, SortsByNameWithoutRegardToCase)
 {
     PhotoList list;
-    fill(list, {u"b"_qs, u"C"_qs, u"a"_qs});
+    fill(list, {u"b"_s, u"C"_s, u"a"_s});
 
     list.sortByName(PhotoList::Order::Ascending);
-    EXPECT_EQ(names(list), (QStringList{u"a"_qs, u"b"_qs, u"C"_qs}));
+    EXPECT_EQ(names(list), (QStringList{u"a"_s, u"b"_s, u"C"_s}));
 
     list.sortByName(PhotoList::Order::Descending);
-    EXPECT_EQ(names(list), (QStringList{u"C"_qs, u"b"_qs, u"a"_qs}));
+    EXPECT_EQ(names(list), (QStringList{u"C"_s, u"b"_s, u"a"_s}));
 }
 
 TEST(PhotoList, LetsNewEntriesFallIntoTheirSortedPlace)
 {
     PhotoList list;
-    fill(list, {u"d"_qs, u"a"_qs});
+    fill(list, {u"d"_s, u"a"_s});
     list.sortByName(PhotoList::Order::Ascending);
 
-    list.append(named(u"B"_qs));
-    list.insert(0, named(u"e"_qs));
+    list.append(named(u"B"_s));
+    list.insert(0, named(u"e"_s));
 
-    EXPECT_EQ(names(list), (QStringList{u"a"_qs, u"B"_qs, u"d"_qs, u"e"_qs}));
+    EXPECT_EQ(names(list), (QStringList{u"a"_s, u"B"_s, u"d"_s, u"e"_s}));
 }
 
 TEST(PhotoList, HoldsTheSameFileTwice)
 {
     PhotoList list;
 
-    fill(list, {u"a"_qs, u"a"_qs});
+    fill(list, {u"a"_s, u"a"_s});
 
     EXPECT_EQ(list.count(), 2);
 }
@@ -78,7 +79,7 @@ TEST(PhotoList, HoldsTheSameFileTwice)
 TEST(PhotoList, SelectsNothingOutsideOfTheList)
 {
     PhotoList list;
-    fill(list, {u"a"_qs});
+    fill(list, {u"a"_s});
     list.select(0);
 
     list.select(1);
@@ -90,7 +91,7 @@ TEST(PhotoList, SelectsNothingOutsideOfTheList)
 TEST(PhotoList, TellsOfASelectionThatChangesOnly)
 {
     PhotoList list;
-    fill(list, {u"a"_qs, u"b"_qs});
+    fill(list, {u"a"_s, u"b"_s});
     int changes = 0;
     const auto subscription = list.selectionChanged.connect([&] { ++changes; });
 
@@ -104,32 +105,32 @@ TEST(PhotoList, TellsOfASelectionThatChangesOnly)
 TEST(PhotoList, KeepsTheSelectionOnItsEntryWhereverItGoes)
 {
     PhotoList list;
-    fill(list, {u"b"_qs, u"c"_qs, u"d"_qs});
+    fill(list, {u"b"_s, u"c"_s, u"d"_s});
     list.select(1);
     int changes = 0;
     const auto subscription = list.selectionChanged.connect([&] { ++changes; });
     const auto selected = [&] { return list.selectedEntry()->myPhotoName; };
 
-    list.insert(0, named(u"e"_qs));
-    EXPECT_EQ(selected(), u"c"_qs);
-    list.insert(3, named(u"f"_qs));
-    EXPECT_EQ(selected(), u"c"_qs);
+    list.insert(0, named(u"e"_s));
+    EXPECT_EQ(selected(), u"c"_s);
+    list.insert(3, named(u"f"_s));
+    EXPECT_EQ(selected(), u"c"_s);
     list.removeAt(0);
-    EXPECT_EQ(selected(), u"c"_qs);
+    EXPECT_EQ(selected(), u"c"_s);
     list.removeAt(3);
-    EXPECT_EQ(selected(), u"c"_qs);
+    EXPECT_EQ(selected(), u"c"_s);
     list.move(0, 2);
-    EXPECT_EQ(selected(), u"c"_qs);
+    EXPECT_EQ(selected(), u"c"_s);
     list.move(2, 0);
-    EXPECT_EQ(selected(), u"c"_qs);
+    EXPECT_EQ(selected(), u"c"_s);
     list.move(1, 2);
-    EXPECT_EQ(selected(), u"c"_qs);
-    list.replaceAt(2, named(u"c"_qs));
-    EXPECT_EQ(selected(), u"c"_qs);
+    EXPECT_EQ(selected(), u"c"_s);
+    list.replaceAt(2, named(u"c"_s));
+    EXPECT_EQ(selected(), u"c"_s);
     list.sortByName(PhotoList::Order::Descending);
-    EXPECT_EQ(selected(), u"c"_qs);
-    list.append(named(u"z"_qs));
-    EXPECT_EQ(selected(), u"c"_qs);
+    EXPECT_EQ(selected(), u"c"_s);
+    list.append(named(u"z"_s));
+    EXPECT_EQ(selected(), u"c"_s);
     EXPECT_EQ(list.selectedIndex(), 2);
     EXPECT_EQ(changes, 0);
 }
@@ -138,7 +139,7 @@ TEST(PhotoList, KeepsTheSelectionAmongEntriesOfTheSameName)
 {
     PhotoList list;
     for (const int size : {1, 2, 3, 4}) {
-        auto entry = named(size == 4 ? u"a"_qs : u"b"_qs);
+        auto entry = named(size == 4 ? u"a"_s : u"b"_s);
         entry.myPhotoPxSize = QString::number(size);
         list.append(entry);
     }
@@ -147,31 +148,31 @@ TEST(PhotoList, KeepsTheSelectionAmongEntriesOfTheSameName)
     list.sortByName(PhotoList::Order::Ascending);
 
     EXPECT_EQ(list.selectedIndex(), 2);
-    EXPECT_EQ(list.selectedEntry()->myPhotoPxSize, u"2"_qs);
+    EXPECT_EQ(list.selectedEntry()->myPhotoPxSize, u"2"_s);
 }
 
 TEST(PhotoList, TellsThatAnotherEntryIsSelectedWhenTheSelectedOneGoes)
 {
     PhotoList list;
-    fill(list, {u"a"_qs, u"b"_qs, u"c"_qs});
+    fill(list, {u"a"_s, u"b"_s, u"c"_s});
     list.select(1);
     QStringList selected;
     const auto subscription = list.selectionChanged.connect([&] {
         const auto* entry = list.selectedEntry();
-        selected.append(entry ? entry->myPhotoName : u"none"_qs);
+        selected.append(entry ? entry->myPhotoName : u"none"_s);
     });
 
     list.removeAt(1);
     list.removeAt(1);
     list.clear();
 
-    EXPECT_EQ(selected, (QStringList{u"c"_qs, u"a"_qs, u"none"_qs}));
+    EXPECT_EQ(selected, (QStringList{u"c"_s, u"a"_s, u"none"_s}));
 }
 
 TEST(PhotoList, SelectsTheLastEntryWhenTheSelectedLastOneGoes)
 {
     PhotoList list;
-    fill(list, {u"a"_qs, u"b"_qs});
+    fill(list, {u"a"_s, u"b"_s});
     list.select(1);
 
     list.removeAt(1);
@@ -184,30 +185,30 @@ TEST(PhotoList, SelectsTheLastEntryWhenTheSelectedLastOneGoes)
 TEST(PhotoList, HasNoSelectedEntryThatIsGoneWhenItTellsOfAChange)
 {
     PhotoList list;
-    fill(list, {u"a"_qs, u"b"_qs});
+    fill(list, {u"a"_s, u"b"_s});
     list.select(1);
     QStringList selected;
     const auto subscription = list.entriesChanged.connect([&] {
         const auto* entry = list.selectedEntry();
-        selected.append(entry ? entry->myPhotoName : u"none"_qs);
+        selected.append(entry ? entry->myPhotoName : u"none"_s);
     });
 
     list.removeAt(1);
     list.clear();
 
-    EXPECT_EQ(selected, (QStringList{u"a"_qs, u"none"_qs}));
+    EXPECT_EQ(selected, (QStringList{u"a"_s, u"none"_s}));
 }
 
 TEST(PhotoList, IgnoresIndexesOutsideOfTheList)
 {
     PhotoList list;
-    fill(list, {u"a"_qs});
+    fill(list, {u"a"_s});
 
     list.removeAt(1);
-    list.replaceAt(-1, named(u"b"_qs));
-    list.insert(3, named(u"b"_qs));
+    list.replaceAt(-1, named(u"b"_s));
+    list.insert(3, named(u"b"_s));
     list.move(0, 1);
     list.setTick(1, 0);
 
-    EXPECT_EQ(names(list), QStringList{u"a"_qs});
+    EXPECT_EQ(names(list), QStringList{u"a"_s});
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../controller_fixture.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 
 #include <support/case_name.h>
@@ -22,7 +23,7 @@ class LivePreview : public test::ControllerTest
 protected:
     void addPhotoWithPreview()
     {
-        collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+        collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
         panels.vwShowPreview.cbShowPreview.setState(1);
     }
 };
@@ -139,7 +140,7 @@ TEST_F(LivePreview, IsEmptyForAnEmptyList)
 TEST_F(LivePreview, IsEmptyForAFileThatIsNoPhotoWhateverTheFunction)
 {
     addPhotoWithPreview();
-    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    photos.append(nonPhoto(u"/gone/a.txt"_s));
     photos.select(1);
     ASSERT_TRUE(showsPhoto()) << "the selection of such a file changes nothing by itself";
 
@@ -162,7 +163,7 @@ TEST_F(LivePreview, TellsOfNoPhotoWhereItIsEmptyForWantOfOne)
     collectionView.callForPreview();
     EXPECT_EQ(forgotten, 1) << "a conversion shows no photo, but one is selected";
 
-    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    photos.append(nonPhoto(u"/gone/a.txt"_s));
     photos.select(1);
     collectionView.callForPreview();
     EXPECT_EQ(forgotten, 2);
@@ -171,7 +172,7 @@ TEST_F(LivePreview, TellsOfNoPhotoWhereItIsEmptyForWantOfOne)
 TEST_F(LivePreview, ShowsThePhotoUpright)
 {
     const QString path
-        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"turned.jpg"_qs));
+        = test::PhotoBuilder().size(40, 30).orientation(6).write(folder.path(u"turned.jpg"_s));
 
     collectionView.hDroppedPhotos({path});
 
@@ -182,7 +183,7 @@ TEST_F(LivePreview, FollowsTheSelection)
 {
     QStringList described;
     neighbours.hiDoNothing = [&](const QString& path) { described.append(path); };
-    const QStringList paths{photo(u"a.jpg"_qs, 20, 10), photo(u"b.jpg"_qs, 60, 40)};
+    const QStringList paths{photo(u"a.jpg"_s, 20, 10), photo(u"b.jpg"_s, 60, 40)};
     collectionView.hDroppedPhotos(paths);
 
     photos.select(1);
@@ -204,7 +205,7 @@ TEST_F(LivePreview, LogsThatNothingIsSelected)
     photos.select(std::nullopt);
 
     platform::setLogSink({});
-    EXPECT_EQ(lines, QStringList{u"no picture selected"_qs});
+    EXPECT_EQ(lines, QStringList{u"no picture selected"_s});
     EXPECT_FALSE(showsOverlay());
 }
 
@@ -222,15 +223,15 @@ TEST_F(LivePreview, ShowsThePictureOfEachGalleryTemplate)
         panels.vwHtmlExport.pubPhotoGalleryModel.selectIndex(index);
         collectionView.callForTemplatePreview();
         names.append(fileName.stringValue());
-        fileName.setStringValue(u"mine"_qs);
+        fileName.setStringValue(u"mine"_s);
     }
 
     EXPECT_EQ(
-        shown, (QStringList{u"Ex01XL.png"_qs, u"Ex02XL.png"_qs, u"Ex03XL.png"_qs, u"Ex04XL.png"_qs})
+        shown, (QStringList{u"Ex01XL.png"_s, u"Ex02XL.png"_s, u"Ex03XL.png"_s, u"Ex04XL.png"_s})
     );
     EXPECT_EQ(
         names,
-        (QStringList{u"myFirstPhotoGallery"_qs, u"mine"_qs, u"mine"_qs, u"myFourthPhotoGallery"_qs})
+        (QStringList{u"myFirstPhotoGallery"_s, u"mine"_s, u"mine"_s, u"myFourthPhotoGallery"_s})
     );
 }
 
@@ -243,13 +244,13 @@ TEST_F(LivePreview, ShowsAWatermarkAndNoCropBoxAfterSwappingTheSizeOfACrop)
     addPhotoWithPreview();
     select("cropPhotos");
     auto& size = panels.vwCropPhotos.dvVCUiCropWxHView;
-    size.tfCropWidth.setStringValue(u"300"_qs);
-    size.tfCropHeight.setStringValue(u"200"_qs);
+    size.tfCropWidth.setStringValue(u"300"_s);
+    size.tfCropHeight.setStringValue(u"200"_s);
 
     user.press(size.btnFlipCropWH);
 
-    EXPECT_EQ(size.tfCropWidth.stringValue(), u"200"_qs);
-    EXPECT_EQ(size.tfCropHeight.stringValue(), u"300"_qs);
+    EXPECT_EQ(size.tfCropWidth.stringValue(), u"200"_s);
+    EXPECT_EQ(size.tfCropHeight.stringValue(), u"300"_s);
     EXPECT_EQ(watermarks, 1);
     EXPECT_EQ(crops, 0);
     EXPECT_TRUE(showsOverlay());
@@ -261,13 +262,13 @@ TEST_F(LivePreview, SwapsTheOffsetsOfACropAndDrawsTheOverlay)
     row("textWM").preview = countingPreview(watermarks);
     addPhotoWithPreview();
     auto& place = panels.vwCropPhotos.dvVCUiCropPositionView;
-    place.tfXcropOffset.setStringValue(u"10"_qs);
-    place.tfYcropOffset.setStringValue(u"20"_qs);
+    place.tfXcropOffset.setStringValue(u"10"_s);
+    place.tfYcropOffset.setStringValue(u"20"_s);
 
     user.press(place.btnFlipCropXY);
 
-    EXPECT_EQ(place.tfXcropOffset.stringValue(), u"20"_qs);
-    EXPECT_EQ(place.tfYcropOffset.stringValue(), u"10"_qs);
+    EXPECT_EQ(place.tfXcropOffset.stringValue(), u"20"_s);
+    EXPECT_EQ(place.tfYcropOffset.stringValue(), u"10"_s);
     EXPECT_EQ(watermarks, 1);
     EXPECT_TRUE(showsOverlay());
 }
@@ -293,12 +294,12 @@ TEST_F(LivePreview, SwapsTheBoxOfAResizeAndDrawsNothing)
     row("textWM").preview = countingPreview(watermarks);
     addPhotoWithPreview();
     auto& box = panels.vwResizePhotos.dvVCUiScaleFixView;
-    box.tfScaleFixWidth.setStringValue(u"300"_qs);
+    box.tfScaleFixWidth.setStringValue(u"300"_s);
 
     user.press(box.btnFlipScaleFixWH);
 
     EXPECT_EQ(box.tfScaleFixWidth.stringValue(), QString());
-    EXPECT_EQ(box.tfScaleFixHeight.stringValue(), u"300"_qs);
+    EXPECT_EQ(box.tfScaleFixHeight.stringValue(), u"300"_s);
     EXPECT_EQ(watermarks, 0);
 }
 
@@ -306,7 +307,7 @@ TEST_F(LivePreview, SwapsAndDrawsNothingWhileAFileThatIsNoPhotoIsSelected)
 {
     int watermarks = 0;
     row("textWM").preview = countingPreview(watermarks);
-    photos.append(nonPhoto(u"/gone/a.txt"_qs));
+    photos.append(nonPhoto(u"/gone/a.txt"_s));
     photos.select(0);
     panels.vwShowPreview.cbShowPreview.setState(1);
     auto& box = panels.vwResizePhotos.dvVCUiScaleFixView;
@@ -314,16 +315,16 @@ TEST_F(LivePreview, SwapsAndDrawsNothingWhileAFileThatIsNoPhotoIsSelected)
     auto& place = panels.vwCropPhotos.dvVCUiCropPositionView;
     for (controls::TextField* field :
          {&box.tfScaleFixWidth, &size.tfCropWidth, &place.tfXcropOffset})
-        field->setStringValue(u"300"_qs);
+        field->setStringValue(u"300"_s);
 
     user.press(box.btnFlipScaleFixWH);
     user.press(size.btnFlipCropWH);
     user.press(place.btnFlipCropXY);
     user.pick(place.scCropPosition, 2);
 
-    EXPECT_EQ(box.tfScaleFixWidth.stringValue(), u"300"_qs);
-    EXPECT_EQ(size.tfCropWidth.stringValue(), u"300"_qs);
-    EXPECT_EQ(place.tfXcropOffset.stringValue(), u"300"_qs);
+    EXPECT_EQ(box.tfScaleFixWidth.stringValue(), u"300"_s);
+    EXPECT_EQ(size.tfCropWidth.stringValue(), u"300"_s);
+    EXPECT_EQ(place.tfXcropOffset.stringValue(), u"300"_s);
     EXPECT_EQ(watermarks, 0);
     EXPECT_FALSE(showsOverlay());
 }
@@ -332,7 +333,7 @@ TEST_F(LivePreview, IsDrawnAnewWhenItsBoxIsTicked)
 {
     int calls = 0;
     row("textWM").preview = countingPreview(calls);
-    collectionView.hDroppedPhotos({photo(u"a.jpg"_qs)});
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
 
     user.tick(panels.vwShowPreview.cbShowPreview, 1);
     EXPECT_EQ(calls, 1);
@@ -350,7 +351,7 @@ TEST_F(LivePreview, ClearsTheOverlayForThePictureOfATemplate)
     neighbours.imageNamed = [&picture](const QString&) { return picture; };
     panels.window.myTemplateOverlayPreview.setImage(picture);
 
-    collectionView.callForHTMLTemplatePreview(u"Ex02XL.png"_qs);
+    collectionView.callForHTMLTemplatePreview(u"Ex02XL.png"_s);
     EXPECT_TRUE(showsPhoto());
     EXPECT_FALSE(showsOverlay());
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <panels/watermark_panel.h>
+#include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <support/color_profiles.h>
 #include <support/photo_builder.h>
@@ -43,7 +44,7 @@ struct Look
 void shadowed(panels::WatermarkPanel& panel)
 {
     panel.cbShadowCheck.setState(1);
-    panel.tfTextShadowRadius.setStringValue(u"9"_qs);
+    panel.tfTextShadowRadius.setStringValue(u"9"_s);
 }
 
 void embossed(panels::WatermarkPanel& panel) { panel.pubWatermarkTextEffect.selectItemAtIndex(2); }
@@ -51,7 +52,7 @@ void embossed(panels::WatermarkPanel& panel) { panel.pubWatermarkTextEffect.sele
 void tiled(panels::WatermarkPanel& panel)
 {
     panel.cbTextPatternCheck.setState(1);
-    panel.tfXOffset.setStringValue(u"5"_qs);
+    panel.tfXOffset.setStringValue(u"5"_s);
 }
 
 constexpr std::array looks{
@@ -66,10 +67,10 @@ constexpr std::array looks{
             shadowed(panel);
             tiled(panel);
         }},
-    Look{"Turned", [](panels::WatermarkPanel& panel) { panel.tfWMAngle.setStringValue(u"33"_qs); }},
+    Look{"Turned", [](panels::WatermarkPanel& panel) { panel.tfWMAngle.setStringValue(u"33"_s); }},
     Look{
         "Transparent",
-        [](panels::WatermarkPanel& panel) { panel.tfFontTransparancy.setStringValue(u"60"_qs); }},
+        [](panels::WatermarkPanel& panel) { panel.tfFontTransparancy.setStringValue(u"60"_s); }},
     Look{
         "FilledWithThePhoto",
         [](panels::WatermarkPanel& panel) { panel.pubWatermarkTextEffect.selectItemAtIndex(7); }},
@@ -108,19 +109,19 @@ constexpr std::array settings{
         "ShadowedFromFar",
         [](panels::WatermarkPanel& panel) {
             shadowed(panel);
-            panel.tfTextShadowXOffset.setStringValue(u"9"_qs);
+            panel.tfTextShadowXOffset.setStringValue(u"9"_s);
         }},
     Look{
         "ShadowedFromAbove",
         [](panels::WatermarkPanel& panel) {
             shadowed(panel);
-            panel.tfTextShadowYOffset.setStringValue(u"-9"_qs);
+            panel.tfTextShadowYOffset.setStringValue(u"-9"_s);
         }},
     Look{
         "ShadowedSharply",
         [](panels::WatermarkPanel& panel) {
             shadowed(panel);
-            panel.tfTextShadowRadius.setStringValue(u"1"_qs);
+            panel.tfTextShadowRadius.setStringValue(u"1"_s);
         }},
     Look{"Bold", [](panels::WatermarkPanel& panel) { panel.cbFontBold.setState(1); }},
     Look{"Italic", [](panels::WatermarkPanel& panel) { panel.cbFontItalic.setState(1); }},
@@ -137,8 +138,8 @@ constexpr std::array settings{
             panel.cbOutlineCheck.setState(1);
             panel.pubOutlineThickness.selectItemAtIndex(4);
         }},
-    Look{"Kerned", [](panels::WatermarkPanel& panel) { panel.tfKerning.setStringValue(u"5"_qs); }},
-    Look{"Leaded", [](panels::WatermarkPanel& panel) { panel.tfLeading.setStringValue(u"20"_qs); }},
+    Look{"Kerned", [](panels::WatermarkPanel& panel) { panel.tfKerning.setStringValue(u"5"_s); }},
+    Look{"Leaded", [](panels::WatermarkPanel& panel) { panel.tfLeading.setStringValue(u"20"_s); }},
     Look{"Centred", [](panels::WatermarkPanel& panel) { panel.scTxtAlign.setSelectedSegment(1); }},
     Look{
         "RightAligned",
@@ -149,23 +150,22 @@ constexpr std::array settings{
             panel.cwFontColor.setColor({.red = 0, .green = 0.2, .blue = 0.9});
         }},
     Look{
-        "Smaller",
-        [](panels::WatermarkPanel& panel) { panel.tfFontSize.setStringValue(u"40"_qs); }},
+        "Smaller", [](panels::WatermarkPanel& panel) { panel.tfFontSize.setStringValue(u"40"_s); }},
     Look{
         "InAnotherFont",
         [](panels::WatermarkPanel& panel) { panel.cbFontList.selectItemAtIndex(1); }},
     Look{
         "OfAnotherText",
         [](panels::WatermarkPanel& panel) {
-            panel.tvWaterMarkText.setStringValue(u"Mark <[IMGH]>\nof it"_qs);
+            panel.tvWaterMarkText.setStringValue(u"Mark <[IMGH]>\nof it"_s);
         }},
     Look{
         "AtTheTop",
         [](panels::WatermarkPanel& panel) { panel.scWaterMarkPos.setSelectedSegment(1); }},
     Look{
         "MovedRight",
-        [](panels::WatermarkPanel& panel) { panel.tfXOffset.setStringValue(u"7"_qs); }},
-    Look{"MovedUp", [](panels::WatermarkPanel& panel) { panel.tfYOffset.setStringValue(u"7"_qs); }},
+        [](panels::WatermarkPanel& panel) { panel.tfXOffset.setStringValue(u"7"_s); }},
+    Look{"MovedUp", [](panels::WatermarkPanel& panel) { panel.tfYOffset.setStringValue(u"7"_s); }},
 };
 
 constexpr std::array kinds{
@@ -181,9 +181,9 @@ constexpr std::array kinds{
 /// A mark of two lines of different lengths in the middle.
 void showPlainMark(panels::WatermarkPanel& panel)
 {
-    panel.cbFontList.setTitles({u"DejaVu Sans"_qs, u"DejaVu Serif"_qs});
-    panel.tvWaterMarkText.setStringValue(u"Mark <[IMGW]>\nof it"_qs);
-    panel.tfFontSize.setStringValue(u"48"_qs);
+    panel.cbFontList.setTitles({u"DejaVu Sans"_s, u"DejaVu Serif"_s});
+    panel.tvWaterMarkText.setStringValue(u"Mark <[IMGW]>\nof it"_s);
+    panel.tfFontSize.setStringValue(u"48"_s);
     panel.scWaterMarkPos.setSelectedSegment(4);
 }
 
@@ -208,7 +208,7 @@ protected:
         });
         if (kind.hasProfile)
             builder.iccProfile(test::wideProfile());
-        return builder.write(folder.path(u"photo."_qs + type()));
+        return builder.write(folder.path(u"photo."_s + type()));
     }
 
     static QString type() { return QString::fromLatin1(std::get<Kind>(GetParam()).type); }
@@ -216,7 +216,7 @@ protected:
     /// All samples of a picture, whatever its depth and colour model, as the bytes of a file.
     QByteArray samplesOf(const platform::graphics::Image& image) const
     {
-        const QString path = folder.path(u"samples.tiff"_qs);
+        const QString path = folder.path(u"samples.tiff"_s);
         if (!platform::codecs::encode(image, platform::codecs::FileFormat::Tiff, {}, path))
             return {};
         QFile file(path);
@@ -225,19 +225,19 @@ protected:
 
     platform::graphics::Image written(const QString& path)
     {
-        const QString target = folder.path(u"out/"_qs);
+        const QString target = folder.path(u"out/"_s);
         QDir().mkpath(target);
         test::SavingSink sink;
         mark.setWatermarkText(
             {.photos = {path},
              .destination = target,
-             .outputType = u"public."_qs + type(),
-             .compressionLevel = u"9"_qs,
+             .outputType = u"public."_s + type(),
+             .compressionLevel = u"9"_s,
              .fileNameText = {},
              .photoProperty = 0},
             sink
         );
-        return *test::openedPhoto(target + u"photo."_qs + type()).image();
+        return *test::openedPhoto(target + u"photo."_s + type()).image();
     }
 
     std::optional<platform::graphics::Image> shown(const QString& path)
@@ -247,7 +247,7 @@ protected:
 
     test::TemporaryFolder folder;
     panels::WatermarkPanel panel;
-    controls::ProgressIndicator bar{u"bar"_qs};
+    controls::ProgressIndicator bar{u"bar"_s};
     workspace::PreviewPhotos photos;
     watermark::DVWatermark mark{
         {.panel = panel,
@@ -286,11 +286,11 @@ TEST(Preview, HasALookOfItsOwnForEachSetting)
                               .size(320, 200)
                               .gradient()
                               .format(test::PhotoFormat::Png)
-                              .write(folder.path(u"photo.png"_qs));
+                              .write(folder.path(u"photo.png"_s));
     QList<QPair<std::string, QImage>> seen;
     const auto look = [&](const Look& chosen) {
         panels::WatermarkPanel panel;
-        controls::ProgressIndicator bar{u"bar"_qs};
+        controls::ProgressIndicator bar{u"bar"_s};
         workspace::PreviewPhotos photos;
         watermark::DVWatermark mark{
             {.panel = panel,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../controller_fixture.h"
 
+#include <platform/foundation/literals.h>
 #include <workspace/functions/photo_upload.h>
 #include <workspace/functions/watermark_run.h>
 #include <workspace/run/batch_rules.h>
@@ -16,9 +17,9 @@ using namespace brenvaldo;
 namespace {
 
 const QStringList missingDestination{
-    u"Missing destination."_qs,
-    u"Please choose a destination folder,\rwhere you like to store your processed photos."_qs};
-const QStringList noPhotos{u"No photos to process."_qs, u"Please choose photos first."_qs};
+    u"Missing destination."_s,
+    u"Please choose a destination folder,\rwhere you like to store your processed photos."_s};
+const QStringList noPhotos{u"No photos to process."_s, u"Please choose photos first."_s};
 
 class BatchDriver : public test::ControllerTest
 {
@@ -31,19 +32,19 @@ protected:
 
     void chooseDestination()
     {
-        panels.vwMainDestination.tfImageDestinationFolder.setStringValue(u"/out/"_qs);
+        panels.vwMainDestination.tfImageDestinationFolder.setStringValue(u"/out/"_s);
     }
-    void addPhotos(const QStringList& names, const QString& orientation = u"L"_qs)
+    void addPhotos(const QStringList& names, const QString& orientation = u"L"_s)
     {
         for (const QString& name : names)
-            photos.append(entry(u"/in/"_qs + name, orientation));
+            photos.append(entry(u"/in/"_s + name, orientation));
     }
-    void run() { actions.send(u"hLoadImages"_qs); }
+    void run() { actions.send(u"hLoadImages"_s); }
     void selectResize()
     {
         select("resizePhotos");
         panels.window.pubEditPhoto.selectIndex(8);
-        panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"100"_qs);
+        panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(u"100"_s);
         runs("resizePhotos", [this](const workspace::PhotoOutput& output) {
             bases.append(output.photo.destinationBase);
             tails.append(output.tail);
@@ -120,15 +121,15 @@ TEST(BatchRules, CountTheBarInWholeThousandths)
 
 TEST(BatchRules, TakeTheExtensionOffTheDestinationBase)
 {
-    EXPECT_EQ(workspace::destinationBase(u"/out/"_qs, u"a.JPG"_qs), u"/out/a"_qs);
-    EXPECT_EQ(workspace::destinationBase(u"/out"_qs, u"a.JPG"_qs), u"/outa"_qs);
+    EXPECT_EQ(workspace::destinationBase(u"/out/"_s, u"a.JPG"_s), u"/out/a"_s);
+    EXPECT_EQ(workspace::destinationBase(u"/out"_s, u"a.JPG"_s), u"/outa"_s);
 }
 
 TEST_F(BatchDriver, DoesNothingForManualSorting)
 {
     select("manSort");
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
     panels.vwShowPreview.cbShowPreview.setState(1);
 
     run();
@@ -147,17 +148,17 @@ TEST_F(BatchDriver, SendsBatchSortingToItsOwnButton)
     EXPECT_EQ(
         alerts,
         (QList<QStringList>{
-            {u"Batch sort photos and files."_qs,
+            {u"Batch sort photos and files."_s,
              u"\rYou selected: \"Sort photos & files\" > \"Batch mode\" function at the left. "
              u"\rYou'll need to use the \"Choose files & sort\" button on the left "
              u"pane.\r\rSelected photos & files will be sorted according to your given settings in "
-             u"chosen destination folder."_qs}})
+             u"chosen destination folder."_s}})
     );
     EXPECT_TRUE(panels.window.wwAlertWindow.isOpen());
     EXPECT_EQ(panels.window.tfHTMLAlertTitle.stringValue(), alerts.first().first());
     EXPECT_EQ(panels.window.tfHTMLAlertInfo.stringValue(), alerts.first().last());
 
-    actions.send(u"closeApplicationAlertSheetObjC"_qs);
+    actions.send(u"closeApplicationAlertSheetObjC"_s);
     EXPECT_FALSE(panels.window.wwAlertWindow.isOpen());
 }
 
@@ -170,8 +171,8 @@ TEST_F(BatchDriver, SendsCodesToTheirOwnButton)
     EXPECT_EQ(
         alerts,
         (QList<QStringList>{
-            {u"Generate a QR and '128' code."_qs,
-             u"\rUse the \"Generate code\" button at the left pane to generate the code."_qs}})
+            {u"Generate a QR and '128' code."_s,
+             u"\rUse the \"Generate code\" button at the left pane to generate the code."_s}})
     );
 }
 
@@ -192,7 +193,7 @@ TEST_F(BatchDriver, EndsSilentlyWhenTheOrientationTakesNoPhoto)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    addPhotos({u"a.jpg"_s, u"b.jpg"_s});
     panels.vwApplyOn.pubPhotoOrientation.selectIndex(2);
 
     run();
@@ -205,18 +206,18 @@ TEST_F(BatchDriver, TakesTickedPhotosOfTheOrientationInTheOrderOfTheList)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"b.jpg"_qs, u"a.jpg"_qs, u"unticked.jpg"_qs});
-    addPhotos({u"tall.jpg"_qs}, u"P"_qs);
-    photos.append(nonPhoto(u"/in/notes.txt"_qs));
+    addPhotos({u"b.jpg"_s, u"a.jpg"_s, u"unticked.jpg"_s});
+    addPhotos({u"tall.jpg"_s}, u"P"_s);
+    photos.append(nonPhoto(u"/in/notes.txt"_s));
     photos.setTick(2, 0);
     panels.vwApplyOn.pubPhotoOrientation.selectIndex(1);
 
     run();
 
-    EXPECT_EQ(bases, (QStringList{u"/out/b"_qs, u"/out/a"_qs}));
+    EXPECT_EQ(bases, (QStringList{u"/out/b"_s, u"/out/a"_s}));
     EXPECT_EQ(
         guiControls.driver().mySelectedImagesNSArray(),
-        (QStringList{u"/in/b.jpg"_qs, u"/in/a.jpg"_qs})
+        (QStringList{u"/in/b.jpg"_s, u"/in/a.jpg"_s})
     );
 }
 
@@ -224,30 +225,30 @@ TEST_F(BatchDriver, SkipsTickedEntriesThatAreNoPhotos)
 {
     select("textWM");
     chooseDestination();
-    photos.append(nonPhoto(u"/in/notes.txt"_qs));
-    addPhotos({u"a.jpg"_qs});
+    photos.append(nonPhoto(u"/in/notes.txt"_s));
+    addPhotos({u"a.jpg"_s});
     QStringList taken;
     worksOn("textWM", [&](const auto& list) { taken = list.paths; });
 
     run();
 
-    EXPECT_EQ(taken, QStringList{u"/in/a.jpg"_qs});
+    EXPECT_EQ(taken, QStringList{u"/in/a.jpg"_s});
 }
 
 TEST_F(BatchDriver, StartsTheNumberingAfresh)
 {
-    files::cKeepNumber::sharedNumber().myNumberString = u"17"_qs;
+    files::cKeepNumber::sharedNumber().myNumberString = u"17"_s;
 
     run();
 
-    EXPECT_EQ(files::cKeepNumber::sharedNumber().myNumberString, u"0"_qs);
+    EXPECT_EQ(files::cKeepNumber::sharedNumber().myNumberString, u"0"_s);
 }
 
 TEST_F(BatchDriver, KeepsThePreviewOffDuringARun)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
     panels.vwShowPreview.cbShowPreview.setState(1);
     bool wasOn = true;
     runs("resizePhotos", [&](const auto&) {
@@ -265,10 +266,10 @@ TEST_F(BatchDriver, PutsThePreviewBackAfterAFault)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
     panels.vwShowPreview.cbShowPreview.setState(1);
     runs("resizePhotos", [](const auto&) -> imaging::ResultWord {
-        throw platform::RangeError(u"index 3 beyond bounds"_qs);
+        throw platform::RangeError(u"index 3 beyond bounds"_s);
     });
 
     run();
@@ -281,7 +282,7 @@ TEST_F(BatchDriver, WritesAllPhotosInTheTypeThatWasChosenBeforeTheLoop)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    addPhotos({u"a.jpg"_s, u"b.jpg"_s});
     panels.vwFileType.pubFileType.selectIndex(1);
     panels.vwFileType.pubJPEGCompressionLevel.selectIndex(3);
     runs("resizePhotos", [this](const workspace::PhotoOutput& output) {
@@ -294,15 +295,15 @@ TEST_F(BatchDriver, WritesAllPhotosInTheTypeThatWasChosenBeforeTheLoop)
     run();
 
     ASSERT_EQ(tails.size(), 2);
-    EXPECT_EQ(tails.last().myFileType, u"public.png"_qs);
-    EXPECT_EQ(tails.last().compressionLevel, u"4"_qs);
+    EXPECT_EQ(tails.last().myFileType, u"public.png"_s);
+    EXPECT_EQ(tails.last().compressionLevel, u"4"_s);
 }
 
 TEST_F(BatchDriver, StopsTheBarAt999OfThreePhotos)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    addPhotos({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
 
     run();
 
@@ -314,41 +315,41 @@ TEST_F(BatchDriver, KeepsTheOriginalFileType)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.JPG"_qs});
+    addPhotos({u"a.JPG"_s});
 
     run();
 
-    EXPECT_EQ(bases, QStringList{u"/out/a"_qs});
-    EXPECT_EQ(tails.first().outputType, u"original file type"_qs);
-    EXPECT_EQ(tails.first().fileExtension, u"JPG"_qs);
+    EXPECT_EQ(bases, QStringList{u"/out/a"_s});
+    EXPECT_EQ(tails.first().outputType, u"original file type"_s);
+    EXPECT_EQ(tails.first().fileExtension, u"JPG"_s);
     EXPECT_EQ(tails.first().fileExtensionNSStr, QString());
-    EXPECT_EQ(tails.first().fileUTI, u"public.jpeg"_qs);
-    EXPECT_EQ(tails.first().myFileType, u"public.jpeg"_qs);
-    EXPECT_EQ(tails.first().compressionLevel, u"9"_qs);
+    EXPECT_EQ(tails.first().fileUTI, u"public.jpeg"_s);
+    EXPECT_EQ(tails.first().myFileType, u"public.jpeg"_s);
+    EXPECT_EQ(tails.first().compressionLevel, u"9"_s);
 }
 
 TEST_F(BatchDriver, MakesTheTypeOfTheChosenTitle)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
 
     panels.vwFileType.pubFileType.selectIndex(4);
     run();
     panels.vwFileType.pubFileType.selectIndex(1);
     run();
 
-    EXPECT_EQ(tails.at(0).myFileType, u"com.compuserve.gif"_qs);
-    EXPECT_EQ(tails.at(1).myFileType, u"public.png"_qs);
-    EXPECT_EQ(tails.at(1).fileUTI, u"public.jpeg"_qs);
+    EXPECT_EQ(tails.at(0).myFileType, u"com.compuserve.gif"_s);
+    EXPECT_EQ(tails.at(1).myFileType, u"public.png"_s);
+    EXPECT_EQ(tails.at(1).fileUTI, u"public.jpeg"_s);
 }
 
 TEST_F(BatchDriver, NamesOutputsByTheChainOfActions)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
-    panels.vwWatermark.cActionsTWMArrayController.addObject({u"Prefix"_qs});
+    addPhotos({u"a.jpg"_s});
+    panels.vwWatermark.cActionsTWMArrayController.addObject({u"Prefix"_s});
     neighbours.hRenameTWMFile
         = [](const QString&, const QString& name, const QList<QStringList>& chain) {
               return chain.first().first() + u'_' + name;
@@ -356,22 +357,22 @@ TEST_F(BatchDriver, NamesOutputsByTheChainOfActions)
 
     run();
 
-    EXPECT_EQ(bases, QStringList{u"/out/Prefix_a"_qs});
+    EXPECT_EQ(bases, QStringList{u"/out/Prefix_a"_s});
 }
 
 TEST_F(BatchDriver, RecordsEachPhotoInTheJournal)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.tif"_qs});
+    addPhotos({u"a.tif"_s});
 
     run();
 
     ASSERT_EQ(journal.records().size(), 1);
-    EXPECT_EQ(journal.records().first().function, u"resizePhotos"_qs);
-    EXPECT_EQ(journal.records().first().source, u"/in/a.tif"_qs);
-    EXPECT_EQ(journal.records().first().target, u"/out/a.tiff"_qs);
-    EXPECT_EQ(text(journal.records().first().word), u"OK"_qs);
+    EXPECT_EQ(journal.records().first().function, u"resizePhotos"_s);
+    EXPECT_EQ(journal.records().first().source, u"/in/a.tif"_s);
+    EXPECT_EQ(journal.records().first().target, u"/out/a.tiff"_s);
+    EXPECT_EQ(text(journal.records().first().word), u"OK"_s);
 }
 
 TEST_F(BatchDriver, WarnsOfAMaximumOfZeroForEachPhotoAndStillCalls)
@@ -379,33 +380,33 @@ TEST_F(BatchDriver, WarnsOfAMaximumOfZeroForEachPhotoAndStillCalls)
     selectResize();
     restoreRun("resizePhotos");
     chooseDestination();
-    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    addPhotos({u"a.jpg"_s, u"b.jpg"_s});
     panels.vwResizePhotos.dvVCUiScaleMaxView.tfScaleMaxVal.setStringValue(QString());
 
     run();
 
-    const QStringList wrongValue{u"Wrong value"_qs, u"Value can't be empty or '0'."_qs};
+    const QStringList wrongValue{u"Wrong value"_s, u"Value can't be empty or '0'."_s};
     EXPECT_EQ(alerts, (QList<QStringList>{wrongValue, wrongValue}));
     // The word that the operation has for it; there is no such file.
-    EXPECT_EQ(words(), (QStringList{u"OK"_qs, u"OK"_qs}));
+    EXPECT_EQ(words(), (QStringList{u"OK"_s, u"OK"_s}));
 }
 
 TEST_F(BatchDriver, PassesOverPhotosForABoxWithoutWidthOrHeight)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    addPhotos({u"a.jpg"_s, u"b.jpg"_s});
     panels.vwResizePhotos.pubScaleType.selectIndex(1);
-    panels.vwResizePhotos.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"300"_qs);
+    panels.vwResizePhotos.dvVCUiScaleFixView.tfScaleFixWidth.setStringValue(u"300"_s);
     restoreRun("resizePhotos");
 
     run();
 
-    const QStringList wrongSize{u"Wrong value"_qs, u"Width or height can't be empty or '0'."_qs};
+    const QStringList wrongSize{u"Wrong value"_s, u"Width or height can't be empty or '0'."_s};
     EXPECT_EQ(alerts, (QList<QStringList>{wrongSize, wrongSize}));
     EXPECT_TRUE(journal.records().isEmpty());
 
-    panels.vwResizePhotos.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"200"_qs);
+    panels.vwResizePhotos.dvVCUiScaleFixView.tfScaleFixHeight.setStringValue(u"200"_s);
     run();
     EXPECT_EQ(journal.records().size(), 2);
 }
@@ -414,19 +415,19 @@ TEST_F(BatchDriver, FollowsThePopUpWhereTheIdDisagrees)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
     select("cropPhotos");
 
     run();
 
-    EXPECT_EQ(bases, QStringList{u"/out/a"_qs});
+    EXPECT_EQ(bases, QStringList{u"/out/a"_s});
 }
 
 TEST_F(BatchDriver, ReadsTheCommentOfAPhoto)
 {
     select("batchExifUC");
-    addPhotos({u"a.jpg"_qs});
-    panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"At sea"_qs);
+    addPhotos({u"a.jpg"_s});
+    panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"At sea"_s);
     QList<QStringList> calls;
     reads("batchExifUC", [&](const QString& path) {
         const auto [comment, clear] = metadata::readSettings(panels.vwFileManagementEXIF);
@@ -443,7 +444,7 @@ TEST_F(BatchDriver, ReadsTheCommentOfAPhoto)
     EXPECT_EQ(
         calls,
         (QList<QStringList>{
-            {u"/in/a.jpg"_qs, u"At sea"_qs, u"0"_qs}, {u"/in/a.jpg"_qs, u"At sea"_qs, u"1"_qs}})
+            {u"/in/a.jpg"_s, u"At sea"_s, u"0"_s}, {u"/in/a.jpg"_s, u"At sea"_s, u"1"_s}})
     );
 }
 
@@ -451,7 +452,7 @@ TEST_F(BatchDriver, MarksWithAPictureOnEveryTabButThatOfTexts)
 {
     select("textWM");
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
     panels.vwWatermark.tbvWatermarkType.selectIndex(1);
     int texts = 0;
     int pictures = 0;
@@ -467,29 +468,29 @@ TEST_F(BatchDriver, MarksWithAPictureOnEveryTabButThatOfTexts)
 TEST_F(BatchDriver, HandsTheWholeListToTheWatermark)
 {
     chooseDestination();
-    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
-    panels.vwWatermark.tvFileName.setStringValue(u"name"_qs);
+    addPhotos({u"a.jpg"_s, u"b.jpg"_s});
+    panels.vwWatermark.tvFileName.setStringValue(u"name"_s);
     panels.vwWatermark.pubFileNamePhotoProperties.selectItemAtIndex(1);
     watermark::WatermarkRun seen;
     worksOn("textWM", [&](const auto& list) {
         seen = workspace::watermarkRun(list);
         list.sink.take(
-            {.source = u"/in/a.jpg"_qs,
-             .target = u"/out/a.jpg"_qs,
+            {.source = u"/in/a.jpg"_s,
+             .target = u"/out/a.jpg"_s,
              .outcome = imaging::ResultWord::Ok}
         );
     });
 
     run();
 
-    EXPECT_EQ(seen.photos, (QStringList{u"/in/a.jpg"_qs, u"/in/b.jpg"_qs}));
-    EXPECT_EQ(seen.destination, u"/out/"_qs);
-    EXPECT_EQ(seen.outputType, u"original file type"_qs);
-    EXPECT_EQ(seen.compressionLevel, u"9"_qs);
-    EXPECT_EQ(seen.fileNameText, u"name"_qs);
+    EXPECT_EQ(seen.photos, (QStringList{u"/in/a.jpg"_s, u"/in/b.jpg"_s}));
+    EXPECT_EQ(seen.destination, u"/out/"_s);
+    EXPECT_EQ(seen.outputType, u"original file type"_s);
+    EXPECT_EQ(seen.compressionLevel, u"9"_s);
+    EXPECT_EQ(seen.fileNameText, u"name"_s);
     EXPECT_EQ(seen.photoProperty, 1);
     ASSERT_EQ(journal.records().size(), 1);
-    EXPECT_EQ(journal.records().first().function, u"textWM"_qs);
+    EXPECT_EQ(journal.records().first().function, u"textWM"_s);
 }
 
 TEST_P(FunctionsToCome, FailForEachPhotoAndSaySo)
@@ -497,11 +498,11 @@ TEST_P(FunctionsToCome, FailForEachPhotoAndSaySo)
     select(GetParam().name);
     panels.window.pubEditPhoto.selectIndex(GetParam().index);
     chooseDestination();
-    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    addPhotos({u"a.jpg"_s, u"b.jpg"_s});
 
     run();
 
-    EXPECT_EQ(words(), (QStringList{u"Failed"_qs, u"Failed"_qs}));
+    EXPECT_EQ(words(), (QStringList{u"Failed"_s, u"Failed"_s}));
     ASSERT_FALSE(log.isEmpty());
     EXPECT_TRUE(log.first().contains(QLatin1String(GetParam().name)));
 }
@@ -533,11 +534,11 @@ TEST_F(BatchDriver, ConvertsEveryTickedEntry)
 {
     select("batchFileConvert");
     chooseDestination();
-    addPhotos({u"a.JPG"_qs});
-    photos.append(nonPhoto(u"/in/b.txt"_qs));
+    addPhotos({u"a.JPG"_s});
+    photos.append(nonPhoto(u"/in/b.txt"_s));
     panels.vwApplyOn.pubPhotoOrientation.selectIndex(2);
     runs("batchFileConvert", [&](const workspace::PhotoOutput& output) {
-        EXPECT_EQ(output.tail.compressionLevel, u"9"_qs);
+        EXPECT_EQ(output.tail.compressionLevel, u"9"_s);
         return imaging::ResultWord::Ok;
     });
 
@@ -547,15 +548,15 @@ TEST_F(BatchDriver, ConvertsEveryTickedEntry)
     for (const auto& record : journal.records())
         targets.append(record.target);
 
-    EXPECT_EQ(targets, (QStringList{u"/out/a.jpeg"_qs, u"/out/b"_qs}));
+    EXPECT_EQ(targets, (QStringList{u"/out/a.jpeg"_s, u"/out/b"_s}));
 }
 
 TEST_F(BatchDriver, RenamesFilesThatAreNoPhotosToo)
 {
     select("fileRenaming");
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
-    photos.append(nonPhoto(u"/in/b.txt"_qs));
+    addPhotos({u"a.jpg"_s});
+    photos.append(nonPhoto(u"/in/b.txt"_s));
     panels.vwApplyOn.pubPhotoOrientation.selectIndex(2);
     QList<workspace::RenameRequest> requests;
     renames([&](const workspace::RenameRequest& request) { requests.append(request); });
@@ -563,8 +564,8 @@ TEST_F(BatchDriver, RenamesFilesThatAreNoPhotosToo)
     run();
 
     ASSERT_EQ(requests.size(), 2);
-    EXPECT_EQ(requests.at(1).path, u"/in/b.txt"_qs);
-    EXPECT_EQ(requests.at(1).function, u"RenamingFunction"_qs);
+    EXPECT_EQ(requests.at(1).path, u"/in/b.txt"_s);
+    EXPECT_EQ(requests.at(1).function, u"RenamingFunction"_s);
     EXPECT_EQ(requests.at(1).previewState, 0);
     EXPECT_EQ(requests.at(1).index, 1);
 }
@@ -572,19 +573,19 @@ TEST_F(BatchDriver, RenamesFilesThatAreNoPhotosToo)
 TEST_F(BatchDriver, NeedsNoDestinationForADryRunOfRenaming)
 {
     select("fileRenaming");
-    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    addPhotos({u"a.jpg"_s, u"b.jpg"_s});
     photos.setTick(1, 0);
-    collectionView.hUpdateCollectionViewItem(u"old"_qs, 1);
+    collectionView.hUpdateCollectionViewItem(u"old"_s, 1);
     panels.vwShowPreview.cbShowPreview.setState(1);
     renames([&](const workspace::RenameRequest& request) {
         EXPECT_EQ(request.previewState, 1);
-        collectionView.hUpdateCollectionViewItem(u"new.jpg"_qs, request.index);
+        collectionView.hUpdateCollectionViewItem(u"new.jpg"_s, request.index);
     });
 
     run();
 
     EXPECT_TRUE(alerts.isEmpty());
-    EXPECT_EQ(photos.entries().at(0).myNewName, u"new.jpg"_qs);
+    EXPECT_EQ(photos.entries().at(0).myNewName, u"new.jpg"_s);
     EXPECT_EQ(photos.entries().at(1).myNewName, QString());
 
     panels.vwShowPreview.cbShowPreview.setState(0);
@@ -595,13 +596,13 @@ TEST_F(BatchDriver, NeedsNoDestinationForADryRunOfRenaming)
 TEST_F(BatchDriver, UploadsWithTheSelectedAlbum)
 {
     select("batchUploadPhotos");
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
     panels::SortingPanel& panel = panels.vwFileManagementSorting;
-    panel.tfAddKeyword.setStringValue(u"sea"_qs);
-    panel.tfAddTitle.setStringValue(u"Title"_qs);
-    panel.tfAddDescription.setStringValue(u"Description"_qs);
+    panel.tfAddKeyword.setStringValue(u"sea"_s);
+    panel.tfAddTitle.setStringValue(u"Title"_s);
+    panel.tfAddDescription.setStringValue(u"Description"_s);
     panel.cbAddToFavorite.setState(1);
-    panel.theApplePhotosData.setObjects({{u"Holiday"_qs}, {u"Work"_qs}});
+    panel.theApplePhotosData.setObjects({{u"Holiday"_s}, {u"Work"_s}});
     QList<workspace::PhotoUpload> uploads;
     reads("batchUploadPhotos", [&](const QString& path) {
         return [&, upload = workspace::readUpload(panel, path)] { uploads.append(upload); };
@@ -613,11 +614,11 @@ TEST_F(BatchDriver, UploadsWithTheSelectedAlbum)
 
     ASSERT_EQ(uploads.size(), 2);
     EXPECT_EQ(uploads.at(0).album, QString());
-    EXPECT_EQ(uploads.at(1).album, u"Work"_qs);
-    EXPECT_EQ(uploads.at(1).keyword, u"sea"_qs);
-    EXPECT_EQ(uploads.at(1).title, u"Title"_qs);
-    EXPECT_EQ(uploads.at(1).description, u"Description"_qs);
-    EXPECT_EQ(uploads.at(1).favourite, u"1"_qs);
+    EXPECT_EQ(uploads.at(1).album, u"Work"_s);
+    EXPECT_EQ(uploads.at(1).keyword, u"sea"_s);
+    EXPECT_EQ(uploads.at(1).title, u"Title"_s);
+    EXPECT_EQ(uploads.at(1).description, u"Description"_s);
+    EXPECT_EQ(uploads.at(1).favourite, u"1"_s);
 }
 
 TEST_F(BatchDriver, EndsRunsOfNoPhotosSilently)
@@ -627,7 +628,7 @@ TEST_F(BatchDriver, EndsRunsOfNoPhotosSilently)
         select(function);
         run();
     }
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
     photos.setTick(0, 0);
     select("batchFileConvert");
     run();
@@ -641,7 +642,7 @@ TEST_F(BatchDriver, DoesNothingForTheUploadThatNoControlSelects)
     selectResize();
     select("uploadPhotos");
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
 
     run();
 
@@ -653,67 +654,67 @@ TEST_F(BatchDriver, HandsThePhotosToTheGallery)
 {
     select("htmlExport");
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
     QString destination;
     worksOn("htmlExport", [&](const auto& list) { destination = list.destination; });
 
     run();
 
-    EXPECT_EQ(destination, u"/out/"_qs);
-    EXPECT_EQ(guiControls.driver().mySelectedImagesNSArray(), QStringList{u"/in/a.jpg"_qs});
+    EXPECT_EQ(destination, u"/out/"_s);
+    EXPECT_EQ(guiControls.driver().mySelectedImagesNSArray(), QStringList{u"/in/a.jpg"_s});
 }
 
 TEST_F(BatchDriver, EndsTheChosenDestinationWithASlash)
 {
-    chooser.answers = {QStringList{u"/out/photos"_qs}};
+    chooser.answers = {QStringList{u"/out/photos"_s}};
 
-    actions.send(u"hChooseScalingDestinationFolder"_qs);
-    actions.send(u"hShowDestinationFolderInFinder"_qs);
+    actions.send(u"hChooseScalingDestinationFolder"_s);
+    actions.send(u"hShowDestinationFolderInFinder"_s);
 
     const controls::OpenPanel& panel = chooser.panels.first();
-    EXPECT_EQ(panel.message, u"*** Choose destination folder ***"_qs);
+    EXPECT_EQ(panel.message, u"*** Choose destination folder ***"_s);
     EXPECT_FALSE(panel.choosesFiles);
     EXPECT_TRUE(panel.choosesDirectories);
     EXPECT_TRUE(panel.canCreateDirectories);
     EXPECT_FALSE(panel.allowsMultipleSelection);
     const controls::TextField& field = panels.vwMainDestination.tfImageDestinationFolder;
-    EXPECT_EQ(field.stringValue(), u"/out/photos/"_qs);
-    EXPECT_EQ(field.toolTip(), u"/out/photos/"_qs);
-    EXPECT_EQ(desktop.revealed, QStringList{u"/out/photos/"_qs});
+    EXPECT_EQ(field.stringValue(), u"/out/photos/"_s);
+    EXPECT_EQ(field.toolTip(), u"/out/photos/"_s);
+    EXPECT_EQ(desktop.revealed, QStringList{u"/out/photos/"_s});
 }
 
 TEST_F(BatchDriver, KeepsTheDestinationWhenThePanelIsCancelled)
 {
     chooseDestination();
 
-    actions.send(u"hChooseScalingDestinationFolder"_qs);
+    actions.send(u"hChooseScalingDestinationFolder"_s);
 
-    EXPECT_EQ(panels.vwMainDestination.tfImageDestinationFolder.stringValue(), u"/out/"_qs);
+    EXPECT_EQ(panels.vwMainDestination.tfImageDestinationFolder.stringValue(), u"/out/"_s);
 }
 
 TEST_F(BatchDriver, TellsAllPathsOfTheList)
 {
-    addPhotos({u"a.jpg"_qs});
-    photos.append(nonPhoto(u"/in/b.txt"_qs));
+    addPhotos({u"a.jpg"_s});
+    photos.append(nonPhoto(u"/in/b.txt"_s));
 
     EXPECT_EQ(
-        guiControls.hGetPhotosFromArrayController(), (QStringList{u"/in/a.jpg"_qs, u"/in/b.txt"_qs})
+        guiControls.hGetPhotosFromArrayController(), (QStringList{u"/in/a.jpg"_s, u"/in/b.txt"_s})
     );
 }
 
 TEST_F(BatchDriver, TakesPhotosOfTheHiddenFilterForChangesInPlace)
 {
-    addPhotos({u"wide.jpg"_qs, u"unticked.jpg"_qs});
-    addPhotos({u"tall.jpg"_qs}, u"P"_qs);
-    photos.append(nonPhoto(u"/in/notes.txt"_qs));
+    addPhotos({u"wide.jpg"_s, u"unticked.jpg"_s});
+    addPhotos({u"tall.jpg"_s}, u"P"_s);
+    photos.append(nonPhoto(u"/in/notes.txt"_s));
     photos.setTick(1, 0);
     panels.vwApplyOn.pubPhotoOrientation.selectIndex(1);
     QStringList taken;
     reads("batchUploadPhotos", [&](const QString& path) {
-        return [&taken, path] { taken.append(u"upload "_qs + path); };
+        return [&taken, path] { taken.append(u"upload "_s + path); };
     });
     reads("batchExifUC", [&](const QString& path) {
-        return [&taken, path] { taken.append(u"comment "_qs + path); };
+        return [&taken, path] { taken.append(u"comment "_s + path); };
     });
 
     for (const char* function : {"batchUploadPhotos", "batchExifUC"}) {
@@ -721,13 +722,13 @@ TEST_F(BatchDriver, TakesPhotosOfTheHiddenFilterForChangesInPlace)
         run();
     }
 
-    EXPECT_EQ(taken, (QStringList{u"upload /in/wide.jpg"_qs, u"comment /in/wide.jpg"_qs}));
+    EXPECT_EQ(taken, (QStringList{u"upload /in/wide.jpg"_s, u"comment /in/wide.jpg"_s}));
 }
 
 TEST_F(BatchDriver, MovesTheBarOfEveryRunByWholeThousandths)
 {
     chooseDestination();
-    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs, u"c.jpg"_qs});
+    addPhotos({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
     const auto seeBar = [this] { bar.append(panels.window.myProgressBar.doubleValue()); };
     for (const char* function : {"batchUploadPhotos", "batchExifUC"})
         reads(function, [&](const auto&) { return seeBar; });
@@ -749,14 +750,14 @@ TEST_F(BatchDriver, MovesTheBarOfEveryRunByWholeThousandths)
 
 TEST_F(BatchDriver, ReadsTheArgumentsOfAChangeInPlaceBeforeTheBarGoesUp)
 {
-    addPhotos({u"a.jpg"_qs});
-    panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"before"_qs);
-    panels.vwFileManagementSorting.tfAddTitle.setStringValue(u"before"_qs);
+    addPhotos({u"a.jpg"_s});
+    panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"before"_s);
+    panels.vwFileManagementSorting.tfAddTitle.setStringValue(u"before"_s);
     const auto subscription = panels.window.myProgressBar.changed.connect([this] {
         if (panels.window.myProgressBar.doubleValue() == 0)
             return;
-        panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"after"_qs);
-        panels.vwFileManagementSorting.tfAddTitle.setStringValue(u"after"_qs);
+        panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"after"_s);
+        panels.vwFileManagementSorting.tfAddTitle.setStringValue(u"after"_s);
     });
     QStringList read;
     reads("batchUploadPhotos", [&](const QString& path) {
@@ -770,20 +771,20 @@ TEST_F(BatchDriver, ReadsTheArgumentsOfAChangeInPlaceBeforeTheBarGoesUp)
 
     select("batchExifUC");
     run();
-    panels.vwFileManagementSorting.tfAddTitle.setStringValue(u"before"_qs);
+    panels.vwFileManagementSorting.tfAddTitle.setStringValue(u"before"_s);
     select("batchUploadPhotos");
     run();
 
-    EXPECT_EQ(read, (QStringList{u"before"_qs, u"before"_qs}));
+    EXPECT_EQ(read, (QStringList{u"before"_s, u"before"_s}));
 }
 
 TEST_F(BatchDriver, EndsARunOfAnIndexBeyondThePopUp)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
+    addPhotos({u"a.jpg"_s});
     panels.window.pubEditPhoto.setTitles(
-        panels.window.pubEditPhoto.titles() + QStringList(u"Eleventh"_qs)
+        panels.window.pubEditPhoto.titles() + QStringList(u"Eleventh"_s)
     );
     panels.window.pubEditPhoto.selectIndex(10);
     run();
@@ -798,11 +799,11 @@ TEST_F(BatchDriver, AddsToAChainWithoutAPath)
     QList<workspace::RenameRequest> requests;
     renames([&](const workspace::RenameRequest& request) { requests.append(request); });
 
-    actions.send(u"hCalledCActionFunc"_qs);
+    actions.send(u"hCalledCActionFunc"_s);
 
     ASSERT_EQ(requests.size(), 1);
     EXPECT_EQ(requests.first().path, QString());
-    EXPECT_EQ(requests.first().function, u"CActionFunction"_qs);
+    EXPECT_EQ(requests.first().function, u"CActionFunction"_s);
     EXPECT_EQ(requests.first().previewState, 0);
     EXPECT_EQ(requests.first().index, 0);
     EXPECT_TRUE(journal.records().isEmpty());
@@ -812,8 +813,8 @@ TEST_F(BatchDriver, AsksTheChainForANameWithPathAndName)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs});
-    panels.vwWatermark.cActionsTWMArrayController.addObject({u"Prefix"_qs, u"x"_qs});
+    addPhotos({u"a.jpg"_s});
+    panels.vwWatermark.cActionsTWMArrayController.addObject({u"Prefix"_s, u"x"_s});
     QList<QStringList> asked;
     neighbours.hRenameTWMFile
         = [&](const QString& path, const QString& name, const QList<QStringList>& chain) {
@@ -823,16 +824,14 @@ TEST_F(BatchDriver, AsksTheChainForANameWithPathAndName)
 
     run();
 
-    EXPECT_EQ(
-        asked, QList<QStringList>{(QStringList{u"/in/a.jpg"_qs, u"a.jpg"_qs, u"Prefix+x"_qs})}
-    );
+    EXPECT_EQ(asked, QList<QStringList>{(QStringList{u"/in/a.jpg"_s, u"a.jpg"_s, u"Prefix+x"_s})});
 }
 
 TEST_F(BatchDriver, RunsAgainInsideOfARun)
 {
     selectResize();
     chooseDestination();
-    addPhotos({u"a.jpg"_qs, u"b.jpg"_qs});
+    addPhotos({u"a.jpg"_s, u"b.jpg"_s});
     panels.vwShowPreview.cbShowPreview.setState(1);
     QStringList order;
     runs("resizePhotos", [&](const workspace::PhotoOutput& output) {
@@ -844,7 +843,7 @@ TEST_F(BatchDriver, RunsAgainInsideOfARun)
 
     run();
 
-    EXPECT_EQ(order, (QStringList{u"/out/a"_qs, u"/out/a"_qs, u"/out/b"_qs, u"/out/b"_qs}));
+    EXPECT_EQ(order, (QStringList{u"/out/a"_s, u"/out/a"_s, u"/out/b"_s, u"/out/b"_s}));
     EXPECT_TRUE(panels.vwShowPreview.cbShowPreview.isOn());
     EXPECT_TRUE(panels.window.myProgressBar.isHidden());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "../controller_fixture.h"
 
+#include <platform/foundation/literals.h>
 #include <workspace/run/photos_of_run.h>
 
 #include <support/case_name.h>
@@ -24,11 +25,11 @@ class PhotosOfRun : public test::ControllerTest
 protected:
     PhotosOfRun()
     {
-        photos.append(entry(u"wide"_qs, u"L"_qs));
-        photos.append(entry(u"tall"_qs, u"P"_qs));
-        photos.append(entry(u"unticked"_qs, u"L"_qs));
-        photos.append(entry(u"square"_qs, u"S"_qs));
-        photos.append(nonPhoto(u"text"_qs));
+        photos.append(entry(u"wide"_s, u"L"_s));
+        photos.append(entry(u"tall"_s, u"P"_s));
+        photos.append(entry(u"unticked"_s, u"L"_s));
+        photos.append(entry(u"square"_s, u"S"_s));
+        photos.append(nonPhoto(u"text"_s));
         photos.setTick(2, 0);
         panels.vwApplyOn.pubPhotoOrientation.selectIndex(1);
     }
@@ -42,7 +43,7 @@ protected:
     {
         const workspace::Function* function
             = workspace::functionOfRun(functions, QString::fromLatin1(id), panels);
-        return function ? QString(function->id) : u"none"_qs;
+        return function ? QString(function->id) : u"none"_s;
     }
 };
 
@@ -61,15 +62,15 @@ INSTANTIATE_TEST_SUITE_P(
     Functions,
     PhotosOfEachRun,
     testing::Values(
-        Row{"textWM", {u"wide"_qs}},
-        Row{"imageWM", {u"wide"_qs}},
-        Row{"addTint", {u"wide"_qs}},
-        Row{"resizePhotos", {u"wide"_qs}},
-        Row{"batchUploadPhotos", {u"wide"_qs}},
-        Row{"batchExifUC", {u"wide"_qs}},
-        Row{"htmlExport", {u"wide"_qs}},
-        Row{"fileRenaming", {u"wide"_qs, u"tall"_qs, u"square"_qs, u"text"_qs}},
-        Row{"batchFileConvert", {u"wide"_qs, u"tall"_qs, u"square"_qs, u"text"_qs}},
+        Row{"textWM", {u"wide"_s}},
+        Row{"imageWM", {u"wide"_s}},
+        Row{"addTint", {u"wide"_s}},
+        Row{"resizePhotos", {u"wide"_s}},
+        Row{"batchUploadPhotos", {u"wide"_s}},
+        Row{"batchExifUC", {u"wide"_s}},
+        Row{"htmlExport", {u"wide"_s}},
+        Row{"fileRenaming", {u"wide"_s, u"tall"_s, u"square"_s, u"text"_s}},
+        Row{"batchFileConvert", {u"wide"_s, u"tall"_s, u"square"_s, u"text"_s}},
         Row{"manSort", {}},
         Row{"batchSort", {}},
         Row{"batchQR", {}}
@@ -80,7 +81,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(PhotosOfRun, FollowTheFilter)
 {
     const QList<QStringList> expected{
-        {u"wide"_qs, u"tall"_qs, u"square"_qs}, {u"wide"_qs}, {u"tall"_qs}, {u"square"_qs}};
+        {u"wide"_s, u"tall"_s, u"square"_s}, {u"wide"_s}, {u"tall"_s}, {u"square"_s}};
     for (int index = 0; index < expected.size(); ++index) {
         panels.vwApplyOn.pubPhotoOrientation.selectIndex(index);
         EXPECT_EQ(taken("resizePhotos"), expected.at(index));
@@ -90,16 +91,16 @@ TEST_F(PhotosOfRun, FollowTheFilter)
 TEST_F(PhotosOfRun, AreWorkedOnByThePopUpAmongTheFunctionsThatEdit)
 {
     panels.window.pubEditPhoto.selectIndex(8);
-    EXPECT_EQ(functionOf("cropPhotos"), u"resizePhotos"_qs);
+    EXPECT_EQ(functionOf("cropPhotos"), u"resizePhotos"_s);
 
     panels.window.pubEditPhoto.selectIndex(0);
-    EXPECT_EQ(functionOf("cropPhotos"), u"textWM"_qs);
+    EXPECT_EQ(functionOf("cropPhotos"), u"textWM"_s);
     panels.vwWatermark.tbvWatermarkType.selectIndex(1);
-    EXPECT_EQ(functionOf("cropPhotos"), u"imageWM"_qs);
-    EXPECT_EQ(functionOf("unknown"), u"imageWM"_qs);
+    EXPECT_EQ(functionOf("cropPhotos"), u"imageWM"_s);
+    EXPECT_EQ(functionOf("unknown"), u"imageWM"_s);
 
     panels.window.pubEditPhoto.selectIndex(-1);
-    EXPECT_EQ(functionOf("cropPhotos"), u"none"_qs);
+    EXPECT_EQ(functionOf("cropPhotos"), u"none"_s);
 }
 
 TEST_F(PhotosOfRun, AreWorkedOnByTheSelectedFunctionElsewhere)
@@ -115,5 +116,5 @@ TEST_F(PhotosOfRun, AreWorkedOnByTheSelectedFunctionElsewhere)
           "batchQR",
           "htmlExport"})
         EXPECT_EQ(functionOf(id), QLatin1String(id));
-    EXPECT_EQ(functionOf("uploadPhotos"), u"none"_qs);
+    EXPECT_EQ(functionOf("uploadPhotos"), u"none"_s);
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/run/run_journal.h>
 
 #include <support/text_printing.h>
@@ -13,9 +14,9 @@ workspace::RunRecord record(const QString& source, imaging::ResultWord word)
 {
     return {
         .time = QDateTime({2026, 11, 15}, {10, 44, 33}),
-        .function = u"resizePhotos"_qs,
+        .function = u"resizePhotos"_s,
         .source = source,
-        .target = u"/out/a.jpg"_qs,
+        .target = u"/out/a.jpg"_s,
         .word = word};
 }
 
@@ -29,30 +30,30 @@ TEST(RunJournal, TellsWhatItRecords)
         words.append(text(added.word));
     });
 
-    journal.add(record(u"/in/a.jpg"_qs, imaging::ResultWord::Ok));
-    journal.add(record(u"/in/b.jpg"_qs, imaging::ResultWord::Failed));
+    journal.add(record(u"/in/a.jpg"_s, imaging::ResultWord::Ok));
+    journal.add(record(u"/in/b.jpg"_s, imaging::ResultWord::Failed));
 
-    EXPECT_EQ(words, (QStringList{u"OK"_qs, u"Failed"_qs}));
+    EXPECT_EQ(words, (QStringList{u"OK"_s, u"Failed"_s}));
     EXPECT_EQ(journal.records().size(), 2);
 }
 
 TEST(RunJournal, GivesOneLineARecord)
 {
     workspace::RunJournal journal;
-    journal.add(record(u"/in/a.jpg"_qs, imaging::ResultWord::Ok));
-    journal.add(record(u"/in/b.jpg"_qs, imaging::ResultWord::Failed));
+    journal.add(record(u"/in/a.jpg"_s, imaging::ResultWord::Ok));
+    journal.add(record(u"/in/b.jpg"_s, imaging::ResultWord::Failed));
 
     EXPECT_EQ(
         journal.asText(),
         u"2026-11-15T10:44:33\tresizePhotos\t/in/a.jpg\t/out/a.jpg\tOK\n"
-        u"2026-11-15T10:44:33\tresizePhotos\t/in/b.jpg\t/out/a.jpg\tFailed\n"_qs
+        u"2026-11-15T10:44:33\tresizePhotos\t/in/b.jpg\t/out/a.jpg\tFailed\n"_s
     );
 }
 
 TEST(RunJournal, ForgetsAllRecords)
 {
     workspace::RunJournal journal;
-    journal.add(record(u"/in/a.jpg"_qs, imaging::ResultWord::Ok));
+    journal.add(record(u"/in/a.jpg"_s, imaging::ResultWord::Ok));
 
     journal.clear();
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/functions/function_id.h>
 #include <workspace/functions/functions.h>
 #include <workspace/functions/shown_function.h>
@@ -27,13 +28,13 @@ protected:
 
     void pickFile(int index)
     {
-        panels.window.dvVCUiMainPropertySelect.replaceViews(u"pubFileManagementSelect"_qs);
+        panels.window.dvVCUiMainPropertySelect.replaceViews(u"pubFileManagementSelect"_s);
         panels.window.pubFileManagementSelect.selectItemAtIndex(index);
     }
 
     void pickEdit(int index)
     {
-        panels.window.dvVCUiMainPropertySelect.replaceViews(u"pubEditPhoto"_qs);
+        panels.window.dvVCUiMainPropertySelect.replaceViews(u"pubEditPhoto"_s);
         panels.window.pubEditPhoto.selectItemAtIndex(index);
     }
 
@@ -46,7 +47,7 @@ protected:
 
 TEST_F(RunOfferTest, RunsFunctionsWhoseOperationIsThere)
 {
-    EXPECT_EQ(offerOf(u"cropPhotos"_qs), RunOffer::ComesLater);
+    EXPECT_EQ(offerOf(u"cropPhotos"_s), RunOffer::ComesLater);
     EXPECT_EQ(offerOf(functionId::htmlExport), RunOffer::ComesLater);
 
     for (workspace::Function& function : functions) {
@@ -56,7 +57,7 @@ TEST_F(RunOfferTest, RunsFunctionsWhoseOperationIsThere)
             }};
     }
 
-    EXPECT_EQ(offerOf(u"cropPhotos"_qs), RunOffer::Run);
+    EXPECT_EQ(offerOf(u"cropPhotos"_s), RunOffer::Run);
     EXPECT_EQ(offerOf(functionId::htmlExport), RunOffer::ComesLater);
 }
 
@@ -66,9 +67,9 @@ TEST_F(RunOfferTest, LeavesFunctionsWithButtonsOfTheirOwnToTheirButtons)
     EXPECT_EQ(offerOf(functionId::batchSort), RunOffer::ComesLater);
     EXPECT_EQ(offerOf(functionId::batchQR), RunOffer::ComesLater);
 
-    actions.add(u"cGUIcontrols"_qs, u"hCopyFileToFolder"_qs, [](const auto&) {});
-    actions.add(u"DVFileSorterRoutine"_qs, u"hSortFiles"_qs, [](const auto&) {});
-    actions.add(u"cQRcode"_qs, u"hGenerateCode"_qs, [](const auto&) {});
+    actions.add(u"cGUIcontrols"_s, u"hCopyFileToFolder"_s, [](const auto&) {});
+    actions.add(u"DVFileSorterRoutine"_s, u"hSortFiles"_s, [](const auto&) {});
+    actions.add(u"cQRcode"_s, u"hGenerateCode"_s, [](const auto&) {});
 
     EXPECT_EQ(offerOf(functionId::manSort), RunOffer::Nothing);
     EXPECT_EQ(offerOf(functionId::batchSort), RunOffer::Message);
@@ -82,7 +83,7 @@ TEST_F(RunOfferTest, KnowsTheFunctionOfThePanelThatIsShown)
     panels.vwWatermark.tbvWatermarkType.selectIndex(1);
     EXPECT_EQ(workspace::shownFunction(panels), functionId::imageWM);
     pickEdit(8);
-    EXPECT_EQ(workspace::shownFunction(panels), u"resizePhotos"_qs);
+    EXPECT_EQ(workspace::shownFunction(panels), u"resizePhotos"_s);
 
     const QList<QLatin1String> sorting{
         functionId::manSort, functionId::batchSort, functionId::batchUploadPhotos};

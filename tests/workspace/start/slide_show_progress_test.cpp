@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/start/slide_show_progress.h>
 
 #include <support/log_lines.h>
@@ -11,7 +12,7 @@ namespace {
 
 TEST(SlideShowProgress, RunsAnIndeterminateBarInStepsOfOne)
 {
-    controls::ProgressIndicator bar(u"progBarSlideShow"_qs);
+    controls::ProgressIndicator bar(u"progBarSlideShow"_s);
     bar.setHidden(true);
     const cProgressbar progress;
 
@@ -28,7 +29,7 @@ TEST(SlideShowProgress, RunsAnIndeterminateBarInStepsOfOne)
 
 TEST(SlideShowProgress, ResetsToAMaximumOf100)
 {
-    controls::ProgressIndicator bar(u"progBarSlideShow"_qs);
+    controls::ProgressIndicator bar(u"progBarSlideShow"_s);
     const cProgressbar progress;
     progress.hInitializeProgressbar(bar, 12);
     progress.hUpdateProgressbar(bar);
@@ -42,7 +43,7 @@ TEST(SlideShowProgress, ResetsToAMaximumOf100)
 
 TEST(SlideShowProgress, LeavesABarOfAnotherNameAlone)
 {
-    controls::ProgressIndicator bar(u"myProgressBar"_qs);
+    controls::ProgressIndicator bar(u"myProgressBar"_s);
     const cProgressbar progress;
 
     progress.hInitializeProgressbar(bar, 12);
@@ -60,12 +61,12 @@ TEST(SlideShowProgress, LeavesABarOfAnotherNameAlone)
 TEST(SlideShowProgress, TellsTheLogThatItStarts)
 {
     const test::LogLines log;
-    controls::ProgressIndicator bar(u"progBarSlideShow"_qs);
+    controls::ProgressIndicator bar(u"progBarSlideShow"_s);
 
     cProgressbar().hInitializeProgressbar(bar, 12);
 
     EXPECT_EQ(
-        log.lines(), QStringList({u"hInitializeProgressbar entred"_qs, u"wordt geinitialiseerd"_qs})
+        log.lines(), QStringList({u"hInitializeProgressbar entred"_s, u"wordt geinitialiseerd"_s})
     );
 }
 

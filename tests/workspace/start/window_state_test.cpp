@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <workspace/start/full_screen_window.h>
 #include <workspace/start/main_app_window.h>
 
@@ -23,13 +24,12 @@ TEST(MainAppWindow, TakesADropAndDoesNothingWithIt)
     mainWindow.awakeFromNib();
     EXPECT_EQ(mainWindow.draggingEntered(), -1);
     EXPECT_TRUE(mainWindow.prepareForDragOperation());
-    EXPECT_TRUE(mainWindow.performDragOperation(QStringList{u"a"_qs, u"b"_qs}));
+    EXPECT_TRUE(mainWindow.performDragOperation(QStringList{u"a"_s, u"b"_s}));
     EXPECT_TRUE(mainWindow.performDragOperation(std::nullopt));
 
     EXPECT_EQ(
         output,
-        (QStringList{
-            u"Awake"_qs, u"Enter"_qs, u"Prepare"_qs, u"Perform"_qs, u"2\n"_qs, u"Perform"_qs})
+        (QStringList{u"Awake"_s, u"Enter"_s, u"Prepare"_s, u"Perform"_s, u"2\n"_s, u"Perform"_s})
     );
 }
 
