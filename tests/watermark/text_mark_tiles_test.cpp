@@ -143,7 +143,7 @@ INSTANTIATE_TEST_SUITE_P(
             .xOffset = 9,
             .yOffset = 9,
             .effect = TextEffect::Relief2,
-            .shadow = platform::
+            .shadow = platform::drawing::
                 Shadow{.color = {.red = 1}, .xOffset = -50, .yOffset = 30, .blurRadius = 6}},
         TilesCase{
             .name = "EmbossedTranslucentWithASoftShadow",

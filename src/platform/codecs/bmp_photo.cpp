@@ -115,7 +115,9 @@ bool holdsWholeRuns(const QString& path, const BitmapFacts& facts, graphics::Pix
     if (facts.runsBits == 0)
         return true;
     const containers::MappedFile file(path);
-    return holdsWholeRuns(containers::tailOf(file.bytes(), facts.runsOffset), facts.runsBits, size);
+    return codecs::holdsWholeRuns(
+        containers::tailOf(file.bytes(), facts.runsOffset), facts.runsBits, size
+    );
 }
 
 /// A bitmap file; decoded whole.

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 using namespace brenvaldo::platform::containers;
-using namespace brenvaldo::platform::metadata;
 using brenvaldo::test::exifBlock;
 
 namespace {
