@@ -9,3 +9,9 @@ pkg_check_modules(exiv2 REQUIRED IMPORTED_TARGET exiv2>=0.27)
 pkg_check_modules(lcms2 REQUIRED IMPORTED_TARGET lcms2>=2.14)
 pkg_check_modules(sqlite3 REQUIRED IMPORTED_TARGET sqlite3>=3.40)
 find_package(ZLIB REQUIRED)
+find_path(zint_headers zint.h REQUIRED)
+find_library(zint_library zint REQUIRED)
+add_library(zint UNKNOWN IMPORTED)
+set_target_properties(
+  zint PROPERTIES IMPORTED_LOCATION "${zint_library}" INTERFACE_INCLUDE_DIRECTORIES "${zint_headers}"
+)

@@ -13,9 +13,16 @@ CodePanel::CodePanel()
     setLayout({
         {Row{.label = u"Code"_s, .fields = {{.control = &pubCodeType}}}},
         {textRow(u"Text"_s, tfQRtext)},
-        {textRow(u"Folder"_s, tfQRDestination)},
+        {Row{
+            .label = u"Folder"_s,
+            .fields = {{.control = &tfQRDestination}},
+            .hint = u"Ends in \"/\": name and folder are simply joined."_s}},
         {textRow(u"File name"_s, tfQRName)},
-        {textRow(u"Size"_s, tfQRSize, u"px"_s)},
+        {Row{
+            .label = u"Size"_s,
+            .fields = {{.control = &tfQRSize, .unit = u"px"_s}},
+            .hint = u"Scanners want bars and squares of 2 px at least."_s}},
+        {Row{.fields = {{.control = &btnGenerateCode}}}},
     });
 }
 

@@ -18,6 +18,8 @@ struct CodePanel : PanelView
     controls::TextField tfQRDestination{u"tfQRDestination"_s};
     controls::TextField tfQRName{u"tfQRName"_s};
     controls::TextField tfQRSize{u"tfQRSize"_s};
+    controls::Button btnGenerateCode{
+        u"btnGenerateCode"_s, u"Generate code"_s, u"cGUIcontrols.hGenerateCode"_s};
 };
 
 } // namespace brenvaldo::panels

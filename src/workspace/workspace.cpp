@@ -11,6 +11,7 @@
 #include <metadata/mmeta.h>
 #include <presets/preset_manager.h>
 #include <presets/sheet_control.h>
+#include <services/code_actions.h>
 #include <watermark/dv_watermark.h>
 #include <watermark/panel_actions.h>
 #include <workspace/functions/preset_records.h>
@@ -143,6 +144,10 @@ struct Workspace::Parts
     presets::cSheetControl sheetControl;
     presets::cPresetManager presetManager;
     imaging::cColorWellHandling colorWells;
+    services::CodeActions codeActions{
+        panels.vwQRBarCode, [this](const QString& title, const QString& text) {
+            guiControls.hAlertWindow(title, text);
+        }};
     platform::Subscription presetApplied;
     platform::Subscription presetNotSaved;
     bool hasStarted = false;
@@ -157,6 +162,7 @@ void Workspace::Parts::registerActions()
     presetManager.registerActions(actions);
     watermark::registerPanelActions(actions, panels.vwWatermark, notifications);
     colorWells.registerActions(actions);
+    codeActions.registerActions(actions);
 }
 
 void Workspace::Parts::recordLostPreset(const QString& name)

@@ -5,6 +5,7 @@
 
 #include <controls/action_registry.h>
 #include <platform/foundation/literals.h>
+#include <presets/code_record.h>
 #include <presets/image_records.h>
 #include <presets/preset_manager.h>
 #include <presets/watermark_records.h>
@@ -25,6 +26,7 @@ inline QHash<QString, presets::PresetRecord> recordsOf(panels::Panels& panels)
         {u"resizePhotos"_s, presets::resizeRecord(panels)},
         {u"cropPhotos"_s, presets::cropRecord(panels)},
         {u"filters"_s, presets::filterRecord(panels)},
+        {u"batchQR"_s, presets::codeRecord(panels)},
     };
 }
 

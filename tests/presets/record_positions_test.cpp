@@ -325,3 +325,19 @@ TEST(RecordPositions, HoldTheCropAndLoseItsCutOff)
     bench.expectOther(Round::Second, joined(size, cutOff));
     EXPECT_EQ(holder.views(), QStringList(u"dvVCUiCropMinusView"_s));
 }
+
+TEST(RecordPositions, HoldTheCodePanel)
+{
+    RecordBench bench(u"batchQR"_s, u"batchQR"_s, u"FileManagement"_s);
+    bench.expectKept(
+        {
+            bench.destination(),
+            {4, u"tfQRDestination"_s, u"/a4/"_s, u"/b4/"_s},
+            {5, u"tfQRtext"_s, u"a5"_s, u"b5"_s},
+            {6, u"tfQRName"_s, u"a6"_s, u"b6"_s},
+            {7, u"tfQRSize"_s, u"a7"_s, u"b7"_s},
+            {8, u"pubCodeType"_s, u"1"_s, u"0"_s},
+        },
+        {}
+    );
+}

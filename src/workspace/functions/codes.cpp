@@ -3,6 +3,8 @@
 
 #include "function_id.h"
 
+#include <presets/code_record.h>
+
 namespace brenvaldo::workspace {
 
 Function codes()
@@ -14,6 +16,7 @@ Function codes()
         .choice = {.section = Section::FileManagement, .index = 4},
         .holders = {QLatin1String("vwQRBarCode"), Empty, Empty, Empty, Fill},
         .run = OwnButton{.action = QLatin1String("hGenerateCode"), .message = codeRunMessage},
+        .presets = {{.make = presets::codeRecord}},
     };
 }
 
