@@ -8,7 +8,7 @@
 #include <panels/watermark_panel.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
-#include <views/preview_renderer.h>
+#include <views/preview/preview_renderer.h>
 #include <watermark/dv_watermark.h>
 #include <workspace/preview/photo_preview.h>
 

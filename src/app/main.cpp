@@ -6,11 +6,11 @@
 #include <platform/foundation/toolkit_notes.h>
 #include <platform/foundation/user_defaults.h>
 #include <platform/graphics/engine.h>
-#include <views/desktop_scheme.h>
-#include <views/main_window.h>
-#include <views/qt_desktop.h>
-#include <views/qt_file_chooser.h>
-#include <views/theme.h>
+#include <views/look/desktop_scheme.h>
+#include <views/look/theme.h>
+#include <views/window/main_window.h>
+#include <views/window/qt_desktop.h>
+#include <views/window/qt_file_chooser.h>
 #include <workspace/workspace.h>
 
 #include <QFileInfo>

@@ -2,7 +2,7 @@
 #include "support/surroundings.h"
 
 #include <platform/graphics/engine.h>
-#include <views/theme.h>
+#include <views/look/theme.h>
 
 #include <QApplication>
 

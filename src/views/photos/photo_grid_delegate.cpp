@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "photo_grid_delegate.h"
+
+#include "photo_grid_model.h"
+
+#include <platform/foundation/literals.h>
+#include <views/look/icons.h>
+#include <views/look/style_painting.h>
+#include <views/look/theme.h>
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace brenvaldo::views {
+
+namespace {
+
+constexpr int margin = 3;
+constexpr int textMargin = 8; ///< between the edge of the cell and its texts
+constexpr int sizeReach = 4; ///< into that margin; "4608x3456px | 724.52KB" has to fit
+constexpr int cellWidth = 144;
+constexpr int pictureTop = 10;
+constexpr int tickSide = 16;
+constexpr double smallScale = 0.86;
+
+QRect pictureRoom(const QRect& cell)
+{
+    const int side = PhotoGridDelegate::pictureSide;
+    return {cell.center().x() - side / 2, cell.top() + pictureTop, side, side};
+}
+
+/// Draws the picture and answers where it stands; without one, an icon or an empty sheet.
+void paintPicture(QPainter& painter, const QRect& cell, const QModelIndex& index)
+{
+    const QRect room = pictureRoom(cell);
+    const auto picture = index.data(PhotoGridModel::PictureRole).value<QImage>();
+    if (picture.isNull()) {
+        const bool isDocument = index.data(PhotoGridModel::DocumentRole).toBool();
+        const QString drawing = isDocument ? u"document"_s : u"photos"_s;
+        QRect place(0, 0, 48, 48);
+        place.moveCenter(room.center());
+        painter.setOpacity(isDocument ? 1 : 0.4);
+        paintIcon(painter, drawing, place, colours().muted);
+        painter.setOpacity(1);
+        return;
+    }
+    const QSizeF size = QSizeF(picture.size()).scaled(QSizeF(room.size()), Qt::KeepAspectRatio);
+    QRectF place(QPointF(), size);
+    place.moveCenter(QRectF(room).center());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, picture);
+}
+
+void paintLine(QPainter& painter, const QRect& line, const QString& text, Qt::TextElideMode elide)
+{
+    painter.drawText(
+        line, Qt::AlignCenter, painter.fontMetrics().elidedText(text, elide, line.width())
+    );
+}
+
+void paintTexts(
+    QPainter& painter,
+    const QStyleOptionViewItem& option,
+    const QRect& cell,
+    const QModelIndex& index
+)
+{
+    const QString newName = index.data(PhotoGridModel::NewNameRole).toString();
+    const int height = option.fontMetrics.height();
+    QRect line = cell.adjusted(textMargin, 0, -textMargin, 0);
+    line.setTop(pictureRoom(cell).bottom() + 5);
+    line.setHeight(height);
+    const bool isTicked = index.data(PhotoGridModel::TickRole).toBool();
+    painter.setFont(scaledFont(option.font, 0.92));
+    painter.setPen(isTicked ? colours().text : colours().muted);
+    paintLine(painter, line, index.data().toString(), Qt::ElideMiddle);
+    line.translate(0, height);
+    line.adjust(-sizeReach, 0, sizeReach, 0);
+    painter.setFont(scaledFont(option.font, smallScale));
+    const bool isRenamed = !newName.isEmpty();
+    painter.setPen(isRenamed ? colours().accent : colours().muted);
+    const QString below
+        = isRenamed ? u"\u2192 "_s + newName : index.data(PhotoGridModel::SizeRole).toString();
+    paintLine(painter, line, below, isRenamed ? Qt::ElideMiddle : Qt::ElideRight);
+}
+
+} // namespace
+
+QSize PhotoGridDelegate::cellSize(const QFontMetrics& metrics)
+{
+    return {cellWidth, pictureTop + pictureSide + 5 + 2 * metrics.height() + 10};
+}
+
+QRect PhotoGridDelegate::tickRect(const QRect& cell)
+{
+    return {cell.left() + margin + 5, cell.top() + margin + 5, tickSide, tickSide};
+}
+
+QSize PhotoGridDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const
+{
+    return cellSize(option.fontMetrics);
+}
+
+void PhotoGridDelegate::paint(
+    QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index
+) const
+{
+    painter->save();
+    const QRect cell = option.rect;
+    const bool isSelected = option.state & QStyle::State_Selected;
+    const bool isHovered = option.state & QStyle::State_MouseOver;
+    if (isSelected || isHovered) {
+        const bool isFocused = option.state & QStyle::State_HasFocus;
+        paintFieldFrame(
+            *painter,
+            cell.adjusted(margin, margin, -margin, -margin),
+            {.fill = isSelected ? colours().selection : colours().hover,
+             .line = isSelected ? colours().accent : Qt::transparent,
+             .focused = isSelected && isFocused}
+        );
+    }
+    paintPicture(*painter, cell, index);
+    paintTickBox(
+        *painter,
+        {.rect = tickRect(cell),
+         .ticked = index.data(PhotoGridModel::TickRole).toBool(),
+         .onPicture = true}
+    );
+    paintTexts(*painter, option, cell, index);
+    painter->restore();
+}
+
+bool PhotoGridDelegate::editorEvent(
+    QEvent* event,
+    QAbstractItemModel* model,
+    const QStyleOptionViewItem& option,
+    const QModelIndex& index
+)
+{
+    if (event->type() == QEvent::MouseButtonRelease) {
+        const auto* mouse = static_cast<QMouseEvent*>(event);
+        const QRect target = tickRect(option.rect).adjusted(-4, -4, 4, 4);
+        if (mouse->button() == Qt::LeftButton && target.contains(mouse->position().toPoint())) {
+            Q_EMIT tickClicked(index.row());
+            return true;
+        }
+    }
+    return QStyledItemDelegate::editorEvent(event, model, option, index);
+}
+
+} // namespace brenvaldo::views
