@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ground.h"
+
+#include "photo_color.h"
+
+#include <platform/graphics/image_node.h>
+#include <platform/graphics/region_kernel.h>
+
+#include <limits>
+
+namespace brenvaldo::platform::drawing {
+
+using graphics::ImageNode;
+using graphics::KernelRow;
+
+namespace {
+
+template <class Sample>
+vips::VImage opaquePixels(const vips::VImage& pixels, const std::vector<double>& ground)
+{
+    constexpr double full = std::numeric_limits<Sample>::max();
+    const graphics::KernelOutput output
+        = {pixels.bands(), pixels.format(), pixels.interpretation()};
+    return graphics::mapRows(std::array{pixels}, output, [ground](const KernelRow<1>& row) {
+        const auto* in = row.template input<Sample>(0);
+        auto* out = row.template out<Sample>();
+        for (int i = 0; i < row.count; ++i) {
+            const double share = in[ground.size()] / full;
+            for (const double below : ground)
+                *out++ = static_cast<Sample>(*in++ * share + below * (1 - share) + 0.5);
+            *out++ = std::numeric_limits<Sample>::max();
+            ++in;
+        }
+    });
+}
+
+vips::VImage opaqueOn(const ImageNode& node, const std::vector<double>& ground)
+{
+    if (!node.hasAlpha)
+        return node.pixels;
+    return node.pixels.format() == VIPS_FORMAT_USHORT ? opaquePixels<quint16>(node.pixels, ground)
+                                                      : opaquePixels<quint8>(node.pixels, ground);
+}
+
+} // namespace
+
+graphics::Image laidOn(const Ground& ground, const graphics::Image& picture, QPoint place)
+{
+    const ImageNode& node = *picture.node();
+    return graphics::builtImage(node, ground.size, [&] {
+        const std::vector<double> color = samplesOf(ground.color, node);
+        std::vector<double> background = color;
+        if (node.hasAlpha)
+            background.push_back(node.pixels.format() == VIPS_FORMAT_USHORT ? 65535 : 255);
+        return node.withPixels(opaqueOn(node, color)
+                                   .embed(
+                                       place.x(),
+                                       place.y(),
+                                       ground.size.width,
+                                       ground.size.height,
+                                       vips::VImage::option()
+                                           ->set("extend", VIPS_EXTEND_BACKGROUND)
+                                           ->set("background", background)
+                                   ));
+    });
+}
+
+} // namespace brenvaldo::platform::drawing
