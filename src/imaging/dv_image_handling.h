@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "frame_settings.h"
 #include "output_tail.h"
 #include "picture_to_save.h"
 
@@ -142,6 +143,33 @@ public:
     /// pixel a point; nothing when no pixel is left.
     [[nodiscard]] static std::optional<platform::graphics::Image>
     hRotatePictureBase(const platform::graphics::Image& image, float angle);
+
+    /// Draws a frame inside or around the stored pixels of a photo; `opacity` is that of
+    /// `frameOpacity`.
+    ///
+    /// A frame type that is neither answers the word of the photo before.
+    [[nodiscard]] static Outcome hAddFrame(
+        const SourceAndBase& photo,
+        const FrameSettings& settings,
+        double opacity,
+        const OutputTail& tail
+    );
+
+    /// The picture of `hAddFrame` at the opacity of `shownOpacity`; nothing without a frame type or
+    /// a photo.
+    [[nodiscard]] static std::optional<platform::graphics::Image>
+    hAddFramePreview(const QString& path, const FrameSettings& settings);
+
+    /// The picture with a frame inside, as `hAddFramePreview` draws it, at one pixel a point; the
+    /// frame type is not asked for.
+    [[nodiscard]] static platform::graphics::Image peeAddBorderToImageInside(
+        const platform::graphics::Image& image, const FrameSettings& settings
+    );
+
+    /// Draws a line along the edge of the photo at `path` and replaces the file; half of `width`
+    /// pixels falls on the picture.
+    ResultWord
+    addBorderToImage2(const QString& path, const platform::graphics::Color& color, double width);
 
     /// The text layer as a relief, lit by `texture` ("texture1" to "texture8"); as large and as
     /// opaque as the layer. "texture6" is the ball of `h3DcolorEffect` in `color`.

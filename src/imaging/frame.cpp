@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dv_image_handling.h"
+
+#include "dv_color_conversions.h"
+#include "frame_rules.h"
+#include "resolution_rules.h"
+#include "unreadable_photo.h"
+
+#include <platform/codecs/image_source.h>
+#include <platform/containers/type_identifier.h>
+#include <platform/drawing/ground.h>
+#include <platform/drawing/stroke.h>
+#include <platform/foundation/literals.h>
+#include <platform/foundation/log.h>
+#include <platform/foundation/paths.h>
+#include <platform/metadata/metadata_reader.h>
+
+namespace brenvaldo::imaging {
+
+using platform::codecs::ImageSource;
+using platform::codecs::SourceAccess;
+using platform::drawing::Paint;
+using platform::graphics::Image;
+using platform::graphics::PixelSize;
+
+namespace {
+
+/// A line with what it is drawn with, measured upward from the bottom left corner.
+struct DrawnLine
+{
+    QPainterPath path;
+    double width = 0;
+    Paint paint;
+};
+
+Image drawn(const Image& canvas, DrawnLine line)
+{
+    const QTransform place = toPixels(canvas.pixelSize());
+    if (line.paint.fade)
+        line.paint.fade
+            = {.start = place.map(line.paint.fade->start), .end = place.map(line.paint.fade->end)};
+    const QPainterPath shape = platform::drawing::stroked(line.path, {.width = line.width});
+    return platform::drawing::painted(canvas, place.map(shape), line.paint);
+}
+
+Paint paintOf(const FrameSettings& settings, double opacity, const Paint::Fade& fade)
+{
+    Paint paint
+        = {.color = DVColorConversions::NSColorToCGColor(settings.colour),
+           .opacity = opacity,
+           .blend = frameBlendAt(settings.blendIndex)};
+    if (settings.gradientState == 1)
+        paint.fade = fade;
+    return paint;
+}
+
+/// A fade's rectangle begins at the inset, but only one of two insets is taken off its size.
+Image framedInside(const Image& photo, const FrameSettings& settings, double opacity)
+{
+    const PixelSize size = photo.pixelSize();
+    const auto thickness = static_cast<double>(settings.thickness);
+    const auto inset = static_cast<double>(settings.inset);
+    const QPointF middle(inset + (size.width - inset) * 0.5, inset + (size.height - inset) * 0.5);
+    return drawn(
+        photo,
+        {.path = frameLine(size, thickness * 0.5 + inset, inset),
+         .width = thickness,
+         .paint = paintOf(settings, opacity, fadeThrough(middle, size, settings.angleIndex))}
+    );
+}
+
+/// A fade has the photo's size and begins in the corner of the canvas, not of the photo.
+std::optional<Image>
+framedOutside(const Image& photo, const FrameSettings& settings, double opacity)
+{
+    const PixelSize size = photo.pixelSize();
+    const PixelSize canvas = grownBy(size, settings.thickness);
+    if (canvas == PixelSize{})
+        return std::nullopt;
+    const int margin = static_cast<int>(settings.thickness);
+    const auto thickness = static_cast<double>(settings.thickness);
+    const QPointF middle(size.width * 0.5, size.height * 0.5);
+    return drawn(
+        platform::drawing::laidOn(
+            {.size = canvas, .color = {.red = 1, .green = 1, .blue = 1}}, photo, {margin, margin}
+        ),
+        {.path = frameLine(canvas, thickness * 0.5, 0),
+         .width = thickness,
+         .paint = paintOf(settings, opacity, fadeThrough(middle, size, settings.angleIndex))}
+    );
+}
+
+std::optional<Image>
+framed(const Image& photo, FrameType type, const FrameSettings& settings, double opacity)
+{
+    if (type == FrameType::Outside)
+        return framedOutside(photo, settings, opacity);
+    return framedInside(photo, settings, opacity);
+}
+
+std::optional<Image> storedPhoto(const QString& path, SourceAccess access)
+{
+    const auto source = ImageSource::open(path);
+    return source ? source->image({.access = access}) : std::nullopt;
+}
+
+/// The line runs on the edge, so that half of it falls on the picture.
+QPainterPath edgeLine(PixelSize size)
+{
+    QPainterPath line(QPointF(0, 0));
+    line.lineTo(0, size.height);
+    line.lineTo(size.width, size.height);
+    line.lineTo(size.width, 0);
+    line.lineTo(0, 0);
+    return line;
+}
+
+} // namespace
+
+Outcome DVImageHandling::hAddFrame(
+    const SourceAndBase& photo,
+    const FrameSettings& settings,
+    double opacity,
+    const OutputTail& tail
+)
+{
+    const auto type = frameTypeAt(settings.frameType);
+    if (!type)
+        return WordOfPictureBefore{};
+    const auto image = storedPhoto(photo.source, SourceAccess::OnePass);
+    if (!image) {
+        if (type == FrameType::Inside)
+            platform::log(u"no imageRef"_s);
+        return unreadablePhoto(tail);
+    }
+    return outputPicture(framed(*image, *type, settings, opacity), photo, tail);
+}
+
+std::optional<Image>
+DVImageHandling::hAddFramePreview(const QString& path, const FrameSettings& settings)
+{
+    const auto type = frameTypeAt(settings.frameType);
+    const auto image = type ? storedPhoto(path, SourceAccess::Random) : std::nullopt;
+    if (!image)
+        return std::nullopt;
+    return framed(*image, *type, settings, shownOpacity(settings.opacity));
+}
+
+Image DVImageHandling::peeAddBorderToImageInside(const Image& image, const FrameSettings& settings)
+{
+    return imageFromCGImageRef(framedInside(image, settings, shownOpacity(settings.opacity)));
+}
+
+ResultWord DVImageHandling::addBorderToImage2(
+    const QString& path, const platform::graphics::Color& color, double width
+)
+{
+    m_storeResult = ResultWord::Failed;
+    const auto image = storedPhoto(path, SourceAccess::OnePass);
+    if (!image)
+        return m_storeResult;
+    const DrawnLine line
+        = {.path = edgeLine(image->pixelSize()),
+           .width = width,
+           .paint = {.color = DVColorConversions::NSColorToCGColor(color)}};
+    m_storeResult = hSaveToNewImageFile({
+        .destination = path,
+        .typeIdentifier
+        = platform::containers::preferredTypeIdentifier(platform::pathExtension(path)),
+        .image = drawn(*image, line),
+        .properties = platform::metadata::readMetadataBlocks(path),
+    });
+    return m_storeResult;
+}
+
+} // namespace brenvaldo::imaging
