@@ -19,7 +19,7 @@ namespace brenvaldo::imaging {
 
 using platform::codecs::ImageSource;
 using platform::codecs::SourceAccess;
-using platform::drawing::Paint;
+using platform::drawing::ShapePaint;
 using platform::graphics::Image;
 using platform::graphics::PixelSize;
 
@@ -30,7 +30,7 @@ struct DrawnLine
 {
     QPainterPath path;
     double width = 0;
-    Paint paint;
+    ShapePaint paint;
 };
 
 Image drawn(const Image& canvas, DrawnLine line)
@@ -43,9 +43,9 @@ Image drawn(const Image& canvas, DrawnLine line)
     return platform::drawing::painted(canvas, place.map(shape), line.paint);
 }
 
-Paint paintOf(const FrameSettings& settings, double opacity, const Paint::Fade& fade)
+ShapePaint paintOf(const FrameSettings& settings, double opacity, const ShapePaint::Fade& fade)
 {
-    Paint paint
+    ShapePaint paint
         = {.color = DVColorConversions::NSColorToCGColor(settings.colour),
            .opacity = opacity,
            .blend = frameBlendAt(settings.blendIndex)};

@@ -8,7 +8,7 @@
 
 namespace brenvaldo::imaging {
 
-using platform::drawing::Paint;
+using platform::drawing::ShapePaint;
 using platform::graphics::PixelSize;
 
 namespace {
@@ -40,21 +40,21 @@ std::optional<FrameType> frameTypeAt(int index)
     return std::nullopt;
 }
 
-Paint::Blend frameBlendAt(int index)
+ShapePaint::Blend frameBlendAt(int index)
 {
     switch (index) {
     case 1:
-        return Paint::Blend::Darken;
+        return ShapePaint::Blend::Darken;
     case 2:
-        return Paint::Blend::Lighten;
+        return ShapePaint::Blend::Lighten;
     case 3:
-        return Paint::Blend::Multiply;
+        return ShapePaint::Blend::Multiply;
     case 4:
-        return Paint::Blend::Overlay;
+        return ShapePaint::Blend::Overlay;
     case 5:
-        return Paint::Blend::Color;
+        return ShapePaint::Blend::Color;
     default:
-        return Paint::Blend::Normal;
+        return ShapePaint::Blend::Normal;
     }
 }
 
@@ -94,7 +94,7 @@ QPainterPath frameLine(PixelSize canvas, double distance, double begin)
     return line;
 }
 
-Paint::Fade fadeThrough(QPointF middle, PixelSize size, int angleIndex)
+ShapePaint::Fade fadeThrough(QPointF middle, PixelSize size, int angleIndex)
 {
     const double angle = radiansAt(angleIndex);
     const QPointF half(size.width * std::cos(angle) * 0.5, size.height * std::sin(angle) * 0.5);
