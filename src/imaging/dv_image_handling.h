@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "crop_rules.h"
 #include "frame_settings.h"
 #include "output_tail.h"
 #include "picture_to_save.h"
@@ -124,6 +125,36 @@ public:
     [[nodiscard]] static std::optional<platform::graphics::Image>
     hScalePictureBase(const platform::graphics::Image& image, float factor);
 
+    /// Cuts a rectangle out of a photo, whose orientation is applied. What lies outside of the
+    /// photo is left out; a rectangle that is all outside fails in the writer.
+    ///
+    /// An anchor that there is not leaves the place where the object had it last.
+    [[nodiscard]] Outcome
+    hCropPhotos(const SourceAndBase& photo, const CropSettings& settings, const OutputTail& tail);
+
+    /// A transparent picture, as large as the upright photo at `path`, with the outline of the
+    /// rectangle; nothing when the photo can't be read.
+    [[nodiscard]] std::optional<platform::graphics::Image>
+    hCropPhotosPreview(const QString& path, const CropSettings& settings);
+
+    /// A crop of a gallery's picture.
+    struct GalleryCrop
+    {
+        platform::graphics::PixelSize size;
+        QString kind
+            = {}; ///< "myCropThumb" takes the offset of thumbnails, any other that of big ones
+        int anchor = 0;
+        CropOffset thumbnailOffset = {};
+        CropOffset bigOffset = {};
+    };
+
+    /// Cuts a rectangle out of the stored pixels of the photo at `path` and writes it under its
+    /// name into `folder`, which ends in "/".
+    ///
+    /// "Not Supported" for Photoshop and PDF files; "OK", and nothing written, when there is no
+    /// file.
+    ResultWord cropImage9(const QString& path, const QString& folder, const GalleryCrop& crop);
+
     /// Turns the photo at `path` by `angle` degrees and writes it under its name into `folder`,
     /// which ends in "/" and may be the photo's own.
     ///
@@ -201,10 +232,19 @@ public:
     [[nodiscard]] ResultWord storeResult() const { return m_storeResult; }
 
 private:
+    /// The part of `photo` at the place of the anchor, or at the last one for an anchor that there
+    /// is not.
+    [[nodiscard]] std::optional<platform::graphics::Image> cutOut(
+        const platform::graphics::Image& photo,
+        const std::optional<QPoint>& origin,
+        platform::graphics::PixelSize size
+    );
+
     std::optional<ResultWord>
     flipPicture(const QString& path, const QString& folder, platform::graphics::Image::Axis axis);
 
     double m_currentDPI = 0;
+    QPoint m_cropOrigin; ///< of the last crop or outline
     ResultWord m_storeResult = ResultWord::Failed;
 };
 

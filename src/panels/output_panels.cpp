@@ -8,6 +8,8 @@ namespace brenvaldo::panels {
 ShowPreviewPanel::ShowPreviewPanel()
     : PanelView(u"vwShowPreview"_s)
 {
+    cbShowPreview.addAlias(u"cbCropPreview"_s);
+    cbShowPreview.addAlias(u"cbAddFilterPreview"_s);
     cbShowPreview.addAction(u"cCollectionViewController.hCheckboxPreviewTouched"_s);
     setLayout({{Row{.fields = {{.control = &cbShowPreview}}}}});
 }

@@ -119,11 +119,13 @@ TEST(Functions, OfThisVersionAreThese)
 {
     EXPECT_THAT(
         idsOf([](const auto& row) { return workspace::hasOperation(row.run); }),
-        UnorderedElementsAre(u"textWM"_s, u"framing"_s, u"resizePhotos"_s, u"batchFileConvert"_s)
+        UnorderedElementsAre(
+            u"textWM"_s, u"framing"_s, u"resizePhotos"_s, u"batchFileConvert"_s, u"cropPhotos"_s
+        )
     );
     EXPECT_THAT(
         idsOf([](const auto& row) { return static_cast<bool>(row.preview); }),
-        UnorderedElementsAre(u"textWM"_s, u"framing"_s)
+        UnorderedElementsAre(u"textWM"_s, u"framing"_s, u"cropPhotos"_s)
     );
 }
 

@@ -47,17 +47,17 @@ protected:
 
 TEST_F(RunOfferTest, RunsFunctionsWhoseOperationIsThere)
 {
-    EXPECT_EQ(offerOf(u"cropPhotos"_s), RunOffer::ComesLater);
+    EXPECT_EQ(offerOf(u"faces"_s), RunOffer::ComesLater);
     EXPECT_EQ(offerOf(functionId::htmlExport), RunOffer::ComesLater);
 
     for (workspace::Function& function : functions) {
-        if (function.id == QLatin1String("cropPhotos"))
+        if (function.id == QLatin1String("faces"))
             function.run = workspace::PhotoRun{.start = [](const auto&) {
                 return [](const auto&) { return imaging::ResultWord::Ok; };
             }};
     }
 
-    EXPECT_EQ(offerOf(u"cropPhotos"_s), RunOffer::Run);
+    EXPECT_EQ(offerOf(u"faces"_s), RunOffer::Run);
     EXPECT_EQ(offerOf(functionId::htmlExport), RunOffer::ComesLater);
 }
 
