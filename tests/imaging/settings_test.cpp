@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <imaging/crop_settings.h>
+#include <imaging/frame_settings.h>
 #include <imaging/resize_settings.h>
 #include <imaging/tint_settings.h>
 #include <platform/foundation/literals.h>
 
 #include <panels/crop_panel.h>
+#include <panels/framing_panel.h>
 #include <panels/resize_panel.h>
 #include <panels/tint_panel.h>
 #include <support/geometry_printing.h>
@@ -59,6 +61,32 @@ TEST(CropSettings, TakeThePhotosOwnSizeForARunWithoutSize)
 
     panel.dvVCUiCropWxHView.tfCropWidth.setStringValue(u"10"_s);
     EXPECT_EQ(imaging::readSettings(panel, path).size, (platform::graphics::PixelSize{10, 20}));
+}
+
+TEST(FrameSettings, AreReadFromTheirControls)
+{
+    panels::FramingPanel panel;
+    panel.pubFramingType.selectIndex(1);
+    panel.tfFramingThickness.setStringValue(u"11"_s);
+    panel.tfFramingInset.setStringValue(u"-12"_s);
+    panel.tfFramingOpacity.setStringValue(u"13"_s);
+    panel.pubFramingRenderMethod.selectIndex(4);
+    panel.cbFramingGradient.setState(1);
+    panel.pubFramingGradientAngle.selectIndex(2);
+    panel.myNSColorWellObjFraming.setColor({.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 0.5});
+
+    EXPECT_EQ(
+        imaging::readSettings(panel),
+        (imaging::FrameSettings{
+            .frameType = 1,
+            .thickness = 11,
+            .inset = -12,
+            .opacity = 13,
+            .blendIndex = 4,
+            .gradientState = 1,
+            .angleIndex = 2,
+            .colour = {.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1}})
+    );
 }
 
 TEST(TintSettings, AreReadFromTheirControls)
