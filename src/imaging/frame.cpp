@@ -4,7 +4,7 @@
 #include "dv_color_conversions.h"
 #include "frame_rules.h"
 #include "resolution_rules.h"
-#include "unreadable_photo.h"
+#include "source_photo.h"
 
 #include <platform/codecs/image_source.h>
 #include <platform/containers/type_identifier.h>

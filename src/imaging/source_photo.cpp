@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "unreadable_photo.h"
+#include "source_photo.h"
 
 #include "writer_rules.h"
 
