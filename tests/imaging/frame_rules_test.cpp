@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 using namespace brenvaldo::imaging;
-using brenvaldo::platform::drawing::Paint;
+using brenvaldo::platform::drawing::ShapePaint;
 using brenvaldo::platform::graphics::PixelSize;
 
 TEST(FrameRules, KnowTwoTypes)
@@ -19,14 +19,14 @@ TEST(FrameRules, KnowTwoTypes)
 
 TEST(FrameRules, HaveABlendTableOfTheirOwn)
 {
-    EXPECT_EQ(frameBlendAt(0), Paint::Blend::Normal);
-    EXPECT_EQ(frameBlendAt(1), Paint::Blend::Darken);
-    EXPECT_EQ(frameBlendAt(2), Paint::Blend::Lighten);
-    EXPECT_EQ(frameBlendAt(3), Paint::Blend::Multiply);
-    EXPECT_EQ(frameBlendAt(4), Paint::Blend::Overlay);
-    EXPECT_EQ(frameBlendAt(5), Paint::Blend::Color);
-    EXPECT_EQ(frameBlendAt(6), Paint::Blend::Normal);
-    EXPECT_EQ(frameBlendAt(-1), Paint::Blend::Normal);
+    EXPECT_EQ(frameBlendAt(0), ShapePaint::Blend::Normal);
+    EXPECT_EQ(frameBlendAt(1), ShapePaint::Blend::Darken);
+    EXPECT_EQ(frameBlendAt(2), ShapePaint::Blend::Lighten);
+    EXPECT_EQ(frameBlendAt(3), ShapePaint::Blend::Multiply);
+    EXPECT_EQ(frameBlendAt(4), ShapePaint::Blend::Overlay);
+    EXPECT_EQ(frameBlendAt(5), ShapePaint::Blend::Color);
+    EXPECT_EQ(frameBlendAt(6), ShapePaint::Blend::Normal);
+    EXPECT_EQ(frameBlendAt(-1), ShapePaint::Blend::Normal);
 }
 
 TEST(FrameRules, ReadOpacitiesInThreeWays)
@@ -79,7 +79,7 @@ TEST(FrameRules, LeadTheLineAroundFromTheLowerLeft)
 TEST(FrameRules, FadeInFourDirections)
 {
     const auto expectFade = [](int index, QPointF start, QPointF end) {
-        const Paint::Fade fade = fadeThrough({50, 40}, {100, 60}, index);
+        const ShapePaint::Fade fade = fadeThrough({50, 40}, {100, 60}, index);
         EXPECT_NEAR(fade.start.x(), start.x(), 1e-9) << index;
         EXPECT_NEAR(fade.start.y(), start.y(), 1e-9) << index;
         EXPECT_NEAR(fade.end.x(), end.x(), 1e-9) << index;
