@@ -5,12 +5,14 @@
 #include "frame_settings.h"
 #include "output_tail.h"
 #include "picture_to_save.h"
+#include "tint_settings.h"
 
 #include <platform/containers/metadata_blocks.h>
 #include <platform/graphics/color.h>
 #include <platform/graphics/image.h>
 
 #include <QImage>
+#include <QPoint>
 #include <QString>
 #include <QUrl>
 
@@ -119,6 +121,17 @@ public:
         int aspectState,
         const OutputTail& tail
     );
+
+    /// Lays a tint over the stored pixels of a photo.
+    ///
+    /// An anchor that is none takes the origin of the area before; (0, 0) at first.
+    [[nodiscard]] Outcome addTintToImage2(
+        const SourceAndBase& photo, const TintSettings& settings, const OutputTail& tail
+    );
+
+    /// The picture that `addTintToImage2` makes of a photo with those stored pixels.
+    [[nodiscard]] platform::graphics::Image
+    addTintToImage2Preview(const platform::graphics::Image& photo, const TintSettings& settings);
 
     /// The picture at `factor` (0.5 is half) of its size in points, at one pixel a point; nothing
     /// when no pixel is left. A negative factor also turns it upside down.
@@ -243,8 +256,12 @@ private:
     std::optional<ResultWord>
     flipPicture(const QString& path, const QString& folder, platform::graphics::Image::Axis axis);
 
+    [[nodiscard]] platform::graphics::Image
+    tinted(const platform::graphics::Image& photo, const TintSettings& settings);
+
     double m_currentDPI = 0;
     QPoint m_cropOrigin; ///< of the last crop or outline
+    QPoint m_areaOrigin; ///< of the last tint, from the photo's bottom left corner
     ResultWord m_storeResult = ResultWord::Failed;
 };
 

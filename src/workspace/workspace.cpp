@@ -135,7 +135,11 @@ struct Workspace::Parts
          .outputName
          = [this](const QString& path) { return guiControls.driver().outputName(path); },
          .previewPhoto = [this](const QString& path) { return previewPhotos.photo(path); }}};
-    Subsystems subsystems{.panels = panels, .imageHandling = imageHandling, .watermark = watermark};
+    Subsystems subsystems{
+        .panels = panels,
+        .imageHandling = imageHandling,
+        .watermark = watermark,
+        .previewPhotos = previewPhotos};
     Neighbours neighbours = neighboursOf(imageHandling, meta);
     PresetRecords presetRecords{functions, subsystems};
     cCollectionViewController collectionView;

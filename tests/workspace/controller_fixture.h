@@ -136,6 +136,13 @@ protected:
             = workspace::Functions(workspace::functions()).withId(QString::fromLatin1(id))->run;
     }
 
+    /// Gives a function its own preview again.
+    void restorePreview(const char* id)
+    {
+        row(id).preview
+            = workspace::Functions(workspace::functions()).withId(QString::fromLatin1(id))->preview;
+    }
+
     /// Gives a function that runs photo by photo an operation.
     void runs(const char* id, const workspace::PhotoRun::Operation& operation)
     {
@@ -196,7 +203,10 @@ protected:
          .previewPhoto = [this](const QString& path) { return previewPhotos.photo(path); }}};
     workspace::Functions functions{workspace::functions()};
     workspace::Subsystems subsystems{
-        .panels = panels, .imageHandling = imageHandling, .watermark = mark};
+        .panels = panels,
+        .imageHandling = imageHandling,
+        .watermark = mark,
+        .previewPhotos = previewPhotos};
     workspace::Neighbours neighbours;
     QueuedChooser chooser;
     RecordingDesktop desktop;

@@ -244,6 +244,16 @@ Image stamped(const Image& photo, std::function<Stamp()> makeStamp)
     });
 }
 
+Image markedOn(const Image& photo, const Image& picture)
+{
+    const auto [width, height] = picture.pixelSize();
+    const PixelRect all = {.width = width, .height = height};
+    ImageNode marked = *picture.node();
+    marked.stampedOn = photo.node();
+    marked.stampedPart = [all] { return all; };
+    return graphics::makeImage(std::move(marked));
+}
+
 bool isStamped(const Image& marked, const Image& photo)
 {
     return marked.node()->stampedOn == photo.node();

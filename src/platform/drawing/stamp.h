@@ -58,6 +58,11 @@ struct Stamp
 [[nodiscard]] graphics::Image
 stamped(const graphics::Image& photo, std::function<Stamp()> makeStamp);
 
+/// `picture` as `photo` with a stamp that covers all of it: nothing of the photo is to show
+/// through.
+[[nodiscard]] graphics::Image
+markedOn(const graphics::Image& photo, const graphics::Image& picture);
+
 /// True when `marked` is `photo` with a stamp on it.
 [[nodiscard]] bool isStamped(const graphics::Image& marked, const graphics::Image& photo);
 

@@ -13,12 +13,15 @@ class DVWatermark;
 
 namespace brenvaldo::workspace {
 
+class PreviewPhotos;
+
 /// The objects that functions work with; they live as long as the program.
 struct Subsystems
 {
     panels::Panels& panels;
     imaging::DVImageHandling& imageHandling;
     watermark::DVWatermark& watermark;
+    PreviewPhotos& previewPhotos;
 };
 
 } // namespace brenvaldo::workspace

@@ -17,16 +17,6 @@ namespace {
 /// As many as are worth their memory: the one in view and the one before.
 constexpr qsizetype keptPhotos = 2;
 
-std::optional<platform::graphics::Image> openedForDrawing(const QString& path)
-{
-    const auto source = platform::codecs::ImageSource::open(path);
-    if (!source)
-        return std::nullopt;
-    return source->uprightImage(
-        {.access = platform::codecs::ImageSource::Access::Random, .atLeast = std::nullopt}
-    );
-}
-
 /// `picture` in 8-bit sRGB; nothing when it is damaged.
 std::optional<platform::graphics::Image> screenPicture(const platform::graphics::Image& picture)
 {
@@ -54,21 +44,49 @@ std::optional<platform::graphics::Image> baseOf(const platform::graphics::Image&
 
 std::optional<platform::graphics::Image> PreviewPhotos::photo(const QString& path)
 {
+    return keptPhoto(path, Pixels::Upright);
+}
+
+std::optional<platform::graphics::Image> PreviewPhotos::storedPhoto(const QString& path)
+{
+    const auto source = platform::codecs::ImageSource::open(path);
+    const bool isUpright = source && source->header().orientation == 1;
+    return keptPhoto(path, isUpright ? Pixels::Upright : Pixels::Stored);
+}
+
+std::optional<platform::graphics::Image> PreviewPhotos::opened(const QString& path, Pixels pixels)
+{
+    const auto source = platform::codecs::ImageSource::open(path);
+    if (!source)
+        return std::nullopt;
+    const platform::codecs::SourceRequest request
+        = {.access = platform::codecs::SourceAccess::Random, .atLeast = std::nullopt};
+    return pixels == Pixels::Stored ? source->image(request) : source->uprightImage(request);
+}
+
+std::optional<platform::graphics::Image>
+PreviewPhotos::keptPhoto(const QString& path, Pixels pixels)
+{
     const QFileInfo file(path);
+    const auto isSame
+        = [&](const Kept& kept) { return kept.path == path && kept.pixels == pixels; };
     const auto found = std::find_if(m_kept.begin(), m_kept.end(), [&](const Kept& kept) {
-        return kept.path == path && kept.modified == file.lastModified()
-            && kept.bytes == file.size();
+        return isSame(kept) && kept.modified == file.lastModified() && kept.bytes == file.size();
     });
     if (found != m_kept.end()) {
         m_kept.move(std::distance(m_kept.begin(), found), 0);
         return m_kept.first().image;
     }
-    const auto image = openedForDrawing(path);
+    const auto image = opened(path, pixels);
     if (!image)
         return std::nullopt;
-    m_kept.removeIf([&](const Kept& kept) { return kept.path == path; });
+    m_kept.removeIf(isSame);
     m_kept.prepend(
-        {.path = path, .modified = file.lastModified(), .bytes = file.size(), .image = *image}
+        {.path = path,
+         .pixels = pixels,
+         .modified = file.lastModified(),
+         .bytes = file.size(),
+         .image = *image}
     );
     if (m_kept.size() > keptPhotos)
         m_kept.removeLast();

@@ -11,25 +11,36 @@
 
 namespace brenvaldo::workspace {
 
-/// The photos that the big preview shows: upright, at full size.
+/// The photos that the big preview shows, at full size.
 ///
-/// A photo's pixels are decoded when they are first drawn and kept while the photo is one of the
-/// last two asked for, so that a change of a control does not decode it again. A file that has
+/// A photo's pixels are decoded when they are first drawn and kept while they are one of the last
+/// two asked for, so that a change of a control does not decode it again. A file that has
 /// changed on disk is read anew.
 class PreviewPhotos
 {
 public:
-    /// Nothing when the file can't be read.
+    /// The upright photo; nothing when the file can't be read.
     [[nodiscard]] std::optional<platform::graphics::Image> photo(const QString& path);
 
+    /// The photo as it is stored: the same as `photo` where it is stored upright.
+    [[nodiscard]] std::optional<platform::graphics::Image> storedPhoto(const QString& path);
+
 private:
+    enum class Pixels { Upright, Stored };
+
     struct Kept
     {
         QString path;
+        Pixels pixels = Pixels::Upright;
         QDateTime modified;
         qint64 bytes = 0;
         platform::graphics::Image image;
     };
+
+    [[nodiscard]] static std::optional<platform::graphics::Image>
+    opened(const QString& path, Pixels pixels);
+    [[nodiscard]] std::optional<platform::graphics::Image>
+    keptPhoto(const QString& path, Pixels pixels);
 
     QList<Kept> m_kept;
 };

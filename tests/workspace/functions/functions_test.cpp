@@ -2,6 +2,7 @@
 #include <platform/foundation/literals.h>
 #include <workspace/functions/functions.h>
 #include <workspace/functions/preset_records.h>
+#include <workspace/preview/photo_preview.h>
 
 #include <imaging/dv_image_handling.h>
 #include <panels/panels.h>
@@ -120,12 +121,17 @@ TEST(Functions, OfThisVersionAreThese)
     EXPECT_THAT(
         idsOf([](const auto& row) { return workspace::hasOperation(row.run); }),
         UnorderedElementsAre(
-            u"textWM"_s, u"framing"_s, u"resizePhotos"_s, u"batchFileConvert"_s, u"cropPhotos"_s
+            u"textWM"_s,
+            u"framing"_s,
+            u"resizePhotos"_s,
+            u"batchFileConvert"_s,
+            u"cropPhotos"_s,
+            u"addTint"_s
         )
     );
     EXPECT_THAT(
         idsOf([](const auto& row) { return static_cast<bool>(row.preview); }),
-        UnorderedElementsAre(u"textWM"_s, u"framing"_s, u"cropPhotos"_s)
+        UnorderedElementsAre(u"textWM"_s, u"framing"_s, u"cropPhotos"_s, u"addTint"_s)
     );
 }
 
@@ -146,8 +152,12 @@ TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
          .bar = panels.window.myProgressBar,
          .outputName = platform::lastPathComponent,
          .previewPhoto = [](const QString&) { return std::nullopt; }}};
+    workspace::PreviewPhotos previewPhotos;
     const workspace::Subsystems subsystems{
-        .panels = panels, .imageHandling = imageHandling, .watermark = mark};
+        .panels = panels,
+        .imageHandling = imageHandling,
+        .watermark = mark,
+        .previewPhotos = previewPhotos};
     const workspace::PresetRecords records(rows(), subsystems);
 
     const std::map<QString, QString> expected{
@@ -192,8 +202,12 @@ TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)
          .bar = panels.window.myProgressBar,
          .outputName = platform::lastPathComponent,
          .previewPhoto = [](const QString&) { return std::nullopt; }}};
+    workspace::PreviewPhotos previewPhotos;
     const workspace::Subsystems subsystems{
-        .panels = panels, .imageHandling = imageHandling, .watermark = mark};
+        .panels = panels,
+        .imageHandling = imageHandling,
+        .watermark = mark,
+        .previewPhotos = previewPhotos};
     workspace::Functions functions({*rows().withId(u"fileRenaming"_s)});
     functions.begin()->presets
         = {{.make = make, .applies = isFirstTab},

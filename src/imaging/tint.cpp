@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dv_image_handling.h"
+
+#include "tint_rules.h"
+
+#include <platform/drawing/paint.h>
+#include <platform/drawing/stamp.h>
+#include <platform/filters/photo_effect.h>
+#include <platform/foundation/literals.h>
+#include <platform/foundation/log.h>
+#include <platform/graphics/gray_as_rgb.h>
+
+namespace brenvaldo::imaging {
+
+using platform::drawing::LinearGradient;
+using platform::drawing::Paint;
+using platform::graphics::Image;
+
+namespace {
+
+/// The photo below the tint. In black and white it can take any colour, though its file is grey.
+Image groundOf(const Image& photo, int duoToneState)
+{
+    if (duoToneState != 1)
+        return photo;
+    return platform::filters::photoEffectNoir(platform::graphics::grayAsRgb(photo));
+}
+
+Paint paintOf(const TintSettings& settings, const TintArea& area, int photoHeight)
+{
+    if (settings.gradientState != 1)
+        return settings.colour;
+    const auto fromTop
+        = [photoHeight](QPointF point) { return QPointF(point.x(), photoHeight - point.y()); };
+    const FadeLine line = fadeLine(area, settings.angleIndex);
+    return LinearGradient{
+        .fade = {.from = settings.colour, .to = platform::drawing::clearColor},
+        .start = fromTop(line.start),
+        .end = fromTop(line.end)};
+}
+
+} // namespace
+
+Image DVImageHandling::tinted(const Image& photo, const TintSettings& settings)
+{
+    const TintArea area = tintArea(settings, photo.pixelSize(), m_areaOrigin);
+    m_areaOrigin = area.origin;
+    return platform::drawing::painted(
+        groundOf(photo, settings.duoToneState),
+        {.area = visiblePart(area, photo.pixelSize()),
+         .paint = paintOf(settings, area, photo.height()),
+         .mode = tintBlendMode(settings.blendIndex),
+         .opacity = tintOpacity(settings.opacity)}
+    );
+}
+
+Outcome DVImageHandling::addTintToImage2(
+    const SourceAndBase& photo, const TintSettings& settings, const OutputTail& tail
+)
+{
+    const auto stored = hStringToCGImageRef(photo.source);
+    if (!stored) {
+        platform::log(u"no imageRef"_s);
+        return outputPicture(std::nullopt, photo, tail);
+    }
+    return outputPicture(tinted(*stored, settings), photo, tail);
+}
+
+Image DVImageHandling::addTintToImage2Preview(const Image& photo, const TintSettings& settings)
+{
+    return imageFromCGImageRef(platform::drawing::markedOn(photo, tinted(photo, settings)));
+}
+
+} // namespace brenvaldo::imaging
