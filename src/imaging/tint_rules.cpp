@@ -22,7 +22,7 @@ struct AreaSize
     std::int32_t height = 0;
 };
 
-std::int32_t percentOf(std::int32_t side, std::int64_t percentage)
+std::int32_t shareOf(std::int32_t side, std::int64_t percentage)
 {
     return wrapped32(std::int64_t{side} * wrapped32(percentage)) / 100;
 }
@@ -35,8 +35,8 @@ std::int32_t changedAlike(std::int32_t side, std::int32_t original, std::int32_t
 
 AreaSize percentageSize(const TintSettings& settings, PixelSize photo, const AreaSize& size)
 {
-    const std::int32_t width = percentOf(photo.width, settings.percentage);
-    const std::int32_t height = percentOf(photo.height, settings.percentage);
+    const std::int32_t width = shareOf(photo.width, settings.percentage);
+    const std::int32_t height = shareOf(photo.height, settings.percentage);
     switch (settings.percentageMode) {
     case 0:
         return {.width = width, .height = photo.height};

@@ -207,3 +207,18 @@ TEST(Stamp, MakesTransparentPixelsAsOpaqueAsItself)
     EXPECT_EQ(qUnpremultiply(marked.pixel(35, 18)), qUnpremultiply(qPremultiply(expected)));
     EXPECT_EQ(qAlpha(marked.pixel(19, 18)), 0);
 }
+
+TEST(MarkedPhoto, StandsForThePhotoAllOverThePicture)
+{
+    const platform::graphics::Image plain = photo();
+    const platform::graphics::Image picture = photo();
+
+    const auto marked = platform::drawing::markedOn(plain, picture);
+
+    EXPECT_FALSE(platform::drawing::isStamped(picture, plain));
+    EXPECT_TRUE(platform::drawing::isStamped(marked, plain));
+    EXPECT_EQ(
+        platform::drawing::stampedPart(marked, plain), (platform::graphics::PixelRect{0, 0, 90, 60})
+    );
+    EXPECT_EQ(test::largestDifference(marked.toQImage(), picture.toQImage()), 0);
+}
