@@ -24,6 +24,8 @@ class AttributedText;
 
 namespace brenvaldo::imaging {
 
+struct RotateSettings;
+
 /// The image operations: access to photos, sizes and resolutions, the writers, and the operations
 /// on single photos.
 ///
@@ -167,6 +169,16 @@ public:
     /// "Not Supported" for Photoshop and PDF files; "OK", and nothing written, when there is no
     /// file.
     ResultWord cropImage9(const QString& path, const QString& folder, const GalleryCrop& crop);
+
+    /// Turns a photo's stored pixels. Corners that become free are transparent; on a canvas the
+    /// picture is an opaque one in 8-bit sRGB.
+    [[nodiscard]] static Outcome hRotatePicture(
+        const SourceAndBase& photo, const RotateSettings& settings, const OutputTail& tail
+    );
+
+    /// The same picture, nothing written; nothing when the photo can't be read.
+    [[nodiscard]] static std::optional<platform::graphics::Image>
+    hRotatePicturesPreview(const QString& path, const RotateSettings& settings);
 
     /// Turns the photo at `path` by `angle` degrees and writes it under its name into `folder`,
     /// which ends in "/" and may be the photo's own.

@@ -224,7 +224,7 @@ TEST_F(GalleryCropping, TakesTheOffsetOfBigPicturesForAnyOtherKind)
     for (const QString& kind : {u"myCropBig"_s, u""_s}) {
         (void)write(coordinates(100, 80));
         crop.kind = kind;
-        EXPECT_EQ(handling.cropImage9(path, folder.path() + u'/', crop), ResultWord::Ok);
+        EXPECT_EQ(handling.cropImage9(path, folder.path(), crop), ResultWord::Ok);
         EXPECT_EQ(partAt(path), (Part{{3, 4}, {40, 20}}));
     }
 }

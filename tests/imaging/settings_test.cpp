@@ -2,12 +2,14 @@
 #include <imaging/crop_settings.h>
 #include <imaging/frame_settings.h>
 #include <imaging/resize_settings.h>
+#include <imaging/rotate_settings.h>
 #include <imaging/tint_settings.h>
 #include <platform/foundation/literals.h>
 
 #include <panels/crop_panel.h>
 #include <panels/framing_panel.h>
 #include <panels/resize_panel.h>
+#include <panels/rotate_panel.h>
 #include <panels/tint_panel.h>
 #include <support/geometry_printing.h>
 #include <support/photo_builder.h>
@@ -173,4 +175,26 @@ TEST(ResizeSettings, WrapAtThirtyTwoBits)
     EXPECT_EQ(
         imaging::readSettings(panel.dvVCUiScaleFixView).box, (platform::graphics::PixelSize{1, 2})
     );
+}
+
+TEST(RotateSettings, AreReadFromTheirControls)
+{
+    panels::RotatePanel panel;
+    panel.tfRotationAngle.setStringValue(u"12.5"_s);
+    panel.cbRotationBackgroundColor.setState(1);
+    panel.cwRotationBackgroundColor.setColor({.red = 0.5, .green = 0.25, .blue = 1, .alpha = 0.2});
+    panel.tfRotationBackgroundHexColor.setStringValue(u"FF0000"_s);
+    panel.tfRotationEnlargeCanvas.setStringValue(u"-20"_s);
+
+    const imaging::RotateSettings settings = imaging::readSettings(panel);
+
+    EXPECT_EQ(settings.degrees, 12.5F);
+    EXPECT_TRUE(settings.hasCanvas);
+    EXPECT_EQ(
+        settings.canvasColor,
+        (platform::graphics::Color{.red = 0.5, .green = 0.25, .blue = 1, .alpha = 1})
+    );
+    EXPECT_EQ(settings.canvasMargin, -20);
+    panel.cbRotationBackgroundColor.setState(0);
+    EXPECT_FALSE(imaging::readSettings(panel).hasCanvas);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sample_conversion.h"
 
+#include "color_profile.h"
 #include "region_kernel.h"
 
 #include <limits>
@@ -10,22 +11,53 @@ namespace brenvaldo::platform::graphics {
 namespace {
 
 template <typename Sample>
-vips::VImage flattened(const vips::VImage& pixels, unsigned white)
+vips::VImage flattened(const vips::VImage& pixels, const std::array<unsigned, 4>& ground)
 {
     constexpr unsigned full = std::numeric_limits<Sample>::max();
     const int bands = pixels.bands() - 1;
     const KernelOutput output = {bands, pixels.format(), pixels.interpretation()};
-    return mapRows(std::array{pixels}, output, [bands, white](const KernelRow<1>& row) {
+    return mapRows(std::array{pixels}, output, [bands, ground](const KernelRow<1>& row) {
         const auto* in = row.input<Sample>(0);
         auto* out = row.out<Sample>();
         for (int i = 0; i < row.count; ++i, in += bands + 1, out += bands) {
             const unsigned alpha = in[bands];
             for (int band = 0; band < bands; ++band)
                 out[band] = static_cast<Sample>(
-                    (in[band] * alpha + white * (full - alpha) + full / 2) / full
+                    (in[band] * alpha + ground[static_cast<std::size_t>(band)] * (full - alpha)
+                     + full / 2)
+                    / full
                 );
         }
     });
+}
+
+/// No ink is white.
+template <typename Sample>
+constexpr std::array<unsigned, 4> whiteOf(ColorModel model)
+{
+    constexpr unsigned full = std::numeric_limits<Sample>::max();
+    return model == ColorModel::Cmyk ? std::array<unsigned, 4>{}
+                                     : std::array<unsigned, 4>{full, full, full, full};
+}
+
+template <typename Sample>
+ImageNode flatNode(const ImageNode& node, const std::array<unsigned, 4>& ground)
+{
+    ImageNode flat = node.withPixels(flattened<Sample>(node.pixels, ground));
+    flat.hasAlpha = false;
+    return flat;
+}
+
+/// Grey pixels as colour ones.
+vips::VImage colored(const vips::VImage& gray)
+{
+    const vips::VImage level = gray.extract_band(0);
+    std::vector<vips::VImage> others{level, level};
+    if (gray.bands() > 1)
+        others.push_back(gray.extract_band(1));
+    return level.bandjoin(others).copy(
+        vips::VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB)
+    );
 }
 
 } // namespace
@@ -50,13 +82,24 @@ ImageNode flattenedOnWhite(const ImageNode& node)
 {
     if (!node.hasAlpha)
         return node;
-    ImageNode flat = node;
-    flat.hasAlpha = false;
-    const bool isInk = node.colorModel == ColorModel::Cmyk; // no ink is white
-    flat.pixels = node.pixels.format() == VIPS_FORMAT_USHORT
-        ? flattened<quint16>(node.pixels, isInk ? 0 : std::numeric_limits<quint16>::max())
-        : flattened<quint8>(node.pixels, isInk ? 0 : std::numeric_limits<quint8>::max());
-    return flat;
+    return node.pixels.format() == VIPS_FORMAT_USHORT
+        ? flatNode<quint16>(node, whiteOf<quint16>(node.colorModel))
+        : flatNode<quint8>(node, whiteOf<quint8>(node.colorModel));
+}
+
+ImageNode flattenedOn(const ImageNode& node, const std::array<unsigned, 4>& ground)
+{
+    return node.hasAlpha ? flatNode<quint8>(node, ground) : node;
+}
+
+ImageNode withRgbBytes(const ImageNode& node)
+{
+    ImageNode bytes = withBytes(convertedToSrgb(node));
+    if (bytes.colorModel != ColorModel::Gray)
+        return bytes;
+    bytes = bytes.withPixels(colored(bytes.pixels));
+    bytes.colorModel = ColorModel::Rgb;
+    return bytes;
 }
 
 } // namespace brenvaldo::platform::graphics

@@ -1,9 +1,33 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rows.h"
 
+#include <imaging/dv_image_handling.h>
+#include <imaging/rotate_settings.h>
+#include <panels/panels.h>
 #include <presets/image_records.h>
 
 namespace brenvaldo::workspace {
+
+namespace {
+
+using imaging::DVImageHandling;
+
+PhotoRun::Operation start(const RunContext& run)
+{
+    return [&run](const PhotoOutput& output) {
+        const auto settings = imaging::readSettings(run.subsystems.panels.vwRotatePhotos);
+        return DVImageHandling::hRotatePicture(output.photo, settings, output.tail);
+    };
+}
+
+std::optional<platform::graphics::Image> rotated(const Subsystems& subsystems, const QString& path)
+{
+    return DVImageHandling::hRotatePicturesPreview(
+        path, imaging::readSettings(subsystems.panels.vwRotatePhotos)
+    );
+}
+
+} // namespace
 
 Function rotatePhotos()
 {
@@ -13,7 +37,8 @@ Function rotatePhotos()
         .choice = {.section = Section::EditPhoto, .index = 6},
         .holders = withPreview(QLatin1String("vwRotatePhotos")),
         .fieldTags = {.first = 81, .last = 100},
-        .run = PhotoRun{},
+        .run = PhotoRun{.start = start},
+        .preview = rotated,
         .photoBelow = PhotoBelow::Goes,
         .presets = {{.make = presets::rotationRecord}},
     };

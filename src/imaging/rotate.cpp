@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "dv_image_handling.h"
+
+#include "resize_rules.h"
+#include "rotate_settings.h"
+#include "stored_photo.h"
+#include "turning.h"
+
+#include <platform/drawing/backdrop.h>
+#include <platform/foundation/numbers.h>
+
+namespace brenvaldo::imaging {
+
+using platform::graphics::Image;
+using platform::graphics::PixelSize;
+
+namespace {
+
+int enlarged(int side, int margin) { return platform::wrapped32(side + 2 * std::int64_t{margin}); }
+
+std::optional<Image> onCanvas(const Image& turned, const RotateSettings& settings)
+{
+    const int margin = settings.canvasMargin;
+    if (!givesContext({enlarged(turned.width(), margin), enlarged(turned.height(), margin)}))
+        return std::nullopt;
+    return platform::drawing::laidOn({.color = settings.canvasColor, .margin = margin}, turned);
+}
+
+std::optional<Image> rotated(const QString& path, const RotateSettings& settings)
+{
+    const auto photo = storedPhoto(path);
+    if (!photo)
+        return std::nullopt;
+    const auto turned
+        = turnedPhoto(*photo, settings.degrees, platform::graphics::FreeCorners::Transparent);
+    return turned && settings.hasCanvas ? onCanvas(*turned, settings) : turned;
+}
+
+} // namespace
+
+Outcome DVImageHandling::hRotatePicture(
+    const SourceAndBase& photo, const RotateSettings& settings, const OutputTail& tail
+)
+{
+    return outputPicture(rotated(photo.source, settings), photo, tail);
+}
+
+std::optional<Image>
+DVImageHandling::hRotatePicturesPreview(const QString& path, const RotateSettings& settings)
+{
+    return rotated(path, settings);
+}
+
+} // namespace brenvaldo::imaging
