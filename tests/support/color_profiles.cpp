@@ -3,6 +3,7 @@
 
 #include <lcms2.h>
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -19,6 +20,46 @@ QByteArray saved(cmsHPROFILE profile)
     cmsCloseProfile(profile);
     constexpr qsizetype creationDate = 24; // twelve bytes that differ from run to run
     return bytes.replace(creationDate, 12, QByteArray("\x07\xE8\0\1\0\1\0\0\0\0\0\0", 12));
+}
+
+using Sampler = cmsInt32Number (*)(const cmsUInt16Number*, cmsUInt16Number*, void*);
+
+/// Writes a table of colours from `inputs` to `outputs` channels.
+void writeTable(
+    cmsHPROFILE profile,
+    cmsTagSignature tag,
+    cmsUInt32Number inputs,
+    cmsUInt32Number outputs,
+    Sampler sampler
+)
+{
+    constexpr cmsUInt32Number gridPoints = 9;
+    cmsPipeline* colors = cmsPipelineAlloc(nullptr, inputs, outputs);
+    cmsStage* table = cmsStageAllocCLut16bit(nullptr, gridPoints, inputs, outputs, nullptr);
+    cmsStageSampleCLut16bit(table, sampler, nullptr, 0);
+    cmsPipelineInsertStage(colors, cmsAT_BEGIN, table);
+    cmsWriteTag(profile, tag, colors);
+    cmsPipelineFree(colors);
+}
+
+constexpr cmsUInt16Number fullSample = 0xFFFF;
+constexpr cmsUInt16Number neutralSample = 0x8000;
+constexpr cmsUInt16Number whiteSample = 0xFF00; // L* of 100 in a table of 16 bits
+
+cmsInt32Number inkOfLab(const cmsUInt16Number* lab, cmsUInt16Number* ink, void* /*unused*/)
+{
+    const int light = std::min<int>(lab[0], whiteSample) * fullSample / whiteSample;
+    ink[0] = ink[1] = ink[2] = 0;
+    ink[3] = static_cast<cmsUInt16Number>(fullSample - light);
+    return 1;
+}
+
+cmsInt32Number labOfInk(const cmsUInt16Number* ink, cmsUInt16Number* lab, void* /*unused*/)
+{
+    const auto paper = static_cast<unsigned>(fullSample - ink[3]);
+    lab[0] = static_cast<cmsUInt16Number>(paper * whiteSample / fullSample);
+    lab[1] = lab[2] = neutralSample;
+    return 1;
 }
 
 constexpr cmsCIExyY daylight = {0.3127, 0.3290, 1.0};
@@ -70,6 +111,18 @@ QByteArray grayProfile()
     cmsToneCurve* curve = cmsBuildGamma(nullptr, 1.8);
     cmsHPROFILE profile = cmsCreateGrayProfile(&daylight, curve);
     cmsFreeToneCurve(curve);
+    return saved(profile);
+}
+
+QByteArray blackInkProfile()
+{
+    cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);
+    cmsSetProfileVersion(profile, 2.4);
+    cmsSetDeviceClass(profile, cmsSigOutputClass);
+    cmsSetColorSpace(profile, cmsSigCmykData);
+    cmsSetPCS(profile, cmsSigLabData);
+    writeTable(profile, cmsSigAToB0Tag, 4, 3, labOfInk);
+    writeTable(profile, cmsSigBToA0Tag, 3, 4, inkOfLab);
     return saved(profile);
 }
 

@@ -19,6 +19,9 @@ namespace brenvaldo::test {
 /// A profile of grey with a gamma of 1.8.
 [[nodiscard]] QByteArray grayProfile();
 
+/// A profile of CMYK that prints every colour as its lightness in black ink.
+[[nodiscard]] QByteArray blackInkProfile();
+
 /// A profile of RGB that can be read and tells nothing.
 [[nodiscard]] QByteArray emptyProfile();
 

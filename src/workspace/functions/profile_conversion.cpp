@@ -1,20 +1,58 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rows.h"
 
+#include <imaging/dv_color_conversions.h>
+#include <imaging/profile_settings.h>
+#include <panels/panels.h>
 #include <presets/image_records.h>
 
+#include <memory>
+
 namespace brenvaldo::workspace {
+
+namespace {
+
+/// The list of profiles that a run selects from is the one that was shown last.
+using Conversions = std::shared_ptr<imaging::DVColorConversions>;
+
+PhotoRun::Start runWith(const Conversions& conversions)
+{
+    return [conversions](const RunContext& run) {
+        return [conversions, &run](const PhotoOutput& output) {
+            return conversions->convertColorSpace(
+                output.photo,
+                imaging::readSettings(run.subsystems.panels.vwProfileConversion),
+                output.tail
+            );
+        };
+    };
+}
+
+Function::Preview previewWith(const Conversions& conversions)
+{
+    return [conversions](const Subsystems& subsystems, const QString& path) {
+        return conversions->convertColorSpaceToPreview(
+            path, imaging::readSettings(subsystems.panels.vwProfileConversion)
+        );
+    };
+}
+
+} // namespace
 
 /// Leaves type and destination as the function before had them.
 Function profileConversion()
 {
     using enum HolderChange;
+    const auto conversions = std::make_shared<imaging::DVColorConversions>();
     return {
         .id = QLatin1String("profileConversion"),
         .title = QT_TRANSLATE_NOOP("FunctionTitle", "Colour profile"),
         .choice = {.section = Section::EditPhoto, .index = 4},
         .holders = {QLatin1String("vwProfileConversion"), Fill, Fill, LeaveAsItWas, LeaveAsItWas},
-        .run = PhotoRun{},
+        .whenShown = [conversions](const Subsystems& subsystems
+                     ) { conversions->hGetColorProfiles(subsystems.panels.vwProfileConversion); },
+        .run = PhotoRun{.start = runWith(conversions)},
+        .preview = previewWith(conversions),
         .presets = {{.make = presets::profileRecord}},
     };
 }

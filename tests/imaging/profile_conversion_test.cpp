@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <imaging/dv_color_conversions.h>
+#include <imaging/dv_image_handling.h>
+#include <imaging/profile_settings.h>
+
+#include <panels/profile_panel.h>
+#include <platform/foundation/exceptions.h>
+#include <platform/foundation/literals.h>
+
+#include <support/color_profiles.h>
+#include <support/environment.h>
+#include <support/pixel_probe.h>
+#include <support/result_printing.h>
+#include <support/temporary_folder.h>
+#include <support/text_printing.h>
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+using namespace brenvaldo;
+using namespace brenvaldo::imaging;
+using platform::graphics::ColorModel;
+using platform::graphics::RenderingIntent;
+using test::PhotoFormat;
+using test::PhotoModel;
+
+namespace {
+
+/// A machine on which four profiles are installed, and a folder for photos.
+class ProfileConversion : public testing::Test
+{
+protected:
+    ProfileConversion()
+    {
+        QDir(folder.path()).mkpath(u"icc"_s);
+        (void)folder.write(u"icc/wide.icc"_s, test::wideProfile());
+        (void)folder.write(u"icc/broken.icc"_s, "broken");
+        (void)folder.write(u"icc/ink.icc"_s, test::blackInkProfile());
+        (void)folder.write(u"icc/gray.icc"_s, test::grayProfile());
+        conversions.hGetColorProfiles(panel);
+    }
+
+    /// The place of a profile in the list.
+    [[nodiscard]] int indexOf(const QByteArray& profile)
+    {
+        for (int index = 0; index < panel.pubInstalledICCProfiles.count(); ++index) {
+            const auto picture = conversions.convertColorSpaceToPreview(
+                test::PhotoBuilder().size(2, 2).write(folder.path(u"probe.jpg"_s)),
+                {.profile = index, .intent = RenderingIntent::Relative}
+            );
+            if (picture && picture->iccProfile() == profile)
+                return index;
+        }
+        return -1;
+    }
+
+    ResultWord convert(const QString& path, const ProfileSettings& settings, const QString& type)
+    {
+        OutputTail tail;
+        tail.compressionLevel = u"10"_s;
+        tail.myFileType = type;
+        return save(std::get<PictureToSave>(conversions.convertColorSpace(
+            {.source = path, .destinationBase = folder.path(u"out"_s)}, settings, tail
+        )));
+    }
+
+    [[nodiscard]] platform::graphics::Image written(const QString& name) const
+    {
+        return *test::openedPhoto(folder.path(name)).image();
+    }
+
+    QString photo(PhotoModel model, int depth) const
+    {
+        return test::PhotoBuilder()
+            .format(PhotoFormat::Tiff)
+            .size(20, 10)
+            .model(model)
+            .depth(depth)
+            .solid({128, 128, 128, 255})
+            .write(folder.path(u"a.tiff"_s));
+    }
+
+    test::TemporaryFolder folder;
+    test::Environment home{"XDG_DATA_HOME", folder.path().chopped(1).toUtf8()};
+    test::Environment machine{"XDG_DATA_DIRS", "/nowhere"};
+    panels::ProfilePanel panel;
+    DVColorConversions conversions;
+};
+
+} // namespace
+
+TEST_F(ProfileConversion, ListsTheInstalledProfilesByNameAndSelectsTheFirst)
+{
+    QStringList sorted = panel.pubInstalledICCProfiles.titles();
+    std::sort(sorted.begin(), sorted.end(), [](const QString& left, const QString& right) {
+        return left.toLower() < right.toLower();
+    });
+
+    EXPECT_EQ(panel.pubInstalledICCProfiles.count(), 3);
+    EXPECT_EQ(panel.pubInstalledICCProfiles.titles(), sorted);
+    EXPECT_EQ(panel.pubInstalledICCProfiles.indexOfSelectedItem(), 0);
+    EXPECT_TRUE(sorted.contains(u"ink"_s));
+}
+
+TEST_F(ProfileConversion, WritesTheProfileAndItsColours)
+{
+    const QString path = test::PhotoBuilder()
+                             .format(PhotoFormat::Png)
+                             .size(20, 10)
+                             .solid({255, 0, 0})
+                             .write(folder.path(u"red.png"_s));
+    const int wide = indexOf(test::wideProfile());
+
+    ASSERT_EQ(convert(path, {wide, RenderingIntent::Relative}, u"public.png"_s), ResultWord::Ok);
+
+    const auto converted = written(u"out.png"_s);
+    EXPECT_EQ(converted.iccProfile(), test::wideProfile());
+    const QColor shown = converted.toQImage().pixelColor(5, 5);
+    EXPECT_NEAR(shown.red(), 255, 2);
+    EXPECT_NEAR(shown.green(), 0, 6);
+    EXPECT_NE(converted.copiedToMemory(), std::nullopt);
+}
+
+TEST_F(ProfileConversion, TakesEveryModelAndDepthToEveryModel)
+{
+    const std::pair<QByteArray, ColorModel> targets[]
+        = {{test::wideProfile(), ColorModel::Rgb},
+           {test::grayProfile(), ColorModel::Gray},
+           {test::blackInkProfile(), ColorModel::Cmyk}};
+    for (const auto& [profile, model] : targets) {
+        const int index = indexOf(profile);
+        ASSERT_GE(index, 0);
+        for (const PhotoModel source : {PhotoModel::Gray, PhotoModel::Rgb, PhotoModel::Cmyk}) {
+            for (const int depth : {8, 16}) {
+                const QString path = photo(source, depth);
+                ASSERT_EQ(
+                    convert(path, {index, RenderingIntent::Perceptual}, u"public.tiff"_s),
+                    ResultWord::Ok
+                );
+                const auto converted = written(u"out.tiff"_s);
+                EXPECT_EQ(converted.colorModel(), model);
+                EXPECT_EQ(converted.bitsPerComponent(), depth);
+                EXPECT_EQ(converted.iccProfile(), profile);
+                const auto before = test::openedPhoto(path).image()->toQImage();
+                EXPECT_NEAR(qGray(converted.toQImage().pixel(5, 5)), qGray(before.pixel(5, 5)), 12);
+            }
+        }
+    }
+}
+
+TEST_F(ProfileConversion, WritesInksIntoAJpeg)
+{
+    const int ink = indexOf(test::blackInkProfile());
+
+    ASSERT_EQ(
+        convert(photo(PhotoModel::Rgb, 8), {ink, RenderingIntent::Relative}, u"public.jpeg"_s),
+        ResultWord::Ok
+    );
+
+    EXPECT_EQ(written(u"out.jpg"_s).colorModel(), ColorModel::Cmyk);
+    EXPECT_EQ(written(u"out.jpg"_s).iccProfile(), test::blackInkProfile());
+}
+
+TEST_F(ProfileConversion, ConvertsTheStoredPixelsAndPreviewsTheUprightOnes)
+{
+    const QString path = test::PhotoBuilder()
+                             .format(PhotoFormat::Png)
+                             .size(40, 30)
+                             .corners()
+                             .orientation(6)
+                             .write(folder.path(u"turned.png"_s));
+    const ProfileSettings settings{indexOf(test::wideProfile()), RenderingIntent::Perceptual};
+
+    ASSERT_EQ(convert(path, settings, u"public.png"_s), ResultWord::Ok);
+    EXPECT_EQ(test::storedPixels(folder.path(u"out.png"_s)).size(), QSize(40, 30));
+    EXPECT_EQ(test::openedPhoto(folder.path(u"out.png"_s)).header().orientation, 6);
+
+    const auto preview = conversions.convertColorSpaceToPreview(path, settings);
+    ASSERT_TRUE(preview);
+    EXPECT_EQ(preview->toQImage().size(), QSize(30, 40));
+    EXPECT_EQ(test::cornerColors(preview->toQImage()), "BRWG");
+}
+
+TEST_F(ProfileConversion, EndsWithARangeErrorForAProfileThatIsNotInTheList)
+{
+    const QString path = photo(PhotoModel::Rgb, 8);
+
+    for (const int index : {-1, 3}) {
+        EXPECT_THROW(
+            (void)convert(path, {index, RenderingIntent::Relative}, u"public.png"_s),
+            platform::RangeError
+        );
+    }
+}
+
+TEST_F(ProfileConversion, FailsForAnUnreadablePhoto)
+{
+    const ProfileSettings settings{.profile = 0};
+
+    EXPECT_EQ(convert(folder.path(u"gone.png"_s), settings, u"public.png"_s), ResultWord::Failed);
+    EXPECT_FALSE(conversions.convertColorSpaceToPreview(folder.path(u"gone.png"_s), settings));
+}
+
+TEST(ProfileSettings, AreReadFromTheirControls)
+{
+    panels::ProfilePanel panel;
+    panel.pubInstalledICCProfiles.setTitles({u"A"_s, u"B"_s});
+    panel.pubInstalledICCProfiles.selectIndex(1);
+    panel.pubCPCRenderIntent.selectIndex(2);
+
+    EXPECT_EQ(readSettings(panel), (ProfileSettings{1, RenderingIntent::Absolute}));
+    panel.pubInstalledICCProfiles.selectIndex(-1);
+    EXPECT_EQ(readSettings(panel).profile, -1);
+}
+
+TEST(RenderingIntents, FollowTheirTitles)
+{
+    EXPECT_EQ(renderingIntent(u"perceptual"_s), RenderingIntent::Perceptual);
+    EXPECT_EQ(renderingIntent(u"relative"_s), RenderingIntent::Relative);
+    EXPECT_EQ(renderingIntent(u"absolute"_s), RenderingIntent::Absolute);
+    EXPECT_EQ(renderingIntent(u"saturation"_s), RenderingIntent::Saturation);
+    EXPECT_EQ(renderingIntent(u"Relative"_s), RenderingIntent::Saturation);
+    EXPECT_EQ(renderingIntent(u""_s), RenderingIntent::Saturation);
+}
