@@ -6,7 +6,11 @@
 #include "stored_photo.h"
 #include "turning.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <limits>
 #include <platform/drawing/backdrop.h>
+#include <platform/drawing/ground.h>
 #include <platform/foundation/numbers.h>
 
 namespace brenvaldo::imaging {
@@ -16,7 +20,12 @@ using platform::graphics::PixelSize;
 
 namespace {
 
-int enlarged(int side, int margin) { return platform::wrapped32(side + 2 * std::int64_t{margin}); }
+/// Sides that no context can have stay such.
+int enlarged(int side, int margin)
+{
+    constexpr std::int64_t largest = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp<std::int64_t>(side + 2 * std::int64_t{margin}, 0, largest));
+}
 
 std::optional<Image> onCanvas(const Image& turned, const RotateSettings& settings)
 {

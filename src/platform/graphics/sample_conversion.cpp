@@ -52,10 +52,10 @@ ImageNode flatNode(const ImageNode& node, const std::array<unsigned, 4>& ground)
 vips::VImage colored(const vips::VImage& gray)
 {
     const vips::VImage level = gray.extract_band(0);
-    std::vector<vips::VImage> others{level, level};
+    std::vector<vips::VImage> bands{level, level, level};
     if (gray.bands() > 1)
-        others.push_back(gray.extract_band(1));
-    return level.bandjoin(others).copy(
+        bands.push_back(gray.extract_band(1));
+    return vips::VImage::bandjoin(bands).copy(
         vips::VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB)
     );
 }
