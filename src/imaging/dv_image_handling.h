@@ -5,6 +5,7 @@
 #include "frame_settings.h"
 #include "output_tail.h"
 #include "picture_to_save.h"
+#include "rounding_settings.h"
 #include "tint_settings.h"
 
 #include <platform/containers/metadata_blocks.h>
@@ -226,6 +227,16 @@ public:
     /// pixels falls on the picture.
     ResultWord
     addBorderToImage2(const QString& path, const platform::graphics::Color& color, double width);
+
+    /// Cuts the stored pixels of a photo to a rounded shape, with a border and a background as the
+    /// settings tell: 8-bit sRGB with alpha.
+    [[nodiscard]] static Outcome hAddRoundings(
+        const SourceAndBase& photo, const RoundingSettings& settings, const OutputTail& tail
+    );
+
+    /// The picture of `hAddRoundings`; nothing when there is none.
+    [[nodiscard]] static std::optional<platform::graphics::Image>
+    hAddRoundingsPreview(const QString& path, const RoundingSettings& settings);
 
     /// The text layer as a relief, lit by `texture` ("texture1" to "texture8"); as large and as
     /// opaque as the layer. "texture6" is the ball of `h3DcolorEffect` in `color`.

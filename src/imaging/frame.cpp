@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dv_image_handling.h"
 
+#include "drawn_line.h"
 #include "dv_color_conversions.h"
 #include "frame_rules.h"
-#include "resolution_rules.h"
 #include "source_photo.h"
 
-#include <platform/codecs/image_source.h>
 #include <platform/containers/type_identifier.h>
 #include <platform/drawing/ground.h>
-#include <platform/drawing/stroke.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
@@ -17,31 +15,12 @@
 
 namespace brenvaldo::imaging {
 
-using platform::codecs::ImageSource;
 using platform::codecs::SourceAccess;
 using platform::drawing::ShapePaint;
 using platform::graphics::Image;
 using platform::graphics::PixelSize;
 
 namespace {
-
-/// A line with what it is drawn with, measured upward from the bottom left corner.
-struct DrawnLine
-{
-    QPainterPath path;
-    double width = 0;
-    ShapePaint paint;
-};
-
-Image drawn(const Image& canvas, DrawnLine line)
-{
-    const QTransform place = toPixels(canvas.pixelSize());
-    if (line.paint.fade)
-        line.paint.fade
-            = {.start = place.map(line.paint.fade->start), .end = place.map(line.paint.fade->end)};
-    const QPainterPath shape = platform::drawing::stroked(line.path, {.width = line.width});
-    return platform::drawing::painted(canvas, place.map(shape), line.paint);
-}
 
 ShapePaint paintOf(const FrameSettings& settings, double opacity, const ShapePaint::Fade& fade)
 {
@@ -96,12 +75,6 @@ framed(const Image& photo, FrameType type, const FrameSettings& settings, double
     if (type == FrameType::Outside)
         return framedOutside(photo, settings, opacity);
     return framedInside(photo, settings, opacity);
-}
-
-std::optional<Image> storedPhoto(const QString& path, SourceAccess access)
-{
-    const auto source = ImageSource::open(path);
-    return source ? source->image({.access = access}) : std::nullopt;
 }
 
 /// The line runs on the edge, so that half of it falls on the picture.

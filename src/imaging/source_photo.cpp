@@ -5,6 +5,13 @@
 
 namespace brenvaldo::imaging {
 
+std::optional<platform::graphics::Image>
+storedPhoto(const QString& path, platform::codecs::SourceAccess access)
+{
+    const auto source = platform::codecs::ImageSource::open(path);
+    return source ? source->image({.access = access, .atLeast = std::nullopt}) : std::nullopt;
+}
+
 Outcome unreadablePhoto(const OutputTail& tail)
 {
     return isNotSupported(tail.myFileType) ? ResultWord::NotSupported : ResultWord::Failed;

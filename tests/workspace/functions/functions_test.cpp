@@ -132,7 +132,12 @@ TEST(Functions, OfThisVersionAreThese)
     EXPECT_THAT(
         idsOf([](const auto& row) { return static_cast<bool>(row.preview); }),
         UnorderedElementsAre(
-            u"textWM"_s, u"framing"_s, u"cropPhotos"_s, u"addTint"_s, u"rotatePhotos"_s
+            u"textWM"_s,
+            u"framing"_s,
+            u"cropPhotos"_s,
+            u"addTint"_s,
+            u"rotatePhotos"_s,
+            u"roundings"_s
         )
     );
 }
