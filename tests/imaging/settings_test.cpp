@@ -3,6 +3,7 @@
 #include <imaging/frame_settings.h>
 #include <imaging/resize_settings.h>
 #include <imaging/rotate_settings.h>
+#include <imaging/rounding_settings.h>
 #include <imaging/tint_settings.h>
 #include <platform/foundation/literals.h>
 
@@ -10,6 +11,7 @@
 #include <panels/framing_panel.h>
 #include <panels/resize_panel.h>
 #include <panels/rotate_panel.h>
+#include <panels/roundings_panel.h>
 #include <panels/tint_panel.h>
 #include <support/geometry_printing.h>
 #include <support/photo_builder.h>
@@ -89,6 +91,50 @@ TEST(FrameSettings, AreReadFromTheirControls)
             .angleIndex = 2,
             .colour = {.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1}})
     );
+}
+
+TEST(RoundingSettings, AreReadFromTheirControls)
+{
+    panels::RoundingsPanel panel;
+    panel.pubRCType.selectIndex(2);
+    panel.tfRCDiameter.setStringValue(u"11"_s);
+    panel.cwRCBorderColor.setColor({.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 0.5});
+    panel.cwRCBackgroundColor.setColor({.red = 0.1, .green = 0.2, .blue = 0.3, .alpha = 0.5});
+    panel.cbRCBorderColor.setState(1);
+    panel.tfRCBorderWidth.setStringValue(u"12"_s);
+    panel.tfRCOpacity.setStringValue(u"-13"_s);
+    panel.pubRCGradientAngle.selectIndex(3);
+    panel.pubRCRenderMethod.selectIndex(4);
+    panel.pubRCBorderPos.selectIndex(1);
+    panel.tfRCEnlargeCanvas.setStringValue(u"14"_s);
+
+    imaging::RoundingSettings expected{
+        .radius = 11,
+        .type = 2,
+        .borderColour = {.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1},
+        .backgroundColour = {.red = 0.1, .green = 0.2, .blue = 0.3, .alpha = 1},
+        .borderState = 1,
+        .borderWidth = 12,
+        .backgroundState = 0,
+        .opacity = -13,
+        .gradientState = 0,
+        .angleIndex = 3,
+        .blendIndex = 4,
+        .borderPosition = 1,
+        .margin = 14};
+    EXPECT_EQ(imaging::readSettings(panel), expected);
+
+    panel.cbRCBorderColor.setState(0);
+    panel.cbRCBackgroundColor.setState(1);
+    expected.borderState = 0;
+    expected.backgroundState = 1;
+    EXPECT_EQ(imaging::readSettings(panel), expected);
+
+    panel.cbRCBackgroundColor.setState(0);
+    panel.cbRCGradient.setState(1);
+    expected.backgroundState = 0;
+    expected.gradientState = 1;
+    EXPECT_EQ(imaging::readSettings(panel), expected);
 }
 
 TEST(TintSettings, AreReadFromTheirControls)
