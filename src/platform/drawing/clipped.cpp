@@ -52,12 +52,15 @@ private:
     void show(quint8* out, const quint8* in, int count, unsigned coverage) const
     {
         constexpr unsigned full = 255;
+        const int green = m_isGray ? 0 : 1;
+        const int blue = m_isGray ? 0 : 2;
         for (int i = 0; i < count; ++i, out += outBands, in += m_bands) {
             out[0] = in[0];
-            out[1] = in[m_isGray ? 0 : 1];
-            out[2] = in[m_isGray ? 0 : 2];
-            const unsigned alpha = m_hasAlpha ? in[m_bands - 1] : full;
-            out[3] = static_cast<quint8>((alpha * coverage + full / 2) / full);
+            out[1] = in[green];
+            out[2] = in[blue];
+            out[3] = m_hasAlpha
+                ? static_cast<quint8>((in[m_bands - 1] * coverage + full / 2) / full)
+                : static_cast<quint8>(coverage);
         }
     }
 
