@@ -1,29 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "blurred_plane.h"
 
+#include <platform/graphics/convolution.h>
+
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <optional>
 
 namespace brenvaldo::platform::drawing {
 
 namespace {
-
-std::vector<float> gaussianKernel(double sigma)
-{
-    const int reach = static_cast<int>(std::ceil(3 * sigma));
-    std::vector<float> kernel;
-    double sum = 0;
-    for (int offset = -reach; offset <= reach; ++offset) {
-        const double weight = std::exp(-offset * offset / (2 * sigma * sigma));
-        kernel.push_back(static_cast<float>(weight));
-        sum += weight;
-    }
-    for (float& weight : kernel)
-        weight = static_cast<float>(weight / sum);
-    return kernel;
-}
 
 /// Position of the sample that stands at `at`, which may lie beyond the edges of `size` samples.
 std::optional<int> sourceOf(int at, int size, Edge edge)
@@ -39,33 +25,6 @@ std::optional<int> sourceOf(int at, int size, Edge edge)
         return std::clamp(at, 0, size - 1);
     }
     return std::nullopt;
-}
-
-/// `out[i]` is the sum of `kernel[tap] * in[i + tap * step]`.
-void convolve(
-    const float* __restrict in,
-    std::size_t step,
-    const std::vector<float>& kernel,
-    float* __restrict out,
-    std::size_t count
-)
-{
-    constexpr std::size_t block = 16; // sums that stay in registers
-    std::size_t done = 0;
-    for (; done + block <= count; done += block) {
-        std::array<float, block> sums{};
-        for (std::size_t tap = 0; tap < kernel.size(); ++tap) {
-            const float* from = in + done + tap * step;
-            for (std::size_t i = 0; i < block; ++i)
-                sums[i] += kernel[tap] * from[i];
-        }
-        std::copy(sums.begin(), sums.end(), out + done);
-    }
-    for (; done < count; ++done) {
-        out[done] = 0;
-        for (std::size_t tap = 0; tap < kernel.size(); ++tap)
-            out[done] += kernel[tap] * in[done + tap * step];
-    }
 }
 
 /// Three means in a row, which look like a Gaussian; each is of `radius` samples on both sides.
@@ -153,19 +112,19 @@ Plane rowsBlurred(const Plane& plane, int reach, Edge edge, const BlurRow& blurR
 
 Plane blurredByKernel(const Plane& plane, double sigma, Edge edge)
 {
-    const std::vector<float> kernel = gaussianKernel(sigma);
+    const std::vector<float> kernel = graphics::gaussianKernel(sigma);
     const auto width = static_cast<std::size_t>(plane.width);
     const Plane rows = rowsBlurred(
         plane,
         static_cast<int>(kernel.size()) / 2,
         edge,
         [&](const std::vector<float>& padded, float* out) {
-            convolve(padded.data(), 1, kernel, out, width);
+            graphics::convolve(padded.data(), 1, kernel, out, width);
         }
     );
     Plane result = emptyPlane(plane.width, plane.height);
     for (int y = 0; y < plane.height; ++y)
-        convolve(rows.row(y), width, kernel, result.row(y), width);
+        graphics::convolve(rows.row(y), width, kernel, result.row(y), width);
     return result;
 }
 

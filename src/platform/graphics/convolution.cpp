@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "convolution.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace brenvaldo::platform::graphics {
+
+std::vector<float> gaussianKernel(double sigma)
+{
+    const int reach = static_cast<int>(std::ceil(3 * sigma));
+    std::vector<float> kernel;
+    double sum = 0;
+    for (int offset = -reach; offset <= reach; ++offset) {
+        const double weight = std::exp(-offset * offset / (2 * sigma * sigma));
+        kernel.push_back(static_cast<float>(weight));
+        sum += weight;
+    }
+    for (float& weight : kernel)
+        weight = static_cast<float>(weight / sum);
+    return kernel;
+}
+
+void convolve(
+    const float* __restrict in,
+    std::size_t step,
+    const std::vector<float>& kernel,
+    float* __restrict out,
+    std::size_t count
+)
+{
+    constexpr std::size_t block = 16; // sums that stay in registers
+    std::size_t done = 0;
+    for (; done + block <= count; done += block) {
+        std::array<float, block> sums{};
+        for (std::size_t tap = 0; tap < kernel.size(); ++tap) {
+            const float* from = in + done + tap * step;
+            for (std::size_t i = 0; i < block; ++i)
+                sums[i] += kernel[tap] * from[i];
+        }
+        std::copy(sums.begin(), sums.end(), out + done);
+    }
+    for (; done < count; ++done) {
+        out[done] = 0;
+        for (std::size_t tap = 0; tap < kernel.size(); ++tap)
+            out[done] += kernel[tap] * in[done + tap * step];
+    }
+}
+
+} // namespace brenvaldo::platform::graphics
