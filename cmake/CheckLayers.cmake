@@ -13,7 +13,7 @@ cmake_minimum_required(VERSION 3.25)
 
 # Libraries and Qt modules, and the folders that may include them; both are regular expressions.
 set(libraries
-    "vips/.*"                   "platform/(graphics|codecs|drawing)"
+    "vips/.*"                   "platform/(graphics|codecs|drawing|filters)"
     "(jpeglib|jerror)\\.h"      "platform/codecs"
     "libheif/.*"                "platform/codecs"
     "lcms2\\.h"                 "platform/graphics"
