@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "filter_settings.h"
 #include "output_tail.h"
 #include "picture_to_save.h"
 
 #include <platform/graphics/color.h>
+#include <platform/graphics/image.h>
 #include <platform/graphics/profile_conversion.h>
 
 #include <optional>
@@ -42,6 +44,47 @@ public:
     /// The upright photo at `path` in the profile; nothing when it can't be read.
     [[nodiscard]] std::optional<platform::graphics::Image>
     convertColorSpaceToPreview(const QString& path, const ProfileSettings& settings) const;
+
+    /// The photo after the filter of the settings' number, having passed through a JPEG of the best
+    /// quality. A number that no filter has writes nothing and answers the word of the photo
+    /// before.
+    [[nodiscard]] static Outcome
+    hAddFilter(const SourceAndBase& photo, const FilterSettings& settings, const OutputTail& tail);
+
+    /// The picture that a run would make of `photo`; the JPEG, which takes longer than the filter
+    /// and can't be seen, is left out.
+    [[nodiscard]] static std::optional<platform::graphics::Image>
+    hAddFilterPreview(const platform::graphics::Image& photo, const FilterSettings& settings);
+
+    // Screens of a picture, each having passed through a JPEG of the best quality.
+
+    using Image = platform::graphics::Image;
+
+    [[nodiscard]] static Image
+    hCircularScreenFilter(const Image& image, const ScreenSettings& settings);
+    [[nodiscard]] static Image hDotScreenFilter(const Image& image, const ScreenSettings& settings);
+    [[nodiscard]] static Image
+    hLineScreenFilter(const Image& image, const ScreenSettings& settings);
+    /// Lines, and lines across them.
+    [[nodiscard]] static Image
+    hFabricScreenFilter(const Image& image, const ScreenSettings& settings);
+    [[nodiscard]] static Image
+    hFabric2ScreenFilter(const Image& image, const ScreenSettings& settings);
+    /// Lines in eleven directions; the angle is ignored.
+    [[nodiscard]] static Image
+    hFabric3ScreenFilter(const Image& image, const ScreenSettings& settings);
+    /// Lines and lines across them, four times.
+    [[nodiscard]] static Image
+    hFabric4ScreenFilter(const Image& image, const ScreenSettings& settings);
+    // Photo and tones in a pattern; the mask is ignored, and inverting swaps the two.
+    [[nodiscard]] static Image
+    hDottyScreenFilter(const Image& image, const ScreenSettings& settings);
+    [[nodiscard]] static Image
+    hDottyBWScreenFilter(const Image& image, const ScreenSettings& settings);
+    [[nodiscard]] static Image
+    hStrokeScreenFilter(const Image& image, const ScreenSettings& settings);
+    [[nodiscard]] static Image
+    hStrokeBWScreenFilter(const Image& image, const ScreenSettings& settings);
 
 private:
     [[nodiscard]] std::optional<platform::graphics::Image> converted(

@@ -126,7 +126,8 @@ TEST(Functions, OfThisVersionAreThese)
             u"resizePhotos"_s,
             u"batchFileConvert"_s,
             u"cropPhotos"_s,
-            u"addTint"_s
+            u"addTint"_s,
+            u"filters"_s
         )
     );
     EXPECT_THAT(
@@ -137,7 +138,8 @@ TEST(Functions, OfThisVersionAreThese)
             u"cropPhotos"_s,
             u"addTint"_s,
             u"rotatePhotos"_s,
-            u"roundings"_s
+            u"roundings"_s,
+            u"filters"_s
         )
     );
 }
