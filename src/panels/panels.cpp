@@ -21,7 +21,6 @@ Panels::Panels()
     add(vwWatermark.tvFileName);
     add(vwWatermark.pubFileNamePhotoProperties);
     add(vwWatermark.cActionsTWMArrayController);
-    add(vwWatermark.tvwTWMActions);
     addEditPanels();
     addFilterViews();
     addFileManagementPanels();

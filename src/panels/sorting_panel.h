@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "batch_sort_controls.h"
 #include "layout.h"
 
 #include <controls/text_controls.h>
 #include <platform/foundation/literals.h>
 
+#include <array>
+
 namespace brenvaldo::panels {
 
 /// Sorting by hand, sorting by criteria, and the upload into the photo library, each on a tab.
-struct SortingPanel : PanelView
+struct SortingPanel : PanelView, BatchSortControls
 {
     SortingPanel();
 
@@ -26,6 +29,30 @@ struct SortingPanel : PanelView
     controls::TextField tfSortDestination05{u"tfSortDestination05"_s};
     controls::TextField tfSortDestination06{u"tfSortDestination06"_s};
 
+    /// The buttons of each folder; their tags tell which one.
+    struct FolderButtons
+    {
+        explicit FolderButtons(int folder);
+
+        controls::Button choose;
+        controls::Button show;
+        controls::Button copy;
+        controls::Button move;
+        controls::Button alias;
+    };
+    std::array<FolderButtons, 6> sortFolderButtons{
+        FolderButtons(1),
+        FolderButtons(2),
+        FolderButtons(3),
+        FolderButtons(4),
+        FolderButtons(5),
+        FolderButtons(6)};
+    controls::Button btnTrashPhoto{
+        u"btnTrashPhoto"_s, u"Move the photo to the trash"_s, u"cGUIcontrols.hTrashPhoto"_s};
+
+    /// The field of a folder, 1 to 6; null for any other number.
+    [[nodiscard]] controls::TextField* sortDestination(int folder);
+
     /// The albums of the photo library.
     controls::ArrayController theApplePhotosData{u"theApplePhotosData"_s, {u"photosAlbumName"_s}};
     controls::TableView myPhotosTableView{u"myPhotosTableView"_s, theApplePhotosData};
@@ -35,6 +62,7 @@ struct SortingPanel : PanelView
     controls::CheckBox cbAddToFavorite{u"cbAddToFavorite"_s, u"Mark as favourite"_s};
 
 private:
+    [[nodiscard]] Layout folderRows(int folder);
     [[nodiscard]] Layout manualPage();
     [[nodiscard]] Layout uploadPage();
 };

@@ -173,9 +173,23 @@ Layout TextWatermarkControls::lookRows()
     };
 }
 
+Layout TextWatermarkControls::actionRows()
+{
+    return {
+        {Heading{u"File names"_s}},
+        {Table{
+            .table = &tvwTWMActions,
+            .columns = {{.key = u"cActions"_s, .title = u"C-Actions"_s}},
+            .accessibleName = u"Actions that change the names of written files"_s,
+            .emptyText = u"Photos keep their names."_s,
+            .removeButton = &btnRemoveTWMCActions}},
+        {Row{.fields = {{.control = &btnImportTWMCActions}, {.control = &btnRemoveTWMCActions}}}},
+    };
+}
+
 Layout TextWatermarkControls::textWatermarkPage()
 {
-    return joined({textRows(), fontRows(), placeRows(), shadowRows(), lookRows()});
+    return joined({textRows(), fontRows(), placeRows(), shadowRows(), lookRows(), actionRows()});
 }
 
 } // namespace brenvaldo::panels

@@ -102,6 +102,10 @@ struct TextWatermarkControls
     controls::ArrayController cActionsTWMArrayController{
         u"cActionsTWMArrayController"_s, {u"cActions"_s}};
     controls::TableView tvwTWMActions{u"tvwTWMActions"_s, cActionsTWMArrayController};
+    controls::Button btnImportTWMCActions{
+        u"btnImportTWMCActions"_s, u"Add C-Action\u2026"_s, u"cGUIcontrols.hImportTWMCActions"_s};
+    controls::Button btnRemoveTWMCActions{
+        u"btnRemoveTWMCActions"_s, u"Remove"_s, u"cGUIcontrols.hRemoveTWMCActions"_s};
 
     [[nodiscard]] Layout textWatermarkPage();
 
@@ -114,6 +118,7 @@ private:
     Layout placeRows();
     Layout shadowRows();
     Layout lookRows();
+    Layout actionRows();
 };
 
 } // namespace brenvaldo::panels

@@ -9,8 +9,11 @@ WindowControls::WindowControls()
 {
     pubEditPhoto.addAction(u"cGUIcontrols.hChooseMainEditFunction"_s);
     pubFileManagementSelect.addAction(u"cGUIcontrols.hChooseMainFileManagementFunction"_s);
+    wwAlertWindow.addAlias(u"jjrAlertWindowBatchSort"_s);
     tfHTMLAlertTitle.addAlias(u"tfAlertTitle"_s);
+    tfHTMLAlertTitle.addAlias(u"tfAlertWwTitle"_s);
     tfHTMLAlertInfo.addAlias(u"tfAlertDescription"_s);
+    tfHTMLAlertInfo.addAlias(u"tfAlertWwInfo"_s);
     cbPhotoToProcess.addAction(u"cCollectionViewController.hProcessAllPhotoFlag"_s);
 }
 
