@@ -3,6 +3,7 @@
 #include "name_parts.h"
 #include "ns_string_handling.h"
 #include "search_attributes.h"
+#include "usable_name.h"
 
 #include <platform/foundation/literals.h>
 
@@ -34,7 +35,8 @@ std::optional<QString> attributeOf(const QString& path, const QString& key)
 {
     if (key.isEmpty())
         return std::nullopt;
-    return searchAttribute(path, key);
+    const auto value = searchAttribute(path, key);
+    return value ? std::optional(asNamePart(*value)) : std::nullopt;
 }
 
 } // namespace

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tool_box.h"
+
+#include <panels/rename_panel.h>
+
+namespace brenvaldo::files {
+
+/// The transform of the selected tab with all its settings, as the line of a C-Action file.
+[[nodiscard]] cToolBox::NewActionFile actionFile(const panels::RenamePanel& panel);
+
+} // namespace brenvaldo::files
