@@ -8,11 +8,13 @@
 #include <presets/code_record.h>
 #include <presets/image_records.h>
 #include <presets/preset_manager.h>
+#include <presets/renaming_records.h>
+#include <presets/sorting_records.h>
 #include <presets/watermark_records.h>
 
 namespace brenvaldo::test {
 
-/// The records of the functions that have one, by function id.
+/// The records of the functions that have one, by function id; those of renaming by process.
 inline QHash<QString, presets::PresetRecord> recordsOf(panels::Panels& panels)
 {
     return {
@@ -27,6 +29,13 @@ inline QHash<QString, presets::PresetRecord> recordsOf(panels::Panels& panels)
         {u"cropPhotos"_s, presets::cropRecord(panels)},
         {u"filters"_s, presets::filterRecord(panels)},
         {u"batchQR"_s, presets::codeRecord(panels)},
+        {u"manSort"_s, presets::manSortRecord(panels)},
+        {u"batchSort"_s, presets::batchSortRecord(panels)},
+        {u"Strip"_s, presets::stripRecord(panels)},
+        {u"Replace"_s, presets::replaceRecord(panels)},
+        {u"Prefix"_s, presets::prefixRecord(panels)},
+        {u"Postfix"_s, presets::postfixRecord(panels)},
+        {u"Numbering"_s, presets::numberingRecord(panels)},
     };
 }
 

@@ -14,7 +14,6 @@ namespace brenvaldo::test {
 namespace {
 
 constexpr int columns = 102;
-constexpr QStringView fontList = u"cbWatermarkFont";
 
 QString colorText(const platform::graphics::Color& color)
 {
@@ -39,6 +38,16 @@ void giveColor(controls::ColorWell& well, const QString& text)
 {
     const auto [red, green, blue] = componentsOf(text);
     well.setColor({.red = red, .green = green, .blue = blue});
+}
+
+/// A combo box that a record keeps by its item.
+template <class Control>
+auto* itemList(Control& control)
+{
+    using List = std::
+        conditional_t<std::is_const_v<Control>, const controls::ComboBox, controls::ComboBox>;
+    const QStringList names{u"cbFontList"_s, u"cbxPrefixMetaData"_s, u"cbxPostfixMetaData"_s};
+    return names.contains(control.name()) ? dynamic_cast<List*>(&control) : nullptr;
 }
 
 } // namespace
@@ -76,8 +85,8 @@ void RecordBench::give(const QString& name, const QString& value)
         text->setStringValue(value);
     else if (auto* box = dynamic_cast<controls::CheckBox*>(&target))
         box->setState(value.toInt());
-    else if (name == fontList)
-        panels.vwWatermark.cbFontList.selectItemWithObjectValue(value);
+    else if (auto* items = itemList(target))
+        items->selectItemWithObjectValue(value);
     else if (auto* list = dynamic_cast<controls::IndexedControl*>(&target))
         list->selectIndex(value.toInt());
     else if (auto* tabs = dynamic_cast<controls::TabView*>(&target))
@@ -94,8 +103,8 @@ QString RecordBench::read(const QString& name) const
         return text->stringValue();
     if (const auto* box = dynamic_cast<const controls::CheckBox*>(&source))
         return QString::number(box->state());
-    if (name == fontList)
-        return panels.vwWatermark.cbFontList.objectValueOfSelectedItem();
+    if (const auto* items = itemList(source))
+        return items->objectValueOfSelectedItem();
     if (const auto* list = dynamic_cast<const controls::IndexedControl*>(&source))
         return QString::number(list->selectedIndex());
     if (const auto* tabs = dynamic_cast<const controls::TabView*>(&source))
@@ -140,7 +149,8 @@ QString RecordBench::storedFormOf(const QString& name, const QString& value) con
 {
     if (dynamic_cast<const controls::ColorWell*>(&control(name)))
         return platform::archives::colorArchive(componentsOf(value));
-    if (name == u"tfImageDestinationFolder" || name == u"tfWaterMarkImageFilePath") {
+    if (name == u"tfImageDestinationFolder" || name == u"tfWaterMarkImageFilePath"
+        || name == u"tfBatchSortDestFolder" || name.startsWith(u"tfSortDestination"_s)) {
         const QString path = QDir::cleanPath(value);
         return QString::fromLatin1(
             platform::archives::bookmarkFor(path).value_or(QByteArray()).toBase64()

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sorting_records.h"
+
+#include "load_effects.h"
+
+#include <platform/foundation/literals.h>
+
+namespace brenvaldo::presets {
+
+namespace {
+
+PresetRecord sortingRecord(const QString& process, std::vector<RecordField> fields)
+{
+    return {
+        .process = process,
+        .action = u"FileManagement"_s,
+        .before = PresetRecord::Before::Nothing,
+        .fields = std::move(fields)};
+}
+
+} // namespace
+
+PresetRecord manSortRecord(panels::Panels& panels)
+{
+    auto& sort = panels.vwFileManagementSorting;
+    return sortingRecord(
+        u"manSort"_s,
+        {
+            {3, FolderForm{&sort.tfSortDestination01}},
+            {4, FolderForm{&sort.tfSortDestination02}},
+            {5, FolderForm{&sort.tfSortDestination03}},
+            {6, FolderForm{&sort.tfSortDestination04}},
+            {7, FolderForm{&sort.tfSortDestination05}},
+            {8, FolderForm{&sort.tfSortDestination06}},
+        }
+    );
+}
+
+PresetRecord batchSortRecord(panels::Panels& panels)
+{
+    auto& sort = panels.vwFileManagementSorting;
+    return sortingRecord(
+        u"batchSort"_s,
+        {
+            {3, FolderForm{&sort.tfBatchSortDestFolder}},
+            {4,
+             StateForm{&sort.cbImagePropChoice},
+             enablesWhen(
+                 1, {&sort.pubImageProp, &sort.pubImagePropSelector, &sort.tfImagePropVar}
+             )},
+            {5, IndexForm{&sort.pubImageProp}},
+            {6, IndexForm{&sort.pubImagePropSelector}},
+            {7, TextForm{&sort.tfImagePropVar}},
+            {8,
+             StateForm{&sort.cbFileNameChoice},
+             enablesWhen(1, {&sort.pubFileName, &sort.pubFileNameSelector})},
+            {9, IndexForm{&sort.pubFileName}},
+            {10, IndexForm{&sort.pubFileNameSelector}},
+            {11, TextForm{&sort.tfFileNameVar}},
+            {12,
+             StateForm{&sort.cbFileTagChoice},
+             enablesWhen(1, {&sort.pubFileTagIsNot, &sort.pubFileTag})},
+            {13, IndexForm{&sort.pubFileTagIsNot}},
+            {14, IndexForm{&sort.pubFileTag}},
+            {15, IndexForm{&sort.pubFileHandlingSelector}},
+        }
+    );
+}
+
+} // namespace brenvaldo::presets
