@@ -6,16 +6,21 @@
 #include <workspace/preview/photo_preview.h>
 #include <workspace/start/app_delegate.h>
 
+#include <files/tool_box.h>
 #include <imaging/color_well_handling.h>
 #include <imaging/dv_image_handling.h>
 #include <metadata/mmeta.h>
+#include <presets/action_run.h>
 #include <presets/preset_manager.h>
 #include <presets/sheet_control.h>
 #include <services/code_actions.h>
 #include <watermark/dv_watermark.h>
 #include <watermark/panel_actions.h>
+#include <workspace/functions/action_list.h>
 #include <workspace/functions/preset_records.h>
 #include <workspace/run/photos_of_run.h>
+#include <workspace/sorting/file_sorter.h>
+#include <workspace/sorting/manual_sort.h>
 
 namespace brenvaldo::workspace {
 
@@ -46,6 +51,7 @@ Neighbours neighboursOf(imaging::DVImageHandling& imageHandling, metadata::mMeta
     neighbours.quickEdits = quickEditsOf(imageHandling);
     neighbours.hiDoNothing = [&](const QString& path) { meta.hiDoNothing(path); };
     neighbours.forgetPhoto = [&meta] { meta.forgetPhoto(); };
+    neighbours.hRenameTWMFile = presets::renamedByActions;
     return neighbours;
 }
 
@@ -59,6 +65,11 @@ struct Workspace::Parts
         platform::Signal<const QString&, const QString&>& alert
     )
         : functions(rows)
+        , toolBox(
+              {.chooser = surroundings.chooser,
+               .desktop = surroundings.desktop,
+               .defaults = surroundings.defaults}
+          )
         , collectionView(
               {.panels = panels,
                .photos = photos,
@@ -106,6 +117,22 @@ struct Workspace::Parts
               [this] { return presetRecords.recordOf(selectedFunction()); }
           )
         , colorWells(panels)
+        , actionList(subsystems, surroundings.defaults)
+        , manualSort(
+              {.subsystems = subsystems,
+               .desktop = surroundings.desktop,
+               .collectionView = collectionView,
+               .journal = journal,
+               .outputName
+               = [this](const QString& path) { return guiControls.driver().outputName(path); }}
+          )
+        , fileSorter(
+              {.subsystems = subsystems,
+               .desktop = surroundings.desktop,
+               .journal = journal,
+               .alert = [this](const Message& message
+                        ) { guiControls.hAlertWindow(message.title, message.text); }}
+          )
         , presetApplied(presetManager.presetApplied.connect([this] {
             collectionView.callForPreview();
         }))
@@ -135,11 +162,13 @@ struct Workspace::Parts
          .outputName
          = [this](const QString& path) { return guiControls.driver().outputName(path); },
          .previewPhoto = [this](const QString& path) { return previewPhotos.photo(path); }}};
+    files::cToolBox toolBox;
     Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
         .watermark = watermark,
-        .previewPhotos = previewPhotos};
+        .previewPhotos = previewPhotos,
+        .toolBox = toolBox};
     Neighbours neighbours = neighboursOf(imageHandling, meta);
     PresetRecords presetRecords{functions, subsystems};
     cCollectionViewController collectionView;
@@ -152,6 +181,9 @@ struct Workspace::Parts
         panels.vwQRBarCode, [this](const QString& title, const QString& text) {
             guiControls.hAlertWindow(title, text);
         }};
+    ActionList actionList;
+    ManualSort manualSort;
+    DVFileSorterRoutine fileSorter;
     platform::Subscription presetApplied;
     platform::Subscription presetNotSaved;
     bool hasStarted = false;
@@ -167,6 +199,9 @@ void Workspace::Parts::registerActions()
     watermark::registerPanelActions(actions, panels.vwWatermark, notifications);
     colorWells.registerActions(actions);
     codeActions.registerActions(actions);
+    actionList.registerActions(actions);
+    manualSort.registerActions(actions);
+    fileSorter.registerActions(actions);
 }
 
 void Workspace::Parts::recordLostPreset(const QString& name)

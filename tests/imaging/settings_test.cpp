@@ -6,10 +6,10 @@
 #include <imaging/rotate_settings.h>
 #include <imaging/rounding_settings.h>
 #include <imaging/tint_settings.h>
+#include <panels/filter_panel.h>
 #include <platform/foundation/literals.h>
 
 #include <panels/crop_panel.h>
-#include <panels/filter_panel.h>
 #include <panels/framing_panel.h>
 #include <panels/resize_panel.h>
 #include <panels/rotate_panel.h>
@@ -245,63 +245,64 @@ TEST(RotateSettings, AreReadFromTheirControls)
     EXPECT_EQ(settings.canvasMargin, -20);
     panel.cbRotationBackgroundColor.setState(0);
     EXPECT_FALSE(imaging::readSettings(panel).hasCanvas);
+}
 
-    TEST(FilterSettings, AreReadFromTheirControls)
-    {
-        panels::FilterPanel panel;
-        panel.pubFilterSelection.selectIndex(21);
-        panels::FilterScreenView& screen = panel.vwFiltersScreenView;
-        screen.tfFilterColorConvWidth.setStringValue(u"7.5"_s);
-        screen.tfFilterLineScreenAngle.setStringValue(u"-30"_s);
-        screen.tfFilterCenterCircularWidth.setStringValue(u"25"_s);
-        screen.tfFilterCenterCircularHeight.setStringValue(u"75.5"_s);
-        screen.cbFilterColorConvMask.setState(1);
-        screen.pubFilterColorConvSharpness.selectIndex(2);
-        panel.vwFiltersGaussianView.tfFilterBlurRadiusVal.setStringValue(u"4.5"_s);
-        const platform::graphics::Color colour
-            = {.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 0.5};
-        panel.vwFiltersMonochromeView.cwFilterMonochromeColor.setColor(colour);
-        panel.vwFiltersMonochromeView.pubFilterMonochromeIntensity.selectIndex(3);
-        panel.vwFiltersPosterizeView.tfFilterColorConvLevels.setStringValue(u"9"_s);
-        panel.vwFiltersSepiaView.pubFilterColorConvIntensity.selectIndex(5);
-        panel.vwFiltersUnsharpView.tfFilterUnsharpMaskRadius.setStringValue(u"1.5"_s);
-        panel.vwFiltersUnsharpView.pubFilterUnsharpMaskIntensity.selectIndex(7);
+TEST(FilterSettings, AreReadFromTheirControls)
+{
+    panels::FilterPanel panel;
+    panel.pubFilterSelection.selectIndex(21);
+    panels::FilterScreenView& screen = panel.vwFiltersScreenView;
+    screen.tfFilterColorConvWidth.setStringValue(u"7.5"_s);
+    screen.tfFilterLineScreenAngle.setStringValue(u"-30"_s);
+    screen.tfFilterCenterCircularWidth.setStringValue(u"25"_s);
+    screen.tfFilterCenterCircularHeight.setStringValue(u"75.5"_s);
+    screen.cbFilterColorConvMask.setState(1);
+    screen.pubFilterColorConvSharpness.selectIndex(2);
+    panel.vwFiltersGaussianView.tfFilterBlurRadiusVal.setStringValue(u"4.5"_s);
+    const platform::graphics::Color colour
+        = {.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 0.5};
+    panel.vwFiltersMonochromeView.cwFilterMonochromeColor.setColor(colour);
+    panel.vwFiltersMonochromeView.pubFilterMonochromeIntensity.selectIndex(3);
+    panel.vwFiltersPosterizeView.tfFilterColorConvLevels.setStringValue(u"9"_s);
+    panel.vwFiltersSepiaView.pubFilterColorConvIntensity.selectIndex(5);
+    panel.vwFiltersUnsharpView.tfFilterUnsharpMaskRadius.setStringValue(u"1.5"_s);
+    panel.vwFiltersUnsharpView.pubFilterUnsharpMaskIntensity.selectIndex(7);
 
-        imaging::FilterSettings settings = imaging::readSettings(panel);
+    imaging::FilterSettings settings = imaging::readSettings(panel);
 
-        EXPECT_EQ(settings.number, 21);
-        EXPECT_EQ(settings.screen.width, 7.5F);
-        EXPECT_EQ(settings.screen.angle, -30.0F);
-        EXPECT_EQ(settings.screen.centreX, 25.0F);
-        EXPECT_EQ(settings.screen.centreY, 75.5F);
-        EXPECT_TRUE(settings.screen.isMask);
-        EXPECT_FALSE(settings.screen.isInverted);
-        EXPECT_EQ(settings.screen.sharpness, 0.3F);
-        EXPECT_EQ(settings.blurRadius, 4.5F);
-        EXPECT_EQ(settings.colour, colour);
-        EXPECT_EQ(settings.monochromeIntensity, 0.4F);
-        EXPECT_EQ(settings.levels, 9.0F);
-        EXPECT_EQ(settings.sepiaIntensity, 0.6F);
-        EXPECT_EQ(settings.unsharpRadius, 1.5F);
-        EXPECT_EQ(settings.unsharpIntensity, 0.8F);
+    EXPECT_EQ(settings.number, 21);
+    EXPECT_EQ(settings.screen.width, 7.5F);
+    EXPECT_EQ(settings.screen.angle, -30.0F);
+    EXPECT_EQ(settings.screen.centreX, 25.0F);
+    EXPECT_EQ(settings.screen.centreY, 75.5F);
+    EXPECT_TRUE(settings.screen.isMask);
+    EXPECT_FALSE(settings.screen.isInverted);
+    EXPECT_EQ(settings.screen.sharpness, 0.3F);
+    EXPECT_EQ(settings.blurRadius, 4.5F);
+    EXPECT_EQ(settings.colour, colour);
+    EXPECT_EQ(settings.monochromeIntensity, 0.4F);
+    EXPECT_EQ(settings.levels, 9.0F);
+    EXPECT_EQ(settings.sepiaIntensity, 0.6F);
+    EXPECT_EQ(settings.unsharpRadius, 1.5F);
+    EXPECT_EQ(settings.unsharpIntensity, 0.8F);
 
-        screen.cbFilterColorConvMask.setState(0);
-        screen.cbFilterColorConvInvert.setState(1);
-        settings = imaging::readSettings(panel);
-        EXPECT_FALSE(settings.screen.isMask);
-        EXPECT_TRUE(settings.screen.isInverted);
-    }
+    screen.cbFilterColorConvMask.setState(0);
+    screen.cbFilterColorConvInvert.setState(1);
+    settings = imaging::readSettings(panel);
+    EXPECT_FALSE(settings.screen.isMask);
+    EXPECT_TRUE(settings.screen.isInverted);
+}
 
-    TEST(FilterSettings, TakeEmptyFieldsAsLevelAndInTheMiddle)
-    {
-        panels::FilterPanel panel;
-        panel.vwFiltersScreenView.tfFilterLineScreenAngle.setStringValue({});
-        panel.vwFiltersScreenView.tfFilterCenterCircularWidth.setStringValue({});
-        panel.vwFiltersScreenView.tfFilterCenterCircularHeight.setStringValue({});
+TEST(FilterSettings, TakeEmptyFieldsAsLevelAndInTheMiddle)
+{
+    panels::FilterPanel panel;
+    panel.vwFiltersScreenView.tfFilterLineScreenAngle.setStringValue({});
+    panel.vwFiltersScreenView.tfFilterCenterCircularWidth.setStringValue({});
+    panel.vwFiltersScreenView.tfFilterCenterCircularHeight.setStringValue({});
 
-        const imaging::ScreenSettings screen = imaging::readSettings(panel).screen;
+    const imaging::ScreenSettings screen = imaging::readSettings(panel).screen;
 
-        EXPECT_EQ(screen.angle, 0.0F);
-        EXPECT_EQ(screen.centreX, 50.0F);
-        EXPECT_EQ(screen.centreY, 50.0F);
-    }
+    EXPECT_EQ(screen.angle, 0.0F);
+    EXPECT_EQ(screen.centreX, 50.0F);
+    EXPECT_EQ(screen.centreY, 50.0F);
+}

@@ -6,6 +6,7 @@
 #include <workspace/gui_controls.h>
 
 #include <controls/user_input.h>
+#include <files/tool_box.h>
 #include <imaging/dv_image_handling.h>
 #include <platform/foundation/paths.h>
 #include <watermark/dv_watermark.h>
@@ -27,10 +28,16 @@ public:
         panels.append(panel);
         return answers.isEmpty() ? std::nullopt : answers.takeFirst();
     }
-    std::optional<QString> save(const controls::SavePanel&) override { return std::nullopt; }
+    std::optional<QString> save(const controls::SavePanel& panel) override
+    {
+        savePanels.append(panel);
+        return savePaths.isEmpty() ? std::nullopt : std::optional(savePaths.takeFirst());
+    }
 
     QList<std::optional<QStringList>> answers;
     QList<controls::OpenPanel> panels;
+    QStringList savePaths;
+    QList<controls::SavePanel> savePanels;
 };
 
 class RecordingDesktop : public platform::storage::Desktop
@@ -163,13 +170,14 @@ protected:
               };
     }
 
-    /// Gives the renaming an operation; it answers "OK".
+    /// Gives the renaming an operation; it answers "OK" and the name "new.jpg".
     void renames(const std::function<void(const workspace::RenameRequest&)>& rename)
     {
         std::get<workspace::RenamingRun>(row("fileRenaming").run).rename
             = [rename](const workspace::Subsystems&, const workspace::RenameRequest& request) {
                   rename(request);
-                  return imaging::ResultWord::Ok;
+                  return workspace::RenameOutcome{
+                      .word = imaging::ResultWord::Ok, .newName = u"new.jpg"_s};
               };
     }
 
@@ -202,14 +210,17 @@ protected:
          .outputName = platform::lastPathComponent,
          .previewPhoto = [this](const QString& path) { return previewPhotos.photo(path); }}};
     workspace::Functions functions{workspace::functions()};
+    QueuedChooser chooser;
+    RecordingDesktop desktop;
+    platform::UserDefaults defaults{folder.path(u"defaults"_s)};
+    files::cToolBox toolBox{{.chooser = chooser, .desktop = desktop, .defaults = defaults}};
     workspace::Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
         .watermark = mark,
-        .previewPhotos = previewPhotos};
+        .previewPhotos = previewPhotos,
+        .toolBox = toolBox};
     workspace::Neighbours neighbours;
-    QueuedChooser chooser;
-    RecordingDesktop desktop;
     platform::NotificationCenter notifications;
     platform::Signal<const QString&, const QString&> alertShown;
     QList<QStringList> alerts; ///< title and text of each

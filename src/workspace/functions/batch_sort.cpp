@@ -4,6 +4,7 @@
 #include "function_id.h"
 
 #include <panels/panels.h>
+#include <presets/sorting_records.h>
 
 namespace brenvaldo::workspace {
 
@@ -25,6 +26,7 @@ Function batchSort()
         .choice = {.section = Section::FileManagement, .index = 0, .isTabSelected = isTabSelected},
         .holders = {QLatin1String("vwFileManagementSorting"), Empty, Empty, Empty, Fill},
         .run = OwnButton{.action = QLatin1String("hSortFiles"), .message = batchSortMessage},
+        .presets = {{.make = presets::batchSortRecord}},
     };
 }
 

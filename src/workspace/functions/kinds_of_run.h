@@ -104,10 +104,17 @@ struct RenameRequest
     int index = 0; ///< of the entry in the photo list
 };
 
+struct RenameOutcome
+{
+    imaging::ResultWord word = imaging::ResultWord::None;
+    QString newName = {}; ///< what a dry run shows
+    QString target = {}; ///< path of the file; empty on a dry run
+};
+
 /// File by file, dry or into the destination folder.
 struct RenamingRun
 {
-    std::function<imaging::ResultWord(const Subsystems&, const RenameRequest&)> rename = {};
+    std::function<RenameOutcome(const Subsystems&, const RenameRequest&)> rename = {};
 };
 
 using KindOfRun = std::variant<OwnButton, PhotoRun, InPlaceRun, ListRun, RenamingRun>;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+namespace brenvaldo::files {
+class cToolBox;
+}
 namespace brenvaldo::imaging {
 class DVImageHandling;
 }
@@ -22,6 +25,7 @@ struct Subsystems
     imaging::DVImageHandling& imageHandling;
     watermark::DVWatermark& watermark;
     PreviewPhotos& previewPhotos;
+    const files::cToolBox& toolBox;
 };
 
 } // namespace brenvaldo::workspace

@@ -7,6 +7,7 @@
 #include "run_bar.h"
 
 #include <files/keep_number.h>
+#include <files/usable_name.h>
 #include <imaging/writer_rules.h>
 #include <panels/panels.h>
 #include <platform/containers/type_identifier.h>
@@ -182,10 +183,13 @@ void BatchDriver::hCalledRenameFilesFunc(const QString& path, int previewState, 
         .function = u"RenamingFunction"_s,
         .previewState = previewState,
         .index = index};
-    const imaging::ResultWord word
-        = rename ? rename(m_links.subsystems, request) : failsAsNotBuilt(functionId::fileRenaming);
+    const RenameOutcome renamed = rename
+        ? rename(m_links.subsystems, request)
+        : RenameOutcome{.word = failsAsNotBuilt(functionId::fileRenaming)};
+    if (previewState == 1)
+        m_links.hUpdateCollectionViewItem(renamed.newName, index);
     PictureSaver saver(functionId::fileRenaming, m_links.subsystems.imageHandling, m_links.journal);
-    saver.take({.source = path, .target = {}, .outcome = word});
+    saver.take({.source = path, .target = renamed.target, .outcome = renamed.word});
 }
 
 void BatchDriver::hCalledCActionFunc()
@@ -215,7 +219,10 @@ QString BatchDriver::outputName(const QString& path) const
     const QString name = platform::lastPathComponent(path);
     const auto& chain = m_panels.vwWatermark.cActionsTWMArrayController.arrangedObjects();
     const auto& rename = m_links.neighbours.hRenameTWMFile;
-    return chain.isEmpty() || !rename ? name : rename(path, name, chain);
+    if (chain.isEmpty() || !rename)
+        return name;
+    const QString made = files::usableName(rename(path, name, chain));
+    return made.isEmpty() ? name : made;
 }
 
 OutputChoice BatchDriver::outputChoice() const

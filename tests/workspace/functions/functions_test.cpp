@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../silent_tool_box.h"
+
 #include <platform/foundation/literals.h>
 #include <workspace/functions/functions.h>
 #include <workspace/functions/preset_records.h>
@@ -180,12 +182,23 @@ TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
         {u"resizePhotos"_s, u"resizePhotos Edit"_s},
         {u"cropPhotos"_s, u"cropPhotos Edit"_s},
         {u"filters"_s, u"filters Edit"_s},
+        {u"manSort"_s, u"manSort FileManagement"_s},
+        {u"batchSort"_s, u"batchSort FileManagement"_s},
         {u"faces"_s, u"none"_s},
         {u"batchFileConvert"_s, u"none"_s},
         {u"unknown"_s, u"none"_s},
     };
     for (const auto& [function, process] : expected)
         EXPECT_EQ(processOf(records.recordOf(function)), process) << function.toStdString();
+
+    const QStringList renamings{
+        u"Strip"_s, u"Replace"_s, u"Prefix"_s, u"Postfix"_s, u"Numbering"_s};
+    for (int tab = 0; tab < renamings.size(); ++tab) {
+        panels.vwFileManagementRename.tbvFileRenaming.selectIndex(tab);
+        EXPECT_EQ(
+            processOf(records.recordOf(u"fileRenaming"_s)), renamings.at(tab) + u" FileManagement"_s
+        );
+    }
 }
 
 TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)

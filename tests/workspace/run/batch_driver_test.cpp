@@ -577,10 +577,7 @@ TEST_F(BatchDriver, NeedsNoDestinationForADryRunOfRenaming)
     photos.setTick(1, 0);
     collectionView.hUpdateCollectionViewItem(u"old"_s, 1);
     panels.vwShowPreview.cbShowPreview.setState(1);
-    renames([&](const workspace::RenameRequest& request) {
-        EXPECT_EQ(request.previewState, 1);
-        collectionView.hUpdateCollectionViewItem(u"new.jpg"_s, request.index);
-    });
+    renames([&](const workspace::RenameRequest& request) { EXPECT_EQ(request.previewState, 1); });
 
     run();
 
