@@ -480,6 +480,6 @@ TEST_F(WorkspaceTest, OffersNothingForAnUploadTabThatWasLeft)
     EXPECT_EQ(own.photosOfRun(), QStringList{folder.path(u"wide.jpg"_s)});
 
     user.pick(functionsOfFiles, 0);
-    EXPECT_EQ(own.runOffer(), workspace::RunOffer::ComesLater);
+    EXPECT_EQ(own.runOffer(), workspace::RunOffer::Nothing);
     EXPECT_EQ(own.photosOfRun(), QStringList());
 }
