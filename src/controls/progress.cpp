@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "progress.h"
 
+#include <platform/foundation/files_in_the_making.h>
 #include <platform/foundation/run_loop.h>
 
 namespace brenvaldo::controls {
@@ -50,7 +51,11 @@ RunningProgress::RunningProgress(ProgressIndicator& bar, const BarRhythm& rhythm
     m_progress.hInitialisePB();
 }
 
-RunningProgress::~RunningProgress() { m_progress.hStopPB(); }
+RunningProgress::~RunningProgress()
+{
+    platform::awaitAllFiles();
+    m_progress.hStopPB();
+}
 
 void RunningProgress::advance(double step) { m_progress.hProgressPB(step); }
 

@@ -42,7 +42,8 @@ private:
     BarRhythm m_rhythm;
 };
 
-/// The bar of one run: shown for as long as the object lives, whatever ends the run.
+/// The bar of one run: shown for as long as the object lives and files are in the making, whatever
+/// ends the run.
 class RunningProgress
 {
 public:

@@ -263,6 +263,9 @@ public:
     /// Saves what an operation answered, where that is a picture; the photo's word.
     ResultWord finish(const Outcome& outcome);
 
+    /// The photo's word when its picture, if it has one, was saved with the word `saved`.
+    ResultWord finish(const Outcome& outcome, ResultWord saved);
+
     /// The result word of the last save; "Failed" before the first. Watermarks and conversions,
     /// which have writers of their own, leave it.
     [[nodiscard]] ResultWord storeResult() const { return m_storeResult; }

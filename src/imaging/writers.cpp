@@ -66,15 +66,20 @@ ResultWord DVImageHandling::hSaveToNewImageFile(const PictureToSave& picture)
 
 ResultWord DVImageHandling::finish(const Outcome& outcome)
 {
+    const auto* picture = std::get_if<PictureToSave>(&outcome);
+    return finish(outcome, picture ? save(*picture) : ResultWord::None);
+}
+
+ResultWord DVImageHandling::finish(const Outcome& outcome, ResultWord saved)
+{
     if (const auto* word = std::get_if<ResultWord>(&outcome))
         return *word;
     const auto* picture = std::get_if<PictureToSave>(&outcome);
     if (!picture)
         return m_storeResult;
-    const ResultWord word = save(*picture);
     if (picture->writer == hSaveToNewImageFileX)
-        m_storeResult = word;
-    return word;
+        m_storeResult = saved;
+    return saved;
 }
 
 } // namespace brenvaldo::imaging

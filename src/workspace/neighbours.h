@@ -43,6 +43,8 @@ struct Neighbours
     std::function<void(const QString& path)> printService = {};
     /// A picture of the program's resources by its name.
     std::function<std::optional<platform::graphics::Image>(const QString& name)> imageNamed = {};
+    /// How many photos of a run may be in the making; 0: as many as there are cores.
+    std::function<int()> photosAtATime = {};
 };
 
 } // namespace brenvaldo::workspace

@@ -45,13 +45,18 @@ QuickEdits quickEditsOf(imaging::DVImageHandling& imageHandling)
           ) { return wordOf(imageHandling.hFlipVerticalPicture(path, folder)); }};
 }
 
-Neighbours neighboursOf(imaging::DVImageHandling& imageHandling, metadata::mMeta& meta)
+Neighbours neighboursOf(
+    imaging::DVImageHandling& imageHandling,
+    metadata::mMeta& meta,
+    const platform::UserDefaults& defaults
+)
 {
     Neighbours neighbours;
     neighbours.quickEdits = quickEditsOf(imageHandling);
     neighbours.hiDoNothing = [&](const QString& path) { meta.hiDoNothing(path); };
     neighbours.forgetPhoto = [&meta] { meta.forgetPhoto(); };
     neighbours.hRenameTWMFile = presets::renamedByActions;
+    neighbours.photosAtATime = [&defaults] { return defaults.text(u"PhotosAtATime"_s).toInt(); };
     return neighbours;
 }
 
@@ -70,6 +75,7 @@ struct Workspace::Parts
                .desktop = surroundings.desktop,
                .defaults = surroundings.defaults}
           )
+        , neighbours(neighboursOf(imageHandling, meta, surroundings.defaults))
         , collectionView(
               {.panels = panels,
                .photos = photos,
@@ -169,7 +175,7 @@ struct Workspace::Parts
         .watermark = watermark,
         .previewPhotos = previewPhotos,
         .toolBox = toolBox};
-    Neighbours neighbours = neighboursOf(imageHandling, meta);
+    Neighbours neighbours;
     PresetRecords presetRecords{functions, subsystems};
     cCollectionViewController collectionView;
     cGUIcontrols guiControls;

@@ -5,6 +5,7 @@
 #include "tiff_claim.h"
 
 #include <platform/containers/type_identifier.h>
+#include <platform/foundation/files_in_the_making.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/graphics/deferred_pixels.h>
@@ -95,6 +96,7 @@ ImageSource::ImageSource(std::shared_ptr<const State> state)
 
 std::optional<ImageSource> ImageSource::open(const QString& path)
 {
+    awaitFile(path);
     vips_error_clear();
     try {
         auto decoder = openDecoder(path);

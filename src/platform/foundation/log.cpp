@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <mutex>
+#include <utility>
 
 namespace brenvaldo::platform {
 
@@ -20,10 +21,20 @@ Log& sharedLog()
     return log;
 }
 
+LogSink& sinkOfThread()
+{
+    thread_local LogSink sink;
+    return sink;
+}
+
 } // namespace
 
 void log(const QString& line)
 {
+    if (const LogSink& own = sinkOfThread()) {
+        own(line);
+        return;
+    }
     Log& shared = sharedLog();
     const std::scoped_lock lock(shared.mutex);
     if (shared.sink) {
@@ -40,5 +51,14 @@ void setLogSink(LogSink sink)
     const std::scoped_lock lock(shared.mutex);
     shared.sink = std::move(sink);
 }
+
+ThreadLogSink::ThreadLogSink(LogSink sink)
+    : m_before(std::exchange(sinkOfThread(), std::move(sink)))
+{
+}
+
+ThreadLogSink::~ThreadLogSink() { sinkOfThread() = std::move(m_before); }
+
+const LogSink& ThreadLogSink::current() { return sinkOfThread(); }
 
 } // namespace brenvaldo::platform

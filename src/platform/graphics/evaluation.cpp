@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "evaluation.h"
 
+#include "engine_thread.h"
+
+#include <platform/foundation/log.h>
+
 #include <atomic>
 #include <memory>
 
@@ -17,6 +21,8 @@ public:
     WatchedPixels(vips::VImage pixels, Fault fault)
         : m_pixels(std::move(pixels))
         , m_fault(std::move(fault))
+        , m_terms(EvaluationTerms::ofThread())
+        , m_log(ThreadLogSink::current())
     {
     }
 
@@ -28,10 +34,7 @@ public:
     static int
     generate(VipsRegion* out, void* source, void* watched, void* /*unused*/, gboolean* /*stop*/)
     {
-        auto* region = static_cast<VipsRegion*>(source);
-        const VipsRect area = out->valid;
-        if (vips_region_prepare(region, &area) == 0
-            && vips_region_region(out, region, &area, area.left, area.top) == 0)
+        if (self(watched)->fills(out, static_cast<VipsRegion*>(source)))
             return 0;
         *self(watched)->m_fault = true;
         return -1;
@@ -51,8 +54,20 @@ public:
 private:
     static WatchedPixels* self(void* watched) { return static_cast<WatchedPixels*>(watched); }
 
+    /// On a thread of the engine, which works here for the thread that asked for the pixels.
+    [[nodiscard]] bool fills(VipsRegion* out, VipsRegion* source) const
+    {
+        const TermsOnThread terms(m_terms);
+        const ThreadLogSink log(m_log);
+        const VipsRect area = out->valid;
+        return !m_terms.isCancelled() && vips_region_prepare(source, &area) == 0
+            && vips_region_region(out, source, &area, area.left, area.top) == 0;
+    }
+
     vips::VImage m_pixels;
     Fault m_fault;
+    EvaluationTerms m_terms;
+    LogSink m_log;
 };
 
 vips::VImage watchedPixels(const vips::VImage& pixels, const WatchedPixels::Fault& fault)
@@ -71,6 +86,8 @@ vips::VImage watchedPixels(const vips::VImage& pixels, const WatchedPixels::Faul
                nullptr
            ) != 0)
         throw vips::VError();
+    if (const int threads = EvaluationTerms::ofThread().threads; threads > 0)
+        vips_image_set_int(image, VIPS_META_CONCURRENCY, threads);
     return out;
 }
 

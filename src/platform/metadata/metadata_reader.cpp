@@ -5,6 +5,7 @@
 
 #include <platform/containers/mapped_file.h>
 #include <platform/containers/signatures.h>
+#include <platform/foundation/files_in_the_making.h>
 
 namespace brenvaldo::platform::metadata {
 
@@ -44,6 +45,7 @@ containers::MetadataBlocks blocksOf(Container container, QByteArrayView file)
 
 std::optional<containers::MetadataBlocks> readMetadataBlocks(const QString& path)
 {
+    awaitFile(path);
     const containers::MappedFile file(path);
     const auto kind = containers::fileKindOf(file.bytes());
     return kind ? std::optional(blocksOf(kind->container, file.bytes())) : std::nullopt;

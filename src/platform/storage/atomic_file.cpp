@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "atomic_file.h"
 
+#include <platform/foundation/commit_turn.h>
+#include <platform/foundation/files_in_the_making.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/output_file.h>
 
@@ -59,8 +61,9 @@ void keepModeAndOwner(const QString& target, int replacement)
 } // namespace
 
 AtomicFile::AtomicFile(const QString& target)
-    : m_target(resolvedTarget(target))
 {
+    awaitFile(target);
+    m_target = resolvedTarget(target);
     if (!isPlainFileOrFree(m_target)) {
         m_fault = u"something else than a plain file stands there"_s;
         return;
@@ -77,7 +80,15 @@ bool AtomicFile::commit(Existing existing)
     if (!isValid())
         return false;
     keepModeAndOwner(m_target, m_file->descriptor());
-    if (::fsync(m_file->descriptor()) != 0 || !m_file->moveTo(m_target, existing)) {
+    if (::fsync(m_file->descriptor()) != 0) {
+        m_fault = qt_error_string(errno);
+        return false;
+    }
+    if (!awaitCommitTurn()) {
+        m_fault = u"nobody waits for it any more"_s;
+        return false;
+    }
+    if (!m_file->moveTo(m_target, existing)) {
         m_fault = qt_error_string(errno);
         return false;
     }

@@ -29,8 +29,8 @@ public:
     /// The folder that the file comes to stand in.
     [[nodiscard]] QString folder() const;
 
-    /// Flushes the file to the disk and puts it in the place of the target; mode and owner of an
-    /// existing target stay.
+    /// Flushes the file to the disk and, when it is this thread's turn, puts it in the place of the
+    /// target; mode and owner of an existing target stay.
     [[nodiscard]] bool commit(Existing existing = Existing::Replaced);
 
     /// Why the file is not valid or could not be committed, as a text for the log.

@@ -5,6 +5,7 @@
 #include "free_name.h"
 #include "hidden_file.h"
 
+#include <platform/foundation/files_in_the_making.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
@@ -151,7 +152,11 @@ void appendTree(const QString& folder, QList<FolderEntry>& tree)
 
 } // namespace
 
-bool fileExists(const QString& path) { return QFileInfo::exists(path); }
+bool fileExists(const QString& path)
+{
+    awaitFile(path);
+    return QFileInfo::exists(path);
+}
 
 bool isFolder(const QString& path) { return QFileInfo(path).isDir(); }
 
@@ -159,6 +164,8 @@ bool createFolder(const QString& path) { return !path.isEmpty() && QDir().mkpath
 
 bool copyItem(const SourceAndTarget& paths)
 {
+    awaitFile(paths.source);
+    awaitFile(paths.target);
     if (paths.target.isEmpty() || isTaken(paths.target))
         return false;
     return copyToFreePlace(paths);
@@ -166,6 +173,8 @@ bool copyItem(const SourceAndTarget& paths)
 
 bool moveItem(const SourceAndTarget& paths)
 {
+    awaitFile(paths.source);
+    awaitFile(paths.target);
     if (paths.target.isEmpty() || isTaken(paths.target))
         return false;
     const QByteArray target = QFile::encodeName(paths.target);
@@ -183,6 +192,7 @@ bool createSymbolicLink(const SourceAndTarget& paths)
 
 bool removeItem(const QString& path)
 {
+    awaitFile(path);
     // A trailing slash would lead through a link to the folder behind it.
     const QString item = appendingPathComponent(path, {});
     if (!isTaken(item))
@@ -194,6 +204,7 @@ bool removeItem(const QString& path)
 
 std::optional<FileAttributes> fileAttributes(const QString& path)
 {
+    awaitFile(path);
     struct statx status = {};
     constexpr unsigned wanted = STATX_SIZE | STATX_MTIME | STATX_BTIME;
     const QByteArray name = QFile::encodeName(path);

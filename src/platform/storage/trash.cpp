@@ -3,6 +3,7 @@
 
 #include "file_system.h"
 
+#include <platform/foundation/files_in_the_making.h>
 #include <platform/foundation/folders.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
@@ -71,6 +72,7 @@ bool moveLinkToTrash(const QString& link)
 
 bool moveToTrash(const QString& path)
 {
+    awaitFile(path);
     // Without its data folder Qt moves the file into the current folder and calls it success.
     if (path.isEmpty() || !createFolder(applicationSupportFolder()))
         return false;

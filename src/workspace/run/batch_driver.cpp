@@ -3,7 +3,6 @@
 
 #include "batch_rules.h"
 #include "photos_of_run.h"
-#include "picture_saver.h"
 #include "run_bar.h"
 
 #include <files/keep_number.h>
@@ -11,6 +10,7 @@
 #include <imaging/writer_rules.h>
 #include <panels/panels.h>
 #include <platform/containers/type_identifier.h>
+#include <platform/foundation/files_in_the_making.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/hidden_file.h>
@@ -64,6 +64,8 @@ void BatchDriver::hLoadImages()
     const PreviewSwitchedOff preview(m_panels.vwShowPreview.cbShowPreview);
     const QString selected = cSelectedFunction::sharedModel().myString.value_or(QString());
     const Function* function = functionOfRun(m_links.functions, selected, m_panels);
+    // Inside of another run, its files stand before this one begins.
+    platform::awaitAllFiles();
     files::cKeepNumber::sharedNumber().myNumberString = u"0"_s;
     const Press press{
         .function = function ? function->id : QLatin1String(),
@@ -87,10 +89,14 @@ void BatchDriver::run(const Press& press, const PhotoRun& photoRun)
     const QStringList photos = takenForDestination(press, photoRun.takes);
     if (photos.isEmpty())
         return;
-    const RunContext context{.subsystems = m_links.subsystems, .alert = m_links.alert};
+    const RunContext context{
+        .subsystems = m_links.subsystems, .alert = [this](const Message& message) {
+            platform::awaitAllFiles();
+            m_links.alert(message);
+        }};
     const PhotoRun::Operation operation = operationOf(photoRun, press.function, context);
     const OutputChoice choice = outputChoice();
-    PictureSaver saver(press.function, m_links.subsystems.imageHandling, m_links.journal);
+    PictureSaver saver(savingOf(press.function), photos.size());
     RunBar bar(m_panels.window.myProgressBar, photos.size());
     for (const QString& path : photos) {
         bar.advance();
@@ -107,7 +113,7 @@ void BatchDriver::run(const Press& press, const InPlaceRun& inPlace)
     const QStringList photos = takenPhotos(Takes::PhotosOfTheFilter, m_links.photos, m_panels);
     if (photos.isEmpty())
         return;
-    PictureSaver saver(press.function, m_links.subsystems.imageHandling, m_links.journal);
+    PictureSaver saver(savingOf(press.function), photos.size());
     RunBar bar(m_panels.window.myProgressBar, photos.size());
     for (const QString& path : photos) {
         const InPlaceRun::Operation operation = inPlace.read
@@ -129,7 +135,7 @@ void BatchDriver::run(const Press& press, const ListRun& listRun)
     const QStringList photos = takenForDestination(press, Takes::PhotosOfTheFilter);
     if (photos.isEmpty())
         return;
-    PictureSaver saver(press.function, m_links.subsystems.imageHandling, m_links.journal);
+    PictureSaver saver(savingOf(press.function), photos.size());
     if (listRun.work) {
         listRun.work(
             {.subsystems = m_links.subsystems,
@@ -188,7 +194,7 @@ void BatchDriver::hCalledRenameFilesFunc(const QString& path, int previewState, 
         : RenameOutcome{.word = failsAsNotBuilt(functionId::fileRenaming)};
     if (previewState == 1)
         m_links.hUpdateCollectionViewItem(renamed.newName, index);
-    PictureSaver saver(functionId::fileRenaming, m_links.subsystems.imageHandling, m_links.journal);
+    PictureSaver saver(savingOf(functionId::fileRenaming), 1);
     saver.take({.source = path, .target = renamed.target, .outcome = renamed.word});
 }
 
@@ -216,6 +222,7 @@ QStringList BatchDriver::takenForDestination(const Press& press, Takes takes)
 
 QString BatchDriver::outputName(const QString& path) const
 {
+    platform::awaitFile(path);
     const QString name = platform::lastPathComponent(path);
     const auto& chain = m_panels.vwWatermark.cActionsTWMArrayController.arrangedObjects();
     const auto& rename = m_links.neighbours.hRenameTWMFile;
@@ -223,6 +230,17 @@ QString BatchDriver::outputName(const QString& path) const
         return name;
     const QString made = files::usableName(rename(path, name, chain));
     return made.isEmpty() ? name : made;
+}
+
+PictureSaver::Links BatchDriver::savingOf(const QLatin1String& function) const
+{
+    const auto& photosAtATime = m_links.neighbours.photosAtATime;
+    return {
+        .function = function,
+        .imageHandling = m_links.subsystems.imageHandling,
+        .journal = m_links.journal,
+        .bar = m_panels.window.myProgressBar,
+        .photosAtATime = photosAtATime ? photosAtATime() : 0};
 }
 
 OutputChoice BatchDriver::outputChoice() const

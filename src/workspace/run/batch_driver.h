@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "run_journal.h"
+#include "picture_saver.h"
 
 #include <workspace/functions/functions.h>
 #include <workspace/list/photo_list.h>
@@ -9,7 +9,8 @@
 
 namespace brenvaldo::workspace {
 
-/// Runs the selected function over the photos of the list, one after the other, in this thread.
+/// Runs the selected function over the photos of the list, one after the other, in this thread;
+/// their pictures are made behind it.
 class BatchDriver
 {
 public:
@@ -54,6 +55,7 @@ private:
     void run(const Press& press, const RenamingRun& renaming);
 
     [[nodiscard]] QStringList takenForDestination(const Press& press, Takes takes);
+    [[nodiscard]] PictureSaver::Links savingOf(const QLatin1String& function) const;
     [[nodiscard]] OutputChoice outputChoice() const;
     [[nodiscard]] PhotoOutput
     outputOf(const QString& path, const QString& destination, const OutputChoice& choice) const;

@@ -1,29 +1,173 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "picture_saver.h"
 
+#include <platform/foundation/literals.h>
+#include <platform/foundation/log.h>
+#include <platform/graphics/memory_need.h>
+
+#include <QFileInfo>
+#include <QStorageInfo>
+#include <QThread>
+
+#include <algorithm>
+
+#include <unistd.h>
+
 namespace brenvaldo::workspace {
 
-PictureSaver::PictureSaver(
-    const QLatin1String& function, imaging::DVImageHandling& imageHandling, RunJournal& journal
-)
-    : m_function(function)
-    , m_imageHandling(imageHandling)
-    , m_journal(journal)
+namespace {
+
+std::size_t memoryOfMachine()
+{
+    return static_cast<std::size_t>(::sysconf(_SC_PHYS_PAGES))
+        * static_cast<std::size_t>(::sysconf(_SC_PAGE_SIZE));
+}
+
+int photosAtATime(int wanted, qsizetype photos)
+{
+    const int most = wanted > 0 ? wanted : QThread::idealThreadCount();
+    return static_cast<int>(std::clamp<qsizetype>(photos, 1, most));
+}
+
+BackgroundWriter::Limits limitsOf(int photos)
+{
+    return {
+        .files = photos,
+        .engineThreads = std::max(QThread::idealThreadCount() / photos, 1),
+        .memory = memoryOfMachine() / 4};
+}
+
+/// The same for all ways to write a path.
+QString placeOf(const QString& path)
+{
+    const QFileInfo file(path);
+    const QString existing = file.canonicalFilePath();
+    return existing.isEmpty() ? QFileInfo(file.path()).canonicalFilePath() + u'/' + file.fileName()
+                              : existing;
+}
+
+bool isOrHolds(const QString& place, const QString& target)
+{
+    return target == place || target.startsWith(place + u'/');
+}
+
+std::size_t spaceAround(const QString& path)
+{
+    const qint64 bytes = QStorageInfo(QFileInfo(path).path()).bytesAvailable();
+    return static_cast<std::size_t>(std::max<qint64>(bytes, 0));
+}
+
+/// What a word needs to know of the outcome.
+imaging::PhotoOutcome withoutPixels(const imaging::PhotoOutcome& photo)
+{
+    imaging::PhotoOutcome rest = photo;
+    if (auto* picture = std::get_if<imaging::PictureToSave>(&rest.outcome)) {
+        picture->image.reset();
+        picture->properties.reset();
+    }
+    return rest;
+}
+
+} // namespace
+
+PictureSaver::PictureSaver(Links links, qsizetype photos)
+    : m_links(std::move(links))
+    , m_photosAtATime(workspace::photosAtATime(m_links.photosAtATime, photos))
+    , m_writer(limitsOf(m_photosAtATime))
 {
 }
 
+PictureSaver::~PictureSaver() { PictureSaver::waitForAll(); }
+
 void PictureSaver::take(const imaging::PhotoOutcome& photo)
 {
-    m_lastWord = m_imageHandling.finish(photo.outcome);
-    m_journal.add(
+    const auto* picture = std::get_if<imaging::PictureToSave>(&photo.outcome);
+    if (picture && m_photosAtATime == 1)
+        return record(photo, imaging::save(*picture));
+    if (picture)
+        start(photo, *picture);
+    else
+        m_waiting.push_back({.photo = photo, .place = {}});
+    recordFinished();
+}
+
+void PictureSaver::start(const imaging::PhotoOutcome& photo, const imaging::PictureToSave& picture)
+{
+    const QString target = photo.target.isEmpty() ? picture.destination : photo.target;
+    platform::awaitFile(target);
+    m_writer.start(
+        {.save = [picture] { return imaging::save(picture); },
+         .memory = picture.image ? platform::graphics::memoryNeed(*picture.image) : 0,
+         .diskSpace = spaceAround(target)}
+    );
+    m_waiting.push_back({.photo = withoutPixels(photo), .place = placeOf(target), .isMade = true});
+}
+
+imaging::ResultWord PictureSaver::lastWord()
+{
+    waitForAll();
+    return m_lastWord;
+}
+
+void PictureSaver::waitFor(const QString& path)
+{
+    if (m_waiting.empty())
+        return;
+    const QString place = placeOf(path);
+    const auto holds = [&place](const Waiting& each) { return isOrHolds(place, each.place); };
+    while (std::any_of(m_waiting.begin(), m_waiting.end(), holds))
+        recordFirst();
+}
+
+void PictureSaver::waitForAll()
+{
+    if (m_links.bar.isAskedToEnd())
+        return recordWhatStands();
+    while (!m_waiting.empty())
+        recordFirst();
+}
+
+void PictureSaver::recordWhatStands()
+{
+    m_writer.cancel();
+    while (!m_waiting.empty()) {
+        const Waiting first = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        if (!first.isMade || m_writer.takeFirst().word != imaging::ResultWord::Ok)
+            continue;
+        record(first.photo, imaging::ResultWord::Ok);
+    }
+}
+
+void PictureSaver::recordFinished()
+{
+    while (!m_waiting.empty() && (!m_waiting.front().isMade || m_writer.hasFinished()))
+        recordFirst();
+}
+
+void PictureSaver::recordFirst()
+{
+    // Who hears of the word may wait for others.
+    const Waiting first = std::move(m_waiting.front());
+    m_waiting.pop_front();
+    if (!first.isMade)
+        return record(first.photo, imaging::ResultWord::None);
+    const BackgroundWriter::Finished finished = m_writer.takeFirst();
+    for (const QString& line : finished.log)
+        platform::log(line);
+    record(first.photo, finished.word);
+}
+
+void PictureSaver::record(const imaging::PhotoOutcome& photo, imaging::ResultWord saved)
+{
+    m_lastWord = m_links.imageHandling.finish(photo.outcome, saved);
+    m_links.journal.add(
         {.time = QDateTime::currentDateTime(),
-         .function = m_function,
+         .function = m_links.function,
          .source = photo.source,
          .target = photo.target,
          .word = m_lastWord}
     );
 }
-
-imaging::ResultWord PictureSaver::lastWord() { return m_lastWord; }
 
 } // namespace brenvaldo::workspace
