@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/storage/atomic_file.h>
 
+#include <platform/foundation/commit_turn.h>
+
 #include <support/faults.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
@@ -74,6 +76,27 @@ TEST(AtomicFile, ReplacesWhatStandsThere)
     EXPECT_TRUE(writeFileAtomically(path, "new"));
 
     EXPECT_EQ(TemporaryFolder::read(path), "new");
+}
+
+TEST(AtomicFile, WaitsForTheTurnOfItsThread)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(u"a.txt"_s, "old");
+    const auto contents = [&path] { return TemporaryFolder::read(path); };
+    {
+        const brenvaldo::platform::CommitTurn turn([&contents] {
+            EXPECT_EQ(contents(), "old");
+            return true;
+        });
+        EXPECT_TRUE(writeFileAtomically(path, "new"));
+        EXPECT_EQ(contents(), "new");
+    }
+    {
+        const brenvaldo::platform::CommitTurn turn([] { return false; });
+        EXPECT_FALSE(writeFileAtomically(path, "dropped"));
+    }
+    EXPECT_EQ(contents(), "new");
+    EXPECT_EQ(allEntries(folder), QStringList{u"a.txt"_s});
 }
 
 TEST(AtomicFile, LeavesNothingWithoutACommit)
