@@ -9,6 +9,7 @@ PreferencesSheet::PreferencesSheet()
     : PanelView(u"wwPreferencesWindow"_s)
 {
     tfLibraryFilePath.setEnabled(false);
+    tfPhotosAtATime.addAction(u"cSheetControl.hSetPhotosAtATime"_s);
     setLayout({
         {Row{
             .label = u"Support folder"_s,
@@ -17,6 +18,10 @@ PreferencesSheet::PreferencesSheet()
                {.control = &btnChooseLibraryDestination, .width = Field::Width::Narrow}},
             .hint = u"Patterns, watermarks and file-name actions are kept in a folder inside it. "
                     u"What is in the old folder stays there."_s}},
+        {Row{
+            .label = u"Photos at a time"_s,
+            .fields = {{.control = &tfPhotosAtATime, .width = Field::Width::Narrow}},
+            .hint = u"A run makes that many files side by side; 0 uses all cores."_s}},
         {Row{.fields = {{.control = &btnClosePreferences}}}},
     });
 }

@@ -8,7 +8,8 @@
 
 namespace brenvaldo::panels {
 
-/// The sheet in which the folder of the support files is chosen.
+/// The sheet in which the folder of the support files is chosen, and how many photos are worked on
+/// at a time.
 struct PreferencesSheet : PanelView
 {
     PreferencesSheet();
@@ -20,6 +21,7 @@ struct PreferencesSheet : PanelView
         u"btnChooseLibraryDestination"_s,
         u"Choose\u2026"_s,
         u"cSheetControl.chooseLibraryDestination"_s};
+    controls::TextField tfPhotosAtATime{u"tfPhotosAtATime"_s};
     controls::Button btnClosePreferences{
         u"btnClosePreferences"_s, u"Close"_s, u"cSheetControl.closePreferencesSheetObjC"_s};
 };

@@ -9,11 +9,15 @@
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
 
+#include <algorithm>
+
 namespace brenvaldo::presets {
 
 namespace {
 
 QString supportFilesKey() { return u"SupportFilesDestination"_s; }
+
+QString photosAtATimeKey() { return u"PhotosAtATime"_s; }
 
 controls::OpenPanel folderPanel(const QString& message)
 {
@@ -52,6 +56,7 @@ void cSheetControl::registerActions(controls::ActionRegistry& actions)
     add(u"hCallAlertSheet"_s, &cSheetControl::hCallAlertSheet);
     add(u"closeAlertSheet"_s, &cSheetControl::closeAlertSheet);
     add(u"chooseLibraryDestination"_s, &cSheetControl::chooseLibraryDestination);
+    add(u"hSetPhotosAtATime"_s, &cSheetControl::hSetPhotosAtATime);
 }
 
 void cSheetControl::hCallPreferencesWw()
@@ -64,6 +69,8 @@ void cSheetControl::hCallPreferencesWw()
                 : u"Oh! Your previous defined folder has gone!?\rSelect a new location please."_s
         );
     }
+    const int photos = m_defaults.text(photosAtATimeKey()).toInt();
+    preferences.tfPhotosAtATime.setStringValue(QString::number(photos));
     preferences.sheet.open();
 }
 
@@ -82,6 +89,14 @@ void cSheetControl::chooseLibraryDestination()
     const auto answer = m_chooser.open(folderPanel(QString()));
     if (answer && !answer->isEmpty())
         setUp(answer->last(), Patterns::Empty);
+}
+
+void cSheetControl::hSetPhotosAtATime()
+{
+    controls::TextField& field = m_panels.wwPreferencesWindow.tfPhotosAtATime;
+    const auto photos = std::max(static_cast<int>(field.integerValue()), 0);
+    field.setStringValue(QString::number(photos));
+    remember(photosAtATimeKey(), photos);
 }
 
 void cSheetControl::setLibraryDestination()

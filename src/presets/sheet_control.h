@@ -34,6 +34,8 @@ public:
     void closeAlertSheet();
     /// Asks for another folder and sets it up; the folder of before stays as it is.
     void chooseLibraryDestination();
+    /// Keeps how many photos a run works on at a time; 0 for a text that is no number above 0.
+    void hSetPhotosAtATime();
 
     /// Asks for the folder when none is known, sets it up, and fills its patterns.
     void setLibraryDestination();

@@ -259,3 +259,23 @@ TEST(DefaultPatterns, AreSeamlessAndNeitherEmptyNorFull)
         EXPECT_LT(covered, area * 3 / 5) << pattern.name.toStdString();
     }
 }
+
+TEST_F(SheetControl, KeepsHowManyPhotosARunWorksOnAtATime)
+{
+    controls::TextField& field = preferences.tfPhotosAtATime;
+    EXPECT_EQ(field.actions(), QStringList{u"cSheetControl.hSetPhotosAtATime"_s});
+    actions.send(u"hCallPreferencesWw"_s);
+    EXPECT_EQ(field.stringValue(), u"0"_s);
+
+    field.setStringValue(u"3"_s);
+    actions.send(u"hSetPhotosAtATime"_s);
+    EXPECT_EQ(defaults.text(u"PhotosAtATime"_s), u"3"_s);
+    field.setStringValue(QString());
+    actions.send(u"hCallPreferencesWw"_s);
+    EXPECT_EQ(field.stringValue(), u"3"_s);
+
+    field.setStringValue(u"-2"_s);
+    actions.send(u"hSetPhotosAtATime"_s);
+    EXPECT_EQ(field.stringValue(), u"0"_s);
+    EXPECT_EQ(defaults.text(u"PhotosAtATime"_s), u"0"_s);
+}
