@@ -19,8 +19,7 @@
 // Faults in the last part of a picture come up while the engine already winds up its work. They
 // were lost at random, so each case is tried again and again, by several threads at a time. A
 // longer trial: BRENVALDO_REPETITIONS=1000
-// build/debug/tests/platform/graphics/platform_graphics_test
-// --gtest_filter='*LastPartFault*'
+// build/debug/tests/platform/codecs/platform_codecs_test --gtest_filter='*LastPartFault*'
 
 namespace brenvaldo {
 namespace {
