@@ -7,7 +7,7 @@ namespace brenvaldo::workspace {
 
 namespace {
 
-const QString className = u"cGUIcontrols"_s;
+const QString guiControlsClass = u"cGUIcontrols"_s;
 
 /// Actions that do nothing but draw the preview anew.
 QStringList previewActions()
@@ -80,7 +80,7 @@ void cGUIcontrols::registerActions(controls::ActionRegistry& actions)
 void cGUIcontrols::registerFunctionActions(controls::ActionRegistry& actions)
 {
     const auto add = [&](const QString& name, void (cGUIcontrols::*action)()) {
-        actions.add(className, name, [this, action](const auto&) { (this->*action)(); });
+        actions.add(guiControlsClass, name, [this, action](const auto&) { (this->*action)(); });
     };
     add(u"hEditPhotoClicked"_s, &cGUIcontrols::hEditPhotoClicked);
     add(u"hFileManagementClicked"_s, &cGUIcontrols::hFileManagementClicked);
@@ -96,10 +96,12 @@ void cGUIcontrols::registerFunctionActions(controls::ActionRegistry& actions)
 void cGUIcontrols::registerDriverActions(controls::ActionRegistry& actions)
 {
     const auto add = [&](const QString& name, void (cGUIcontrols::*action)()) {
-        actions.add(className, name, [this, action](const auto&) { (this->*action)(); });
+        actions.add(guiControlsClass, name, [this, action](const auto&) { (this->*action)(); });
     };
-    actions.add(className, u"hLoadImages"_s, [this](const auto&) { m_driver.hLoadImages(); });
-    actions.add(className, u"hCalledCActionFunc"_s, [this](const auto&) {
+    actions.add(guiControlsClass, u"hLoadImages"_s, [this](const auto&) {
+        m_driver.hLoadImages();
+    });
+    actions.add(guiControlsClass, u"hCalledCActionFunc"_s, [this](const auto&) {
         m_driver.hCalledCActionFunc();
     });
     add(u"hChooseScalingDestinationFolder"_s, &cGUIcontrols::hChooseScalingDestinationFolder);
@@ -110,10 +112,10 @@ void cGUIcontrols::registerDriverActions(controls::ActionRegistry& actions)
 void cGUIcontrols::registerPanelActions(controls::ActionRegistry& actions)
 {
     const auto add = [&](const QString& name, void (cGUIcontrols::*action)()) {
-        actions.add(className, name, [this, action](const auto&) { (this->*action)(); });
+        actions.add(guiControlsClass, name, [this, action](const auto&) { (this->*action)(); });
     };
     for (const QString& name : previewActions()) {
-        actions.add(className, name, [this](const controls::Sender&) {
+        actions.add(guiControlsClass, name, [this](const controls::Sender&) {
             m_collectionView.callForPreview();
         });
     }

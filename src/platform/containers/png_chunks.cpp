@@ -8,7 +8,7 @@ namespace brenvaldo::platform::containers {
 
 namespace {
 
-constexpr QByteArrayView signature("\x89PNG\r\n\x1a\n", 8);
+constexpr QByteArrayView pngSignature("\x89PNG\r\n\x1a\n", 8);
 constexpr qsizetype longestText = 64LL * 1024 * 1024;
 constexpr qsizetype profileLineLength = 72;
 
@@ -52,11 +52,11 @@ std::optional<PngText> compressedText(const QByteArray& keyword, QByteArrayView 
 /// The chunks up to the first of type `last`, or to damage.
 std::optional<QList<PngChunk>> chunksUpTo(QByteArrayView file, QByteArrayView last)
 {
-    if (!file.startsWith(signature))
+    if (!file.startsWith(pngSignature))
         return std::nullopt;
 
     QList<PngChunk> chunks;
-    auto offset = static_cast<std::uint64_t>(signature.size());
+    auto offset = static_cast<std::uint64_t>(pngSignature.size());
     while (const auto length = unsignedAt(file, offset, 4, ByteOrder::Big)) {
         const auto whole = sliceOf(file, offset, 12 + *length);
         if (!whole)

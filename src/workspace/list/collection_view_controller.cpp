@@ -22,7 +22,7 @@ cCollectionViewController::cCollectionViewController(const Links& links)
 
 namespace {
 
-const QString className = u"cCollectionViewController"_s;
+const QString collectionViewControllerClass = u"cCollectionViewController"_s;
 
 } // namespace
 
@@ -35,7 +35,9 @@ void cCollectionViewController::registerActions(controls::ActionRegistry& action
 void cCollectionViewController::registerListActions(controls::ActionRegistry& actions)
 {
     const auto add = [&](const QString& name, void (cCollectionViewController::*action)()) {
-        actions.add(className, name, [this, action](const auto&) { (this->*action)(); });
+        actions.add(collectionViewControllerClass, name, [this, action](const auto&) {
+            (this->*action)();
+        });
     };
     add(u"hChoosePhotos"_s, &cCollectionViewController::hChoosePhotos);
     add(u"hInsertPhotos"_s, &cCollectionViewController::hInsertPhotos);
@@ -55,7 +57,9 @@ void cCollectionViewController::registerListActions(controls::ActionRegistry& ac
 void cCollectionViewController::registerPreviewActions(controls::ActionRegistry& actions)
 {
     const auto add = [&](const QString& name, void (cCollectionViewController::*action)()) {
-        actions.add(className, name, [this, action](const auto&) { (this->*action)(); });
+        actions.add(collectionViewControllerClass, name, [this, action](const auto&) {
+            (this->*action)();
+        });
     };
     add(u"callForPreview"_s, &cCollectionViewController::callForPreview);
     add(u"callForDefaultImage"_s, &cCollectionViewController::callForDefaultImage);
@@ -67,9 +71,11 @@ void cCollectionViewController::registerPreviewActions(controls::ActionRegistry&
     add(u"hFlipCropXY"_s, &cCollectionViewController::hFlipCropXY);
     add(u"hFlipScaleFixWH"_s, &cCollectionViewController::hFlipScaleFixWH);
     add(u"tabViewdidSelectTabViewItem"_s, &cCollectionViewController::tabViewdidSelectTabViewItem);
-    actions.add(className, u"controlTextDidEndEditing"_s, [this](const controls::Sender& sender) {
-        controlTextDidEndEditing(sender.tag);
-    });
+    actions.add(
+        collectionViewControllerClass,
+        u"controlTextDidEndEditing"_s,
+        [this](const controls::Sender& sender) { controlTextDidEndEditing(sender.tag); }
+    );
 }
 
 } // namespace brenvaldo::workspace
