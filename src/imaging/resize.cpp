@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dv_image_handling.h"
 
+#include "failure_log.h"
 #include "resize_rules.h"
 #include "resolution_rules.h"
 #include "rotate_rules.h"
 #include "writer_rules.h"
 
 #include <platform/codecs/image_source.h>
+#include <platform/foundation/literals.h>
 
 #include <cmath>
 
@@ -67,8 +69,11 @@ Outcome DVImageHandling::hScalePhotosWidthAndHeight(
     const bool covers = aspectState == 1;
     const PixelSize target = covers ? coveringSize(uprightSize(source), box) : box;
     const auto scaled = scaledPhoto(source, target);
-    if (!scaled)
+    if (!scaled) {
+        const QString size = u"%1 x %2"_s.arg(target.width).arg(target.height);
+        logFailedWrite(photo.destinationBase, u"there is no picture of %1 pixels"_s.arg(size));
         return WordOfPictureBefore{};
+    }
     const auto result = covers ? scaled->croppedTo(centredCut(target, box)) : scaled;
     return outputPicture(result, photo, tail);
 }

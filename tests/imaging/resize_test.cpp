@@ -7,6 +7,7 @@
 #include <support/case_name.h>
 #include <support/exif_block.h>
 #include <support/geometry_printing.h>
+#include <support/log_lines.h>
 #include <support/pixel_probe.h>
 #include <support/result_printing.h>
 #include <support/temporary_folder.h>
@@ -445,6 +446,24 @@ TEST(ResizeToBox, AnswersTheWordOfThePhotoBeforeWhenNothingCanBeDrawn)
     EXPECT_EQ(resize(unreadable, {10, 10}, stretched), ResultWord::Ok);
     EXPECT_EQ(resize(unreadable, {10, 10}, covering), ResultWord::Ok);
     EXPECT_EQ(resize(files.photo(), {0, 10}, stretched), ResultWord::Ok);
+}
+
+TEST(ResizeToBox, LogsThatNothingCanBeDrawn)
+{
+    const Resizing files(grey(40, 30));
+    const LogLines log;
+    SavingHandling handling;
+
+    EXPECT_EQ(
+        handling.hScalePhotosWidthAndHeight(files.photo(), {0, 10}, stretched, pngTail()),
+        ResultWord::Failed
+    );
+    EXPECT_EQ(
+        log.lines(),
+        QStringList(u"Failed to write %1: there is no picture of 0 x 10 pixels"_s.arg(
+            files.photo().destinationBase
+        ))
+    );
 }
 
 TEST(ScalePictureBase, ScalesTheSizeInPoints)
