@@ -111,6 +111,13 @@ bool holdsNumbers(AnymapWords& words, qint64 count, bool isBits)
     return true;
 }
 
+/// Pixels of the row of a bitmap; some programs pack its padding, too.
+qint64 paddedWidth(int width, int bits)
+{
+    constexpr int padding = 32; // bits
+    return (qint64{width} * bits + padding - 1) / padding * padding / bits;
+}
+
 } // namespace
 
 void checkClaimedSize(const QString& path, const QString& typeIdentifier, PixelSize size)
@@ -159,9 +166,12 @@ bool holdsWholeRuns(QByteArrayView runs, int bits, PixelSize size)
     if (pixelsOf(size) > runs.size() * mostPixels)
         return false;
     enum Escape { EndOfRow = 0, EndOfPicture = 1, Jump = 2 };
+    const qint64 longestRow = paddedWidth(size.width, bits);
     qint64 x = 0;
     qint64 y = 0;
     for (qsizetype at = 0; at + 1 < runs.size();) {
+        if (x > longestRow || y > size.height)
+            return false;
         const auto count = static_cast<unsigned char>(runs[at]);
         const auto value = static_cast<unsigned char>(runs[at + 1]);
         at += 2;

@@ -19,7 +19,7 @@ void checkClaimedSize(const QString& path, const QString& typeIdentifier, graphi
 [[nodiscard]] bool holdsWholeAnymap(QByteArrayView file);
 
 /// True when the run lengths of a bitmap, of 4 or 8 bits a pixel, reach their end marker or the end
-/// of the picture, and when that picture isn't far larger than runs can make it.
+/// of the picture, fit their rows, and when that picture isn't far larger than runs can make it.
 [[nodiscard]] bool holdsWholeRuns(QByteArrayView runs, int bits, graphics::PixelSize size);
 
 } // namespace brenvaldo::platform::codecs

@@ -195,6 +195,17 @@ INSTANTIATE_TEST_SUITE_P(
             8,
             fullRow + fullRow + fullRow + QByteArray("\x03\x01", 2),
             false},
+        RunsCase{
+            "WithPackedPadding",
+            4,
+            QByteArray("\x08\x01\x00\x00", 4) + fullRow + fullRow + fullRow + endOfPicture,
+            true},
+        RunsCase{
+            "PastTheirRow",
+            8,
+            QByteArray("\x05\x01\x00\x00", 4) + fullRow + fullRow + fullRow + endOfPicture,
+            false},
+        RunsCase{"PastTheLastRow", 8, jumpTwoRows + jumpTwoRows + fullRow + endOfPicture, false},
         RunsCase{"CutOffInAJump", 8, fullRow + fullRow + jumpTwoRows.first(3), false},
         RunsCase{
             "CutOffInPlainPixels",
