@@ -8,6 +8,7 @@
 #include <platform/containers/tiff_directory.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace brenvaldo::platform::metadata {
 
@@ -74,6 +75,12 @@ QByteArray profileAmong(const QByteArrayList& wholeChunks)
     return profileAmong(chunks);
 }
 
+bool holdsDamagedProfile(const QByteArray& whole)
+{
+    const PngChunk chunk = containers::pngChunkOf(whole);
+    return chunk.type == QByteArrayView("iCCP") && containers::pngProfile(chunk).isEmpty();
+}
+
 /// What describes the colours of the source describes those of the encoded file as well, unless
 /// they were converted.
 bool keepsColors(const QList<PngChunk>& encoded, const QByteArrayList& colors)
@@ -102,7 +109,12 @@ splicedPng(QByteArrayView encoded, const containers::MetadataBlocks& blocks)
             pieces.append(viewed(chunk->whole));
     }
     if (isSameColors)
-        pieces += blocks.pngColorChunks;
+        std::remove_copy_if(
+            blocks.pngColorChunks.begin(),
+            blocks.pngColorChunks.end(),
+            std::back_inserter(pieces),
+            holdsDamagedProfile
+        );
     const qsizetype place = pixels->whole.begin() - encoded.begin();
     return pieces + metadataChunks(blocks) + QByteArrayList{viewed(encoded.sliced(place))};
 }

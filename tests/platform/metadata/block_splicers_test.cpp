@@ -224,6 +224,18 @@ TEST(SplicedPng, KeepsWhatDescribesColoursBesideTheSameProfile)
     EXPECT_EQ(readPngBlocks(splicedPng(encoded, blocks)->join()).pngColorChunks, colors);
 }
 
+TEST(SplicedPng, LeavesOutAProfileThatNobodyCanRead)
+{
+    const QByteArray notDeflated = pngChunk("iCCP", QByteArray("name\0\0damage", 12));
+    const MetadataBlocks blocks = readPngBlocks(barePng({notDeflated, gammaChunk()}));
+    const QByteArray encoded = barePng({});
+
+    EXPECT_EQ(
+        readPngBlocks(splicedPng(encoded, blocks)->join()).pngColorChunks,
+        QByteArrayList{gammaChunk()}
+    );
+}
+
 TEST(SplicedPng, LeavesOutWhatDescribedColoursThatWereConverted)
 {
     const MetadataBlocks blocks = readPngBlocks(barePng({gammaChunk()}));
