@@ -8,11 +8,31 @@
 
 #include <QImageReader>
 
+#include <algorithm>
+#include <array>
 #include <mutex>
 
 namespace brenvaldo::platform::graphics {
 
 namespace {
+
+thread_local int toldMadeUpParts = 0;
+
+/// Warnings of the TIFF decoder, which goes on behind them with grey, white or shifted pixels.
+bool tellsOfMadeUpPixels(const QString& warning)
+{
+    constexpr std::array texts = {
+        "premature end of data segment",
+        "Premature end of JPEG file",
+        "bad Huffman code",
+        "Premature EOL",
+        "Line length mismatch",
+        "to avoid buffer overrun",
+    };
+    return std::any_of(texts.begin(), texts.end(), [&](const char* text) {
+        return warning.contains(QLatin1String(text));
+    });
+}
 
 /// Logs a warning of the engine; one that a damaged file repeats is logged once in a row.
 void logEngineMessage(
@@ -22,6 +42,8 @@ void logEngineMessage(
     static std::mutex mutex;
     static QString lastLine;
     const QString text = QString::fromUtf8(message).simplified();
+    if (tellsOfMadeUpPixels(text))
+        ++toldMadeUpParts;
     const QString line = QString::fromUtf8(domain) + u": "_s + text;
     const std::lock_guard lock(mutex);
     if (text.isEmpty() || line == lastLine)
@@ -50,6 +72,8 @@ Engine::Engine()
 }
 
 Engine::~Engine() { vips_shutdown(); }
+
+int madeUpParts() { return toldMadeUpParts; }
 
 int engineThreads() { return vips_concurrency_get(); }
 

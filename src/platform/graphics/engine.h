@@ -18,6 +18,9 @@ public:
     ~Engine();
 };
 
+/// Number of times that a decoder told this thread that it makes up pixels which its file has lost.
+[[nodiscard]] int madeUpParts();
+
 /// Number of threads that one picture is evaluated with.
 [[nodiscard]] int engineThreads();
 

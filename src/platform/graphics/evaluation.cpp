@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "evaluation.h"
 
+#include "engine.h"
 #include "engine_thread.h"
 
 #include <platform/foundation/log.h>
@@ -52,6 +53,17 @@ public:
     }
 
 private:
+    /// A decoder works on the thread that asks for its pixels.
+    static bool prepareWhole(VipsRegion* region, const VipsRect& area)
+    {
+        const int before = madeUpParts();
+        if (vips_region_prepare(region, &area) != 0)
+            return false;
+        if (madeUpParts() != before)
+            vips_error("evaluation", "the image data is damaged");
+        return madeUpParts() == before;
+    }
+
     static WatchedPixels* self(void* watched) { return static_cast<WatchedPixels*>(watched); }
 
     /// On a thread of the engine, which works here for the thread that asked for the pixels.
@@ -60,7 +72,7 @@ private:
         const TermsOnThread terms(m_terms);
         const ThreadLogSink log(m_log);
         const VipsRect area = out->valid;
-        return !m_terms.isCancelled() && vips_region_prepare(source, &area) == 0
+        return !m_terms.isCancelled() && prepareWhole(source, area)
             && vips_region_region(out, source, &area, area.left, area.top) == 0;
     }
 

@@ -13,7 +13,7 @@ namespace brenvaldo::platform::graphics {
 // work on the last parts while it asks whether one of them has failed, so a fault in the last part
 // gets lost now and then. Therefore all pixels of an evaluation pass one last node of our own,
 // which remembers whether a part of them could not be computed, be it by a decoder, a kernel, or
-// pixels that are made when they are needed.
+// pixels that are made when they are needed, or was made up by a decoder that only warned of it.
 
 /// Lets `sink` use up the pixels that it is given, which are those of `pixels`.
 /// @throws vips::VError when a part of them can't be computed, whatever the sink makes of it; what

@@ -40,7 +40,8 @@ enum Tag : quint16 {
     TileByteCounts = 325,
     JpegProcess = 512,
     JpegInterchangeFormat = 513,
-    JpegInterchangeFormatLength = 514
+    JpegInterchangeFormatLength = 514,
+    ChromaSubsampling = 530
 };
 
 struct Entry
@@ -178,6 +179,55 @@ QByteArray oldJpeg()
     );
 }
 
+QByteArray jpegStrip() { return PhotoBuilder().size(64, 48).bytes(); }
+
+QByteArray tiffOfJpeg(const QByteArray& strip)
+{
+    return tiffOf(
+        strip,
+        {{ImageWidth, {64}},
+         {ImageLength, {48}},
+         {BitsPerSample, {8, 8, 8}},
+         {Compression, {7}},
+         {Photometric, {6}},
+         {StripOffsets, {8}},
+         {SamplesPerPixel, {3}},
+         {RowsPerStrip, {48}},
+         {StripByteCounts, {static_cast<quint32>(strip.size())}},
+         {PlanarConfiguration, {1}},
+         {ChromaSubsampling, {1, 1}}}
+    );
+}
+
+const QByteArray endOfJpeg("\xff\xd9", 2);
+
+/// Eight rows of eight pixels; a bit that is set is a white row more.
+QByteArray tiffOfFax(const QByteArray& strip)
+{
+    return tiffOf(
+        strip,
+        {{ImageWidth, {8}},
+         {ImageLength, {8}},
+         {BitsPerSample, {1}},
+         {Compression, {4}},
+         {Photometric, {0}},
+         {StripOffsets, {8}},
+         {SamplesPerPixel, {1}},
+         {RowsPerStrip, {8}},
+         {StripByteCounts, {static_cast<quint32>(strip.size())}}}
+    );
+}
+
+const QByteArray endOfFax("\x00\x10\x01", 3);
+
+bool isWritten(const QByteArray& file)
+{
+    const TemporaryFolder folder;
+    const auto source = ImageSource::open(folder.write(u"photo.tif"_s, file));
+    const auto image = source ? source->image() : std::nullopt;
+    return image && encode(*image, FileFormat::Png, {}, folder.path(u"out.png"_s));
+}
+
 struct StorageCase
 {
     const char* name;
@@ -192,15 +242,7 @@ class UnusualTiff : public testing::TestWithParam<StorageCase>
 {
 };
 
-TEST_P(UnusualTiff, IsNoPhotoRatherThanAWrongOne)
-{
-    const TemporaryFolder folder;
-    const QString path = folder.write(u"photo.tif"_s, GetParam().file);
-    const auto source = ImageSource::open(path);
-    const auto image = source ? source->image() : std::nullopt;
-
-    EXPECT_FALSE(image && encode(*image, FileFormat::Png, {}, folder.path(u"out.png"_s)));
-}
+TEST_P(UnusualTiff, IsNoPhotoRatherThanAWrongOne) { EXPECT_FALSE(isWritten(GetParam().file)); }
 
 INSTANTIATE_TEST_SUITE_P(
     Storages,
@@ -213,5 +255,23 @@ INSTANTIATE_TEST_SUITE_P(
     ),
     CaseName{}
 );
+
+// The decoder only warns of these.
+
+TEST(TiffOfJpeg, FailsWhenItsScanEndsEarly)
+{
+    const QByteArray strip = jpegStrip();
+    const QByteArray cut = strip.first(strip.size() * 6 / 10);
+
+    EXPECT_TRUE(isWritten(tiffOfJpeg(strip)));
+    EXPECT_FALSE(isWritten(tiffOfJpeg(cut + endOfJpeg)));
+    EXPECT_FALSE(isWritten(tiffOfJpeg(cut)));
+}
+
+TEST(TiffOfFax, FailsWhenRowsAreMissing)
+{
+    EXPECT_TRUE(isWritten(tiffOfFax("\xff" + endOfFax)));
+    EXPECT_FALSE(isWritten(tiffOfFax("\xf0" + endOfFax)));
+}
 
 } // namespace brenvaldo
