@@ -24,13 +24,15 @@ struct StreamedType
 {
     const char* typeIdentifier;
     const char* loader;
+    VipsFailOn failOn = VIPS_FAIL_ON_TRUNCATED;
 };
 
 constexpr std::array streamedTypes = {
     StreamedType{"public.jpeg", "jpegload"},
     StreamedType{"public.png", "pngload"},
     StreamedType{"public.tiff", "tiffload"},
-    StreamedType{"com.compuserve.gif", "gifload"},
+    // Blocks that make no sense show that those before them ended early.
+    StreamedType{"com.compuserve.gif", "gifload", VIPS_FAIL_ON_WARNING},
     StreamedType{"public.jp2", "jp2kload"},
     StreamedType{"org.webmproject.webp", "webpload"},
     StreamedType{"public.jpeg-xl", "jxlload"},
@@ -46,23 +48,18 @@ const StreamedType* streamedType(const QString& typeIdentifier)
     return nullptr;
 }
 
-vips::VImage load(const char* loader, const QString& path, int shrink)
+vips::VImage load(const StreamedType& type, const QString& path, int shrink)
 {
     vips::VImage out;
     vips::VOption* options = vips::VImage::option()
                                  ->set("filename", QFile::encodeName(path).constData())
                                  ->set("out", &out)
                                  ->set("access", VIPS_ACCESS_SEQUENTIAL)
-                                 ->set("fail_on", VIPS_FAIL_ON_TRUNCATED);
+                                 ->set("fail_on", type.failOn);
     if (shrink > 1)
         options->set("shrink", shrink);
-    vips::VImage::call(loader, options);
+    vips::VImage::call(type.loader, options);
     return out;
-}
-
-vips::VImage loadJpeg(const QString& path, int shrink)
-{
-    return jpegRows(path, shrink, load("jpegload", path, shrink));
 }
 
 int integerField(const vips::VImage& decoded, const char* name, int fallback)
@@ -119,10 +116,10 @@ class StreamedPhoto : public PhotoDecoder
 public:
     StreamedPhoto(QString path, const StreamedType& type)
         : m_path(std::move(path))
-        , m_loader(type.loader)
+        , m_type(type)
         , m_isJpeg(QLatin1String(type.loader) == QLatin1String("jpegload"))
     {
-        const vips::VImage decoded = load(m_loader, m_path, 1);
+        const vips::VImage decoded = load(m_type, m_path, 1);
         checkSize(decoded, m_isJpeg);
         const ImageNode node = graphics::nodeOfDecodedPixels(decoded);
         if (m_isJpeg && isProgressiveJpeg(decoded))
@@ -151,9 +148,9 @@ public:
 
     [[nodiscard]] ImageNode storedPixels(int shrink) const override
     {
-        ImageNode node = graphics::nodeOfDecodedPixels(
-            m_isJpeg ? loadJpeg(m_path, shrink) : load(m_loader, m_path, shrink)
-        );
+        const vips::VImage loaded = load(m_type, m_path, shrink);
+        ImageNode node
+            = graphics::nodeOfDecodedPixels(m_isJpeg ? jpegRows(m_path, shrink, loaded) : loaded);
         node.dotsPerInch = m_header.dotsPerInch;
         node.decodingBytes = m_decodingBytes;
         if (!m_facts.iccProfile.isEmpty())
@@ -174,7 +171,7 @@ private:
     }
 
     QString m_path;
-    const char* m_loader;
+    const StreamedType& m_type;
     bool m_isJpeg;
     ImageHeader m_header;
     std::size_t m_decodingBytes = 0;

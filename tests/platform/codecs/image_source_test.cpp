@@ -337,6 +337,17 @@ TEST_P(ImageSourceDamage, OfAHalfFileGivesNoPicture)
     EXPECT_TRUE(uprightPixels(path).isNull());
 }
 
+TEST(ImageSourceGif, WhosePixelBlocksEndEarlyGivesNoPicture)
+{
+    const TemporaryFolder folder;
+    QByteArray gif = PhotoBuilder().size(500, 400).format(PhotoFormat::Gif).bytes();
+    const qsizetype length = gif.size() / 5;
+
+    gif.replace(3 * length, length, QByteArray(length, '\0'));
+
+    EXPECT_TRUE(storedPixels(folder.write(u"photo"_s, gif)).isNull());
+}
+
 TEST_P(ImageSourceDamage, OfSingleBytesIsSurvived)
 {
     const TemporaryFolder folder;
