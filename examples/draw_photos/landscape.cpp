@@ -141,15 +141,15 @@ void drawHills(QPainter& painter, const Scene& scene, QSizeF size, QRandomGenera
         const Ridge ridge(random, 0.42 + 0.1 * nearness);
         const double base = horizon - 0.1 + 0.34 * nearness * nearness;
         const double amplitude = 0.13 - 0.07 * nearness;
-        const QColor colour = mixed(scene.farHills, scene.nearHills, nearness);
+        const QColor color = mixed(scene.farHills, scene.nearHills, nearness);
         QLinearGradient shade(0, (base - amplitude) * size.height(), 0, size.height());
-        shade.setColorAt(0, colour);
-        shade.setColorAt(1, mixed(colour, scene.skyHorizon, 0.35 * (1 - nearness)));
+        shade.setColorAt(0, color);
+        shade.setColorAt(1, mixed(color, scene.skyHorizon, 0.35 * (1 - nearness)));
         painter.setBrush(shade);
         painter.drawPath(hillPath(ridge, base, amplitude, size));
         if (row < hillRows - 2)
             continue;
-        painter.setBrush(colour.darker(135));
+        painter.setBrush(color.darker(135));
         for (int tree = 0; tree < 40; ++tree) {
             const double x = random.generateDouble();
             const double y = base - amplitude * ridge.height(x) + 0.012;

@@ -8,7 +8,7 @@ namespace brenvaldo::imaging {
 TintSettings readSettings(const panels::TintPanel& panel)
 {
     return {
-        .colour = panel.cwAddTint.color().withAlpha(1),
+        .color = panel.cwAddTint.color().withAlpha(1),
         .blendIndex = panel.pubAddTintRenderMethod.indexOfSelectedItem(),
         .duoToneState = panel.cbAddTintDuoTone.state(),
         .anchor = panel.scAddTintPosition.selectedSegment(),

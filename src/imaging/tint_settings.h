@@ -16,7 +16,7 @@ namespace brenvaldo::imaging {
 /// The settings of a tint, in the order in which the operation takes them.
 struct TintSettings
 {
-    platform::graphics::Color colour;
+    platform::graphics::Color color;
     int blendIndex = 0;
     int duoToneState = 0;
     int anchor = 0;

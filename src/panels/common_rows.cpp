@@ -5,7 +5,7 @@
 
 namespace brenvaldo::panels {
 
-Row colourRow(const QString& label, controls::ColorWell& well, controls::TextField& hexField)
+Row colorRow(const QString& label, controls::ColorWell& well, controls::TextField& hexField)
 {
     return {
         .label = label,

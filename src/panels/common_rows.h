@@ -10,7 +10,7 @@ namespace brenvaldo::panels {
 
 /// A colour well with its hexadecimal digits beside it.
 [[nodiscard]] Row
-colourRow(const QString& label, controls::ColorWell& well, controls::TextField& hexField);
+colorRow(const QString& label, controls::ColorWell& well, controls::TextField& hexField);
 
 /// Two offsets in pixels, across and along; `hint` tells which way they count.
 [[nodiscard]] Row

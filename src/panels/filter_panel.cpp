@@ -59,7 +59,7 @@ FilterMonochromeView::FilterMonochromeView()
     makeHexField(tfFilterMonochromeHexColor, 22);
     pubFilterMonochromeIntensity.addAction(u"cGUIcontrols.hMonochromeIntensityCallsForPreview"_s);
     setLayout({
-        {colourRow(u"Colour"_s, cwFilterMonochromeColor, tfFilterMonochromeHexColor)},
+        {colorRow(u"Colour"_s, cwFilterMonochromeColor, tfFilterMonochromeHexColor)},
         {Row{.label = u"Strength"_s, .fields = {{.control = &pubFilterMonochromeIntensity}}}},
     });
 }

@@ -21,7 +21,7 @@ FramingPanel::FramingPanel()
             .label = u"Inset"_s,
             .fields = {{.control = &tfFramingInset, .unit = u"px"_s}},
             .hint = u"Distance of an inside frame from the edge."_s}},
-        {colourRow(u"Colour"_s, myNSColorWellObjFraming, tfFramingHEXvalue)},
+        {colorRow(u"Colour"_s, myNSColorWellObjFraming, tfFramingHEXvalue)},
         {Row{.label = u"Opacity"_s, .fields = {{.control = &tfFramingOpacity, .unit = u"%"_s}}}},
         {Row{.label = u"Blend"_s, .fields = {{.control = &pubFramingRenderMethod}}}},
         {Row{

@@ -25,7 +25,7 @@ RotatePanel::RotatePanel()
             .fields = {{.control = &tfRotationAngle, .unit = u"\u00b0"_s}},
             .hint = u"Positive angles turn to the left."_s}},
         {Row{.fields = {{.control = &cbRotationBackgroundColor}}}},
-        {colourRow(u"Colour"_s, cwRotationBackgroundColor, tfRotationBackgroundHexColor)},
+        {colorRow(u"Colour"_s, cwRotationBackgroundColor, tfRotationBackgroundHexColor)},
         {Row{
             .label = u"Margin"_s,
             .fields = {{.control = &tfRotationEnlargeCanvas, .unit = u"px"_s}}}},

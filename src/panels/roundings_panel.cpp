@@ -54,7 +54,7 @@ Layout RoundingsPanel::shapeRows()
         {Row{.label = u"Corner radius"_s, .fields = {{.control = &tfRCDiameter, .unit = u"px"_s}}}},
         {Heading{u"Background"_s}},
         {Row{.fields = {{.control = &cbRCBackgroundColor}}}},
-        {colourRow(u"Colour"_s, cwRCBackgroundColor, tfRCBackgroundHexColor)},
+        {colorRow(u"Colour"_s, cwRCBackgroundColor, tfRCBackgroundHexColor)},
         {Row{.label = u"Margin"_s, .fields = {{.control = &tfRCEnlargeCanvas, .unit = u"px"_s}}}},
     };
 }
@@ -64,7 +64,7 @@ Layout RoundingsPanel::borderRows()
     return {
         {Heading{u"Border"_s}},
         {Row{.fields = {{.control = &cbRCBorderColor}}}},
-        {colourRow(u"Colour"_s, cwRCBorderColor, tfRCBorderHexColor)},
+        {colorRow(u"Colour"_s, cwRCBorderColor, tfRCBorderHexColor)},
         {Row{
             .label = u"Width"_s,
             .fields

@@ -13,7 +13,7 @@ TintPanel::TintPanel()
 {
     giveRoles();
     setLayout(joined({
-        colourRows(),
+        colorRows(),
         {{Heading{u"Size"_s}}, {sizePages()}},
         {{Heading{u"Place"_s}},
          {Row{.label = u"Position"_s, .fields = {{.control = &scAddTintPosition}}}},
@@ -45,10 +45,10 @@ void TintPanel::giveRoles()
     makeFunctionField(tfAddTintPosY, 406);
 }
 
-Layout TintPanel::colourRows()
+Layout TintPanel::colorRows()
 {
     return {
-        {colourRow(u"Colour"_s, cwAddTint, tfAddTintHexValue)},
+        {colorRow(u"Colour"_s, cwAddTint, tfAddTintHexValue)},
         {Row{.label = u"Opacity"_s, .fields = {{.control = &tfAddTintOpacity, .unit = u"%"_s}}}},
         {Row{.label = u"Blend"_s, .fields = {{.control = &pubAddTintRenderMethod}}}},
         {Row{.fields = {{.control = &cbAddTintDuoTone}}}},

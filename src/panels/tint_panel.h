@@ -53,7 +53,7 @@ struct TintPanel : PanelView
 
 private:
     void giveRoles();
-    [[nodiscard]] Layout colourRows();
+    [[nodiscard]] Layout colorRows();
     [[nodiscard]] Pages sizePages();
 };
 

@@ -162,7 +162,7 @@ TEST(TintSettings, AreReadFromTheirControls)
     imaging::TintSettings settings = imaging::readSettings(panel);
 
     EXPECT_EQ(
-        settings.colour,
+        settings.color,
         (platform::graphics::Color{.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1})
     );
     EXPECT_EQ(settings.blendIndex, 4);

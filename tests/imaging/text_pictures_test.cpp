@@ -69,7 +69,7 @@ TEST(EmbossedText, LooksDifferentForEachTexture)
     }
 }
 
-TEST(EmbossedText, TakesItsColourForTheSixthTextureOnly)
+TEST(EmbossedText, TakesItsColorForTheSixthTextureOnly)
 {
     EXPECT_NE(embossed(u"texture6"_s, red), embossed(u"texture6"_s, green));
     EXPECT_EQ(embossed(u"texture5"_s, red), embossed(u"texture5"_s, green));
@@ -80,7 +80,7 @@ TEST(EmbossedText, HasTheDefaultHeightWhateverTheScale)
     EXPECT_EQ(embossed(u"texture1"_s, red, 0.5F), embossed(u"texture1"_s, red, 40));
 }
 
-TEST(ColorBall, IsOfTheColourAtItsHighlightAndBlackAtItsRim)
+TEST(ColorBall, IsOfTheColorAtItsHighlightAndBlackAtItsRim)
 {
     const QImage ball = DVImageHandling::h3DcolorEffect({.red = 1, .green = 0.5, .blue = 0});
 

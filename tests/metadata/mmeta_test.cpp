@@ -374,7 +374,7 @@ TEST_F(Meta, AnswersStoredAndUprightSizes)
     EXPECT_TRUE(mMeta::hGetPixelFormat(text()).isEmpty());
 }
 
-TEST_F(Meta, NamesTheColourSpaceOfAPhotoWithoutAProfile)
+TEST_F(Meta, NamesTheColorSpaceOfAPhotoWithoutAProfile)
 {
     using test::PhotoModel;
     const auto tiff = [this](PhotoModel model) {

@@ -153,7 +153,7 @@ INSTANTIATE_TEST_SUITE_P(
     test::CaseName{}
 );
 
-TEST_P(HexFields, CarryTheTagOfTheirColourWell)
+TEST_P(HexFields, CarryTheTagOfTheirColorWell)
 {
     const panels::Panels panels;
 

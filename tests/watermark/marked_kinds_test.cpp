@@ -88,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(
     brenvaldo::test::CaseName()
 );
 
-TEST_F(TextWatermark, OnACmykPhotoShowsTheColourThatWasPicked)
+TEST_F(TextWatermark, OnACmykPhotoShowsTheColorThatWasPicked)
 {
     panel.cwFontColor.setColor({.red = 0.6, .green = 0.4, .blue = 0.3}); // a colour that ink has
     const QString photo = PhotoBuilder()
@@ -106,7 +106,7 @@ TEST_F(TextWatermark, OnACmykPhotoShowsTheColourThatWasPicked)
     EXPECT_NEAR(qBlue(shown), 76, 4);
 }
 
-TEST_F(TextWatermark, OnAGrayPhotoIsAsLightAsTheColourThatWasPicked)
+TEST_F(TextWatermark, OnAGrayPhotoIsAsLightAsTheColorThatWasPicked)
 {
     const Components picked{0.8, 0.2, 0.4};
     panel.cwFontColor.setColor({.red = picked[0], .green = picked[1], .blue = picked[2]});
@@ -146,7 +146,7 @@ class MarkedWidePhoto : public TextWatermark, public testing::WithParamInterface
 
 } // namespace
 
-TEST_P(MarkedWidePhoto, KeepsItsProfileAndHoldsThePickedColourInItsOwnNumbers)
+TEST_P(MarkedWidePhoto, KeepsItsProfileAndHoldsThePickedColorInItsOwnNumbers)
 {
     const WideCase& row = GetParam();
     panel.cwFontColor.setColor({row.picked[0], row.picked[1], row.picked[2]});

@@ -171,7 +171,7 @@ TEST_F(WatermarkPanelActions, EnableTheFieldsOfTheImageShadowWithTheirBox)
     EXPECT_EQ(enabled(), QList<bool>(4, false));
 }
 
-TEST_F(WatermarkPanelActions, ShowTheReliefColourForItsEffectOnly)
+TEST_F(WatermarkPanelActions, ShowTheReliefColorForItsEffectOnly)
 {
     for (int index = 0; index <= 9; ++index) {
         panel.cwEmbossColor.setHidden(index == 6);

@@ -313,7 +313,7 @@ TEST(TextFill, IsAsTransparentAsThePhoto)
     EXPECT_NEAR(qBlue(pixel), 30 + 20 * 0.4, 1);
 }
 
-TEST(TextFill, TakesNoColourFromWhatCannotBeSeenOfThePhoto)
+TEST(TextFill, TakesNoColorFromWhatCannotBeSeenOfThePhoto)
 {
     QImage ground(161, 121, QImage::Format_ARGB32);
     for (int y = 0; y < ground.height(); ++y) {

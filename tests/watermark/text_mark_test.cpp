@@ -142,7 +142,7 @@ TEST(TextMark, OutlinesAreHollow)
     EXPECT_GT(qRed(image.pixel(filled.center().x(), filled.top() + 1)), 100);
 }
 
-TEST(TextMark, OfAPlainColourCastsItsShadowInsideOfItsLayer)
+TEST(TextMark, OfAPlainColorCastsItsShadowInsideOfItsLayer)
 {
     TextWatermarkSettings settings = whiteBlock();
     settings.text = block() + QLatin1Char(' ');

@@ -105,7 +105,7 @@ TEST(ResizedImage, HasExactlyTheAskedSizeAndFourSamplesOfEightBits)
     EXPECT_TRUE(resized->hasAlpha());
 }
 
-TEST(ResizedImage, DrawsTheColoursAndTheTransparencyOfTheSource)
+TEST(ResizedImage, DrawsTheColorsAndTheTransparencyOfTheSource)
 {
     QImage half(8, 8, QImage::Format_ARGB32);
     half.fill(QColor(200, 100, 50, 128));

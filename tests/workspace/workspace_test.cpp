@@ -368,7 +368,7 @@ TEST_F(WorkspaceTest, ResizesFromButtonToFile)
     EXPECT_TRUE(QFileInfo::exists(program.journal().records().first().target));
 }
 
-TEST_F(WorkspaceTest, FollowsAHexFieldWithItsColourWell)
+TEST_F(WorkspaceTest, FollowsAHexFieldWithItsColorWell)
 {
     program.start();
     const controls::UserInput user(program.actions());

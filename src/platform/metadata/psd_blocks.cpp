@@ -25,11 +25,11 @@ bool standsInBlockOfItsOwn(const containers::PhotoshopResource& resource)
 containers::MetadataBlocks readPsdBlocks(QByteArrayView file)
 {
     containers::MetadataBlocks blocks;
-    const auto colourLength
+    const auto colorLength
         = containers::unsignedAt(file, headerLength, 4, containers::ByteOrder::Big);
-    if (!colourLength)
+    if (!colorLength)
         return blocks;
-    const std::uint64_t offset = headerLength + 4 + *colourLength;
+    const std::uint64_t offset = headerLength + 4 + *colorLength;
     const auto length = containers::unsignedAt(file, offset, 4, containers::ByteOrder::Big);
     const auto resources = containers::sliceOf(file, offset + 4, length.value_or(0));
     if (!resources)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "binder.h"
 
-#include "colour_well.h"
+#include "color_well.h"
 #include "picture_view.h"
 #include "pop_up.h"
 #include "radio_column.h"
@@ -58,12 +58,12 @@ QColor shown(const platform::graphics::Color& color)
     );
 }
 
-platform::graphics::Color chosen(const QColor& colour)
+platform::graphics::Color chosen(const QColor& color)
 {
     return {
-        .red = colour.red() / 255.0,
-        .green = colour.green() / 255.0,
-        .blue = colour.blue() / 255.0,
+        .red = color.red() / 255.0,
+        .green = color.green() / 255.0,
+        .blue = color.blue() / 255.0,
         .alpha = 1};
 }
 
@@ -211,13 +211,13 @@ void Binder::bind(QTabBar& widget, controls::TabView& control) const
     });
 }
 
-void Binder::bind(ColourWell& widget, controls::ColorWell& control) const
+void Binder::bind(ColorWell& widget, controls::ColorWell& control) const
 {
     followControl(widget, control, [&widget, &control] {
-        widget.setColour(shown(control.color()));
+        widget.setColor(shown(control.color()));
     });
-    QObject::connect(&widget, &ColourWell::chosen, &widget, [this, &control](const QColor& colour) {
-        m_input.choose(control, chosen(colour));
+    QObject::connect(&widget, &ColorWell::chosen, &widget, [this, &control](const QColor& color) {
+        m_input.choose(control, chosen(color));
     });
 }
 

@@ -17,7 +17,7 @@ class QWidget;
 
 namespace brenvaldo::views {
 
-class ColourWell;
+class ColorWell;
 class PictureView;
 class PopUp;
 class RadioColumn;
@@ -43,7 +43,7 @@ public:
     void bind(Segments& widget, controls::IndexedControl& control) const;
     void bind(RadioColumn& widget, controls::Matrix& control) const;
     void bind(QTabBar& widget, controls::TabView& control) const;
-    void bind(ColourWell& widget, controls::ColorWell& control) const;
+    void bind(ColorWell& widget, controls::ColorWell& control) const;
     void bind(QSlider& widget, controls::Slider& control) const;
     void bind(RowsTable& widget, controls::TableView& control) const;
     /// Enter, a double click and Delete press the buttons that the table names.

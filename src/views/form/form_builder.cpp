@@ -2,7 +2,7 @@
 #include "form_builder.h"
 
 #include "button_faces.h"
-#include "colour_well.h"
+#include "color_well.h"
 #include "form_rows.h"
 #include "holder_view.h"
 #include "picture_view.h"
@@ -164,7 +164,7 @@ QWidget* FormBuilder::makeField(const panels::Field& field, QWidget* parent) con
     if (auto* popUp = as<controls::IndexedControl>(field))
         return bound(m_binder, new PopUp(field.unit, parent), *popUp);
     if (auto* well = as<controls::ColorWell>(field))
-        return bound(m_binder, new ColourWell(parent), *well);
+        return bound(m_binder, new ColorWell(parent), *well);
     if (auto* slider = as<controls::Slider>(field))
         return bound(m_binder, new QSlider(Qt::Horizontal, parent), *slider);
     if (auto* table = as<controls::TableView>(field))

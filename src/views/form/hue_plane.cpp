@@ -37,17 +37,17 @@ HuePlane::HuePlane(QWidget* parent)
     setAccessibleName(tr("Saturation, brightness and hue"));
 }
 
-void HuePlane::setColour(const QColor& colour)
+void HuePlane::setColor(const QColor& color)
 {
-    const double hue = colour.hsvHueF();
+    const double hue = color.hsvHueF();
     if (hue >= 0)
         m_hue = hue;
-    m_saturation = colour.hsvSaturationF();
-    m_value = colour.valueF();
+    m_saturation = color.hsvSaturationF();
+    m_value = color.valueF();
     update();
 }
 
-QColor HuePlane::colour() const
+QColor HuePlane::color() const
 {
     return QColor::fromHsvF(
         static_cast<float>(m_hue), static_cast<float>(m_saturation), static_cast<float>(m_value)
@@ -86,7 +86,7 @@ void HuePlane::paintEvent(QPaintEvent*)
     paintKnob(
         painter,
         {plane.left() + m_saturation * plane.width(), plane.bottom() - m_value * plane.height()},
-        colour()
+        color()
     );
     paintKnob(
         painter,
@@ -95,7 +95,7 @@ void HuePlane::paintEvent(QPaintEvent*)
     );
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(colours().accent, 2));
+        painter.setPen(QPen(colors().accent, 2));
         painter.drawRoundedRect(plane.adjusted(1, 1, -1, -1), 4, 4);
     }
 }
@@ -114,7 +114,7 @@ void HuePlane::pickAt(const QPointF& position)
 void HuePlane::tell()
 {
     update();
-    Q_EMIT picked(colour());
+    Q_EMIT picked(color());
 }
 
 void HuePlane::mousePressEvent(QMouseEvent* event)

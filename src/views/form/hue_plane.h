@@ -16,14 +16,14 @@ class HuePlane : public QWidget
 public:
     explicit HuePlane(QWidget* parent = nullptr);
 
-    void setColour(const QColor& colour);
-    [[nodiscard]] QColor colour() const;
+    void setColor(const QColor& color);
+    [[nodiscard]] QColor color() const;
 
     [[nodiscard]] QSize sizeHint() const override { return {228, 178}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
-    void picked(const QColor& colour);
+    void picked(const QColor& color);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -120,7 +120,7 @@ void RowsTable::paintEvent(QPaintEvent* event)
     if (m_emptyText.isEmpty() || !m_items.isEmpty())
         return;
     QPainter painter(viewport());
-    painter.setPen(colours().muted);
+    painter.setPen(colors().muted);
     painter.drawText(
         viewport()->rect().adjusted(16, 8, -16, -8), Qt::AlignCenter | Qt::TextWordWrap, m_emptyText
     );

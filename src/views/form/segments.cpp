@@ -50,7 +50,7 @@ protected:
 
     void paintEvent(QPaintEvent*) override
     {
-        const Colours& shade = colours();
+        const Colors& shade = colors();
         QPainter painter(this);
         paintFieldFrame(
             painter, rect(), {.fill = fill(), .line = line(), .focused = isFocusShown()}
@@ -67,7 +67,7 @@ private:
 
     [[nodiscard]] QColor fill() const
     {
-        const Colours& shade = colours();
+        const Colors& shade = colors();
         if (isChecked())
             return isEnabled() ? shade.accentGround : shade.disabled;
         const bool grid = m_look == Segments::Look::Grid;
@@ -80,7 +80,7 @@ private:
     {
         if (!isFocusShown())
             return Qt::transparent;
-        return isChecked() ? colours().text : colours().accent;
+        return isChecked() ? colors().text : colors().accent;
     }
 
     Segments::Look m_look;

@@ -50,7 +50,7 @@ void UnitField::paintEvent(QPaintEvent* event)
         return;
     QPainter painter(this);
     painter.setFont(scaledFont(font(), unitScale));
-    painter.setPen(isEnabled() ? colours().muted : colours().disabled);
+    painter.setPen(isEnabled() ? colors().muted : colors().disabled);
     painter.drawText(rect().adjusted(0, 0, -edge, 0), Qt::AlignVCenter | Qt::AlignRight, m_unit);
 }
 

@@ -20,12 +20,12 @@ const QString service = u"org.freedesktop.portal.Desktop"_s;
 const QString path = u"/org/freedesktop/portal/desktop"_s;
 const QString settings = u"org.freedesktop.portal.Settings"_s;
 const QString appearance = u"org.freedesktop.appearance"_s;
-const QString colourScheme = u"color-scheme"_s;
+const QString colorScheme = u"color-scheme"_s;
 
 QDBusMessage readScheme()
 {
     QDBusMessage message = QDBusMessage::createMethodCall(service, path, settings, u"Read"_s);
-    message << appearance << colourScheme;
+    message << appearance << colorScheme;
     return message;
 }
 
@@ -72,7 +72,7 @@ void DesktopScheme::settingChanged(
     const QString& group, const QString& key, const QDBusVariant& value
 )
 {
-    if (group == appearance && key == colourScheme)
+    if (group == appearance && key == colorScheme)
         take(wishedScheme(value.variant()));
 }
 

@@ -22,7 +22,7 @@ public:
     }
 
 protected:
-    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), colours().border); }
+    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), colors().border); }
 };
 
 } // namespace brenvaldo::views

@@ -15,6 +15,6 @@ namespace brenvaldo::views {
 [[nodiscard]] QIcon icon(const QString& name);
 
 /// Paints the drawing `name` in one colour.
-void paintIcon(QPainter& painter, const QString& name, const QRect& rect, const QColor& colour);
+void paintIcon(QPainter& painter, const QString& name, const QRect& rect, const QColor& color);
 
 } // namespace brenvaldo::views

@@ -11,24 +11,24 @@ MutedLabel::MutedLabel(const QString& text, QWidget* parent)
     : QLabel(text, parent)
 {
     setTextFormat(Qt::PlainText);
-    takeColour();
+    takeColor();
 }
 
 void MutedLabel::changeEvent(QEvent* event)
 {
     QLabel::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        takeColour();
+        takeColor();
 }
 
-void MutedLabel::takeColour()
+void MutedLabel::takeColor()
 {
     QPalette own = palette();
-    if (own.color(QPalette::Active, QPalette::WindowText) == colours().muted)
+    if (own.color(QPalette::Active, QPalette::WindowText) == colors().muted)
         return;
-    own.setColor(QPalette::Active, QPalette::WindowText, colours().muted);
-    own.setColor(QPalette::Inactive, QPalette::WindowText, colours().muted);
-    own.setColor(QPalette::Disabled, QPalette::WindowText, colours().disabled);
+    own.setColor(QPalette::Active, QPalette::WindowText, colors().muted);
+    own.setColor(QPalette::Inactive, QPalette::WindowText, colors().muted);
+    own.setColor(QPalette::Disabled, QPalette::WindowText, colors().disabled);
     setPalette(own);
 }
 

@@ -17,7 +17,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void takeColour();
+    void takeColor();
 };
 
 } // namespace brenvaldo::views

@@ -33,10 +33,10 @@ Notice::Notice(const QString& text, QWidget* parent)
 void Notice::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect().adjusted(1, 0, 0, 0), colours().selection);
+    painter.fillRect(rect().adjusted(1, 0, 0, 0), colors().selection);
     QRect mark(0, 0, markSide, markSide);
     mark.moveCenter({Metrics::margin + markSide / 2, rect().center().y()});
-    paintIcon(painter, u"info"_s, mark, colours().accent);
+    paintIcon(painter, u"info"_s, mark, colors().accent);
 }
 
 } // namespace brenvaldo::views

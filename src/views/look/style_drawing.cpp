@@ -18,7 +18,7 @@ bool isOn(const QStyleOption& option, QStyle::StateFlag flag)
 
 void paintRadio(QPainter& painter, const QStyleOption& option)
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     const bool enabled = isOn(option, QStyle::State_Enabled);
     const bool chosen = isOn(option, QStyle::State_On);
     const QColor mark = enabled ? shade.accentGround : shade.disabled;
@@ -38,7 +38,7 @@ void paintRadio(QPainter& painter, const QStyleOption& option)
 
 void paintButton(QPainter& painter, const QStyleOption& option, ButtonRole role)
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     const bool enabled = isOn(option, QStyle::State_Enabled);
     const bool pressed = isOn(option, QStyle::State_Sunken) || isOn(option, QStyle::State_On);
     const bool hovered = enabled && isOn(option, QStyle::State_MouseOver);
@@ -59,7 +59,7 @@ void paintButton(QPainter& painter, const QStyleOption& option, ButtonRole role)
 
 void paintTabLabel(QPainter& painter, const QStyleOptionTab& tab)
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     const bool chosen = tab.state & QStyle::State_Selected;
     const bool enabled = tab.state & QStyle::State_Enabled;
     const bool hovered = tab.state & QStyle::State_MouseOver;
@@ -77,7 +77,7 @@ void paintTabShape(QPainter& painter, const QStyleOptionTab& tab)
 {
     if (!(tab.state & QStyle::State_Selected))
         return;
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     const QRect line(tab.rect.left(), tab.rect.bottom() - 1, tab.rect.width(), 2);
     painter.fillRect(line, shade.accent);
     if (tab.state & QStyle::State_HasFocus)
@@ -90,7 +90,7 @@ void paintTabShape(QPainter& painter, const QStyleOptionTab& tab)
 
 void paintMenuBarItem(QPainter& painter, const QStyleOptionMenuItem& item)
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     painter.fillRect(item.rect, shade.window);
     const bool active = item.state & (QStyle::State_Selected | QStyle::State_Sunken);
     if (active)
@@ -103,12 +103,12 @@ void paintMenuBarItem(QPainter& painter, const QStyleOptionMenuItem& item)
     painter.drawText(item.rect, Qt::AlignCenter | Qt::TextShowMnemonic, item.text);
 }
 
-void paintBar(QPainter& painter, const QRectF& rect, const QColor& colour)
+void paintBar(QPainter& painter, const QRectF& rect, const QColor& color)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
+    painter.setBrush(color);
     const double radius = std::min(rect.width(), rect.height()) / 2;
     painter.drawRoundedRect(rect, radius, radius);
     painter.restore();
@@ -116,7 +116,7 @@ void paintBar(QPainter& painter, const QRectF& rect, const QColor& colour)
 
 void paintProgress(QPainter& painter, const QStyleOptionProgressBar& bar)
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     paintBar(painter, bar.rect, shade.track);
     const double range = bar.maximum - bar.minimum;
     const double part = range > 0 ? (bar.progress - bar.minimum) / range : 0;
@@ -130,7 +130,7 @@ void paintProgress(QPainter& painter, const QStyleOptionProgressBar& bar)
 
 void paintHeader(QPainter& painter, const QStyleOptionHeader& header)
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     painter.fillRect(header.rect, shade.window);
     painter.setPen(shade.border);
     painter.drawLine(header.rect.bottomLeft(), header.rect.bottomRight());
@@ -140,7 +140,7 @@ void paintCombo(
     const QStyle& style, QPainter& painter, const QStyleOptionComboBox& box, const QWidget* widget
 )
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     FieldFrame frame = fieldFrame(box.state);
     const bool enabled = isOn(box, QStyle::State_Enabled);
     if (enabled && isOn(box, QStyle::State_MouseOver) && !frame.focused)
@@ -159,20 +159,18 @@ void paintScrollBar(
         return;
     const QRectF slider
         = style.subControlRect(QStyle::CC_ScrollBar, &bar, QStyle::SC_ScrollBarSlider, widget);
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     const bool held = bar.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
-    const QColor colour = held ? shade.muted : shade.disabled;
+    const QColor color = held ? shade.muted : shade.disabled;
     const bool lying = bar.orientation == Qt::Horizontal;
-    paintBar(
-        painter, lying ? slider.adjusted(2, 4, -2, -2) : slider.adjusted(4, 2, -2, -2), colour
-    );
+    paintBar(painter, lying ? slider.adjusted(2, 4, -2, -2) : slider.adjusted(4, 2, -2, -2), color);
 }
 
 void paintSlider(
     const QStyle& style, QPainter& painter, const QStyleOptionSlider& slider, const QWidget* widget
 )
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     const bool enabled = isOn(slider, QStyle::State_Enabled);
     const QColor mark = enabled ? shade.accent : shade.disabled;
     const QRectF handle
@@ -226,11 +224,11 @@ void Style::drawPrimitive(
         paintFieldFrame(*painter, option->rect, fieldFrame(option->state));
         return;
     case PE_FrameMenu:
-        painter->setPen(colours().border);
+        painter->setPen(colors().border);
         painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
         return;
     case PE_FrameTabBarBase:
-        painter->setPen(colours().border);
+        painter->setPen(colors().border);
         painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
         return;
     default:
@@ -252,7 +250,7 @@ void Style::drawControl(
         if (element == CE_MenuBarItem)
             return paintMenuBarItem(*painter, *item);
         if (element == CE_MenuBarEmptyArea)
-            return painter->fillRect(option->rect, colours().window);
+            return painter->fillRect(option->rect, colors().window);
     }
     if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option)) {
         if (element == CE_ProgressBar)
@@ -265,13 +263,13 @@ void Style::drawControl(
     if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option)) {
         if (element == CE_PushButtonLabel && buttonRole(widget) == ButtonRole::Primary) {
             const bool enabled = isOn(*button, State_Enabled);
-            painter->setPen(enabled ? colours().onAccent : colours().disabled);
+            painter->setPen(enabled ? colors().onAccent : colors().disabled);
             painter->drawText(button->rect, Qt::AlignCenter | Qt::TextShowMnemonic, button->text);
             return;
         }
     }
     if (element == CE_Splitter)
-        return painter->fillRect(option->rect, colours().window);
+        return painter->fillRect(option->rect, colors().window);
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 

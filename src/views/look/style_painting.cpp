@@ -24,7 +24,7 @@ void paintFieldFrame(QPainter& painter, const QRect& rect, const FieldFrame& fra
 
 FieldFrame fieldFrame(QStyle::State state)
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     if (!(state & QStyle::State_Enabled))
         return {.fill = shade.window, .line = shade.track};
     if (state & QStyle::State_HasFocus)
@@ -32,11 +32,11 @@ FieldFrame fieldFrame(QStyle::State state)
     return {.fill = shade.field, .line = shade.border};
 }
 
-void paintChevron(QPainter& painter, const QRectF& rect, const QColor& colour)
+void paintChevron(QPainter& painter, const QRectF& rect, const QColor& color)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(color, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     const QPointF centre = rect.center();
     painter.drawPolyline(QPolygonF{
@@ -48,7 +48,7 @@ void paintChevron(QPainter& painter, const QRectF& rect, const QColor& colour)
 
 void paintTickBox(QPainter& painter, const TickBox& box)
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QColor mark = box.enabled ? shade.accentGround : shade.disabled;

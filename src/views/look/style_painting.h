@@ -26,7 +26,7 @@ void paintFieldFrame(QPainter& painter, const QRect& rect, const FieldFrame& fra
 [[nodiscard]] FieldFrame fieldFrame(QStyle::State state);
 
 /// A chevron that points down, centred in `rect`.
-void paintChevron(QPainter& painter, const QRectF& rect, const QColor& colour);
+void paintChevron(QPainter& painter, const QRectF& rect, const QColor& color);
 
 /// The box of a check box of `side` x `side`, ticked or not.
 struct TickBox

@@ -13,7 +13,7 @@ namespace brenvaldo::views {
 
 namespace {
 
-const Colours light{
+const Colors light{
     .window = QColor(0xfafafa),
     .field = QColor(0xffffff),
     .border = QColor(0xd9dadd),
@@ -30,7 +30,7 @@ const Colours light{
     .canvas = QColor(0x6e6f72),
 };
 
-const Colours dark{
+const Colors dark{
     .window = QColor(0x26272b),
     .field = QColor(0x1b1c1f),
     .border = QColor(0x414349),
@@ -47,15 +47,15 @@ const Colours dark{
     .canvas = QColor(0x4a4b4f),
 };
 
-void setEverywhere(QPalette& palette, QPalette::ColorRole role, const QColor& colour)
+void setEverywhere(QPalette& palette, QPalette::ColorRole role, const QColor& color)
 {
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        palette.setColor(group, role, colour);
+        palette.setColor(group, role, color);
 }
 
 } // namespace
 
-const Colours& coloursOf(Scheme scheme) { return scheme == Scheme::Dark ? dark : light; }
+const Colors& colorsOf(Scheme scheme) { return scheme == Scheme::Dark ? dark : light; }
 
 Scheme schemeOf(const QPalette& palette)
 {
@@ -64,11 +64,11 @@ Scheme schemeOf(const QPalette& palette)
     return text > ground ? Scheme::Dark : Scheme::Light;
 }
 
-const Colours& colours() { return coloursOf(schemeOf(QGuiApplication::palette())); }
+const Colors& colors() { return colorsOf(schemeOf(QGuiApplication::palette())); }
 
 QPalette paletteOf(Scheme scheme)
 {
-    const Colours& shade = coloursOf(scheme);
+    const Colors& shade = colorsOf(scheme);
     QPalette palette(
         shade.text,
         shade.window,

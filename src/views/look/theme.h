@@ -15,7 +15,7 @@ namespace brenvaldo::views {
 enum class Scheme { Light, Dark };
 
 /// The colours of one scheme, named after what they paint.
-struct Colours
+struct Colors
 {
     QColor window; ///< behind forms and tool bars
     QColor field; ///< inside text fields and pop-ups
@@ -48,13 +48,13 @@ struct Metrics
     static constexpr int formWidth = inspectorWidth - 1 - 2 * margin - scrollBar;
 };
 
-[[nodiscard]] const Colours& coloursOf(Scheme scheme);
+[[nodiscard]] const Colors& colorsOf(Scheme scheme);
 
 /// Dark when text is lighter than what stands behind it.
 [[nodiscard]] Scheme schemeOf(const QPalette& palette);
 
 /// Colours of the scheme that the application shows at present.
-[[nodiscard]] const Colours& colours();
+[[nodiscard]] const Colors& colors();
 
 /// The palette of a scheme in our colours.
 [[nodiscard]] QPalette paletteOf(Scheme scheme);

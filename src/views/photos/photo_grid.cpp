@@ -196,7 +196,7 @@ void PhotoGrid::paintGap(QPainter& painter) const
     const bool atEnd = m_gap >= m_model->rowCount();
     const QRect cell = visualRect(m_model->index(atEnd ? m_gap - 1 : m_gap));
     const int x = atEnd ? cell.right() - 1 : cell.left();
-    painter.fillRect(QRect(x, cell.top() + 6, 3, cell.height() - 12), colours().accent);
+    painter.fillRect(QRect(x, cell.top() + 6, 3, cell.height() - 12), colors().accent);
 }
 
 void PhotoGrid::paintEmpty(QPainter& painter) const
@@ -204,8 +204,8 @@ void PhotoGrid::paintEmpty(QPainter& painter) const
     const QRect room = viewport()->rect();
     QRect place(0, 0, 44, 44);
     place.moveCenter(room.center() - QPoint(0, 44));
-    paintIcon(painter, u"photos"_s, place, colours().disabled);
-    painter.setPen(colours().muted);
+    paintIcon(painter, u"photos"_s, place, colors().disabled);
+    painter.setPen(colors().muted);
     const QRect line(room.left(), place.bottom() + 4, room.width(), fontMetrics().height() + 6);
     painter.drawText(line, Qt::AlignCenter, tr("Drop photos here or choose Add photos\u2026"));
 }

@@ -40,7 +40,7 @@ void paintPicture(QPainter& painter, const QRect& cell, const QModelIndex& index
         QRect place(0, 0, 48, 48);
         place.moveCenter(room.center());
         painter.setOpacity(isDocument ? 1 : 0.4);
-        paintIcon(painter, drawing, place, colours().muted);
+        paintIcon(painter, drawing, place, colors().muted);
         painter.setOpacity(1);
         return;
     }
@@ -72,13 +72,13 @@ void paintTexts(
     line.setHeight(height);
     const bool isTicked = index.data(PhotoGridModel::TickRole).toBool();
     painter.setFont(scaledFont(option.font, 0.92));
-    painter.setPen(isTicked ? colours().text : colours().muted);
+    painter.setPen(isTicked ? colors().text : colors().muted);
     paintLine(painter, line, index.data().toString(), Qt::ElideMiddle);
     line.translate(0, height);
     line.adjust(-sizeReach, 0, sizeReach, 0);
     painter.setFont(scaledFont(option.font, smallScale));
     const bool isRenamed = !newName.isEmpty();
-    painter.setPen(isRenamed ? colours().accent : colours().muted);
+    painter.setPen(isRenamed ? colors().accent : colors().muted);
     const QString below
         = isRenamed ? u"\u2192 "_s + newName : index.data(PhotoGridModel::SizeRole).toString();
     paintLine(painter, line, below, isRenamed ? Qt::ElideMiddle : Qt::ElideRight);
@@ -114,8 +114,8 @@ void PhotoGridDelegate::paint(
         paintFieldFrame(
             *painter,
             cell.adjusted(margin, margin, -margin, -margin),
-            {.fill = isSelected ? colours().selection : colours().hover,
-             .line = isSelected ? colours().accent : Qt::transparent,
+            {.fill = isSelected ? colors().selection : colors().hover,
+             .line = isSelected ? colors().accent : Qt::transparent,
              .focused = isSelected && isFocused}
         );
     }

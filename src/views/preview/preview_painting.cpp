@@ -54,7 +54,7 @@ void paintEmptyPreview(QPainter& painter, const QRect& room, const QString& text
 
 void paintPreviewFocus(QPainter& painter, const QRect& room)
 {
-    painter.setPen(QPen(colours().accent, 2));
+    painter.setPen(QPen(colors().accent, 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(room.adjusted(1, 1, -1, -1));
 }

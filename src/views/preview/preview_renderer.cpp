@@ -15,7 +15,7 @@ namespace brenvaldo::views {
 
 namespace {
 
-QString colourModelName(platform::graphics::ColorModel model)
+QString colorModelName(platform::graphics::ColorModel model)
 {
     switch (model) {
     case platform::graphics::ColorModel::Gray:
@@ -130,7 +130,7 @@ QString photoCaption(const QString& path, const QString& fileSize)
                              .arg(header.uprightSize.width)
                              .arg(header.uprightSize.height)
                              .arg(header.bitsPerComponent)
-                             .arg(colourModelName(header.colorModel));
+                             .arg(colorModelName(header.colorModel));
     return fileSize.isEmpty() ? text : text + u"  \u00b7  "_s + fileSize;
 }
 

@@ -183,7 +183,7 @@ void PreviewView::pan(const QPoint& pixels)
 void PreviewView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), colours().canvas);
+    painter.fillRect(rect(), colors().canvas);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (m_fitted.photo.isNull() && m_fitted.overlay.isNull()) {

@@ -34,7 +34,7 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
-        paintIcon(painter, u"alert"_s, rect(), colours().accent);
+        paintIcon(painter, u"alert"_s, rect(), colors().accent);
     }
 };
 

@@ -41,8 +41,8 @@ InfoPane::InfoPane(const panels::PanelView& view, const FormBuilder& builder, QW
 void InfoPane::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), colours().window);
-    painter.fillRect(QRect(width() - 1, 0, 1, height()), colours().border);
+    painter.fillRect(rect(), colors().window);
+    painter.fillRect(QRect(width() - 1, 0, 1, height()), colors().border);
 }
 
 } // namespace brenvaldo::views

@@ -237,8 +237,8 @@ void Inspector::showRun()
 void Inspector::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), colours().window);
-    painter.fillRect(QRect(0, 0, 1, height()), colours().border);
+    painter.fillRect(rect(), colors().window);
+    painter.fillRect(QRect(0, 0, 1, height()), colors().border);
 }
 
 } // namespace brenvaldo::views

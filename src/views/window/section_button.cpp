@@ -42,7 +42,7 @@ void SectionButton::focusInEvent(QFocusEvent* event)
 
 void SectionButton::paintEvent(QPaintEvent*)
 {
-    const Colours& shade = colours();
+    const Colors& shade = colors();
     QPainter painter(this);
     const QColor fill
         = isChecked() ? shade.accentGround : (underMouse() ? shade.hover : shade.field);

@@ -232,7 +232,7 @@ private:
 
 } // namespace
 
-TEST_F(PictureText, KeepsItsOwnColours)
+TEST_F(PictureText, KeepsItsOwnColors)
 {
     for (const int size : {20, 64, 160, 300}) {
         const AttributedText text(picture, attributes(size));

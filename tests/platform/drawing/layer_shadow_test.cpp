@@ -50,7 +50,7 @@ TEST(LayerShadow, FallsOffAcrossAStraightEdgeLikeAGaussianOfHalfTheRadius)
     );
 }
 
-TEST(LayerShadow, HasTheColoursStrength)
+TEST(LayerShadow, HasTheColorsStrength)
 {
     const QImage object = filled({20, 20}, {0, 0, 20, 20});
 

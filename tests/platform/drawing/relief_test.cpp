@@ -159,7 +159,7 @@ TEST(ShadedMaterial, IsAsOpaqueAsTheLayer)
     EXPECT_EQ(qAlpha(shaded.pixel(60, 10)), 255);
 }
 
-TEST(ColorBall, IsBlackAtItsRimAndColouredAtItsHighlight)
+TEST(ColorBall, IsBlackAtItsRimAndColoredAtItsHighlight)
 {
     const QImage ball = colorBall({.red = 1, .green = 0.5, .blue = 0});
 

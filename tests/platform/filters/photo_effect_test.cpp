@@ -28,7 +28,7 @@ class PhotoEffectNoir : public testing::TestWithParam<NoirCase>
 
 } // namespace
 
-TEST_P(PhotoEffectNoir, MapsTheColour)
+TEST_P(PhotoEffectNoir, MapsTheColor)
 {
     QImage pixel(1, 1, QImage::Format_ARGB32);
     pixel.fill(GetParam().input);

@@ -206,7 +206,7 @@ TEST(SplicedPng, KeepsTheTimeOfAPng)
     );
 }
 
-TEST(SplicedPng, KeepsWhatDescribesColoursWithoutAProfile)
+TEST(SplicedPng, KeepsWhatDescribesColorsWithoutAProfile)
 {
     const QByteArrayList colors{gammaChunk(), pngChunk("sRGB", QByteArray(1, '\0'))};
     const MetadataBlocks blocks = readPngBlocks(barePng(colors));
@@ -215,7 +215,7 @@ TEST(SplicedPng, KeepsWhatDescribesColoursWithoutAProfile)
     EXPECT_EQ(readPngBlocks(splicedPng(encoded, blocks)->join()).pngColorChunks, colors);
 }
 
-TEST(SplicedPng, KeepsWhatDescribesColoursBesideTheSameProfile)
+TEST(SplicedPng, KeepsWhatDescribesColorsBesideTheSameProfile)
 {
     const QByteArrayList colors{profileChunk("its own name", "profile"), gammaChunk()};
     const MetadataBlocks blocks = readPngBlocks(barePng(colors));
@@ -236,7 +236,7 @@ TEST(SplicedPng, LeavesOutAProfileThatNobodyCanRead)
     );
 }
 
-TEST(SplicedPng, LeavesOutWhatDescribedColoursThatWereConverted)
+TEST(SplicedPng, LeavesOutWhatDescribedColorsThatWereConverted)
 {
     const MetadataBlocks blocks = readPngBlocks(barePng({gammaChunk()}));
     const QByteArray profile = profileChunk("ICC Profile", "another profile");

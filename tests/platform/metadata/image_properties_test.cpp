@@ -32,7 +32,7 @@ nested(const PropertyDictionary& properties, QLatin1StringView dictionary, const
 
 } // namespace
 
-TEST(ImageProperties, TellTheStoredSizeAndTheColours)
+TEST(ImageProperties, TellTheStoredSizeAndTheColors)
 {
     const PropertyDictionary properties = propertiesOf(PhotoBuilder{}.size(61, 23).orientation(6));
 

@@ -5,7 +5,7 @@
 #include <platform/foundation/literals.h>
 #include <support/text_printing.h>
 #include <views/form/binder.h>
-#include <views/form/colour_well.h>
+#include <views/form/color_well.h>
 #include <views/form/pop_up.h>
 #include <views/form/radio_column.h>
 #include <views/form/rows_table.h>
@@ -236,18 +236,18 @@ TEST_F(Binder, PicksATabAndFollowsOneThatCodePicks)
     EXPECT_EQ(sent.names, QStringList{u"tbv"_s});
 }
 
-TEST_F(Binder, TakesTheColourThatTheUserChooses)
+TEST_F(Binder, TakesTheColorThatTheUserChooses)
 {
     controls::ColorWell control(u"cw"_s);
     sent.watch(control);
-    auto* well = new views::ColourWell(&window);
+    auto* well = new views::ColorWell(&window);
     binder.bind(*well, control);
     show(well);
 
     Q_EMIT well->chosen(QColor(0xff8000));
 
     EXPECT_NEAR(control.color().green, 128 / 255.0, 1e-9);
-    EXPECT_EQ(well->colour(), QColor(0xff8000));
+    EXPECT_EQ(well->color(), QColor(0xff8000));
     EXPECT_EQ(sent.names, QStringList{u"cw"_s});
 }
 

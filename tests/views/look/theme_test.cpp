@@ -16,13 +16,13 @@ using namespace brenvaldo::views;
 
 namespace {
 
-double luminance(const QColor& colour)
+double luminance(const QColor& color)
 {
     const auto linear = [](double part) {
         return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
-        + 0.0722 * linear(colour.blueF());
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+        + 0.0722 * linear(color.blueF());
 }
 
 /// 1 to 21, by the rule of the web's accessibility guidelines.
@@ -43,18 +43,18 @@ TEST(Theme, TakesTheSchemeFromTheDesktopsPalette)
 
     QApplication::style()->polish(foreign);
 
-    EXPECT_EQ(foreign.color(QPalette::Window), coloursOf(Scheme::Dark).window);
+    EXPECT_EQ(foreign.color(QPalette::Window), colorsOf(Scheme::Dark).window);
 }
 
 TEST(Theme, FollowsTheSchemeWhileRunning)
 {
-    EXPECT_EQ(&colours(), &coloursOf(Scheme::Light));
+    EXPECT_EQ(&colors(), &colorsOf(Scheme::Light));
 
     QApplication::setPalette(paletteOf(Scheme::Dark));
-    EXPECT_EQ(&colours(), &coloursOf(Scheme::Dark));
+    EXPECT_EQ(&colors(), &colorsOf(Scheme::Dark));
 
     QApplication::setPalette(QPalette());
-    EXPECT_EQ(&colours(), &coloursOf(Scheme::Light));
+    EXPECT_EQ(&colors(), &colorsOf(Scheme::Light));
 }
 
 TEST(Theme, TakesTheWishOfTheDesktopOutOfItsVariants)
@@ -77,19 +77,19 @@ TEST(Theme, FollowsTheWishOfTheDesktopWhileRunning)
     DesktopScheme scheme;
 
     scheme.settingChanged(group, key, QDBusVariant(1U));
-    EXPECT_EQ(&colours(), &coloursOf(Scheme::Dark));
+    EXPECT_EQ(&colors(), &colorsOf(Scheme::Dark));
 
     scheme.settingChanged(group, u"contrast"_s, QDBusVariant(0U));
-    EXPECT_EQ(&colours(), &coloursOf(Scheme::Dark));
+    EXPECT_EQ(&colors(), &colorsOf(Scheme::Dark));
 
     scheme.settingChanged(group, key, QDBusVariant(2U));
-    EXPECT_EQ(&colours(), &coloursOf(Scheme::Light));
+    EXPECT_EQ(&colors(), &colorsOf(Scheme::Light));
 }
 
 TEST(Theme, KeepsTextReadable)
 {
     for (const auto scheme : {Scheme::Light, Scheme::Dark}) {
-        const Colours& shade = coloursOf(scheme);
+        const Colors& shade = colorsOf(scheme);
         EXPECT_GT(std::abs(shade.text.lightness() - shade.window.lightness()), 180);
         EXPECT_GT(std::abs(shade.muted.lightness() - shade.window.lightness()), 110);
         EXPECT_GE(contrast(shade.text, shade.window), 7);

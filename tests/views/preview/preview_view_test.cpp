@@ -18,10 +18,10 @@ using namespace brenvaldo;
 
 namespace {
 
-QImage solid(int width, int height, const QColor& colour)
+QImage solid(int width, int height, const QColor& color)
 {
     QImage picture(width, height, QImage::Format_ARGB32_Premultiplied);
-    picture.fill(colour);
+    picture.fill(color);
     return picture;
 }
 
@@ -41,9 +41,9 @@ protected:
         return view.grab().toImage();
     }
 
-    static platform::graphics::Image picture(int width, int height, const QColor& colour)
+    static platform::graphics::Image picture(int width, int height, const QColor& color)
     {
-        return platform::graphics::Image::fromQImage(solid(width, height, colour));
+        return platform::graphics::Image::fromQImage(solid(width, height, color));
     }
 
     controls::ImageView photo{u"myTemplatePreview"_s};
@@ -63,7 +63,7 @@ TEST_F(PreviewView, FitsThePhotoOnNeutralGround)
     const QImage shown = drawn();
 
     EXPECT_EQ(shown.pixelColor(300, 200), QColor(Qt::red));
-    EXPECT_EQ(shown.pixelColor(2, 2), views::colours().canvas);
+    EXPECT_EQ(shown.pixelColor(2, 2), views::colors().canvas);
 }
 
 TEST_F(PreviewView, LaysTheOverlayOverThePhoto)
@@ -170,7 +170,7 @@ TEST_F(PreviewView, GoesOnShowingThePictureWhileTheZoomChanges)
 
     view.setZoom(views::PreviewView::Zoom::Fit);
     ASSERT_FALSE(view.isUpToDate());
-    EXPECT_EQ(view.grab().toImage().pixelColor(4, 4), views::colours().canvas);
+    EXPECT_EQ(view.grab().toImage().pixelColor(4, 4), views::colors().canvas);
     EXPECT_EQ(view.grab().toImage().pixelColor(300, 200), QColor(Qt::red));
 }
 
@@ -241,11 +241,11 @@ TEST_F(PreviewView, ShowsThatTheKeyboardHasMovedToIt)
 {
     photo.setImage(picture(2000, 1000, Qt::red));
     view.activateWindow();
-    EXPECT_EQ(drawn().pixelColor(1, 1), views::colours().canvas);
+    EXPECT_EQ(drawn().pixelColor(1, 1), views::colors().canvas);
 
     view.setFocus(Qt::TabFocusReason);
 
-    EXPECT_EQ(drawn().pixelColor(1, 1), views::colours().accent);
+    EXPECT_EQ(drawn().pixelColor(1, 1), views::colors().accent);
 }
 
 TEST_F(PreviewView, TellsWhyThereIsNoPicture)

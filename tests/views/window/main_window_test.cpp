@@ -381,12 +381,12 @@ TEST_F(MainWindow, KeepsAndUsesPresetsByKeyboard)
 TEST_F(MainWindow, SaysInAnEmptyListOfPresetsWhatToDo)
 {
     const auto inks = [](const QImage& picture) {
-        QSet<QRgb> colours;
+        QSet<QRgb> colors;
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x)
-                colours.insert(picture.pixel(x, y));
+                colors.insert(picture.pixel(x, y));
         }
-        return colours.size();
+        return colors.size();
     };
     QTest::mouseClick(find(u"btnPresets"_s), Qt::LeftButton);
     settle();
@@ -600,6 +600,6 @@ TEST_F(MainWindow, FollowsTheSchemeWhileItIsOpen)
     const QImage light = window->grab().toImage();
 
     const QPoint inspector(1270, 300);
-    EXPECT_EQ(dark.pixelColor(inspector), views::coloursOf(views::Scheme::Dark).window);
-    EXPECT_EQ(light.pixelColor(inspector), views::coloursOf(views::Scheme::Light).window);
+    EXPECT_EQ(dark.pixelColor(inspector), views::colorsOf(views::Scheme::Dark).window);
+    EXPECT_EQ(light.pixelColor(inspector), views::colorsOf(views::Scheme::Light).window);
 }

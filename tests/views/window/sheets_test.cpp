@@ -71,7 +71,7 @@ TEST_F(AlertSheet, ShowsTitleAndTextWithLineBreaks)
     EXPECT_EQ(sheet->findChild<QLabel*>(u"tfHTMLAlertInfo"_s)->text(), u"Please choose.\nNow."_s);
 }
 
-TEST_F(AlertSheet, DrawsItsMarkInTheColoursOfTheScheme)
+TEST_F(AlertSheet, DrawsItsMarkInTheColorsOfTheScheme)
 {
     window.show();
     alert(u"Title"_s, u"Text"_s);
@@ -84,10 +84,10 @@ TEST_F(AlertSheet, DrawsItsMarkInTheColoursOfTheScheme)
                     return true;
         return false;
     };
-    EXPECT_TRUE(hasInk(views::coloursOf(views::Scheme::Light).accent));
+    EXPECT_TRUE(hasInk(views::colorsOf(views::Scheme::Light).accent));
 
     QApplication::setPalette(views::paletteOf(views::Scheme::Dark));
-    EXPECT_TRUE(hasInk(views::coloursOf(views::Scheme::Dark).accent));
+    EXPECT_TRUE(hasInk(views::colorsOf(views::Scheme::Dark).accent));
     QApplication::setPalette(QPalette());
 }
 

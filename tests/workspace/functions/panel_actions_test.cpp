@@ -87,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return std::string(row.param); }
 );
 
-TEST_P(ColorWells, WriteTheirColourAndDrawThePreview)
+TEST_P(ColorWells, WriteTheirColorAndDrawThePreview)
 {
     auto* well
         = dynamic_cast<controls::ColorWell*>(panels.control(QString::fromLatin1(GetParam().well)));
@@ -121,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(
     test::CaseName{}
 );
 
-TEST_F(PanelActions, DrawTheTintBeforeItsColourIsWritten)
+TEST_F(PanelActions, DrawTheTintBeforeItsColorIsWritten)
 {
     user.choose(panels.vwAddTint.cwAddTint, {.red = 1, .green = 1, .blue = 1});
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "colour_panel.h"
+#include "color_panel.h"
 
 #include "hue_plane.h"
 #include "unit_field.h"
@@ -41,38 +41,38 @@ constexpr std::array<QRgb, 16> ready{
     0xff303f9f,
     0xff7b1fa2};
 
-QString hexText(const QColor& colour) { return colour.name().mid(1).toUpper(); }
+QString hexText(const QColor& color) { return color.name().mid(1).toUpper(); }
 
 class Swatch : public QAbstractButton
 {
 public:
-    Swatch(const QColor& colour, QWidget* parent)
+    Swatch(const QColor& color, QWidget* parent)
         : QAbstractButton(parent)
-        , m_colour(colour)
+        , m_color(color)
     {
-        setAccessibleName(hexText(colour));
-        setToolTip(hexText(colour));
+        setAccessibleName(hexText(color));
+        setToolTip(hexText(color));
         setFocusPolicy(Qt::StrongFocus);
     }
 
     [[nodiscard]] QSize sizeHint() const override { return {24, 20}; }
-    [[nodiscard]] const QColor& colour() const { return m_colour; }
+    [[nodiscard]] const QColor& color() const { return m_color; }
 
 protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
-        const QColor line = hasFocus() ? colours().accent : colours().border;
-        paintFieldFrame(painter, rect(), {.fill = m_colour, .line = line, .focused = hasFocus()});
+        const QColor line = hasFocus() ? colors().accent : colors().border;
+        paintFieldFrame(painter, rect(), {.fill = m_color, .line = line, .focused = hasFocus()});
     }
 
 private:
-    QColor m_colour;
+    QColor m_color;
 };
 
 } // namespace
 
-ColourPanel::ColourPanel(const QColor& colour, QWidget* parent)
+ColorPanel::ColorPanel(const QColor& color, QWidget* parent)
     : QFrame(parent, Qt::Popup)
     , m_plane(new HuePlane(this))
     , m_hex(new UnitField(QString(), this))
@@ -85,14 +85,14 @@ ColourPanel::ColourPanel(const QColor& colour, QWidget* parent)
     column->setSpacing(10);
     column->addWidget(m_plane);
     column->addWidget(hexRow());
-    column->addWidget(readyColours());
-    m_plane->setColour(colour);
-    m_hex->setText(hexText(colour));
-    connect(m_plane, &HuePlane::picked, this, &ColourPanel::takeFromPlane);
-    connect(m_hex, &QLineEdit::textEdited, this, &ColourPanel::takeFromHex);
+    column->addWidget(readyColors());
+    m_plane->setColor(color);
+    m_hex->setText(hexText(color));
+    connect(m_plane, &HuePlane::picked, this, &ColorPanel::takeFromPlane);
+    connect(m_hex, &QLineEdit::textEdited, this, &ColorPanel::takeFromHex);
 }
 
-QWidget* ColourPanel::hexRow()
+QWidget* ColorPanel::hexRow()
 {
     auto* row = new QWidget(this);
     auto* line = new QHBoxLayout(row);
@@ -108,7 +108,7 @@ QWidget* ColourPanel::hexRow()
     return row;
 }
 
-QWidget* ColourPanel::readyColours()
+QWidget* ColorPanel::readyColors()
 {
     auto* field = new QWidget(this);
     auto* grid = new QGridLayout(field);
@@ -118,15 +118,13 @@ QWidget* ColourPanel::readyColours()
     for (const QRgb rgb : ready) {
         auto* swatch = new Swatch(QColor(rgb), field);
         grid->addWidget(swatch, index / readyColumns, index % readyColumns);
-        connect(swatch, &QAbstractButton::clicked, this, [this, swatch] {
-            take(swatch->colour());
-        });
+        connect(swatch, &QAbstractButton::clicked, this, [this, swatch] { take(swatch->color()); });
         ++index;
     }
     return field;
 }
 
-void ColourPanel::showBelow(const QWidget& well)
+void ColorPanel::showBelow(const QWidget& well)
 {
     adjustSize();
     const QRect screen = well.screen()->availableGeometry();
@@ -141,25 +139,25 @@ void ColourPanel::showBelow(const QWidget& well)
     m_plane->setFocus();
 }
 
-void ColourPanel::takeFromPlane(const QColor& colour)
+void ColorPanel::takeFromPlane(const QColor& color)
 {
-    m_hex->setText(hexText(colour));
-    Q_EMIT chosen(colour);
+    m_hex->setText(hexText(color));
+    Q_EMIT chosen(color);
 }
 
-void ColourPanel::takeFromHex()
+void ColorPanel::takeFromHex()
 {
     if (m_hex->text().size() != 6)
         return;
-    const QColor colour(QLatin1Char('#') + m_hex->text());
-    m_plane->setColour(colour);
-    Q_EMIT chosen(colour);
+    const QColor color(QLatin1Char('#') + m_hex->text());
+    m_plane->setColor(color);
+    Q_EMIT chosen(color);
 }
 
-void ColourPanel::take(const QColor& colour)
+void ColorPanel::take(const QColor& color)
 {
-    m_plane->setColour(colour);
-    takeFromPlane(colour);
+    m_plane->setColor(color);
+    takeFromPlane(color);
 }
 
 } // namespace brenvaldo::views

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "colour_well.h"
+#include "color_well.h"
 
-#include "colour_panel.h"
+#include "color_panel.h"
 
 #include <views/look/style_painting.h>
 #include <views/look/theme.h>
@@ -10,37 +10,37 @@
 
 namespace brenvaldo::views {
 
-ColourWell::ColourWell(QWidget* parent)
+ColorWell::ColorWell(QWidget* parent)
     : QAbstractButton(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    connect(this, &QAbstractButton::clicked, this, &ColourWell::openPanel);
+    connect(this, &QAbstractButton::clicked, this, &ColorWell::openPanel);
 }
 
-void ColourWell::setColour(const QColor& colour)
+void ColorWell::setColor(const QColor& color)
 {
-    m_colour = colour;
+    m_color = color;
     update();
 }
 
-QSize ColourWell::sizeHint() const { return {46, Metrics::fieldHeight}; }
+QSize ColorWell::sizeHint() const { return {46, Metrics::fieldHeight}; }
 
-void ColourWell::openPanel()
+void ColorWell::openPanel()
 {
-    auto* panel = new ColourPanel(m_colour, this);
-    connect(panel, &ColourPanel::chosen, this, &ColourWell::choose);
+    auto* panel = new ColorPanel(m_color, this);
+    connect(panel, &ColorPanel::chosen, this, &ColorWell::choose);
     panel->showBelow(*this);
 }
 
-void ColourWell::choose(const QColor& colour)
+void ColorWell::choose(const QColor& color)
 {
-    setColour(colour);
-    Q_EMIT chosen(colour);
+    setColor(color);
+    Q_EMIT chosen(color);
 }
 
-void ColourWell::paintEvent(QPaintEvent*)
+void ColorWell::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     QStyle::State state = isEnabled() ? QStyle::State_Enabled : QStyle::State_None;
@@ -48,12 +48,12 @@ void ColourWell::paintEvent(QPaintEvent*)
         state |= QStyle::State_HasFocus;
     FieldFrame frame = fieldFrame(state);
     if (isEnabled() && underMouse() && !frame.focused)
-        frame.line = colours().muted;
+        frame.line = colors().muted;
     paintFieldFrame(painter, rect(), frame);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setOpacity(isEnabled() ? 1 : 0.35);
     painter.setPen(QPen(QColor(0, 0, 0, 40), 1));
-    painter.setBrush(m_colour);
+    painter.setBrush(m_color);
     painter.drawRoundedRect(QRectF(rect()).adjusted(4.5, 4.5, -4.5, -4.5), 3, 3);
 }
 
