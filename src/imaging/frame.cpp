@@ -25,7 +25,7 @@ namespace {
 ShapePaint paintOf(const FrameSettings& settings, double opacity, const ShapePaint::Fade& fade)
 {
     ShapePaint paint
-        = {.color = DVColorConversions::NSColorToCGColor(settings.colour),
+        = {.color = DVColorConversions::NSColorToCGColor(settings.color),
            .opacity = opacity,
            .blend = frameBlendAt(settings.blendIndex)};
     if (settings.gradientState == 1)

@@ -29,12 +29,12 @@ Image groundOf(const Image& photo, int duoToneState)
 Paint paintOf(const TintSettings& settings, const TintArea& area, int photoHeight)
 {
     if (settings.gradientState != 1)
-        return settings.colour;
+        return settings.color;
     const auto fromTop
         = [photoHeight](QPointF point) { return QPointF(point.x(), photoHeight - point.y()); };
     const FadeLine line = fadeLine(area, settings.angleIndex);
     return LinearGradient{
-        .fade = {.from = settings.colour, .to = platform::drawing::clearColor},
+        .fade = {.from = settings.color, .to = platform::drawing::clearColor},
         .start = fromTop(line.start),
         .end = fromTop(line.end)};
 }

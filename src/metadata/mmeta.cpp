@@ -39,7 +39,7 @@ QString keptText(const PropertyDictionary* dictionary, QLatin1StringView key)
     return dictionary ? dictionary->text(key).value_or(QString()) : QString();
 }
 
-/// True for a text that is split at each blank into one piece more than it has units.
+/// True for a text of blanks alone: split at each, it gives one piece more than it has units.
 bool isOfBlanksOnly(const QString& text)
 {
     return platform::componentsSeparatedBy(text, u" "_s).size() == text.size() + 1;

@@ -18,7 +18,7 @@ namespace brenvaldo::presets {
 
 namespace {
 
-/// Takes a connection that nobody closes. It holds no lock and ends with the process.
+/// Keeps a connection open until the process ends. It holds no lock.
 void keepOpen(std::optional<Connection> connection)
 {
     static std::vector<Connection> open;

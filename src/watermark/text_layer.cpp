@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text_layer.h"
 
+#include "transparent_image.h"
+
 #include <imaging/rotate_rules.h>
 
 #include <QPainter>
@@ -15,13 +17,6 @@ constexpr double longestSide = 1 << 24;
 platform::graphics::PixelSize uprightSizeOf(const platform::drawing::AttributedText& text)
 {
     return imaging::canvasOfPoints(text.size().boundedTo(QSizeF(longestSide, longestSide)));
-}
-
-QImage transparent(const QSize& size)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    return image;
 }
 
 void prepare(QPainter& painter)
@@ -61,7 +56,7 @@ QRect TextLayer::neededBefore(const QRect& region) const
 
 QImage TextLayer::rendered(const Ink& ink, const QRect& region) const
 {
-    QImage layer = transparent(region.size());
+    QImage layer = transparentImage(region.size());
     if (layer.isNull() || !m_uprightSize.isValid())
         return layer;
     QBrush fill = ink.fill;
@@ -89,7 +84,7 @@ void TextLayer::drawShadow(
 ) const
 {
     const QRect casting = platform::drawing::castingInto(part, shadow).intersected(uprightRect());
-    QImage object = transparent(casting.size());
+    QImage object = transparentImage(casting.size());
     if (object.isNull())
         return;
     QPainter objectPainter(&object);

@@ -3,6 +3,7 @@
 
 #include "text_overlay.h"
 #include "tile_geometry.h"
+#include "transparent_image.h"
 
 #include <QPainter>
 
@@ -23,13 +24,6 @@ constexpr qint64 largestRepeatedCell = 16'000'000;
 /// Sides beyond this many pixels are more than the painter's coordinates bear.
 constexpr int longestDrawnSide = 30'000;
 
-QImage transparent(const QSize& size)
-{
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    return image;
-}
-
 QRect rectOf(PixelSize size) { return {0, 0, size.width, size.height}; }
 
 /// The shadow that the finished layer casts when it is drawn on the photo.
@@ -47,7 +41,7 @@ bool isRepeated(PixelSize cell)
 /// `layer` at the strength of the drawing fraction.
 QImage faded(const QImage& layer, double fraction)
 {
-    QImage image = transparent(layer.size());
+    QImage image = transparentImage(layer.size());
     if (image.isNull())
         return image;
     QPainter painter(&image);
@@ -99,7 +93,7 @@ TileCell cellOf(const TextWatermarkSettings& settings, const TextOverlay& overla
 QImage
 drawnCell(const TextWatermarkSettings& settings, const TextOverlay& overlay, const TileCell& cell)
 {
-    QImage image = transparent({cell.size.width, cell.size.height});
+    QImage image = transparentImage({cell.size.width, cell.size.height});
     QPainter painter(&image);
     painter.setOpacity(settings.opacity);
     painter.drawImage(
@@ -112,7 +106,7 @@ drawnCell(const TextWatermarkSettings& settings, const TextOverlay& overlay, con
 QImage
 cellsOnPhoto(const TextOverlay& overlay, const TileCell& cell, QPoint corner, const QRect& area)
 {
-    QImage image = transparent(area.size());
+    QImage image = transparentImage(area.size());
     if (image.isNull())
         return image;
     QPainter painter(&image);
@@ -136,7 +130,7 @@ cellsOnPhoto(const TextOverlay& overlay, const TileCell& cell, QPoint corner, co
 /// A part of `cell` repeated without end, one of which stands at `topLeft` of the part.
 QImage repeated(const QImage& cell, QPoint topLeft, const QSize& part)
 {
-    QImage image = transparent(part);
+    QImage image = transparentImage(part);
     if (image.isNull())
         return image;
     QPainter painter(&image);

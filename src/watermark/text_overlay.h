@@ -16,7 +16,7 @@ namespace brenvaldo::watermark {
 class TextOverlay
 {
 public:
-    /// `photo` fills the glyphs of some effects; it must then bear being evaluated more than once.
+    /// `photo` fills the glyphs of some effects; it is then read more than once.
     TextOverlay(
         const TextWatermarkSettings& settings,
         const QString& text,

@@ -11,7 +11,7 @@ namespace {
 
 int orDefault(int value, int fallback) { return value == 0 ? fallback : value; }
 
-/// Larger offsets count as the largest that a layer can be moved by and still touch a photo.
+/// Offsets are limited: beyond this no layer touches a photo.
 int offsetOf(const controls::TextField& field)
 {
     constexpr int farthest = 1 << 24;

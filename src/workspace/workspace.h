@@ -66,7 +66,7 @@ public:
     /// views are empty.
     [[nodiscard]] std::optional<platform::graphics::Image> composedPreview() const;
 
-    /// What a press of the process button is good for as the program stands.
+    /// What a press of the process button would do now.
     [[nodiscard]] RunOffer runOffer() const;
 
     /// Paths of the photos that a press would take.

@@ -26,7 +26,7 @@ class AddTint : public testing::Test
 protected:
     PhotoBuilder photo = PhotoBuilder().size(100, 80).solid({255, 255, 255});
     TintSettings settings
-        = {.colour = {.red = 1, .green = 0, .blue = 0},
+        = {.color = {.red = 1, .green = 0, .blue = 0},
            .sizeMode = u"W x H"_s,
            .originalSizeState = 1};
     DVImageHandling handling;
@@ -72,7 +72,7 @@ TEST_F(AddTint, FollowsTheOpacity)
 TEST_F(AddTint, FollowsTheBlendMode)
 {
     photo.solid({200, 100, 50});
-    settings.colour = {.red = 30 / 255., .green = 160 / 255., .blue = 220 / 255.};
+    settings.color = {.red = 30 / 255., .green = 160 / 255., .blue = 220 / 255.};
     const auto blended = [this](int index) {
         settings.blendIndex = index;
         return tinted().pixelColor(50, 40);
@@ -129,7 +129,7 @@ TEST_F(AddTint, FadesOutFromTheBottom)
 TEST_F(AddTint, FadesOutInsideOfItsArea)
 {
     settings
-        = {.colour = settings.colour,
+        = {.color = settings.color,
            .anchor = 8,
            .yOffset = 10,
            .sizeMode = u"W x H"_s,
@@ -206,7 +206,7 @@ TEST_F(AddTint, WorksOnStoredPixels)
 TEST_F(AddTint, KeepsTheOriginOfThePhotoBeforeForAnAnchorThatIsNone)
 {
     settings = {
-        .colour = settings.colour, .anchor = 8, .sizeMode = u"W x H"_s, .width = 30, .height = 20};
+        .color = settings.color, .anchor = 8, .sizeMode = u"W x H"_s, .width = 30, .height = 20};
     tinted();
     settings.anchor = 9;
 

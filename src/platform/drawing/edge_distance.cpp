@@ -9,7 +9,7 @@ namespace brenvaldo::platform::drawing {
 namespace {
 
 constexpr float half = 0.5F;
-constexpr float fullCover = 0.999F;
+constexpr float fullyCovered = 0.999F;
 
 std::size_t indexOf(const Coverage& part, int x, int y)
 {
@@ -46,7 +46,7 @@ std::vector<bool> EdgeDistance::anchorsOf(int y) const
                 || above[x] < half || below == nullptr || below[x] < half;
         };
         anchors[static_cast<std::size_t>(x)]
-            = row[x] < half || (row[x] < fullCover && isBesideOutside());
+            = row[x] < half || (row[x] < fullyCovered && isBesideOutside());
     }
     return anchors;
 }

@@ -53,8 +53,7 @@ struct Stamp
 [[nodiscard]] graphics::Image stamped(const graphics::Image& photo, const Stamp& stamp);
 
 /// The same with a stamp that `makeStamp` makes: once, and not before the first pixel or
-/// `stampedPart` is asked for, on the thread that asks. `photo` must bear being evaluated more than
-/// once.
+/// `stampedPart` is asked for, on the thread that asks. `photo` may be read more than once.
 [[nodiscard]] graphics::Image
 stamped(const graphics::Image& photo, std::function<Stamp()> makeStamp);
 

@@ -15,7 +15,6 @@ using containers::TiffField;
 
 namespace {
 
-constexpr std::uint64_t headerLength = 8;
 constexpr std::uint64_t longestGap = 32768;
 
 /// First and last tag of each group.
@@ -97,7 +96,7 @@ TiffField* longMakerNote(TiffDirectory& exif)
 /// Where the directories and the maker note come to stand.
 struct Plan
 {
-    std::uint64_t image = headerLength;
+    std::uint64_t image = containers::tiffHeaderLength;
     std::uint64_t gps = 0;
     std::uint64_t interoperability = 0;
     std::uint64_t exif = 0;
@@ -124,9 +123,10 @@ Plan planFrom(std::uint64_t start, const ExifDirectories& parts)
 /// behind it; an offset out of reach is given up.
 Plan planFor(const ExifDirectories& parts, const TiffField* makerNote)
 {
-    Plan plan = planFrom(headerLength, parts);
+    Plan plan = planFrom(containers::tiffHeaderLength, parts);
     const std::uint64_t wanted = makerNote ? makerNote->valueOffset : 0;
-    const bool isInReach = wanted >= headerLength && wanted <= plan.end + longestGap;
+    const bool isInReach
+        = wanted >= containers::tiffHeaderLength && wanted <= plan.end + longestGap;
     if (!makerNote || !isInReach)
         return plan;
     if (wanted < plan.end) {

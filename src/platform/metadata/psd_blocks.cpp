@@ -11,7 +11,7 @@ using containers::PhotoshopResourceId;
 
 namespace {
 
-constexpr std::uint64_t headerLength = 26;
+constexpr std::uint64_t psdHeaderLength = 26;
 
 bool standsInBlockOfItsOwn(const containers::PhotoshopResource& resource)
 {
@@ -26,10 +26,10 @@ containers::MetadataBlocks readPsdBlocks(QByteArrayView file)
 {
     containers::MetadataBlocks blocks;
     const auto colorLength
-        = containers::unsignedAt(file, headerLength, 4, containers::ByteOrder::Big);
+        = containers::unsignedAt(file, psdHeaderLength, 4, containers::ByteOrder::Big);
     if (!colorLength)
         return blocks;
-    const std::uint64_t offset = headerLength + 4 + *colorLength;
+    const std::uint64_t offset = psdHeaderLength + 4 + *colorLength;
     const auto length = containers::unsignedAt(file, offset, 4, containers::ByteOrder::Big);
     const auto resources = containers::sliceOf(file, offset + 4, length.value_or(0));
     if (!resources)

@@ -20,7 +20,6 @@ using containers::TiffFile;
 
 namespace {
 
-constexpr std::uint64_t headerLength = 8;
 constexpr std::uint64_t alignment = 16;
 
 std::uint64_t roundedUp(std::uint64_t value, std::uint64_t unit)
@@ -107,7 +106,7 @@ splicedTiff(QByteArrayView encoded, const containers::MetadataBlocks& blocks)
     // The file: header, EXIF block less its header, encoded file less its header, directory.
     const auto exifLength = static_cast<std::uint64_t>(exif.size());
     const std::uint64_t shift
-        = exif.isEmpty() ? 0 : roundedUp(exifLength - headerLength, alignment);
+        = exif.isEmpty() ? 0 : roundedUp(exifLength - containers::tiffHeaderLength, alignment);
     const std::uint64_t end = static_cast<std::uint64_t>(encoded.size()) + shift;
     const std::uint64_t directoryOffset = roundedUp(end, 2);
 
@@ -126,10 +125,11 @@ splicedTiff(QByteArrayView encoded, const containers::MetadataBlocks& blocks)
     if (end + static_cast<std::uint64_t>(tail.size()) > std::numeric_limits<std::uint32_t>::max())
         return std::nullopt;
 
-    QByteArray head = containers::tiffHeader(order, directoryOffset) + exif.mid(headerLength);
-    head.resize(static_cast<qsizetype>(headerLength + shift), '\0');
+    QByteArray head
+        = containers::tiffHeader(order, directoryOffset) + exif.mid(containers::tiffHeaderLength);
+    head.resize(static_cast<qsizetype>(containers::tiffHeaderLength + shift), '\0');
     return QByteArrayList{
-        head, containers::viewed(containers::tailOf(encoded, headerLength)), tail};
+        head, containers::viewed(containers::tailOf(encoded, containers::tiffHeaderLength)), tail};
 }
 
 } // namespace brenvaldo::platform::metadata

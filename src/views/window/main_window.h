@@ -22,8 +22,8 @@ class PhotoGrid;
 
 /// The main window: preview, photo list and inspector over one workspace.
 ///
-/// A drop on its body succeeds to the eye and adds nothing; files get into the list through the
-/// grid. Closing it ends the program's work.
+/// A drop on its body is accepted but adds nothing; files get into the list through the grid.
+/// Closing it ends the program's work.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT

@@ -6,7 +6,7 @@ class ActionRegistry;
 }
 
 /// \file
-/// What the process button is good for.
+/// What the process button would do.
 
 namespace brenvaldo::workspace {
 
