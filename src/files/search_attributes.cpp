@@ -114,32 +114,34 @@ Value kindOf(const QString& path)
 
 Value typeOf(const QString& path) { return cNSFileHandling::hGetFileType(path); }
 
-struct Row
+struct FileAttribute
 {
     QLatin1StringView name;
     Value (*read)(const QString& path);
 };
 
 /// Attributes that other platforms keep and no file here has, such as type codes, have no row.
-constexpr std::array rows{
-    Row{QLatin1StringView("ContentCreationDate"), contentCreationDate},
-    Row{QLatin1StringView("ContentModificationDate"), modificationDate},
-    Row{QLatin1StringView("ContentType"), typeOf},
-    Row{QLatin1StringView("DisplayName"), name},
-    Row{QLatin1StringView("FSContentChangeDate"), modificationDate},
-    Row{QLatin1StringView("FSCreationDate"), creationDate},
-    Row{QLatin1StringView("FSFinderFlags"), zero},
-    Row{QLatin1StringView("FSInvisible"), isHidden},
-    Row{QLatin1StringView("FSIsExtensionHidden"), zero},
-    Row{QLatin1StringView("FSLabel"), label},
-    Row{QLatin1StringView("FSName"), name},
-    Row{QLatin1StringView("FSNodeCount"), entryCount},
-    Row{QLatin1StringView("FSOwnerGroupID"),
+constexpr std::array fileAttributes{
+    FileAttribute{QLatin1StringView("ContentCreationDate"), contentCreationDate},
+    FileAttribute{QLatin1StringView("ContentModificationDate"), modificationDate},
+    FileAttribute{QLatin1StringView("ContentType"), typeOf},
+    FileAttribute{QLatin1StringView("DisplayName"), name},
+    FileAttribute{QLatin1StringView("FSContentChangeDate"), modificationDate},
+    FileAttribute{QLatin1StringView("FSCreationDate"), creationDate},
+    FileAttribute{QLatin1StringView("FSFinderFlags"), zero},
+    FileAttribute{QLatin1StringView("FSInvisible"), isHidden},
+    FileAttribute{QLatin1StringView("FSIsExtensionHidden"), zero},
+    FileAttribute{QLatin1StringView("FSLabel"), label},
+    FileAttribute{QLatin1StringView("FSName"), name},
+    FileAttribute{QLatin1StringView("FSNodeCount"), entryCount},
+    FileAttribute{
+        QLatin1StringView("FSOwnerGroupID"),
         [](const QString& path) -> Value { return qint64{QFileInfo(path).groupId()}; }},
-    Row{QLatin1StringView("FSOwnerUserID"),
+    FileAttribute{
+        QLatin1StringView("FSOwnerUserID"),
         [](const QString& path) -> Value { return qint64{QFileInfo(path).ownerId()}; }},
-    Row{QLatin1StringView("FSSize"), size},
-    Row{QLatin1StringView("Kind"), kindOf},
+    FileAttribute{QLatin1StringView("FSSize"), size},
+    FileAttribute{QLatin1StringView("Kind"), kindOf},
 };
 
 } // namespace
@@ -148,10 +150,12 @@ std::optional<QString> searchAttribute(const QString& path, const QString& name)
 {
     if (!platform::storage::fileExists(path))
         return std::nullopt;
-    const auto row = std::find_if(rows.begin(), rows.end(), [&](const Row& candidate) {
-        return name == candidate.name;
-    });
-    const Value value = row == rows.end() ? photoAttribute(path, name) : row->read(path);
+    const auto row = std::find_if(
+        fileAttributes.begin(),
+        fileAttributes.end(),
+        [&](const FileAttribute& candidate) { return name == candidate.name; }
+    );
+    const Value value = row == fileAttributes.end() ? photoAttribute(path, name) : row->read(path);
     return value ? std::optional(value->text()) : std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "unit_rules.h"
 
+#include <platform/foundation/inches.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
@@ -12,7 +13,6 @@ using platform::truncated;
 
 namespace {
 
-constexpr double millimetresPerInch = 25.4;
 constexpr double millimetresPerPica = 4.2175176;
 constexpr double millimetresPerPoint = 0.3527777777778;
 
@@ -21,7 +21,7 @@ constexpr double millimetresPerPoint = 0.3527777777778;
 double pixelsOfMillimetres(float millimetres, float dotsPerInch)
 {
     const float product = millimetres * dotsPerInch;
-    return product / millimetresPerInch;
+    return product / platform::millimetresPerInch;
 }
 
 float millimetres(float value, double millimetresPerUnit)
@@ -40,7 +40,7 @@ std::int32_t pixelsOf(float value, const QString& unit, float dotsPerInch)
     if (unit == u"cm"_s)
         return truncated(pixelsOfMillimetres(value * 10.0F, dotsPerInch));
     if (unit == u"inch"_s) {
-        const float length = millimetres(value, millimetresPerInch);
+        const float length = millimetres(value, platform::millimetresPerInch);
         return truncated(pixelsOfMillimetres(length, dotsPerInch));
     }
     if (unit == u"pica"_s) {

@@ -59,16 +59,16 @@ constexpr WriterTraits traitsOf(Writer writer)
     using Heic = WriterTraits::Heic;
     using Extension = WriterTraits::Extension;
     using Log = WriterTraits::Log;
-    using Quality = WriterRule::Quality;
+    using Compression = WriterRule::Quality;
     switch (writer) {
     case Writer::Batch:
-        return {Heic::Whole, Extension::Added, Quality::FromLevel, Log::ByRow};
+        return {Heic::Whole, Extension::Added, Compression::FromLevel, Log::ByRow};
     case Writer::Watermark:
-        return {Heic::Never, Extension::Added, Quality::FromLevel, Log::ByRow};
+        return {Heic::Never, Extension::Added, Compression::FromLevel, Log::ByRow};
     case Writer::WholePath:
         break;
     }
-    return {Heic::BySuffix, Extension::AsGiven, Quality::PlatformDefault, Log::HeicAlone};
+    return {Heic::BySuffix, Extension::AsGiven, Compression::PlatformDefault, Log::HeicAlone};
 }
 
 bool matches(const TypeRow& row, const WriterTraits& traits, const QString& typeIdentifier)

@@ -4,6 +4,7 @@
 
 #include <platform/containers/bytes.h>
 #include <platform/containers/mapped_file.h>
+#include <platform/foundation/inches.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/regular_file.h>
 #include <platform/graphics/color_profile.h>
@@ -21,8 +22,6 @@
 namespace brenvaldo::platform::codecs {
 
 namespace {
-
-constexpr double metresPerInch = 0.0254;
 
 /// The fields of a bitmap file header that the reader behind it doesn't tell.
 struct BitmapFacts

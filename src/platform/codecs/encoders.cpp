@@ -5,6 +5,7 @@
 #include "memory_check.h"
 #include "png_header.h"
 
+#include <platform/foundation/inches.h>
 #include <platform/graphics/color_profile.h>
 #include <platform/graphics/sample_conversion.h>
 
@@ -13,8 +14,6 @@ namespace brenvaldo::platform::codecs {
 using graphics::ImageNode;
 
 namespace {
-
-constexpr double millimetresPerInch = 25.4;
 
 /// The pixels with the resolution where the engine's encoders look for it.
 vips::VImage withResolution(const ImageNode& node)

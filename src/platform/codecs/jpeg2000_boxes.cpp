@@ -3,6 +3,7 @@
 
 #include <platform/containers/bytes.h>
 #include <platform/containers/iso_boxes.h>
+#include <platform/foundation/inches.h>
 
 #include <algorithm>
 #include <cmath>
@@ -19,7 +20,6 @@ namespace {
 
 constexpr qsizetype colorFieldsSize = 3; ///< in front of a profile: method, precedence, accuracy
 constexpr char restrictedProfile = 2;
-constexpr double metresPerInch = 0.0254;
 
 QByteArray bigEndian(std::uint64_t value, int width)
 {

@@ -3,6 +3,8 @@
 
 #include "tiff_numbers.h"
 
+#include <platform/foundation/inches.h>
+
 #include <cmath>
 
 namespace brenvaldo::platform::containers {
@@ -27,7 +29,6 @@ int orientationOf(const TiffDirectory& image, ByteOrder order)
 
 std::optional<double> dotsPerInch(const TiffDirectory& image, ByteOrder order)
 {
-    constexpr double centimetresPerInch = 2.54;
     const auto resolution = numberOf(image, tiff::HorizontalResolution, order);
     if (!resolution || *resolution <= 0)
         return std::nullopt;

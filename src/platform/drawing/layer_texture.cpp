@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "layer_texture.h"
 
+#include "floor_modulo.h"
+
 #include <platform/graphics/color_profile.h>
 #include <platform/graphics/qt_pixels.h>
 
@@ -13,8 +15,6 @@ namespace brenvaldo::platform::drawing {
 using graphics::ImageNode;
 
 namespace {
-
-int floorModulo(int value, int size) { return ((value % size) + size) % size; }
 
 bool hasColorsOf(const ImageNode& picture, const ImageNode& photo)
 {

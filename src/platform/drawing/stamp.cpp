@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "stamp.h"
 
+#include "floor_modulo.h"
 #include "stamp_layer.h"
 
 #include <platform/foundation/literals.h>
@@ -20,8 +21,6 @@ using graphics::ImageNode;
 using graphics::PixelRect;
 
 namespace {
-
-int floorModulo(int value, int size) { return ((value % size) + size) % size; }
 
 /// A layer at its place on a photo.
 template <class Sample>

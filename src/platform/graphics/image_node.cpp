@@ -4,6 +4,8 @@
 #include "color_profile.h"
 #include "deferred_pixels.h"
 
+#include <platform/foundation/inches.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -14,7 +16,6 @@ namespace brenvaldo::platform::graphics {
 
 namespace {
 
-constexpr double metresPerInch = 0.0254;
 constexpr double defaultDotsPerInch = 72;
 
 /// Profile of decoded pixels; empty without one.

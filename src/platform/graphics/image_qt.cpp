@@ -7,6 +7,7 @@
 #include "region_kernel.h"
 #include "sample_conversion.h"
 
+#include <platform/foundation/inches.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 
@@ -16,8 +17,6 @@
 namespace brenvaldo::platform::graphics {
 
 namespace {
-
-constexpr double metresPerInch = 0.0254;
 
 /// The pixels as 32-bit words in Qt's order, alpha premultiplied.
 vips::VImage asScreenWords(const vips::VImage& pixels, bool hasAlpha)

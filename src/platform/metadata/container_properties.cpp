@@ -8,6 +8,7 @@
 #include <platform/containers/png_chunks.h>
 #include <platform/containers/signatures.h>
 #include <platform/containers/tiff_directory.h>
+#include <platform/foundation/inches.h>
 #include <platform/foundation/literals.h>
 
 #include <algorithm>
@@ -22,9 +23,6 @@ using containers::PngChunk;
 using containers::unsignedAt;
 
 namespace {
-
-constexpr double centimetresPerInch = 2.54;
-constexpr double metresPerInch = 0.0254;
 
 QString keyOf(const char* key) { return QString::fromLatin1(key); }
 

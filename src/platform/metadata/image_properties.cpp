@@ -11,6 +11,7 @@
 
 #include <platform/codecs/image_source.h>
 #include <platform/containers/mapped_file.h>
+#include <platform/foundation/inches.h>
 #include <platform/foundation/literals.h>
 
 #include <array>
@@ -86,7 +87,6 @@ std::optional<double> exifResolution(const PropertyDictionary& tiff, QLatin1Stri
     constexpr double noUnit = 1;
     constexpr double inch = 2;
     constexpr double centimetre = 3;
-    constexpr double centimetresPerInch = 2.54;
     const PropertyValue* resolution = tiff.value(key);
     const PropertyValue* unit = tiff.value(QLatin1StringView("ResolutionUnit"));
     const double value = resolution ? resolution->number().value_or(0) : 0;

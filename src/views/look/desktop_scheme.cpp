@@ -16,15 +16,16 @@ namespace {
 
 constexpr uint preferDark = 1;
 
-const QString service = u"org.freedesktop.portal.Desktop"_s;
-const QString path = u"/org/freedesktop/portal/desktop"_s;
-const QString settings = u"org.freedesktop.portal.Settings"_s;
+const QString portalService = u"org.freedesktop.portal.Desktop"_s;
+const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
+const QString portalSettings = u"org.freedesktop.portal.Settings"_s;
 const QString appearance = u"org.freedesktop.appearance"_s;
 const QString colorScheme = u"color-scheme"_s;
 
 QDBusMessage readScheme()
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(service, path, settings, u"Read"_s);
+    QDBusMessage message
+        = QDBusMessage::createMethodCall(portalService, portalPath, portalSettings, u"Read"_s);
     message << appearance << colorScheme;
     return message;
 }
@@ -45,9 +46,9 @@ void DesktopScheme::follow()
     if (!bus.isConnected())
         return;
     bus.connect(
-        service,
-        path,
-        settings,
+        portalService,
+        portalPath,
+        portalSettings,
         u"SettingChanged"_s,
         this,
         SLOT(settingChanged(QString, QString, QDBusVariant))

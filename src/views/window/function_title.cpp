@@ -27,7 +27,7 @@ constexpr std::array edits{
 };
 
 /// The plain title of a function or an action; null for what has none.
-const char* titleOf(const QString& name)
+const char* plainTitle(const QString& name)
 {
     static const workspace::Functions functions(workspace::functions());
     if (const workspace::Function* row = functions.withId(name))
@@ -42,7 +42,7 @@ const char* titleOf(const QString& name)
 
 QString functionTitle(const QString& function)
 {
-    const char* title = titleOf(function);
+    const char* title = plainTitle(function);
     return title ? QCoreApplication::translate("FunctionTitle", title) : function;
 }
 

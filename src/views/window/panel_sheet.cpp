@@ -14,7 +14,7 @@ namespace {
 
 constexpr int sheetWidth = 460;
 
-QString titleOf(const QString& sheet)
+QString sheetTitle(const QString& sheet)
 {
     static const QHash<QString, const char*> titles{
         {u"wwPresetsWindow"_s, QT_TRANSLATE_NOOP("PanelSheet", "Presets")},
@@ -39,7 +39,7 @@ PanelSheet::PanelSheet(
     , m_actions(actions)
 {
     setObjectName(sheet.name());
-    setWindowTitle(titleOf(sheet.name()));
+    setWindowTitle(sheetTitle(sheet.name()));
     setAccessibleName(windowTitle());
     setWindowModality(Qt::WindowModal);
     setMinimumWidth(sheetWidth);
