@@ -53,7 +53,7 @@ int main(int argc, char** argv)
         return 0;
     instance.listen();
 
-    views::applyTheme(application);
+    views::applyTheme();
     platform::UserDefaults defaults;
     views::QtFileChooser chooser;
     views::QtDesktop desktop;

@@ -73,8 +73,8 @@ void drawWaves(QPainter& painter)
     constexpr double height = 14;
     for (const double middle : {half / 2, half * 1.5}) {
         QPolygonF wave;
-        for (double x = 0; x <= side; ++x)
-            wave.append({x, middle + height * std::sin(2 * std::numbers::pi * x / side)});
+        for (int x = 0; x <= static_cast<int>(side); ++x)
+            wave.append(QPointF(x, middle + height * std::sin(2 * std::numbers::pi * x / side)));
         painter.drawPolyline(wave);
     }
 }

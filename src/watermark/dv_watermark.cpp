@@ -54,7 +54,8 @@ QString DVWatermark::setWatermarkText(const WatermarkRun& run, imaging::PictureS
     if (run.photos.isEmpty())
         return ioFailure();
     const auto photos = static_cast<int>(run.photos.size());
-    m_step = static_cast<int>(controls::watermarkBar.maximum) / (photos * stagesPerPhoto);
+    const int step = static_cast<int>(controls::watermarkBar.maximum) / (photos * stagesPerPhoto);
+    m_step = step;
     const controls::RunningProgress shown(m_surroundings.bar, controls::watermarkBar);
     for (const QString& path : run.photos) {
         if (shown.isAskedToEnd())

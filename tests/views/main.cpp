@@ -13,7 +13,7 @@ int main(int argc, char** argv)
     const brenvaldo::test::Surroundings surroundings;
     const brenvaldo::platform::graphics::Engine engine;
     QApplication application(argc, argv);
-    brenvaldo::views::applyTheme(application);
+    brenvaldo::views::applyTheme();
     testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -134,7 +134,7 @@ PsdFile readPsdFile(QByteArrayView bytes)
     const QByteArrayView layers = sections.next(file.isLarge ? 8 : 4);
     const QByteArrayView picture = sections.rest();
 
-    constexpr std::uint64_t paletteLength = 3 * 256;
+    constexpr std::uint64_t paletteLength = 768; // 256 reds, greens and blues
     if (file.mode == PsdMode::Indexed) {
         const auto palette = containers::sliceOf(colorData, 0, paletteLength);
         if (!palette)

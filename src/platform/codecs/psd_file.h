@@ -39,7 +39,7 @@ struct PsdFile
 };
 
 /// @throws vips::VError when the file is damaged or holds no merged picture of a known kind.
-[[nodiscard]] PsdFile readPsdFile(QByteArrayView file);
+[[nodiscard]] PsdFile readPsdFile(QByteArrayView bytes);
 
 /// Channels that hold the colours of `mode`.
 [[nodiscard]] int psdColorChannels(PsdMode mode);

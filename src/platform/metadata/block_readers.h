@@ -17,7 +17,7 @@ namespace brenvaldo::platform::metadata {
 [[nodiscard]] containers::MetadataBlocks readPngBlocks(QByteArrayView file);
 /// TIFF and BigTIFF: the tags of the first directory that do not describe its pixels, with the
 /// directories of EXIF and GPS below it, as an EXIF block of their own.
-[[nodiscard]] containers::MetadataBlocks readTiffBlocks(QByteArrayView file);
+[[nodiscard]] containers::MetadataBlocks readTiffBlocks(QByteArrayView bytes);
 /// HEIC, HEIF and AVIF.
 [[nodiscard]] containers::MetadataBlocks readHeifBlocks(QByteArrayView file);
 [[nodiscard]] containers::MetadataBlocks readJpeg2000Blocks(QByteArrayView file);

@@ -43,7 +43,7 @@ std::optional<Item> itemOf(QByteArrayView info)
     if (version < 2 || version > 3)
         return std::nullopt;
     const int idWidth = version == 2 ? 2 : 4;
-    const auto typeOffset = static_cast<std::uint64_t>(4 + idWidth + 2);
+    const auto typeOffset = static_cast<std::uint64_t>(idWidth) + 6;
     const auto type = containers::sliceOf(info, typeOffset, 4);
     if (!type)
         return std::nullopt;
@@ -63,7 +63,7 @@ QList<Item> itemsOf(QByteArrayView information)
     const int countWidth = numberAt(information, 0, 1) == 0 ? 2 : 4;
     QList<Item> items;
     for (const IsoBox& box :
-         isoBoxes(tailOf(information, static_cast<std::uint64_t>(4 + countWidth)))) {
+         isoBoxes(tailOf(information, static_cast<std::uint64_t>(countWidth) + 4))) {
         if (box.type != QByteArrayView("infe"))
             continue;
         if (const auto item = itemOf(box.payload))

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int indentWidth = 4;
 
-QString indent(int level) { return QString(level * indentWidth, QLatin1Char(' ')); }
+QString indent(int level) { return QString(qsizetype{level} * indentWidth, QLatin1Char(' ')); }
 
 bool isPlain(QChar unit)
 {

@@ -70,7 +70,6 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     case PM_SplitterWidth:
         return 5;
     case PM_DefaultFrameWidth:
-        return 1;
     case PM_MenuPanelWidth:
         return 1;
     case PM_MenuVMargin:

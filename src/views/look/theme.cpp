@@ -121,10 +121,10 @@ QFont headingFont(const QFont& base)
     return font;
 }
 
-void applyTheme(QApplication& application)
+void applyTheme()
 {
     QApplication::setStyle(new Style);
-    application.setFont(windowFont());
+    QApplication::setFont(windowFont());
 }
 
 } // namespace brenvaldo::views

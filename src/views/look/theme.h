@@ -5,7 +5,6 @@
 #include <QFont>
 #include <QPalette>
 
-class QApplication;
 
 /// \file
 /// The one place for colours, measures and type of the window.
@@ -69,6 +68,6 @@ struct Metrics
 [[nodiscard]] QFont headingFont(const QFont& base);
 
 /// Gives the application our style and typeface; colours then follow the desktop while running.
-void applyTheme(QApplication& application);
+void applyTheme();
 
 } // namespace brenvaldo::views

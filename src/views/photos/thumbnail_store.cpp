@@ -101,7 +101,7 @@ void ThumbnailStore::startNext()
 
 void ThumbnailStore::make(const workspace::ListPicture& wanted, const FileState& known)
 {
-    const QString path = wanted.path;
+    const QString& path = wanted.path;
     const auto tell = [this, path](const Entry& entry) {
         QMetaObject::invokeMethod(this, [this, path, entry] { take(path, entry); });
     };

@@ -38,7 +38,7 @@ private:
     [[nodiscard]] QWidget* settings();
     [[nodiscard]] QWidget* output();
     [[nodiscard]] QWidget* laterNotice();
-    void addProcessButton(QVBoxLayout& column);
+    void addProcessButton(QVBoxLayout& rows);
     void followRun();
     void showRun();
     [[nodiscard]] QWidget* holder(controls::Holder& holder, FormBuilder::Density density);

@@ -59,6 +59,7 @@ void cCollectionViewController::addAll(
 )
 {
     const auto count = static_cast<int>(paths.size());
+    const int step = count > 0 ? 100 / count : 0;
     int running = 0;
     for (const QString& path : paths) {
         ++running;
@@ -67,7 +68,7 @@ void cCollectionViewController::addAll(
         m_photos.append(makeEntry(path));
         if (counter == Counter::ListCount)
             showCount();
-        bar.advance(100 / count);
+        bar.advance(step);
         if (bar.isAskedToEnd())
             return;
     }

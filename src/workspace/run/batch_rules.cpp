@@ -21,7 +21,11 @@ QString applyOnFilter(int index)
     }
 }
 
-double progressStep(qsizetype photos) { return static_cast<double>(1000 / photos); }
+double progressStep(qsizetype photos)
+{
+    const qsizetype step = 1000 / photos;
+    return static_cast<double>(step);
+}
 
 QString destinationBase(const QString& folder, const QString& outputName)
 {
