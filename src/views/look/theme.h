@@ -5,7 +5,6 @@
 #include <QFont>
 #include <QPalette>
 
-
 /// \file
 /// The one place for colours, measures and type of the window.
 
