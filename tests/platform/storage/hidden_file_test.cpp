@@ -20,7 +20,7 @@ using brenvaldo::test::TemporaryFolder;
 
 namespace {
 
-QStringList allEntries(const TemporaryFolder& folder)
+QStringList entriesOf(const TemporaryFolder& folder)
 {
     return QDir(folder.path())
         .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
@@ -36,20 +36,20 @@ TEST(RemoveAbandonedFiles, RemovesWhatNoProcessUses)
 
     removeAbandonedFiles(folder.path());
 
-    EXPECT_EQ(allEntries(folder), QStringList());
+    EXPECT_EQ(entriesOf(folder), QStringList());
 }
 
 TEST(RemoveAbandonedFiles, KeepsTheFilesOfLivingProcesses)
 {
     const TemporaryFolder folder;
     TemporaryFile file(folder.path(), TemporaryFile::Form::Hidden);
-    ASSERT_EQ(allEntries(folder).size(), 1);
+    ASSERT_EQ(entriesOf(folder).size(), 1);
 
     removeAbandonedFiles(folder.path());
 
-    ASSERT_EQ(allEntries(folder).size(), 1);
+    ASSERT_EQ(entriesOf(folder).size(), 1);
     EXPECT_TRUE(file.moveTo(folder.path(u"photo.jpg"_s)));
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
+    EXPECT_EQ(entriesOf(folder), QStringList{u"photo.jpg"_s});
 }
 
 TEST(RemoveAbandonedFiles, KeepsTheFileThatIsJustAboutToReplaceAnother)
@@ -68,7 +68,7 @@ TEST(RemoveAbandonedFiles, KeepsTheFileThatIsJustAboutToReplaceAnother)
 
     removeAbandonedFiles(folder.path());
 
-    EXPECT_TRUE(allEntries(folder).contains(u".brenvaldo-01234567"_s));
+    EXPECT_TRUE(entriesOf(folder).contains(u".brenvaldo-01234567"_s));
 }
 
 TEST(RemoveAbandonedFiles, KeepsWhatTheProgramDidNotMake)
@@ -80,12 +80,12 @@ TEST(RemoveAbandonedFiles, KeepsWhatTheProgramDidNotMake)
     static_cast<void>(folder.write(u".brenvaldo-notes.txt"_s, ""));
     static_cast<void>(folder.write(u".brenvaldo-000000004"_s, ""));
     static_cast<void>(folder.write(u"x.brenvaldo-00000005"_s, ""));
-    const QStringList before = allEntries(folder);
+    const QStringList before = entriesOf(folder);
     ASSERT_EQ(before.size(), 6);
 
     removeAbandonedFiles(folder.path());
 
-    EXPECT_EQ(allEntries(folder), before);
+    EXPECT_EQ(entriesOf(folder), before);
 }
 
 TEST(RemoveAbandonedFiles, KeepsTheFilesOfOtherUsers)
