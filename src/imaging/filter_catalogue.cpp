@@ -70,7 +70,7 @@ FilterImage filteredByNumber(const FilterImage& image, const FilterSettings& set
         return filtered(
             image,
             u"CIColorMonochrome"_s,
-            {{u"inputColor"_s, settings.colour},
+            {{u"inputColor"_s, settings.color},
              {u"inputIntensity"_s, wide(settings.monochromeIntensity)}}
         );
     case 16:
@@ -108,9 +108,9 @@ std::optional<Image> filteredPhoto(const Image& photo, const FilterSettings& set
     if (!isFilterNumber(settings.number))
         return std::nullopt;
     if (settings.number == firstCanvas)
-        return onSquareCanvas(photo, settings.colour);
+        return onSquareCanvas(photo, settings.color);
     if (settings.number == framedCanvas)
-        return onFramedSquareCanvas(photo, settings.colour);
+        return onFramedSquareCanvas(photo, settings.color);
     return platform::filters::filteredImage(photo, [&](const FilterImage& image) {
         return filteredByNumber(image, settings);
     });

@@ -39,7 +39,7 @@ FilterSettings readSettings(const panels::FilterPanel& panel)
         .number = panel.pubFilterSelection.indexOfSelectedItem(),
         .screen = screenSettings(panel.vwFiltersScreenView),
         .blurRadius = panel.vwFiltersGaussianView.tfFilterBlurRadiusVal.floatValue(),
-        .colour = panel.vwFiltersMonochromeView.cwFilterMonochromeColor.color(),
+        .color = panel.vwFiltersMonochromeView.cwFilterMonochromeColor.color(),
         .monochromeIntensity = titleOf(panel.vwFiltersMonochromeView.pubFilterMonochromeIntensity),
         .levels = panel.vwFiltersPosterizeView.tfFilterColorConvLevels.floatValue(),
         .sepiaIntensity = titleOf(panel.vwFiltersSepiaView.pubFilterColorConvIntensity),

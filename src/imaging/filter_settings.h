@@ -29,7 +29,7 @@ struct FilterSettings
     int number = 0;
     ScreenSettings screen = {};
     float blurRadius = 10;
-    platform::graphics::Color colour = {};
+    platform::graphics::Color color = {};
     float monochromeIntensity = 1;
     float levels = 6;
     float sepiaIntensity = 1;

@@ -15,7 +15,7 @@ FrameSettings readSettings(const panels::FramingPanel& panel)
         .blendIndex = panel.pubFramingRenderMethod.indexOfSelectedItem(),
         .gradientState = panel.cbFramingGradient.state(),
         .angleIndex = panel.pubFramingGradientAngle.indexOfSelectedItem(),
-        .colour = panel.myNSColorWellObjFraming.color().withAlpha(1)};
+        .color = panel.myNSColorWellObjFraming.color().withAlpha(1)};
 }
 
 } // namespace brenvaldo::imaging

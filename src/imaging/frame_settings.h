@@ -21,7 +21,7 @@ struct FrameSettings
     int blendIndex = 0; ///< of `pubFramingRenderMethod`
     int gradientState = 0;
     int angleIndex = 0; ///< of `pubFramingGradientAngle`
-    platform::graphics::Color colour = {};
+    platform::graphics::Color color = {};
 
     friend bool operator==(const FrameSettings&, const FrameSettings&) = default;
 };

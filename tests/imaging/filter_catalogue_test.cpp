@@ -56,7 +56,7 @@ FilterSettings unusualSettings(int number)
            .isInverted = false,
            .sharpness = 0.5F},
         .blurRadius = 3,
-        .colour = {.red = 0.2, .green = 0.6, .blue = 0.9},
+        .color = {.red = 0.2, .green = 0.6, .blue = 0.9},
         .monochromeIntensity = 0.7F,
         .levels = 4,
         .sepiaIntensity = 0.3F,

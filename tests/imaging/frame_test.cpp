@@ -80,14 +80,14 @@ protected:
 
 TEST_F(Frame, InsideCoversTheOutermostPixelsAndClosesAllCorners)
 {
-    const QImage picture = framed({.frameType = 0, .thickness = 10, .colour = red});
+    const QImage picture = framed({.frameType = 0, .thickness = 10, .color = red});
     EXPECT_EQ(picture.size(), QSize(100, 100));
     expectBand(picture, 0, 10);
 }
 
 TEST_F(Frame, InsideLeavesThePhotoOutsideOfItsInset)
 {
-    expectBand(framed({.frameType = 0, .thickness = 10, .inset = 20, .colour = red}), 20, 30);
+    expectBand(framed({.frameType = 0, .thickness = 10, .inset = 20, .color = red}), 20, 30);
 }
 
 TEST_F(Frame, OutsideGrowsTheCanvasAndLeavesThePhotoAsItIs)
@@ -97,7 +97,7 @@ TEST_F(Frame, OutsideGrowsTheCanvasAndLeavesThePhotoAsItIs)
                              .size(100, 100)
                              .gradient()
                              .write(folder.path(u"a.png"_s));
-    const FrameSettings settings{.frameType = 1, .thickness = 10, .inset = 33, .colour = red};
+    const FrameSettings settings{.frameType = 1, .thickness = 10, .inset = 33, .color = red};
     ASSERT_EQ(add(path, settings, 1), ResultWord::Ok);
     const QImage picture = storedPixels(folder.path(u"out/a.png"_s));
 
@@ -115,7 +115,7 @@ TEST_F(Frame, OutsideGrowsTheCanvasAndLeavesThePhotoAsItIs)
 
 TEST_F(Frame, OutsideIsTheSameWithAnyInset)
 {
-    const FrameSettings settings{.frameType = 1, .thickness = 10, .colour = red};
+    const FrameSettings settings{.frameType = 1, .thickness = 10, .color = red};
     FrameSettings inset = settings;
     inset.inset = 33;
     EXPECT_EQ(framed(settings), framed(inset));
@@ -124,7 +124,7 @@ TEST_F(Frame, OutsideIsTheSameWithAnyInset)
 TEST_F(Frame, OutsideShowsWhiteBehindATranslucentColour)
 {
     type = u"public.jpeg"_s;
-    ASSERT_EQ(add(photo(), {.frameType = 1, .thickness = 16, .colour = {}}, 0.5), ResultWord::Ok);
+    ASSERT_EQ(add(photo(), {.frameType = 1, .thickness = 16, .color = {}}, 0.5), ResultWord::Ok);
     const QColor margin = storedPixels(folder.path(u"out/a.jpg"_s)).pixelColor(4, 60);
     EXPECT_NEAR(margin.red(), 128, 2);
     EXPECT_NEAR(margin.green(), 128, 2);
@@ -135,17 +135,17 @@ TEST_F(Frame, IsBlendedAndTranslucent)
 {
     const QColor grey(128, 128, 128);
     const platform::graphics::Color half{.red = 0.5, .green = 0.5, .blue = 0.5};
-    FrameSettings settings{.thickness = 10, .blendIndex = 3, .colour = half};
+    FrameSettings settings{.thickness = 10, .blendIndex = 3, .color = half};
     EXPECT_EQ(framed(settings).pixelColor(1, 1), QColor(0, 0, 128));
     settings.blendIndex = 0;
     EXPECT_EQ(framed(settings).pixelColor(1, 1), grey);
-    EXPECT_EQ(framed({.thickness = 10, .colour = red}, 0.01).pixelColor(1, 1), QColor(3, 0, 252));
+    EXPECT_EQ(framed({.thickness = 10, .color = red}, 0.01).pixelColor(1, 1), QColor(3, 0, 252));
 }
 
 TEST_F(Frame, InsideFadesAlongARectangleThatLosesTheInsetOnce)
 {
     FrameSettings settings{
-        .thickness = 100, .inset = 20, .gradientState = 1, .angleIndex = 0, .colour = red};
+        .thickness = 100, .inset = 20, .gradientState = 1, .angleIndex = 0, .color = red};
     // The middle of the fade stands at 60, so it begins at 10 and ends at 110.
     const QImage right = framed(settings);
     EXPECT_NEAR(right.pixelColor(60, 50).blue(), 128, 2);
@@ -161,7 +161,7 @@ TEST_F(Frame, InsideFadesAlongARectangleThatLosesTheInsetOnce)
 TEST_F(Frame, OutsideFadesFromTheCornerOfTheCanvas)
 {
     const FrameSettings settings{
-        .frameType = 1, .thickness = 10, .gradientState = 1, .angleIndex = 0, .colour = {}};
+        .frameType = 1, .thickness = 10, .gradientState = 1, .angleIndex = 0, .color = {}};
     const QImage picture = framed(settings);
     EXPECT_NEAR(picture.pixelColor(50, 2).red(), 128, 3);
     EXPECT_NEAR(picture.pixelColor(0, 60).red(), 1, 2);
@@ -170,15 +170,15 @@ TEST_F(Frame, OutsideFadesFromTheCornerOfTheCanvas)
 
 TEST_F(Frame, WithoutThicknessIsNone)
 {
-    EXPECT_EQ(framed({.thickness = 0, .colour = red}), storedPixels(photo()));
-    EXPECT_EQ(framed({.frameType = 1, .thickness = 0, .colour = red}), storedPixels(photo()));
+    EXPECT_EQ(framed({.thickness = 0, .color = red}), storedPixels(photo()));
+    EXPECT_EQ(framed({.frameType = 1, .thickness = 0, .color = red}), storedPixels(photo()));
 }
 
 TEST_F(Frame, OfAnyMeasureIsDrawn)
 {
     for (const std::int64_t far : {std::int64_t{100'000}, INT64_MAX, INT64_MIN}) {
-        framed({.thickness = 10, .inset = far, .colour = red});
-        framed({.thickness = far, .inset = 5, .colour = red});
+        framed({.thickness = 10, .inset = far, .color = red});
+        framed({.thickness = far, .inset = 5, .color = red});
     }
 }
 
@@ -239,7 +239,7 @@ TEST_F(Frame, LooksTheSameInThePreviewAndInTheFile)
             .blendIndex = 4,
             .gradientState = 1,
             .angleIndex = 1,
-            .colour = red};
+            .color = red};
         const auto shown = DVImageHandling::hAddFramePreview(photo(), settings);
         ASSERT_TRUE(shown);
         EXPECT_EQ(shown->toQImage(), framed(settings, 0.6)) << frameType;
@@ -249,7 +249,7 @@ TEST_F(Frame, LooksTheSameInThePreviewAndInTheFile)
 TEST_F(Frame, IsStrongInThePreviewWithoutAnOpacity)
 {
     const auto shown = DVImageHandling::hAddFramePreview(
-        photo(), {.thickness = 10, .opacity = 0, .colour = red}
+        photo(), {.thickness = 10, .opacity = 0, .color = red}
     );
     ASSERT_TRUE(shown);
     EXPECT_EQ(shown->toQImage().pixelColor(1, 1), redPixel);
@@ -264,7 +264,7 @@ TEST_F(Frame, IsDrawnInsideOfAPictureInMemory)
                                                                 .write(folder.path(u"a.jpg"_s)));
     ASSERT_TRUE(image);
     const auto framed = DVImageHandling::peeAddBorderToImageInside(
-        *image, {.frameType = 1, .thickness = 10, .inset = 0, .opacity = 0, .colour = red}
+        *image, {.frameType = 1, .thickness = 10, .inset = 0, .opacity = 0, .color = red}
     );
     EXPECT_EQ(framed.dotsPerInch(), 72);
     EXPECT_EQ(framed.pixelSize(), (platform::graphics::PixelSize{100, 100}));

@@ -91,7 +91,7 @@ TEST(FrameSettings, AreReadFromTheirControls)
             .blendIndex = 4,
             .gradientState = 1,
             .angleIndex = 2,
-            .colour = {.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1}})
+            .color = {.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1}})
     );
 }
 
@@ -279,7 +279,7 @@ TEST(FilterSettings, AreReadFromTheirControls)
     EXPECT_FALSE(settings.screen.isInverted);
     EXPECT_EQ(settings.screen.sharpness, 0.3F);
     EXPECT_EQ(settings.blurRadius, 4.5F);
-    EXPECT_EQ(settings.colour, colour);
+    EXPECT_EQ(settings.color, colour);
     EXPECT_EQ(settings.monochromeIntensity, 0.4F);
     EXPECT_EQ(settings.levels, 9.0F);
     EXPECT_EQ(settings.sepiaIntensity, 0.6F);

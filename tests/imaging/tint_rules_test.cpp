@@ -21,7 +21,7 @@ constexpr PixelSize photo = {1000, 800};
 
 TintSettings percent(int mode, std::int64_t percentage)
 {
-    return {.colour = {}, .sizeMode = u"%"_s, .percentage = percentage, .percentageMode = mode};
+    return {.color = {}, .sizeMode = u"%"_s, .percentage = percentage, .percentageMode = mode};
 }
 
 void expectSize(const TintSettings& settings, int width, int height)
@@ -56,7 +56,7 @@ TEST(TintBlendMode, FollowsItsOwnTable)
 
 TEST(TintSize, IsThatOfTheFieldsAtMostThePhoto)
 {
-    TintSettings settings = {.colour = {}, .sizeMode = u"W x H"_s, .width = 300, .height = 200};
+    TintSettings settings = {.color = {}, .sizeMode = u"W x H"_s, .width = 300, .height = 200};
     expectSize(settings, 300, 200);
     settings.width = 5000;
     settings.height = 5000;
@@ -108,7 +108,7 @@ TEST(TintSize, WrapsLikeNumbersOf32Bits)
 
 TEST(TintSize, LeavesPixelsFree)
 {
-    TintSettings settings = {.colour = {}, .sizeMode = u"px"_s, .pixels = 120};
+    TintSettings settings = {.color = {}, .sizeMode = u"px"_s, .pixels = 120};
     expectSize(settings, 880, 680);
     settings.sizeMode = u"any other"_s;
     expectSize(settings, 880, 680);
@@ -131,7 +131,7 @@ class TintAnchor : public testing::TestWithParam<Anchor>
 TEST_P(TintAnchor, PlacesTheArea)
 {
     const TintSettings settings
-        = {.colour = {},
+        = {.color = {},
            .anchor = GetParam().anchor,
            .xOffset = 10,
            .yOffset = 20,
@@ -163,7 +163,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(TintAnchor, HalvesTowardZero)
 {
-    const TintSettings settings = {.colour = {}, .anchor = 4, .sizeMode = u"px"_s, .pixels = -3};
+    const TintSettings settings = {.color = {}, .anchor = 4, .sizeMode = u"px"_s, .pixels = -3};
 
     EXPECT_EQ(tintArea(settings, photo, {}).origin, QPoint(-1, -1));
 }
