@@ -248,9 +248,8 @@ TEST_F(Frame, LooksTheSameInThePreviewAndInTheFile)
 
 TEST_F(Frame, IsStrongInThePreviewWithoutAnOpacity)
 {
-    const auto shown = DVImageHandling::hAddFramePreview(
-        photo(), {.thickness = 10, .opacity = 0, .color = red}
-    );
+    const auto shown
+        = DVImageHandling::hAddFramePreview(photo(), {.thickness = 10, .opacity = 0, .color = red});
     ASSERT_TRUE(shown);
     EXPECT_EQ(shown->toQImage().pixelColor(1, 1), redPixel);
 }

@@ -25,10 +25,8 @@ class AddTint : public testing::Test
 {
 protected:
     PhotoBuilder photo = PhotoBuilder().size(100, 80).solid({255, 255, 255});
-    TintSettings settings
-        = {.color = {.red = 1, .green = 0, .blue = 0},
-           .sizeMode = u"W x H"_s,
-           .originalSizeState = 1};
+    TintSettings settings = {
+        .color = {.red = 1, .green = 0, .blue = 0}, .sizeMode = u"W x H"_s, .originalSizeState = 1};
     DVImageHandling handling;
     TemporaryFolder folder;
 
@@ -205,8 +203,8 @@ TEST_F(AddTint, WorksOnStoredPixels)
 
 TEST_F(AddTint, KeepsTheOriginOfThePhotoBeforeForAnAnchorThatIsNone)
 {
-    settings = {
-        .color = settings.color, .anchor = 8, .sizeMode = u"W x H"_s, .width = 30, .height = 20};
+    settings
+        = {.color = settings.color, .anchor = 8, .sizeMode = u"W x H"_s, .width = 30, .height = 20};
     tinted();
     settings.anchor = 9;
 
