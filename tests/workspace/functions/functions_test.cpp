@@ -164,11 +164,13 @@ TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
          .outputName = platform::lastPathComponent,
          .previewPhoto = [](const QString&) { return std::nullopt; }}};
     workspace::PreviewPhotos previewPhotos;
+    test::SilentToolBox tools;
     const workspace::Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
         .watermark = mark,
-        .previewPhotos = previewPhotos};
+        .previewPhotos = previewPhotos,
+        .toolBox = tools.box};
     const workspace::PresetRecords records(rows(), subsystems);
 
     const std::map<QString, QString> expected{
@@ -225,11 +227,13 @@ TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)
          .outputName = platform::lastPathComponent,
          .previewPhoto = [](const QString&) { return std::nullopt; }}};
     workspace::PreviewPhotos previewPhotos;
+    test::SilentToolBox tools;
     const workspace::Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
         .watermark = mark,
-        .previewPhotos = previewPhotos};
+        .previewPhotos = previewPhotos,
+        .toolBox = tools.box};
     workspace::Functions functions({*rows().withId(u"fileRenaming"_s)});
     functions.begin()->presets
         = {{.make = make, .applies = isFirstTab},
