@@ -16,7 +16,7 @@ QString numbered(const QString& name, int folder) { return name + QString::numbe
 SortingPanel::FolderButtons::FolderButtons(int folder)
     : choose(
         numbered(u"btnSetSortDestination0"_s, folder),
-        u"Choose\u2026"_s,
+        u"Set\u2026"_s,
         u"cGUIcontrols.hSetSortDestinationFolder"_s
     )
     , show(

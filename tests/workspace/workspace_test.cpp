@@ -195,6 +195,7 @@ TEST_F(WorkspaceTest, EmptiesTempWithTheLastWindow)
 
 TEST_F(WorkspaceTest, EndsARunAfterThePhotoInHandAndEmptiesTempThen)
 {
+    defaults.set(u"PhotosAtATime"_s, u"1"_s);
     program.start();
     QDir().mkpath(folder.path(u"out"_s));
     program.openFiles({

@@ -32,7 +32,7 @@ RowsTable::RowsTable(QList<panels::TableColumn> columns, QWidget* parent)
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
-    setHeaderHidden(m_columns.isEmpty());
+    setHeaderHidden(m_columns.size() < 2); // the heading above says what a single column holds
     setTabKeyNavigation(false);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::MinimumExpanding);
     header()->setStretchLastSection(true);

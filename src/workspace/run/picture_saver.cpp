@@ -3,6 +3,7 @@
 
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
+#include <platform/foundation/machine.h>
 #include <platform/graphics/memory_need.h>
 
 #include <QFileInfo>
@@ -11,17 +12,9 @@
 
 #include <algorithm>
 
-#include <unistd.h>
-
 namespace brenvaldo::workspace {
 
 namespace {
-
-std::size_t memoryOfMachine()
-{
-    return static_cast<std::size_t>(::sysconf(_SC_PHYS_PAGES))
-        * static_cast<std::size_t>(::sysconf(_SC_PAGE_SIZE));
-}
 
 int photosAtATime(int wanted, qsizetype photos)
 {
@@ -34,7 +27,7 @@ BackgroundWriter::Limits limitsOf(int photos)
     return {
         .files = photos,
         .engineThreads = std::max(QThread::idealThreadCount() / photos, 1),
-        .memory = memoryOfMachine() / 4};
+        .memory = platform::memoryOfMachine() / 4};
 }
 
 /// The same for all ways to write a path.

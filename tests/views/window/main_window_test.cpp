@@ -325,6 +325,7 @@ TEST_F(MainWindow, EndsTheWorkWhenItIsClosed)
 
 TEST_F(MainWindow, EndsARunAfterThePhotoInHandWhenItIsClosed)
 {
+    defaults.set(u"PhotosAtATime"_s, u"1"_s);
     QDir().mkpath(folder.path(u"out"_s));
     window->openFiles(makePhotos(3));
     panels::Panels& panels = workspace.panels();
@@ -580,7 +581,7 @@ TEST_F(MainWindow, RunsAFunctionThatComesLaterByItsActionAllTheSame)
     workspace.panels().vwMainDestination.tfImageDestinationFolder.setStringValue(
         folder.path(u"out/"_s)
     );
-    workspace.panels().window.pubEditPhoto.selectItemAtIndex(9);
+    workspace.panels().window.pubEditPhoto.selectItemAtIndex(5);
     workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_s);
     ASSERT_FALSE(find<QPushButton>(u"btnProcess"_s)->isEnabled());
 

@@ -124,24 +124,29 @@ TEST(Functions, OfThisVersionAreThese)
         idsOf([](const auto& row) { return workspace::hasOperation(row.run); }),
         UnorderedElementsAre(
             u"textWM"_s,
-            u"framing"_s,
-            u"resizePhotos"_s,
-            u"batchFileConvert"_s,
-            u"cropPhotos"_s,
             u"addTint"_s,
-            u"filters"_s
+            u"framing"_s,
+            u"roundings"_s,
+            u"profileConversion"_s,
+            u"rotatePhotos"_s,
+            u"filters"_s,
+            u"resizePhotos"_s,
+            u"cropPhotos"_s,
+            u"fileRenaming"_s,
+            u"batchFileConvert"_s
         )
     );
     EXPECT_THAT(
         idsOf([](const auto& row) { return static_cast<bool>(row.preview); }),
         UnorderedElementsAre(
             u"textWM"_s,
-            u"framing"_s,
-            u"cropPhotos"_s,
             u"addTint"_s,
-            u"rotatePhotos"_s,
+            u"framing"_s,
             u"roundings"_s,
-            u"filters"_s
+            u"profileConversion"_s,
+            u"rotatePhotos"_s,
+            u"filters"_s,
+            u"cropPhotos"_s
         )
     );
 }
