@@ -24,7 +24,8 @@ protected:
         qDebug("a font is loaded");
         qInfo("a plugin is found");
         qWarning("OpenType support missing for \"Some Face\", script 11");
-        qCWarning(QLoggingCategory("qt.qpa.window")) << "This plugin does not propagate hints";
+        static const QLoggingCategory window("qt.qpa.window");
+        qCWarning(window) << "This plugin does not propagate hints";
     }
 };
 
