@@ -19,7 +19,7 @@ constexpr int lastAnchor = 8;
 
 bool isPercentage(const CropSettings& settings) { return settings.cropType == u"%"_s; }
 
-int shareOf(int side, std::int64_t percent)
+int remaining(int side, std::int64_t percent)
 {
     return wrapped32(wrapped32(100 - percent) * std::int64_t{side}) / 100;
 }
@@ -66,7 +66,7 @@ PixelSize cropSize(const CropSettings& settings, PixelSize photo)
         return settings.size;
     if (isPercentage(settings)) {
         const std::int64_t percent = cutsOffTooMuch(settings) ? 0 : settings.cutOff;
-        return {shareOf(photo.width, percent), shareOf(photo.height, percent)};
+        return {remaining(photo.width, percent), remaining(photo.height, percent)};
     }
     return {wrapped32(photo.width - settings.cutOff), wrapped32(photo.height - settings.cutOff)};
 }

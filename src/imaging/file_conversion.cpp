@@ -2,9 +2,9 @@
 #include "file_conversion.h"
 
 #include "failure_log.h"
+#include "source_photo.h"
 
 #include <platform/codecs/image_destination.h>
-#include <platform/codecs/image_source.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/paths.h>
@@ -19,19 +19,13 @@
 
 namespace brenvaldo::imaging {
 
-using platform::codecs::ImageSource;
+using platform::codecs::SourceAccess;
 
 namespace {
 
 QString nameWithoutExtension(const QString& path)
 {
     return platform::deletingPathExtension(platform::lastPathComponent(path));
-}
-
-std::optional<platform::graphics::Image> storedPhoto(const QString& path)
-{
-    const auto source = ImageSource::open(path);
-    return source ? source->image() : std::nullopt;
 }
 
 /// True when every pixel of the photo can be computed.
@@ -44,10 +38,11 @@ bool isWhole(const platform::graphics::Image& photo)
 /// fails without a disk, too. A damaged photo is another matter.
 bool isRefused(const QString& path, platform::codecs::FileFormat format)
 {
-    const auto photo = storedPhoto(path);
+    const auto photo = storedPhoto(path, SourceAccess::OnePass);
     if (!photo)
         return true;
-    return isWhole(*photo) && !platform::codecs::canEncode(*storedPhoto(path), format, {});
+    return isWhole(*photo)
+        && !platform::codecs::canEncode(*storedPhoto(path, SourceAccess::OnePass), format, {});
 }
 
 bool writeConverted(const PictureToSave& picture, const ConversionRule& rule)
@@ -104,7 +99,7 @@ std::optional<PictureToSave> converted(
     PictureToSave picture{
         .destination = settings.destination,
         .typeIdentifier = settings.type,
-        .image = storedPhoto(settings.source),
+        .image = storedPhoto(settings.source, SourceAccess::OnePass),
         .compressionLevel = settings.compressionLevel,
         .writer = writer,
         .source = settings.source};

@@ -17,7 +17,7 @@ constexpr int firstCanvas = 12;
 constexpr int framedCanvas = 13;
 constexpr int lastNumber = 25;
 
-double wide(float value) { return static_cast<double>(value); }
+double widened(float value) { return static_cast<double>(value); }
 
 /// The filters that need one pass of one filter, or a chain of screens.
 FilterImage screenOf(const FilterImage& image, const FilterSettings& settings)
@@ -64,29 +64,31 @@ FilterImage filteredByNumber(const FilterImage& image, const FilterSettings& set
         return filtered(image, u"CIPhotoEffectChrome"_s);
     case 11:
         return filtered(
-            image, u"CIGaussianBlur"_s, {{u"inputRadius"_s, wide(settings.blurRadius)}}
+            image, u"CIGaussianBlur"_s, {{u"inputRadius"_s, widened(settings.blurRadius)}}
         );
     case 15:
         return filtered(
             image,
             u"CIColorMonochrome"_s,
             {{u"inputColor"_s, settings.color},
-             {u"inputIntensity"_s, wide(settings.monochromeIntensity)}}
+             {u"inputIntensity"_s, widened(settings.monochromeIntensity)}}
         );
     case 16:
         return filtered(image, u"CIColorInvert"_s);
     case 17:
-        return filtered(image, u"CIColorPosterize"_s, {{u"inputLevels"_s, wide(settings.levels)}});
+        return filtered(
+            image, u"CIColorPosterize"_s, {{u"inputLevels"_s, widened(settings.levels)}}
+        );
     case 18:
         return filtered(
-            image, u"CISepiaTone"_s, {{u"inputIntensity"_s, wide(settings.sepiaIntensity)}}
+            image, u"CISepiaTone"_s, {{u"inputIntensity"_s, widened(settings.sepiaIntensity)}}
         );
     case 21:
         return filtered(
             image,
             u"CIUnsharpMask"_s,
-            {{u"inputRadius"_s, wide(settings.unsharpRadius)},
-             {u"inputIntensity"_s, wide(settings.unsharpIntensity)}}
+            {{u"inputRadius"_s, widened(settings.unsharpRadius)},
+             {u"inputIntensity"_s, widened(settings.unsharpIntensity)}}
         );
     case 22:
         return filtered(image, u"CIPhotoEffectProcess"_s);

@@ -18,7 +18,7 @@ double radiansOf(float degrees)
     return static_cast<double>(degrees) / -180.0 * pi;
 }
 
-double wide(float value) { return static_cast<double>(value); }
+double asDouble(float value) { return static_cast<double>(value); }
 
 /// What follows on the pattern of every pass; `source` is what the pass began with.
 FilterImage
@@ -41,9 +41,9 @@ barePattern(const FilterImage& image, const QString& pattern, const ScreenSettin
     return filtered(
         image,
         pattern,
-        {{u"inputWidth"_s, wide(settings.width)},
+        {{u"inputWidth"_s, asDouble(settings.width)},
          {u"inputAngle"_s, radiansOf(settings.angle)},
-         {u"inputSharpness"_s, wide(settings.sharpness)}}
+         {u"inputSharpness"_s, asDouble(settings.sharpness)}}
     );
 }
 
@@ -87,14 +87,15 @@ FilterImage ringScreen(const FilterImage& image, const ScreenSettings& settings)
 {
     const auto width = static_cast<float>(image.pixelSize().width);
     const auto height = static_cast<float>(image.pixelSize().height);
-    const Point centre = {
-        .x = wide(settings.centreX * width) / 100.0, .y = wide(settings.centreY * height) / 100.0};
+    const Point centre
+        = {.x = asDouble(settings.centreX * width) / 100.0,
+           .y = asDouble(settings.centreY * height) / 100.0};
     const FilterImage pattern = filtered(
         image,
         u"CICircularScreen"_s,
         {{u"inputCenter"_s, centre},
-         {u"inputWidth"_s, wide(settings.width)},
-         {u"inputSharpness"_s, wide(settings.sharpness)}}
+         {u"inputWidth"_s, asDouble(settings.width)},
+         {u"inputSharpness"_s, asDouble(settings.sharpness)}}
     );
     return invertedAndMasked(pattern, image, settings);
 }

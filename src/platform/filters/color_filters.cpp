@@ -12,15 +12,13 @@ namespace brenvaldo::platform::filters {
 
 namespace {
 
-constexpr std::size_t capacity = PixelBlock::capacity;
-
 float clamped(float level) { return std::min(std::max(level, 0.0F), 1.0F); }
 
 float mix(float from, float to, float share) { return from + share * (to - from); }
 
 BRENVALDO_BLOCK_LOOP void invert(const PixelBlock& in, PixelBlock& out)
 {
-    for (std::size_t i = 0; i < capacity; ++i) {
+    for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
         out.red[i] = 1 - in.red[i];
         out.green[i] = 1 - in.green[i];
         out.blue[i] = 1 - in.blue[i];
@@ -37,7 +35,7 @@ struct Shade
 
 BRENVALDO_BLOCK_LOOP void shade(const PixelBlock& in, PixelBlock& out, const Shade& shade)
 {
-    for (std::size_t i = 0; i < capacity; ++i) {
+    for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
         const float gray = Luminance::of(in.red[i], in.green[i], in.blue[i]);
         out.red[i] = mix(in.red[i], gray * shade.red, shade.share);
         out.green[i] = mix(in.green[i], gray * shade.green, shade.share);
@@ -49,7 +47,7 @@ BRENVALDO_BLOCK_LOOP void shade(const PixelBlock& in, PixelBlock& out, const Sha
 BRENVALDO_BLOCK_LOOP void
 posterize(const PixelBlock::Plane& in, PixelBlock::Plane& out, float steps)
 {
-    for (std::size_t i = 0; i < capacity; ++i)
+    for (std::size_t i = 0; i < PixelBlock::capacity; ++i)
         out[i] = std::floor(in[i] * steps + 0.5F) / steps;
 }
 
@@ -63,7 +61,7 @@ constexpr Matrix sepia = {{
 
 BRENVALDO_BLOCK_LOOP void tone(const PixelBlock& in, PixelBlock& out, float share)
 {
-    for (std::size_t i = 0; i < capacity; ++i) {
+    for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
         const float red = in.red[i];
         const float green = in.green[i];
         const float blue = in.blue[i];
@@ -91,7 +89,7 @@ struct Adjustment
 
 BRENVALDO_BLOCK_LOOP void adjust(const PixelBlock& in, PixelBlock& out, const Adjustment& adjusted)
 {
-    for (std::size_t i = 0; i < capacity; ++i) {
+    for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
         const float gray = Luminance::of(in.red[i], in.green[i], in.blue[i]);
         out.red[i] = adjusted(in.red[i], gray);
         out.green[i] = adjusted(in.green[i], gray);

@@ -13,8 +13,6 @@ namespace brenvaldo::platform::filters {
 
 namespace {
 
-constexpr std::size_t capacity = PixelBlock::capacity;
-
 /// Places of the pixels of a block in the turned pattern, in units of its width.
 struct PatternRow
 {
@@ -132,7 +130,7 @@ inline float biasedLight(float light, float softness)
 BRENVALDO_BLOCK_LOOP void
 compare(const PixelBlock& in, const PixelBlock::Plane& thresholds, float softness, PixelBlock& out)
 {
-    for (std::size_t i = 0; i < capacity; ++i) {
+    for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
         const float light
             = std::min(std::max(Luminance::of(in.red[i], in.green[i], in.blue[i]), 0.0F), 1.0F);
         const float above = (biasedLight(light, softness) - thresholds[i]) / softness + 0.5F;

@@ -21,7 +21,7 @@ constexpr Triple all(double value) { return {value, value, value}; }
 
 constexpr std::array<Triple, 3> gray(const Triple& weights) { return {weights, weights, weights}; }
 
-double clamped(double value) { return std::clamp(value, 0.0, 1.0); }
+double clampedLevel(double value) { return std::clamp(value, 0.0, 1.0); }
 
 /// What becomes of a level of one component once the colours are mixed.
 double bentLevel(const PhotoEffect& effect, std::size_t component, double level)
@@ -31,7 +31,7 @@ double bentLevel(const PhotoEffect& effect, std::size_t component, double level)
     const double white = effect.white[component];
     const double bright = std::pow(level, effect.gamma[component]);
     const double bent = bright + curve * bright * (1 - bright) * (2 * bright - 1);
-    return clamped(black + (white - black) * bent);
+    return clampedLevel(black + (white - black) * bent);
 }
 
 /// An effect with its curves looked up, for many pixels.
@@ -91,7 +91,9 @@ private:
 double noirLevel(double red, double green, double blue)
 {
     const Triple& weights = noir.mix[0];
-    return bentLevel(noir, 0, clamped(weights[0] * red + weights[1] * green + weights[2] * blue));
+    return bentLevel(
+        noir, 0, clampedLevel(weights[0] * red + weights[1] * green + weights[2] * blue)
+    );
 }
 
 } // namespace

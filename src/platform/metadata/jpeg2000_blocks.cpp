@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
+#include "exif_header.h"
 
 #include <platform/containers/bytes.h>
 #include <platform/containers/iso_boxes.h>
-#include <platform/containers/jpeg_segments.h>
 #include <platform/containers/photoshop_resources.h>
 
 namespace brenvaldo::platform::metadata {
@@ -36,12 +36,6 @@ bool isExifIdentifier(QByteArrayView identifier)
     return identifier == QByteArrayView("JpgTiffExif->JP2") || identifier == other;
 }
 
-QByteArray withoutExifHeader(QByteArrayView data)
-{
-    const bool hasHeader = data.startsWith(containers::jpeg::exifHeader);
-    return data.sliced(hasHeader ? containers::jpeg::exifHeader.size() : 0).toByteArray();
-}
-
 } // namespace
 
 containers::MetadataBlocks readJpeg2000Blocks(QByteArrayView file)
@@ -53,7 +47,7 @@ containers::MetadataBlocks readJpeg2000Blocks(QByteArrayView file)
         const QByteArrayView identifier = box.payload.first(identifierLength);
         const QByteArrayView data = box.payload.sliced(identifierLength);
         if (isExifIdentifier(identifier))
-            blocks.exif = withoutExifHeader(data);
+            blocks.exif = withoutExifHeader(data).toByteArray();
         else if (identifier == QByteArrayView(xmpIdentifier()))
             blocks.xmp = data.toByteArray();
         else if (identifier == QByteArrayView(iptcIdentifier()))

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
+#include "exif_header.h"
 
 #include <platform/containers/jpeg_segments.h>
 #include <platform/containers/photoshop_resources.h>
@@ -20,11 +21,6 @@ namespace {
 
 constexpr QByteArrayView profilePrefix("Raw profile type ");
 
-QByteArray withoutExifHeader(const QByteArray& data)
-{
-    return data.startsWith(jpeg::exifHeader) ? data.sliced(jpeg::exifHeader.size()) : data;
-}
-
 bool describesColors(const PngChunk& chunk)
 {
     static constexpr std::array types{"iCCP", "sRGB", "gAMA", "cHRM"};
@@ -43,7 +39,7 @@ void fill(QByteArray& block, const QByteArray& data)
 void takeProfile(const QByteArray& type, const QByteArray& data, MetadataBlocks& blocks)
 {
     if (type == "exif" || (type == "APP1" && data.startsWith(jpeg::exifHeader)))
-        fill(blocks.exif, withoutExifHeader(data));
+        fill(blocks.exif, withoutExifHeader(data).toByteArray());
     else if (type == "APP1" && data.startsWith(jpeg::xmpHeader))
         fill(blocks.xmp, data.sliced(jpeg::xmpHeader.size()));
     else if (type == "xmp")
@@ -81,7 +77,7 @@ MetadataBlocks readPngBlocks(QByteArrayView file)
         return blocks;
     for (const PngChunk& chunk : *chunks) {
         if (chunk.type == QByteArrayView("eXIf"))
-            blocks.exif = withoutExifHeader(chunk.data.toByteArray());
+            blocks.exif = withoutExifHeader(chunk.data).toByteArray();
         else if (chunk.type == QByteArrayView("tIME"))
             blocks.pngTextChunks.append(chunk.whole.toByteArray());
         else if (describesColors(chunk))

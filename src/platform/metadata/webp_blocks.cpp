@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
+#include "exif_header.h"
 
 #include <platform/containers/bytes.h>
-#include <platform/containers/jpeg_segments.h>
 
 namespace brenvaldo::platform::metadata {
 
@@ -17,9 +17,7 @@ containers::MetadataBlocks readWebpBlocks(QByteArrayView file)
         if (!type || !data)
             break;
         if (*type == QByteArrayView("EXIF") && blocks.exif.isEmpty()) {
-            const bool hasHeader = data->startsWith(containers::jpeg::exifHeader);
-            blocks.exif
-                = data->sliced(hasHeader ? containers::jpeg::exifHeader.size() : 0).toByteArray();
+            blocks.exif = withoutExifHeader(*data).toByteArray();
         } else if (*type == QByteArrayView("XMP ") && blocks.xmp.isEmpty()) {
             blocks.xmp = data->toByteArray();
         }
