@@ -118,7 +118,7 @@ public:
     /// box and the excess is cut off, otherwise it is stretched.
     ///
     /// A size that nothing can be drawn at writes nothing and answers the word of the photo before.
-    [[nodiscard]] static Outcome hScalePhotosWidthAndHeight(
+    [[nodiscard]] Outcome hScalePhotosWidthAndHeight(
         const SourceAndBase& photo,
         platform::graphics::PixelSize box,
         int aspectState,
@@ -286,8 +286,7 @@ private:
     tinted(const platform::graphics::Image& photo, const TintSettings& settings);
 
     double m_currentDPI = 0;
-    QPoint m_cropOrigin; ///< of the last crop or outline
-    QPoint m_areaOrigin; ///< of the last tint, from the photo's bottom left corner
+    QPoint m_offset; ///< of the last part cut, outlined or tinted, as that operation counts it
     ResultWord m_storeResult = ResultWord::Failed;
 };
 

@@ -16,6 +16,7 @@ namespace brenvaldo::imaging {
 
 using platform::codecs::ImageSource;
 using platform::graphics::Image;
+using platform::graphics::PixelRect;
 using platform::graphics::PixelSize;
 
 namespace {
@@ -74,8 +75,11 @@ Outcome DVImageHandling::hScalePhotosWidthAndHeight(
         logFailedWrite(photo.destinationBase, u"there is no picture of %1 pixels"_s.arg(size));
         return WordOfPictureBefore{};
     }
-    const auto result = covers ? scaled->croppedTo(centredCut(target, box)) : scaled;
-    return outputPicture(result, photo, tail);
+    if (!covers)
+        return outputPicture(scaled, photo, tail);
+    const PixelRect cut = centredCut(target, box);
+    m_offset = {cut.x, cut.y};
+    return outputPicture(scaled->croppedTo(cut), photo, tail);
 }
 
 std::optional<Image> DVImageHandling::hScalePictureBase(const Image& image, float factor)

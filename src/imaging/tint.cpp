@@ -43,8 +43,8 @@ Paint paintOf(const TintSettings& settings, const TintArea& area, int photoHeigh
 
 Image DVImageHandling::tinted(const Image& photo, const TintSettings& settings)
 {
-    const TintArea area = tintArea(settings, photo.pixelSize(), m_areaOrigin);
-    m_areaOrigin = area.origin;
+    const TintArea area = tintArea(settings, photo.pixelSize(), m_offset);
+    m_offset = area.origin;
     return platform::drawing::painted(
         groundOf(photo, settings.duoToneState),
         {.area = visiblePart(area, photo.pixelSize()),

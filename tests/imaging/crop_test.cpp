@@ -32,7 +32,7 @@ test::PhotoBuilder coordinates(int width, int height)
         });
 }
 
-CropSettings rectangle(PixelSize size, int anchor, std::int64_t x = 0, std::int64_t y = 0)
+CropSettings rectangleOf(PixelSize size, int anchor, std::int64_t x = 0, std::int64_t y = 0)
 {
     return {.size = size, .xOffset = x, .yOffset = y, .anchor = anchor, .cropType = u"W x H"_s};
 }
@@ -106,9 +106,9 @@ TEST_F(Cropping, CutsTheRectangleOutAtItsAnchorAndOffset)
 {
     const QString path = write(coordinates(100, 80));
 
-    EXPECT_EQ(cropped(path, rectangle({40, 20}, 0, 3, 4)), (Part{{3, 4}, {40, 20}}));
-    EXPECT_EQ(cropped(path, rectangle({40, 20}, 4)), (Part{{30, 30}, {40, 20}}));
-    EXPECT_EQ(cropped(path, rectangle({40, 20}, 8, -1, -2)), (Part{{59, 58}, {40, 20}}));
+    EXPECT_EQ(cropped(path, rectangleOf({40, 20}, 0, 3, 4)), (Part{{3, 4}, {40, 20}}));
+    EXPECT_EQ(cropped(path, rectangleOf({40, 20}, 4)), (Part{{30, 30}, {40, 20}}));
+    EXPECT_EQ(cropped(path, rectangleOf({40, 20}, 8, -1, -2)), (Part{{59, 58}, {40, 20}}));
 }
 
 TEST_F(Cropping, CutsOffPercentAndPixels)
@@ -124,9 +124,9 @@ TEST_F(Cropping, LeavesOutWhatLiesOutsideOfThePhoto)
 {
     const QString path = write(coordinates(100, 80));
 
-    EXPECT_EQ(cropped(path, rectangle({40, 20}, 8, 10)), (Part{{70, 60}, {30, 20}}));
-    EXPECT_EQ(cropped(path, rectangle({400, 300}, 4)), (Part{{0, 0}, {100, 80}}));
-    EXPECT_EQ(cropped(path, rectangle({40, 20}, 0, -10, -5)), (Part{{0, 0}, {30, 15}}));
+    EXPECT_EQ(cropped(path, rectangleOf({40, 20}, 8, 10)), (Part{{70, 60}, {30, 20}}));
+    EXPECT_EQ(cropped(path, rectangleOf({400, 300}, 4)), (Part{{0, 0}, {100, 80}}));
+    EXPECT_EQ(cropped(path, rectangleOf({40, 20}, 0, -10, -5)), (Part{{0, 0}, {30, 15}}));
 }
 
 TEST_F(Cropping, CutsANegativeRectangleOutBeforeItsOrigin)
@@ -141,14 +141,14 @@ TEST_F(Cropping, FailsWhereNothingIsLeft)
     const QString path = write(coordinates(100, 80));
 
     for (const CropSettings& settings :
-         {rectangle({40, 20}, 8, 40), rectangle({0, 0}, 0), cutOff(u"%"_s, 100)})
+         {rectangleOf({40, 20}, 8, 40), rectangleOf({0, 0}, 0), cutOff(u"%"_s, 100)})
         EXPECT_EQ(crop(path, settings, u"public.png"_s), ResultWord::Failed);
     EXPECT_FALSE(QFile::exists(folder.path(u"out.png"_s)));
 }
 
 TEST_F(Cropping, FailsForAnUnreadablePhoto)
 {
-    const CropSettings settings = rectangle({4, 2}, 0);
+    const CropSettings settings = rectangleOf({4, 2}, 0);
 
     EXPECT_EQ(crop(folder.path(u"gone.png"_s), settings, u"public.png"_s), ResultWord::Failed);
     EXPECT_EQ(
@@ -161,9 +161,28 @@ TEST_F(Cropping, KeepsThePlaceOfTheCropBeforeForAnAnchorThatThereIsNot)
 {
     const QString path = write(coordinates(100, 80));
 
-    EXPECT_EQ(cropped(path, rectangle({40, 20}, 9)), (Part{{0, 0}, {40, 20}}));
-    (void)cropped(path, rectangle({40, 20}, 4));
-    EXPECT_EQ(cropped(path, rectangle({10, 10}, -1)), (Part{{30, 30}, {10, 10}}));
+    EXPECT_EQ(cropped(path, rectangleOf({40, 20}, 9)), (Part{{0, 0}, {40, 20}}));
+    (void)cropped(path, rectangleOf({40, 20}, 4));
+    EXPECT_EQ(cropped(path, rectangleOf({10, 10}, -1)), (Part{{30, 30}, {10, 10}}));
+}
+
+TEST_F(Cropping, SharesItsPlaceWithTintsAndResizes)
+{
+    const QString path = write(coordinates(100, 80));
+    const SourceAndBase files{.source = path, .destinationBase = folder.path(u"other"_s)};
+    const TintSettings corner{
+        .anchor = 6,
+        .xOffset = 7,
+        .yOffset = 11,
+        .sizeMode = u"W x H"_s,
+        .width = 30,
+        .height = 20};
+
+    (void)handling.addTintToImage2(files, corner, tailFor(u"public.png"_s));
+    EXPECT_EQ(cropped(path, rectangleOf({10, 10}, 9)), (Part{{7, 11}, {10, 10}}));
+
+    (void)handling.hScalePhotosWidthAndHeight(files, {40, 40}, 1, tailFor(u"public.png"_s));
+    EXPECT_EQ(cropped(path, rectangleOf({10, 10}, 9)), (Part{{5, 0}, {10, 10}}));
 }
 
 TEST_F(Cropping, CountsInThePhotoAsItShows)
@@ -172,8 +191,8 @@ TEST_F(Cropping, CountsInThePhotoAsItShows)
         test::PhotoBuilder().format(test::PhotoFormat::Png).size(100, 80).corners().orientation(6)
     );
 
-    EXPECT_EQ(cropped(path, rectangle({80, 100}, 4)).size, QSize(80, 100));
-    (void)cropped(path, rectangle({20, 20}, 0));
+    EXPECT_EQ(cropped(path, rectangleOf({80, 100}, 4)).size, QSize(80, 100));
+    (void)cropped(path, rectangleOf({20, 20}, 0));
     EXPECT_EQ(test::cornerColors(test::storedPixels(folder.path(u"out.png"_s))), "BBBB");
 }
 
@@ -186,7 +205,7 @@ TEST_F(Cropping, KeepsDepthModelProfileAndMetadata)
                              .depth(16)
                              .write(folder.path(u"deep.tiff"_s));
 
-    ASSERT_EQ(crop(path, rectangle({10, 5}, 4), u"public.tiff"_s), ResultWord::Ok);
+    ASSERT_EQ(crop(path, rectangleOf({10, 5}, 4), u"public.tiff"_s), ResultWord::Ok);
 
     const auto header = test::openedPhoto(folder.path(u"out.tiff"_s)).header();
     EXPECT_EQ(header.storedSize, (PixelSize{10, 5}));
@@ -195,7 +214,7 @@ TEST_F(Cropping, KeepsDepthModelProfileAndMetadata)
     EXPECT_TRUE(header.hasAlpha);
 
     const QString turned = write(coordinates(30, 20).orientation(6));
-    ASSERT_EQ(crop(turned, rectangle({10, 5}, 4), u"public.jpeg"_s), ResultWord::Ok);
+    ASSERT_EQ(crop(turned, rectangleOf({10, 5}, 4), u"public.jpeg"_s), ResultWord::Ok);
     EXPECT_EQ(test::openedPhoto(folder.path(u"out.jpg"_s)).header().orientation, 6);
 }
 
@@ -248,7 +267,7 @@ TEST_F(CropPreview, OutlinesTheRectangleOnAnotherwiseTransparentPicture)
 {
     const QString path = write(coordinates(200, 160).orientation(6));
 
-    const auto picture = handling.hCropPhotosPreview(path, rectangle({100, 80}, 0, 20, 30));
+    const auto picture = handling.hCropPhotosPreview(path, rectangleOf({100, 80}, 0, 20, 30));
 
     ASSERT_TRUE(picture);
     const QImage outline = picture->toQImage();
@@ -266,17 +285,17 @@ TEST_F(CropPreview, OutlinesTheRectangleOnAnotherwiseTransparentPicture)
 
 TEST_F(CropPreview, IsNothingForAnUnreadablePhoto)
 {
-    EXPECT_FALSE(handling.hCropPhotosPreview(folder.path(u"gone.jpg"_s), rectangle({4, 2}, 0)));
+    EXPECT_FALSE(handling.hCropPhotosPreview(folder.path(u"gone.jpg"_s), rectangleOf({4, 2}, 0)));
 }
 
 TEST_F(CropPreview, SharesThePlaceWithTheCrops)
 {
     const QString path = write(coordinates(100, 80));
-    (void)handling.hCropPhotosPreview(path, rectangle({40, 20}, 6, 5, -7));
+    (void)handling.hCropPhotosPreview(path, rectangleOf({40, 20}, 6, 5, -7));
 
-    EXPECT_EQ(cropped(path, rectangle({10, 10}, -1)), (Part{{5, 7}, {10, 10}}));
+    EXPECT_EQ(cropped(path, rectangleOf({10, 10}, -1)), (Part{{5, 7}, {10, 10}}));
 
-    const auto picture = handling.hCropPhotosPreview(path, rectangle({10, 10}, -1));
+    const auto picture = handling.hCropPhotosPreview(path, rectangleOf({10, 10}, -1));
     ASSERT_TRUE(picture);
     EXPECT_EQ(picture->toQImage().pixelColor(5, 70), QColor(255, 0, 0));
 }

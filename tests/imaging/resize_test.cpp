@@ -35,7 +35,7 @@ enum MaximumTypeIndex { Width = 0, Height = 1, LongestSide = 2, Percentage = 3 }
 constexpr int stretched = 0;
 constexpr int covering = 1;
 
-OutputTail pngTail()
+OutputTail jpegToPng()
 {
     return {
         .outputType = u"public.png"_s,
@@ -49,7 +49,7 @@ OutputTail pngTail()
 
 OutputTail jpegTail()
 {
-    OutputTail tail = pngTail();
+    OutputTail tail = jpegToPng();
     tail.outputType = u"original file type"_s;
     tail.myFileType = u"public.jpeg"_s;
     return tail;
@@ -73,7 +73,7 @@ public:
     )
     {
         return m_handling.finish(
-            DVImageHandling::hScalePhotosWidthAndHeight(photo, box, aspectState, tail)
+            m_handling.hScalePhotosWidthAndHeight(photo, box, aspectState, tail)
         );
     }
 
@@ -120,7 +120,7 @@ private:
     QString m_source;
 };
 
-PhotoBuilder grey(int width, int height)
+PhotoBuilder greyPhoto(int width, int height)
 {
     return PhotoBuilder().size(width, height).solid({90, 90, 90});
 }
@@ -131,16 +131,16 @@ const QByteArray& greyPhoto(PixelSize size)
     static std::map<std::pair<int, int>, QByteArray> photos;
     QByteArray& photo = photos[{size.width, size.height}];
     if (photo.isEmpty())
-        photo = grey(size.width, size.height).bytes();
+        photo = greyPhoto(size.width, size.height).bytes();
     return photo;
 }
 
-PhotoBuilder corners(int width, int height)
+PhotoBuilder photoWithCorners(int width, int height)
 {
     return PhotoBuilder().format(PhotoFormat::Png).size(width, height).corners();
 }
 
-struct MaximumCase
+struct MaximumRun
 {
     const char* name;
     PixelSize photo;
@@ -149,13 +149,13 @@ struct MaximumCase
     PixelSize expected;
 };
 
-void PrintTo(const MaximumCase& maximumCase, std::ostream* out) { *out << maximumCase.name; }
+void PrintTo(const MaximumRun& maximumRun, std::ostream* out) { *out << maximumRun.name; }
 
-class ResizeToMaximum : public testing::TestWithParam<MaximumCase>
+class ResizeToMaximum : public testing::TestWithParam<MaximumRun>
 {
 };
 
-constexpr MaximumCase maximumCases[] = {
+constexpr MaximumRun maximumRuns[] = {
     {"LongestSideOfALandscape", {4000, 3000}, 1000, LongestSide, {1000, 750}},
     {"LongestSideOfAPortrait", {3000, 4000}, 1000, LongestSide, {750, 1000}},
     {"LongestSideOfASquare", {1000, 1000}, 100, LongestSide, {100, 100}},
@@ -187,7 +187,7 @@ constexpr FixedCase fixedCases[] = {
     {"EnlargedStretched", {47, 33}, {200, 200}, stretched},
 };
 
-Image picture(const TemporaryFolder& folder, double dotsPerInch)
+Image pictureOfDensity(const TemporaryFolder& folder, double dotsPerInch)
 {
     const auto image = openedPhoto(PhotoBuilder()
                                        .format(PhotoFormat::Png)
@@ -205,26 +205,26 @@ Image picture(const TemporaryFolder& folder, double dotsPerInch)
 
 TEST_P(ResizeToMaximum, WritesThePhotoAtItsNewSize)
 {
-    const MaximumCase& row = GetParam();
+    const MaximumRun& row = GetParam();
     const Resizing files(greyPhoto(row.photo));
     SavingHandling handling;
 
     const ResultWord word
-        = handling.hScalePhotosPercentage(files.photo(), row.value, row.type, pngTail());
+        = handling.hScalePhotosPercentage(files.photo(), row.value, row.type, jpegToPng());
 
     EXPECT_EQ(word, ResultWord::Ok);
     EXPECT_EQ(handling.storeResult(), ResultWord::Ok);
     EXPECT_EQ(files.outputSize(), row.expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, ResizeToMaximum, testing::ValuesIn(maximumCases), CaseName());
+INSTANTIATE_TEST_SUITE_P(Rows, ResizeToMaximum, testing::ValuesIn(maximumRuns), CaseName());
 
 TEST(ResizeToMaximum, MeasuresAndWritesTheUprightPhoto)
 {
     const Resizing files(PhotoBuilder().size(400, 300).corners().orientation(6));
     SavingHandling handling;
 
-    const ResultWord word = handling.hScalePhotosPercentage(files.photo(), 40, Height, pngTail());
+    const ResultWord word = handling.hScalePhotosPercentage(files.photo(), 40, Height, jpegToPng());
 
     EXPECT_EQ(word, ResultWord::Ok);
     EXPECT_EQ(files.outputSize(), (PixelSize{30, 40}));
@@ -233,7 +233,7 @@ TEST(ResizeToMaximum, MeasuresAndWritesTheUprightPhoto)
 
 TEST(ResizeToMaximum, LeavesTheSourcesMetadataUncorrected)
 {
-    const Resizing files(grey(400, 300).exif(exifBlock({.orientation = 6, .make = "Maker"})));
+    const Resizing files(greyPhoto(400, 300).exif(exifBlock({.orientation = 6, .make = "Maker"})));
     SavingHandling handling;
 
     const ResultWord word
@@ -250,12 +250,12 @@ TEST(ResizeToMaximum, LeavesTheSourcesMetadataUncorrected)
 
 TEST(ResizeToMaximum, WritesNothingAndAnswersOkForAValueOfZero)
 {
-    const Resizing files(grey(40, 30));
+    const Resizing files(greyPhoto(40, 30));
     SavingHandling handling;
 
     for (const MaximumTypeIndex type : {Width, Height, LongestSide, Percentage})
         EXPECT_EQ(
-            handling.hScalePhotosPercentage(files.photo(), 0, type, pngTail()), ResultWord::Ok
+            handling.hScalePhotosPercentage(files.photo(), 0, type, jpegToPng()), ResultWord::Ok
         );
 
     EXPECT_FALSE(files.hasOutput());
@@ -270,18 +270,19 @@ TEST(ResizeToMaximum, WritesNothingAndAnswersOkForAnUnreadablePhoto)
     SavingHandling handling;
 
     for (const MaximumTypeIndex type : {Width, Height, LongestSide, Percentage})
-        EXPECT_EQ(handling.hScalePhotosPercentage(photo, 100, type, pngTail()), ResultWord::Ok);
+        EXPECT_EQ(handling.hScalePhotosPercentage(photo, 100, type, jpegToPng()), ResultWord::Ok);
 
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"note.jpg"_s});
 }
 
 TEST(ResizeToMaximum, WritesNothingAndAnswersOkForASizeBeyondAllContexts)
 {
-    const Resizing files(grey(40, 30));
+    const Resizing files(greyPhoto(40, 30));
     SavingHandling handling;
 
     EXPECT_EQ(
-        handling.hScalePhotosPercentage(files.photo(), 1'000'000, Width, pngTail()), ResultWord::Ok
+        handling.hScalePhotosPercentage(files.photo(), 1'000'000, Width, jpegToPng()),
+        ResultWord::Ok
     );
     EXPECT_FALSE(files.hasOutput());
 }
@@ -296,15 +297,15 @@ TEST(ResizeToMaximum, FailsForAPhotoThatIsDamagedInside)
     SavingHandling handling;
 
     EXPECT_EQ(
-        handling.hScalePhotosPercentage(photo, 100, LongestSide, pngTail()), ResultWord::Failed
+        handling.hScalePhotosPercentage(photo, 100, LongestSide, jpegToPng()), ResultWord::Failed
     );
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{u"half.jpg"_s});
 }
 
 TEST(ResizeToMaximum, AnswersTheWordOfTheWriter)
 {
-    const Resizing files(grey(40, 30));
-    OutputTail tail = pngTail();
+    const Resizing files(greyPhoto(40, 30));
+    OutputTail tail = jpegToPng();
     SavingHandling handling;
 
     tail.myFileType = u"com.adobe.pdf"_s;
@@ -319,7 +320,7 @@ TEST(ResizeToMaximum, AnswersTheWordOfTheWriter)
 TEST(Resize, DoesNotSupportAPhotoshopOrPdfFileThatKeepsItsType)
 {
     const TemporaryFolder folder;
-    OutputTail tail = pngTail();
+    OutputTail tail = jpegToPng();
 
     for (const QString& type : {u"com.adobe.photoshop-image"_s, u"com.adobe.pdf"_s}) {
         SavingHandling handling;
@@ -351,7 +352,7 @@ TEST(ResizeToMaximum, KeepsDepthColorsAndTransparency)
     SavingHandling handling;
 
     const ResultWord word
-        = handling.hScalePhotosPercentage(files.photo(), 50, Percentage, pngTail());
+        = handling.hScalePhotosPercentage(files.photo(), 50, Percentage, jpegToPng());
 
     const auto header = openedPhoto(files.path(u"out.png"_s)).header();
     const QColor middle = files.output().convertToFormat(QImage::Format_ARGB32).pixelColor(10, 7);
@@ -369,7 +370,7 @@ TEST_P(ResizeToBox, WritesExactlyTheBox)
     SavingHandling handling;
 
     const ResultWord word
-        = handling.hScalePhotosWidthAndHeight(files.photo(), row.box, row.aspectState, pngTail());
+        = handling.hScalePhotosWidthAndHeight(files.photo(), row.box, row.aspectState, jpegToPng());
 
     EXPECT_EQ(word, ResultWord::Ok);
     EXPECT_EQ(files.outputSize(), row.box);
@@ -389,7 +390,7 @@ TEST(ResizeToBox, CutsTheExcessOffEquallyOnBothSides)
     SavingHandling handling;
 
     const ResultWord word
-        = handling.hScalePhotosWidthAndHeight(files.photo(), {44, 40}, covering, pngTail());
+        = handling.hScalePhotosWidthAndHeight(files.photo(), {44, 40}, covering, jpegToPng());
 
     const QImage output = files.output();
     EXPECT_EQ(word, ResultWord::Ok);
@@ -401,13 +402,13 @@ TEST(ResizeToBox, CutsTheExcessOffEquallyOnBothSides)
 
 TEST(ResizeToBox, StretchesThePhotoWithoutTheAspectCheck)
 {
-    const Resizing files(corners(300, 400));
+    const Resizing files(photoWithCorners(300, 400));
     SavingHandling handling;
     constexpr int mixed = -1;
 
     for (const int state : {stretched, mixed}) {
         const ResultWord word
-            = handling.hScalePhotosWidthAndHeight(files.photo(), {100, 50}, state, pngTail());
+            = handling.hScalePhotosWidthAndHeight(files.photo(), {100, 50}, state, jpegToPng());
 
         EXPECT_EQ(word, ResultWord::Ok);
         EXPECT_EQ(cornerColors(files.output()), "RGBW");
@@ -417,12 +418,12 @@ TEST(ResizeToBox, StretchesThePhotoWithoutTheAspectCheck)
 TEST(ResizeToBox, FailsForSidesFarBelowNothing)
 {
     constexpr int farthest = std::numeric_limits<int>::min();
-    const Resizing files(grey(40, 30));
+    const Resizing files(greyPhoto(40, 30));
     for (const PixelSize box : {PixelSize{farthest, 5}, PixelSize{5, farthest}}) {
         SavingHandling handling;
 
         EXPECT_EQ(
-            handling.hScalePhotosWidthAndHeight(files.photo(), box, covering, pngTail()),
+            handling.hScalePhotosWidthAndHeight(files.photo(), box, covering, jpegToPng()),
             ResultWord::Failed
         );
     }
@@ -431,12 +432,12 @@ TEST(ResizeToBox, FailsForSidesFarBelowNothing)
 
 TEST(ResizeToBox, AnswersTheWordOfThePhotoBeforeWhenNothingCanBeDrawn)
 {
-    const Resizing files(grey(40, 30));
+    const Resizing files(greyPhoto(40, 30));
     const SourceAndBase unreadable{
         .source = files.path(u"missing.jpg"_s), .destinationBase = files.path(u"other"_s)};
     SavingHandling handling;
     const auto resize = [&](const SourceAndBase& photo, PixelSize box, int aspectState) {
-        return handling.hScalePhotosWidthAndHeight(photo, box, aspectState, pngTail());
+        return handling.hScalePhotosWidthAndHeight(photo, box, aspectState, jpegToPng());
     };
 
     EXPECT_EQ(resize(unreadable, {10, 10}, stretched), ResultWord::Failed);
@@ -450,12 +451,12 @@ TEST(ResizeToBox, AnswersTheWordOfThePhotoBeforeWhenNothingCanBeDrawn)
 
 TEST(ResizeToBox, LogsThatNothingCanBeDrawn)
 {
-    const Resizing files(grey(40, 30));
+    const Resizing files(greyPhoto(40, 30));
     const LogLines log;
     SavingHandling handling;
 
     EXPECT_EQ(
-        handling.hScalePhotosWidthAndHeight(files.photo(), {0, 10}, stretched, pngTail()),
+        handling.hScalePhotosWidthAndHeight(files.photo(), {0, 10}, stretched, jpegToPng()),
         ResultWord::Failed
     );
     EXPECT_EQ(
@@ -470,8 +471,8 @@ TEST(ScalePictureBase, ScalesTheSizeInPoints)
 {
     const TemporaryFolder folder;
 
-    const auto half = DVImageHandling::hScalePictureBase(picture(folder, 72), 0.5F);
-    const auto dense = DVImageHandling::hScalePictureBase(picture(folder, 144), 1.0F);
+    const auto half = DVImageHandling::hScalePictureBase(pictureOfDensity(folder, 72), 0.5F);
+    const auto dense = DVImageHandling::hScalePictureBase(pictureOfDensity(folder, 144), 1.0F);
 
     ASSERT_TRUE(half && dense);
     EXPECT_EQ(half->pixelSize(), (PixelSize{60, 30}));
@@ -484,7 +485,7 @@ TEST(ScalePictureBase, TurnsThePictureAtANegativeFactor)
 {
     const TemporaryFolder folder;
 
-    const auto turned = DVImageHandling::hScalePictureBase(picture(folder, 72), -2.0F);
+    const auto turned = DVImageHandling::hScalePictureBase(pictureOfDensity(folder, 72), -2.0F);
 
     ASSERT_TRUE(turned);
     EXPECT_EQ(turned->pixelSize(), (PixelSize{240, 120}));
@@ -495,6 +496,6 @@ TEST(ScalePictureBase, GivesNothingWhereNoPixelIsLeft)
 {
     const TemporaryFolder folder;
 
-    EXPECT_FALSE(DVImageHandling::hScalePictureBase(picture(folder, 72), 0));
-    EXPECT_FALSE(DVImageHandling::hScalePictureBase(picture(folder, 72), 1e9F));
+    EXPECT_FALSE(DVImageHandling::hScalePictureBase(pictureOfDensity(folder, 72), 0));
+    EXPECT_FALSE(DVImageHandling::hScalePictureBase(pictureOfDensity(folder, 72), 1e9F));
 }

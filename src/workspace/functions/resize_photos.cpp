@@ -31,7 +31,9 @@ std::optional<imaging::Outcome> resizedToBox(const RunContext& run, const PhotoO
         run.alert(wrongSizeMessage());
         return std::nullopt;
     }
-    return DVImageHandling::hScalePhotosWidthAndHeight(output.photo, box, aspectState, output.tail);
+    return run.subsystems.imageHandling.hScalePhotosWidthAndHeight(
+        output.photo, box, aspectState, output.tail
+    );
 }
 
 PhotoRun::Operation start(const RunContext& run)
