@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "plain_colors.h"
+
 #include <imaging/color_well_handling.h>
 #include <imaging/dv_color_conversions.h>
 #include <imaging/ns_color_handling.h>
@@ -16,10 +18,10 @@ using brenvaldo::controls::TextField;
 using brenvaldo::panels::Panels;
 using brenvaldo::platform::graphics::Color;
 using brenvaldo::test::CaseName;
+using brenvaldo::test::red;
 
 namespace {
 
-constexpr Color red{.red = 1};
 constexpr Color black{};
 constexpr Color grey{.red = 0.5, .green = 0.5, .blue = 0.5};
 

@@ -14,7 +14,6 @@ using brenvaldo::test::CaseName;
 namespace {
 
 using Route = ConversionRule::Route;
-using Quality = ConversionRule::Quality;
 
 struct ConversionCase
 {
@@ -79,7 +78,8 @@ TEST_P(ConversionTable, TakesTheSuffixOfATypeIdentifier)
     EXPECT_EQ(rule->route, row.route);
     EXPECT_EQ(
         rule->quality,
-        row.format == FileFormat::Jpeg ? Quality::FromLevel : Quality::PlatformDefault
+        row.format == FileFormat::Jpeg ? ConversionRule::Quality::FromLevel
+                                       : ConversionRule::Quality::PlatformDefault
     );
 }
 

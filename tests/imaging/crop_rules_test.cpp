@@ -18,7 +18,7 @@ using platform::graphics::PixelSize;
 
 namespace {
 
-constexpr PixelSize photo = {1000, 800};
+constexpr PixelSize wholePhoto = {1000, 800};
 
 CropSettings cuttingOff(const QString& type, std::int64_t value)
 {
@@ -57,23 +57,23 @@ class CropOutline : public testing::TestWithParam<OutlineCase>
 
 TEST(CropSize, IsTheOneGivenForWidthAndHeight)
 {
-    EXPECT_EQ(cropSize(cuttingOff(u"W x H"_s, 25), photo), (PixelSize{11, 22}));
-    EXPECT_EQ(cropSize(cuttingOff(u"W x H"_s, 150), photo), (PixelSize{11, 22}));
+    EXPECT_EQ(cropSize(cuttingOff(u"W x H"_s, 25), wholePhoto), (PixelSize{11, 22}));
+    EXPECT_EQ(cropSize(cuttingOff(u"W x H"_s, 150), wholePhoto), (PixelSize{11, 22}));
 }
 
 TEST(CropSize, IsWhatAPercentageLeaves)
 {
-    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 25), photo), (PixelSize{750, 600}));
-    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 0), photo), (PixelSize{1000, 800}));
-    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 100), photo), (PixelSize{0, 0}));
+    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 25), wholePhoto), (PixelSize{750, 600}));
+    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 0), wholePhoto), (PixelSize{1000, 800}));
+    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 100), wholePhoto), (PixelSize{0, 0}));
     EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 33), {47, 33}), (PixelSize{31, 22}));
-    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, -50), photo), (PixelSize{1500, 1200}));
+    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, -50), wholePhoto), (PixelSize{1500, 1200}));
 }
 
 TEST(CropSize, TakesAPercentageOf101AndMoreAsNone)
 {
-    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 101), photo), photo);
-    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 150), photo), photo);
+    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 101), wholePhoto), wholePhoto);
+    EXPECT_EQ(cropSize(cuttingOff(u"%"_s, 150), wholePhoto), wholePhoto);
     EXPECT_TRUE(cutsOffTooMuch(cuttingOff(u"%"_s, 101)));
     EXPECT_FALSE(cutsOffTooMuch(cuttingOff(u"%"_s, 100)));
     EXPECT_FALSE(cutsOffTooMuch(cuttingOff(u"px"_s, 101)));
@@ -87,9 +87,9 @@ TEST(CropSize, WrapsAPercentageAt32Bits)
 
 TEST(CropSize, LosesTheSamePixelsOfBothSidesForAnyOtherType)
 {
-    EXPECT_EQ(cropSize(cuttingOff(u"px"_s, 100), photo), (PixelSize{900, 700}));
-    EXPECT_EQ(cropSize(cuttingOff(u""_s, 100), photo), (PixelSize{900, 700}));
-    EXPECT_EQ(cropSize(cuttingOff(u"px"_s, 900), photo), (PixelSize{100, -100}));
+    EXPECT_EQ(cropSize(cuttingOff(u"px"_s, 100), wholePhoto), (PixelSize{900, 700}));
+    EXPECT_EQ(cropSize(cuttingOff(u""_s, 100), wholePhoto), (PixelSize{900, 700}));
+    EXPECT_EQ(cropSize(cuttingOff(u"px"_s, 900), wholePhoto), (PixelSize{100, -100}));
 }
 
 TEST_P(CropAnchors, PlaceTheRectangle)
@@ -97,8 +97,8 @@ TEST_P(CropAnchors, PlaceTheRectangle)
     const AnchorCase& row = GetParam();
     constexpr PixelSize size = {701, 501};
 
-    EXPECT_EQ(cropOrigin(photo, size, row.anchor, {7, 3}), row.origin);
-    EXPECT_EQ(drawnCropOrigin(photo, size, row.anchor, {7, 3}), row.drawn);
+    EXPECT_EQ(cropOrigin(wholePhoto, size, row.anchor, {7, 3}), row.origin);
+    EXPECT_EQ(drawnCropOrigin(wholePhoto, size, row.anchor, {7, 3}), row.drawn);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -121,14 +121,14 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(CropOrigin, IsTruncatedTowardsZeroWhereTheRectangleIsLarger)
 {
     EXPECT_EQ(cropOrigin({10, 10}, {15, 17}, 4, {}), QPoint(-2, -3));
-    EXPECT_EQ(cropOrigin(photo, {750, 600}, 4, {}), QPoint(125, 100));
+    EXPECT_EQ(cropOrigin(wholePhoto, {750, 600}, 4, {}), QPoint(125, 100));
 }
 
 TEST(CropOrigin, IsNotKnownForOtherAnchors)
 {
     for (const int anchor : {-1, 9, 100}) {
-        EXPECT_EQ(cropOrigin(photo, {10, 10}, anchor, {}), std::nullopt);
-        EXPECT_EQ(drawnCropOrigin(photo, {10, 10}, anchor, {}), std::nullopt);
+        EXPECT_EQ(cropOrigin(wholePhoto, {10, 10}, anchor, {}), std::nullopt);
+        EXPECT_EQ(drawnCropOrigin(wholePhoto, {10, 10}, anchor, {}), std::nullopt);
     }
 }
 

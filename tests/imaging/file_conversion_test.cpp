@@ -30,7 +30,7 @@ namespace {
 
 enum class Trace { Metadata, None };
 
-struct ConversionCase
+struct FileTypeCase
 {
     const char* name;
     QString type;
@@ -39,16 +39,13 @@ struct ConversionCase
     Trace trace; ///< what of the metadata route shows in the output
 };
 
-void PrintTo(const ConversionCase& conversionCase, std::ostream* out)
-{
-    *out << conversionCase.name;
-}
+void PrintTo(const FileTypeCase& fileTypeCase, std::ostream* out) { *out << fileTypeCase.name; }
 
-class FileConversionTable : public testing::TestWithParam<ConversionCase>
+class FileConversionTable : public testing::TestWithParam<FileTypeCase>
 {
 };
 
-const ConversionCase conversionCases[] = {
+const FileTypeCase fileTypeCases[] = {
     {"Pdf", u"public.pdf"_s, u"pdf"_s, u"com.adobe.pdf"_s, Trace::None},
     {"Png", u"public.png"_s, u"png"_s, u"public.png"_s, Trace::Metadata},
     {"Tiff", u"public.tiff"_s, u"tiff"_s, u"public.tiff"_s, Trace::Metadata},
@@ -59,12 +56,12 @@ const ConversionCase conversionCases[] = {
     {"Heic", u"public.heic"_s, u"heic"_s, u"public.heic"_s, Trace::Metadata},
 };
 
-PhotoBuilder turnedPhoto()
+PhotoBuilder photoOfMaker()
 {
     return PhotoBuilder().size(48, 32).exif(exifBlock({.orientation = 6, .make = "Maker"}));
 }
 
-bool isPdf(const ConversionCase& row) { return row.word == u"pdf"_s; }
+bool isPdf(const FileTypeCase& row) { return row.word == u"pdf"_s; }
 
 QStringList filesOf(const TemporaryFolder& folder)
 {
@@ -75,9 +72,9 @@ QStringList filesOf(const TemporaryFolder& folder)
 
 TEST_P(FileConversionTable, WritesTheFormatOfTheType)
 {
-    const ConversionCase& row = GetParam();
+    const FileTypeCase& row = GetParam();
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.JPG"_s));
+    const QString source = photoOfMaker().write(folder.path(u"photo.JPG"_s));
     const QString target = conversionTarget(folder.path(u"out"_s), row.type);
 
     const ConversionResult result
@@ -93,11 +90,11 @@ TEST_P(FileConversionTable, WritesTheFormatOfTheType)
 
 TEST_P(FileConversionTable, WorksOnStoredPixelsAndKeepsTheTagWithTheMetadata)
 {
-    const ConversionCase& row = GetParam();
+    const FileTypeCase& row = GetParam();
     if (isPdf(row))
         return;
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_s));
+    const QString source = photoOfMaker().write(folder.path(u"photo.jpg"_s));
     const QString target = folder.path(u"out"_s);
 
     const ConversionResult result
@@ -112,7 +109,7 @@ TEST_P(FileConversionTable, WorksOnStoredPixelsAndKeepsTheTagWithTheMetadata)
 
 TEST_P(FileConversionTable, LeavesAnEmptyFileOfTheMetadataRouteForAnUnreadablePhoto)
 {
-    const ConversionCase& row = GetParam();
+    const FileTypeCase& row = GetParam();
     const TemporaryFolder folder;
     const QString source = folder.write(u"note.jpg"_s, "this is no photo");
     const QString target = folder.path(u"out"_s);
@@ -132,9 +129,9 @@ TEST_P(FileConversionTable, LeavesAnEmptyFileOfTheMetadataRouteForAnUnreadablePh
 
 TEST_P(FileConversionTable, LogsHeicAlone)
 {
-    const ConversionCase& row = GetParam();
+    const FileTypeCase& row = GetParam();
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_s));
+    const QString source = photoOfMaker().write(folder.path(u"photo.jpg"_s));
     const LogLines log;
 
     const ConversionResult result
@@ -148,9 +145,9 @@ TEST_P(FileConversionTable, LogsHeicAlone)
 
 TEST_P(FileConversionTable, ReplacesAWorkFileByItsConversion)
 {
-    const ConversionCase& row = GetParam();
+    const FileTypeCase& row = GetParam();
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_s));
+    const QString source = photoOfMaker().write(folder.path(u"photo.jpg"_s));
 
     const ConversionResult result
         = FileConversion().hSaveAsFileType({source, row.word, u"8"_s, folder.path()});
@@ -160,14 +157,12 @@ TEST_P(FileConversionTable, ReplacesAWorkFileByItsConversion)
     EXPECT_EQ(typeIdentifierOfContents(folder.path(u"photo."_s + row.word)), row.contents);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Types, FileConversionTable, testing::ValuesIn(conversionCases), CaseName()
-);
+INSTANTIATE_TEST_SUITE_P(Types, FileConversionTable, testing::ValuesIn(fileTypeCases), CaseName());
 
 TEST(FileConversion, WritesNothingForAnUnknownType)
 {
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpg"_s));
+    const QString source = photoOfMaker().write(folder.path(u"photo.jpg"_s));
 
     const LogLines log;
 
@@ -327,7 +322,7 @@ TEST(FileConversion, NeverEmptiesAPhotoThatIsItsOwnTargetForARefusingEncoder)
 TEST(SaveAsFileType, RemovesTheSourceEvenForAWordThatItDoesNotKnow)
 {
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.png"_s));
+    const QString source = photoOfMaker().write(folder.path(u"photo.png"_s));
 
     const ConversionResult result
         = FileConversion().hSaveAsFileType({source, u"jpg"_s, u"8"_s, folder.path()});
@@ -340,7 +335,7 @@ TEST(SaveAsFileType, RemovesTheSourceEvenForAWordThatItDoesNotKnow)
 TEST(SaveAsFileType, KeepsASourceThatIsItsOwnTarget)
 {
     const TemporaryFolder folder;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpeg"_s));
+    const QString source = photoOfMaker().write(folder.path(u"photo.jpeg"_s));
     const QString unknown = folder.write(u"photo.xyz"_s, "contents");
 
     const ConversionResult same
@@ -358,7 +353,7 @@ TEST(SaveAsFileType, RemovesTheSourceFromAnotherFolder)
 {
     const TemporaryFolder folder;
     const TemporaryFolder other;
-    const QString source = turnedPhoto().write(folder.path(u"photo.jpeg"_s));
+    const QString source = photoOfMaker().write(folder.path(u"photo.jpeg"_s));
 
     const ConversionResult result
         = FileConversion().hSaveAsFileType({source, u"jpeg"_s, u"8"_s, other.path()});

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "plain_colors.h"
+
 #include <imaging/dv_image_handling.h>
 #include <platform/foundation/literals.h>
 
@@ -20,8 +22,6 @@ using namespace brenvaldo::test;
 
 namespace {
 
-constexpr platform::graphics::Color red{.red = 1};
-const QColor redPixel(255, 0, 0);
 const QColor whitePixel(255, 255, 255);
 const QColor photoPixel(0, 0, 255);
 

@@ -30,7 +30,7 @@ namespace {
 constexpr platform::graphics::Color orange = {.red = 1, .green = 0.5, .blue = 0};
 const QColor orangePixel(255, 128, 0);
 
-test::PhotoBuilder corners(int width, int height)
+test::PhotoBuilder cornersPhoto(int width, int height)
 {
     return test::PhotoBuilder().format(PhotoFormat::Png).size(width, height).corners();
 }
@@ -79,7 +79,7 @@ protected:
 
 TEST_F(Rotating, TurnsQuartersCounterClockwise)
 {
-    const QImage turned = rotated(write(corners(40, 30)), turn(90));
+    const QImage turned = rotated(write(cornersPhoto(40, 30)), turn(90));
 
     EXPECT_EQ(turned.size(), QSize(30, 40));
     EXPECT_EQ(test::cornerColors(turned), "GWRB");
@@ -99,7 +99,7 @@ TEST_F(Rotating, LeavesTransparentCornersInTheBoxAroundTheTurnedPhoto)
 
 TEST_F(Rotating, TurnsTheStoredPixels)
 {
-    const QImage turned = rotated(write(corners(40, 30).orientation(6)), turn(0));
+    const QImage turned = rotated(write(cornersPhoto(40, 30).orientation(6)), turn(0));
 
     EXPECT_EQ(turned.size(), QSize(40, 30));
     EXPECT_EQ(test::cornerColors(turned), "RGBW");
@@ -108,7 +108,7 @@ TEST_F(Rotating, TurnsTheStoredPixels)
 
 TEST_F(Rotating, AddsAMarginInTheColourOfTheCanvas)
 {
-    const QImage framed = rotated(write(corners(100, 50)), onCanvas(0, 20));
+    const QImage framed = rotated(write(cornersPhoto(100, 50)), onCanvas(0, 20));
 
     ASSERT_EQ(framed.size(), QSize(140, 90));
     EXPECT_EQ(framed.pixelColor(0, 0), orangePixel);
@@ -121,7 +121,7 @@ TEST_F(Rotating, AddsAMarginInTheColourOfTheCanvas)
 
 TEST_F(Rotating, FillsTheCornersWithTheColourOfTheCanvas)
 {
-    const QImage turned = rotated(write(corners(100, 100)), onCanvas(45, 0));
+    const QImage turned = rotated(write(cornersPhoto(100, 100)), onCanvas(45, 0));
 
     ASSERT_EQ(turned.size(), QSize(141, 141));
     EXPECT_EQ(turned.pixelColor(2, 2), orangePixel);
@@ -131,7 +131,7 @@ TEST_F(Rotating, FillsTheCornersWithTheColourOfTheCanvas)
 
 TEST_F(Rotating, CutsOffWithANegativeMargin)
 {
-    const QImage cut = rotated(write(corners(100, 50)), onCanvas(0, -5));
+    const QImage cut = rotated(write(cornersPhoto(100, 50)), onCanvas(0, -5));
 
     EXPECT_EQ(cut.size(), QSize(90, 40));
     EXPECT_EQ(test::cornerColors(cut), "RGBW");
@@ -139,7 +139,7 @@ TEST_F(Rotating, CutsOffWithANegativeMargin)
 
 TEST_F(Rotating, FailsWhereNoCanvasCanBeMade)
 {
-    const QString path = write(corners(100, 50));
+    const QString path = write(cornersPhoto(100, 50));
 
     for (const int margin : {-25, -60, 2'000'000, std::numeric_limits<int>::max()})
         EXPECT_EQ(rotate(path, onCanvas(0, margin), u"public.png"_s), ResultWord::Failed) << margin;
@@ -210,7 +210,7 @@ TEST_F(Rotating, KeepsDepthAndModelWithoutACanvas)
 
 TEST_F(Rotating, WritesTransparentCornersOfAJpegAsThatFormatDoes)
 {
-    ASSERT_EQ(rotate(write(corners(100, 100)), turn(45), u"public.jpeg"_s), ResultWord::Ok);
+    ASSERT_EQ(rotate(write(cornersPhoto(100, 100)), turn(45), u"public.jpeg"_s), ResultWord::Ok);
 
     EXPECT_EQ(test::storedPixels(folder.path(u"out.jpg"_s)).pixelColor(2, 2), QColor(Qt::white));
 }
@@ -231,7 +231,7 @@ TEST_F(Rotating, FailsForWhatItCannotReadAndSaysWhy)
 
 TEST_F(Rotating, PreviewsWhatItWrites)
 {
-    const QString path = write(corners(60, 40));
+    const QString path = write(cornersPhoto(60, 40));
 
     for (const RotateSettings& settings : {turn(20), onCanvas(20, 7), turn(270)}) {
         const auto preview = DVImageHandling::hRotatePicturesPreview(path, settings);

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "rounding_words.h"
+
 #include <imaging/rounding_rules.h>
 
 #include <support/geometry_printing.h>
@@ -8,18 +10,14 @@
 #include <array>
 
 using namespace brenvaldo::imaging;
+using namespace brenvaldo::test;
 using brenvaldo::platform::graphics::PixelSize;
 
 namespace {
 
-constexpr int rectangle = 0;
-constexpr int circle = 1;
-constexpr int ellipse = 2;
-constexpr int around = 1;
+constexpr PixelSize originalSize{400, 300};
 
-constexpr PixelSize photo{400, 300};
-
-RoundingPlan planOf(const RoundingSettings& settings, PixelSize size = photo)
+RoundingPlan planOf(const RoundingSettings& settings, PixelSize size = originalSize)
 {
     return roundingPlan(size, settings).value_or(RoundingPlan());
 }
@@ -30,7 +28,7 @@ TEST(RoundingPlan, OfARectangleOrAnEllipseHasThePhotosSize)
 {
     for (const int type : {rectangle, ellipse, 3, -1}) {
         const RoundingPlan plan = planOf({.radius = 20, .type = type});
-        EXPECT_EQ(plan.canvas, photo);
+        EXPECT_EQ(plan.canvas, originalSize);
         EXPECT_EQ(plan.photo, QPoint(0, 0));
         EXPECT_EQ(plan.clip.boundingRect(), QRectF(0, 0, 400, 300));
         EXPECT_EQ(plan.borderWidth, 0);
@@ -72,7 +70,7 @@ TEST(RoundingPlan, LaysOtherBordersOnThePhoto)
         RoundingSettings settings{
             .radius = 20, .borderState = 1, .borderWidth = 10, .borderPosition = position};
         RoundingPlan plan = planOf(settings);
-        EXPECT_EQ(plan.canvas, photo);
+        EXPECT_EQ(plan.canvas, originalSize);
         EXPECT_EQ(plan.clip.boundingRect(), QRectF(10, 10, 380, 280));
         EXPECT_EQ(plan.border.boundingRect(), QRectF(5, 5, 390, 290));
 
@@ -89,7 +87,7 @@ TEST(RoundingPlan, HasABorderOfAnyStateButZero)
     EXPECT_EQ(planOf({.borderState = -1, .borderWidth = 10}).borderWidth, 10);
     EXPECT_EQ(planOf({.borderState = 0, .borderWidth = 10}).borderWidth, 0);
     EXPECT_EQ(
-        planOf({.borderState = 0, .borderWidth = 10, .borderPosition = around}).canvas, photo
+        planOf({.borderState = 0, .borderWidth = 10, .borderPosition = around}).canvas, originalSize
     );
 }
 
@@ -143,7 +141,7 @@ TEST(RoundingPlan, LetsLargeCornersCrossEachOther)
 TEST(RoundingPlan, NeedsACanvas)
 {
     RoundingSettings settings{.borderState = 1, .borderWidth = -150, .borderPosition = around};
-    EXPECT_FALSE(roundingPlan(photo, settings));
+    EXPECT_FALSE(roundingPlan(originalSize, settings));
     settings.borderWidth = INT64_MAX;
-    EXPECT_FALSE(roundingPlan(photo, settings));
+    EXPECT_FALSE(roundingPlan(originalSize, settings));
 }

@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "plain_colors.h"
+#include "rounding_words.h"
+
 #include <imaging/dv_image_handling.h>
 #include <platform/foundation/literals.h>
 
@@ -17,15 +20,6 @@ using namespace brenvaldo::imaging;
 using namespace brenvaldo::test;
 
 namespace {
-
-constexpr int circle = 1;
-constexpr int ellipse = 2;
-constexpr int around = 1;
-constexpr platform::graphics::Color red{.red = 1};
-constexpr platform::graphics::Color green{.green = 1};
-const QColor redPixel(255, 0, 0);
-const QColor greenPixel(0, 255, 0);
-const QColor bluePixel(0, 0, 255);
 
 /// Rounded pictures of a blue photo of 400 x 300 pixels.
 class Roundings : public testing::Test

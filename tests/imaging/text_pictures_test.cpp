@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "plain_colors.h"
+
 #include <imaging/dv_image_handling.h>
 
 #include <platform/drawing/attributed_text.h>
@@ -13,12 +15,12 @@ using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using brenvaldo::platform::drawing::AttributedText;
 using brenvaldo::platform::graphics::Color;
+using brenvaldo::test::green;
+using brenvaldo::test::red;
 
 namespace {
 
 constexpr Color white{.red = 1, .green = 1, .blue = 1};
-constexpr Color red{.red = 1, .green = 0, .blue = 0};
-constexpr Color green{.red = 0, .green = 1, .blue = 0};
 
 /// A white disc, half as wide as the layer, in its middle.
 QImage discLayer()

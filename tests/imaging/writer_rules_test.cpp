@@ -15,7 +15,6 @@ namespace {
 
 using Properties = WriterRule::Properties;
 using Failure = WriterRule::Failure;
-using Quality = WriterRule::Quality;
 
 struct RowCase
 {
@@ -32,9 +31,10 @@ void PrintTo(const RowCase& rowCase, std::ostream* out) { *out << rowCase.name; 
 class WriterTable : public testing::TestWithParam<RowCase>
 {
 protected:
-    static Quality batchQuality(FileFormat format)
+    static WriterRule::Quality batchQuality(FileFormat format)
     {
-        return format == FileFormat::Jpeg ? Quality::FromLevel : Quality::PlatformDefault;
+        return format == FileFormat::Jpeg ? WriterRule::Quality::FromLevel
+                                          : WriterRule::Quality::PlatformDefault;
     }
 };
 
@@ -91,20 +91,23 @@ const UnknownCase unknownCases[] = {
     {"Nothing", u""_s},
 };
 
-struct QualityCase
+struct WriterQualityCase
 {
     const char* name;
     QString level;
     double expected;
 };
 
-void PrintTo(const QualityCase& qualityCase, std::ostream* out) { *out << qualityCase.name; }
+void PrintTo(const WriterQualityCase& writerQualityCase, std::ostream* out)
+{
+    *out << writerQualityCase.name;
+}
 
-class WriterQuality : public testing::TestWithParam<QualityCase>
+class WriterQuality : public testing::TestWithParam<WriterQualityCase>
 {
 };
 
-const QualityCase qualityCases[] = {
+const WriterQualityCase writerQualityCases[] = {
     {"Lowest", u"1"_s, 0.1},
     {"Second", u"2"_s, 0.2},
     {"Middle", u"5"_s, 0.5},
@@ -160,7 +163,7 @@ TEST_P(WriterTable, TellsTheWriterThatTakesAWholePath)
     EXPECT_EQ(rule->extension, QString());
     EXPECT_EQ(rule->properties, row.properties);
     EXPECT_EQ(rule->failure, row.format == FileFormat::Heic ? Failure::Logged : Failure::Silent);
-    EXPECT_EQ(rule->quality, Quality::PlatformDefault);
+    EXPECT_EQ(rule->quality, WriterRule::Quality::PlatformDefault);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, WriterTable, testing::ValuesIn(rowCases), CaseName());
@@ -213,7 +216,7 @@ TEST_P(WriterQuality, FollowsTheLevel)
     EXPECT_DOUBLE_EQ(writerQuality(GetParam().level), GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, WriterQuality, testing::ValuesIn(qualityCases), CaseName());
+INSTANTIATE_TEST_SUITE_P(Rows, WriterQuality, testing::ValuesIn(writerQualityCases), CaseName());
 
 TEST(OutputType, IsMadeOfTheTitle)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <script/arguments.h>
 
+#include <support/case_name.h>
 #include <support/text_printing.h>
 
 #include <QDir>
@@ -9,6 +10,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace brenvaldo::script;
+using brenvaldo::test::CaseName;
 
 namespace {
 
@@ -20,8 +22,6 @@ struct Index
 };
 
 void PrintTo(const Index& row, std::ostream* out) { *out << row.name; }
-
-constexpr auto nameOfRow = [](const auto& row) { return std::string(row.param.name); };
 
 } // namespace
 
@@ -47,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
         Index{"DigitsAndLetters", u"1a"_s, std::nullopt},
         Index{"TooLargeForANumber", u"99999999999"_s, std::nullopt}
     ),
-    nameOfRow
+    CaseName()
 );
 
 class ItemOfQualities : public testing::TestWithParam<Index>
@@ -75,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
         Index{"UnknownTitle", u"good"_s, std::nullopt},
         Index{"Empty", QString(), std::nullopt}
     ),
-    nameOfRow
+    CaseName()
 );
 
 TEST(Flag, IsZeroOrOne)

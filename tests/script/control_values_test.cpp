@@ -4,6 +4,7 @@
 
 #include <controls/image_view.h>
 
+#include <support/case_name.h>
 #include <support/text_printing.h>
 
 #include <gtest/gtest.h>
@@ -14,6 +15,7 @@
 using namespace brenvaldo;
 using namespace brenvaldo::controls;
 using namespace brenvaldo::script;
+using brenvaldo::test::CaseName;
 
 namespace {
 
@@ -65,8 +67,6 @@ struct Refused
 };
 
 void PrintTo(const Refused& row, std::ostream* out) { *out << row.name; }
-
-constexpr auto nameOfRow = [](const auto& row) { return std::string(row.param.name); };
 
 /// A control whose actions are counted.
 struct WatchedControl
@@ -137,7 +137,7 @@ INSTANTIATE_TEST_SUITE_P(
         Given{"Slider", plain<Slider>(u"sl"_s, 0.0, 10.0, 1.0), u"2.5"_s, {u"2.5"_s}},
         Given{"SliderBeyondItsEnd", plain<Slider>(u"sl"_s, 0.0, 10.0, 1.0), u"12"_s, {u"10"_s}}
     ),
-    nameOfRow
+    CaseName()
 );
 
 class RefuseValue : public testing::TestWithParam<Refused>
@@ -182,7 +182,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"Bar", plain<ProgressIndicator>(u"bar"_s), u"1"_s, u"bar takes no value"_s},
         Refused{"ImageView", plain<ImageView>(u"iv"_s), u"1"_s, u"iv takes no value"_s}
     ),
-    nameOfRow
+    CaseName()
 );
 
 TEST(ValueFields, TellTheStateOfControlsThatTakeNoValue)

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <script/words.h>
 
+#include <support/case_name.h>
 #include <support/text_printing.h>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using brenvaldo::script::wordsOfLine;
+using brenvaldo::test::CaseName;
 
 namespace {
 
@@ -27,8 +29,6 @@ struct FaultyLine
 };
 
 void PrintTo(const FaultyLine& line, std::ostream* out) { *out << line.name; }
-
-constexpr auto nameOfRow = [](const auto& row) { return std::string(row.param.name); };
 
 } // namespace
 
@@ -69,7 +69,7 @@ INSTANTIATE_TEST_SUITE_P(
         Line{"Umlauts", "set tf \xC3\x84pfel", {u"set"_s, u"tf"_s, u"\u00C4pfel"_s}},
         Line{"ByteOrderMark", "\xEF\xBB\xBFphotos", {u"photos"_s}}
     ),
-    nameOfRow
+    CaseName()
 );
 
 class FaultOfLine : public testing::TestWithParam<FaultyLine>
@@ -97,5 +97,5 @@ INSTANTIATE_TEST_SUITE_P(
         FaultyLine{"UnfinishedUtf8", "set tf Andr\xE9", u"the line is not UTF-8"_s},
         FaultyLine{"UnfinishedLongUtf8", "set tf a\xF0\x9F\x98", u"the line is not UTF-8"_s}
     ),
-    nameOfRow
+    CaseName()
 );

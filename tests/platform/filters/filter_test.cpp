@@ -4,7 +4,6 @@
 using namespace brenvaldo;
 using namespace brenvaldo::test;
 using platform::filters::Filter;
-using platform::filters::InputValue;
 using platform::filters::Point;
 using platform::graphics::Color;
 
@@ -20,12 +19,14 @@ Filter filterNamed(const QString& name)
 
 double number(const Filter& filter, const QString& input)
 {
-    return std::get<double>(filter.value(input).value_or(InputValue(-1.0)));
+    const auto value = filter.value(input);
+    return value ? std::get<double>(*value) : -1;
 }
 
 Point centre(const Filter& filter)
 {
-    return std::get<Point>(filter.value(u"inputCenter"_s).value_or(InputValue(Point{})));
+    const auto value = filter.value(u"inputCenter"_s);
+    return value ? std::get<Point>(*value) : Point{};
 }
 
 } // namespace

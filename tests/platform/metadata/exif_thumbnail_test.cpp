@@ -44,7 +44,7 @@ QByteArray thumbnailOf(QByteArrayView bytes)
         .toByteArray();
 }
 
-QByteArray encodedTiff(int depth)
+QByteArray tiffOfDepth(int depth)
 {
     return PhotoBuilder{}.format(PhotoFormat::Tiff).depth(depth).bytes();
 }
@@ -53,7 +53,7 @@ QByteArray splicedTiffWith(const QByteArray& exif, int depth = 8)
 {
     MetadataBlocks blocks;
     blocks.exif = exif;
-    const QByteArray encoded = encodedTiff(depth);
+    const QByteArray encoded = tiffOfDepth(depth);
     return splicedTiff(encoded, blocks)->join();
 }
 
@@ -221,7 +221,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ThumbnailOfATiff, LeavesTheOtherResourcesAsTheyStand)
 {
     MetadataBlocks blocks = cameraBlocks();
-    const QByteArray encoded = encodedTiff(8);
+    const QByteArray encoded = tiffOfDepth(8);
 
     const MetadataBlocks read = readTiffBlocks(splicedTiff(encoded, blocks)->join());
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_builder.h"
 
+#include <platform/foundation/literals.h>
 #include <platform/metadata/exif_properties.h>
 #include <platform/metadata/iptc_properties.h>
 #include <platform/metadata/xmp_values.h>
@@ -14,8 +15,6 @@ using brenvaldo::test::iptcDataSet;
 using brenvaldo::test::xmpPacket;
 
 namespace {
-
-QString text(const char* literal) { return QString::fromUtf8(literal); }
 
 QByteArray packetOf(const QByteArray& properties)
 {
@@ -39,7 +38,7 @@ PropertyDictionary fromXmp(const QByteArray& properties)
 ExifProperties exifWith(const char* tiffKey, const QString& value)
 {
     ExifProperties exif;
-    exif.tiff.insert(text(tiffKey), value);
+    exif.tiff.insert(QString::fromUtf8(tiffKey), value);
     return exif;
 }
 
@@ -51,20 +50,20 @@ TEST(IptcProperties, GathersRepeatedDataSetsInAnArray)
 {
     const PropertyDictionary iptc = fromIim(iptcDataSet(25, "a") + iptcDataSet(25, "b"));
 
-    EXPECT_EQ(iptc.text(text("Keywords")), text("(\n    a,\n    b\n)"));
+    EXPECT_EQ(iptc.text(u"Keywords"_s), u"(\n    a,\n    b\n)"_s);
 }
 
 TEST(IptcProperties, ShowsTheFirstOfRepeatedWriters)
 {
     const PropertyDictionary iptc = fromIim(iptcDataSet(122, "first") + iptcDataSet(122, "second"));
 
-    EXPECT_EQ(iptc.text(text("Writer/Editor")), text("first"));
+    EXPECT_EQ(iptc.text(u"Writer/Editor"_s), u"first"_s);
 }
 
 TEST(IptcProperties, ReadsTextsThatAreNotUtf8AsLatin1)
 {
-    EXPECT_EQ(fromIim(iptcDataSet(90, "Z\xFCrich")).text(text("City")), text("Z\u00fcrich"));
-    EXPECT_EQ(fromIim(iptcDataSet(90, "Z\xC3\xBCrich")).text(text("City")), text("Z\u00fcrich"));
+    EXPECT_EQ(fromIim(iptcDataSet(90, "Z\xFCrich")).text(u"City"_s), u"Z\u00fcrich"_s);
+    EXPECT_EQ(fromIim(iptcDataSet(90, "Z\xC3\xBCrich")).text(u"City"_s), u"Z\u00fcrich"_s);
 }
 
 TEST(IptcProperties, StopsAtADamagedDataSet)
@@ -73,7 +72,7 @@ TEST(IptcProperties, StopsAtADamagedDataSet)
 
     const PropertyDictionary iptc = fromIim(iptcDataSet(120, "caption") + damaged + "x");
 
-    EXPECT_EQ(iptc.keys(), QStringList(text("Caption/Abstract")));
+    EXPECT_EQ(iptc.keys(), QStringList(u"Caption/Abstract"_s));
 }
 
 TEST(IptcProperties, FillsFromXmpWhatIimLacks)
@@ -85,10 +84,10 @@ TEST(IptcProperties, FillsFromXmpWhatIimLacks)
         "<photoshop:Headline>News</photoshop:Headline><xmp:Rating>4</xmp:Rating>"
     );
 
-    EXPECT_EQ(iptc.text(text("Keywords")), text("(\n    a,\n    b\n)"));
-    EXPECT_EQ(iptc.text(text("UsageTerms")), text("ask"));
-    EXPECT_EQ(iptc.text(text("Headline")), text("News"));
-    EXPECT_EQ(iptc.text(text("StarRating")), text("4"));
+    EXPECT_EQ(iptc.text(u"Keywords"_s), u"(\n    a,\n    b\n)"_s);
+    EXPECT_EQ(iptc.text(u"UsageTerms"_s), u"ask"_s);
+    EXPECT_EQ(iptc.text(u"Headline"_s), u"News"_s);
+    EXPECT_EQ(iptc.text(u"StarRating"_s), u"4"_s);
 }
 
 TEST(IptcProperties, ShowsTheContactAsADictionary)
@@ -99,10 +98,10 @@ TEST(IptcProperties, ShowsTheContactAsADictionary)
                   "<Iptc4xmpCore:CiEmailWork>a@b.example</Iptc4xmpCore:CiEmailWork>"
                   "</Iptc4xmpCore:CreatorContactInfo>");
 
-    const PropertyDictionary* contact = iptc.dictionary(text("CreatorContactInfo"));
+    const PropertyDictionary* contact = iptc.dictionary(u"CreatorContactInfo"_s);
     ASSERT_NE(contact, nullptr);
-    EXPECT_EQ(contact->text(text("CiAdrCity")), text("Bern"));
-    EXPECT_EQ(contact->text(text("CiEmailWork")), text("a@b.example"));
+    EXPECT_EQ(contact->text(u"CiAdrCity"_s), u"Bern"_s);
+    EXPECT_EQ(contact->text(u"CiEmailWork"_s), u"a@b.example"_s);
 }
 
 TEST(IptcProperties, SplitsAnXmpDateIntoDateAndTime)
@@ -110,8 +109,8 @@ TEST(IptcProperties, SplitsAnXmpDateIntoDateAndTime)
     const PropertyDictionary iptc
         = fromXmp("<photoshop:DateCreated>2013-06-04T19:44:49.5+02:00</photoshop:DateCreated>");
 
-    EXPECT_EQ(iptc.text(text("DateCreated")), text("20130604"));
-    EXPECT_EQ(iptc.text(text("TimeCreated")), text("194449+0200"));
+    EXPECT_EQ(iptc.text(u"DateCreated"_s), u"20130604"_s);
+    EXPECT_EQ(iptc.text(u"TimeCreated"_s), u"194449+0200"_s);
 }
 
 TEST(IptcProperties, PrefersIimToXmpAndXmpToExif)
@@ -119,33 +118,33 @@ TEST(IptcProperties, PrefersIimToXmpAndXmpToExif)
     const QByteArray xmp
         = packetOf("<dc:description><rdf:Alt><rdf:li xml:lang=\"x-default\">xmp</rdf:li></rdf:Alt>"
                    "</dc:description>");
-    const ExifProperties exif = exifWith("ImageDescription", text("exif"));
-    const QString key = text("Caption/Abstract");
+    const ExifProperties exif = exifWith("ImageDescription", u"exif"_s);
+    const QString key = u"Caption/Abstract"_s;
 
-    EXPECT_EQ(iptcProperties(iptcDataSet(120, "iim"), XmpValues(xmp), exif).text(key), text("iim"));
-    EXPECT_EQ(iptcProperties({}, XmpValues(xmp), exif).text(key), text("xmp"));
-    EXPECT_EQ(iptcProperties({}, XmpValues({}), exif).text(key), text("exif"));
+    EXPECT_EQ(iptcProperties(iptcDataSet(120, "iim"), XmpValues(xmp), exif).text(key), u"iim"_s);
+    EXPECT_EQ(iptcProperties({}, XmpValues(xmp), exif).text(key), u"xmp"_s);
+    EXPECT_EQ(iptcProperties({}, XmpValues({}), exif).text(key), u"exif"_s);
 }
 
 TEST(IptcProperties, FillsDatesFromExif)
 {
     ExifProperties exif;
-    exif.exif.insert(text("DateTimeOriginal"), text("2026:11:15 10:44:33"));
-    exif.exif.insert(text("DateTimeDigitized"), text("2026:11:16 11:45:34"));
+    exif.exif.insert(u"DateTimeOriginal"_s, u"2026:11:15 10:44:33"_s);
+    exif.exif.insert(u"DateTimeDigitized"_s, u"2026:11:16 11:45:34"_s);
 
     const PropertyDictionary iptc = iptcProperties({}, XmpValues({}), exif);
 
-    EXPECT_EQ(iptc.text(text("DateCreated")), text("20261115"));
-    EXPECT_EQ(iptc.text(text("TimeCreated")), text("104433"));
-    EXPECT_EQ(iptc.text(text("DigitalCreationDate")), text("20261116"));
-    EXPECT_EQ(iptc.text(text("DigitalCreationTime")), text("114534"));
+    EXPECT_EQ(iptc.text(u"DateCreated"_s), u"20261115"_s);
+    EXPECT_EQ(iptc.text(u"TimeCreated"_s), u"104433"_s);
+    EXPECT_EQ(iptc.text(u"DigitalCreationDate"_s), u"20261116"_s);
+    EXPECT_EQ(iptc.text(u"DigitalCreationTime"_s), u"114534"_s);
 }
 
 TEST(IptcProperties, ShowsTheArtistAsAByline)
 {
     EXPECT_EQ(
-        iptcProperties({}, XmpValues({}), exifWith("Artist", text("Jane"))).text(text("Byline")),
-        text("(\n    Jane\n)")
+        iptcProperties({}, XmpValues({}), exifWith("Artist", u"Jane"_s)).text(u"Byline"_s),
+        u"(\n    Jane\n)"_s
     );
 }
 
@@ -154,7 +153,7 @@ TEST(IptcProperties, ShowsTheCreatorsTitleOfXmpOnce)
     const PropertyDictionary iptc
         = fromXmp("<photoshop:AuthorsPosition>Editor</photoshop:AuthorsPosition>");
 
-    EXPECT_EQ(iptc.text(text("BylineTitle")), text("(\n    Editor\n)"));
+    EXPECT_EQ(iptc.text(u"BylineTitle"_s), u"(\n    Editor\n)"_s);
 }
 
 TEST(XmpValues, HoldALongTextOnce)
@@ -178,7 +177,7 @@ TEST(XmpValues, HoldEachElementOfAnArray)
         "<dc:subject><rdf:Bag/></dc:subject>"
     ));
 
-    EXPECT_EQ(values.texts("Xmp.dc.creator"), QStringList({text("Jane"), text("Joe")}));
+    EXPECT_EQ(values.texts("Xmp.dc.creator"), QStringList({u"Jane"_s, u"Joe"_s}));
     EXPECT_EQ(values.texts("Xmp.dc.subject"), QStringList());
 }
 
@@ -188,5 +187,5 @@ TEST(XmpValues, AreNoneInADamagedPacket)
         XmpValues("<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:").texts("Xmp.dc.title").isEmpty()
     );
     EXPECT_TRUE(XmpValues("not XMP").texts("Xmp.dc.title").isEmpty());
-    EXPECT_EQ(XmpValues(xmpPacket("A title")).texts("Xmp.dc.title"), QStringList(text("A title")));
+    EXPECT_EQ(XmpValues(xmpPacket("A title")).texts("Xmp.dc.title"), QStringList(u"A title"_s));
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <platform/foundation/literals.h>
 #include <platform/metadata/property_dictionary.h>
 #include <support/text_printing.h>
 
@@ -9,59 +10,57 @@ using brenvaldo::platform::metadata::PropertyValue;
 
 namespace {
 
-QString text(const char* literal) { return QString::fromUtf8(literal); }
-
 } // namespace
 
 TEST(PropertyValue, PrintsIntegersPlain)
 {
-    EXPECT_EQ(PropertyValue(72).text(), text("72"));
-    EXPECT_EQ(PropertyValue(-3).text(), text("-3"));
+    EXPECT_EQ(PropertyValue(72).text(), u"72"_s);
+    EXPECT_EQ(PropertyValue(-3).text(), u"-3"_s);
 }
 
 TEST(PropertyValue, PrintsDoublesWithSixteenDigitsAtMost)
 {
-    EXPECT_EQ(PropertyValue(72.0).text(), text("72"));
-    EXPECT_EQ(PropertyValue(72.5).text(), text("72.5"));
-    EXPECT_EQ(PropertyValue(1.0 / 15).text(), text("0.06666666666666667"));
+    EXPECT_EQ(PropertyValue(72.0).text(), u"72"_s);
+    EXPECT_EQ(PropertyValue(72.5).text(), u"72.5"_s);
+    EXPECT_EQ(PropertyValue(1.0 / 15).text(), u"0.06666666666666667"_s);
 }
 
 TEST(PropertyValue, PrintsBooleansAsNumbers)
 {
-    EXPECT_EQ(PropertyValue(true).text(), text("1"));
-    EXPECT_EQ(PropertyValue(false).text(), text("0"));
+    EXPECT_EQ(PropertyValue(true).text(), u"1"_s);
+    EXPECT_EQ(PropertyValue(false).text(), u"0"_s);
 }
 
 TEST(PropertyValue, PrintsArraysOneElementALine)
 {
     const PropertyValue array(PropertyValue::Array{
-        PropertyValue(2), PropertyValue(text("word")), PropertyValue(text("two words"))});
+        PropertyValue(2), PropertyValue(u"word"_s), PropertyValue(u"two words"_s)});
 
-    EXPECT_EQ(array.text(), text("(\n    2,\n    word,\n    \"two words\"\n)"));
-    EXPECT_EQ(PropertyValue(PropertyValue::Array()).text(), text("(\n)"));
+    EXPECT_EQ(array.text(), u"(\n    2,\n    word,\n    \"two words\"\n)"_s);
+    EXPECT_EQ(PropertyValue(PropertyValue::Array()).text(), u"(\n)"_s);
 }
 
 TEST(PropertyValue, PrintsDictionariesSortedAndIndented)
 {
     PropertyDictionary dictionary;
-    dictionary.insert(text("Z"), PropertyValue(PropertyValue::Array{PropertyValue(0.5)}));
-    dictionary.insert(text("A"), text("Caf\u00e9"));
+    dictionary.insert(u"Z"_s, PropertyValue(PropertyValue::Array{PropertyValue(0.5)}));
+    dictionary.insert(u"A"_s, u"Caf\u00e9"_s);
 
     EXPECT_EQ(
         PropertyValue(dictionary).text(),
-        text("{\n    A = \"Caf\\U00e9\";\n    Z = (\n        \"0.5\"\n    );\n}")
+        u"{\n    A = \"Caf\\U00e9\";\n    Z = (\n        \"0.5\"\n    );\n}"_s
     );
 }
 
 TEST(PropertyDictionary, KeepsTheOrderOfItsKeys)
 {
     PropertyDictionary dictionary;
-    dictionary.insert(text("b"), 1);
-    dictionary.insert(text("a"), 2);
+    dictionary.insert(u"b"_s, 1);
+    dictionary.insert(u"a"_s, 2);
 
-    dictionary.insert(text("b"), 3);
+    dictionary.insert(u"b"_s, 3);
 
-    EXPECT_EQ(dictionary.keys(), QStringList({text("b"), text("a")}));
-    EXPECT_EQ(dictionary.text(text("b")), text("3"));
-    EXPECT_EQ(dictionary.text(text("c")), std::nullopt);
+    EXPECT_EQ(dictionary.keys(), QStringList({u"b"_s, u"a"_s}));
+    EXPECT_EQ(dictionary.text(u"b"_s), u"3"_s);
+    EXPECT_EQ(dictionary.text(u"c"_s), std::nullopt);
 }

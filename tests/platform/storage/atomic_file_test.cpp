@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "all_entries.h"
+
 #include <platform/storage/atomic_file.h>
 
 #include <platform/foundation/commit_turn.h>
@@ -18,18 +20,13 @@
 
 using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::storage;
+using brenvaldo::test::allEntries;
 using brenvaldo::test::FullDisk;
 using brenvaldo::test::setMode;
 using brenvaldo::test::TemporaryFolder;
 using brenvaldo::test::WithoutPrivileges;
 
 namespace {
-
-QStringList allEntries(const TemporaryFolder& folder)
-{
-    return QDir(folder.path())
-        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-}
 
 struct stat statusOf(const QString& path)
 {
@@ -65,7 +62,7 @@ TEST(AtomicFile, AppearsWholeAtItsPlace)
     EXPECT_TRUE(writeFileAtomically(path, "pixels"));
 
     EXPECT_EQ(TemporaryFolder::read(path), "pixels");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"photo.jpg"_s});
 }
 
 TEST(AtomicFile, ReplacesWhatStandsThere)
@@ -96,7 +93,7 @@ TEST(AtomicFile, WaitsForTheTurnOfItsThread)
         EXPECT_FALSE(writeFileAtomically(path, "dropped"));
     }
     EXPECT_EQ(contents(), "new");
-    EXPECT_EQ(allEntries(folder), QStringList{u"a.txt"_s});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"a.txt"_s});
 }
 
 TEST(AtomicFile, LeavesNothingWithoutACommit)
@@ -107,7 +104,7 @@ TEST(AtomicFile, LeavesNothingWithoutACommit)
         ASSERT_TRUE(file.isValid());
     }
 
-    EXPECT_EQ(allEntries(folder), QStringList());
+    EXPECT_EQ(allEntries(folder.path()), QStringList());
 }
 
 TEST(AtomicFile, LeavesTheOldFileAndNothingElseWhenItsProcessIsKilled)
@@ -127,7 +124,7 @@ TEST(AtomicFile, LeavesTheOldFileAndNothingElseWhenItsProcessIsKilled)
     );
 
     EXPECT_EQ(TemporaryFolder::read(path), "old");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"photo.jpg"_s});
 }
 
 TEST(AtomicFile, CommitsOnce)
@@ -137,7 +134,7 @@ TEST(AtomicFile, CommitsOnce)
 
     EXPECT_TRUE(file.commit());
     EXPECT_FALSE(file.commit());
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"photo.jpg"_s});
 }
 
 TEST(AtomicFile, KeepsModeAndOwnerOfTheTarget)
@@ -193,7 +190,7 @@ TEST(AtomicFile, TakesTheLongestNames)
     EXPECT_TRUE(writeFileAtomically(folder.path(ascii), "a"));
     EXPECT_TRUE(writeFileAtomically(folder.path(accents), "b"));
 
-    EXPECT_EQ(allEntries(folder).size(), 2);
+    EXPECT_EQ(allEntries(folder.path()).size(), 2);
     EXPECT_EQ(TemporaryFolder::read(folder.path(accents)), "b");
 }
 
@@ -203,7 +200,7 @@ TEST(AtomicFile, FailsForANameThatIsTooLong)
 
     EXPECT_FALSE(writeFileAtomically(folder.path(QString(256, u'n')), "a"));
 
-    EXPECT_EQ(allEntries(folder), QStringList());
+    EXPECT_EQ(allEntries(folder.path()), QStringList());
 }
 
 TEST(AtomicFile, FailsWithoutItsFolder)
@@ -213,7 +210,7 @@ TEST(AtomicFile, FailsWithoutItsFolder)
 
     EXPECT_FALSE(AtomicFile(path).isValid());
     EXPECT_FALSE(writeFileAtomically(path, "a"));
-    EXPECT_EQ(allEntries(folder), QStringList());
+    EXPECT_EQ(allEntries(folder.path()), QStringList());
     EXPECT_EQ(AtomicFile(path).fault(), u"No such file or directory"_s);
 }
 
@@ -280,7 +277,7 @@ TEST(AtomicFile, FailsInAReadOnlyFolder)
     setMode(folder.path(), 0755);
 
     EXPECT_EQ(TemporaryFolder::read(path), "old");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"photo.jpg"_s});
 }
 
 TEST(AtomicFile, LeavesTheOldFileOnAFullDisk)
@@ -293,5 +290,5 @@ TEST(AtomicFile, LeavesTheOldFileOnAFullDisk)
     }
 
     EXPECT_EQ(TemporaryFolder::read(path), "old");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"photo.jpg"_s});
 }

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "all_entries.h"
+
 #include <platform/storage/file_system.h>
 
 #include <support/faults.h>
@@ -19,13 +21,6 @@ using namespace brenvaldo::platform::storage;
 using namespace brenvaldo::test;
 
 namespace {
-
-QStringList allEntries(const QString& folder)
-{
-    return QDir(folder).entryList(
-        QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name
-    );
-}
 
 QStringList relativePaths(const QList<FolderEntry>& entries, const TemporaryFolder& folder)
 {

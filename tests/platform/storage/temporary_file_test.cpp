@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "all_entries.h"
+
 #include <platform/storage/temporary_file.h>
 
 #include <support/case_name.h>
@@ -11,6 +13,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::storage;
+using brenvaldo::test::allEntries;
 using brenvaldo::test::CaseName;
 using brenvaldo::test::TemporaryFolder;
 
@@ -23,12 +26,6 @@ struct FormCase
 
     friend void PrintTo(const FormCase& row, std::ostream* out) { *out << row.name; }
 };
-
-QStringList allEntries(const TemporaryFolder& folder)
-{
-    return QDir(folder.path())
-        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-}
 
 bool fill(const TemporaryFile& temporary, const QByteArray& contents)
 {
@@ -53,7 +50,7 @@ TEST_P(TemporaryFileForm, TakesANewName)
 
     EXPECT_FALSE(file.isValid());
     EXPECT_EQ(TemporaryFolder::read(folder.path(u"photo.jpg"_s)), "contents");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"photo.jpg"_s});
 }
 
 TEST_P(TemporaryFileForm, TakesTheNameOfAnother)
@@ -66,7 +63,7 @@ TEST_P(TemporaryFileForm, TakesTheNameOfAnother)
     EXPECT_TRUE(file.moveTo(path));
 
     EXPECT_EQ(TemporaryFolder::read(path), "new");
-    EXPECT_EQ(allEntries(folder), QStringList{u"photo.jpg"_s});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"photo.jpg"_s});
 }
 
 TEST_P(TemporaryFileForm, GoesAwayWithItsObject)
@@ -77,7 +74,7 @@ TEST_P(TemporaryFileForm, GoesAwayWithItsObject)
         ASSERT_TRUE(fill(file, "contents"));
     }
 
-    EXPECT_EQ(allEntries(folder), QStringList());
+    EXPECT_EQ(allEntries(folder.path()), QStringList());
 }
 
 TEST_P(TemporaryFileForm, StaysTemporaryWhereItCanNotGo)
@@ -92,7 +89,7 @@ TEST_P(TemporaryFileForm, StaysTemporaryWhereItCanNotGo)
         EXPECT_TRUE(fill(file, "contents"));
     }
 
-    EXPECT_EQ(allEntries(folder), QStringList{u"taken"_s});
+    EXPECT_EQ(allEntries(folder.path()), QStringList{u"taken"_s});
 }
 
 TEST_P(TemporaryFileForm, TakesNoNameThatIsToBeKept)
@@ -123,12 +120,12 @@ TEST(TemporaryFile, ShowsInItsFolderWhenHiddenAlone)
 {
     const TemporaryFolder folder;
     const TemporaryFile nameless(folder.path());
-    EXPECT_EQ(allEntries(folder), QStringList());
+    EXPECT_EQ(allEntries(folder.path()), QStringList());
 
     const TemporaryFile hidden(folder.path(), TemporaryFile::Form::Hidden);
 
-    ASSERT_EQ(allEntries(folder).size(), 1);
-    EXPECT_TRUE(allEntries(folder).first().startsWith(u".brenvaldo-"));
+    ASSERT_EQ(allEntries(folder.path()).size(), 1);
+    EXPECT_TRUE(allEntries(folder.path()).first().startsWith(u".brenvaldo-"));
 }
 
 TEST(TemporaryFile, IsInvalidWithoutItsFolder)

@@ -47,7 +47,7 @@ class FieldTag : public testing::TestWithParam<Tag>
 {
 };
 
-const workspace::Functions& rows()
+const workspace::Functions& builtRows()
 {
     static const workspace::Functions functions(workspace::functions());
     return functions;
@@ -69,7 +69,7 @@ void expectRow(const workspace::Function* row, const Row& expected)
 
 TEST_P(EditFunctions, FillTheHoldersOfTheirRow)
 {
-    expectRow(rows().at(workspace::Section::EditPhoto, GetParam().index), GetParam());
+    expectRow(builtRows().at(workspace::Section::EditPhoto, GetParam().index), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(FileManagementFunctions, FillTheHoldersOfTheirRow)
 {
-    expectRow(rows().at(workspace::Section::FileManagement, GetParam().index), GetParam());
+    expectRow(builtRows().at(workspace::Section::FileManagement, GetParam().index), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -124,15 +124,15 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(FunctionTable, EndsAfterItsRows)
 {
-    EXPECT_EQ(rows().at(workspace::Section::EditPhoto, -1), nullptr);
-    EXPECT_EQ(rows().at(workspace::Section::EditPhoto, 10), nullptr);
-    EXPECT_EQ(rows().at(workspace::Section::FileManagement, -1), nullptr);
-    EXPECT_EQ(rows().at(workspace::Section::FileManagement, 5), nullptr);
+    EXPECT_EQ(builtRows().at(workspace::Section::EditPhoto, -1), nullptr);
+    EXPECT_EQ(builtRows().at(workspace::Section::EditPhoto, 10), nullptr);
+    EXPECT_EQ(builtRows().at(workspace::Section::FileManagement, -1), nullptr);
+    EXPECT_EQ(builtRows().at(workspace::Section::FileManagement, 5), nullptr);
 }
 
 TEST_P(FieldTag, SelectsTheFunctionOfItsRange)
 {
-    const workspace::Function* function = rows().ofFieldTag(GetParam().tag);
+    const workspace::Function* function = builtRows().ofFieldTag(GetParam().tag);
 
     EXPECT_EQ(function ? function->id : QLatin1String(""), QLatin1String(GetParam().function));
 }

@@ -10,13 +10,13 @@ using namespace brenvaldo;
 
 namespace {
 
-struct Row
+struct TakenPhotos
 {
     const char* name; ///< function id
     QStringList taken;
 };
 
-void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
+void PrintTo(const TakenPhotos& row, std::ostream* out) { *out << row.name; }
 
 /// A wide, a tall, an unticked and a square photo, and a file that is no photo; the hidden filter
 /// takes wide ones.
@@ -47,7 +47,7 @@ protected:
     }
 };
 
-class PhotosOfEachRun : public PhotosOfRun, public testing::WithParamInterface<Row>
+class PhotosOfEachRun : public PhotosOfRun, public testing::WithParamInterface<TakenPhotos>
 {
 };
 
@@ -62,18 +62,18 @@ INSTANTIATE_TEST_SUITE_P(
     Functions,
     PhotosOfEachRun,
     testing::Values(
-        Row{"textWM", {u"wide"_s}},
-        Row{"imageWM", {u"wide"_s}},
-        Row{"addTint", {u"wide"_s}},
-        Row{"resizePhotos", {u"wide"_s}},
-        Row{"batchUploadPhotos", {u"wide"_s}},
-        Row{"batchExifUC", {u"wide"_s}},
-        Row{"htmlExport", {u"wide"_s}},
-        Row{"fileRenaming", {u"wide"_s, u"tall"_s, u"square"_s, u"text"_s}},
-        Row{"batchFileConvert", {u"wide"_s, u"tall"_s, u"square"_s, u"text"_s}},
-        Row{"manSort", {}},
-        Row{"batchSort", {}},
-        Row{"batchQR", {}}
+        TakenPhotos{"textWM", {u"wide"_s}},
+        TakenPhotos{"imageWM", {u"wide"_s}},
+        TakenPhotos{"addTint", {u"wide"_s}},
+        TakenPhotos{"resizePhotos", {u"wide"_s}},
+        TakenPhotos{"batchUploadPhotos", {u"wide"_s}},
+        TakenPhotos{"batchExifUC", {u"wide"_s}},
+        TakenPhotos{"htmlExport", {u"wide"_s}},
+        TakenPhotos{"fileRenaming", {u"wide"_s, u"tall"_s, u"square"_s, u"text"_s}},
+        TakenPhotos{"batchFileConvert", {u"wide"_s, u"tall"_s, u"square"_s, u"text"_s}},
+        TakenPhotos{"manSort", {}},
+        TakenPhotos{"batchSort", {}},
+        TakenPhotos{"batchQR", {}}
     ),
     test::CaseName{}
 );
