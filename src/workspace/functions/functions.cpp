@@ -65,12 +65,10 @@ const Function* Functions::ofFieldTag(int tag) const
 
 std::vector<Function> functions()
 {
-    return {
-        textWatermark(),     imageWatermark(), addTint(),      framing(),     roundings(),
-        profileConversion(), faces(),          rotatePhotos(), filters(),     resizePhotos(),
-        cropPhotos(),        sortByHand(),     batchSort(),    photoUpload(), exifComment(),
-        fileRenaming(),      fileConversion(), codes(),        gallery(),
-    };
+    std::vector<Function> made;
+    for (const auto& row : catalogue)
+        made.push_back(row());
+    return made;
 }
 
 bool hasOperation(const KindOfRun& run)

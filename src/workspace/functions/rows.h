@@ -3,8 +3,10 @@
 
 #include "function.h"
 
+#include <array>
+
 /// \file
-/// The rows, each made in a file of its own.
+/// The rows, each made in the file of its name.
 
 namespace brenvaldo::workspace {
 
@@ -27,5 +29,13 @@ namespace brenvaldo::workspace {
 [[nodiscard]] Function fileConversion();
 [[nodiscard]] Function codes();
 [[nodiscard]] Function gallery();
+
+/// All of them, in their order.
+inline constexpr std::array catalogue{
+    textWatermark,     imageWatermark, addTint,      framing,     roundings,
+    profileConversion, faces,          rotatePhotos, filters,     resizePhotos,
+    cropPhotos,        sortByHand,     batchSort,    photoUpload, exifComment,
+    fileRenaming,      fileConversion, codes,        gallery,
+};
 
 } // namespace brenvaldo::workspace
