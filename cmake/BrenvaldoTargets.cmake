@@ -47,20 +47,26 @@ add_test(NAME layers.check COMMAND ${CMAKE_COMMAND} -DTREE=${CMAKE_BINARY_DIR}/l
 )
 add_custom_target(check_headers COMMENT "All headers are complete")
 
-# brenvaldo_library(<folder below src> PRECOMPILED <kind> DEPENDS <folders> EXTERNAL <targets> HEADERS <...> SOURCES <...>)
+# brenvaldo_files(<variable> <pattern>): the files of this folder and its rooms. What stands in the folder belongs to
+# it: a list beside it would only be a second place to name each file, and ninja looks again at each build.
+function(brenvaldo_files variable pattern)
+  file(GLOB_RECURSE files CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" "${pattern}")
+  set(${variable} "${files}" PARENT_SCOPE)
+endfunction()
+
+# brenvaldo_library(<folder below src> PRECOMPILED <kind> DEPENDS <folders> EXTERNAL <targets>)
 #
-# One static library a folder. DEPENDS is the only place that grants an include of another folder: the test
+# One static library a folder, of all sources but the program's main.cpp. DEPENDS is the only place that grants an include of another folder: the test
 # layers.<folder> fails on any other. PRECOMPILED names the kind of precompiled headers: core unless told.
 function(brenvaldo_library folder)
   cmake_parse_arguments(
-    PARSE_ARGV 1 arg "" "PRECOMPILED" "DEPENDS;EXTERNAL;EXTERNAL_PUBLIC;HEADERS;SOURCES"
+    PARSE_ARGV 1 arg "" "PRECOMPILED" "DEPENDS;EXTERNAL;EXTERNAL_PUBLIC"
   )
   string(REPLACE "/" "_" target "${folder}")
-  add_library(${target} STATIC ${arg_SOURCES})
-  target_sources(
-    ${target} PUBLIC FILE_SET HEADERS BASE_DIRS "${CMAKE_SOURCE_DIR}/src" FILES ${arg_HEADERS}
-  )
-  set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+  brenvaldo_files(headers "*.h")
+  brenvaldo_files(sources "*.cpp")
+  list(REMOVE_ITEM sources main.cpp)
+  add_library(${target} STATIC ${sources})
   set(dependencies "${arg_DEPENDS}")
   list(TRANSFORM dependencies REPLACE "/" "_")
   target_link_libraries(
@@ -73,13 +79,13 @@ function(brenvaldo_library folder)
   endif()
   brenvaldo_precompile(${target} ${arg_PRECOMPILED})
   brenvaldo_check_layers("${folder}" "${arg_DEPENDS}")
-  brenvaldo_check_headers(${target} "${folder}" "${arg_HEADERS}")
+  brenvaldo_check_headers(${target} "${folder}" "${headers}")
 endfunction()
 
-# brenvaldo_program(<folder below src> NAME <program> DEPENDS <folders> EXTERNAL <targets> SOURCES <...>)
+# brenvaldo_program(<folder below src> NAME <program> DEPENDS <folders> EXTERNAL <targets>): the program of main.cpp.
 function(brenvaldo_program folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "NAME" "DEPENDS;EXTERNAL;SOURCES")
-  add_executable(${arg_NAME} ${arg_SOURCES})
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "NAME" "DEPENDS;EXTERNAL")
+  add_executable(${arg_NAME} main.cpp)
   set(dependencies "${arg_DEPENDS}")
   list(TRANSFORM dependencies REPLACE "/" "_")
   target_link_libraries(${arg_NAME} PRIVATE brenvaldo_flags Qt6::Core ${dependencies} ${arg_EXTERNAL})
@@ -102,21 +108,33 @@ function(brenvaldo_check_layers folder depends)
 endfunction()
 
 # The target check_headers compiles all headers of a folder in one file, and in the reverse order in another: a
-# header that leans on one before it fails in one of the two. (all_verify_interface_header_sets compiles each by
-# itself, which takes six times as long.)
-function(brenvaldo_check_headers target folder declared)
-  file(GLOB headers CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
-  list(APPEND headers ${declared})
-  list(REMOVE_DUPLICATES headers)
-  foreach(order ASCENDING DESCENDING)
-    list(SORT headers ORDER ${order})
-    list(TRANSFORM headers REPLACE "(.+)" "#include <${folder}/\\1>\n" OUTPUT_VARIABLE lines)
-    list(JOIN lines "" lines)
-    file(CONFIGURE OUTPUT headers_${order}.cpp CONTENT "${lines}" @ONLY)
-  endforeach()
-  add_library(${target}_headers OBJECT EXCLUDE_FROM_ALL headers_ASCENDING.cpp headers_DESCENDING.cpp)
+# header that leans on one before it fails in one of the two. BRENVALDO_EACH_HEADER compiles each by itself, which
+# takes six times as long.
+function(brenvaldo_check_headers target folder headers)
+  set(sources "")
+  if(BRENVALDO_EACH_HEADER)
+    foreach(header IN LISTS headers)
+      brenvaldo_includes(source "each/${header}.cpp" "${folder}" "${header}")
+      list(APPEND sources "${source}")
+    endforeach()
+  else()
+    foreach(order ASCENDING DESCENDING)
+      list(SORT headers ORDER ${order})
+      brenvaldo_includes(source "headers_${order}.cpp" "${folder}" "${headers}")
+      list(APPEND sources "${source}")
+    endforeach()
+  endif()
+  add_library(${target}_headers OBJECT EXCLUDE_FROM_ALL ${sources})
   set_target_properties(${target}_headers PROPERTIES UNITY_BUILD OFF)
   target_compile_options(${target}_headers PRIVATE -O0 -g0)
   target_link_libraries(${target}_headers PRIVATE $<TARGET_PROPERTY:${target},LINK_LIBRARIES>)
   add_dependencies(check_headers ${target}_headers)
+endfunction()
+
+# brenvaldo_includes(<variable> <name> <folder> <headers>): makes a source that includes the headers of the folder.
+function(brenvaldo_includes variable name folder headers)
+  list(TRANSFORM headers REPLACE "(.+)" "#include <${folder}/\\1>\n" OUTPUT_VARIABLE lines)
+  list(JOIN lines "" lines)
+  file(CONFIGURE OUTPUT "${name}" CONTENT "${lines}" @ONLY)
+  set(${variable} "${CMAKE_CURRENT_BINARY_DIR}/${name}" PARENT_SCOPE)
 endfunction()
