@@ -14,7 +14,7 @@ using test::PhotoBuilder;
 
 namespace {
 
-class KeptProperties : public testing::Test
+class PropertiesKept : public testing::Test
 {
 protected:
     QString widthOf(const QString& path)
@@ -30,7 +30,7 @@ protected:
 
 } // namespace
 
-TEST_F(KeptProperties, AreReadOnceWhileTheFileStays)
+TEST_F(PropertiesKept, AreReadOnceWhileTheFileStays)
 {
     const QString path = PhotoBuilder().size(40, 20).write(folder.path(u"a.jpg"_s));
 
@@ -40,7 +40,7 @@ TEST_F(KeptProperties, AreReadOnceWhileTheFileStays)
     EXPECT_EQ(widthOf(path), u"40"_s);
 }
 
-TEST_F(KeptProperties, AreReadAnewWhenTheFileHasChanged)
+TEST_F(PropertiesKept, AreReadAnewWhenTheFileHasChanged)
 {
     const QString path = PhotoBuilder().size(40, 20).write(folder.path(u"a.jpg"_s));
     EXPECT_EQ(widthOf(path), u"40"_s);
@@ -50,7 +50,7 @@ TEST_F(KeptProperties, AreReadAnewWhenTheFileHasChanged)
     EXPECT_EQ(widthOf(path), u"90"_s);
 }
 
-TEST_F(KeptProperties, AreThoseOfThePhotoAskedFor)
+TEST_F(PropertiesKept, AreThoseOfThePhotoAskedFor)
 {
     const QString first = PhotoBuilder().size(40, 20).write(folder.path(u"a.jpg"_s));
     const QString second = PhotoBuilder().size(50, 20).write(folder.path(u"b.jpg"_s));
@@ -60,7 +60,7 @@ TEST_F(KeptProperties, AreThoseOfThePhotoAskedFor)
     EXPECT_EQ(widthOf(first), u"40"_s);
 }
 
-TEST_F(KeptProperties, OfAnUnreadableFileAreEmpty)
+TEST_F(PropertiesKept, OfAnUnreadableFileAreEmpty)
 {
     EXPECT_EQ(widthOf(folder.path(u"none.jpg"_s)), QString());
 }

@@ -25,23 +25,23 @@ constexpr int topLeft = 0;
 constexpr int centre = 4;
 constexpr int bottomLeft = 6;
 
-struct KindCase
+struct FilledKind
 {
     const char* name;
     PhotoModel model;
     int depth;
     bool isWide = false;
 
-    friend void PrintTo(const KindCase& row, std::ostream* out) { *out << row.name; }
+    friend void PrintTo(const FilledKind& row, std::ostream* out) { *out << row.name; }
 };
 
-class TextFilledWithThePhoto : public testing::TestWithParam<KindCase>
+class TextFilledWithThePhoto : public testing::TestWithParam<FilledKind>
 {
 protected:
     /// A photo with levels of its full depth: enlarged from a few pixels.
     [[nodiscard]] platform::graphics::Image photo() const
     {
-        const KindCase& row = GetParam();
+        const FilledKind& row = GetParam();
         PhotoBuilder builder;
         builder.size(16, 12).model(row.model).depth(row.depth).format(PhotoFormat::Tiff);
         builder.pixels([](int x, int y) {
@@ -106,11 +106,11 @@ INSTANTIATE_TEST_SUITE_P(
     Table,
     TextFilledWithThePhoto,
     testing::Values(
-        KindCase{"Rgb8", PhotoModel::Rgb, 8},
-        KindCase{"WideRgb8", PhotoModel::Rgb, 8, true},
-        KindCase{"WideRgb16", PhotoModel::Rgb, 16, true},
-        KindCase{"Gray16", PhotoModel::Gray, 16},
-        KindCase{"Cmyk8", PhotoModel::Cmyk, 8}
+        FilledKind{"Rgb8", PhotoModel::Rgb, 8},
+        FilledKind{"WideRgb8", PhotoModel::Rgb, 8, true},
+        FilledKind{"WideRgb16", PhotoModel::Rgb, 16, true},
+        FilledKind{"Gray16", PhotoModel::Gray, 16},
+        FilledKind{"Cmyk8", PhotoModel::Cmyk, 8}
     ),
     CaseName()
 );

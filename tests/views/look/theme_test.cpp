@@ -12,7 +12,13 @@
 #include <cmath>
 
 using namespace Qt::StringLiterals;
-using namespace brenvaldo::views;
+using brenvaldo::views::colors;
+using brenvaldo::views::Colors;
+using brenvaldo::views::colorsOf;
+using brenvaldo::views::DesktopScheme;
+using brenvaldo::views::paletteOf;
+using brenvaldo::views::Scheme;
+using brenvaldo::views::wishedScheme;
 
 namespace {
 
