@@ -18,7 +18,7 @@ using brenvaldo::controls::TextField;
 using brenvaldo::panels::Panels;
 using brenvaldo::platform::graphics::Color;
 using brenvaldo::test::CaseName;
-using brenvaldo::test::red;
+using brenvaldo::test::plainRed;
 
 namespace {
 
@@ -133,7 +133,7 @@ TEST(SetHexValue, TellsAHashApartFromTheFieldReader)
 {
     ColorWell well(u"cwTest"_s);
 
-    EXPECT_EQ(cColorWellHandling::setHEXValue(u"#FF0000"_s, well), red);
+    EXPECT_EQ(cColorWellHandling::setHEXValue(u"#FF0000"_s, well), plainRed);
     EXPECT_EQ(cNSColorHandling::colorFromHexRGB(u"#FF0000"_s), black);
 }
 
@@ -229,7 +229,7 @@ TEST(ColorWellTags, LetTheWellFollowItsHexField)
 
     handling.controlTextDidEndEditing(field);
 
-    EXPECT_EQ(well->color(), red);
+    EXPECT_EQ(well->color(), plainRed);
 }
 
 TEST(ColorWellTags, LetTheHexFieldFollowItsWell)
@@ -265,11 +265,13 @@ TEST(ColorWellTags, AreReadByTheActionsOfFieldsAndWells)
 
     EXPECT_EQ(edited, ActionRegistry::Sent::Done);
     EXPECT_EQ(chosen, ActionRegistry::Sent::Done);
-    EXPECT_EQ(well->color(), red);
+    EXPECT_EQ(well->color(), plainRed);
     EXPECT_EQ(hexField->stringValue(), u"7F7F7F"_s);
 }
 
 TEST(DrawingColor, KeepsComponentsAndSpace)
 {
-    EXPECT_EQ(DVColorConversions::NSColorToCGColor(red.withAlpha(0.25)), red.withAlpha(0.25));
+    EXPECT_EQ(
+        DVColorConversions::NSColorToCGColor(plainRed.withAlpha(0.25)), plainRed.withAlpha(0.25)
+    );
 }

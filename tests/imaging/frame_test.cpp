@@ -80,14 +80,14 @@ protected:
 
 TEST_F(Frame, InsideCoversTheOutermostPixelsAndClosesAllCorners)
 {
-    const QImage picture = framed({.frameType = 0, .thickness = 10, .color = red});
+    const QImage picture = framed({.frameType = 0, .thickness = 10, .color = plainRed});
     EXPECT_EQ(picture.size(), QSize(100, 100));
     expectBand(picture, 0, 10);
 }
 
 TEST_F(Frame, InsideLeavesThePhotoOutsideOfItsInset)
 {
-    expectBand(framed({.frameType = 0, .thickness = 10, .inset = 20, .color = red}), 20, 30);
+    expectBand(framed({.frameType = 0, .thickness = 10, .inset = 20, .color = plainRed}), 20, 30);
 }
 
 TEST_F(Frame, OutsideGrowsTheCanvasAndLeavesThePhotoAsItIs)
@@ -97,7 +97,7 @@ TEST_F(Frame, OutsideGrowsTheCanvasAndLeavesThePhotoAsItIs)
                              .size(100, 100)
                              .gradient()
                              .write(folder.path(u"a.png"_s));
-    const FrameSettings settings{.frameType = 1, .thickness = 10, .inset = 33, .color = red};
+    const FrameSettings settings{.frameType = 1, .thickness = 10, .inset = 33, .color = plainRed};
     ASSERT_EQ(add(path, settings, 1), ResultWord::Ok);
     const QImage picture = storedPixels(folder.path(u"out/a.png"_s));
 
@@ -115,7 +115,7 @@ TEST_F(Frame, OutsideGrowsTheCanvasAndLeavesThePhotoAsItIs)
 
 TEST_F(Frame, OutsideIsTheSameWithAnyInset)
 {
-    const FrameSettings settings{.frameType = 1, .thickness = 10, .color = red};
+    const FrameSettings settings{.frameType = 1, .thickness = 10, .color = plainRed};
     FrameSettings inset = settings;
     inset.inset = 33;
     EXPECT_EQ(framed(settings), framed(inset));
@@ -139,13 +139,15 @@ TEST_F(Frame, IsBlendedAndTranslucent)
     EXPECT_EQ(framed(settings).pixelColor(1, 1), QColor(0, 0, 128));
     settings.blendIndex = 0;
     EXPECT_EQ(framed(settings).pixelColor(1, 1), grey);
-    EXPECT_EQ(framed({.thickness = 10, .color = red}, 0.01).pixelColor(1, 1), QColor(3, 0, 252));
+    EXPECT_EQ(
+        framed({.thickness = 10, .color = plainRed}, 0.01).pixelColor(1, 1), QColor(3, 0, 252)
+    );
 }
 
 TEST_F(Frame, InsideFadesAlongARectangleThatLosesTheInsetOnce)
 {
     FrameSettings settings{
-        .thickness = 100, .inset = 20, .gradientState = 1, .angleIndex = 0, .color = red};
+        .thickness = 100, .inset = 20, .gradientState = 1, .angleIndex = 0, .color = plainRed};
     // The middle of the fade stands at 60, so it begins at 10 and ends at 110.
     const QImage right = framed(settings);
     EXPECT_NEAR(right.pixelColor(60, 50).blue(), 128, 2);
@@ -170,15 +172,15 @@ TEST_F(Frame, OutsideFadesFromTheCornerOfTheCanvas)
 
 TEST_F(Frame, WithoutThicknessIsNone)
 {
-    EXPECT_EQ(framed({.thickness = 0, .color = red}), storedPixels(photo()));
-    EXPECT_EQ(framed({.frameType = 1, .thickness = 0, .color = red}), storedPixels(photo()));
+    EXPECT_EQ(framed({.thickness = 0, .color = plainRed}), storedPixels(photo()));
+    EXPECT_EQ(framed({.frameType = 1, .thickness = 0, .color = plainRed}), storedPixels(photo()));
 }
 
 TEST_F(Frame, OfAnyMeasureIsDrawn)
 {
     for (const std::int64_t far : {std::int64_t{100'000}, INT64_MAX, INT64_MIN}) {
-        framed({.thickness = 10, .inset = far, .color = red});
-        framed({.thickness = far, .inset = 5, .color = red});
+        framed({.thickness = 10, .inset = far, .color = plainRed});
+        framed({.thickness = far, .inset = 5, .color = plainRed});
     }
 }
 
@@ -239,7 +241,7 @@ TEST_F(Frame, LooksTheSameInThePreviewAndInTheFile)
             .blendIndex = 4,
             .gradientState = 1,
             .angleIndex = 1,
-            .color = red};
+            .color = plainRed};
         const auto shown = DVImageHandling::hAddFramePreview(photo(), settings);
         ASSERT_TRUE(shown);
         EXPECT_EQ(shown->toQImage(), framed(settings, 0.6)) << frameType;
@@ -248,8 +250,9 @@ TEST_F(Frame, LooksTheSameInThePreviewAndInTheFile)
 
 TEST_F(Frame, IsStrongInThePreviewWithoutAnOpacity)
 {
-    const auto shown
-        = DVImageHandling::hAddFramePreview(photo(), {.thickness = 10, .opacity = 0, .color = red});
+    const auto shown = DVImageHandling::hAddFramePreview(
+        photo(), {.thickness = 10, .opacity = 0, .color = plainRed}
+    );
     ASSERT_TRUE(shown);
     EXPECT_EQ(shown->toQImage().pixelColor(1, 1), redPixel);
 }
@@ -263,7 +266,7 @@ TEST_F(Frame, IsDrawnInsideOfAPictureInMemory)
                                                                 .write(folder.path(u"a.jpg"_s)));
     ASSERT_TRUE(image);
     const auto framed = DVImageHandling::peeAddBorderToImageInside(
-        *image, {.frameType = 1, .thickness = 10, .inset = 0, .opacity = 0, .color = red}
+        *image, {.frameType = 1, .thickness = 10, .inset = 0, .opacity = 0, .color = plainRed}
     );
     EXPECT_EQ(framed.dotsPerInch(), 72);
     EXPECT_EQ(framed.pixelSize(), (platform::graphics::PixelSize{100, 100}));
@@ -273,16 +276,16 @@ TEST_F(Frame, IsDrawnInsideOfAPictureInMemory)
 TEST_F(Frame, OfAGalleryRunsOnTheEdgeAndReplacesTheFile)
 {
     const QString path = photo();
-    EXPECT_EQ(handling.addBorderToImage2(path, red, 10), ResultWord::Ok);
+    EXPECT_EQ(handling.addBorderToImage2(path, plainRed, 10), ResultWord::Ok);
     EXPECT_EQ(handling.storeResult(), ResultWord::Ok);
     expectBand(storedPixels(path), 0, 5);
 }
 
 TEST_F(Frame, OfAGalleryFailsForAnUnreadablePhoto)
 {
-    handling.addBorderToImage2(photo(), red, 10);
+    handling.addBorderToImage2(photo(), plainRed, 10);
     const QString missing = folder.path(u"missing.png"_s);
-    EXPECT_EQ(handling.addBorderToImage2(missing, red, 10), ResultWord::Failed);
+    EXPECT_EQ(handling.addBorderToImage2(missing, plainRed, 10), ResultWord::Failed);
     EXPECT_EQ(handling.storeResult(), ResultWord::Failed);
     EXPECT_FALSE(QFile::exists(missing));
 }

@@ -7,8 +7,8 @@
 
 namespace brenvaldo::test {
 
-inline constexpr platform::graphics::Color red{.red = 1};
-inline constexpr platform::graphics::Color green{.green = 1};
+inline constexpr platform::graphics::Color plainRed{.red = 1};
+inline constexpr platform::graphics::Color plainGreen{.green = 1};
 
 /// The same colours as a picture shows them.
 inline const QColor redPixel(255, 0, 0);

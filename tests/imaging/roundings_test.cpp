@@ -113,7 +113,7 @@ TEST_F(Roundings, HaveABorderAroundTheUnscaledPhoto)
                              .write(folder.path(u"a.png"_s));
     const RoundingSettings settings{
         .radius = 20,
-        .borderColour = red,
+        .borderColour = plainRed,
         .borderState = 1,
         .borderWidth = 10,
         .borderPosition = around};
@@ -135,7 +135,11 @@ TEST_F(Roundings, HaveABorderAroundTheUnscaledPhoto)
 TEST_F(Roundings, HaveABorderOnThePhoto)
 {
     RoundingSettings settings{
-        .type = ellipse, .borderColour = red, .borderState = 1, .borderWidth = 10, .opacity = 100};
+        .type = ellipse,
+        .borderColour = plainRed,
+        .borderState = 1,
+        .borderWidth = 10,
+        .opacity = 100};
     const QImage picture = rounded(settings);
     EXPECT_EQ(picture.size(), QSize(400, 300));
     EXPECT_EQ(picture.pixelColor(5, 150), redPixel);
@@ -147,7 +151,7 @@ TEST_F(Roundings, HaveABorderOnThePhoto)
 TEST_F(Roundings, DrawABorderWithoutOpacityAtFullStrength)
 {
     RoundingSettings settings{
-        .type = ellipse, .borderColour = red, .borderState = 1, .borderWidth = 20};
+        .type = ellipse, .borderColour = plainRed, .borderState = 1, .borderWidth = 20};
     for (const auto& [opacity, share] :
          {std::pair(0, 1.0), std::pair(150, 1.0), std::pair(-1, 0.1), std::pair(40, 0.4)}) {
         settings.opacity = opacity;
@@ -159,7 +163,7 @@ TEST_F(Roundings, BlendAndFadeTheBorder)
 {
     RoundingSettings settings{
         .type = ellipse,
-        .borderColour = red,
+        .borderColour = plainRed,
         .borderState = 1,
         .borderWidth = 20,
         .angleIndex = 1,
@@ -178,7 +182,7 @@ TEST_F(Roundings, BlendAndFadeTheBorder)
 TEST_F(Roundings, LieOnABackgroundWithAMargin)
 {
     RoundingSettings settings{
-        .radius = 50, .backgroundColour = green, .backgroundState = 1, .margin = 20};
+        .radius = 50, .backgroundColour = plainGreen, .backgroundState = 1, .margin = 20};
     const QImage picture = rounded(settings);
     ASSERT_EQ(picture.size(), QSize(440, 340));
     EXPECT_EQ(picture.pixelColor(0, 0), greenPixel);
@@ -226,8 +230,8 @@ TEST_F(Roundings, LookTheSameInThePreviewAndInTheFile)
 {
     const RoundingSettings settings{
         .radius = 60,
-        .borderColour = red,
-        .backgroundColour = green,
+        .borderColour = plainRed,
+        .backgroundColour = plainGreen,
         .borderState = 1,
         .borderWidth = 15,
         .backgroundState = 1,

@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 using namespace brenvaldo::imaging;
 using brenvaldo::platform::drawing::AttributedText;
 using brenvaldo::platform::graphics::Color;
-using brenvaldo::test::green;
-using brenvaldo::test::red;
+using brenvaldo::test::plainGreen;
+using brenvaldo::test::plainRed;
 
 namespace {
 
@@ -34,7 +34,7 @@ QImage discLayer()
     return layer;
 }
 
-QImage embossed(const QString& texture, const Color& color = red, float scale = 0.5F)
+QImage embossed(const QString& texture, const Color& color = plainRed, float scale = 0.5F)
 {
     return DVImageHandling::embossTextWatermarkEffect(discLayer(), texture, color, scale);
 }
@@ -73,13 +73,13 @@ TEST(EmbossedText, LooksDifferentForEachTexture)
 
 TEST(EmbossedText, TakesItsColorForTheSixthTextureOnly)
 {
-    EXPECT_NE(embossed(u"texture6"_s, red), embossed(u"texture6"_s, green));
-    EXPECT_EQ(embossed(u"texture5"_s, red), embossed(u"texture5"_s, green));
+    EXPECT_NE(embossed(u"texture6"_s, plainRed), embossed(u"texture6"_s, plainGreen));
+    EXPECT_EQ(embossed(u"texture5"_s, plainRed), embossed(u"texture5"_s, plainGreen));
 }
 
 TEST(EmbossedText, HasTheDefaultHeightWhateverTheScale)
 {
-    EXPECT_EQ(embossed(u"texture1"_s, red, 0.5F), embossed(u"texture1"_s, red, 40));
+    EXPECT_EQ(embossed(u"texture1"_s, plainRed, 0.5F), embossed(u"texture1"_s, plainRed, 40));
 }
 
 TEST(ColorBall, IsOfTheColorAtItsHighlightAndBlackAtItsRim)
@@ -101,7 +101,7 @@ TEST(PictureOfAText, ShowsTheTextOnAGroundOfItsMeasuredSize)
     font.setPixelSize(40);
     const AttributedText text(u"\u25a0 "_s, {.font = font}); // a square, then a blank
 
-    const QImage image = DVImageHandling::imageWithAttributedString(text, white, red);
+    const QImage image = DVImageHandling::imageWithAttributedString(text, white, plainRed);
 
     EXPECT_EQ(image.width(), qCeil(text.size().width()));
     EXPECT_EQ(image.height(), qCeil(text.size().height()));
@@ -114,6 +114,6 @@ TEST(PictureOfAText, ShowsTheTextOnAGroundOfItsMeasuredSize)
 TEST(PictureOfAText, OfNoTextIsNone)
 {
     EXPECT_TRUE(
-        DVImageHandling::imageWithAttributedString(AttributedText({}, {}), white, red).isNull()
+        DVImageHandling::imageWithAttributedString(AttributedText({}, {}), white, plainRed).isNull()
     );
 }
