@@ -10,6 +10,7 @@
 #include <jerror.h>
 
 #include <algorithm>
+#include <span>
 
 namespace brenvaldo::platform::codecs {
 
@@ -22,11 +23,39 @@ QString messageOf(j_common_ptr decoder)
     return u"JPEG: "_s + QString::fromLatin1(text);
 }
 
-/// Warnings of the library behind which a part of the picture is made up.
-bool isDamage(int message)
+/// True for bytes that nobody asked for between parts of the picture: something before them ended
+/// too early. Cameras leave such bytes in front of the picture, and of the end marker.
+bool skipsPicture(const jpeg_decompress_struct& decoder)
 {
-    return message == JWRN_HIT_MARKER || message == JWRN_JPEG_EOF || message == JWRN_HUFF_BAD_CODE
-        || message == JWRN_ARITH_BAD_CODE;
+    const int marker = decoder.err->msg_parm.i[1];
+    return decoder.input_scan_number > 0 && marker != JPEG_EOI;
+}
+
+/// True for warnings of the library behind which a part of the picture is made up.
+bool isDamage(j_common_ptr decoder)
+{
+    switch (decoder->err->msg_code) {
+    case JWRN_HIT_MARKER:
+    case JWRN_JPEG_EOF:
+    case JWRN_HUFF_BAD_CODE:
+    case JWRN_ARITH_BAD_CODE:
+    case JWRN_MUST_RESYNC:
+    case JWRN_BOGUS_PROGRESSION:
+        return true;
+    case JWRN_EXTRANEOUS_DATA:
+        return skipsPicture(*reinterpret_cast<j_decompress_ptr>(decoder));
+    default:
+        return false;
+    }
+}
+
+/// True when each component has come in some scan; the library makes up those that have not.
+bool hasAllComponents(const jpeg_decompress_struct& decoder)
+{
+    const std::span components(decoder.comp_info, static_cast<std::size_t>(decoder.num_components));
+    return std::ranges::all_of(components, [](const jpeg_component_info& component) {
+        return component.quant_table != nullptr;
+    });
 }
 
 void ignore(j_decompress_ptr /*decoder*/) { }
@@ -69,7 +98,11 @@ bool JpegReader::start(int shrink)
     if (setjmp(m_errors.back) != 0)
         return false;
     m_decoder.scale_denom = static_cast<unsigned>(shrink);
-    return jpeg_start_decompress(&m_decoder) != FALSE;
+    if (jpeg_start_decompress(&m_decoder) == FALSE)
+        return false;
+    if (!hasAllComponents(m_decoder))
+        vips_error("jpeg", "JPEG: a component of the picture is missing");
+    return hasAllComponents(m_decoder);
 }
 
 bool JpegReader::readRow(JSAMPLE* row)
@@ -99,7 +132,7 @@ void JpegReader::emitMessage(j_common_ptr decoder, int level)
 {
     if (level >= 0)
         return;
-    if (isDamage(decoder->err->msg_code))
+    if (isDamage(decoder))
         fail(decoder);
     if (decoder->err->num_warnings++ == 0)
         log(messageOf(decoder));

@@ -49,9 +49,18 @@ private:
                 m_row.data(), VIPS_REGION_SIZEOF_LINE(out), VIPS_REGION_ADDR(out, 0, m_next)
             );
         }
-        if (m_next == out->im->Ysize)
-            m_reader = nullptr;
-        return true;
+        return m_next < out->im->Ysize || finish();
+    }
+
+    /// A fault in the rows that are rounded off is a fault all the same.
+    bool finish()
+    {
+        const jpeg_decompress_struct& facts = m_reader->facts();
+        bool isWhole = true;
+        while (isWhole && facts.output_scanline < facts.output_height)
+            isWhole = m_reader->readRow(m_row.data());
+        m_reader = nullptr;
+        return isWhole;
     }
 
     bool start(const VipsImage& image)
