@@ -2,6 +2,7 @@
 #include "application.h"
 #include "single_instance.h"
 
+#include <platform/foundation/library_notes.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/toolkit_notes.h>
 #include <platform/foundation/user_defaults.h>
@@ -44,6 +45,7 @@ void nameProgram()
 int main(int argc, char** argv)
 {
     platform::keepToolkitNotesAway();
+    platform::keepLibraryNotesAway();
     const platform::graphics::Engine engine;
     app::Application application(argc, argv);
     nameProgram();

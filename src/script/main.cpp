@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "script_program.h"
 
+#include <platform/foundation/library_notes.h>
 #include <platform/foundation/toolkit_notes.h>
 #include <platform/graphics/engine.h>
 
@@ -13,6 +14,7 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     brenvaldo::platform::keepToolkitNotesAway();
+    brenvaldo::platform::keepLibraryNotesAway();
     const brenvaldo::platform::graphics::Engine engine;
     // Every argument is the name of a script, none an option of the toolkit.
     int applicationArguments = 1;
