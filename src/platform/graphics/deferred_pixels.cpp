@@ -76,8 +76,13 @@ void release(VipsImage* /*out*/, gpointer deferred)
     const std::unique_ptr<Deferred> owned(static_cast<Deferred*>(deferred));
 }
 
+bool isSide(int length) { return length >= 1 && length < VIPS_MAX_COORD; }
+
+/// The engine would take another size than one that it can't take, without a word.
 void setLayout(VipsImage* image, const PixelLayout& layout)
 {
+    if (!isSide(layout.width) || !isSide(layout.height))
+        throw vips::VError("the picture is too long for the engine");
     vips_image_init_fields(
         image,
         layout.width,

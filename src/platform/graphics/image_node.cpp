@@ -5,6 +5,7 @@
 #include "deferred_pixels.h"
 
 #include <platform/foundation/inches.h>
+#include <platform/foundation/literals.h>
 
 #include <algorithm>
 #include <cmath>
@@ -175,7 +176,10 @@ QString faultText(const std::exception& error)
 {
     const QString text = QString::fromUtf8(vips_error_buffer()).simplified();
     vips_error_clear();
-    return text.isEmpty() ? QString::fromUtf8(error.what()).simplified() : text;
+    if (!text.isEmpty())
+        return text;
+    const QString told = QString::fromUtf8(error.what()).simplified();
+    return told.isEmpty() ? u"the data are damaged"_s : told; // some decoders only warn
 }
 
 } // namespace brenvaldo::platform::graphics

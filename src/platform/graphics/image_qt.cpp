@@ -76,6 +76,8 @@ vips::VImage pixelsOf(const QImage& image, const PixelLayout& layout)
     };
     const QImage packed
         = image.convertToFormat(formats[static_cast<std::size_t>(layout.bands - 1)]);
+    if (packed.isNull())
+        throw vips::VError("no memory for the picture");
     const vips::VImage pixels = newMemoryPixels(layout);
     const auto rowBytes
         = static_cast<std::size_t>(layout.width) * static_cast<std::size_t>(layout.bands);
@@ -92,17 +94,18 @@ Image Image::fromQImage(const QImage& image)
         || image.format() == QImage::Format_Grayscale16;
     node.colorModel = isGray ? ColorModel::Gray : ColorModel::Rgb;
     node.hasAlpha = !isGray && image.hasAlphaChannel();
-    node.pixels = pixelsOf(
-        image,
-        {
-            .width = image.width(),
-            .height = image.height(),
-            .bands = colorBands(node.colorModel) + (node.hasAlpha ? 1 : 0),
-            .format = VIPS_FORMAT_UCHAR,
-            .interpretation = interpretationOf(node.colorModel, VIPS_FORMAT_UCHAR),
-        }
-    );
-    return makeImage(std::move(node));
+    const int bands = colorBands(node.colorModel) + (node.hasAlpha ? 1 : 0);
+    const PixelLayout layout = {
+        .width = image.width(),
+        .height = image.height(),
+        .bands = bands,
+        .format = VIPS_FORMAT_UCHAR,
+        .interpretation = interpretationOf(node.colorModel, VIPS_FORMAT_UCHAR),
+    };
+    node.pixels = vips::VImage::black(1, 1, vips::VImage::option()->set("bands", bands));
+    return builtImage(node, {image.width(), image.height()}, [&] {
+        return node.withPixels(pixelsOf(image, layout));
+    });
 }
 
 QImage Image::toQImage() const

@@ -399,6 +399,20 @@ TEST(ImageSource, DoesNotWaitForAPipe)
     EXPECT_TRUE(embeddedThumbnail(pipe).isNull());
 }
 
+TEST(ImageSource, GivesAReasonWhereTheDecoderOnlyWarns)
+{
+    const TemporaryFolder folder;
+    const LogLines log;
+    QByteArray png = PhotoBuilder().format(PhotoFormat::Png).bytes();
+    png[29] = static_cast<char>(~png[29]); // the check sum of the header
+
+    const auto source = ImageSource::open(folder.write(u"a.png"_s, png));
+
+    EXPECT_FALSE(source && source->image());
+    ASSERT_FALSE(log.lines().isEmpty());
+    EXPECT_THAT(log.lines().last().toStdString(), testing::EndsWith("a.png: the data are damaged"));
+}
+
 TEST(ImageSource, DropsAProfileThatTellsNothing)
 {
     const TemporaryFolder folder;
@@ -479,6 +493,32 @@ TEST(ImageSource, RefusesAbsurdSizes)
     EXPECT_TRUE(opens(PhotoFormat::Jpeg, 20000));
     EXPECT_FALSE(opens(PhotoFormat::ProgressiveJpeg, 20000));
     EXPECT_TRUE(opens(PhotoFormat::ProgressiveJpeg, 10000));
+}
+
+/// A bitmap of one bit a pixel and one row.
+QByteArray bitmapLine(qint32 width)
+{
+    const QByteArray row((width + 31) / 32 * 4, '\0');
+    QByteArray file(54, '\0');
+    file.replace(0, 2, "BM");
+    qToLittleEndian(qint32{62}, file.data() + 10); // where the pixels stand
+    qToLittleEndian(qint32{40}, file.data() + 14);
+    qToLittleEndian(width, file.data() + 18);
+    qToLittleEndian(qint32{1}, file.data() + 22);
+    qToLittleEndian(qint16{1}, file.data() + 26);
+    qToLittleEndian(qint16{1}, file.data() + 28);
+    qToLittleEndian(qint32{2}, file.data() + 46); // colours
+    return file + QByteArray(8, '\x7F') + row;
+}
+
+TEST(ImageSource, GivesNoPictureThatIsTooLongForTheEngine)
+{
+    const TemporaryFolder folder;
+    const LogLines log;
+
+    EXPECT_EQ(storedPixels(folder.write(u"a.bmp"_s, bitmapLine(1000))).size(), QSize(1000, 1));
+    EXPECT_TRUE(storedPixels(folder.write(u"b.bmp"_s, bitmapLine(20'000'000))).isNull());
+    EXPECT_FALSE(log.lines().isEmpty());
 }
 
 TEST(ImageSource, ReadsAFileAnewThatWasReplaced)

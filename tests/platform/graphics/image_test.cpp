@@ -262,6 +262,18 @@ TEST_F(ImageTest, GoesToQtAndBack)
     EXPECT_EQ(back.alpha(), 128);
 }
 
+TEST_F(ImageTest, IsNoPictureWhenAQtPictureIsTooLarge)
+{
+    const LogLines log;
+    QImage line(10'000'001, 1, QImage::Format_Grayscale8);
+    line.fill(77);
+
+    const Image image = Image::fromQImage(line);
+
+    EXPECT_TRUE(image.toQImage().isNull());
+    EXPECT_EQ(image.colorModel(), ColorModel::Gray);
+}
+
 TEST_F(ImageTest, KeepsGrayOfQtGray)
 {
     QImage painted(31, 17, QImage::Format_Grayscale8);
