@@ -24,6 +24,8 @@ bool tellsOfMadeUpPixels(const QString& warning)
     constexpr std::array texts = {
         "premature end of data segment",
         "Premature end of JPEG file",
+        "instead of RST",
+        "Inconsistent progression sequence",
         "bad Huffman code",
         "Premature EOL",
         "Line length mismatch",
@@ -52,11 +54,19 @@ void logEngineMessage(
     log(line);
 }
 
+/// Other libraries than the engine: what stops the program is told, notes on themselves are not.
+void logWhatIsSevere(const gchar* domain, GLogLevelFlags level, const gchar* message, gpointer data)
+{
+    if ((level & (G_LOG_LEVEL_ERROR | G_LOG_LEVEL_CRITICAL)) != 0)
+        logEngineMessage(domain, level, message, data);
+}
+
 } // namespace
 
 Engine::Engine()
 {
     vips_init("brenvaldo");
+    g_log_set_default_handler(logWhatIsSevere, nullptr);
     vips_cache_set_max(0);
     // The generic decoders behind these classes are slow and unsafe; every format we read has its
     // own.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // JPEG files of which a part was lost, byte by byte.
 
+#include "jpeg_of_scans.h"
+
 #include <platform/foundation/literals.h>
 
 #include <support/case_name.h>
@@ -9,67 +11,12 @@
 #include <support/pixel_probe.h>
 #include <support/temporary_folder.h>
 
-#include <array>
-#include <cstdio> // jpeglib.h needs it
-#include <cstdlib>
-
-#include <jpeglib.h>
-
 namespace brenvaldo {
 namespace {
 
 using namespace test;
 
-constexpr int side = 64;
 const QByteArray endMarker = "\xFF\xD9";
-
-struct JpegKind
-{
-    int restartBlocks = 0;
-    bool hasScanOfEachComponent = false;
-};
-
-/// A photo of 64 x 64 pixels, in blocks of 8 x 8, with noise enough that each block holds data.
-QByteArray jpegOf(const JpegKind& kind)
-{
-    jpeg_compress_struct encoder = {};
-    jpeg_error_mgr errors = {};
-    encoder.err = jpeg_std_error(&errors);
-    jpeg_create_compress(&encoder);
-    unsigned char* bytes = nullptr;
-    unsigned long size = 0;
-    jpeg_mem_dest(&encoder, &bytes, &size);
-    encoder.image_width = side;
-    encoder.image_height = side;
-    encoder.input_components = 3;
-    encoder.in_color_space = JCS_RGB;
-    jpeg_set_defaults(&encoder);
-    encoder.comp_info[0].h_samp_factor = 1;
-    encoder.comp_info[0].v_samp_factor = 1;
-    encoder.restart_interval = static_cast<unsigned>(kind.restartBlocks);
-    const jpeg_scan_info scans[] = {
-        {1, {0}, 0, 63, 0, 0}, //
-        {1, {1}, 0, 63, 0, 0},
-        {1, {2}, 0, 63, 0, 0},
-    };
-    if (kind.hasScanOfEachComponent) {
-        encoder.scan_info = scans;
-        encoder.num_scans = 3;
-    }
-    jpeg_start_compress(&encoder, TRUE);
-    std::array<JSAMPLE, side* 3> row = {};
-    for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side * 3; ++x)
-            row[static_cast<std::size_t>(x)] = static_cast<JSAMPLE>((x * 7919 + y * 104729) >> 3);
-        JSAMPLE* rows = row.data();
-        jpeg_write_scanlines(&encoder, &rows, 1);
-    }
-    jpeg_finish_compress(&encoder);
-    jpeg_destroy_compress(&encoder);
-    QByteArray file(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
-    std::free(bytes);
-    return file;
-}
 
 constexpr JpegKind withRestarts = {.restartBlocks = 4};
 constexpr JpegKind withThreeScans = {.hasScanOfEachComponent = true};
@@ -164,7 +111,7 @@ TEST(JpegWithStrayBytes, BeforeItsEndMarkerIsWhole)
         file.insert(file.lastIndexOf(endMarker), QByteArray(36, '\0'));
 
         EXPECT_EQ(storedPixels(folder.write(u"b.jpg"_s, file)), whole);
-        EXPECT_EQ(whole.size(), QSize(side, side));
+        EXPECT_EQ(whole.size(), QSize(64, 48));
     }
 }
 

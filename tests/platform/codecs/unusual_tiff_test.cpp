@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "jpeg_of_scans.h"
+
 #include <platform/codecs/image_destination.h>
 #include <platform/codecs/image_source.h>
 #include <platform/foundation/literals.h>
@@ -266,6 +268,19 @@ TEST(TiffOfJpeg, FailsWhenItsScanEndsEarly)
     EXPECT_TRUE(isWritten(tiffOfJpeg(strip)));
     EXPECT_FALSE(isWritten(tiffOfJpeg(cut + endOfJpeg)));
     EXPECT_FALSE(isWritten(tiffOfJpeg(cut)));
+}
+
+TEST(TiffOfJpeg, FailsWhenAnIntervalIsMissing)
+{
+    const QByteArray strip = jpegOf({.restartBlocks = 4});
+    const qsizetype second = strip.indexOf("\xff\xd1");
+    const qsizetype third = strip.indexOf("\xff\xd2");
+    QByteArray shorter = strip;
+
+    shorter.remove(second, third - second);
+
+    EXPECT_TRUE(isWritten(tiffOfJpeg(strip)));
+    EXPECT_FALSE(isWritten(tiffOfJpeg(shorter)));
 }
 
 TEST(TiffOfFax, FailsWhenRowsAreMissing)
