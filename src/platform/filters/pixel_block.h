@@ -1,17 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
+#include <platform/graphics/block_loop.h>
 
-#if defined(__GNUC__) && !defined(__clang__) && defined(__x86_64__)                                \
-    && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-/// A loop over the samples of a block, compiled for wider vectors, too, which the processor
-/// chooses.
-#define BRENVALDO_BLOCK_LOOP                                                                       \
-    __attribute__((target_clones("arch=x86-64-v3", "default"), optimize("O3")))
-#else
-#define BRENVALDO_BLOCK_LOOP
-#endif
+#include <array>
 
 namespace brenvaldo::platform::filters {
 

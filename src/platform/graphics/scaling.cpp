@@ -2,6 +2,7 @@
 #include "alpha_weighting.h"
 #include "image.h"
 #include "image_node.h"
+#include "reduced_pixels.h"
 
 #include <algorithm>
 
@@ -19,29 +20,24 @@ vips::VImage trimmedTo(const vips::VImage& pixels, PixelSize size)
     );
 }
 
-/// How far a box shrinks before the kernel does; 0 leaves all to the kernel.
-///
-/// The box makes a large picture in memory up to 20 times as slow; the kernel alone is exact only
-/// while it is short.
-double boxGap(double scale)
+vips::VImage enlarged(const vips::VImage& pixels, PixelSize size)
 {
-    constexpr double smallestScaleOfKernelAlone = 1.0 / 8;
-    constexpr double usualGap = 2;
-    return scale >= smallestScaleOfKernelAlone ? 0 : usualGap;
+    const vips::VImage scaled = pixels.resize(
+        static_cast<double>(size.width) / pixels.width(),
+        vips::VImage::option()
+            ->set("vscale", static_cast<double>(size.height) / pixels.height())
+            ->set("kernel", VIPS_KERNEL_LANCZOS3)
+    );
+    return trimmedTo(scaled, size);
 }
 
 vips::VImage resampled(const vips::VImage& pixels, PixelSize size)
 {
-    const double horizontal = static_cast<double>(size.width) / pixels.width();
-    const double vertical = static_cast<double>(size.height) / pixels.height();
-    const vips::VImage scaled = pixels.resize(
-        horizontal,
-        vips::VImage::option()
-            ->set("vscale", vertical)
-            ->set("kernel", VIPS_KERNEL_LANCZOS3)
-            ->set("gap", boxGap(std::min(horizontal, vertical)))
-    );
-    return trimmedTo(scaled, size);
+    const PixelSize full = {pixels.width(), pixels.height()};
+    const PixelSize smaller
+        = {std::min(size.width, full.width), std::min(size.height, full.height)};
+    const vips::VImage reduced = smaller == full ? pixels : reducedPixels(pixels, smaller);
+    return smaller == size ? reduced : enlarged(reduced, size);
 }
 
 ImageNode scaledNode(const ImageNode& node, PixelSize size)
