@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "injected_faults.h"
 
+#include <platform/foundation/literals.h>
+
+#include <QDirIterator>
 #include <QFile>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
+#include <set>
 #include <string>
 
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace brenvaldo::test {
@@ -56,6 +62,23 @@ bool InjectedFaults::failsNow()
     return m_plan.first > 0 && (call == m_plan.first || (m_plan.stays && call > m_plan.first));
 }
 
+std::size_t InjectedFaults::roomLeft() const
+{
+    std::size_t used = 0;
+    QDirIterator file(QFile::decodeName(m_folder), QDir::Files | QDir::Hidden);
+    while (file.hasNext())
+        used += static_cast<std::size_t>(file.nextFileInfo().size());
+    std::set<ino_t> nameless;
+    for (const QString& name : QDir(u"/proc/self/fd"_s).entryList(QDir::System | QDir::Files)) {
+        struct stat status = {};
+        const int descriptor = name.toInt();
+        if (concerns(descriptor) && ::fstat(descriptor, &status) == 0 && status.st_nlink == 0
+            && nameless.insert(status.st_ino).second)
+            used += static_cast<std::size_t>(status.st_size);
+    }
+    return *m_plan.room - std::min(used, *m_plan.room);
+}
+
 } // namespace brenvaldo::test
 
 // What follows takes the place of the system's functions for the program and all its libraries.
@@ -98,12 +121,45 @@ void endProcessIfAsked(const char* target)
 
 } // namespace
 
+/// The room for one more write: while this lives, nobody else writes.
+class Room
+{
+public:
+    Room(int descriptor, size_t length)
+    {
+        InjectedFaults* const faults = InjectedFaults::current();
+        if (!faults || !faults->plan().room || !faults->concerns(descriptor))
+            return;
+        m_lock = std::unique_lock(faults->roomMutex());
+        m_isEnough = length <= faults->roomLeft();
+        if (!m_isEnough)
+            errno = ENOSPC;
+    }
+
+    [[nodiscard]] bool isEnough() const { return m_isEnough; }
+
+private:
+    std::unique_lock<std::mutex> m_lock;
+    bool m_isEnough = true;
+};
+
 extern "C" {
 
 ssize_t write(int descriptor, const void* bytes, size_t length)
 {
     static auto* const system = systemFunction<ssize_t(int, const void*, size_t)>("write");
-    return failsAt(descriptor) ? -1 : system(descriptor, bytes, length);
+    const Room room(descriptor, length);
+    return failsAt(descriptor) || !room.isEnough() ? -1 : system(descriptor, bytes, length);
+}
+
+int statvfs64(const char* path, struct statvfs64* status) noexcept
+{
+    static auto* const system = systemFunction<int(const char*, struct statvfs64*)>("statvfs64");
+    const int result = system(path, status);
+    const InjectedFaults* const faults = InjectedFaults::current();
+    if (result == 0 && faults && faults->plan().room)
+        status->f_bavail = faults->roomLeft() / status->f_frsize;
+    return result;
 }
 
 int fsync(int descriptor)

@@ -5,7 +5,10 @@
 #include <QString>
 
 #include <atomic>
+#include <cstddef>
 #include <functional>
+#include <mutex>
+#include <optional>
 
 namespace brenvaldo::test {
 
@@ -21,6 +24,8 @@ public:
         bool refusesNamelessFiles = false; ///< as network folders do
         bool refusesMarkedRenames = false; ///< knows no rename that keeps what is there
         bool killsAtRename = false; ///< the process ends instead of renaming
+        std::optional<std::size_t> room
+            = {}; ///< for all files of the folder, nameless ones as well
         std::function<void()> atFlush = {}; ///< what another process does meanwhile
     };
 
@@ -42,10 +47,15 @@ public:
     /// Counts a call; true when it is to fail.
     [[nodiscard]] bool failsNow();
 
+    /// Bytes that the folder still takes up. Who asks for them and then writes holds `roomMutex`.
+    [[nodiscard]] std::size_t roomLeft() const;
+    [[nodiscard]] std::mutex& roomMutex() { return m_roomMutex; }
+
 private:
     QByteArray m_folder;
     Plan m_plan;
     std::atomic<int> m_calls = 0;
+    std::mutex m_roomMutex;
 };
 
 } // namespace brenvaldo::test
