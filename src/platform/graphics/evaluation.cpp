@@ -6,18 +6,50 @@
 
 #include <platform/foundation/log.h>
 
-#include <atomic>
 #include <memory>
+#include <mutex>
+#include <string>
+#include <utility>
 
 namespace brenvaldo::platform::graphics {
 
 namespace {
 
+/// The first fault of one evaluation.
+class EvaluationFault
+{
+public:
+    /// Called where a part could not be computed: what the engine says there is about that part,
+    /// while other evaluations go on.
+    void note()
+    {
+        const std::unique_ptr<char, decltype(&g_free)> text(vips_error_buffer_copy(), g_free);
+        const std::lock_guard lock(m_mutex);
+        if (!std::exchange(m_isNoted, true))
+            m_reason = text.get();
+    }
+
+    /// @throws vips::VError when one was noted.
+    void raise() const
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_isNoted)
+            throw vips::VError(
+                m_reason.empty() ? "a part of the picture can't be computed" : m_reason
+            );
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    bool m_isNoted = false;
+    std::string m_reason;
+};
+
 /// The last node of a pipeline.
 class WatchedPixels
 {
 public:
-    using Fault = std::shared_ptr<std::atomic<bool>>;
+    using Fault = std::shared_ptr<EvaluationFault>;
 
     WatchedPixels(vips::VImage pixels, Fault fault)
         : m_pixels(std::move(pixels))
@@ -37,7 +69,7 @@ public:
     {
         if (self(watched)->fills(out, static_cast<VipsRegion*>(source)))
             return 0;
-        *self(watched)->m_fault = true;
+        self(watched)->m_fault->note();
         return -1;
     }
 
@@ -118,10 +150,14 @@ void evaluate(
     const vips::VImage& pixels, const std::function<void(const vips::VImage& watched)>& sink
 )
 {
-    const auto fault = std::make_shared<std::atomic<bool>>(false);
-    sink(watchedPixels(pixels, fault));
-    if (*fault)
-        throw vips::VError("a part of the picture can't be computed");
+    const auto fault = std::make_shared<EvaluationFault>();
+    try {
+        sink(watchedPixels(pixels, fault));
+    } catch (const vips::VError&) {
+        fault->raise();
+        throw;
+    }
+    fault->raise();
 }
 
 vips::VImage copiedToMemory(const vips::VImage& pixels)

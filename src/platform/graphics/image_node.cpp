@@ -174,12 +174,13 @@ bool isSequential(const vips::VImage& pixels)
 
 QString faultText(const std::exception& error)
 {
-    const QString text = QString::fromUtf8(vips_error_buffer()).simplified();
+    // The buffer is everybody's; an error of the engine holds what stood in it when it was raised.
+    const QString text = QString::fromUtf8(error.what()).simplified();
+    const QString buffered = QString::fromUtf8(vips_error_buffer()).simplified();
     vips_error_clear();
     if (!text.isEmpty())
         return text;
-    const QString told = QString::fromUtf8(error.what()).simplified();
-    return told.isEmpty() ? u"the data are damaged"_s : told; // some decoders only warn
+    return buffered.isEmpty() ? u"the data are damaged"_s : buffered; // some decoders only warn
 }
 
 } // namespace brenvaldo::platform::graphics

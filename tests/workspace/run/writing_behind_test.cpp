@@ -174,14 +174,24 @@ QStringList namesOfDifferent(const Files& one, const Files& other)
     return names;
 }
 
-/// The functions that write pictures in this version.
-std::vector<std::string> functionsThatWrite()
+struct HasOperation
+{
+    bool operator()(const workspace::OwnButton&) const { return false; }
+    bool operator()(const workspace::PhotoRun& run) const { return static_cast<bool>(run.start); }
+    bool operator()(const workspace::InPlaceRun& run) const { return static_cast<bool>(run.read); }
+    bool operator()(const workspace::ListRun& run) const { return static_cast<bool>(run.work); }
+    bool operator()(const workspace::RenamingRun& run) const
+    {
+        return static_cast<bool>(run.rename);
+    }
+};
+
+/// The functions that run over photos in this version.
+std::vector<std::string> functionsThatRun()
 {
     std::vector<std::string> ids;
     for (const workspace::Function& function : workspace::functions()) {
-        const auto* photoRun = std::get_if<workspace::PhotoRun>(&function.run);
-        const auto* listRun = std::get_if<workspace::ListRun>(&function.run);
-        if ((photoRun && photoRun->start) || (listRun && listRun->work))
+        if (std::visit(HasOperation{}, function.run))
             ids.emplace_back(function.id.data());
     }
     return ids;
@@ -213,6 +223,6 @@ TEST_P(WritingBehind, IsNotSeenByAChainOfFileNameActions) { expectSame(QString()
 INSTANTIATE_TEST_SUITE_P(
     EachFunction,
     WritingBehind,
-    testing::ValuesIn(functionsThatWrite()),
+    testing::ValuesIn(functionsThatRun()),
     [](const auto& each) { return each.param; }
 );
