@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <platform/drawing/shape_paint.h>
+#include <platform/drawing/paint.h>
 #include <platform/graphics/image.h>
 
+#include <QLineF>
 #include <QPainterPath>
+
+#include <optional>
 
 namespace brenvaldo::imaging {
 
@@ -13,8 +16,15 @@ struct DrawnLine
 {
     QPainterPath path;
     double width = 0;
-    platform::drawing::ShapePaint paint; ///< its fade is measured as the path
+    platform::graphics::Color color;
+    double opacity = 1; ///< from 0 to 1
+    platform::drawing::BlendMode mode = platform::drawing::BlendMode::Normal;
+    std::optional<QLineF> fade = {}; ///< the colour turns transparent along it
 };
+
+/// What the line covers of a canvas.
+[[nodiscard]] platform::drawing::PaintedShape
+shapeOf(const DrawnLine& line, platform::graphics::PixelSize canvas);
 
 /// `canvas` with the line on it.
 [[nodiscard]] platform::graphics::Image

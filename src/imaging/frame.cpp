@@ -2,7 +2,7 @@
 #include "dv_image_handling.h"
 
 #include "drawn_line.h"
-#include "dv_color_conversions.h"
+#include "fade_line.h"
 #include "frame_rules.h"
 #include "source_photo.h"
 
@@ -16,22 +16,26 @@
 namespace brenvaldo::imaging {
 
 using platform::codecs::SourceAccess;
-using platform::drawing::ShapePaint;
 using platform::graphics::Image;
 using platform::graphics::PixelSize;
 
 namespace {
 
-ShapePaint paintOf(const FrameSettings& settings, double opacity, const ShapePaint::Fade& fade)
+DrawnLine
+lineOf(const FrameSettings& settings, double opacity, const QPainterPath& path, const QLineF& fade)
 {
-    ShapePaint paint
-        = {.color = DVColorConversions::NSColorToCGColor(settings.color),
+    DrawnLine line
+        = {.path = path,
+           .width = static_cast<double>(settings.thickness),
+           .color = settings.color,
            .opacity = opacity,
-           .blend = frameBlendAt(settings.blendIndex)};
+           .mode = frameBlendAt(settings.blendIndex)};
     if (settings.gradientState == 1)
-        paint.fade = fade;
-    return paint;
+        line.fade = fade;
+    return line;
 }
+
+QSizeF exactSize(PixelSize size) { return QSizeF(size.width, size.height); }
 
 /// A fade's rectangle begins at the inset, but only one of two insets is taken off its size.
 Image framedInside(const Image& photo, const FrameSettings& settings, double opacity)
@@ -40,32 +44,27 @@ Image framedInside(const Image& photo, const FrameSettings& settings, double opa
     const auto thickness = static_cast<double>(settings.thickness);
     const auto inset = static_cast<double>(settings.inset);
     const QPointF middle(inset + (size.width - inset) * 0.5, inset + (size.height - inset) * 0.5);
-    return drawn(
-        photo,
-        {.path = frameLine(size, thickness * 0.5 + inset, inset),
-         .width = thickness,
-         .paint = paintOf(settings, opacity, fadeThrough(middle, size, settings.angleIndex))}
-    );
+    const QLineF fade = fadeLine(middle, exactSize(size), settings.angleIndex);
+    const QPainterPath path = frameLine(size, thickness * 0.5 + inset, inset);
+    return drawn(photo, lineOf(settings, opacity, path, fade));
 }
 
 /// A fade has the photo's size and begins in the corner of the canvas, not of the photo.
 std::optional<Image>
 framedOutside(const Image& photo, const FrameSettings& settings, double opacity)
 {
+    constexpr platform::graphics::Color white = {.red = 1, .green = 1, .blue = 1};
     const PixelSize size = photo.pixelSize();
     const PixelSize canvas = grownBy(size, settings.thickness);
     if (canvas == PixelSize{})
         return std::nullopt;
     const int margin = static_cast<int>(settings.thickness);
-    const auto thickness = static_cast<double>(settings.thickness);
     const QPointF middle(size.width * 0.5, size.height * 0.5);
+    const QLineF fade = fadeLine(middle, exactSize(size), settings.angleIndex);
+    const QPainterPath path = frameLine(canvas, static_cast<double>(settings.thickness) * 0.5, 0);
     return drawn(
-        platform::drawing::laidOn(
-            {.size = canvas, .color = {.red = 1, .green = 1, .blue = 1}}, photo, {margin, margin}
-        ),
-        {.path = frameLine(canvas, thickness * 0.5, 0),
-         .width = thickness,
-         .paint = paintOf(settings, opacity, fadeThrough(middle, size, settings.angleIndex))}
+        platform::drawing::laidOn({.size = canvas, .color = white}, photo, {margin, margin}),
+        lineOf(settings, opacity, path, fade)
     );
 }
 
@@ -132,10 +131,7 @@ ResultWord DVImageHandling::addBorderToImage2(
     const auto image = storedPhoto(path, SourceAccess::OnePass);
     if (!image)
         return m_storeResult;
-    const DrawnLine line
-        = {.path = edgeLine(image->pixelSize()),
-           .width = width,
-           .paint = {.color = DVColorConversions::NSColorToCGColor(color)}};
+    const DrawnLine line = {.path = edgeLine(image->pixelSize()), .width = width, .color = color};
     m_storeResult = hSaveToNewImageFile({
         .destination = path,
         .typeIdentifier

@@ -4,22 +4,15 @@
 #include "resize_rules.h"
 
 #include <cmath>
-#include <numbers>
 
 namespace brenvaldo::imaging {
 
-using platform::drawing::ShapePaint;
+using platform::drawing::BlendMode;
 using platform::graphics::PixelSize;
 
 namespace {
 
 bool isPercentage(std::int64_t percent) { return percent >= 1 && percent <= 100; }
-
-double radiansAt(int angleIndex)
-{
-    const int quarters = angleIndex >= 0 && angleIndex <= 2 ? angleIndex : 3;
-    return quarters * std::numbers::pi / 2;
-}
 
 /// 0 for what no canvas can be as long as.
 int grownSide(int side, std::int64_t thickness)
@@ -40,21 +33,21 @@ std::optional<FrameType> frameTypeAt(int index)
     return std::nullopt;
 }
 
-ShapePaint::Blend frameBlendAt(int index)
+BlendMode frameBlendAt(int index)
 {
     switch (index) {
     case 1:
-        return ShapePaint::Blend::Darken;
+        return BlendMode::Darken;
     case 2:
-        return ShapePaint::Blend::Lighten;
+        return BlendMode::Lighten;
     case 3:
-        return ShapePaint::Blend::Multiply;
+        return BlendMode::Multiply;
     case 4:
-        return ShapePaint::Blend::Overlay;
+        return BlendMode::Overlay;
     case 5:
-        return ShapePaint::Blend::Color;
+        return BlendMode::Color;
     default:
-        return ShapePaint::Blend::Normal;
+        return BlendMode::Normal;
     }
 }
 
@@ -92,13 +85,6 @@ QPainterPath frameLine(PixelSize canvas, double distance, double begin)
     line.lineTo(right, distance);
     line.lineTo(distance, distance);
     return line;
-}
-
-ShapePaint::Fade fadeThrough(QPointF middle, PixelSize size, int angleIndex)
-{
-    const double angle = radiansAt(angleIndex);
-    const QPointF half(size.width * std::cos(angle) * 0.5, size.height * std::sin(angle) * 0.5);
-    return {.start = middle - half, .end = middle + half};
 }
 
 QTransform toPixels(PixelSize canvas) { return {1, 0, 0, -1, 0, double(canvas.height)}; }

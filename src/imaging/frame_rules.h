@@ -3,7 +3,7 @@
 
 #include "frame_settings.h"
 
-#include <platform/drawing/shape_paint.h>
+#include <platform/drawing/blend_mode.h>
 #include <platform/graphics/geometry.h>
 
 #include <QPainterPath>
@@ -23,7 +23,7 @@ enum class FrameType { Inside, Outside };
 [[nodiscard]] std::optional<FrameType> frameTypeAt(int index);
 
 /// The blend mode at an index of the frames' table; any other index leaves the normal one.
-[[nodiscard]] platform::drawing::ShapePaint::Blend frameBlendAt(int index);
+[[nodiscard]] platform::drawing::BlendMode frameBlendAt(int index);
 
 /// Opacity of a frame that is written, from 0 to 1. What is no percentage is a value of its own
 /// inside of a photo, and that of the photo before outside.
@@ -41,11 +41,6 @@ grownBy(platform::graphics::PixelSize photo, std::int64_t thickness);
 /// height `begin`, so that a wide line closes the corner.
 [[nodiscard]] QPainterPath
 frameLine(platform::graphics::PixelSize canvas, double distance, double begin);
-
-/// A fade through `middle` at an index of a gradient's angles (0, 90, 180, and 270 degrees for any
-/// other), which is as long as `size` is in that direction.
-[[nodiscard]] platform::drawing::ShapePaint::Fade
-fadeThrough(QPointF middle, platform::graphics::PixelSize size, int angleIndex);
 
 /// From a drawing on the canvas to pixels that are counted from its top left corner.
 [[nodiscard]] QTransform toPixels(platform::graphics::PixelSize canvas);

@@ -6,12 +6,12 @@
 #include "stored_photo.h"
 #include "turning.h"
 
+#include <platform/drawing/ground.h>
+#include <platform/graphics/rgb_bytes.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <limits>
-#include <platform/drawing/backdrop.h>
-#include <platform/drawing/ground.h>
-#include <platform/foundation/numbers.h>
 
 namespace brenvaldo::imaging {
 
@@ -30,9 +30,14 @@ int enlarged(int side, int margin)
 std::optional<Image> onCanvas(const Image& turned, const RotateSettings& settings)
 {
     const int margin = settings.canvasMargin;
-    if (!givesContext({enlarged(turned.width(), margin), enlarged(turned.height(), margin)}))
+    const PixelSize canvas = {enlarged(turned.width(), margin), enlarged(turned.height(), margin)};
+    if (!givesContext(canvas))
         return std::nullopt;
-    return platform::drawing::laidOn({.color = settings.canvasColor, .margin = margin}, turned);
+    return platform::drawing::laidOn(
+        {.size = canvas, .color = settings.canvasColor},
+        platform::graphics::rgbaBytes(turned),
+        {margin, margin}
+    );
 }
 
 std::optional<Image> rotated(const QString& path, const RotateSettings& settings)

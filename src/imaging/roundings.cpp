@@ -2,67 +2,40 @@
 #include "dv_image_handling.h"
 
 #include "drawn_line.h"
-#include "dv_color_conversions.h"
+#include "fade_line.h"
 #include "frame_rules.h"
 #include "rounding_rules.h"
 #include "source_photo.h"
 
 #include <platform/drawing/clipped.h>
-#include <platform/drawing/ground.h>
 
 namespace brenvaldo::imaging {
 
 using platform::codecs::SourceAccess;
-using platform::drawing::ShapePaint;
 using platform::graphics::Image;
 using platform::graphics::PixelSize;
 
 namespace {
 
-Image cut(const Image& photo, const RoundingPlan& plan)
+DrawnLine borderOf(const RoundingPlan& plan, const RoundingSettings& settings)
 {
-    const QPoint topLeft(
-        plan.photo.x(), plan.canvas.height - plan.photo.y() - photo.pixelSize().height
-    );
-    const QPainterPath clip = toPixels(plan.canvas).map(plan.clip);
-    return platform::drawing::clipped(photo, {.canvas = plan.canvas, .shape = clip}, topLeft);
-}
-
-ShapePaint borderPaint(PixelSize canvas, const RoundingSettings& settings)
-{
-    ShapePaint paint
-        = {.color = DVColorConversions::NSColorToCGColor(settings.borderColour),
+    DrawnLine border
+        = {.path = plan.border,
+           .width = plan.borderWidth,
+           .color = settings.borderColour,
            .opacity = shownOpacity(settings.opacity),
-           .blend = frameBlendAt(settings.blendIndex)};
-    if (settings.gradientState == 1)
-        paint.fade
-            = fadeThrough({canvas.width * 0.5, canvas.height * 0.5}, canvas, settings.angleIndex);
-    return paint;
+           .mode = frameBlendAt(settings.blendIndex)};
+    if (settings.gradientState == 1) {
+        const QSizeF canvas(plan.canvas.width, plan.canvas.height);
+        const QPointF middle(canvas.width() * 0.5, canvas.height() * 0.5);
+        border.fade = fadeLine(middle, canvas, settings.angleIndex);
+    }
+    return border;
 }
 
-Image bordered(const Image& cutPhoto, const RoundingPlan& plan, const RoundingSettings& settings)
+QPoint topLeftOf(PixelSize photo, const RoundingPlan& plan)
 {
-    if (settings.borderState == 0)
-        return cutPhoto;
-    return drawn(
-        cutPhoto,
-        {.path = plan.border,
-         .width = plan.borderWidth,
-         .paint = borderPaint(plan.canvas, settings)}
-    );
-}
-
-std::optional<Image> onBackground(const Image& shape, const RoundingSettings& settings)
-{
-    if (settings.backgroundState != 1)
-        return shape;
-    const PixelSize canvas = grownBy(shape.pixelSize(), settings.margin);
-    if (canvas == PixelSize{})
-        return std::nullopt;
-    const int margin = static_cast<int>(settings.margin);
-    return platform::drawing::laidOn(
-        {.size = canvas, .color = settings.backgroundColour}, shape, {margin, margin}
-    );
+    return {plan.photo.x(), plan.canvas.height - plan.photo.y() - photo.height};
 }
 
 std::optional<Image> rounded(const Image& photo, const RoundingSettings& settings)
@@ -70,7 +43,17 @@ std::optional<Image> rounded(const Image& photo, const RoundingSettings& setting
     const auto plan = roundingPlan(photo.pixelSize(), settings);
     if (!plan)
         return std::nullopt;
-    return onBackground(bordered(cut(photo, *plan), *plan, settings), settings);
+    platform::drawing::Clip clip
+        = {.canvas = plan->canvas, .shape = toPixels(plan->canvas).map(plan->clip)};
+    if (settings.borderState != 0)
+        clip.border = shapeOf(borderOf(*plan, settings), plan->canvas);
+    if (settings.backgroundState == 1) {
+        if (grownBy(plan->canvas, settings.margin) == PixelSize{})
+            return std::nullopt;
+        clip.ground
+            = {.color = settings.backgroundColour, .margin = static_cast<int>(settings.margin)};
+    }
+    return platform::drawing::clipped(photo, clip, topLeftOf(photo.pixelSize(), *plan));
 }
 
 } // namespace

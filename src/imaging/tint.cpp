@@ -32,11 +32,11 @@ Paint paintOf(const TintSettings& settings, const TintArea& area, int photoHeigh
         return settings.color;
     const auto fromTop
         = [photoHeight](QPointF point) { return QPointF(point.x(), photoHeight - point.y()); };
-    const FadeLine line = fadeLine(area, settings.angleIndex);
+    const QLineF line = fadeLine(area, settings.angleIndex);
     return LinearGradient{
         .fade = {.from = settings.color, .to = platform::drawing::clearColor},
-        .start = fromTop(line.start),
-        .end = fromTop(line.end)};
+        .start = fromTop(line.p1()),
+        .end = fromTop(line.p2())};
 }
 
 } // namespace

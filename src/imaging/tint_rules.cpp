@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tint_rules.h"
 
+#include "fade_line.h"
+
 #include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 
@@ -152,21 +154,12 @@ PixelRect visiblePart(const TintArea& area, PixelSize photo)
         .height = along.length()};
 }
 
-FadeLine fadeLine(const TintArea& area, int angleIndex)
+QLineF fadeLine(const TintArea& area, int angleIndex)
 {
-    const QPointF middle = QPointF(area.origin) + QPointF(area.width, area.height) / 2;
-    const QPointF across(area.width / 2.0, 0);
-    const QPointF along(0, area.height / 2.0);
-    switch (angleIndex) {
-    case 0:
-        return {.start = middle - across, .end = middle + across};
-    case 1:
-        return {.start = middle - along, .end = middle + along};
-    case 2:
-        return {.start = middle + across, .end = middle - across};
-    default:
-        return {.start = middle + along, .end = middle - along};
-    }
+    const QSizeF size(area.width, area.height);
+    return fadeLine(
+        QPointF(area.origin) + QPointF(size.width(), size.height()) / 2, size, angleIndex
+    );
 }
 
 } // namespace brenvaldo::imaging

@@ -6,8 +6,8 @@
 #include <platform/drawing/blend_mode.h>
 #include <platform/graphics/geometry.h>
 
+#include <QLineF>
 #include <QPoint>
-#include <QPointF>
 
 #include <optional>
 
@@ -41,17 +41,8 @@ tintArea(const TintSettings& settings, platform::graphics::PixelSize photo, QPoi
 [[nodiscard]] platform::graphics::PixelRect
 visiblePart(const TintArea& area, platform::graphics::PixelSize photo);
 
-/// The line that a tint fades out along.
-struct FadeLine
-{
-    QPointF start;
-    QPointF end;
-
-    friend bool operator==(const FadeLine&, const FadeLine&) = default;
-};
-
 /// The line across the area at an index of `pubAddTintAngle`: to the right, up, to the left, and
 /// down for any other.
-[[nodiscard]] FadeLine fadeLine(const TintArea& area, int angleIndex);
+[[nodiscard]] QLineF fadeLine(const TintArea& area, int angleIndex);
 
 } // namespace brenvaldo::imaging

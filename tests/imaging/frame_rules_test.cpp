@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 using namespace brenvaldo::imaging;
-using brenvaldo::platform::drawing::ShapePaint;
+using brenvaldo::platform::drawing::BlendMode;
 using brenvaldo::platform::graphics::PixelSize;
 
 TEST(FrameRules, KnowTwoTypes)
@@ -19,14 +19,14 @@ TEST(FrameRules, KnowTwoTypes)
 
 TEST(FrameRules, HaveABlendTableOfTheirOwn)
 {
-    EXPECT_EQ(frameBlendAt(0), ShapePaint::Blend::Normal);
-    EXPECT_EQ(frameBlendAt(1), ShapePaint::Blend::Darken);
-    EXPECT_EQ(frameBlendAt(2), ShapePaint::Blend::Lighten);
-    EXPECT_EQ(frameBlendAt(3), ShapePaint::Blend::Multiply);
-    EXPECT_EQ(frameBlendAt(4), ShapePaint::Blend::Overlay);
-    EXPECT_EQ(frameBlendAt(5), ShapePaint::Blend::Color);
-    EXPECT_EQ(frameBlendAt(6), ShapePaint::Blend::Normal);
-    EXPECT_EQ(frameBlendAt(-1), ShapePaint::Blend::Normal);
+    EXPECT_EQ(frameBlendAt(0), BlendMode::Normal);
+    EXPECT_EQ(frameBlendAt(1), BlendMode::Darken);
+    EXPECT_EQ(frameBlendAt(2), BlendMode::Lighten);
+    EXPECT_EQ(frameBlendAt(3), BlendMode::Multiply);
+    EXPECT_EQ(frameBlendAt(4), BlendMode::Overlay);
+    EXPECT_EQ(frameBlendAt(5), BlendMode::Color);
+    EXPECT_EQ(frameBlendAt(6), BlendMode::Normal);
+    EXPECT_EQ(frameBlendAt(-1), BlendMode::Normal);
 }
 
 TEST(FrameRules, ReadOpacitiesInThreeWays)
@@ -74,23 +74,6 @@ TEST(FrameRules, LeadTheLineAroundFromTheLowerLeft)
     EXPECT_EQ(QPointF(line.elementAt(2)), QPointF(93, 73));
     EXPECT_EQ(QPointF(line.elementAt(3)), QPointF(93, 7));
     EXPECT_EQ(QPointF(line.elementAt(4)), QPointF(7, 7));
-}
-
-TEST(FrameRules, FadeInFourDirections)
-{
-    const auto expectFade = [](int index, QPointF start, QPointF end) {
-        const ShapePaint::Fade fade = fadeThrough({50, 40}, {100, 60}, index);
-        EXPECT_NEAR(fade.start.x(), start.x(), 1e-9) << index;
-        EXPECT_NEAR(fade.start.y(), start.y(), 1e-9) << index;
-        EXPECT_NEAR(fade.end.x(), end.x(), 1e-9) << index;
-        EXPECT_NEAR(fade.end.y(), end.y(), 1e-9) << index;
-    };
-    expectFade(0, {0, 40}, {100, 40});
-    expectFade(1, {50, 10}, {50, 70});
-    expectFade(2, {100, 40}, {0, 40});
-    expectFade(3, {50, 70}, {50, 10});
-    expectFade(4, {50, 70}, {50, 10});
-    expectFade(-1, {50, 70}, {50, 10});
 }
 
 TEST(FrameRules, CountPixelsFromTheTop)

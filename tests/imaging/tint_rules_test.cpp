@@ -200,18 +200,18 @@ TEST(FadeLine, CrossesTheAreaInFourDirections)
 {
     const TintArea area = {.origin = {100, 50}, .width = 300, .height = 201};
 
-    EXPECT_EQ(fadeLine(area, 0), (FadeLine{{100, 150.5}, {400, 150.5}}));
-    EXPECT_EQ(fadeLine(area, 1), (FadeLine{{250, 50}, {250, 251}}));
-    EXPECT_EQ(fadeLine(area, 2), (FadeLine{{400, 150.5}, {100, 150.5}}));
-    EXPECT_EQ(fadeLine(area, 3), (FadeLine{{250, 251}, {250, 50}}));
-    EXPECT_EQ(fadeLine(area, -1), (FadeLine{{250, 251}, {250, 50}}));
+    EXPECT_EQ(fadeLine(area, 0), (QLineF{{100, 150.5}, {400, 150.5}}));
+    EXPECT_EQ(fadeLine(area, 1), (QLineF{{250, 50}, {250, 251}}));
+    EXPECT_EQ(fadeLine(area, 2), (QLineF{{400, 150.5}, {100, 150.5}}));
+    EXPECT_EQ(fadeLine(area, 3), (QLineF{{250, 251}, {250, 50}}));
+    EXPECT_EQ(fadeLine(area, -1), (QLineF{{250, 251}, {250, 50}}));
 }
 
 TEST(FadeLine, BeginsAtTheRightOfANegativeArea)
 {
     const TintArea area = {.origin = {600, 600}, .width = -200, .height = -400};
 
-    EXPECT_EQ(fadeLine(area, 0), (FadeLine{{600, 400}, {400, 400}}));
+    EXPECT_EQ(fadeLine(area, 0), (QLineF{{600, 400}, {400, 400}}));
 }
 
 } // namespace

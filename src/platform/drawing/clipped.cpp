@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "clipped.h"
 
-#include "shape_mask.h"
+#include "ground_rows.h"
+#include "photo_color.h"
+#include "shape_rows.h"
 
 #include <platform/graphics/color_profile.h>
 #include <platform/graphics/image_node.h>
@@ -18,12 +20,11 @@ namespace {
 
 constexpr int outBands = 4;
 
-/// Cuts the rows of a canvas that a picture stands on. The picture is grey or RGB, with or without
-/// an alpha.
-class ClipRows
+/// Shows a picture, which is grey or RGB, with or without an alpha, in the runs of a shape.
+class ShownRows
 {
 public:
-    ClipRows(const Clip& clip, const QRect& picture, const ImageNode& node)
+    ShownRows(const Clip& clip, const QRect& picture, const ImageNode& node)
         : m_mask(clip.shape, clip.canvas)
         , m_picture(picture)
         , m_bands(node.pixels.bands())
@@ -32,24 +33,22 @@ public:
     {
     }
 
-    void operator()(const graphics::KernelRow<1>& row) const
+    /// `in` and `out` are the pixels at `place`; the latter are transparent.
+    void show(const BlockPlace& place, const quint8* in, quint8* out) const
     {
-        const auto* in = row.input<quint8>(0);
-        auto* out = row.out<quint8>();
-        std::fill_n(out, qsizetype{row.count} * outBands, quint8{0});
-        if (row.y < m_picture.top() || row.y > m_picture.bottom())
+        if (place.y < m_picture.top() || place.y > m_picture.bottom())
             return;
-        for (const ShapeMask::Run& run : m_mask.row(row.y)) {
-            const int begin = std::max({run.begin, row.x, m_picture.left()});
-            const int end = std::min({run.end, row.x + row.count, m_picture.right() + 1});
-            const qsizetype first = begin - row.x;
+        for (const ShapeMask::Run& run : m_mask.row(place.y)) {
+            const int begin = std::max({run.begin, place.x, m_picture.left()});
+            const int end = std::min({run.end, place.x + place.count, m_picture.right() + 1});
+            const qsizetype first = begin - place.x;
             if (begin < end)
-                show(out + first * outBands, in + first * m_bands, end - begin, run.coverage);
+                showRun(in + first * m_bands, end - begin, run.coverage, out + first * outBands);
         }
     }
 
 private:
-    void show(quint8* out, const quint8* in, int count, unsigned coverage) const
+    void showRun(const quint8* in, int count, unsigned coverage, quint8* out) const
     {
         constexpr unsigned full = 255;
         const int green = m_isGray ? 0 : 1;
@@ -71,16 +70,90 @@ private:
     bool m_hasAlpha;
 };
 
+/// What the rows of the result are made of.
+struct Layers
+{
+    ShownRows picture;
+    std::optional<ShapeRows<quint8>> border;
+    std::optional<GroundRows<quint8>> ground;
+    std::array<quint8, outBands> outside; ///< a pixel that the canvas leaves free
+    QRect canvas; ///< its place on the ground
+};
+
+/// Makes the rows of the result in one go, while they are at hand.
+void composeRow(const Layers& layers, const graphics::KernelRow<1>& row, int bands)
+{
+    auto* out = row.out<quint8>();
+    for (int i = 0; i < row.count; ++i)
+        std::copy_n(layers.outside.begin(), outBands, out + qsizetype{i} * outBands);
+    const QRect part = layers.canvas.intersected({row.x, row.y, row.count, 1});
+    if (part.isEmpty())
+        return;
+    const qsizetype first = part.x() - row.x;
+    quint8* pixels = out + first * outBands;
+    const QPoint onCanvas = part.topLeft() - layers.canvas.topLeft();
+    const BlockPlace place = {.x = onCanvas.x(), .y = onCanvas.y(), .count = part.width()};
+    std::fill_n(pixels, qsizetype{place.count} * outBands, quint8{0});
+    layers.picture.show(place, row.input<quint8>(0) + first * bands, pixels);
+    if (layers.border)
+        layers.border->paint(place, pixels);
+    if (layers.ground)
+        layers.ground->fillUp(pixels, place.count);
+}
+
+/// A transparent canvas, which has only its size and its kind of pixels.
+ImageNode canvasNode(const Clip& clip)
+{
+    ImageNode node;
+    node.hasAlpha = true;
+    node.pixels
+        = vips::VImage::black(
+              clip.canvas.width, clip.canvas.height, vips::VImage::option()->set("bands", outBands)
+        )
+              .copy(vips::VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB));
+    return node;
+}
+
+Layers layersOf(const ImageNode& picture, const Clip& clip, QPoint place)
+{
+    const ImageNode canvas = canvasNode(clip);
+    const QRect area(place, QSize(picture.pixels.width(), picture.pixels.height()));
+    Layers layers{
+        .picture = {clip, area, picture},
+        .border = std::nullopt,
+        .ground = std::nullopt,
+        .outside = {},
+        .canvas = {0, 0, clip.canvas.width, clip.canvas.height}};
+    if (clip.border)
+        layers.border.emplace(canvas, *clip.border);
+    if (clip.ground) {
+        const std::vector<double> color = samplesOf(clip.ground->color, canvas);
+        layers.ground.emplace(color);
+        layers.ground->fillUp(layers.outside.data(), 1);
+        layers.canvas.translate(clip.ground->margin, clip.ground->margin);
+    }
+    return layers;
+}
+
+graphics::PixelSize sizeOf(const Clip& clip)
+{
+    const int growth = clip.ground ? 2 * clip.ground->margin : 0;
+    return {clip.canvas.width + growth, clip.canvas.height + growth};
+}
+
 ImageNode clippedNode(const ImageNode& picture, const Clip& clip, QPoint place)
 {
     const ImageNode bytes = graphics::withBytes(graphics::convertedToSrgb(picture));
-    const vips::VImage canvas
-        = bytes.pixels.embed(place.x(), place.y(), clip.canvas.width, clip.canvas.height);
-    const QRect area(place, QSize(bytes.pixels.width(), bytes.pixels.height()));
+    const graphics::PixelSize size = sizeOf(clip);
+    const Layers layers = layersOf(bytes, clip, place);
+    const QPoint placeOnGround = layers.canvas.topLeft() + place;
+    const vips::VImage input
+        = bytes.pixels.embed(placeOnGround.x(), placeOnGround.y(), size.width, size.height);
+    const int bands = bytes.pixels.bands();
     ImageNode clipped = picture.withPixels(graphics::mapRows(
-        std::array{canvas},
+        std::array{input},
         {outBands, VIPS_FORMAT_UCHAR, VIPS_INTERPRETATION_sRGB},
-        ClipRows(clip, area, bytes)
+        [layers, bands](const graphics::KernelRow<1>& row) { composeRow(layers, row, bands); }
     ));
     clipped.colorModel = graphics::ColorModel::Rgb;
     clipped.hasAlpha = true;
@@ -93,7 +166,7 @@ ImageNode clippedNode(const ImageNode& picture, const Clip& clip, QPoint place)
 graphics::Image clipped(const graphics::Image& picture, const Clip& clip, QPoint place)
 {
     const ImageNode& node = *picture.node();
-    return graphics::builtImage(node, clip.canvas, [&] { return clippedNode(node, clip, place); });
+    return graphics::builtImage(node, sizeOf(clip), [&] { return clippedNode(node, clip, place); });
 }
 
 } // namespace brenvaldo::platform::drawing

@@ -3,6 +3,7 @@
 
 #include "blend_rows.h"
 #include "paint_rows.h"
+#include "shape_rows.h"
 
 namespace brenvaldo::platform::drawing {
 
@@ -27,6 +28,24 @@ ImageNode paintedNode(const ImageNode& photo, const QRect& area, const PaintedAr
     );
 }
 
+template <class Sample>
+ImageNode paintedNode(const ImageNode& photo, const PaintedShape& painting)
+{
+    const ShapeRows<Sample> shape(photo, painting);
+    const int bands = photo.pixels.bands();
+    return photo.withPixels(graphics::mapRows(
+        std::array{photo.pixels},
+        {.bands = bands,
+         .format = photo.pixels.format(),
+         .interpretation = photo.pixels.interpretation()},
+        [shape, bands](const KernelRow<1>& row) {
+            auto* out = row.template out<Sample>();
+            std::copy_n(row.template input<Sample>(0), qsizetype{row.count} * bands, out);
+            shape.paint({.x = row.x, .y = row.y, .count = row.count}, out);
+        }
+    ));
+}
+
 } // namespace
 
 Image painted(const Image& photo, const PaintedArea& painting)
@@ -41,6 +60,15 @@ Image painted(const Image& photo, const PaintedArea& painting)
         return node.pixels.format() == VIPS_FORMAT_USHORT
             ? paintedNode<quint16>(node, area, painting)
             : paintedNode<quint8>(node, area, painting);
+    });
+}
+
+Image painted(const Image& photo, const PaintedShape& painting)
+{
+    const ImageNode& node = *photo.node();
+    return graphics::builtImage(node, photo.pixelSize(), [&] {
+        return node.pixels.format() == VIPS_FORMAT_USHORT ? paintedNode<quint16>(node, painting)
+                                                          : paintedNode<quint8>(node, painting);
     });
 }
 

@@ -6,6 +6,7 @@
 #include <platform/graphics/color.h>
 #include <platform/graphics/image.h>
 
+#include <QPainterPath>
 #include <QPointF>
 
 #include <variant>
@@ -52,8 +53,18 @@ struct PaintedArea
     double opacity = 1; ///< from 0 to 1; scales the paint's alpha
 };
 
+/// A shape with soft edges on a photo and what is laid over it.
+struct PaintedShape
+{
+    QPainterPath shape; ///< in pixels of the photo; may lie outside in part or wholly
+    Paint paint;
+    BlendMode mode = BlendMode::Normal;
+    double opacity = 1; ///< from 0 to 1; scales the paint's alpha
+};
+
 /// `photo` with paint on it; its size, depth, colour model, alpha and profile stay. Lazily
 /// evaluated; the paint's colours are brought to those of the photo.
 [[nodiscard]] graphics::Image painted(const graphics::Image& photo, const PaintedArea& painting);
+[[nodiscard]] graphics::Image painted(const graphics::Image& photo, const PaintedShape& painting);
 
 } // namespace brenvaldo::platform::drawing

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "paint_rows.h"
 
-#include "blend_rows.h"
+#include "photo_color.h"
 
-#include <platform/graphics/color_profile.h>
-#include <platform/graphics/qt_color.h>
-
+#include <algorithm>
 #include <cmath>
 
 namespace brenvaldo::platform::drawing {
@@ -31,36 +29,25 @@ const Color& secondColor(const Paint& paint)
     return linear != nullptr ? linear->fade.to : std::get<RadialGradient>(paint).fade.to;
 }
 
-template <class Sample>
-BlendColor loadedColor(const vips::VImage& pixel, const ImageNode& photo)
-{
-    ImageNode layer = photo;
-    layer.hasAlpha = true;
-    const vips::VImage memory = pixel.copy_memory();
-    const auto* samples
-        = reinterpret_cast<const Sample*>(VIPS_IMAGE_ADDR(memory.get_image(), 0, 0));
-    BlendBlock block;
-    BlockSamples<Sample>(layer).load(samples, 1, block);
-    BlendColor color;
-    for (std::size_t i = 0; i < static_cast<std::size_t>(graphics::colorBands(photo.colorModel));
-         ++i)
-        color.components[i] = block.colors[i][0];
-    return color;
-}
-
 float between(float from, float to, float share) { return from + (to - from) * share; }
 
 } // namespace
 
 BlendColor blendColorFor(const ImageNode& photo, const Color& color)
 {
-    QImage pixel(1, 1, QImage::Format_RGBA8888);
-    pixel.fill(graphics::qtColor(color.withAlpha(1)));
-    const vips::VImage layer
-        = graphics::srgbLayerInColorsOf(graphics::Image::fromQImage(pixel).node()->pixels, photo);
-    BlendColor result = photo.pixels.format() == VIPS_FORMAT_USHORT
-        ? loadedColor<quint16>(layer, photo)
-        : loadedColor<quint8>(layer, photo);
+    const bool isInk = photo.colorModel == graphics::ColorModel::Cmyk;
+    const double full = photo.pixels.format() == VIPS_FORMAT_USHORT ? 65535 : 255;
+    const std::vector<double> samples = samplesOf(color, photo);
+    BlendColor result;
+    std::transform(
+        samples.begin(),
+        samples.end(),
+        result.components.begin(),
+        [isInk, full](double sample) {
+            const auto value = static_cast<float>(sample / full);
+            return isInk ? 1 - value : value;
+        }
+    );
     result.alpha = static_cast<float>(color.alpha);
     return result;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/drawing/ground.h>
-#include <platform/drawing/shape_paint.h>
+#include <platform/drawing/paint.h>
 #include <platform/foundation/literals.h>
 
 #include <support/case_name.h>
@@ -16,9 +16,11 @@
 
 using namespace brenvaldo;
 using namespace brenvaldo::test;
+using platform::drawing::BlendMode;
 using platform::drawing::laidOn;
+using platform::drawing::LinearGradient;
 using platform::drawing::painted;
-using platform::drawing::ShapePaint;
+using platform::drawing::PaintedShape;
 using platform::graphics::Color;
 using platform::graphics::Image;
 using testing::ElementsAre;
@@ -59,6 +61,12 @@ QPainterPath all()
     return path;
 }
 
+LinearGradient fading(const Color& color, QPointF start, QPointF end)
+{
+    return {
+        .fade = {.from = color, .to = platform::drawing::clearColor}, .start = start, .end = end};
+}
+
 void expectNear(const Pixel& actual, const Pixel& expected, double tolerance = 1)
 {
     ASSERT_EQ(actual.size(), expected.size());
@@ -69,7 +77,7 @@ void expectNear(const Pixel& actual, const Pixel& expected, double tolerance = 1
 struct BlendCase
 {
     const char* name;
-    ShapePaint::Blend blend;
+    BlendMode mode;
     Pixel full; ///< 30, 160, 220 on 200, 100, 50
     Pixel half; ///< the same at an opacity of a half
     Pixel translucent; ///< both half opaque; straight
@@ -82,12 +90,12 @@ protected:
 };
 
 const BlendCase blendCases[] = {
-    {"Normal", ShapePaint::Blend::Normal, {30, 160, 220}, {115, 130, 135}, {87, 140, 163, 191}},
-    {"Darken", ShapePaint::Blend::Darken, {30, 100, 50}, {115, 100, 50}, {87, 120, 107, 191}},
-    {"Lighten", ShapePaint::Blend::Lighten, {200, 160, 220}, {200, 130, 135}, {143, 140, 163, 191}},
-    {"Multiply", ShapePaint::Blend::Multiply, {24, 63, 43}, {112, 81, 47}, {85, 108, 104, 191}},
-    {"Overlay", ShapePaint::Blend::Overlay, {158, 125, 86}, {179, 113, 68}, {129, 128, 119, 191}},
-    {"Color", ShapePaint::Blend::Color, {27, 157, 217}, {113, 128, 133}, {86, 139, 162, 191}},
+    {"Normal", BlendMode::Normal, {30, 160, 220}, {115, 130, 135}, {87, 140, 163, 191}},
+    {"Darken", BlendMode::Darken, {30, 100, 50}, {115, 100, 50}, {87, 120, 107, 191}},
+    {"Lighten", BlendMode::Lighten, {200, 160, 220}, {200, 130, 135}, {143, 140, 163, 191}},
+    {"Multiply", BlendMode::Multiply, {24, 63, 43}, {112, 81, 47}, {85, 108, 104, 191}},
+    {"Overlay", BlendMode::Overlay, {158, 125, 86}, {179, 113, 68}, {129, 128, 119, 191}},
+    {"Color", BlendMode::Color, {27, 157, 217}, {113, 128, 133}, {86, 139, 162, 191}},
 };
 
 } // namespace
@@ -102,101 +110,105 @@ TEST_P(PaintBlend, MixesColoursAt8And16Bits)
                 sample *= unit;
             return pixel;
         };
-        ShapePaint paint{.color = bytes(30, 160, 220), .blend = GetParam().blend};
-        expectNear(pixel(painted(photo, all(), paint), 3, 2), scaled(GetParam().full), unit);
+        PaintedShape paint{.shape = all(), .paint = bytes(30, 160, 220), .mode = GetParam().mode};
+        expectNear(pixel(painted(photo, paint), 3, 2), scaled(GetParam().full), unit);
         paint.opacity = 0.5;
-        expectNear(pixel(painted(photo, all(), paint), 3, 2), scaled(GetParam().half), unit);
+        expectNear(pixel(painted(photo, paint), 3, 2), scaled(GetParam().half), unit);
     }
 }
 
 TEST_P(PaintBlend, MixesColoursOfTranslucentPixels)
 {
     const Image photo = photoOf(folder, PhotoModel::RgbAlpha, 8, {200, 100, 50, 128});
-    const ShapePaint paint{.color = bytes(30, 160, 220), .opacity = 0.5, .blend = GetParam().blend};
-    expectNear(pixel(painted(photo, all(), paint), 3, 2), GetParam().translucent, 1.5);
+    const PaintedShape paint{
+        .shape = all(), .paint = bytes(30, 160, 220), .mode = GetParam().mode, .opacity = 0.5};
+    expectNear(pixel(painted(photo, paint), 3, 2), GetParam().translucent, 1.5);
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, PaintBlend, testing::ValuesIn(blendCases), [](const auto& blend) {
     return std::string(blend.param.name);
 });
 
-TEST(ShapePaint, StaysInsideOfItsShape)
+TEST(PaintedShape, StaysInsideOfItsShape)
 {
     const TemporaryFolder folder;
     const Image photo = photoOf(folder, PhotoModel::Rgb, 8, {10, 20, 30});
     QPainterPath left;
     left.addRect(0, 0, 2, 4);
-    const Image result = painted(photo, left, {.color = bytes(200, 210, 220)});
+    const Image result = painted(photo, {.shape = left, .paint = bytes(200, 210, 220)});
 
     EXPECT_EQ(pixel(result, 1, 3), (Pixel{200, 210, 220}));
     EXPECT_EQ(pixel(result, 2, 3), (Pixel{10, 20, 30}));
 }
 
-TEST(ShapePaint, CoversSoftEdgesInPart)
+TEST(PaintedShape, CoversSoftEdgesInPart)
 {
     const TemporaryFolder folder;
     const Image photo = photoOf(folder, PhotoModel::Rgb, 8, {0, 0, 0});
     QPainterPath path;
     path.addRect(0.5, 0, 3, 4);
-    expectNear(pixel(painted(photo, path, {.color = white}), 0, 1), {128, 128, 128}, 1.5);
+    expectNear(pixel(painted(photo, {.shape = path, .paint = white}), 0, 1), {128, 128, 128}, 1.5);
 }
 
-TEST(ShapePaint, FillsTransparentPixels)
+TEST(PaintedShape, FillsTransparentPixels)
 {
     const TemporaryFolder folder;
     const Image photo = photoOf(folder, PhotoModel::RgbAlpha, 8, {10, 20, 30, 0});
     const Color color = bytes(200, 210, 220);
 
-    EXPECT_EQ(pixel(painted(photo, all(), {.color = color}), 1, 1), (Pixel{200, 210, 220, 255}));
+    EXPECT_EQ(
+        pixel(painted(photo, {.shape = all(), .paint = color}), 1, 1), (Pixel{200, 210, 220, 255})
+    );
     expectNear(
-        pixel(painted(photo, all(), {.color = color, .opacity = 0.5}), 1, 1), {200, 210, 220, 128}
+        pixel(painted(photo, {.shape = all(), .paint = color, .opacity = 0.5}), 1, 1),
+        {200, 210, 220, 128}
     );
     EXPECT_EQ(
-        pixel(painted(photo, all(), {.color = color, .opacity = 0}), 1, 1), (Pixel{10, 20, 30, 0})
+        pixel(painted(photo, {.shape = all(), .paint = color, .opacity = 0}), 1, 1),
+        (Pixel{0, 0, 0, 0})
     );
 }
 
-TEST(ShapePaint, IsAsTranslucentAsItsColour)
+TEST(PaintedShape, IsAsTranslucentAsItsColour)
 {
     const TemporaryFolder folder;
     const Image photo = photoOf(folder, PhotoModel::Rgb, 8, {0, 0, 0});
-    const ShapePaint paint{.color = white.withAlpha(0.5), .opacity = 0.5};
-    expectNear(pixel(painted(photo, all(), paint), 1, 1), {64, 64, 64});
+    const PaintedShape paint{.shape = all(), .paint = white.withAlpha(0.5), .opacity = 0.5};
+    expectNear(pixel(painted(photo, paint), 1, 1), {64, 64, 64});
 }
 
-TEST(ShapePaint, IsGreyOnGreyPhotos)
+TEST(PaintedShape, IsGreyOnGreyPhotos)
 {
     const TemporaryFolder folder;
     const Color red = bytes(255, 0, 0);
     for (const PhotoModel model : {PhotoModel::Gray, PhotoModel::GrayAlpha}) {
         const Image photo = photoOf(folder, model, 8, {60, 255});
         EXPECT_NEAR(
-            pixel(painted(photo, all(), {.color = red}), 1, 1)[0],
+            pixel(painted(photo, {.shape = all(), .paint = red}), 1, 1)[0],
             255 * grayOf({1, 0, 0}, srgb, 0),
             3
         );
-        const ShapePaint coloured{.color = red, .blend = ShapePaint::Blend::Color};
-        EXPECT_EQ(pixel(painted(photo, all(), coloured), 1, 1)[0], 60);
+        const PaintedShape coloured{.shape = all(), .paint = red, .mode = BlendMode::Color};
+        EXPECT_EQ(pixel(painted(photo, coloured), 1, 1)[0], 60);
     }
 }
 
-TEST(ShapePaint, MixesTheLightOfInks)
+TEST(PaintedShape, MixesTheLightOfInks)
 {
     const TemporaryFolder folder;
     const Image photo = photoOf(folder, PhotoModel::Cmyk, 8, {100, 50, 20, 10});
-    const ShapePaint darkened{.color = white, .blend = ShapePaint::Blend::Darken};
-    expectNear(pixel(painted(photo, all(), darkened), 1, 1), {100, 50, 20, 10});
-    const ShapePaint lightened{.color = white, .blend = ShapePaint::Blend::Lighten};
-    expectNear(pixel(painted(photo, all(), lightened), 1, 1), {0, 0, 0, 0});
+    const PaintedShape darkened{.shape = all(), .paint = white, .mode = BlendMode::Darken};
+    expectNear(pixel(painted(photo, darkened), 1, 1), {100, 50, 20, 10});
+    const PaintedShape lightened{.shape = all(), .paint = white, .mode = BlendMode::Lighten};
+    expectNear(pixel(painted(photo, lightened), 1, 1), {0, 0, 0, 0});
 }
 
-TEST(ShapePaint, FadesFromItsColourToTransparentBlack)
+TEST(PaintedShape, FadesFromItsColourToTransparentBlack)
 {
     const TemporaryFolder folder;
     const Image photo = photoOf(folder, PhotoModel::Rgb, 8, {255, 255, 255});
-    const ShapePaint paint{
-        .color = bytes(255, 0, 0), .fade = ShapePaint::Fade{.start = {0.5, 0}, .end = {4.5, 0}}};
-    const Image result = painted(photo, all(), paint);
+    const PaintedShape paint{.shape = all(), .paint = fading(bytes(255, 0, 0), {0.5, 0}, {4.5, 0})};
+    const Image result = painted(photo, paint);
 
     expectNear(pixel(result, 0, 1), {255, 0, 0});
     expectNear(pixel(result, 1, 1), {207, 64, 64});
@@ -205,21 +217,21 @@ TEST(ShapePaint, FadesFromItsColourToTransparentBlack)
     expectNear(pixel(result, 5, 1), {255, 255, 255});
 }
 
-TEST(ShapePaint, LeavesWhatLiesBeyondTheEndsOfItsFade)
+TEST(PaintedShape, LeavesWhatLiesBeyondTheEndsOfItsFade)
 {
     const TemporaryFolder folder;
     const Image photo = photoOf(folder, PhotoModel::Rgb, 8, {9, 9, 9});
-    ShapePaint paint{.color = white, .fade = ShapePaint::Fade{.start = {0, 3}, .end = {0, 1}}};
-    const Image result = painted(photo, all(), paint);
+    PaintedShape paint{.shape = all(), .paint = fading(white, {0, 3}, {0, 1})};
+    const Image result = painted(photo, paint);
     EXPECT_EQ(pixel(result, 0, 3), (Pixel{9, 9, 9}));
     EXPECT_NE(pixel(result, 0, 2), (Pixel{9, 9, 9}));
     EXPECT_EQ(pixel(result, 0, 0), (Pixel{9, 9, 9}));
 
-    paint.fade->end = paint.fade->start;
-    EXPECT_EQ(pixel(painted(photo, all(), paint), 0, 2), (Pixel{9, 9, 9}));
+    paint.paint = fading(white, {0, 3}, {0, 3});
+    EXPECT_EQ(pixel(painted(photo, paint), 0, 2), (Pixel{9, 9, 9}));
 }
 
-TEST(ShapePaint, HasItsColourInTheProfileOfThePhoto)
+TEST(PaintedShape, HasItsColourInTheProfileOfThePhoto)
 {
     const TemporaryFolder folder;
     const Image photo = *openedPhoto(PhotoBuilder()
@@ -230,7 +242,7 @@ TEST(ShapePaint, HasItsColourInTheProfileOfThePhoto)
                              .image({.access = platform::codecs::SourceAccess::Random});
     const Components expected = converted({1, 0, 0}, srgb, displayP3);
     expectNear(
-        pixel(painted(photo, all(), {.color = bytes(255, 0, 0)}), 1, 1),
+        pixel(painted(photo, {.shape = all(), .paint = bytes(255, 0, 0)}), 1, 1),
         {255 * expected[0], 255 * expected[1], 255 * expected[2]},
         2
     );
