@@ -69,7 +69,7 @@ vips::VImage blurredPixels(const vips::VImage& pixels, double sigma)
     return shrink > 1 ? widelyBlurred(pixels, sigma, shrink) : lineBlurred(pixels, sigma);
 }
 
-BRENVALDO_BLOCK_LOOP void
+BRENVALDO_VECTOR_LOOP void
 sharpen(const PixelBlock& in, const PixelBlock& blurred, float intensity, PixelBlock& out)
 {
     const auto sharpened

@@ -16,7 +16,7 @@ float clamped(float level) { return std::min(std::max(level, 0.0F), 1.0F); }
 
 float mix(float from, float to, float share) { return from + share * (to - from); }
 
-BRENVALDO_BLOCK_LOOP void invert(const PixelBlock& in, PixelBlock& out)
+BRENVALDO_VECTOR_LOOP void invert(const PixelBlock& in, PixelBlock& out)
 {
     for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
         out.red[i] = 1 - in.red[i];
@@ -33,7 +33,7 @@ struct Shade
     float share;
 };
 
-BRENVALDO_BLOCK_LOOP void shade(const PixelBlock& in, PixelBlock& out, const Shade& shade)
+BRENVALDO_VECTOR_LOOP void shade(const PixelBlock& in, PixelBlock& out, const Shade& shade)
 {
     for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
         const float gray = Luminance::of(in.red[i], in.green[i], in.blue[i]);
@@ -44,7 +44,7 @@ BRENVALDO_BLOCK_LOOP void shade(const PixelBlock& in, PixelBlock& out, const Sha
 }
 
 /// Steps between black and white.
-BRENVALDO_BLOCK_LOOP void
+BRENVALDO_VECTOR_LOOP void
 posterize(const PixelBlock::Plane& in, PixelBlock::Plane& out, float steps)
 {
     for (std::size_t i = 0; i < PixelBlock::capacity; ++i)
@@ -59,7 +59,7 @@ constexpr Matrix sepia = {{
     {0.272F, 0.534F, 0.131F},
 }};
 
-BRENVALDO_BLOCK_LOOP void tone(const PixelBlock& in, PixelBlock& out, float share)
+BRENVALDO_VECTOR_LOOP void tone(const PixelBlock& in, PixelBlock& out, float share)
 {
     for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
         const float red = in.red[i];
@@ -87,7 +87,7 @@ struct Adjustment
     }
 };
 
-BRENVALDO_BLOCK_LOOP void adjust(const PixelBlock& in, PixelBlock& out, const Adjustment& adjusted)
+BRENVALDO_VECTOR_LOOP void adjust(const PixelBlock& in, PixelBlock& out, const Adjustment& adjusted)
 {
     for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
         const float gray = Luminance::of(in.red[i], in.green[i], in.blue[i]);

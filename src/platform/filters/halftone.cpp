@@ -60,13 +60,13 @@ private:
 /// 0 at whole numbers, 1 half-way between them.
 inline float triangle(float u) { return 2 * std::abs(u - std::floor(u + 0.5F)); }
 
-BRENVALDO_BLOCK_LOOP void lineThresholds(const PatternRow& row, PixelBlock::Plane& out)
+BRENVALDO_VECTOR_LOOP void lineThresholds(const PatternRow& row, PixelBlock::Plane& out)
 {
     for (int i = 0; i < PixelBlock::capacity; ++i)
         out[static_cast<std::size_t>(i)] = triangle(row.y + static_cast<float>(i) * row.yStep);
 }
 
-BRENVALDO_BLOCK_LOOP void ringThresholds(const PatternRow& row, PixelBlock::Plane& out)
+BRENVALDO_VECTOR_LOOP void ringThresholds(const PatternRow& row, PixelBlock::Plane& out)
 {
     for (int i = 0; i < PixelBlock::capacity; ++i) {
         const float x = row.x + static_cast<float>(i) * row.xStep;
@@ -127,7 +127,7 @@ inline float biasedLight(float light, float softness)
     return light < half ? dark : light > 1 - half ? bright : light;
 }
 
-BRENVALDO_BLOCK_LOOP void
+BRENVALDO_VECTOR_LOOP void
 compare(const PixelBlock& in, const PixelBlock::Plane& thresholds, float softness, PixelBlock& out)
 {
     for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {

@@ -3,6 +3,7 @@
 
 #include <platform/graphics/convolution.h>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -10,14 +11,14 @@ namespace brenvaldo::platform::filters {
 
 namespace {
 
-/// The evaluation of a blur; owned by its output. Its input is larger by the kernel's reach on
-/// every side.
+/// The evaluation of a blur; owned by its output.
 class LineBlur
 {
 public:
     LineBlur(vips::VImage input, std::vector<float> kernel)
         : m_input(std::move(input))
         , m_kernel(std::move(kernel))
+        , m_reach(static_cast<int>(m_kernel.size()) / 2)
     {
     }
 
@@ -46,31 +47,83 @@ public:
 private:
     static LineBlur* self(void* blur) { return static_cast<LineBlur*>(blur); }
 
+    [[nodiscard]] std::size_t samplesOf(int pixels) const
+    {
+        return static_cast<std::size_t>(pixels) * static_cast<std::size_t>(m_input.bands());
+    }
+
     [[nodiscard]] int fill(VipsRegion* out, VipsRegion* input) const
     {
-        const VipsRect& area = out->valid;
-        const int more = static_cast<int>(m_kernel.size()) - 1;
-        const VipsRect needed = {area.left, area.top, area.width + more, area.height + more};
-        if (vips_region_prepare(input, &needed) != 0)
+        const VipsRect wide = grown(out->valid);
+        VipsRect inside = wide;
+        const VipsRect picture = {0, 0, m_input.width(), m_input.height()};
+        vips_rect_intersectrect(&wide, &picture, &inside);
+        if (vips_region_prepare(input, &inside) != 0)
             return -1;
-        const auto bands = static_cast<std::size_t>(m_input.bands());
-        const auto step = static_cast<std::size_t>(VIPS_REGION_LSKIP(input)) / sizeof(float);
-        thread_local std::vector<float> line;
-        line.resize(static_cast<std::size_t>(needed.width) * bands);
-        for (int y = area.top; y < VIPS_RECT_BOTTOM(&area); ++y) {
-            graphics::convolve(
-                samples(input, area.left, y), step, m_kernel, line.data(), line.size()
-            );
-            graphics::convolve(
-                line.data(),
-                bands,
-                m_kernel,
-                samples(out, area.left, y),
-                static_cast<std::size_t>(area.width) * bands
-            );
-        }
+        thread_local std::vector<float> strip;
+        strip.resize(samplesOf(wide.width) * static_cast<std::size_t>(out->valid.height));
+        blurDownwards(input, out->valid, strip);
+        for (int y = 0; y < out->valid.height; ++y)
+            blurSideways(&strip[samplesOf(wide.width) * static_cast<std::size_t>(y)], out, y);
         return 0;
     }
+
+    /// What the pixels of `area` are made of; a part of it may lie beyond the edges.
+    [[nodiscard]] VipsRect grown(const VipsRect& area) const
+    {
+        return {
+            area.left - m_reach,
+            area.top - m_reach,
+            area.width + 2 * m_reach,
+            area.height + 2 * m_reach};
+    }
+
+    /// Some columns at a time, so that the rows above and below stay in the processor's cache.
+    void blurDownwards(VipsRegion* input, const VipsRect& area, std::vector<float>& strip) const
+    {
+        constexpr std::size_t columns = 256;
+        thread_local std::vector<const float*> rows;
+        const VipsRect wide = grown(area);
+        const VipsRect& inside = input->valid;
+        rows.resize(static_cast<std::size_t>(wide.height));
+        float* first = strip.data() + samplesOf(inside.left - wide.left);
+        const std::size_t count = samplesOf(inside.width);
+        for (std::size_t done = 0; done < count; done += columns) {
+            for (int i = 0; i < wide.height; ++i)
+                rows[static_cast<std::size_t>(i)]
+                    = samples(input, inside.left, rowInside(wide.top + i)) + done;
+            float* to = first + done;
+            for (int y = 0; y < area.height; ++y, to += samplesOf(wide.width))
+                graphics::convolveRows(&rows[y], m_kernel, to, std::min(columns, count - done));
+        }
+    }
+
+    void blurSideways(float* row, VipsRegion* out, int y) const
+    {
+        const VipsRect& area = out->valid;
+        continueBeyondEdges(row, area.left - m_reach, area.width + 2 * m_reach);
+        graphics::convolve(
+            row,
+            samplesOf(1),
+            m_kernel,
+            samples(out, area.left, area.top + y),
+            samplesOf(area.width)
+        );
+    }
+
+    /// `row` begins at `left`; its pixels beyond the edges become those at the edges.
+    void continueBeyondEdges(float* row, int left, int width) const
+    {
+        const auto repeat = [this, row](int from, int to, int pixel) {
+            for (int x = from; x < to; ++x)
+                std::copy_n(row + samplesOf(pixel), samplesOf(1), row + samplesOf(x));
+        };
+        repeat(0, -left, -left);
+        const int end = m_input.width() - left;
+        repeat(end, width, end - 1);
+    }
+
+    [[nodiscard]] int rowInside(int y) const { return std::clamp(y, 0, m_input.height() - 1); }
 
     static float* samples(VipsRegion* region, int x, int y)
     {
@@ -79,6 +132,7 @@ private:
 
     vips::VImage m_input;
     std::vector<float> m_kernel;
+    int m_reach;
 };
 
 /// Lines that several strips of the blur have in common are computed once.
@@ -98,23 +152,13 @@ vips::VImage withCachedLines(const vips::VImage& pixels, int reach)
 vips::VImage lineBlurred(const vips::VImage& pixels, double sigma)
 {
     const std::vector<float> kernel = graphics::gaussianKernel(sigma);
-    const int reach = static_cast<int>(kernel.size()) / 2;
-    const vips::VImage wide = withCachedLines(pixels, reach)
-                                  .embed(
-                                      reach,
-                                      reach,
-                                      pixels.width() + 2 * reach,
-                                      pixels.height() + 2 * reach,
-                                      vips::VImage::option()->set("extend", VIPS_EXTEND_COPY)
-                                  );
+    const vips::VImage in = withCachedLines(pixels, static_cast<int>(kernel.size()) / 2);
     const vips::VImage out(vips_image_new());
     VipsImage* image = out.get_image();
-    LineBlur* blur = std::make_unique<LineBlur>(wide, kernel).release();
+    LineBlur* blur = std::make_unique<LineBlur>(in, kernel).release();
     g_signal_connect(image, "close", G_CALLBACK(&LineBlur::release), blur);
-    if (vips_image_pipelinev(image, VIPS_DEMAND_STYLE_FATSTRIP, wide.get_image(), nullptr) != 0)
+    if (vips_image_pipelinev(image, VIPS_DEMAND_STYLE_FATSTRIP, in.get_image(), nullptr) != 0)
         throw vips::VError();
-    image->Xsize = pixels.width();
-    image->Ysize = pixels.height();
     if (vips_image_generate(
             image, &LineBlur::start, &LineBlur::generate, &LineBlur::stop, blur, nullptr
         )

@@ -7,7 +7,7 @@ namespace brenvaldo::platform::filters {
 
 namespace {
 
-BRENVALDO_BLOCK_LOOP void
+BRENVALDO_VECTOR_LOOP void
 blend(const PixelBlock& front, const PixelBlock& back, const PixelBlock& mask, PixelBlock& out)
 {
     for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {

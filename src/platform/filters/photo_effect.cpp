@@ -64,7 +64,7 @@ public:
 private:
     static float clampedLevel(float level) { return std::min(std::max(level, 0.0F), 1.0F); }
 
-    BRENVALDO_BLOCK_LOOP void mixColors(const PixelBlock& in, PixelBlock& out) const
+    BRENVALDO_VECTOR_LOOP void mixColors(const PixelBlock& in, PixelBlock& out) const
     {
         for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
             const auto mixed = [&](const std::array<float, 3>& row) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <platform/graphics/block_loop.h>
+#include <platform/graphics/vector_loop.h>
 
 #include <array>
 

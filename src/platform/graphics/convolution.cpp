@@ -1,11 +1,43 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "convolution.h"
 
+#include "vector_loop.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 
 namespace brenvaldo::platform::graphics {
+
+namespace {
+
+/// `samples(tap)` points to the samples that the weight of a tap is for. Part of each loop that is
+/// compiled for several processors.
+template <class Samples>
+[[gnu::always_inline]] inline void
+sumUp(const Samples& samples, const std::vector<float>& kernel, float* out, std::size_t count)
+{
+    constexpr std::size_t block = 32; // sums that stay in registers
+    std::size_t done = 0;
+    for (; done + block <= count; done += block) {
+        std::array<float, block> sums{};
+        for (std::size_t tap = 0; tap < kernel.size(); ++tap) {
+            const float weight = kernel[tap];
+            const float* from = samples(tap) + done;
+            for (std::size_t i = 0; i < block; ++i)
+                sums[i] += weight * from[i];
+        }
+        std::copy(sums.begin(), sums.end(), out + done);
+    }
+    for (; done < count; ++done) {
+        float sum = 0;
+        for (std::size_t tap = 0; tap < kernel.size(); ++tap)
+            sum += kernel[tap] * samples(tap)[done];
+        out[done] = sum;
+    }
+}
+
+} // namespace
 
 std::vector<float> gaussianKernel(double sigma)
 {
@@ -22,30 +54,22 @@ std::vector<float> gaussianKernel(double sigma)
     return kernel;
 }
 
-void convolve(
-    const float* __restrict in,
+BRENVALDO_VECTOR_LOOP void convolve(
+    const float* in,
     std::size_t step,
     const std::vector<float>& kernel,
-    float* __restrict out,
+    float* out,
     std::size_t count
 )
 {
-    constexpr std::size_t block = 16; // sums that stay in registers
-    std::size_t done = 0;
-    for (; done + block <= count; done += block) {
-        std::array<float, block> sums{};
-        for (std::size_t tap = 0; tap < kernel.size(); ++tap) {
-            const float* from = in + done + tap * step;
-            for (std::size_t i = 0; i < block; ++i)
-                sums[i] += kernel[tap] * from[i];
-        }
-        std::copy(sums.begin(), sums.end(), out + done);
-    }
-    for (; done < count; ++done) {
-        out[done] = 0;
-        for (std::size_t tap = 0; tap < kernel.size(); ++tap)
-            out[done] += kernel[tap] * in[done + tap * step];
-    }
+    sumUp([in, step](std::size_t tap) { return in + tap * step; }, kernel, out, count);
+}
+
+BRENVALDO_VECTOR_LOOP void convolveRows(
+    const float* const* rows, const std::vector<float>& kernel, float* out, std::size_t count
+)
+{
+    sumUp([rows](std::size_t tap) { return rows[tap]; }, kernel, out, count);
 }
 
 } // namespace brenvaldo::platform::graphics
