@@ -5,8 +5,8 @@
 
 namespace brenvaldo::platform::codecs {
 
-/// `image` as it comes back out of a JPEG of the best quality, which is made in memory when the
-/// first pixel is needed: 8 bits, opaque, transparent parts on white.
+/// `image` as 8-bit RGB, as it comes back out of a JPEG of the best quality: opaque, transparent
+/// parts on white. Lazily evaluated like any other step; no file is made.
 [[nodiscard]] graphics::Image throughJpeg(const graphics::Image& image);
 
 } // namespace brenvaldo::platform::codecs
