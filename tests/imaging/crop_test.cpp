@@ -171,6 +171,7 @@ TEST_F(Cropping, SharesItsPlaceWithTintsAndResizes)
     const QString path = write(coordinates(100, 80));
     const SourceAndBase files{.source = path, .destinationBase = folder.path(u"other"_s)};
     const TintSettings corner{
+        .color = {},
         .anchor = 6,
         .xOffset = 7,
         .yOffset = 11,
