@@ -43,11 +43,8 @@ private:
             return false;
         }
         for (; m_next < VIPS_RECT_BOTTOM(&area); ++m_next) {
-            if (!m_reader->readRow(m_row.data()))
+            if (!readRow(VIPS_REGION_ADDR(out, 0, m_next), VIPS_REGION_SIZEOF_LINE(out)))
                 return false;
-            std::copy_n(
-                m_row.data(), VIPS_REGION_SIZEOF_LINE(out), VIPS_REGION_ADDR(out, 0, m_next)
-            );
         }
         return m_next < out->im->Ysize || finish();
     }
@@ -61,6 +58,16 @@ private:
             isWhole = m_reader->readRow(m_row.data());
         m_reader = nullptr;
         return isWhole;
+    }
+
+    bool readRow(VipsPel* row, std::size_t size)
+    {
+        if (m_row.size() == size)
+            return m_reader->readRow(row);
+        if (!m_reader->readRow(m_row.data()))
+            return false;
+        std::copy_n(m_row.data(), size, row);
+        return true;
     }
 
     bool start(const VipsImage& image)
@@ -86,7 +93,7 @@ private:
     int m_shrink;
     int m_next = 0;
     std::unique_ptr<JpegReader> m_reader;
-    std::vector<JSAMPLE> m_row;
+    std::vector<JSAMPLE> m_row; ///< as long as the decoder makes it
 };
 
 } // namespace

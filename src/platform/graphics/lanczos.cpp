@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <complex>
 #include <numbers>
+#include <span>
 
 namespace brenvaldo::platform::graphics {
 
@@ -18,13 +20,36 @@ using FourSamples [[gnu::vector_size(16), gnu::aligned(4), gnu::may_alias]] = fl
 using EightSamples [[gnu::vector_size(32), gnu::aligned(4), gnu::may_alias]] = float;
 constexpr int fourSamples = 4;
 
-double sinc(double x)
+/// A point of the sine that walks on in equal steps.
+class SineWalk
 {
-    const double angle = std::numbers::pi * x;
-    return angle == 0 ? 1 : std::sin(angle) / angle;
-}
+public:
+    SineWalk(double start, double step)
+        : m_point(std::polar(1.0, start))
+        , m_turn(std::polar(1.0, step))
+    {
+    }
 
-double lanczos(double x) { return std::abs(x) < lobes ? sinc(x) * sinc(x / lobes) : 0; }
+    [[nodiscard]] double sine() const { return m_point.imag(); }
+
+    void goOn()
+    {
+        m_point
+            = {m_point.real() * m_turn.real() - m_point.imag() * m_turn.imag(),
+               m_point.real() * m_turn.imag() + m_point.imag() * m_turn.real()};
+    }
+
+private:
+    std::complex<double> m_point;
+    std::complex<double> m_turn;
+};
+
+/// sinc(x) * sinc(x / 3) at `angle`, pi * x / 3, by the sine of the triple angle.
+double lanczos(double angle, double sine)
+{
+    const double square = sine * sine;
+    return angle == 0 ? 1 : square * (3 - 4 * square) / (3 * angle * angle);
+}
 
 /// Adds the neighbours and weights of the next pixel, whose centre lies at `centre`.
 void addPixel(Reduction& reduction, int from, double centre, double scale)
@@ -33,16 +58,21 @@ void addPixel(Reduction& reduction, int from, double centre, double scale)
     const int begin = static_cast<int>(std::ceil(centre - reach));
     const int end = static_cast<int>(std::floor(centre + reach)) + 1;
     const int first = std::clamp(begin, 0, from - reduction.taps);
-    std::vector<double> weights(static_cast<std::size_t>(reduction.taps));
+    const auto taps = static_cast<std::size_t>(reduction.taps);
+    reduction.first.push_back(first);
+    reduction.weights.resize(reduction.weights.size() + taps);
+    const auto weights = std::span(reduction.weights).last(taps);
+    const double step = std::numbers::pi / reach;
+    SineWalk walk((begin - centre) * step, step);
     double sum = 0;
-    for (int neighbour = begin; neighbour < end; ++neighbour) {
-        const double weight = lanczos((neighbour - centre) / scale);
-        weights[static_cast<std::size_t>(std::clamp(neighbour, 0, from - 1) - first)] += weight;
+    for (int neighbour = begin; neighbour < end; ++neighbour, walk.goOn()) {
+        const double weight = lanczos((neighbour - centre) * step, walk.sine());
+        const auto tap = static_cast<std::size_t>(std::clamp(neighbour, 0, from - 1) - first);
+        weights[tap] += static_cast<float>(weight);
         sum += weight;
     }
-    reduction.first.push_back(first);
-    for (const double weight : weights)
-        reduction.weights.push_back(static_cast<float>(weight / sum));
+    for (float& weight : weights)
+        weight /= static_cast<float>(sum);
 }
 
 /// Up to four bands of the pixels; what it writes behind them the next pixel or band overwrites.
