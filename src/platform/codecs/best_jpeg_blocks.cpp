@@ -12,7 +12,7 @@ namespace brenvaldo::platform::codecs {
 namespace {
 
 constexpr std::size_t side = BlockRow::side;
-constexpr std::size_t width = BlockRow::width;
+constexpr std::size_t rowWidth = BlockRow::width;
 
 using Plane = BlockRow::Plane;
 using Matrix = std::array<std::array<float, side>, side>;
@@ -45,7 +45,7 @@ Matrix transposed(const Matrix& matrix)
 BRENVALDO_VECTOR_LOOP void mixColumns(const Matrix& matrix, const Plane& in, Plane& out)
 {
     for (std::size_t k = 0; k < side; ++k) {
-        for (std::size_t x = 0; x < width; ++x) {
+        for (std::size_t x = 0; x < rowWidth; ++x) {
             float sum = 0;
             for (std::size_t i = 0; i < side; ++i)
                 sum += matrix[k][i] * in[i][x];
@@ -58,7 +58,7 @@ BRENVALDO_VECTOR_LOOP void mixColumns(const Matrix& matrix, const Plane& in, Pla
 BRENVALDO_VECTOR_LOOP void mixRows(const Matrix& transposed, const Plane& in, Plane& out)
 {
     for (std::size_t y = 0; y < side; ++y) {
-        for (std::size_t x = 0; x < width; x += side) {
+        for (std::size_t x = 0; x < rowWidth; x += side) {
             std::array<float, side> sums{};
             for (std::size_t i = 0; i < side; ++i) {
                 for (std::size_t k = 0; k < side; ++k)
@@ -96,7 +96,7 @@ BRENVALDO_VECTOR_LOOP void toBrightnessAndDifferences(BlockRow& pixels)
 {
     auto& [reds, greens, blues] = pixels.planes;
     for (std::size_t y = 0; y < side; ++y) {
-        for (std::size_t x = 0; x < width; ++x) {
+        for (std::size_t x = 0; x < rowWidth; ++x) {
             const float red = reds[y][x];
             const float green = greens[y][x];
             const float blue = blues[y][x];
@@ -111,7 +111,7 @@ BRENVALDO_VECTOR_LOOP void toColors(BlockRow& pixels)
 {
     auto& [brightnesses, blueDifferences, redDifferences] = pixels.planes;
     for (std::size_t y = 0; y < side; ++y) {
-        for (std::size_t x = 0; x < width; ++x) {
+        for (std::size_t x = 0; x < rowWidth; ++x) {
             const float brightness = brightnesses[y][x];
             const float ofBlue = blueDifferences[y][x] - neutral;
             const float ofRed = redDifferences[y][x] - neutral;
