@@ -32,7 +32,7 @@ struct PageValues
     bool showsCaptionsInLightbox = false;
     QString thumbnailFormat; ///< the extension of the thumbnails
     QString largeFormat; ///< the extension of the large pictures
-    QString productSite; ///< web address without its scheme
+    QString productSite = {}; ///< web address without its scheme
 };
 
 /// The name of page `number`, from 1: "photos.html", "photos2.html".

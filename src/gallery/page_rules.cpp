@@ -30,7 +30,7 @@ std::array<QString, 6> columnWidths(int columns)
     return widths;
 }
 
-int thumbnailHeight(int ratioIndex, int width, int height)
+std::optional<int> thumbnailHeight(int ratioIndex, int width)
 {
     switch (ratioIndex) {
     case 1:
@@ -50,7 +50,7 @@ int thumbnailHeight(int ratioIndex, int width, int height)
     case 8:
         return width / 16 * 9;
     default:
-        return height;
+        return std::nullopt;
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <array>
+#include <optional>
 
 namespace brenvaldo::gallery {
 
@@ -20,8 +21,8 @@ namespace brenvaldo::gallery {
 /// Each is a multiple of the one before and may pass 100.
 [[nodiscard]] std::array<QString, 6> columnWidths(int columns);
 
-/// The height that a thumbnail of `width` pixels takes by the index of the ratio pop-up; `height`
-/// itself for an index without a ratio.
-[[nodiscard]] int thumbnailHeight(int ratioIndex, int width, int height);
+/// The height that a thumbnail of `width` pixels takes by the index of the ratio pop-up; nothing
+/// for an index without a ratio.
+[[nodiscard]] std::optional<int> thumbnailHeight(int ratioIndex, int width);
 
 } // namespace brenvaldo::gallery

@@ -10,7 +10,7 @@ namespace brenvaldo::gallery {
 
 namespace {
 
-void addContainer(CssText& css, const ResponsiveGridValues& values)
+void addGridContainer(CssText& css, const ResponsiveGridValues& values)
 {
     css.rule(u".dvpgrResponsiveGrid-container"_s, {u"max-width: 1200px;"_s, u"margin: 0 auto;"_s});
     addPageBackground(css, u".dvpgrResponsiveGrid-container::after"_s, values.pageBackground);
@@ -26,7 +26,7 @@ void addMagnifying(CssText& css, const ResponsiveGridValues& values)
         css.rule(cell + u" img"_s, {softChangeLines()});
 }
 
-void addPattern(CssText& css, const PatternLook& pattern)
+void addGridPattern(CssText& css, const PatternLook& pattern)
 {
     css.rule(
         u".dvpgrResponsiveGrid-container::before"_s,
@@ -45,7 +45,7 @@ QString repeatedTracks(const QString& axis, const QString& size)
     return u"grid-template-%1: repeat(auto-fill, minmax(%2px, 1fr));"_s.arg(axis, size);
 }
 
-void addGrid(CssText& css, const ResponsiveGridValues& values)
+void addDenseGrid(CssText& css, const ResponsiveGridValues& values)
 {
     css.rule(u"body, html"_s, {u"height: 100%;"_s});
     css.rule(u"body.blurred > *"_s, {u"-webkit-filter: blur(2px);"_s});
@@ -78,7 +78,7 @@ void addCells(CssText& css)
     addCell(css, u".dvpgrImage4"_s, 3);
 }
 
-void addTexts(CssText& css, const ResponsiveGridValues& values)
+void addGridTexts(CssText& css, const ResponsiveGridValues& values)
 {
     addCaptionOnPicture(css, values.fontFamily, values.caption, {});
     css.rule(u".dvSsRef"_s, {u"position: absolute;"_s, u"bottom: -30px;"_s, u"right: 0;"_s});
@@ -94,12 +94,12 @@ void addTexts(CssText& css, const ResponsiveGridValues& values)
 QString responsiveGridStylesheet(const ResponsiveGridValues& values)
 {
     CssText css;
-    addContainer(css, values);
+    addGridContainer(css, values);
     addMagnifying(css, values);
-    addPattern(css, values.pattern);
-    addGrid(css, values);
+    addGridPattern(css, values.pattern);
+    addDenseGrid(css, values);
     addCells(css);
-    addTexts(css, values);
+    addGridTexts(css, values);
     addLightbox(
         css,
         {.comment = u"/* dravoth: lightbox of the responsive grid */\n"_s,

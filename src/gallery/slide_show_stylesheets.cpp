@@ -17,7 +17,7 @@ QString shadowOfShow(const SlideShowValues& values)
 }
 
 /// The container opens on the line of its first declaration.
-void addContainer(CssText& css, const QStringList& lines)
+void addShowContainer(CssText& css, const QStringList& lines)
 {
     css.raw(u".dvSsSlideshow-container {"_s);
     for (const QString& line : lines) {
@@ -32,7 +32,7 @@ void addBody(CssText& css, const SlideShowValues& values)
     css.rule(u"body, html"_s, {u"background-color:%1;"_s.arg(values.pageBackground)});
 }
 
-void addPattern(CssText& css, const PatternLook& pattern)
+void addShowPattern(CssText& css, const PatternLook& pattern)
 {
     if (!pattern.shown)
         return;
@@ -50,7 +50,7 @@ void addPattern(CssText& css, const PatternLook& pattern)
     );
 }
 
-void addButtons(CssText& css)
+void addShowButtons(CssText& css)
 {
     css.rule(u".dvSsSlides"_s, {u"display: none;"_s});
     css.rule(
@@ -193,7 +193,7 @@ void addSlidingMotion(CssText& css, const QString& width)
 QString slideShowStylesheet(const SlideShowValues& values)
 {
     CssText css;
-    addContainer(
+    addShowContainer(
         css,
         {u"background-color: #000000;"_s,
          shadowOfShow(values),
@@ -208,8 +208,8 @@ QString slideShowStylesheet(const SlideShowValues& values)
             + QStringList{u"z-index: -10;"_s, u"width: 100%;"_s, u"height: 100%;"_s}
     );
     addBody(css, values);
-    addPattern(css, values.pattern);
-    addButtons(css);
+    addShowPattern(css, values.pattern);
+    addShowButtons(css);
     addCaptionOnPicture(css, values.fontFamily, values.caption, u"z-index: 2;"_s);
     addNumber(css, values);
     addDots(css, values.dotColor);
@@ -223,7 +223,7 @@ QString slidingShowStylesheet(const SlidingShowValues& values)
     CssText css;
     css.raw(u"@charset \"UTF-8\";\n"_s);
     css.rule(u"*"_s, {u"box-sizing: border-box;"_s});
-    addContainer(
+    addShowContainer(
         css,
         {shadowOfShow(values.show),
          u"width: %1px;"_s.arg(values.show.width),
@@ -233,7 +233,7 @@ QString slidingShowStylesheet(const SlidingShowValues& values)
          u"margin: auto;"_s}
     );
     addBody(css, values.show);
-    addPattern(css, values.show.pattern);
+    addShowPattern(css, values.show.pattern);
     addCaptionOnPicture(css, values.show.fontFamily, values.show.caption, u"z-index:2;"_s);
     addTitle(css, values.show, u"z-index:10;"_s);
     addSlides(css, values);

@@ -128,7 +128,7 @@ void addLoading(CssText& css)
     );
 }
 
-void addCaptionBand(CssText& css, const LightboxRules& rules)
+void addLightboxCaption(CssText& css, const LightboxRules& rules)
 {
     css.rule(
         u".dvPGlightbox_caption"_s,
@@ -154,7 +154,7 @@ void addCaptionBand(CssText& css, const LightboxRules& rules)
     );
 }
 
-void addButtons(CssText& css)
+void addLightboxButtons(CssText& css)
 {
     css.rule(
         u".dvPGlightbox_button"_s,
@@ -319,8 +319,8 @@ void addLightbox(CssText& css, const LightboxRules& rules)
 {
     addLightboxLayer(css, rules);
     addLoading(css);
-    addCaptionBand(css, rules);
-    addButtons(css);
+    addLightboxCaption(css, rules);
+    addLightboxButtons(css);
 }
 
 } // namespace brenvaldo::gallery

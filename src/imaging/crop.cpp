@@ -75,10 +75,15 @@ DVImageHandling::cropImage9(const QString& path, const QString& folder, const Ga
     const auto photo = hStringToCGImageRef(path);
     if (!photo)
         return saveUnderItsName(std::nullopt, path, folder);
+    return saveUnderItsName(galleryCut(*photo, crop), path, folder);
+}
+
+std::optional<Image> DVImageHandling::galleryCut(const Image& picture, const GalleryCrop& crop)
+{
     const CropOffset& offset
         = crop.kind == u"myCropThumb"_s ? crop.thumbnailOffset : crop.bigOffset;
-    const auto origin = cropOrigin(photo->pixelSize(), crop.size, crop.anchor, offset);
-    return saveUnderItsName(cutOut(*photo, origin, crop.size), path, folder);
+    const auto origin = cropOrigin(picture.pixelSize(), crop.size, crop.anchor, offset);
+    return cutOut(picture, origin, crop.size);
 }
 
 } // namespace brenvaldo::imaging

@@ -171,6 +171,18 @@ public:
     /// file.
     ResultWord cropImage9(const QString& path, const QString& folder, const GalleryCrop& crop);
 
+    /// The part of a picture that `cropImage9` cuts out; nothing when it lies outside.
+    [[nodiscard]] std::optional<platform::graphics::Image>
+    galleryCut(const platform::graphics::Image& picture, const GalleryCrop& crop);
+
+    /// Resizes the stored pixels of the photo at `path` by the rule of `gallerySize` and writes it
+    /// under its name into `folder`, which ends in "/".
+    ///
+    /// "Not Supported" for Photoshop and PDF files; "OK", and nothing written, at a size that
+    /// nothing can be drawn at. A type that there is not takes the size before.
+    ResultWord
+    resizeImageResponsiveDesign(const QString& path, int value, int type, const QString& folder);
+
     /// Turns a photo's stored pixels. Corners that become free are transparent; on a canvas the
     /// picture is an opaque one in 8-bit sRGB.
     [[nodiscard]] static Outcome hRotatePicture(
@@ -227,6 +239,13 @@ public:
     /// pixels falls on the picture.
     ResultWord
     addBorderToImage2(const QString& path, const platform::graphics::Color& color, double width);
+
+    /// The picture with the line of `addBorderToImage2` along its edge.
+    [[nodiscard]] static platform::graphics::Image withEdgeLine(
+        const platform::graphics::Image& picture,
+        const platform::graphics::Color& color,
+        double width
+    );
 
     /// Cuts the stored pixels of a photo to a rounded shape, with a border and a background as the
     /// settings tell: 8-bit sRGB with alpha.
@@ -287,6 +306,7 @@ private:
 
     double m_currentDPI = 0;
     QPoint m_offset; ///< of the last part cut, outlined or tinted, as that operation counts it
+    platform::graphics::PixelSize m_gallerySize; ///< of the last resizing for a gallery
     ResultWord m_storeResult = ResultWord::Failed;
 };
 

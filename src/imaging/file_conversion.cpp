@@ -87,11 +87,12 @@ ResultWord writeByWord(const PictureToSave& picture)
     return write(picture, *conversionRuleForWord(picture.typeIdentifier));
 }
 
-/// The photo as the rule wants it; nothing for a type that no rule knows.
+/// The image as the rule wants it; nothing for a type that no rule knows.
 std::optional<PictureToSave> converted(
     const FileConversion::Settings& settings,
     const std::optional<ConversionRule>& rule,
-    PictureToSave::Writer writer
+    PictureToSave::Writer writer,
+    const std::optional<platform::graphics::Image>& image
 )
 {
     if (!rule)
@@ -99,13 +100,32 @@ std::optional<PictureToSave> converted(
     PictureToSave picture{
         .destination = settings.destination,
         .typeIdentifier = settings.type,
-        .image = storedPhoto(settings.source, SourceAccess::OnePass),
+        .image = image,
         .compressionLevel = settings.compressionLevel,
         .writer = writer,
         .source = settings.source};
     if (rule->route == ConversionRule::Route::Metadata)
         picture.properties = platform::metadata::readMetadataBlocks(settings.source);
     return picture;
+}
+
+std::optional<platform::graphics::Image> photoOf(const FileConversion::Settings& settings)
+{
+    return storedPhoto(settings.source, SourceAccess::OnePass);
+}
+
+std::optional<PictureToSave> convertedByType(const FileConversion::Settings& settings)
+{
+    return converted(
+        settings, conversionRuleForType(settings.type), writeByType, photoOf(settings)
+    );
+}
+
+/// With the whole path of the file.
+FileConversion::Settings inFolder(FileConversion::Settings settings)
+{
+    settings.destination += nameWithoutExtension(settings.source) + u'.' + settings.type;
+    return settings;
 }
 
 ConversionResult
@@ -123,21 +143,27 @@ saved(const FileConversion::Settings& settings, const std::optional<PictureToSav
 
 Outcome FileConversion::conversion(const Settings& settings)
 {
-    const auto picture = converted(settings, conversionRuleForType(settings.type), writeByType);
+    const auto picture = convertedByType(settings);
     return picture ? Outcome(*picture) : ResultWord::Failed;
 }
 
 ConversionResult FileConversion::hConvertFileType(const Settings& settings) const
 {
-    return saved(settings, converted(settings, conversionRuleForType(settings.type), writeByType));
+    return saved(settings, convertedByType(settings));
+}
+
+std::optional<PictureToSave>
+FileConversion::pictureOfType(const Settings& settings, const platform::graphics::Image& image)
+{
+    return converted(inFolder(settings), conversionRuleForWord(settings.type), writeByWord, image);
 }
 
 ConversionResult FileConversion::hSaveAsFileType(const Settings& settings) const
 {
-    Settings whole = settings;
-    whole.destination += nameWithoutExtension(settings.source) + QLatin1Char('.') + settings.type;
+    const Settings whole = inFolder(settings);
+    const auto rule = conversionRuleForWord(whole.type);
     const ConversionResult result
-        = saved(whole, converted(whole, conversionRuleForWord(whole.type), writeByWord));
+        = saved(whole, converted(whole, rule, writeByWord, photoOf(whole)));
     if (whole.destination != settings.source)
         QFile::remove(settings.source);
     return result;

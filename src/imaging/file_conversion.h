@@ -35,6 +35,11 @@ public:
     /// The picture that `hConvertFileType` writes; "Failed" for an unknown type.
     [[nodiscard]] static Outcome conversion(const Settings& settings);
 
+    /// The picture that `hSaveAsFileType` writes of `image`, made of the photo `source`; nothing
+    /// for an unknown extension word.
+    [[nodiscard]] static std::optional<PictureToSave>
+    pictureOfType(const Settings& settings, const platform::graphics::Image& image);
+
     /// Writes the photo to `destination` as the format that the type identifier ends with; an
     /// unknown type writes nothing.
     ConversionResult hConvertFileType(const Settings& settings) const;

@@ -131,15 +131,21 @@ ResultWord DVImageHandling::addBorderToImage2(
     const auto image = storedPhoto(path, SourceAccess::OnePass);
     if (!image)
         return m_storeResult;
-    const DrawnLine line = {.path = edgeLine(image->pixelSize()), .width = width, .color = color};
     m_storeResult = hSaveToNewImageFile({
         .destination = path,
         .typeIdentifier
         = platform::containers::preferredTypeIdentifier(platform::pathExtension(path)),
-        .image = drawn(*image, line),
+        .image = withEdgeLine(*image, color, width),
         .properties = platform::metadata::readMetadataBlocks(path),
     });
     return m_storeResult;
+}
+
+Image DVImageHandling::withEdgeLine(
+    const Image& picture, const platform::graphics::Color& color, double width
+)
+{
+    return drawn(picture, {.path = edgeLine(picture.pixelSize()), .width = width, .color = color});
 }
 
 } // namespace brenvaldo::imaging

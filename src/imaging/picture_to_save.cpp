@@ -22,6 +22,11 @@ PictureToSave outputPicture(
         .writer = DVImageHandling::hSaveToNewImageFileX};
 }
 
-ResultWord save(const PictureToSave& picture) { return picture.writer(picture); }
+ResultWord save(const PictureToSave& picture)
+{
+    const ResultWord before = picture.before ? save(*picture.before) : ResultWord::Ok;
+    const ResultWord word = picture.writer(picture);
+    return word == ResultWord::Ok ? before : word;
+}
 
 } // namespace brenvaldo::imaging

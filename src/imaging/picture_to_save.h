@@ -9,6 +9,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <variant>
 
@@ -31,6 +32,7 @@ struct PictureToSave
     QString compressionLevel = {}; ///< ignored by `hSaveToNewImageFile`
     Writer writer = nullptr;
     QString source = {}; ///< path of the photo; for a writer that looks at it once more
+    std::shared_ptr<const PictureToSave> before = {}; ///< of the same photo, written first
 };
 
 /// Nothing can be made of the photo: its word is that of the picture that was saved before.
@@ -49,7 +51,8 @@ using Outcome = std::variant<ResultWord, WordOfPictureBefore, PictureToSave>;
     const OutputTail& tail
 );
 
-/// Makes the file by the picture's writer.
+/// Makes the file by the picture's writer, after that of the picture before it; "OK" when both
+/// stand.
 ResultWord save(const PictureToSave& picture);
 
 } // namespace brenvaldo::imaging

@@ -36,7 +36,7 @@ struct TemplateSegment
 
 using Panel = panels::GalleryPanel;
 
-const TemplateText texts[] = {
+const TemplateText templateTexts[] = {
     {&Panel::tfNumberOfRows, {u"6", u"6", u"6", u"4"}},
     {&Panel::tfNumberOfColumns, {u"4", u"6", u"6", u"6"}},
     {&Panel::tfHTMLbackgroundColor, {u"092B4F", u"EDF0EF", u"EDF0EF", u"6B89CB"}},
@@ -73,7 +73,7 @@ const TemplateText texts[] = {
     {&Panel::tfNSColorWellObjRDLightboxBgColor, {u"000000", u"37677B", u"183F7D", u"30373C"}},
 };
 
-const TemplateIndex indexes[] = {
+const TemplateIndex templateIndexes[] = {
     {&Panel::pbFontFamily, {7, 6, 6, 6}},
     {&Panel::pubPgMetaData, {0, 0, 0, 1}},
     {&Panel::pbExifUserCommentFontSize, {3, 0, 0, 0}},
@@ -81,7 +81,7 @@ const TemplateIndex indexes[] = {
     {&Panel::pubThumbAction, {0, 0, 1, 0}},
 };
 
-const TemplateSegment segments[] = {
+const TemplateSegment templateSegments[] = {
     {&Panel::scFilenameTxtAlign, {0, 2, 2, 1}},
     {&Panel::scEXIFuserCommentTxtAlgin, {0, 2, 2, 1}},
 };
@@ -166,11 +166,11 @@ void applyCommonValues(panels::GalleryPanel& gallery)
 
 void applyOwnValues(std::size_t index, panels::GalleryPanel& gallery)
 {
-    for (const TemplateText& text : texts)
+    for (const TemplateText& text : templateTexts)
         (gallery.*text.field).setStringValue(QString::fromUtf16(text.values.at(index)));
-    for (const TemplateIndex& choice : indexes)
+    for (const TemplateIndex& choice : templateIndexes)
         (gallery.*choice.popUp).selectItemAtIndex(choice.values.at(index));
-    for (const TemplateSegment& choice : segments)
+    for (const TemplateSegment& choice : templateSegments)
         (gallery.*choice.segments).setSelectedSegment(choice.values.at(index));
     gallery.sliderLightboxRDBgColorOpacity.setDoubleValue(boxOpacities.at(index));
 }

@@ -7,10 +7,13 @@
 #include <workspace/start/app_delegate.h>
 
 #include <files/tool_box.h>
+#include <gallery/gallery_icons.h>
+#include <gallery/responsive_design.h>
 #include <imaging/color_well_handling.h>
 #include <imaging/dv_image_handling.h>
 #include <metadata/mmeta.h>
 #include <presets/action_run.h>
+#include <presets/gallery_templates.h>
 #include <presets/preset_manager.h>
 #include <presets/sheet_control.h>
 #include <services/code_actions.h>
@@ -48,6 +51,7 @@ QuickEdits quickEditsOf(imaging::DVImageHandling& imageHandling)
 Neighbours neighboursOf(
     imaging::DVImageHandling& imageHandling,
     metadata::mMeta& meta,
+    panels::Panels& panels,
     const platform::UserDefaults& defaults
 )
 {
@@ -56,6 +60,9 @@ Neighbours neighboursOf(
     neighbours.hiDoNothing = [&](const QString& path) { meta.hiDoNothing(path); };
     neighbours.forgetPhoto = [&meta] { meta.forgetPhoto(); };
     neighbours.hRenameTWMFile = presets::renamedByActions;
+    neighbours.hLoadTemplatePreset
+        = [&panels](int index) { presets::applyGalleryTemplate(index, panels.vwHtmlExport); };
+    neighbours.imageNamed = gallery::templatePicture;
     neighbours.photosAtATime = [&defaults] { return defaults.text(u"PhotosAtATime"_s).toInt(); };
     return neighbours;
 }
@@ -75,7 +82,7 @@ struct Workspace::Parts
                .desktop = surroundings.desktop,
                .defaults = surroundings.defaults}
           )
-        , neighbours(neighboursOf(imageHandling, meta, surroundings.defaults))
+        , neighbours(neighboursOf(imageHandling, meta, panels, surroundings.defaults))
         , collectionView(
               {.panels = panels,
                .photos = photos,
@@ -117,6 +124,20 @@ struct Workspace::Parts
                   guiControls.hAlertWindow(title, text);
               }
           )
+        , responsiveDesign(
+              {.panel = panels.vwHtmlExport,
+               .bar = panels.window.myProgressBar,
+               .imageHandling = imageHandling,
+               .meta = meta,
+               .desktop = surroundings.desktop,
+               .tickedPhotos = [this] { return tickedPhotos(); },
+               .hAlertWindow = [this](
+                                   const QString& title, const QString& text
+                               ) { guiControls.hAlertWindow(title, text); },
+               .closeAlert = [this] { guiControls.closeApplicationAlertSheetObjC(); },
+               .showPicture
+               = [this](const QString& name) { collectionView.callForHTMLTemplatePreview(name); }}
+          )
         , presetManager(
               panels,
               selectedFunction,
@@ -139,9 +160,7 @@ struct Workspace::Parts
                .alert = [this](const Message& message
                         ) { guiControls.hAlertWindow(message.title, message.text); }}
           )
-        , presetApplied(presetManager.presetApplied.connect([this] {
-            collectionView.callForPreview();
-        }))
+        , presetApplied(presetManager.presetApplied.connect([this] { showLoadedPreset(); }))
         , presetNotSaved(presetManager.presetNotSaved.connect([this](const QString& name) {
             recordLostPreset(name);
         }))
@@ -149,7 +168,9 @@ struct Workspace::Parts
     }
 
     void registerActions();
+    void showLoadedPreset();
     void recordLostPreset(const QString& name);
+    [[nodiscard]] QStringList tickedPhotos() const;
     [[nodiscard]] static QString selectedFunction();
     [[nodiscard]] const Function* functionOfRun() const;
 
@@ -173,6 +194,7 @@ struct Workspace::Parts
         .panels = panels,
         .imageHandling = imageHandling,
         .watermark = watermark,
+        .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
         .toolBox = toolBox};
     Neighbours neighbours;
@@ -181,6 +203,7 @@ struct Workspace::Parts
     cGUIcontrols guiControls;
     AppDelegate delegate;
     presets::cSheetControl sheetControl;
+    gallery::cResponsiveDesign responsiveDesign;
     presets::cPresetManager presetManager;
     imaging::cColorWellHandling colorWells;
     services::CodeActions codeActions{
@@ -205,9 +228,28 @@ void Workspace::Parts::registerActions()
     watermark::registerPanelActions(actions, panels.vwWatermark, notifications);
     colorWells.registerActions(actions);
     codeActions.registerActions(actions);
+    responsiveDesign.registerActions(actions);
     actionList.registerActions(actions);
     manualSort.registerActions(actions);
     fileSorter.registerActions(actions);
+}
+
+void Workspace::Parts::showLoadedPreset()
+{
+    collectionView.callForPreview();
+    const Function* function = functions.withId(selectedFunction());
+    if (function && function->whenPresetLoaded)
+        function->whenPresetLoaded(subsystems);
+}
+
+QStringList Workspace::Parts::tickedPhotos() const
+{
+    QStringList paths;
+    for (const cCollectionViewItem& entry : photos.entries()) {
+        if (entry.myPhotoSelect == 1)
+            paths.append(entry.myPhotoDescription);
+    }
+    return paths;
 }
 
 void Workspace::Parts::recordLostPreset(const QString& name)

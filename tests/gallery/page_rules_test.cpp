@@ -52,19 +52,19 @@ TEST(ColumnWidths, BeginAtAWholeShare)
 
 TEST(ThumbnailHeight, FollowsTheWidthByTheRatio)
 {
-    EXPECT_EQ(thumbnailHeight(1, 450, 7), 450);
-    EXPECT_EQ(thumbnailHeight(2, 451, 7), 300);
-    EXPECT_EQ(thumbnailHeight(3, 451, 7), 675);
-    EXPECT_EQ(thumbnailHeight(4, 451, 7), 150);
-    EXPECT_EQ(thumbnailHeight(5, 451, 7), 336);
-    EXPECT_EQ(thumbnailHeight(6, 451, 7), 600);
-    EXPECT_EQ(thumbnailHeight(7, 100, 7), 72);
-    EXPECT_EQ(thumbnailHeight(8, 451, 7), 252);
+    EXPECT_EQ(thumbnailHeight(1, 450), 450);
+    EXPECT_EQ(thumbnailHeight(2, 451), 300);
+    EXPECT_EQ(thumbnailHeight(3, 451), 675);
+    EXPECT_EQ(thumbnailHeight(4, 451), 150);
+    EXPECT_EQ(thumbnailHeight(5, 451), 336);
+    EXPECT_EQ(thumbnailHeight(6, 451), 600);
+    EXPECT_EQ(thumbnailHeight(7, 100), 72);
+    EXPECT_EQ(thumbnailHeight(8, 451), 252);
 }
 
 TEST(ThumbnailHeight, StaysWithoutARatio)
 {
-    EXPECT_EQ(thumbnailHeight(0, 450, 7), 7);
-    EXPECT_EQ(thumbnailHeight(9, 450, 7), 7);
-    EXPECT_EQ(thumbnailHeight(-1, 450, 7), 7);
+    EXPECT_EQ(thumbnailHeight(0, 450), std::nullopt);
+    EXPECT_EQ(thumbnailHeight(9, 450), std::nullopt);
+    EXPECT_EQ(thumbnailHeight(-1, 450), std::nullopt);
 }

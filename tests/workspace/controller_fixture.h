@@ -7,6 +7,7 @@
 
 #include <controls/user_input.h>
 #include <files/tool_box.h>
+#include <gallery/responsive_design.h>
 #include <imaging/dv_image_handling.h>
 #include <platform/foundation/paths.h>
 #include <watermark/dv_watermark.h>
@@ -109,6 +110,16 @@ protected:
         workspace::cCollectionViewItem item = entry(path, u"S"_s);
         item.myRenameSelect = 1;
         return item;
+    }
+
+    [[nodiscard]] QStringList tickedPhotos() const
+    {
+        QStringList paths;
+        for (const auto& item : photos.entries()) {
+            if (item.myPhotoSelect == 1)
+                paths.append(item.myPhotoDescription);
+        }
+        return paths;
     }
 
     [[nodiscard]] QStringList listedNames() const
@@ -214,10 +225,25 @@ protected:
     RecordingDesktop desktop;
     platform::UserDefaults defaults{folder.path(u"defaults"_s)};
     files::cToolBox toolBox{{.chooser = chooser, .desktop = desktop, .defaults = defaults}};
+    metadata::mMeta meta{panels};
+    gallery::cResponsiveDesign responsiveDesign{
+        {.panel = panels.vwHtmlExport,
+         .bar = panels.window.myProgressBar,
+         .imageHandling = imageHandling,
+         .meta = meta,
+         .desktop = desktop,
+         .tickedPhotos = [this] { return tickedPhotos(); },
+         .hAlertWindow = [this](
+                             const QString& title, const QString& text
+                         ) { guiControls.hAlertWindow(title, text); },
+         .closeAlert = [this] { guiControls.closeApplicationAlertSheetObjC(); },
+         .showPicture
+         = [this](const QString& name) { collectionView.callForHTMLTemplatePreview(name); }}};
     workspace::Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
         .watermark = mark,
+        .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
         .toolBox = toolBox};
     workspace::Neighbours neighbours;

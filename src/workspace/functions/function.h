@@ -105,6 +105,8 @@ struct Function
     Preview preview = {}; ///< empty: no effect is shown
     PhotoBelow photoBelow = PhotoBelow::Stays;
     std::vector<PresetTable> presets = {};
+    /// Shows what belongs to a preset that was loaded, after the preview was drawn anew.
+    std::function<void(const Subsystems& subsystems)> whenPresetLoaded = {};
 };
 
 /// False for a function that comes with a later version. One with a button of its own is built when

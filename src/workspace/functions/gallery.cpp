@@ -3,7 +3,21 @@
 
 #include "function_id.h"
 
+#include <gallery/responsive_design.h>
+#include <presets/gallery_record.h>
+
 namespace brenvaldo::workspace {
+
+namespace {
+
+void makeGallery(const ListRun::Photos& photos)
+{
+    photos.subsystems.gallery.hCreateResponsiveHTML(photos.destination, photos.sink);
+}
+
+void showTemplate(const Subsystems& subsystems) { subsystems.gallery.showTemplateOfPreset(); }
+
+} // namespace
 
 Function gallery()
 {
@@ -13,7 +27,9 @@ Function gallery()
         .title = QT_TRANSLATE_NOOP("FunctionTitle", "Web gallery"),
         .choice = {.section = Section::Gallery},
         .holders = {QLatin1String("vwHtmlExport"), Empty, Fill, Empty, Fill},
-        .run = ListRun{},
+        .run = ListRun{.work = makeGallery},
+        .presets = {{.make = presets::galleryRecord}},
+        .whenPresetLoaded = showTemplate,
     };
 }
 

@@ -4,6 +4,9 @@
 namespace brenvaldo::files {
 class cToolBox;
 }
+namespace brenvaldo::gallery {
+class cResponsiveDesign;
+}
 namespace brenvaldo::imaging {
 class DVImageHandling;
 }
@@ -24,6 +27,7 @@ struct Subsystems
     panels::Panels& panels;
     imaging::DVImageHandling& imageHandling;
     watermark::DVWatermark& watermark;
+    gallery::cResponsiveDesign& gallery;
     PreviewPhotos& previewPhotos;
     const files::cToolBox& toolBox;
 };

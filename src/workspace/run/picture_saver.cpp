@@ -57,6 +57,7 @@ imaging::PhotoOutcome withoutPixels(const imaging::PhotoOutcome& photo)
     if (auto* picture = std::get_if<imaging::PictureToSave>(&rest.outcome)) {
         picture->image.reset();
         picture->properties.reset();
+        picture->before.reset();
     }
     return rest;
 }

@@ -6,6 +6,7 @@
 #include <workspace/functions/preset_records.h>
 #include <workspace/preview/photo_preview.h>
 
+#include <gallery/responsive_design.h>
 #include <imaging/dv_image_handling.h>
 #include <panels/panels.h>
 #include <platform/foundation/paths.h>
@@ -133,7 +134,8 @@ TEST(Functions, OfThisVersionAreThese)
             u"resizePhotos"_s,
             u"cropPhotos"_s,
             u"fileRenaming"_s,
-            u"batchFileConvert"_s
+            u"batchFileConvert"_s,
+            u"htmlExport"_s
         )
     );
     EXPECT_THAT(
@@ -170,10 +172,22 @@ TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
          .previewPhoto = [](const QString&) { return std::nullopt; }}};
     workspace::PreviewPhotos previewPhotos;
     test::SilentToolBox tools;
+    metadata::mMeta meta{panels};
+    gallery::cResponsiveDesign responsiveDesign{
+        {.panel = panels.vwHtmlExport,
+         .bar = panels.window.myProgressBar,
+         .imageHandling = imageHandling,
+         .meta = meta,
+         .desktop = tools.desktop,
+         .tickedPhotos = {},
+         .hAlertWindow = {},
+         .closeAlert = {},
+         .showPicture = {}}};
     const workspace::Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
         .watermark = mark,
+        .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
         .toolBox = tools.box};
     const workspace::PresetRecords records(rows(), subsystems);
@@ -233,10 +247,22 @@ TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)
          .previewPhoto = [](const QString&) { return std::nullopt; }}};
     workspace::PreviewPhotos previewPhotos;
     test::SilentToolBox tools;
+    metadata::mMeta meta{panels};
+    gallery::cResponsiveDesign responsiveDesign{
+        {.panel = panels.vwHtmlExport,
+         .bar = panels.window.myProgressBar,
+         .imageHandling = imageHandling,
+         .meta = meta,
+         .desktop = tools.desktop,
+         .tickedPhotos = {},
+         .hAlertWindow = {},
+         .closeAlert = {},
+         .showPicture = {}}};
     const workspace::Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
         .watermark = mark,
+        .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
         .toolBox = tools.box};
     workspace::Functions functions({*rows().withId(u"fileRenaming"_s)});
