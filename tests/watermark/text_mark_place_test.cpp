@@ -16,8 +16,8 @@ using watermark::TextWatermarkSettings;
 
 namespace {
 
-constexpr int xOffset = 5;
-constexpr int yOffset = 3;
+constexpr int offsetAcross = 5;
+constexpr int offsetUp = 3;
 
 enum class Room { None, Half, All };
 
@@ -35,8 +35,8 @@ struct PlaceRow
     friend void PrintTo(const PlaceRow& row, std::ostream* out) { *out << row.name; }
 };
 
-constexpr int X = xOffset;
-constexpr int Y = yOffset;
+constexpr int X = offsetAcross;
+constexpr int Y = offsetUp;
 
 constexpr std::array places{
     PlaceRow{"TopLeftUpright", 0, 0, Room::None, Room::All, X, Y},
@@ -111,8 +111,8 @@ TEST_P(TextMarkPlace, IsThatOfTheTablePixelByPixel)
     TextWatermarkSettings settings = whiteBlock();
     settings.placement
         = {.anchor = GetParam().anchor,
-           .xOffset = xOffset,
-           .yOffset = yOffset,
+           .xOffset = offsetAcross,
+           .yOffset = offsetUp,
            .angle = GetParam().angle};
 
     const QImage found = markedPhoto(settings);
