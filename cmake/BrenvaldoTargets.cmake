@@ -7,6 +7,13 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
+# In a file of several sources a local name meets those of the other sources, which says nothing.
+if(CMAKE_UNITY_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  set(brenvaldo_shadow -Wshadow=local)
+elseif(NOT CMAKE_UNITY_BUILD)
+  set(brenvaldo_shadow -Wshadow)
+endif()
+
 add_library(brenvaldo_flags INTERFACE)
 target_compile_options(
   brenvaldo_flags
@@ -14,7 +21,7 @@ target_compile_options(
             -Wall
             -Wextra
             -Wpedantic
-            -Wshadow
+            ${brenvaldo_shadow}
             -Wconversion
             -Wold-style-cast
             -Wnon-virtual-dtor
