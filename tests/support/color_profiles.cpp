@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string>
 
 namespace brenvaldo::test {
@@ -48,7 +49,8 @@ constexpr cmsUInt16Number whiteSample = 0xFF00; // L* of 100 in a table of 16 bi
 
 cmsInt32Number inkOfLab(const cmsUInt16Number* lab, cmsUInt16Number* ink, void* /*unused*/)
 {
-    const int light = std::min<int>(lab[0], whiteSample) * fullSample / whiteSample;
+    const std::uint32_t light
+        = std::min<std::uint32_t>(lab[0], whiteSample) * fullSample / whiteSample;
     ink[0] = ink[1] = ink[2] = 0;
     ink[3] = static_cast<cmsUInt16Number>(fullSample - light);
     return 1;
