@@ -29,7 +29,7 @@ int follow(int side, double percent) { return truncated(side * percent / 100.0);
 int followToCover(int side, double percent, int box)
 {
     const int followed = follow(side, percent);
-    return followed == box - 1 ? box : followed;
+    return std::int64_t{box} - followed == 1 ? box : followed;
 }
 
 PixelSize byWidth(PixelSize photo, int width)
