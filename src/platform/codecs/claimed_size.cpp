@@ -130,7 +130,7 @@ void checkClaimedSize(const QString& path, const QString& typeIdentifier, PixelS
     else if (typeIdentifier == QLatin1String("com.compuserve.gif"))
         holds = gifHolds(file, size);
     else if (typeIdentifier == QLatin1String("public.pbm"))
-        holds = holdsWholeAnymap(file);
+        holds = holdsWholeAnymap(file, size);
     else if (typeIdentifier != QLatin1String("org.webmproject.webp"))
         // A flat WebP of the largest size takes 30 bytes; its sides are short enough by themselves.
         holds = flatCodingHolds(file, size);
@@ -138,7 +138,7 @@ void checkClaimedSize(const QString& path, const QString& typeIdentifier, PixelS
         throw vips::VError("the file is too short for the size it claims");
 }
 
-bool holdsWholeAnymap(QByteArrayView file)
+bool holdsWholeAnymap(QByteArrayView file, PixelSize size)
 {
     if (file.size() < 3)
         return false;
@@ -149,9 +149,8 @@ bool holdsWholeAnymap(QByteArrayView file)
     const qint64 width = words.nextNumber();
     const qint64 height = words.nextNumber();
     const qint64 most = isBits ? 1 : words.nextNumber();
-    constexpr qint64 longestSide = qint64{1} << 30;
-    if (width <= 0 || height <= 0 || most <= 0 || width > longestSide || height > longestSide)
-        return false;
+    if (width <= 0 || height <= 0 || most <= 0 || width != size.width || height != size.height)
+        return false; // the engine takes a side that is too long for one of 1
     const qint64 rowSamples = width * (kind == 3 || kind == 6 ? 3 : 1);
     const qint64 rowBytes = isBits ? (width + 7) / 8 : rowSamples * (most > 255 ? 2 : 1);
     const qint64 shortestRow = isText ? rowSamples : rowBytes;

@@ -15,8 +15,9 @@ namespace brenvaldo::platform::codecs {
 /// type `typeIdentifier`. JPEG, TIFF, BMP and Photoshop files are looked at by their own readers.
 void checkClaimedSize(const QString& path, const QString& typeIdentifier, graphics::PixelSize size);
 
-/// True when a file of the anymap family (P1 to P6) holds all samples that its header claims.
-[[nodiscard]] bool holdsWholeAnymap(QByteArrayView file);
+/// True when a file of the anymap family (P1 to P6), taken for one of `size`, claims that size and
+/// holds all its samples.
+[[nodiscard]] bool holdsWholeAnymap(QByteArrayView file, graphics::PixelSize size);
 
 /// True when the run lengths of a bitmap, of 4 or 8 bits a pixel, reach their end marker or the end
 /// of the picture, fit their rows, and when that picture isn't far larger than runs can make it.

@@ -152,6 +152,13 @@ INSTANTIATE_TEST_SUITE_P(
     CaseName()
 );
 
+TEST(LongAnymap, IsRefusedWithASideThatTheEngineCanNotTake)
+{
+    EXPECT_TRUE(opens("P4 1000000 1\n" + QByteArray(125'000, 'x')));
+    EXPECT_FALSE(opens("P4 20000000 1\n" + QByteArray(2'500'000, 'x')));
+    EXPECT_FALSE(opens("P4 1 20000000\n" + QByteArray(20'000'000, 'x')));
+}
+
 struct RunsCase
 {
     const char* name;
