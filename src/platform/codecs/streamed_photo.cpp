@@ -9,6 +9,7 @@
 #include <platform/containers/mapped_file.h>
 #include <platform/graphics/color_profile.h>
 #include <platform/graphics/deferred_pixels.h>
+#include <platform/graphics/engine.h>
 
 #include <QFile>
 
@@ -58,7 +59,10 @@ vips::VImage load(const StreamedType& type, const QString& path, int shrink)
                                  ->set("fail_on", type.failOn);
     if (shrink > 1)
         options->set("shrink", shrink);
+    const int madeUpBefore = graphics::madeUpParts();
     vips::VImage::call(type.loader, options);
+    if (graphics::madeUpParts() != madeUpBefore)
+        throw vips::VError("the header of the file can't be true");
     return out;
 }
 

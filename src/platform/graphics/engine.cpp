@@ -54,9 +54,17 @@ void logEngineMessage(
     log(line);
 }
 
+/// The engine goes on with a size of 1 in the place of one that it can't take.
+bool tellsOfMadeUpSize(const QString& warning)
+{
+    return warning.contains(QLatin1String("out of range for property"));
+}
+
 /// Other libraries than the engine: what stops the program is told, notes on themselves are not.
 void logWhatIsSevere(const gchar* domain, GLogLevelFlags level, const gchar* message, gpointer data)
 {
+    if (tellsOfMadeUpSize(QString::fromUtf8(message)))
+        ++toldMadeUpParts;
     if ((level & (G_LOG_LEVEL_ERROR | G_LOG_LEVEL_CRITICAL)) != 0)
         logEngineMessage(domain, level, message, data);
 }

@@ -18,7 +18,8 @@ public:
     ~Engine();
 };
 
-/// Number of times that a decoder told this thread that it makes up pixels which its file has lost.
+/// Number of times that this thread was told of something made up: pixels that a file has lost, or
+/// a size in the place of one that the engine can't take.
 [[nodiscard]] int madeUpParts();
 
 /// Number of threads that one picture is evaluated with.

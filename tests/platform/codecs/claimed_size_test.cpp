@@ -159,6 +159,17 @@ TEST(LongAnymap, IsRefusedWithASideThatTheEngineCanNotTake)
     EXPECT_FALSE(opens("P4 1 20000000\n" + QByteArray(20'000'000, 'x')));
 }
 
+TEST(StreamedPhoto, IsNotTakenForOneOfASizeThatTheEngineMadeUp)
+{
+    const TemporaryFolder folder;
+    const LogLines log;
+    const QByteArray line = "P4 20000000 1\n" + QByteArray(2'500'000, 'x');
+
+    EXPECT_FALSE(ImageSource::open(folder.write(u"a.pbm"_s, line)));
+    ASSERT_EQ(log.lines().size(), 1);
+    EXPECT_TRUE(log.lines().first().endsWith(u"the header of the file can't be true"_s));
+}
+
 struct RunsCase
 {
     const char* name;
