@@ -185,6 +185,7 @@ bool moveItem(const SourceAndTarget& paths)
 
 bool createSymbolicLink(const SourceAndTarget& paths)
 {
+    awaitFile(paths.target);
     std::error_code error;
     std::filesystem::create_symlink(nativePath(paths.source), nativePath(paths.target), error);
     return !error;
@@ -222,6 +223,7 @@ QList<FolderEntry> folderEntries(const QString& folder, HiddenFiles hidden)
 {
     if (folder.isEmpty())
         return {};
+    awaitFile(folder);
     QDir::Filters filters = QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot;
     if (hidden == HiddenFiles::Included)
         filters |= QDir::Hidden;

@@ -160,7 +160,7 @@ TEST_F(FilesOfARun, StandBeforeAPhotoOfThatNameIsNamed)
 
 TEST_F(FilesOfARun, HaveTheirWordsWhereTheLastOneIsAskedFor)
 {
-    addPhotos({u"/in/a.jpg"_s});
+    addPhotos({u"/in/a.jpg"_s, u"/in/b.jpg"_s});
     panels.vwWatermark.tbvWatermarkType.selectIndex(1);
     panels.window.pubEditPhoto.selectIndex(0);
     select("imageWM");
