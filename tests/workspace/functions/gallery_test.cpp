@@ -131,8 +131,10 @@ TEST_F(Gallery, HasOnlyTheRedirectWhenThePhotosFillTheirPages)
 TEST_F(Gallery, TakesPhotosThatAreTickedWhateverTheFilterSays)
 {
     addPhotos(3);
-    photos.at(0).myPhotoOrientation = u"P"_s;
-    photos.at(1).myPhotoSelect = 0;
+    workspace::cCollectionViewItem upright = photos.entries().first();
+    upright.myPhotoOrientation = u"P"_s;
+    photos.replaceAt(0, upright);
+    photos.setTick(1, 0);
     panels.vwApplyOn.pubPhotoOrientation.selectIndex(1);
     run();
     EXPECT_EQ(files(u"DVimages_b"_s), (QStringList{u"p1.png"_s, u"p3.png"_s}));
@@ -174,7 +176,7 @@ TEST_F(Gallery, LeavesPicturesWholeWithoutBothSides)
 
 TEST_F(Gallery, DrawsFramesInTheColourOfTheirWells)
 {
-    add(test::PhotoBuilder().size(64, 32).color(Qt::green), u"p1.jpg"_s);
+    add(test::PhotoBuilder().size(64, 32).solid({0, 255, 0}), u"p1.jpg"_s);
     set(panel.tfSmallFramingThickness, 4);
     panel.cwNSColorWellObjBsImage.setColor({.red = 1});
     set(panel.tfBigFramingThickness, 6);
