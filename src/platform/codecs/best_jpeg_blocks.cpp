@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <numbers>
 
 namespace brenvaldo::platform::codecs {
@@ -54,17 +55,20 @@ BRENVALDO_VECTOR_LOOP void mixColumns(const Matrix& matrix, const Plane& in, Pla
     }
 }
 
+/// Eight samples that are computed at once.
+using Eight [[gnu::vector_size(side * sizeof(float))]] = float;
+
 /// Each row of each square times the matrix whose transposed one is `transposed`.
 BRENVALDO_VECTOR_LOOP void mixRows(const Matrix& transposed, const Plane& in, Plane& out)
 {
+    Eight rows[side];
+    std::memcpy(rows, transposed.data(), sizeof rows);
     for (std::size_t y = 0; y < side; ++y) {
         for (std::size_t x = 0; x < rowWidth; x += side) {
-            std::array<float, side> sums{};
-            for (std::size_t i = 0; i < side; ++i) {
-                for (std::size_t k = 0; k < side; ++k)
-                    sums[k] += transposed[i][k] * in[y][x + i];
-            }
-            std::copy(sums.begin(), sums.end(), out[y].begin() + x);
+            Eight sums = {};
+            for (std::size_t i = 0; i < side; ++i)
+                sums += rows[i] * in[y][x + i];
+            std::memcpy(&out[y][x], &sums, sizeof sums);
         }
     }
 }

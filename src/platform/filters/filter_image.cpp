@@ -90,9 +90,32 @@ withSourcesInMemory(const NodePointer& node, std::map<const PixelNode*, NodePoin
     return done[node.get()] = std::make_shared<PixelNode>(std::move(copy));
 }
 
-quint8 byteOf(float value)
+using Bytes = std::array<quint8, PixelBlock::capacity>;
+
+BRENVALDO_VECTOR_LOOP void toBytes(const PixelBlock::Plane& levels, Bytes& bytes)
 {
-    return static_cast<quint8>(std::clamp(value, 0.0F, 1.0F) * 255 + 0.5F);
+    for (std::size_t i = 0; i < levels.size(); ++i) {
+        const float level = std::min(std::max(levels[i], 0.0F), 1.0F);
+        bytes[i] = static_cast<quint8>(static_cast<int>(level * 255 + 0.5F));
+    }
+}
+
+/// Puts the planes of a block side by side; `bands` of them.
+void storeBytes(const PixelBlock& block, int bands, std::size_t count, quint8* out)
+{
+    std::array<Bytes, 4> planes;
+    toBytes(block.red, planes[0]);
+    toBytes(block.green, planes[1]);
+    toBytes(block.blue, planes[2]);
+    if (bands > 3)
+        toBytes(block.alpha, planes[3]);
+    for (std::size_t i = 0; i < count; ++i, out += bands) {
+        out[0] = planes[0][i];
+        out[1] = planes[1][i];
+        out[2] = planes[2][i];
+        if (bands > 3)
+            out[3] = planes[3][i];
+    }
 }
 
 } // namespace
@@ -122,13 +145,7 @@ graphics::Image FilterImage::toImage(const graphics::Image& photo) const
         {bands, VIPS_FORMAT_UCHAR, VIPS_INTERPRETATION_sRGB},
         [bands](const PixelBlock& block, int first, int count, void* row) {
             quint8* out = static_cast<quint8*>(row) + std::ptrdiff_t{first} * bands;
-            for (std::size_t i = 0; i < static_cast<std::size_t>(count); ++i, out += bands) {
-                out[0] = byteOf(block.red[i]);
-                out[1] = byteOf(block.green[i]);
-                out[2] = byteOf(block.blue[i]);
-                if (bands > 3)
-                    out[3] = byteOf(block.alpha[i]);
-            }
+            storeBytes(block, bands, static_cast<std::size_t>(count), out);
         }
     );
     return graphics::makeImage(

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstddef>
+#include "pixel_block.h"
+
 #include <functional>
 #include <vector>
 
@@ -11,22 +12,19 @@ namespace brenvaldo::platform::filters {
 class LevelTable
 {
 public:
-    LevelTable(const std::function<double(double)>& function, int steps)
-        : m_steps(static_cast<float>(steps))
-    {
-        for (int i = 0; i <= steps; ++i)
-            m_values.push_back(static_cast<float>(function(static_cast<double>(i) / steps)));
-        m_values.push_back(m_values.back()); // the neighbour of 1
-    }
+    LevelTable(const std::function<double(double)>& function, int steps);
 
     /// `level` must lie from 0 to 1.
     [[nodiscard]] float operator()(float level) const
     {
         const float place = level * m_steps;
-        const auto index = static_cast<std::size_t>(static_cast<int>(place));
-        const float share = place - static_cast<float>(index);
-        return m_values[index] + share * (m_values[index + 1] - m_values[index]);
+        const int index = static_cast<int>(place);
+        const float* values = m_values.data() + index;
+        return values[0] + (place - static_cast<float>(index)) * (values[1] - values[0]);
     }
+
+    /// The same for many levels; `in` may be `out`.
+    void lookUp(const PixelBlock::Plane& in, PixelBlock::Plane& out) const;
 
 private:
     float m_steps;

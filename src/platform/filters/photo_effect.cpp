@@ -54,11 +54,9 @@ public:
     void apply(const PixelBlock& in, PixelBlock& out) const
     {
         mixColors(in, out);
-        for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
-            out.red[i] = m_tables[0](out.red[i]);
-            out.green[i] = m_tables[1](out.green[i]);
-            out.blue[i] = m_tables[2](out.blue[i]);
-        }
+        m_tables[0].lookUp(out.red, out.red);
+        m_tables[1].lookUp(out.green, out.green);
+        m_tables[2].lookUp(out.blue, out.blue);
     }
 
 private:
@@ -66,19 +64,21 @@ private:
 
     BRENVALDO_VECTOR_LOOP void mixColors(const PixelBlock& in, PixelBlock& out) const
     {
+        const auto mix = m_mix; // a copy, which the output can't be a part of
+        const float saturation = m_saturation;
         for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
             const auto mixed = [&](const std::array<float, 3>& row) {
                 return clampedLevel(
                     row[0] * in.red[i] + row[1] * in.green[i] + row[2] * in.blue[i]
                 );
             };
-            const float red = mixed(m_mix[0]);
-            const float green = mixed(m_mix[1]);
-            const float blue = mixed(m_mix[2]);
+            const float red = mixed(mix[0]);
+            const float green = mixed(mix[1]);
+            const float blue = mixed(mix[2]);
             const float gray = Luminance::of(red, green, blue);
-            out.red[i] = clampedLevel(gray + m_saturation * (red - gray));
-            out.green[i] = clampedLevel(gray + m_saturation * (green - gray));
-            out.blue[i] = clampedLevel(gray + m_saturation * (blue - gray));
+            out.red[i] = clampedLevel(gray + saturation * (red - gray));
+            out.green[i] = clampedLevel(gray + saturation * (green - gray));
+            out.blue[i] = clampedLevel(gray + saturation * (blue - gray));
         }
     }
 

@@ -22,25 +22,39 @@ public:
     {
     }
 
-    [[nodiscard]] float operator()(float value) const
+    void apply(const PixelBlock::Plane& in, PixelBlock::Plane& out) const
+    {
+        if (allInside(in))
+            return m_table.lookUp(in, out);
+        for (std::size_t i = 0; i < PixelBlock::capacity; ++i)
+            out[i] = at(in[i]);
+    }
+
+private:
+    [[nodiscard]] float at(float value) const
     {
         if (value >= 0 && value <= 1)
             return m_table(value);
         return static_cast<float>(m_function(static_cast<double>(value)));
     }
 
-private:
+    BRENVALDO_VECTOR_LOOP static bool allInside(const PixelBlock::Plane& levels)
+    {
+        int inside = 0;
+        for (const float level : levels)
+            inside += level >= 0 && level <= 1 ? 1 : 0;
+        return inside == PixelBlock::capacity;
+    }
+
     Function m_function;
     LevelTable m_table;
 };
 
 void apply(const Curve& curve, const PixelBlock& in, PixelBlock& out)
 {
-    for (std::size_t i = 0; i < PixelBlock::capacity; ++i) {
-        out.red[i] = curve(in.red[i]);
-        out.green[i] = curve(in.green[i]);
-        out.blue[i] = curve(in.blue[i]);
-    }
+    curve.apply(in.red, out.red);
+    curve.apply(in.green, out.green);
+    curve.apply(in.blue, out.blue);
     out.alpha = in.alpha;
 }
 

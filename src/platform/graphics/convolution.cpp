@@ -9,36 +9,6 @@
 
 namespace brenvaldo::platform::graphics {
 
-namespace {
-
-/// `samples(tap)` points to the samples that the weight of a tap is for. Part of each loop that is
-/// compiled for several processors.
-template <class Samples>
-[[gnu::always_inline]] inline void
-sumUp(const Samples& samples, const std::vector<float>& kernel, float* out, std::size_t count)
-{
-    constexpr std::size_t block = 32; // sums that stay in registers
-    std::size_t done = 0;
-    for (; done + block <= count; done += block) {
-        std::array<float, block> sums{};
-        for (std::size_t tap = 0; tap < kernel.size(); ++tap) {
-            const float weight = kernel[tap];
-            const float* from = samples(tap) + done;
-            for (std::size_t i = 0; i < block; ++i)
-                sums[i] += weight * from[i];
-        }
-        std::copy(sums.begin(), sums.end(), out + done);
-    }
-    for (; done < count; ++done) {
-        float sum = 0;
-        for (std::size_t tap = 0; tap < kernel.size(); ++tap)
-            sum += kernel[tap] * samples(tap)[done];
-        out[done] = sum;
-    }
-}
-
-} // namespace
-
 std::vector<float> gaussianKernel(double sigma)
 {
     const int reach = static_cast<int>(std::ceil(3 * sigma));
@@ -62,14 +32,24 @@ BRENVALDO_VECTOR_LOOP void convolve(
     std::size_t count
 )
 {
-    sumUp([in, step](std::size_t tap) { return in + tap * step; }, kernel, out, count);
-}
-
-BRENVALDO_VECTOR_LOOP void convolveRows(
-    const float* const* rows, const std::vector<float>& kernel, float* out, std::size_t count
-)
-{
-    sumUp([rows](std::size_t tap) { return rows[tap]; }, kernel, out, count);
+    constexpr std::size_t block = 32; // sums that stay in registers
+    std::size_t done = 0;
+    for (; done + block <= count; done += block) {
+        std::array<float, block> sums{};
+        for (std::size_t tap = 0; tap < kernel.size(); ++tap) {
+            const float weight = kernel[tap];
+            const float* from = in + done + tap * step;
+            for (std::size_t i = 0; i < block; ++i)
+                sums[i] += weight * from[i];
+        }
+        std::copy(sums.begin(), sums.end(), out + done);
+    }
+    for (; done < count; ++done) {
+        float sum = 0;
+        for (std::size_t tap = 0; tap < kernel.size(); ++tap)
+            sum += kernel[tap] * in[done + tap * step];
+        out[done] = sum;
+    }
 }
 
 } // namespace brenvaldo::platform::graphics

@@ -18,9 +18,4 @@ void convolve(
     std::size_t count
 );
 
-/// `out[i]` is the sum of `kernel[tap] * rows[tap][i]`.
-void convolveRows(
-    const float* const* rows, const std::vector<float>& kernel, float* out, std::size_t count
-);
-
 } // namespace brenvaldo::platform::graphics
