@@ -6,6 +6,7 @@
 #include <controls/action_registry.h>
 #include <platform/foundation/literals.h>
 #include <presets/code_record.h>
+#include <presets/gallery_record.h>
 #include <presets/image_records.h>
 #include <presets/preset_manager.h>
 #include <presets/renaming_records.h>
@@ -29,6 +30,7 @@ inline QHash<QString, presets::PresetRecord> recordsOf(panels::Panels& panels)
         {u"cropPhotos"_s, presets::cropRecord(panels)},
         {u"filters"_s, presets::filterRecord(panels)},
         {u"batchQR"_s, presets::codeRecord(panels)},
+        {u"htmlExport"_s, presets::galleryRecord(panels)},
         {u"manSort"_s, presets::manSortRecord(panels)},
         {u"batchSort"_s, presets::batchSortRecord(panels)},
         {u"Strip"_s, presets::stripRecord(panels)},

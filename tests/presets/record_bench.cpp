@@ -93,6 +93,8 @@ void RecordBench::give(const QString& name, const QString& value)
         selectTab(*tabs, value);
     else if (auto* well = dynamic_cast<controls::ColorWell*>(&target))
         giveColor(*well, value);
+    else if (auto* slider = dynamic_cast<controls::Slider*>(&target))
+        slider->setDoubleValue(value.toDouble());
     ASSERT_EQ(read(name), value) << name.toStdString() << " can't have the value";
 }
 
@@ -111,6 +113,8 @@ QString RecordBench::read(const QString& name) const
         return tabs->selectedLabel();
     if (const auto* well = dynamic_cast<const controls::ColorWell*>(&source))
         return colorText(well->color());
+    if (const auto* slider = dynamic_cast<const controls::Slider*>(&source))
+        return QString::number(slider->doubleValue(), 'f', 6);
     return {};
 }
 
@@ -148,7 +152,9 @@ QString RecordBench::nameOf(Round round) { return round == Round::First ? u"A"_s
 QString RecordBench::storedFormOf(const QString& name, const QString& value) const
 {
     if (dynamic_cast<const controls::ColorWell*>(&control(name)))
-        return platform::archives::colorArchive(componentsOf(value));
+        return m_process == u"htmlExport"
+            ? platform::archives::galleryColorArchive(componentsOf(value))
+            : platform::archives::colorArchive(componentsOf(value));
     if (name == u"tfImageDestinationFolder" || name == u"tfWaterMarkImageFilePath"
         || name == u"tfBatchSortDestFolder" || name.startsWith(u"tfSortDestination"_s)) {
         const QString path = QDir::cleanPath(value);
