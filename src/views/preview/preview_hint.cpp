@@ -18,7 +18,7 @@ QString previewHint(const panels::Panels& panels, const workspace::PhotoList& ph
 {
     const QString function = workspace::shownFunction(panels);
     if (function == workspace::functionId::htmlExport)
-        return tr("Pictures of the gallery templates come with a later version");
+        return tr("Choose a template to see how its gallery looks");
     if (photos.isEmpty())
         return tr("Your photo shows here");
     const auto* entry = photos.selectedEntry();
