@@ -123,6 +123,7 @@ void PictureSaver::waitForAll()
 
 void PictureSaver::recordWhatStands()
 {
+    m_writer.cancel();
     while (!m_waiting.empty()) {
         const Waiting first = std::move(m_waiting.front());
         m_waiting.pop_front();
