@@ -34,7 +34,9 @@ protected:
     }
 
     /// The words of a run into a folder of its own that takes up `room` bytes.
-    [[nodiscard]] QStringList wordsOfRun(const QString& target, int atATime, std::size_t room) const
+    [[nodiscard]] QStringList wordsOfRun(
+        const QString& target, int atATime, std::size_t room, const QString& type = u"bmp"_s
+    ) const
     {
         QDir(folder()).mkdir(target);
         const LogLines log;
@@ -43,7 +45,7 @@ protected:
             u"defaults PhotosAtATime %1"_s.arg(atATime),
             u"set pubFileManagementSelect 3"_s,
             u"set tfImageDestinationFolder "_s + folder() + target + u'/',
-            u"set pubFileType bmp"_s};
+            u"set pubFileType "_s + type};
         for (const QString& photo : m_photos)
             script.append(u"open "_s + photo);
         script.append(u"press hLoadImages"_s);
@@ -59,6 +61,14 @@ protected:
     {
         return QDir(folder() + target)
             .entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+    }
+
+    [[nodiscard]] std::size_t sizeOf(const QString& target) const
+    {
+        std::size_t bytes = 0;
+        for (const QFileInfo& file : QDir(folder() + target).entryInfoList(QDir::Files))
+            bytes += static_cast<std::size_t>(file.size());
+        return bytes;
     }
 
 private:
@@ -83,11 +93,18 @@ TEST_F(NearlyFullDisk, FailsEachPhotoThatDoesNotFitAndNoneThatDoes)
     EXPECT_EQ(filesOf(u"many"_s), files);
 }
 
-TEST_F(NearlyFullDisk, FillsADiskToItsEnd)
+TEST_F(NearlyFullDisk, HasRoomForPhotosThatFitOneByOne)
 {
-    for (const QString& name : {u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s, u"d.jpg"_s})
-        addPhoto(name, 100);
+    // Beside each file, while it is made, stands the one without its metadata.
+    for (const QString& name :
+         {u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s, u"d.jpg"_s, u"e.jpg"_s, u"f.jpg"_s})
+        addPhoto(name, 500);
+    const QStringList allOk(6, u"OK"_s);
+    constexpr std::size_t plenty = 1U << 30U;
+    ASSERT_EQ(wordsOfRun(u"free"_s, 1, plenty, u"jpeg"_s), allOk);
+    const std::size_t bytes = sizeOf(u"free"_s);
+    const std::size_t room = bytes + bytes / 5;
 
-    EXPECT_EQ(wordsOfRun(u"many"_s, 4, 125'000), (QStringList{u"OK"_s, u"OK"_s, u"OK"_s, u"OK"_s}));
-    EXPECT_EQ(filesOf(u"many"_s).size(), 4);
+    EXPECT_EQ(wordsOfRun(u"one"_s, 1, room, u"jpeg"_s), allOk);
+    EXPECT_EQ(wordsOfRun(u"many"_s, 6, room, u"jpeg"_s), allOk);
 }

@@ -112,6 +112,23 @@ TEST(BackgroundWriter, MakesNoMoreFilesAtOnceThanItMay)
         EXPECT_EQ(writer.takeFirst().word, ResultWord::Ok);
 }
 
+TEST(BackgroundWriter, KeepsFewFilesWaitingForTheirTurn)
+{
+    Places places;
+    Event firstIsMade;
+    BackgroundWriter writer(two());
+    writer.start(places.work(1, firstIsMade.future()));
+    for (int file = 2; file <= 8; ++file)
+        writer.start(places.work(file, atOnce()));
+    auto ninth = std::async(std::launch::async, [&] { writer.start(places.work(9, atOnce())); });
+
+    EXPECT_EQ(ninth.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
+    firstIsMade.happen();
+    ninth.wait();
+    for (int file = 1; file <= 9; ++file)
+        EXPECT_EQ(writer.takeFirst().word, ResultWord::Ok);
+}
+
 TEST(BackgroundWriter, MakesAFileAloneThatNeedsMoreMemoryThanThereIs)
 {
     Places places;
