@@ -135,7 +135,11 @@ TEST(BackgroundWriter, MakesAFileAloneThatNeedsMoreMemoryThanThereIs)
     Event isMade;
     BackgroundWriter writer(two());
     writer.start(places.work(1, isMade.future(), plenty + 1));
-    auto second = std::async(std::launch::async, [&] { writer.start(places.work(2, atOnce())); });
+    auto second = std::async(std::launch::async, [&] {
+        BackgroundWriter::Work work = places.work(2, atOnce());
+        work.diskSpace = 4 * plenty;
+        writer.start(work);
+    });
 
     EXPECT_EQ(second.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
     isMade.happen();
