@@ -33,6 +33,8 @@ BackgroundWriter::Limits limitsOf(int photos)
 /// The same for all ways to write a path.
 QString placeOf(const QString& path)
 {
+    if (path.isEmpty())
+        return {};
     const QFileInfo file(path);
     const QString existing = file.canonicalFilePath();
     return existing.isEmpty() ? QFileInfo(file.path()).canonicalFilePath() + u'/' + file.fileName()
@@ -81,7 +83,7 @@ void PictureSaver::take(const imaging::PhotoOutcome& photo)
     if (picture)
         start(photo, *picture);
     else
-        m_waiting.push_back({.photo = photo, .place = {}});
+        m_waiting.push_back({.photo = photo, .place = placeOf(photo.target)});
     recordFinished();
 }
 
