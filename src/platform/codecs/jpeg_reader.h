@@ -58,7 +58,9 @@ private:
     Source m_source = {};
     jpeg_progress_mgr m_progress = {};
     jpeg_decompress_struct m_decoder = {};
-    std::array<JOCTET, 1 << 16> m_buffer;
+    // With more bytes at hand than this the library takes a way through them on which it passes bad
+    // codes over without a word.
+    std::array<JOCTET, 512> m_buffer;
     bool m_isOpen = false;
 };
 

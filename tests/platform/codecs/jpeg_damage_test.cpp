@@ -65,6 +65,15 @@ QByteArray withoutTheLastScan()
     return file.first(file.lastIndexOf("\xFF\xDA")) + endMarker;
 }
 
+/// There is no code of ones alone. More data follow than the picture takes.
+QByteArray withABadCode()
+{
+    QByteArray file = jpegOf({});
+    const qsizetype quarter = file.size() / 4;
+    const QByteArray more = file.sliced(file.size() / 2, quarter);
+    return file.insert(file.size() / 2, QByteArray("\xFF\0\xFF\0\xFF\0", 6) + more + more + more);
+}
+
 struct LossCase
 {
     const char* name;
@@ -95,7 +104,8 @@ INSTANTIATE_TEST_SUITE_P(
         LossCase{"AnIntervalIsMissing", withoutOneInterval},
         LossCase{"BytesBeforeARestart", withBytesBeforeARestart},
         LossCase{"BytesBeforeTheSecondScan", withBytesBeforeTheSecondScan},
-        LossCase{"TheLastScanIsMissing", withoutTheLastScan}
+        LossCase{"TheLastScanIsMissing", withoutTheLastScan},
+        LossCase{"ABadCode", withABadCode}
     ),
     CaseName()
 );
