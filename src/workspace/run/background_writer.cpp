@@ -7,6 +7,7 @@
 #include <platform/graphics/engine_thread.h>
 
 #include <algorithm>
+#include <system_error>
 #include <thread>
 
 namespace brenvaldo::workspace {
@@ -53,8 +54,10 @@ BackgroundWriter::~BackgroundWriter()
 {
     cancel();
     // The threads end before anything that they use goes away.
-    for (const auto& job : m_jobs)
-        job->thread.join();
+    for (const auto& job : m_jobs) {
+        if (job->thread.joinable())
+            job->thread.join();
+    }
 }
 
 void BackgroundWriter::start(Work work)
@@ -62,7 +65,12 @@ void BackgroundWriter::start(Work work)
     std::unique_lock lock(m_mutex);
     m_changed.wait(lock, [&] { return hasRoomFor(work); });
     Job& job = *m_jobs.emplace_back(std::make_unique<Job>(std::move(work)));
-    job.thread = std::jthread([this, &job] { make(job); });
+    try {
+        job.thread = std::jthread([this, &job] { make(job); });
+    } catch (const std::system_error&) { // there is no thread to be had: this one makes the file
+        lock.unlock();
+        make(job);
+    }
 }
 
 bool BackgroundWriter::hasRoomFor(const Work& work) const
@@ -134,7 +142,8 @@ BackgroundWriter::Finished BackgroundWriter::takeFirst()
     const std::unique_ptr<Job> job = std::move(m_jobs.front());
     m_jobs.pop_front();
     lock.unlock();
-    job->thread.join();
+    if (job->thread.joinable())
+        job->thread.join();
     return job->finished;
 }
 
