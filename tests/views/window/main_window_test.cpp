@@ -558,13 +558,15 @@ TEST_F(MainWindow, TellsThatAFunctionComesLaterAndOffersNoRun)
     EXPECT_TRUE(process->isEnabled());
     EXPECT_TRUE(notice->isHidden());
 
-    QTest::mouseClick(find(u"btnExportHtml"_s), Qt::LeftButton);
+    workspace.panels().window.pubEditPhoto.selectItemAtIndex(5);
+    workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_s);
     EXPECT_EQ(process->text(), u"Process"_s);
     EXPECT_FALSE(process->isEnabled());
     EXPECT_FALSE(order->isEnabled());
     EXPECT_TRUE(notice->isVisible());
 
-    QTest::mouseClick(find(u"btnEditPhoto"_s), Qt::LeftButton);
+    workspace.panels().window.pubEditPhoto.selectItemAtIndex(6);
+    workspace.actions().send(u"cGUIcontrols.hChooseMainEditFunction"_s);
     EXPECT_TRUE(process->isEnabled());
     EXPECT_TRUE(order->isEnabled());
     EXPECT_TRUE(notice->isHidden());
