@@ -4,6 +4,7 @@
 #include <platform/codecs/image_source.h>
 #include <platform/drawing/canvas.h>
 #include <platform/drawing/stamp.h>
+#include <platform/graphics/gray_as_rgb.h>
 
 #include <QFileInfo>
 
@@ -34,10 +35,11 @@ std::optional<platform::graphics::Image> layerOf(const platform::graphics::Image
     return isLayer ? picture : screenPicture(picture);
 }
 
-/// `photo` in a form that takes a layer: floating-point samples are brought to 8 bits.
+/// `photo` in a form that takes a layer in colour: floating-point samples are brought to 8 bits.
 std::optional<platform::graphics::Image> baseOf(const platform::graphics::Image& photo)
 {
-    return photo.bitsPerComponent() <= 16 ? photo : screenPicture(photo);
+    const auto base = photo.bitsPerComponent() <= 16 ? std::optional(photo) : screenPicture(photo);
+    return base ? std::optional(platform::graphics::grayAsRgb(*base)) : std::nullopt;
 }
 
 } // namespace

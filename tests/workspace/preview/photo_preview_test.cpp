@@ -46,6 +46,17 @@ TEST(ComposedPreview, LetsThePhotoShowThroughTheOverlay)
     EXPECT_EQ(pixelOf(composed), QColor(160, 0, 20));
 }
 
+TEST(ComposedPreview, ShowsAColouredOverlayOnAGreyPhoto)
+{
+    QImage gray(7, 5, QImage::Format_Grayscale8);
+    gray.fill(100);
+    const auto composed = workspace::composed(
+        platform::graphics::Image::fromQImage(gray), filled(7, 5, QColor(255, 0, 0, 255))
+    );
+
+    EXPECT_EQ(pixelOf(composed), QColor(Qt::red));
+}
+
 TEST(ComposedPreview, DrawsAnOverlayOfAnotherSizeAtTheSizeOfThePhoto)
 {
     const auto composed
