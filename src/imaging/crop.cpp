@@ -29,8 +29,8 @@ QRectF sidesOf(const QPoint& drawnOrigin, PixelSize size, PixelSize photo)
 std::optional<Image>
 DVImageHandling::cutOut(const Image& photo, const std::optional<QPoint>& origin, PixelSize size)
 {
-    m_offset = origin.value_or(m_offset);
-    return photo.croppedTo(coveredPixels(m_offset, size));
+    m_origin = origin.value_or(m_origin);
+    return photo.croppedTo(coveredPixels(m_origin, size));
 }
 
 Outcome DVImageHandling::hCropPhotos(
@@ -54,10 +54,10 @@ DVImageHandling::hCropPhotosPreview(const QString& path, const CropSettings& set
         return std::nullopt;
     const PixelSize size = cropSize(settings, photo);
     const auto origin = drawnCropOrigin(photo, size, settings.anchor, offsetOf(settings));
-    m_offset = origin.value_or(m_offset);
+    m_origin = origin.value_or(m_origin);
     const float lineWidth = cropOutlineWidth(photo);
     return platform::drawing::pictureOf(
-        {.sides = sidesOf(m_offset, size, photo),
+        {.sides = sidesOf(m_origin, size, photo),
          .lineWidth = lineWidth,
          .dashLength = cropDashLength(lineWidth),
          .color = {.red = 1}},

@@ -184,14 +184,14 @@ public:
     resizeImageResponsiveDesign(const QString& path, int value, int type, const QString& folder);
 
     /// Turns a photo's stored pixels. Corners that become free are transparent; on a canvas the
-    /// picture is an opaque one in 8-bit sRGB.
+    /// picture is 8-bit sRGB with an alpha, all of it opaque.
     [[nodiscard]] static Outcome hRotatePicture(
         const SourceAndBase& photo, const RotateSettings& settings, const OutputTail& tail
     );
 
-    /// The same picture, nothing written; nothing when the photo can't be read.
+    /// The same picture of a photo with those stored pixels; nothing when there is none.
     [[nodiscard]] static std::optional<platform::graphics::Image>
-    hRotatePicturesPreview(const QString& path, const RotateSettings& settings);
+    hRotatePicturesPreview(const platform::graphics::Image& photo, const RotateSettings& settings);
 
     /// Turns the photo at `path` by `angle` degrees and writes it under its name into `folder`,
     /// which ends in "/" and may be the photo's own.
@@ -213,21 +213,17 @@ public:
     [[nodiscard]] static std::optional<platform::graphics::Image>
     hRotatePictureBase(const platform::graphics::Image& image, float angle);
 
-    /// Draws a frame inside or around the stored pixels of a photo; `opacity` is that of
-    /// `frameOpacity`.
+    /// Draws a frame inside or around the stored pixels of a photo.
     ///
-    /// A frame type that is neither answers the word of the photo before.
-    [[nodiscard]] static Outcome hAddFrame(
-        const SourceAndBase& photo,
-        const FrameSettings& settings,
-        double opacity,
-        const OutputTail& tail
-    );
+    /// A frame type that is neither answers the word of the photo before. Around a photo an opacity
+    /// that is no percentage takes the last one of the object; 0 at first.
+    [[nodiscard]] Outcome
+    hAddFrame(const SourceAndBase& photo, const FrameSettings& settings, const OutputTail& tail);
 
-    /// The picture of `hAddFrame` at the opacity of `shownOpacity`; nothing without a frame type or
-    /// a photo.
-    [[nodiscard]] static std::optional<platform::graphics::Image>
-    hAddFramePreview(const QString& path, const FrameSettings& settings);
+    /// The picture of `hAddFrame` for a photo with those stored pixels at the opacity of
+    /// `shownOpacity`; nothing without a frame type.
+    [[nodiscard]] std::optional<platform::graphics::Image>
+    hAddFramePreview(const platform::graphics::Image& photo, const FrameSettings& settings);
 
     /// The picture with a frame inside, as `hAddFramePreview` draws it, at one pixel a point; the
     /// frame type is not asked for.
@@ -249,13 +245,14 @@ public:
 
     /// Cuts the stored pixels of a photo to a rounded shape, with a border and a background as the
     /// settings tell: 8-bit sRGB with alpha.
-    [[nodiscard]] static Outcome hAddRoundings(
+    [[nodiscard]] Outcome hAddRoundings(
         const SourceAndBase& photo, const RoundingSettings& settings, const OutputTail& tail
     );
 
-    /// The picture of `hAddRoundings`; nothing when there is none.
-    [[nodiscard]] static std::optional<platform::graphics::Image>
-    hAddRoundingsPreview(const QString& path, const RoundingSettings& settings);
+    /// The picture of `hAddRoundings` for a photo with those stored pixels; nothing when there is
+    /// none.
+    [[nodiscard]] std::optional<platform::graphics::Image>
+    hAddRoundingsPreview(const platform::graphics::Image& photo, const RoundingSettings& settings);
 
     /// The text layer as a relief, lit by `texture` ("texture1" to "texture8"); as large and as
     /// opaque as the layer. "texture6" is the ball of `h3DcolorEffect` in `color`.
@@ -305,8 +302,9 @@ private:
     tinted(const platform::graphics::Image& photo, const TintSettings& settings);
 
     double m_currentDPI = 0;
-    QPoint m_offset; ///< of the last part cut, outlined or tinted, as that operation counts it
+    QPoint m_origin; ///< of the last part cut, outlined or tinted, as that operation counts it
     platform::graphics::PixelSize m_gallerySize; ///< of the last resizing for a gallery
+    double m_frameOpacity = 0; ///< of the last frame, border or tint, from 0 to 1
     ResultWord m_storeResult = ResultWord::Failed;
 };
 

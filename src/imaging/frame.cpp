@@ -4,7 +4,7 @@
 #include "drawn_line.h"
 #include "fade_line.h"
 #include "frame_rules.h"
-#include "source_photo.h"
+#include "stored_photo.h"
 
 #include <platform/containers/type_identifier.h>
 #include <platform/drawing/ground.h>
@@ -15,7 +15,6 @@
 
 namespace brenvaldo::imaging {
 
-using platform::codecs::SourceAccess;
 using platform::graphics::Image;
 using platform::graphics::PixelSize;
 
@@ -90,32 +89,32 @@ QPainterPath edgeLine(PixelSize size)
 } // namespace
 
 Outcome DVImageHandling::hAddFrame(
-    const SourceAndBase& photo,
-    const FrameSettings& settings,
-    double opacity,
-    const OutputTail& tail
+    const SourceAndBase& photo, const FrameSettings& settings, const OutputTail& tail
 )
 {
+    m_frameOpacity = frameOpacity(settings, m_frameOpacity);
     const auto type = frameTypeAt(settings.frameType);
     if (!type)
         return WordOfPictureBefore{};
-    const auto image = storedPhoto(photo.source, SourceAccess::OnePass);
-    if (!image) {
+    if (!isReadableFile(photo.source)) {
         if (type == FrameType::Inside)
             platform::log(u"no imageRef"_s);
-        return unreadablePhoto(tail);
+        return ResultWord::Failed;
     }
-    return outputPicture(framed(*image, *type, settings, opacity), photo, tail);
+    const auto image = hStringToCGImageRef(photo.source);
+    return outputPicture(
+        image ? framed(*image, *type, settings, m_frameOpacity) : std::nullopt, photo, tail
+    );
 }
 
 std::optional<Image>
-DVImageHandling::hAddFramePreview(const QString& path, const FrameSettings& settings)
+DVImageHandling::hAddFramePreview(const Image& photo, const FrameSettings& settings)
 {
     const auto type = frameTypeAt(settings.frameType);
-    const auto image = type ? storedPhoto(path, SourceAccess::Random) : std::nullopt;
-    if (!image)
+    if (!type)
         return std::nullopt;
-    return framed(*image, *type, settings, shownOpacity(settings.opacity));
+    m_frameOpacity = shownOpacity(settings.opacity);
+    return framed(photo, *type, settings, m_frameOpacity);
 }
 
 Image DVImageHandling::peeAddBorderToImageInside(const Image& image, const FrameSettings& settings)
@@ -128,7 +127,7 @@ ResultWord DVImageHandling::addBorderToImage2(
 )
 {
     m_storeResult = ResultWord::Failed;
-    const auto image = storedPhoto(path, SourceAccess::OnePass);
+    const auto image = hStringToCGImageRef(path);
     if (!image)
         return m_storeResult;
     m_storeResult = hSaveToNewImageFile({

@@ -78,7 +78,7 @@ Outcome DVImageHandling::hScalePhotosWidthAndHeight(
     if (!covers)
         return outputPicture(scaled, photo, tail);
     const PixelRect cut = centredCut(target, box);
-    m_offset = {cut.x, cut.y};
+    m_origin = {cut.x, cut.y};
     return outputPicture(scaled->croppedTo(cut), photo, tail);
 }
 

@@ -40,13 +40,10 @@ std::optional<Image> onCanvas(const Image& turned, const RotateSettings& setting
     );
 }
 
-std::optional<Image> rotated(const QString& path, const RotateSettings& settings)
+std::optional<Image> rotated(const Image& photo, const RotateSettings& settings)
 {
-    const auto photo = storedPhoto(path);
-    if (!photo)
-        return std::nullopt;
     const auto turned
-        = turnedPhoto(*photo, settings.degrees, platform::graphics::FreeCorners::Transparent);
+        = turnedPhoto(photo, settings.degrees, platform::graphics::FreeCorners::Transparent);
     return turned && settings.hasCanvas ? onCanvas(*turned, settings) : turned;
 }
 
@@ -56,13 +53,14 @@ Outcome DVImageHandling::hRotatePicture(
     const SourceAndBase& photo, const RotateSettings& settings, const OutputTail& tail
 )
 {
-    return outputPicture(rotated(photo.source, settings), photo, tail);
+    const auto image = storedPhoto(photo.source);
+    return outputPicture(image ? rotated(*image, settings) : std::nullopt, photo, tail);
 }
 
 std::optional<Image>
-DVImageHandling::hRotatePicturesPreview(const QString& path, const RotateSettings& settings)
+DVImageHandling::hRotatePicturesPreview(const Image& photo, const RotateSettings& settings)
 {
-    return rotated(path, settings);
+    return rotated(photo, settings);
 }
 
 } // namespace brenvaldo::imaging

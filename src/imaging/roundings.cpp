@@ -5,25 +5,23 @@
 #include "fade_line.h"
 #include "frame_rules.h"
 #include "rounding_rules.h"
-#include "source_photo.h"
 
 #include <platform/drawing/clipped.h>
 
 namespace brenvaldo::imaging {
 
-using platform::codecs::SourceAccess;
 using platform::graphics::Image;
 using platform::graphics::PixelSize;
 
 namespace {
 
-DrawnLine borderOf(const RoundingPlan& plan, const RoundingSettings& settings)
+DrawnLine borderOf(const RoundingPlan& plan, const RoundingSettings& settings, double opacity)
 {
     DrawnLine border
         = {.path = plan.border,
            .width = plan.borderWidth,
            .color = settings.borderColour,
-           .opacity = shownOpacity(settings.opacity),
+           .opacity = opacity,
            .mode = frameBlendAt(settings.blendIndex)};
     if (settings.gradientState == 1) {
         const QSizeF canvas(plan.canvas.width, plan.canvas.height);
@@ -38,7 +36,7 @@ QPoint topLeftOf(PixelSize photo, const RoundingPlan& plan)
     return {plan.photo.x(), plan.canvas.height - plan.photo.y() - photo.height};
 }
 
-std::optional<Image> rounded(const Image& photo, const RoundingSettings& settings)
+std::optional<Image> rounded(const Image& photo, const RoundingSettings& settings, double opacity)
 {
     const auto plan = roundingPlan(photo.pixelSize(), settings);
     if (!plan)
@@ -46,7 +44,7 @@ std::optional<Image> rounded(const Image& photo, const RoundingSettings& setting
     platform::drawing::Clip clip
         = {.canvas = plan->canvas, .shape = toPixels(plan->canvas).map(plan->clip)};
     if (settings.borderState != 0)
-        clip.border = shapeOf(borderOf(*plan, settings), plan->canvas);
+        clip.border = shapeOf(borderOf(*plan, settings, opacity), plan->canvas);
     if (settings.backgroundState == 1) {
         if (grownBy(plan->canvas, settings.margin) == PixelSize{})
             return std::nullopt;
@@ -62,17 +60,17 @@ Outcome DVImageHandling::hAddRoundings(
     const SourceAndBase& photo, const RoundingSettings& settings, const OutputTail& tail
 )
 {
-    const auto image = storedPhoto(photo.source, SourceAccess::OnePass);
-    if (!image)
-        return unreadablePhoto(tail);
-    return outputPicture(rounded(*image, settings), photo, tail);
+    const auto image = hStringToCGImageRef(photo.source);
+    return outputPicture(
+        image ? hAddRoundingsPreview(*image, settings) : std::nullopt, photo, tail
+    );
 }
 
 std::optional<Image>
-DVImageHandling::hAddRoundingsPreview(const QString& path, const RoundingSettings& settings)
+DVImageHandling::hAddRoundingsPreview(const Image& photo, const RoundingSettings& settings)
 {
-    const auto image = storedPhoto(path, SourceAccess::Random);
-    return image ? rounded(*image, settings) : std::nullopt;
+    m_frameOpacity = shownOpacity(settings.opacity);
+    return rounded(photo, settings, m_frameOpacity);
 }
 
 } // namespace brenvaldo::imaging

@@ -9,6 +9,7 @@
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/graphics/gray_as_rgb.h>
+#include <platform/graphics/screen_scaling.h>
 
 namespace brenvaldo::imaging {
 
@@ -18,12 +19,15 @@ using platform::graphics::Image;
 
 namespace {
 
-/// The photo below the tint. In black and white it can take any colour, though its file is grey.
-Image groundOf(const Image& photo, int duoToneState)
+/// The photo in black and white, but able to take any colour, though its file may be grey.
+Image blackAndWhite(const Image& photo)
 {
-    if (duoToneState != 1)
-        return photo;
-    return platform::filters::photoEffectNoir(platform::graphics::grayAsRgb(photo));
+    return platform::graphics::drawnSmallerBy(
+        platform::filters::photoEffectNoir(platform::graphics::grayAsRgb(photo)),
+        [photo](platform::graphics::PixelSize size) {
+            return blackAndWhite(platform::graphics::scaledForScreen(photo, size));
+        }
+    );
 }
 
 Paint paintOf(const TintSettings& settings, const TintArea& area, int photoHeight)
@@ -43,14 +47,15 @@ Paint paintOf(const TintSettings& settings, const TintArea& area, int photoHeigh
 
 Image DVImageHandling::tinted(const Image& photo, const TintSettings& settings)
 {
-    const TintArea area = tintArea(settings, photo.pixelSize(), m_offset);
-    m_offset = area.origin;
+    const TintArea area = tintArea(settings, photo.pixelSize(), m_origin);
+    m_origin = area.origin;
+    m_frameOpacity = tintOpacity(settings.opacity);
     return platform::drawing::painted(
-        groundOf(photo, settings.duoToneState),
+        settings.duoToneState == 1 ? blackAndWhite(photo) : photo,
         {.area = visiblePart(area, photo.pixelSize()),
          .paint = paintOf(settings, area, photo.height()),
          .mode = tintBlendMode(settings.blendIndex),
-         .opacity = tintOpacity(settings.opacity)}
+         .opacity = m_frameOpacity}
     );
 }
 

@@ -40,13 +40,14 @@ protected:
             .write(folder.path(u"a.png"_s));
     }
 
-    ResultWord add(const QString& path, const FrameSettings& settings, double opacity)
+    ResultWord add(const QString& path, FrameSettings settings, double opacity)
     {
+        settings.opacity = qRound(opacity * 100);
         OutputTail tail;
         tail.compressionLevel = u"10"_s;
         tail.myFileType = type;
-        return handling.finish(DVImageHandling::hAddFrame(
-            {.source = path, .destinationBase = folder.path(u"out/a"_s)}, settings, opacity, tail
+        return handling.finish(handling.hAddFrame(
+            {.source = path, .destinationBase = folder.path(u"out/a"_s)}, settings, tail
         ));
     }
 
@@ -54,6 +55,14 @@ protected:
     {
         EXPECT_EQ(add(photo(), settings, opacity), ResultWord::Ok);
         return storedPixels(folder.path(u"out/a.png"_s));
+    }
+
+    std::optional<platform::graphics::Image> shown(const FrameSettings& settings)
+    {
+        return handling.hAddFramePreview(
+            *openedPhoto(photo()).image({.access = platform::codecs::SourceAccess::Random}),
+            settings
+        );
     }
 
     /// Colours along the diagonal, and the other two corners.
@@ -186,14 +195,13 @@ TEST_F(Frame, OfAnyMeasureIsDrawn)
 
 TEST_F(Frame, OfAnotherTypeWritesNothing)
 {
-    const auto outcome = DVImageHandling::hAddFrame(
+    const auto outcome = handling.hAddFrame(
         {.source = photo(), .destinationBase = folder.path(u"out/a"_s)},
         {.frameType = 2, .thickness = 10},
-        1,
         OutputTail()
     );
     EXPECT_TRUE(std::holds_alternative<WordOfPictureBefore>(outcome));
-    EXPECT_EQ(DVImageHandling::hAddFramePreview(photo(), {.frameType = 2}), std::nullopt);
+    EXPECT_EQ(shown({.frameType = 2}), std::nullopt);
 }
 
 TEST_F(Frame, FailsWithoutACanvas)
@@ -216,9 +224,11 @@ TEST_F(Frame, FailsForAnUnreadablePhoto)
         EXPECT_EQ(add(missing, {.frameType = 1, .thickness = 3}, 1), ResultWord::Failed);
         EXPECT_FALSE(log.lines().contains(u"no imageRef"_s));
     }
+    const QString damaged = folder.write(u"text.png"_s, "text");
+    EXPECT_EQ(add(damaged, {.frameType = 0, .thickness = 3}, 1), ResultWord::Failed);
     type = u"com.adobe.pdf"_s;
-    EXPECT_EQ(add(missing, {.frameType = 0, .thickness = 3}, 1), ResultWord::NotSupported);
-    EXPECT_EQ(DVImageHandling::hAddFramePreview(missing, {}), std::nullopt);
+    EXPECT_EQ(add(missing, {.frameType = 0, .thickness = 3}, 1), ResultWord::Failed);
+    EXPECT_EQ(add(damaged, {.frameType = 0, .thickness = 3}, 1), ResultWord::NotSupported);
     EXPECT_TRUE(QDir(folder.path(u"out"_s)).isEmpty());
 }
 
@@ -242,19 +252,40 @@ TEST_F(Frame, LooksTheSameInThePreviewAndInTheFile)
             .gradientState = 1,
             .angleIndex = 1,
             .color = plainRed};
-        const auto shown = DVImageHandling::hAddFramePreview(photo(), settings);
-        ASSERT_TRUE(shown);
-        EXPECT_EQ(shown->toQImage(), framed(settings, 0.6)) << frameType;
+        const auto preview = shown(settings);
+        ASSERT_TRUE(preview);
+        EXPECT_EQ(preview->toQImage(), framed(settings, 0.6)) << frameType;
     }
 }
 
 TEST_F(Frame, IsStrongInThePreviewWithoutAnOpacity)
 {
-    const auto shown = DVImageHandling::hAddFramePreview(
-        photo(), {.thickness = 10, .opacity = 0, .color = plainRed}
-    );
-    ASSERT_TRUE(shown);
-    EXPECT_EQ(shown->toQImage().pixelColor(1, 1), redPixel);
+    const auto preview = shown({.thickness = 10, .opacity = 0, .color = plainRed});
+    ASSERT_TRUE(preview);
+    EXPECT_EQ(preview->toQImage().pixelColor(1, 1), redPixel);
+}
+
+TEST_F(Frame, AroundAPhotoHasTheLastOpacityOfTheObject)
+{
+    const FrameSettings unset{.frameType = 1, .thickness = 10, .opacity = 0, .color = plainRed};
+    const auto margin = [&] {
+        EXPECT_EQ(add(photo(), unset, 0), ResultWord::Ok);
+        return storedPixels(folder.path(u"out/a.png"_s)).pixelColor(1, 1);
+    };
+    EXPECT_EQ(margin(), whitePixel); // nothing was before
+    framed({.frameType = 1, .thickness = 10, .color = plainRed}, 0.2);
+    EXPECT_EQ(margin(), QColor(255, 204, 204));
+    framed({.frameType = 0, .thickness = 10, .color = plainRed}, 0.4);
+    EXPECT_EQ(margin(), QColor(255, 153, 153));
+    static_cast<void>(shown({.thickness = 10, .opacity = 60, .color = plainRed}));
+    EXPECT_EQ(margin(), QColor(255, 102, 102));
+    const auto image = openedPhoto(photo()).image();
+    static_cast<void>(handling.hAddRoundingsPreview(*image, {.opacity = 80}));
+    EXPECT_EQ(margin(), QColor(255, 51, 51));
+    TintSettings tint;
+    tint.opacity = 40;
+    static_cast<void>(handling.addTintToImage2Preview(*image, tint));
+    EXPECT_EQ(margin(), QColor(255, 153, 153));
 }
 
 TEST_F(Frame, IsDrawnInsideOfAPictureInMemory)

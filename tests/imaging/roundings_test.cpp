@@ -37,7 +37,7 @@ protected:
         OutputTail tail;
         tail.compressionLevel = u"10"_s;
         tail.myFileType = type;
-        return handling.finish(DVImageHandling::hAddRoundings(
+        return handling.finish(handling.hAddRoundings(
             {.source = path, .destinationBase = folder.path(u"out/a"_s)}, settings, tail
         ));
     }
@@ -240,8 +240,9 @@ TEST_F(Roundings, LookTheSameInThePreviewAndInTheFile)
         .angleIndex = 2,
         .borderPosition = around,
         .margin = 8};
-    const auto shown
-        = DVImageHandling::hAddRoundingsPreview(blue().write(folder.path(u"a.png"_s)), settings);
+    const auto photo = openedPhoto(blue().write(folder.path(u"a.png"_s)))
+                           .image({.access = platform::codecs::SourceAccess::Random});
+    const auto shown = handling.hAddRoundingsPreview(*photo, settings);
     ASSERT_TRUE(shown);
     EXPECT_EQ(shown->toQImage(), rounded(settings));
 }
@@ -266,9 +267,6 @@ TEST_F(Roundings, OfAnyMeasureAreDrawn)
 TEST_F(Roundings, FailWithoutAPhotoOrACanvas)
 {
     EXPECT_EQ(add(folder.path(u"missing.png"_s), {.radius = 5}), ResultWord::Failed);
-    EXPECT_EQ(
-        DVImageHandling::hAddRoundingsPreview(folder.path(u"missing.png"_s), {}), std::nullopt
-    );
     const QString photo = blue().write(folder.path(u"a.png"_s));
     EXPECT_EQ(
         add(photo, {.radius = 5, .backgroundState = 1, .margin = INT64_MAX}), ResultWord::Failed

@@ -9,6 +9,7 @@
 #include <platform/graphics/image_node.h>
 #include <platform/graphics/region_kernel.h>
 #include <platform/graphics/sample_conversion.h>
+#include <platform/graphics/screen_scaling.h>
 
 #include <algorithm>
 
@@ -33,34 +34,81 @@ public:
     {
     }
 
-    /// `in` and `out` are the pixels at `place`; the latter are transparent.
+    /// `in` and `out` are the pixels at `place`; what shows nothing becomes transparent.
     void show(const BlockPlace& place, const quint8* in, quint8* out) const
     {
-        if (place.y < m_picture.top() || place.y > m_picture.bottom())
-            return;
-        for (const ShapeMask::Run& run : m_mask.row(place.y)) {
-            const int begin = std::max({run.begin, place.x, m_picture.left()});
-            const int end = std::min({run.end, place.x + place.count, m_picture.right() + 1});
-            const qsizetype first = begin - place.x;
-            if (begin < end)
-                showRun(in + first * m_bands, end - begin, run.coverage, out + first * outBands);
+        int done = 0;
+        const auto clearUntil = [&done, out](int end) {
+            std::fill_n(
+                out + qsizetype{done} * outBands, qsizetype{end - done} * outBands, quint8{0}
+            );
+        };
+        for (const ShapeMask::Run& run : runsAt(place.y)) {
+            const int begin = std::max({run.begin, place.x, m_picture.left()}) - place.x;
+            const int end = std::min(run.end - place.x, endOfPicture(place));
+            if (begin >= end)
+                continue;
+            clearUntil(begin);
+            showRun(
+                in + qsizetype{begin} * m_bands,
+                end - begin,
+                run.coverage,
+                out + qsizetype{begin} * outBands
+            );
+            done = end;
         }
+        clearUntil(place.count);
     }
 
 private:
+    [[nodiscard]] std::span<const ShapeMask::Run> runsAt(int y) const
+    {
+        const bool isBeside = y < m_picture.top() || y > m_picture.bottom();
+        return isBeside ? std::span<const ShapeMask::Run>() : m_mask.row(y);
+    }
+
+    /// Behind the last of the pixels at `place` that the picture has.
+    [[nodiscard]] int endOfPicture(const BlockPlace& place) const
+    {
+        return std::min(place.x + place.count, m_picture.right() + 1) - place.x;
+    }
+
     void showRun(const quint8* in, int count, unsigned coverage, quint8* out) const
     {
-        constexpr unsigned full = 255;
-        const int green = m_isGray ? 0 : 1;
-        const int blue = m_isGray ? 0 : 2;
-        for (int i = 0; i < count; ++i, out += outBands, in += m_bands) {
-            out[0] = in[0];
-            out[1] = in[green];
-            out[2] = in[blue];
-            out[3] = m_hasAlpha
-                ? static_cast<quint8>((in[m_bands - 1] * coverage + full / 2) / full)
-                : static_cast<quint8>(coverage);
+        const auto alpha = static_cast<quint8>(coverage);
+        if (m_isGray)
+            showGray(in, count, alpha, out);
+        else
+            showColors(in, count, alpha, out);
+        if (m_hasAlpha)
+            showAlpha(in + m_bands - 1, count, coverage, out + 3);
+    }
+
+    void showGray(const quint8* in, int count, quint8 alpha, quint8* out) const
+    {
+        const int bands = m_bands; // pixels could be anything, this for one
+        for (int i = 0; i < count; ++i, out += outBands, in += bands) {
+            out[0] = out[1] = out[2] = in[0];
+            out[3] = alpha;
         }
+    }
+
+    void showColors(const quint8* in, int count, quint8 alpha, quint8* out) const
+    {
+        const int bands = m_bands;
+        for (int i = 0; i < count; ++i, out += outBands, in += bands) {
+            out[0] = in[0];
+            out[1] = in[1];
+            out[2] = in[2];
+            out[3] = alpha;
+        }
+    }
+
+    void showAlpha(const quint8* in, int count, unsigned coverage, quint8* out) const
+    {
+        constexpr unsigned full = 255;
+        for (int i = 0; i < count; ++i, out += outBands, in += m_bands)
+            *out = static_cast<quint8>((*in * coverage + full / 2) / full);
     }
 
     ShapeMask m_mask;
@@ -80,21 +128,27 @@ struct Layers
     QRect canvas; ///< its place on the ground
 };
 
+void fillOutside(const Layers& layers, quint8* pixels, int count)
+{
+    for (int i = 0; i < count; ++i)
+        pixels = std::copy_n(layers.outside.begin(), outBands, pixels);
+}
+
 /// Makes the rows of the result in one go, while they are at hand.
 void composeRow(const Layers& layers, const graphics::KernelRow<1>& row, int bands)
 {
     auto* out = row.out<quint8>();
-    for (int i = 0; i < row.count; ++i)
-        std::copy_n(layers.outside.begin(), outBands, out + qsizetype{i} * outBands);
     const QRect part = layers.canvas.intersected({row.x, row.y, row.count, 1});
+    const int first = part.isEmpty() ? row.count : part.x() - row.x;
+    const int behind = part.isEmpty() ? row.count : first + part.width();
+    fillOutside(layers, out, first);
+    fillOutside(layers, out + qsizetype{behind} * outBands, row.count - behind);
     if (part.isEmpty())
         return;
-    const qsizetype first = part.x() - row.x;
-    quint8* pixels = out + first * outBands;
+    quint8* pixels = out + qsizetype{first} * outBands;
     const QPoint onCanvas = part.topLeft() - layers.canvas.topLeft();
     const BlockPlace place = {.x = onCanvas.x(), .y = onCanvas.y(), .count = part.width()};
-    std::fill_n(pixels, qsizetype{place.count} * outBands, quint8{0});
-    layers.picture.show(place, row.input<quint8>(0) + first * bands, pixels);
+    layers.picture.show(place, row.input<quint8>(0) + qsizetype{first} * bands, pixels);
     if (layers.border)
         layers.border->paint(place, pixels);
     if (layers.ground)
@@ -161,12 +215,46 @@ ImageNode clippedNode(const ImageNode& picture, const Clip& clip, QPoint place)
     return clipped;
 }
 
+/// The margin is the same on all sides, also where it is rounded.
+int shrunkMargin(const Clip& clip, graphics::PixelSize size)
+{
+    const graphics::Shrinking shrinking = {sizeOf(clip), size};
+    return clip.ground ? qRound(clip.ground->margin * shrinking.across()) : 0;
+}
+
+graphics::Image
+clippedSmaller(const graphics::Image& picture, Clip clip, QPoint place, graphics::PixelSize size)
+{
+    const int margin = shrunkMargin(clip, size);
+    const graphics::PixelSize canvas
+        = {std::max(1, size.width - 2 * margin), std::max(1, size.height - 2 * margin)};
+    const graphics::Shrinking shrinking = {clip.canvas, canvas};
+    const graphics::PixelRect part = shrinking.of(
+        {.x = place.x(), .y = place.y(), .width = picture.width(), .height = picture.height()}
+    );
+    const auto transform = QTransform::fromScale(shrinking.across(), shrinking.along());
+    clip.canvas = canvas;
+    clip.shape = transform.map(clip.shape);
+    if (clip.border)
+        clip.border = shrunk(*clip.border, transform);
+    if (clip.ground)
+        clip.ground->margin = margin;
+    return clipped(
+        graphics::scaledForScreen(picture, {part.width, part.height}), clip, {part.x, part.y}
+    );
+}
+
 } // namespace
 
 graphics::Image clipped(const graphics::Image& picture, const Clip& clip, QPoint place)
 {
     const ImageNode& node = *picture.node();
-    return graphics::builtImage(node, sizeOf(clip), [&] { return clippedNode(node, clip, place); });
+    return graphics::drawnSmallerBy(
+        graphics::builtImage(node, sizeOf(clip), [&] { return clippedNode(node, clip, place); }),
+        [picture, clip, place](graphics::PixelSize size) {
+            return clippedSmaller(picture, clip, place, size);
+        }
+    );
 }
 
 } // namespace brenvaldo::platform::drawing

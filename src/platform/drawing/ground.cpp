@@ -6,6 +6,7 @@
 
 #include <platform/graphics/image_node.h>
 #include <platform/graphics/region_kernel.h>
+#include <platform/graphics/screen_scaling.h>
 
 namespace brenvaldo::platform::drawing {
 
@@ -37,27 +38,49 @@ vips::VImage opaqueOn(const ImageNode& node, const std::vector<double>& ground)
                                                       : opaquePixels<quint8>(node.pixels, ground);
 }
 
+ImageNode laidNode(const ImageNode& node, const Ground& ground, QPoint place)
+{
+    const std::vector<double> color = samplesOf(ground.color, node);
+    std::vector<double> background = color;
+    if (node.hasAlpha)
+        background.push_back(node.pixels.format() == VIPS_FORMAT_USHORT ? 65535 : 255);
+    return node.withPixels(opaqueOn(node, color)
+                               .embed(
+                                   place.x(),
+                                   place.y(),
+                                   ground.size.width,
+                                   ground.size.height,
+                                   vips::VImage::option()
+                                       ->set("extend", VIPS_EXTEND_BACKGROUND)
+                                       ->set("background", background)
+                               ));
+}
+
+graphics::Image laidSmaller(
+    const Ground& ground, const graphics::Image& picture, QPoint place, graphics::PixelSize size
+)
+{
+    const graphics::PixelRect part = graphics::Shrinking{ground.size, size}.of(
+        {.x = place.x(), .y = place.y(), .width = picture.width(), .height = picture.height()}
+    );
+    return laidOn(
+        {.size = size, .color = ground.color},
+        graphics::scaledForScreen(picture, {part.width, part.height}),
+        {part.x, part.y}
+    );
+}
+
 } // namespace
 
 graphics::Image laidOn(const Ground& ground, const graphics::Image& picture, QPoint place)
 {
     const ImageNode& node = *picture.node();
-    return graphics::builtImage(node, ground.size, [&] {
-        const std::vector<double> color = samplesOf(ground.color, node);
-        std::vector<double> background = color;
-        if (node.hasAlpha)
-            background.push_back(node.pixels.format() == VIPS_FORMAT_USHORT ? 65535 : 255);
-        return node.withPixels(opaqueOn(node, color)
-                                   .embed(
-                                       place.x(),
-                                       place.y(),
-                                       ground.size.width,
-                                       ground.size.height,
-                                       vips::VImage::option()
-                                           ->set("extend", VIPS_EXTEND_BACKGROUND)
-                                           ->set("background", background)
-                                   ));
-    });
+    return graphics::drawnSmallerBy(
+        graphics::builtImage(node, ground.size, [&] { return laidNode(node, ground, place); }),
+        [ground, picture, place](graphics::PixelSize size) {
+            return laidSmaller(ground, picture, place, size);
+        }
+    );
 }
 
 } // namespace brenvaldo::platform::drawing

@@ -27,8 +27,9 @@ public:
     /// The pixels have an alpha behind the colours.
     void fillUp(Sample* pixels, int count) const
     {
-        for (int i = 0; i < count; ++i, pixels += m_colors + 1) {
-            if (pixels[m_colors] != full)
+        const int alpha = m_colors; // pixels could be anything, this for one
+        for (int i = 0; i < count; ++i, pixels += alpha + 1) {
+            if (pixels[alpha] != full)
                 fillUp(pixels);
         }
     }

@@ -8,6 +8,7 @@
 
 #include <QPainterPath>
 #include <QPointF>
+#include <QTransform>
 
 #include <variant>
 
@@ -61,6 +62,9 @@ struct PaintedShape
     BlendMode mode = BlendMode::Normal;
     double opacity = 1; ///< from 0 to 1; scales the paint's alpha
 };
+
+/// The painting in a picture that is drawn smaller.
+[[nodiscard]] PaintedShape shrunk(const PaintedShape& painting, const QTransform& shrinking);
 
 /// `photo` with paint on it; its size, depth, colour model, alpha and profile stay. Lazily
 /// evaluated; the paint's colours are brought to those of the photo.

@@ -5,6 +5,8 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <mutex>
+#include <vector>
 
 namespace brenvaldo::platform::drawing {
 
@@ -15,7 +17,17 @@ using Rows = std::vector<std::vector<Run>>;
 
 // The painter takes small coordinates only, and a small tile stays in the processor's cache.
 constexpr int tileWidth = 16384;
-constexpr int tileHeight = 64;
+constexpr int stripHeight = 64;
+
+/// The shape in pixels of a tile, sharing nothing with the one that other threads use.
+QPainterPath placedIn(const QRect& tile, const QPainterPath& shape)
+{
+    QPainterPath placed;
+    placed.setFillRule(shape.fillRule());
+    placed.addPath(shape);
+    placed.translate(-tile.topLeft());
+    return placed;
+}
 
 QImage rasterised(const QPainterPath& shape, const QRect& tile)
 {
@@ -23,8 +35,7 @@ QImage rasterised(const QPainterPath& shape, const QRect& tile)
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(-tile.topLeft());
-    painter.fillPath(shape, Qt::black);
+    painter.fillPath(placedIn(tile, shape), Qt::black);
     return image;
 }
 
@@ -54,35 +65,53 @@ void takeRow(const uchar* coverage, const QRect& tile, std::vector<Run>& runs)
     }
 }
 
-void takeTile(const QPainterPath& shape, const QRect& tile, Rows& rows)
+Rows drawn(const QPainterPath& shape, const QRect& area)
 {
-    const QImage image = rasterised(shape, tile);
-    for (int y = 0; y < tile.height(); ++y)
-        takeRow(image.constScanLine(y), tile, rows[static_cast<std::size_t>(y)]);
+    Rows rows(static_cast<std::size_t>(area.height()));
+    for (int x = 0; x < area.width(); x += tileWidth) {
+        const QRect tile = area.intersected({x, area.y(), tileWidth, area.height()});
+        const QImage image = rasterised(shape, tile);
+        for (int y = 0; y < tile.height(); ++y)
+            takeRow(image.constScanLine(y), tile, rows[static_cast<std::size_t>(y)]);
+    }
+    return rows;
 }
 
 } // namespace
 
+struct ShapeMask::Strips
+{
+    /// `stripHeight` rows, drawn at once.
+    struct Strip
+    {
+        std::once_flag isDrawn;
+        Rows rows;
+    };
+
+    QPainterPath shape;
+    graphics::PixelSize canvas;
+    std::vector<Strip> strips;
+};
+
 ShapeMask::ShapeMask(const QPainterPath& shape, graphics::PixelSize canvas)
 {
-    m_runsEnd.reserve(static_cast<std::size_t>(canvas.height));
-    const QRect all(0, 0, canvas.width, canvas.height);
-    for (int y = 0; y < canvas.height; y += tileHeight) {
-        Rows rows(static_cast<std::size_t>(std::min(tileHeight, canvas.height - y)));
-        for (int x = 0; x < canvas.width; x += tileWidth)
-            takeTile(shape, all.intersected({x, y, tileWidth, tileHeight}), rows);
-        for (const std::vector<Run>& runs : rows) {
-            m_runs.insert(m_runs.end(), runs.begin(), runs.end());
-            m_runsEnd.push_back(m_runs.size());
-        }
-    }
+    const int count = (canvas.height + stripHeight - 1) / stripHeight;
+    m_strips = std::make_shared<Strips>(Strips{
+        .shape = shape,
+        .canvas = canvas,
+        .strips = std::vector<Strips::Strip>(static_cast<std::size_t>(count))});
 }
 
 std::span<const ShapeMask::Run> ShapeMask::row(int y) const
 {
-    const auto index = static_cast<std::size_t>(y);
-    const std::size_t begin = index > 0 ? m_runsEnd[index - 1] : 0;
-    return std::span(m_runs).subspan(begin, m_runsEnd[index] - begin);
+    const int top = y / stripHeight * stripHeight;
+    const QRect canvas(0, 0, m_strips->canvas.width, m_strips->canvas.height);
+    Strips::Strip& strip = m_strips->strips[static_cast<std::size_t>(y / stripHeight)];
+    std::call_once(strip.isDrawn, [&] {
+        strip.rows
+            = drawn(m_strips->shape, canvas.intersected({0, top, canvas.width(), stripHeight}));
+    });
+    return strip.rows[static_cast<std::size_t>(y - top)];
 }
 
 } // namespace brenvaldo::platform::drawing

@@ -5,15 +5,16 @@
 
 #include <QPainterPath>
 
+#include <memory>
 #include <span>
-#include <vector>
 
 namespace brenvaldo::platform::drawing {
 
 /// Which pixels of a canvas a shape covers, and how far each of them, with soft edges.
 ///
 /// Pixels next to each other that are covered alike are one run, so that the shape of a large
-/// picture takes little memory.
+/// picture takes little memory. Rows are drawn when they are first asked for, on the thread that
+/// asks; several threads may ask at once. Copies share them.
 class ShapeMask
 {
 public:
@@ -35,8 +36,9 @@ public:
     [[nodiscard]] std::span<const Run> row(int y) const;
 
 private:
-    std::vector<Run> m_runs; ///< of all rows, from the top down
-    std::vector<std::size_t> m_runsEnd; ///< where the runs of each row end
+    struct Strips;
+
+    std::shared_ptr<Strips> m_strips;
 };
 
 } // namespace brenvaldo::platform::drawing

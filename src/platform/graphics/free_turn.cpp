@@ -4,6 +4,7 @@
 #include "alpha_weighting.h"
 #include "deferred_pixels.h"
 #include "image_node.h"
+#include "screen_scaling.h"
 
 #include <cmath>
 #include <numbers>
@@ -50,12 +51,27 @@ ImageNode turnedNode(ImageNode node, const FreeTurn& turn)
     return node.withPixels(straightPixels(turned, node.pixels.format()));
 }
 
+Image turnedSmaller(const Image& image, FreeTurn turn, PixelSize canvas)
+{
+    const Shrinking shrinking = {turn.canvas, canvas};
+    const PixelRect photo
+        = shrinking.of({.x = 0, .y = 0, .width = image.width(), .height = image.height()});
+    turn.canvas = canvas;
+    turn.centre = {.x = turn.centre.x * shrinking.across(), .y = turn.centre.y * shrinking.along()};
+    return freelyTurned(scaledForScreen(image, {photo.width, photo.height}), turn);
+}
+
 } // namespace
 
 Image freelyTurned(const Image& image, const FreeTurn& turn)
 {
     const ImageNode& node = *image.node();
-    return builtImage(node, turn.canvas, [&] { return turnedNode(node, turn); });
+    const Image turned = builtImage(node, turn.canvas, [&] { return turnedNode(node, turn); });
+    if (isSequential(node.pixels))
+        return turned; // it can be drawn again, what it was made of can't
+    return drawnSmallerBy(turned, [image, turn](PixelSize size) {
+        return turnedSmaller(image, turn, size);
+    });
 }
 
 } // namespace brenvaldo::platform::graphics

@@ -4,6 +4,7 @@
 #include "deferred_pixels.h"
 #include "evaluation.h"
 #include "image_node.h"
+#include "screen_scaling.h"
 
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
@@ -66,9 +67,16 @@ Image Image::turned(QuarterTurn turn) const
     const VipsAngle angle = turn == QuarterTurn::Clockwise ? VIPS_ANGLE_D90
         : turn == QuarterTurn::Half                        ? VIPS_ANGLE_D180
                                                            : VIPS_ANGLE_D270;
-    const PixelSize size = turn == QuarterTurn::Half ? pixelSize() : PixelSize{height(), width()};
-    return builtImage(*m_node, size, [&] {
+    const auto turnedSize = [turn](PixelSize size) {
+        return turn == QuarterTurn::Half ? size : PixelSize{size.height, size.width};
+    };
+    const Image turned = builtImage(*m_node, turnedSize(pixelSize()), [&] {
         return m_node->withPixels(randomAccess(m_node->pixels).rot(angle));
+    });
+    if (isSequential(m_node->pixels))
+        return turned; // it can be drawn again, what it was made of can't
+    return drawnSmallerBy(turned, [original = *this, turn, turnedSize](PixelSize size) {
+        return scaledForScreen(original, turnedSize(size)).turned(turn);
     });
 }
 

@@ -24,6 +24,7 @@ struct ImageNode
     std::size_t decodingBytes = 0; ///< memory that the decoder of the photo takes beside
     std::shared_ptr<const ImageNode> stampedOn = {}; ///< what a stamp was laid on; may be null
     std::function<PixelRect()> stampedPart = {}; ///< part that differs from `stampedOn`; may throw
+    std::function<Image(PixelSize)> smaller = {}; ///< see `drawnSmallerBy`; may be null
 
     /// The same picture with other pixels of the same kind.
     [[nodiscard]] ImageNode withPixels(const vips::VImage& other) const
@@ -32,6 +33,7 @@ struct ImageNode
         node.pixels = other;
         node.stampedOn = nullptr;
         node.stampedPart = nullptr;
+        node.smaller = nullptr;
         return node;
     }
 };

@@ -10,25 +10,49 @@ namespace brenvaldo::platform::graphics {
 
 namespace {
 
+/// Lays pixels of some bands and an alpha on a ground; most of them are opaque.
+template <typename Sample, int Bands>
+void flattenRow(const KernelRow<1>& row, const std::array<unsigned, 4>& ground)
+{
+    constexpr unsigned full = std::numeric_limits<Sample>::max();
+    const auto* in = row.input<Sample>(0);
+    auto* out = row.out<Sample>();
+    for (int i = 0; i < row.count; ++i, in += Bands + 1, out += Bands) {
+        const unsigned alpha = in[Bands];
+        if (alpha == full) {
+            for (int band = 0; band < Bands; ++band)
+                out[band] = in[band];
+            continue;
+        }
+        for (int band = 0; band < Bands; ++band)
+            out[band] = static_cast<Sample>(
+                (in[band] * alpha + ground[static_cast<std::size_t>(band)] * (full - alpha)
+                 + full / 2)
+                / full
+            );
+    }
+}
+
+template <typename Sample, int Bands>
+vips::VImage flattened(const vips::VImage& pixels, const std::array<unsigned, 4>& ground)
+{
+    const KernelOutput output = {Bands, pixels.format(), pixels.interpretation()};
+    return mapRows(std::array{pixels}, output, [ground](const KernelRow<1>& row) {
+        flattenRow<Sample, Bands>(row, ground);
+    });
+}
+
 template <typename Sample>
 vips::VImage flattened(const vips::VImage& pixels, const std::array<unsigned, 4>& ground)
 {
-    constexpr unsigned full = std::numeric_limits<Sample>::max();
-    const int bands = pixels.bands() - 1;
-    const KernelOutput output = {bands, pixels.format(), pixels.interpretation()};
-    return mapRows(std::array{pixels}, output, [bands, ground](const KernelRow<1>& row) {
-        const auto* in = row.input<Sample>(0);
-        auto* out = row.out<Sample>();
-        for (int i = 0; i < row.count; ++i, in += bands + 1, out += bands) {
-            const unsigned alpha = in[bands];
-            for (int band = 0; band < bands; ++band)
-                out[band] = static_cast<Sample>(
-                    (in[band] * alpha + ground[static_cast<std::size_t>(band)] * (full - alpha)
-                     + full / 2)
-                    / full
-                );
-        }
-    });
+    switch (pixels.bands()) {
+    case 2:
+        return flattened<Sample, 1>(pixels, ground);
+    case 4:
+        return flattened<Sample, 3>(pixels, ground);
+    default:
+        return flattened<Sample, 4>(pixels, ground);
+    }
 }
 
 /// No ink is white.

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rows.h"
 
+#include <workspace/preview/photo_preview.h>
+
 #include <imaging/dv_image_handling.h>
-#include <imaging/frame_rules.h>
 #include <panels/panels.h>
 #include <presets/image_records.h>
 
@@ -10,21 +11,22 @@ namespace brenvaldo::workspace {
 
 namespace {
 
-using imaging::DVImageHandling;
-
 PhotoRun::Operation start(const RunContext& run)
 {
-    return [&run, opacity = 0.0](const PhotoOutput& output) mutable -> imaging::Outcome {
-        const auto settings = imaging::readSettings(run.subsystems.panels.vwFraming);
-        opacity = imaging::frameOpacity(settings, opacity);
-        return DVImageHandling::hAddFrame(output.photo, settings, opacity, output.tail);
+    return [&run](const PhotoOutput& output) -> imaging::Outcome {
+        return run.subsystems.imageHandling.hAddFrame(
+            output.photo, imaging::readSettings(run.subsystems.panels.vwFraming), output.tail
+        );
     };
 }
 
 std::optional<platform::graphics::Image> framed(const Subsystems& subsystems, const QString& path)
 {
-    return DVImageHandling::hAddFramePreview(
-        path, imaging::readSettings(subsystems.panels.vwFraming)
+    const auto photo = subsystems.previewPhotos.storedPhoto(path);
+    if (!photo)
+        return std::nullopt;
+    return subsystems.imageHandling.hAddFramePreview(
+        *photo, imaging::readSettings(subsystems.panels.vwFraming)
     );
 }
 

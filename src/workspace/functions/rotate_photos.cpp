@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rows.h"
 
+#include <workspace/preview/photo_preview.h>
+
 #include <imaging/dv_image_handling.h>
 #include <imaging/rotate_settings.h>
 #include <panels/panels.h>
@@ -22,8 +24,11 @@ PhotoRun::Operation start(const RunContext& run)
 
 std::optional<platform::graphics::Image> rotated(const Subsystems& subsystems, const QString& path)
 {
+    const auto photo = subsystems.previewPhotos.storedPhoto(path);
+    if (!photo)
+        return std::nullopt;
     return DVImageHandling::hRotatePicturesPreview(
-        path, imaging::readSettings(subsystems.panels.vwRotatePhotos)
+        *photo, imaging::readSettings(subsystems.panels.vwRotatePhotos)
     );
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "rows.h"
 
+#include <workspace/preview/photo_preview.h>
+
 #include <imaging/dv_image_handling.h>
 #include <panels/panels.h>
 #include <presets/image_records.h>
@@ -9,12 +11,10 @@ namespace brenvaldo::workspace {
 
 namespace {
 
-using imaging::DVImageHandling;
-
 PhotoRun::Operation start(const RunContext& run)
 {
     return [&run](const PhotoOutput& output) -> imaging::Outcome {
-        return DVImageHandling::hAddRoundings(
+        return run.subsystems.imageHandling.hAddRoundings(
             output.photo, imaging::readSettings(run.subsystems.panels.vwRoundings), output.tail
         );
     };
@@ -22,8 +22,11 @@ PhotoRun::Operation start(const RunContext& run)
 
 std::optional<platform::graphics::Image> rounded(const Subsystems& subsystems, const QString& path)
 {
-    return DVImageHandling::hAddRoundingsPreview(
-        path, imaging::readSettings(subsystems.panels.vwRoundings)
+    const auto photo = subsystems.previewPhotos.storedPhoto(path);
+    if (!photo)
+        return std::nullopt;
+    return subsystems.imageHandling.hAddRoundingsPreview(
+        *photo, imaging::readSettings(subsystems.panels.vwRoundings)
     );
 }
 

@@ -96,6 +96,87 @@ TEST(PlainPaint, IsBroughtToTheProfileOfThePhoto)
     EXPECT_NEAR(shown.blue(), 102, 3);
 }
 
+class PlainPaintMode : public testing::TestWithParam<std::tuple<BlendMode, int>>
+{
+};
+
+TEST_P(PlainPaintMode, IsTheSameOnAPhotoThatCouldBeTranslucent)
+{
+    const auto [mode, depth] = GetParam();
+    const auto photo = [depth = depth](PhotoModel model) {
+        return photoToPaint(PhotoBuilder()
+                                .size(64, 32)
+                                .model(model)
+                                .depth(depth)
+                                .format(PhotoFormat::Png)
+                                .pixels([](int x, int y) {
+                                    return Samples{x * 4, y * 8, (x * 7 + y * 11) % 256, 255};
+                                }));
+    };
+    const PaintedArea painting
+        = {.area = {10, 5, 40, 20},
+           .paint = DeepColor{.red = 0.2, .green = 0.6, .blue = 0.9},
+           .mode = mode,
+           .opacity = 0.7};
+
+    EXPECT_EQ(
+        deepPixels(painted(photo(PhotoModel::Rgb), painting)),
+        deepPixels(painted(photo(PhotoModel::RgbAlpha), painting))
+    );
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Modes,
+    PlainPaintMode,
+    testing::Combine(
+        testing::Values(
+            BlendMode::Normal,
+            BlendMode::Multiply,
+            BlendMode::Overlay,
+            BlendMode::Darken,
+            BlendMode::Lighten,
+            BlendMode::Color,
+            BlendMode::Luminosity
+        ),
+        testing::Values(8, 16)
+    )
+);
+
+TEST(PlainPaint, AddsToTheLightOfOpaquePhotos)
+{
+    PaintedArea area = everywhere(DeepColor{.red = 0.4, .green = 0, .blue = 0.2});
+    area.mode = BlendMode::PlusLighter;
+    EXPECT_EQ(
+        painted(photoToPaint(white().solid({100, 50, 230})), area).toQImage().pixelColor(9, 9),
+        QColor(202, 50, 255)
+    );
+    area.mode = BlendMode::PlusDarker;
+    EXPECT_EQ(
+        painted(photoToPaint(white().solid({200, 250, 230})), area).toQImage().pixelColor(9, 9),
+        QColor(47, 0, 26)
+    );
+}
+
+TEST(ShrunkPainting, HasItsShapeAndItsGradientsSmaller)
+{
+    PaintedShape painting;
+    painting.shape.addRect(10, 20, 30, 40);
+    painting.paint = LinearGradient{.fade = {red, clearColor}, .start = {10, 20}, .end = {40, 60}};
+    const auto half = QTransform::fromScale(0.5, 0.5);
+
+    const PaintedShape smaller = shrunk(painting, half);
+
+    EXPECT_EQ(smaller.shape.boundingRect(), QRectF(5, 10, 15, 20));
+    EXPECT_EQ(std::get<LinearGradient>(smaller.paint).start, QPointF(5, 10));
+    EXPECT_EQ(std::get<LinearGradient>(smaller.paint).end, QPointF(20, 30));
+    painting.paint = RadialGradient{
+        .fade = {red, clearColor}, .centre = {8, 6}, .startRadius = 4, .endRadius = 2};
+    const auto radial = std::get<RadialGradient>(shrunk(painting, half).paint);
+    EXPECT_EQ(radial.centre, QPointF(4, 3));
+    EXPECT_EQ(radial.startRadius, 2);
+    EXPECT_EQ(radial.endRadius, 1);
+}
+
 TEST(PlainPaint, IsInkOnInk)
 {
     const Image photo

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_source.h>
 #include <platform/foundation/literals.h>
+#include <platform/graphics/free_turn.h>
 #include <platform/graphics/screen_scaling.h>
 
 #include <support/geometry_printing.h>
@@ -109,4 +110,59 @@ TEST_F(ScaledForScreen, LeavesATransparentPictureToTheOrdinaryWay)
         ),
         0
     );
+}
+
+TEST_F(ScaledForScreen, DrawsPicturesSmallerThatKnowHow)
+{
+    const platform::graphics::Image small = photo(PhotoModel::Rgb, 8, 40, 24);
+    QList<PixelSize> asked;
+    const platform::graphics::Image image = platform::graphics::drawnSmallerBy(
+        photo(PhotoModel::Rgb, 8, 400, 240),
+        [&](PixelSize size) {
+            asked.append(size);
+            return small;
+        }
+    );
+
+    EXPECT_EQ(platform::graphics::scaledForScreen(image, {40, 24}).node(), small.node());
+    EXPECT_NE(platform::graphics::scaledForScreen(image, {400, 240}).node(), small.node());
+    EXPECT_NE(platform::graphics::scaledForScreen(image, {40, 240}).node(), small.node());
+    EXPECT_NE(platform::graphics::scaledForScreen(image, {400, 24}).node(), small.node());
+    EXPECT_EQ(asked, QList<PixelSize>({{40, 24}}));
+    const auto part = image.croppedTo({.x = 0, .y = 0, .width = 200, .height = 100});
+    EXPECT_NE(platform::graphics::scaledForScreen(*part, {40, 24}).node(), small.node());
+}
+
+TEST(Shrinking, PutsTheEdgesOfPartsOnWholePixels)
+{
+    const platform::graphics::Shrinking third = {{300, 600}, {100, 100}};
+
+    EXPECT_EQ(third.across(), 1 / 3.0);
+    EXPECT_EQ(third.along(), 1 / 6.0);
+    const auto part = third.of({.x = 4, .y = 10, .width = 10, .height = 30});
+    EXPECT_EQ(part.x, 1);
+    EXPECT_EQ(part.y, 2);
+    EXPECT_EQ(part.width, 4);
+    EXPECT_EQ(part.height, 5);
+    EXPECT_EQ(third.of({.x = 3, .y = 6, .width = 1, .height = 1}).width, 1);
+    EXPECT_EQ(third.of({.x = 3, .y = 6, .width = 1, .height = 1}).height, 1);
+    EXPECT_EQ(third.of({.x = -30, .y = -60, .width = 30, .height = 60}).x, -10);
+}
+
+TEST_F(ScaledForScreen, DrawsATurnedPhotoAsOftenAsNeedBe)
+{
+    using platform::graphics::Image;
+    const QString path
+        = test::PhotoBuilder().size(400, 240).gradient().write(folder.path(u"b.jpg"_s));
+    const auto photo = [&path] { return *test::openedPhoto(path).image(); };
+    const Image turned[]
+        = {photo().turned(Image::QuarterTurn::Clockwise),
+           platform::graphics::freelyTurned(
+               photo(), {.degrees = 45, .canvas = {452, 452}, .centre = {226, 226}}
+           )};
+    for (const Image& image : turned) {
+        const QImage first = platform::graphics::scaledForScreen(image, {48, 80}).toQImage();
+        EXPECT_FALSE(first.isNull());
+        EXPECT_EQ(platform::graphics::scaledForScreen(image, {48, 80}).toQImage(), first);
+    }
 }
