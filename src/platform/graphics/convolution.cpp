@@ -32,10 +32,8 @@ BRENVALDO_VECTOR_LOOP void convolve(
     std::size_t count
 )
 {
-    constexpr std::size_t block = 32; // sums that stay in registers
     std::size_t done = 0;
-    for (; done + block <= count; done += block) {
-        std::array<float, block> sums{};
+    const auto sumUp = [&]<std::size_t block>(std::array<float, block> sums) {
         for (std::size_t tap = 0; tap < kernel.size(); ++tap) {
             const float weight = kernel[tap];
             const float* from = in + done + tap * step;
@@ -43,13 +41,16 @@ BRENVALDO_VECTOR_LOOP void convolve(
                 sums[i] += weight * from[i];
         }
         std::copy(sums.begin(), sums.end(), out + done);
-    }
-    for (; done < count; ++done) {
-        float sum = 0;
-        for (std::size_t tap = 0; tap < kernel.size(); ++tap)
-            sum += kernel[tap] * in[done + tap * step];
-        out[done] = sum;
-    }
+        done += block;
+    };
+    constexpr std::size_t wide = 64; // as many sums as stay in registers
+    constexpr std::size_t narrow = 8;
+    while (done + wide <= count)
+        sumUp(std::array<float, wide>{});
+    while (done + narrow <= count)
+        sumUp(std::array<float, narrow>{});
+    while (done < count)
+        sumUp(std::array<float, 1>{});
 }
 
 } // namespace brenvaldo::platform::graphics

@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 using namespace brenvaldo;
 using platform::graphics::PixelSize;
 using test::PhotoModel;
@@ -53,6 +55,25 @@ class ScaledForScreenKind : public ScaledForScreen, public testing::WithParamInt
 };
 
 } // namespace
+
+TEST_F(ScaledForScreen, TakesTheSmallerFormThatAPictureBrings)
+{
+    const auto large = photo(PhotoModel::Rgb, 8, 400, 240);
+    const auto small = photo(PhotoModel::Gray, 8, 100, 60);
+    std::vector<PixelSize> asked;
+    const auto image = drawnSmallerBy(large, [&](PixelSize size) {
+        asked.push_back(size);
+        return small;
+    });
+
+    EXPECT_EQ(image.toQImage(), large.toQImage());
+    EXPECT_EQ(scaledForScreen(image, {400, 240}).toQImage(), large.toQImage());
+    EXPECT_TRUE(asked.empty());
+
+    EXPECT_EQ(scaledForScreen(image, {100, 60}).toQImage(), small.toQImage());
+    EXPECT_EQ(asked, (std::vector<PixelSize>{{100, 60}}));
+    EXPECT_NE(scaledForScreen(large, {100, 60}).toQImage(), small.toQImage());
+}
 
 TEST_P(ScaledForScreenKind, AveragesWholeBlocks)
 {
