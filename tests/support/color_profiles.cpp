@@ -128,6 +128,13 @@ QByteArray blackInkProfile()
     return saved(profile);
 }
 
+QByteArray labProfile()
+{
+    cmsHPROFILE profile = cmsCreateLab2Profile(nullptr);
+    cmsSetDeviceClass(profile, cmsSigColorSpaceClass);
+    return saved(profile);
+}
+
 QByteArray emptyProfile()
 {
     cmsHPROFILE profile = cmsCreateProfilePlaceholder(nullptr);

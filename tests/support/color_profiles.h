@@ -22,6 +22,9 @@ namespace brenvaldo::test {
 /// A profile of CMYK that prints every colour as its lightness in black ink.
 [[nodiscard]] QByteArray blackInkProfile();
 
+/// A profile of Lab.
+[[nodiscard]] QByteArray labProfile();
+
 /// A profile of RGB that can be read and tells nothing.
 [[nodiscard]] QByteArray emptyProfile();
 

@@ -73,7 +73,8 @@ std::vector<ColorSpace> installedColorSpaces(const QStringList& folders)
 {
     const std::vector<ColorSpace> found = spacesOf(folders);
     std::vector<ColorSpace> spaces;
-    for (const ColorModel model : {ColorModel::Cmyk, ColorModel::Rgb, ColorModel::Gray}) {
+    using enum ColorModel;
+    for (const ColorModel model : {Cmyk, Rgb, Lab, Gray}) {
         const auto before = spaces.size();
         std::copy_if(
             found.begin(),
@@ -81,7 +82,7 @@ std::vector<ColorSpace> installedColorSpaces(const QStringList& folders)
             std::back_inserter(spaces),
             [model](const auto& space) { return space.model == model; }
         );
-        if (model == ColorModel::Rgb && spaces.size() == before)
+        if (model == Rgb && spaces.size() == before)
             spaces.push_back(standardColorSpace());
     }
     return spaces;

@@ -13,7 +13,8 @@ namespace {
 
 std::optional<ColorModel> modelOf(const Profile& profile)
 {
-    for (const ColorModel model : {ColorModel::Gray, ColorModel::Rgb, ColorModel::Cmyk}) {
+    using enum ColorModel;
+    for (const ColorModel model : {Gray, Rgb, Cmyk, Lab}) {
         if (cmsGetColorSpace(profile.get()) == signatureOf(model))
             return model;
     }
@@ -28,6 +29,14 @@ bool isOfADevice(const Profile& profile)
     return found != classes.end();
 }
 
+bool canBeMade(const Profile& profile, ColorModel model)
+{
+    const Profile srgb = assumedProfile(ColorModel::Rgb);
+    return isPossible(
+        {srgb, ColorModel::Rgb, VIPS_FORMAT_UCHAR}, {profile, model, VIPS_FORMAT_UCHAR}
+    );
+}
+
 QString descriptionOf(const Profile& profile)
 {
     const auto read = [&profile](wchar_t* text, cmsUInt32Number bytes) {
@@ -40,6 +49,8 @@ QString descriptionOf(const Profile& profile)
 
 ImageNode convertedNode(ImageNode node, const ColorSpace& space, RenderingIntent intent)
 {
+    if (space.model == ColorModel::Lab)
+        throw vips::VError("no picture is kept in Lab colours");
     const VipsBandFormat format = node.pixels.format();
     const Profile from = profileOf(node);
     const Profile to = openProfile(space.profile);
@@ -63,10 +74,7 @@ std::optional<ColorSpace> colorSpaceOf(const QByteArray& profile)
     const auto model = opened ? modelOf(opened) : std::nullopt;
     if (!model || !isOfADevice(opened))
         return std::nullopt;
-    const Profile srgb = assumedProfile(ColorModel::Rgb);
-    if (!isPossible(
-            {srgb, ColorModel::Rgb, VIPS_FORMAT_UCHAR}, {opened, *model, VIPS_FORMAT_UCHAR}
-        ))
+    if (*model != ColorModel::Lab && !canBeMade(opened, *model))
         return std::nullopt;
     return ColorSpace{.name = descriptionOf(opened), .model = *model, .profile = profile};
 }

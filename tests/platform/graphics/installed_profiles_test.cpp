@@ -86,6 +86,21 @@ TEST_F(InstalledProfiles, LeaveOutBrokenOnesAndThoseThatMakeNoPixels)
     EXPECT_EQ(found().size(), 1U);
 }
 
+TEST_F(InstalledProfiles, StandByTheirModels)
+{
+    (void)folder.write(u"a.icc"_s, test::grayProfile());
+    (void)folder.write(u"b.icc"_s, test::labProfile());
+    (void)folder.write(u"c.icc"_s, test::wideProfile());
+    (void)folder.write(u"d.icc"_s, test::blackInkProfile());
+
+    std::vector<ColorModel> models;
+    for (const ColorSpace& space : found())
+        models.push_back(space.model);
+
+    using enum ColorModel;
+    EXPECT_EQ(models, (std::vector{Cmyk, Rgb, Lab, Gray}));
+}
+
 TEST_F(InstalledProfiles, HaveSrgbWhereNoRgbIsInstalled)
 {
     (void)folder.write(u"gray.icc"_s, test::grayProfile());
