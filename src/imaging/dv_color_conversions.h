@@ -41,9 +41,10 @@ public:
         const SourceAndBase& photo, const ProfileSettings& settings, const OutputTail& tail
     ) const;
 
-    /// The upright photo at `path` in the profile; nothing when it can't be read.
-    [[nodiscard]] std::optional<platform::graphics::Image>
-    convertColorSpaceToPreview(const QString& path, const ProfileSettings& settings) const;
+    /// The photo in the profile; nothing without a photo.
+    [[nodiscard]] std::optional<platform::graphics::Image> convertColorSpaceToPreview(
+        const std::optional<platform::graphics::Image>& photo, const ProfileSettings& settings
+    ) const;
 
     /// The photo after the filter of the settings' number, having passed through a JPEG of the best
     /// quality. A number that no filter has writes nothing and answers the word of the photo
@@ -51,8 +52,7 @@ public:
     [[nodiscard]] static Outcome
     hAddFilter(const SourceAndBase& photo, const FilterSettings& settings, const OutputTail& tail);
 
-    /// The picture that a run would make of `photo`; the JPEG, which takes longer than the filter
-    /// and can't be seen, is left out.
+    /// The picture that a run would make of `photo`.
     [[nodiscard]] static std::optional<platform::graphics::Image>
     hAddFilterPreview(const platform::graphics::Image& photo, const FilterSettings& settings);
 
@@ -87,10 +87,6 @@ public:
     hStrokeBWScreenFilter(const Image& image, const ScreenSettings& settings);
 
 private:
-    [[nodiscard]] std::optional<platform::graphics::Image> converted(
-        const std::optional<platform::graphics::Image>& photo, const ProfileSettings& settings
-    ) const;
-
     std::vector<platform::graphics::ColorSpace> m_sortedColorSpaces;
 };
 

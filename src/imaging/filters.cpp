@@ -3,6 +3,7 @@
 
 #include "dv_image_handling.h"
 #include "filter_catalogue.h"
+#include "filter_preview.h"
 #include "screen_recipes.h"
 
 #include <platform/codecs/jpeg_pass.h>
@@ -67,7 +68,9 @@ std::optional<Image>
 DVColorConversions::hAddFilterPreview(const Image& photo, const FilterSettings& settings)
 {
     const auto result = filteredPhoto(photo, settings);
-    return result ? std::optional(platform::filters::opaqueOnWhite(*result)) : result;
+    if (!result)
+        return std::nullopt;
+    return quicklyLookedAt(throughJpeg(*result), photo, settings);
 }
 
 Image DVColorConversions::hCircularScreenFilter(const Image& image, const ScreenSettings& settings)

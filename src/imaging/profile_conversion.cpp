@@ -39,17 +39,10 @@ Outcome DVColorConversions::convertColorSpace(
 ) const
 {
     const auto picture = DVImageHandling::hStringToCGImageRef(photo.source);
-    return outputPicture(converted(picture, settings), photo, tail);
+    return outputPicture(convertColorSpaceToPreview(picture, settings), photo, tail);
 }
 
 std::optional<Image> DVColorConversions::convertColorSpaceToPreview(
-    const QString& path, const ProfileSettings& settings
-) const
-{
-    return converted(DVImageHandling::hNSURLtoCIImage(QUrl::fromLocalFile(path)), settings);
-}
-
-std::optional<Image> DVColorConversions::converted(
     const std::optional<Image>& photo, const ProfileSettings& settings
 ) const
 {

@@ -2,9 +2,11 @@
 #include <imaging/dv_color_conversions.h>
 #include <imaging/dv_image_handling.h>
 #include <imaging/filter_catalogue.h>
+#include <imaging/filter_sample.h>
 
 #include <platform/filters/filtered_image.h>
 #include <platform/foundation/literals.h>
+#include <platform/graphics/screen_scaling.h>
 
 #include <support/pixel_probe.h>
 #include <support/temporary_folder.h>
@@ -13,7 +15,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <numbers>
+#include <vector>
 
 using namespace brenvaldo;
 using namespace brenvaldo::imaging;
@@ -23,6 +27,7 @@ using platform::filters::InputValue;
 using platform::filters::Point;
 using platform::graphics::Color;
 using platform::graphics::Image;
+using platform::graphics::PixelSize;
 
 namespace {
 
@@ -114,6 +119,21 @@ void expectFilter(int number, const FilterImage& expected)
 {
     EXPECT_LE(test::largestDifference(ofCatalogue(unusualSettings(number)), drawn(expected)), 1)
         << number;
+}
+
+/// By how much the samples of two pictures of one size differ on average.
+double meanDifference(const QImage& left, const QImage& right)
+{
+    int sum = 0;
+    for (int y = 0; y < left.height(); ++y) {
+        for (int x = 0; x < left.width(); ++x) {
+            const QRgb a = left.pixel(x, y);
+            const QRgb b = right.pixel(x, y);
+            sum += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b))
+                + std::abs(qBlue(a) - qBlue(b));
+        }
+    }
+    return sum / (3.0 * left.width() * left.height());
 }
 
 OutputTail pngTail()
@@ -330,14 +350,76 @@ TEST(FilterRun, FailsForAPhotoThatCannotBeRead)
     }
 }
 
-TEST(FilterPreview, IsOpaque)
+TEST(FilterPreview, IsThePictureOfTheRun)
 {
-    QImage clear(8, 8, QImage::Format_ARGB32);
-    clear.fill(Qt::transparent);
-    const auto result
-        = DVColorConversions::hAddFilterPreview(Image::fromQImage(clear), {.number = 0});
-    ASSERT_TRUE(result);
-    EXPECT_FALSE(result->hasAlpha());
+    const test::TemporaryFolder folder;
+    const QString path = test::PhotoBuilder()
+                             .format(test::PhotoFormat::Png)
+                             .model(test::PhotoModel::RgbAlpha)
+                             .size(50, 40)
+                             .write(folder.path(u"a.png"_s));
+    for (const int number : {0, 6, 12}) {
+        const FilterSettings settings = unusualSettings(number);
+        const auto outcome = DVColorConversions::hAddFilter(
+            {.source = path, .destinationBase = folder.path(u"out"_s)}, settings, pngTail()
+        );
+        ASSERT_EQ(DVImageHandling().finish(outcome), ResultWord::Ok);
+
+        const auto preview = DVColorConversions::hAddFilterPreview(
+            *test::openedPhoto(path).uprightImage(), settings
+        );
+
+        ASSERT_TRUE(preview);
+        EXPECT_FALSE(preview->hasAlpha());
+        EXPECT_EQ(
+            test::largestDifference(
+                preview->toQImage(), test::storedPixels(folder.path(u"out.png"_s))
+            ),
+            0
+        ) << number;
+    }
+    EXPECT_FALSE(DVColorConversions::hAddFilterPreview(photo(), {.number = 26}));
+}
+
+// A look at a large photo must not show anything else than the picture would, made smaller.
+TEST(FilterPreview, LooksLikeThePictureWhenItIsShownSmaller)
+{
+    QImage smooth(600, 400, QImage::Format_RGB32);
+    for (int y = 0; y < smooth.height(); ++y) {
+        for (int x = 0; x < smooth.width(); ++x)
+            smooth.setPixel(x, y, qRgb(x * 255 / 599, y * 255 / 399, x > 300 ? 230 : 20));
+    }
+    const Image large = Image::fromQImage(smooth);
+    for (const int number : {0, 1, 2, 4, 6, 8, 11, 13, 14, 15, 16, 18, 20, 21, 22, 23, 24, 25}) {
+        FilterSettings settings = unusualSettings(number);
+        settings.blurRadius = 24;
+        settings.unsharpRadius = 24;
+        const Image preview = *DVColorConversions::hAddFilterPreview(large, settings);
+        const PixelSize size = {.width = preview.width() / 4, .height = preview.height() / 4};
+
+        const QImage quick = scaledForScreen(preview, size).toQImage();
+
+        const QImage shown
+            = scaledForScreen(Image::fromQImage(preview.toQImage()), size).toQImage();
+        ASSERT_EQ(quick.size(), shown.size());
+        EXPECT_LE(meanDifference(quick, shown), 1.5) << number;
+    }
+}
+
+TEST(FilterSamples, ShowWhatEachFilterDoes)
+{
+    std::vector<QImage> samples;
+    for (int number = 0; number <= 25; ++number) {
+        const auto sample = filterSample(photo(), number);
+        ASSERT_TRUE(sample) << number;
+        const QImage drawn = sample->toQImage();
+        ASSERT_FALSE(drawn.isNull()) << number;
+        const bool isCanvas = number == 12 || number == 13;
+        EXPECT_TRUE(isCanvas || meanDifference(drawn, photo().toQImage()) > 0.2) << number;
+        EXPECT_EQ(std::count(samples.begin(), samples.end(), drawn), 0) << number;
+        samples.push_back(drawn);
+    }
+    EXPECT_FALSE(filterSample(photo(), 26));
 }
 
 TEST(Screens, OfAPictureAreThoseOfTheCatalogue)

@@ -2,7 +2,6 @@
 #include "filtered_image.h"
 
 #include <platform/graphics/image_node.h>
-#include <platform/graphics/sample_conversion.h>
 
 namespace brenvaldo::platform::filters {
 
@@ -12,13 +11,6 @@ graphics::Image filteredImage(
 {
     return graphics::builtImage(*photo.node(), photo.pixelSize(), [&] {
         return *chain(FilterImage(photo)).toImage(photo).node();
-    });
-}
-
-graphics::Image opaqueOnWhite(const graphics::Image& image)
-{
-    return graphics::builtImage(*image.node(), image.pixelSize(), [&] {
-        return graphics::flattenedOnWhite(*image.node());
     });
 }
 

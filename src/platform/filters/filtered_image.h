@@ -14,7 +14,4 @@ namespace brenvaldo::platform::filters {
     const graphics::Image& photo, const std::function<FilterImage(const FilterImage&)>& chain
 );
 
-/// The picture laid on white.
-[[nodiscard]] graphics::Image opaqueOnWhite(const graphics::Image& image);
-
 } // namespace brenvaldo::platform::filters

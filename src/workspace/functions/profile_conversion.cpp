@@ -5,6 +5,7 @@
 #include <imaging/profile_settings.h>
 #include <panels/panels.h>
 #include <presets/image_records.h>
+#include <workspace/preview/photo_preview.h>
 
 #include <memory>
 
@@ -32,7 +33,8 @@ Function::Preview previewWith(const Conversions& conversions)
 {
     return [conversions](const Subsystems& subsystems, const QString& path) {
         return conversions->convertColorSpaceToPreview(
-            path, imaging::readSettings(subsystems.panels.vwProfileConversion)
+            subsystems.previewPhotos.photo(path),
+            imaging::readSettings(subsystems.panels.vwProfileConversion)
         );
     };
 }
