@@ -99,7 +99,7 @@ FilterPanel::FilterPanel()
 {
     pubFilterSelection.addAction(u"cGUIcontrols.onClickPubFilterType"_s);
     setLayout({
-        {Row{.label = u"Filter"_s, .fields = {{.control = &pubFilterSelection}}}},
+        {Row{.fields = {{.control = &pubFilterSelection, .accessibleName = u"Filter"_s}}}},
         {HolderPlace{.holder = &vwFiltersMainView}},
     });
 }

@@ -6,6 +6,7 @@
 #include "pop_up.h"
 #include "radio_column.h"
 #include "rows_table.h"
+#include "sample_chooser.h"
 #include "segments.h"
 #include "subscriptions.h"
 #include "unit_field.h"
@@ -172,6 +173,17 @@ void Binder::bind(PopUp& widget, controls::IndexedControl& control) const
         widget.setCurrentIndex(control.selectedIndex());
     });
     QObject::connect(&widget, &QComboBox::activated, &widget, [this, &control](int index) {
+        m_input.pick(control, index);
+    });
+}
+
+void Binder::bind(SampleChooser& widget, controls::IndexedControl& control) const
+{
+    followControl(widget, control, [&widget, &control] {
+        widget.setTitles(control.titles());
+        widget.select(control.selectedIndex());
+    });
+    QObject::connect(&widget, &SampleChooser::picked, &widget, [this, &control](int index) {
         m_input.pick(control, index);
     });
 }

@@ -22,6 +22,7 @@ class PictureView;
 class PopUp;
 class RadioColumn;
 class RowsTable;
+class SampleChooser;
 class Segments;
 class UnitField;
 
@@ -40,6 +41,7 @@ public:
     void bind(QPlainTextEdit& widget, controls::TextView& control) const;
     void bind(QCheckBox& widget, controls::CheckBox& control) const;
     void bind(PopUp& widget, controls::IndexedControl& control) const;
+    void bind(SampleChooser& widget, controls::IndexedControl& control) const;
     void bind(Segments& widget, controls::IndexedControl& control) const;
     void bind(RadioColumn& widget, controls::Matrix& control) const;
     void bind(QTabBar& widget, controls::TabView& control) const;

@@ -9,6 +9,7 @@
 #include "pop_up.h"
 #include "radio_column.h"
 #include "rows_table.h"
+#include "sample_chooser.h"
 #include "segments.h"
 #include "text_area.h"
 #include "unit_field.h"
@@ -98,6 +99,11 @@ FormBuilder::FormBuilder(const panels::Panels& panels, const Binder& binder)
 {
 }
 
+void FormBuilder::showSamples(const controls::IndexedControl& control, PhotoSamples& samples)
+{
+    m_samples[&control] = &samples;
+}
+
 QWidget* FormBuilder::build(const panels::PanelView& view, Density density, QWidget* parent) const
 {
     auto* form = new QWidget(parent);
@@ -161,6 +167,9 @@ QWidget* FormBuilder::makeField(const panels::Field& field, QWidget* parent) con
     }
     if (auto* matrix = as<controls::Matrix>(field))
         return bound(m_binder, new RadioColumn(parent), *matrix);
+    const auto samples = m_samples.find(field.control);
+    if (auto* choice = as<controls::IndexedControl>(field); choice && samples != m_samples.end())
+        return bound(m_binder, new SampleChooser(*samples->second, parent), *choice);
     if (auto* popUp = as<controls::IndexedControl>(field))
         return bound(m_binder, new PopUp(field.unit, parent), *popUp);
     if (auto* well = as<controls::ColorWell>(field))

@@ -5,9 +5,13 @@
 
 #include <panels/panels.h>
 
+#include <map>
+
 class QWidget;
 
 namespace brenvaldo::views {
+
+class PhotoSamples;
 
 /// Makes the widgets of panels from their layouts and binds them to their controls.
 class FormBuilder
@@ -19,6 +23,10 @@ public:
     };
 
     FormBuilder(const panels::Panels& panels, const Binder& binder);
+
+    /// The choices of `control` will stand side by side with a picture of what each does, instead
+    /// of in a menu.
+    void showSamples(const controls::IndexedControl& control, PhotoSamples& samples);
 
     /// The widgets of `view`; every widget has the name of its control.
     [[nodiscard]] QWidget*
@@ -36,6 +44,7 @@ private:
 
     const panels::Panels& m_panels;
     const Binder& m_binder;
+    std::map<const controls::Control*, PhotoSamples*> m_samples;
 };
 
 } // namespace brenvaldo::views

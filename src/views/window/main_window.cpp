@@ -10,6 +10,7 @@
 #include "panel_sheet.h"
 #include "photo_tool_bar.h"
 
+#include <imaging/filter_sample.h>
 #include <platform/foundation/literals.h>
 #include <views/form/subscriptions.h>
 #include <views/look/hairline.h>
@@ -61,6 +62,7 @@ MainWindow::MainWindow(workspace::Workspace& workspace, QtFileChooser& chooser)
     , m_chooser(chooser)
     , m_input(workspace.actions())
     , m_binder(m_input)
+    , m_filterSamples(workspace.photos(), imaging::filterSample)
     , m_builder(workspace.panels(), m_binder)
     , m_commands(workspace.actions(), workspace.photos())
     , m_orders(makeWindowOrders(*this))
@@ -69,6 +71,7 @@ MainWindow::MainWindow(workspace::Workspace& workspace, QtFileChooser& chooser)
     setWindowTitle(tr("Brenvaldo"));
     setAcceptDrops(true);
     m_drags.awakeFromNib();
+    m_builder.showSamples(workspace.panels().vwFilterPhotos.pubFilterSelection, m_filterSamples);
     hideButtonsWithoutAction();
     fillMenuBar(*this, m_commands, m_orders);
     // In the window itself the keys of the menus work without the menu bar too.

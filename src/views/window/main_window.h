@@ -7,6 +7,7 @@
 
 #include <views/form/binder.h>
 #include <views/form/form_builder.h>
+#include <views/photos/photo_samples.h>
 #include <views/preview/preview_view.h>
 #include <workspace/start/main_app_window.h>
 #include <workspace/workspace.h>
@@ -71,6 +72,7 @@ private:
     QtFileChooser& m_chooser;
     controls::UserInput m_input;
     Binder m_binder;
+    PhotoSamples m_filterSamples;
     FormBuilder m_builder;
     Commands m_commands;
     WindowOrders m_orders;
