@@ -39,7 +39,7 @@ Image quicklyLookedAt(const Image& filtered, const Image& photo, const FilterSet
 {
     if (!looksTheSameSmaller(settings.number))
         return filtered;
-    return platform::graphics::withSmallerForm(filtered, [photo, settings](PixelSize size) {
+    return platform::graphics::drawnSmallerBy(filtered, [photo, settings](PixelSize size) {
         const Image small = scaledForScreen(photo, size);
         const auto scale = static_cast<float>(size.width) / static_cast<float>(photo.width());
         return platform::codecs::throughJpeg(
