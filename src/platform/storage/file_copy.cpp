@@ -2,6 +2,7 @@
 #include "file_copy.h"
 
 #include "atomic_file.h"
+#include "extended_attributes.h"
 #include "file_descriptor.h"
 
 #include <array>
@@ -10,7 +11,6 @@
 #include <fcntl.h>
 #include <sys/sendfile.h>
 #include <sys/stat.h>
-#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace brenvaldo::platform::storage {
@@ -26,27 +26,6 @@ bool copyContents(int source, int target)
             return true;
         if (copied < 0 && errno != EINTR)
             return false;
-    }
-}
-
-/// File systems without extended attributes lose them silently, as every copy between them does.
-void copyExtendedAttributes(int source, int target)
-{
-    const ssize_t listSize = ::flistxattr(source, nullptr, 0);
-    if (listSize <= 0)
-        return;
-    QByteArray names(listSize, '\0');
-    if (::flistxattr(source, names.data(), static_cast<std::size_t>(listSize)) != listSize)
-        return;
-    names.chop(1);
-    for (const QByteArray& name : names.split('\0')) {
-        const ssize_t size = ::fgetxattr(source, name.constData(), nullptr, 0);
-        if (!name.startsWith("user.") || size < 0)
-            continue;
-        QByteArray value(size, '\0');
-        const auto room = static_cast<std::size_t>(size);
-        if (::fgetxattr(source, name.constData(), value.data(), room) == size)
-            ::fsetxattr(target, name.constData(), value.constData(), room, 0);
     }
 }
 
