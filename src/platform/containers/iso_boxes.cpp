@@ -45,6 +45,13 @@ QByteArrayView isoBox(const QList<IsoBox>& boxes, QByteArrayView type)
     return {};
 }
 
+QByteArray isoBoxOf(QByteArrayView type, QByteArrayView payload)
+{
+    QByteArray box;
+    appendUnsigned(box, static_cast<std::uint64_t>(payload.size()) + 8, 4, ByteOrder::Big);
+    return box.append(type).append(payload);
+}
+
 QByteArray exifBehindOffset(QByteArrayView item)
 {
     const auto offset = unsignedAt(item, 0, 4, ByteOrder::Big);

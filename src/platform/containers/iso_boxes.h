@@ -21,6 +21,9 @@ struct IsoBox
 /// The payload of the first box of that type; empty when there is none.
 [[nodiscard]] QByteArrayView isoBox(const QList<IsoBox>& boxes, QByteArrayView type);
 
+/// Makes a whole box.
+[[nodiscard]] QByteArray isoBoxOf(QByteArrayView type, QByteArrayView payload);
+
 /// The EXIF block of an item that starts with the number of bytes in front of the block.
 [[nodiscard]] QByteArray exifBehindOffset(QByteArrayView item);
 

@@ -15,7 +15,8 @@ enum class PhotoshopResourceId : std::uint16_t {
     IccProfile = 0x040F,
     VersionInfo = 0x0421,
     Exif = 0x0422,
-    Xmp = 0x0424
+    Xmp = 0x0424,
+    IptcChecksum = 0x0425
 };
 
 /// One image resource: views into the block it was read from.

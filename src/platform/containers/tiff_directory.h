@@ -37,6 +37,7 @@ enum Tag : std::uint16_t {
     GpsDirectory = 34853,
     PhotoshopLayers = 37724,
     MakerNote = 37500,
+    UserComment = 37510,
     InteroperabilityDirectory = 40965
 };
 

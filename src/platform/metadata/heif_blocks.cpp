@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
 #include "exif_root_fields.h"
+#include "heif_items.h"
 #include "tiff_blocks.h"
 
 #include <platform/containers/bytes.h>
@@ -8,7 +9,6 @@
 #include <platform/containers/photoshop_resources.h>
 
 #include <QHash>
-#include <QSet>
 
 #include <algorithm>
 
@@ -23,78 +23,6 @@ using containers::tailOf;
 
 namespace {
 
-using ItemId = std::uint64_t;
-
-std::uint64_t numberAt(QByteArrayView bytes, std::uint64_t offset, int width)
-{
-    return containers::unsignedAt(bytes, offset, width, containers::ByteOrder::Big).value_or(0);
-}
-
-/// What the item information tells about a piece of metadata.
-struct Item
-{
-    ItemId id = 0;
-    QByteArray type; ///< "Exif", or the content type of a "mime" item
-};
-
-std::optional<Item> itemOf(QByteArrayView info)
-{
-    const std::uint64_t version = numberAt(info, 0, 1);
-    if (version < 2 || version > 3)
-        return std::nullopt;
-    const int idWidth = version == 2 ? 2 : 4;
-    const auto typeOffset = static_cast<std::uint64_t>(idWidth) + 6;
-    const auto type = containers::sliceOf(info, typeOffset, 4);
-    if (!type)
-        return std::nullopt;
-    Item item{.id = numberAt(info, 4, idWidth), .type = type->toByteArray()};
-    if (item.type != "mime")
-        return item;
-    const QByteArrayView name = tailOf(info, typeOffset + 4);
-    const qsizetype nameEnd = name.indexOf('\0');
-    const QByteArrayView contentType = nameEnd < 0 ? QByteArrayView() : name.sliced(nameEnd + 1);
-    const qsizetype end = contentType.indexOf('\0');
-    item.type = (end < 0 ? contentType : contentType.first(end)).toByteArray();
-    return item;
-}
-
-QList<Item> itemsOf(QByteArrayView information)
-{
-    const int countWidth = numberAt(information, 0, 1) == 0 ? 2 : 4;
-    QList<Item> items;
-    for (const IsoBox& box :
-         isoBoxes(tailOf(information, static_cast<std::uint64_t>(countWidth) + 4))) {
-        if (box.type != QByteArrayView("infe"))
-            continue;
-        if (const auto item = itemOf(box.payload))
-            items.append(*item);
-    }
-    return items;
-}
-
-/// The items that describe item `primary`.
-QSet<ItemId> descriptionsOf(QByteArrayView references, ItemId primary)
-{
-    const int idWidth = numberAt(references, 0, 1) == 0 ? 2 : 4;
-    const auto step = static_cast<std::uint64_t>(idWidth);
-    QSet<ItemId> ids;
-    for (const IsoBox& box : isoBoxes(tailOf(references, 4))) {
-        if (box.type != QByteArrayView("cdsc"))
-            continue;
-        const std::uint64_t count = numberAt(box.payload, step, 2);
-        for (std::uint64_t i = 0; i < count; ++i) {
-            const auto to = containers::unsignedAt(
-                box.payload, step + 2 + i * step, idWidth, containers::ByteOrder::Big
-            );
-            if (!to)
-                break;
-            if (*to == primary)
-                ids.insert(numberAt(box.payload, 0, idWidth));
-        }
-    }
-    return ids;
-}
-
 /// What the item location box tells, read once: a file may hold as many items as entries.
 class Locations
 {
@@ -103,18 +31,18 @@ public:
         : m_file(file)
         , m_itemData(isoBox(isoBoxes(tailOf(meta, 4)), "idat"))
         , m_box(locations)
-        , m_version(numberAt(locations, 0, 1))
+        , m_version(heifNumberAt(locations, 0, 1))
     {
-        m_offsetWidth = static_cast<int>(numberAt(m_box, 4, 1) >> 4U);
-        m_lengthWidth = static_cast<int>(numberAt(m_box, 4, 1) & 15U);
-        m_baseWidth = static_cast<int>(numberAt(m_box, 5, 1) >> 4U);
-        m_indexWidth = m_version == 0 ? 0 : static_cast<int>(numberAt(m_box, 5, 1) & 15U);
+        m_offsetWidth = static_cast<int>(heifNumberAt(m_box, 4, 1) >> 4U);
+        m_lengthWidth = static_cast<int>(heifNumberAt(m_box, 4, 1) & 15U);
+        m_baseWidth = static_cast<int>(heifNumberAt(m_box, 5, 1) >> 4U);
+        m_indexWidth = m_version == 0 ? 0 : static_cast<int>(heifNumberAt(m_box, 5, 1) & 15U);
         if (isSane())
             readEntries();
     }
 
     /// The bytes of item `wanted`, once; empty when they do not stand in this file.
-    QByteArray take(ItemId wanted)
+    QByteArray take(HeifItemId wanted)
     {
         const Location location = m_locations.take(wanted);
         if (location.method > 1 || location.dataReference != 0)
@@ -149,7 +77,7 @@ private:
         m_place = 6;
         const std::uint64_t count = next(m_version < 2 ? 2 : 4);
         for (std::uint64_t i = 0; i < count && m_place < size(); ++i) {
-            const ItemId id = next(m_version < 2 ? 2 : 4);
+            const HeifItemId id = next(m_version < 2 ? 2 : 4);
             Location location;
             location.method = m_version == 0 ? 0 : next(2) & 15U;
             location.dataReference = next(2);
@@ -166,7 +94,7 @@ private:
 
     std::uint64_t next(int width)
     {
-        const std::uint64_t value = numberAt(m_box, m_place, width);
+        const std::uint64_t value = heifNumberAt(m_box, m_place, width);
         m_place += static_cast<std::uint64_t>(width);
         return value;
     }
@@ -198,20 +126,12 @@ private:
     QByteArrayView m_box;
     std::uint64_t m_version = 0;
     std::uint64_t m_place = 0;
-    QHash<ItemId, Location> m_locations;
+    QHash<HeifItemId, Location> m_locations;
     int m_offsetWidth = 0;
     int m_lengthWidth = 0;
     int m_baseWidth = 0;
     int m_indexWidth = 0;
 };
-
-/// Sorts the items that describe the primary picture to the front.
-void putFirst(QList<Item>& items, const QSet<ItemId>& ids)
-{
-    std::stable_partition(items.begin(), items.end(), [&ids](const Item& item) {
-        return ids.contains(item.id);
-    });
-}
 
 /// Parts the blocks that stand in the EXIF block from it.
 void takeRootBlocks(MetadataBlocks& blocks)
@@ -236,13 +156,9 @@ MetadataBlocks readHeifBlocks(QByteArrayView file)
     MetadataBlocks blocks;
     const QByteArrayView meta = isoBox(isoBoxes(file), "meta");
     const QList<IsoBox> boxes = isoBoxes(tailOf(meta, 4));
-    const QByteArrayView primaryBox = isoBox(boxes, "pitm");
-    const ItemId primary = numberAt(primaryBox, 4, numberAt(primaryBox, 0, 1) == 0 ? 2 : 4);
-    QList<Item> items = itemsOf(isoBox(boxes, "iinf"));
-    putFirst(items, descriptionsOf(isoBox(boxes, "iref"), primary));
-
+    const HeifItemId primary = primaryHeifItem(isoBox(boxes, "pitm"));
     Locations locations(file, meta, isoBox(boxes, "iloc"));
-    for (const Item& item : items) {
+    for (const HeifItem& item : heifItems(isoBox(boxes, "iinf"), isoBox(boxes, "iref"), primary)) {
         if (item.type == "Exif" && blocks.exif.isEmpty())
             blocks.exif = containers::exifBehindOffset(locations.take(item.id));
         else if (item.type == "application/rdf+xml" && blocks.xmp.isEmpty())

@@ -2,9 +2,9 @@
 #include "iptc_properties.h"
 
 #include "exif_properties.h"
+#include "iptc_data_sets.h"
 #include "xmp_values.h"
 
-#include <platform/containers/bytes.h>
 #include <platform/foundation/literals.h>
 
 #include <QHash>
@@ -13,9 +13,6 @@
 #include <array>
 
 namespace brenvaldo::platform::metadata {
-
-using containers::ByteOrder;
-using containers::unsignedAt;
 
 namespace {
 
@@ -95,20 +92,11 @@ constexpr std::array contactFields{
 
 using DataSets = QHash<int, QList<QByteArrayView>>;
 
-/// The data sets of IIM by record * 256 + number.
 DataSets dataSetsOf(QByteArrayView iptc)
 {
     DataSets sets;
-    std::uint64_t offset = 0;
-    while (unsignedAt(iptc, offset, 1, ByteOrder::Big) == 0x1CU) {
-        const auto number = unsignedAt(iptc, offset + 1, 2, ByteOrder::Big);
-        const auto length = unsignedAt(iptc, offset + 3, 2, ByteOrder::Big);
-        const auto value = containers::sliceOf(iptc, offset + 5, length.value_or(0));
-        if (!number || !length || !value)
-            break;
-        sets[static_cast<int>(*number)].append(*value);
-        offset += 5 + *length;
-    }
+    for (const IptcDataSet& set : readIptcDataSets(iptc).sets)
+        sets[set.number].append(set.value);
     return sets;
 }
 

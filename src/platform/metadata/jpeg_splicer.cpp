@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "block_segments.h"
 #include "block_splicers.h"
 #include "xmp_packet.h"
 
@@ -12,29 +13,14 @@ namespace jpeg = containers::jpeg;
 
 namespace {
 
-/// `data` in as many segments as it takes, each with `header` in front.
-QByteArrayList segmentsOf(std::uint8_t marker, QByteArrayView header, const QByteArray& data)
-{
-    const qsizetype room = jpeg::longestPayload - header.size();
-    QByteArrayList segments;
-    for (qsizetype offset = 0; offset < data.size(); offset += room)
-        segments.append(
-            containers::jpegSegment(marker, header.toByteArray() + data.mid(offset, room))
-        );
-    return segments;
-}
-
 QByteArrayList metadataSegments(const containers::MetadataBlocks& blocks)
 {
-    QByteArrayList segments = segmentsOf(jpeg::app1, jpeg::exifHeader, blocks.exif);
+    QByteArrayList segments = exifSegments(blocks.exif);
     segments += xmpSegments(blocks.xmp);
-    segments += segmentsOf(
-        jpeg::app13,
-        jpeg::photoshopHeader,
-        containers::photoshopBlockWithIptc(blocks.photoshop, blocks.iptc)
-    );
+    segments
+        += photoshopSegments(containers::photoshopBlockWithIptc(blocks.photoshop, blocks.iptc));
     segments += blocks.jpegSegments;
-    segments += segmentsOf(jpeg::comment, {}, blocks.comment);
+    segments += commentSegments(blocks.comment);
     return segments;
 }
 

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
-#include "exif_header.h"
+#include "png_profiles.h"
 
-#include <platform/containers/jpeg_segments.h>
 #include <platform/containers/photoshop_resources.h>
 #include <platform/containers/png_chunks.h>
 
@@ -13,13 +12,10 @@
 
 namespace brenvaldo::platform::metadata {
 
-namespace jpeg = containers::jpeg;
 using containers::MetadataBlocks;
 using containers::PngChunk;
 
 namespace {
-
-constexpr QByteArrayView profilePrefix("Raw profile type ");
 
 bool describesColors(const PngChunk& chunk)
 {
@@ -35,33 +31,30 @@ void fill(QByteArray& block, const QByteArray& data)
         block = data;
 }
 
-/// The profiles that some programs write as hexadecimal text.
-void takeProfile(const QByteArray& type, const QByteArray& data, MetadataBlocks& blocks)
+void take(const PngBlockData& data, bool isInChunkOfItsOwn, MetadataBlocks& blocks)
 {
-    if (type == "exif" || (type == "APP1" && data.startsWith(jpeg::exifHeader)))
-        fill(blocks.exif, withoutExifHeader(data).toByteArray());
-    else if (type == "APP1" && data.startsWith(jpeg::xmpHeader))
-        fill(blocks.xmp, data.sliced(jpeg::xmpHeader.size()));
-    else if (type == "xmp")
-        fill(blocks.xmp, data);
-    else if ((type == "iptc" || type == "8bim") && !containers::photoshopResources(data).isEmpty())
-        fill(blocks.photoshop, data);
-    else if (type == "iptc")
-        fill(blocks.iptc, data);
+    switch (data.block) {
+    case PngBlock::Exif:
+        if (isInChunkOfItsOwn)
+            blocks.exif = data.data;
+        fill(blocks.exif, data.data);
+        break;
+    case PngBlock::Xmp:
+        fill(blocks.xmp, data.data);
+        break;
+    case PngBlock::Photoshop:
+        fill(blocks.photoshop, data.data);
+        break;
+    case PngBlock::Iptc:
+        fill(blocks.iptc, data.data);
+        break;
+    }
 }
 
 void takeText(const PngChunk& chunk, const containers::PngText& text, MetadataBlocks& blocks)
 {
-    if (text.keyword == "XML:com.adobe.xmp") {
-        fill(blocks.xmp, text.text);
+    if (holdsProfile(text))
         return;
-    }
-    if (text.keyword.startsWith(profilePrefix)) {
-        takeProfile(
-            text.keyword.sliced(profilePrefix.size()), containers::rawProfileData(text.text), blocks
-        );
-        return;
-    }
     if (text.keyword == "Comment")
         fill(blocks.comment, text.isUtf8 ? text.text : QString::fromLatin1(text.text).toUtf8());
     blocks.pngTextChunks.append(chunk.whole.toByteArray());
@@ -76,13 +69,14 @@ MetadataBlocks readPngBlocks(QByteArrayView file)
     if (!chunks)
         return blocks;
     for (const PngChunk& chunk : *chunks) {
-        if (chunk.type == QByteArrayView("eXIf"))
-            blocks.exif = withoutExifHeader(chunk.data).toByteArray();
+        const auto text = containers::pngText(chunk);
+        if (const auto data = pngBlockOf(chunk, text))
+            take(*data, chunk.type == QByteArrayView("eXIf"), blocks);
         else if (chunk.type == QByteArrayView("tIME"))
             blocks.pngTextChunks.append(chunk.whole.toByteArray());
         else if (describesColors(chunk))
             blocks.pngColorChunks.append(chunk.whole.toByteArray());
-        else if (const auto text = containers::pngText(chunk))
+        else if (text)
             takeText(chunk, *text, blocks);
     }
     if (blocks.iptc.isEmpty())
