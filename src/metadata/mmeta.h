@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "comment_settings.h"
 #include "property_tree.h"
 
 #include <panels/panels.h>
+#include <platform/foundation/signal.h>
 #include <platform/metadata/image_properties.h>
 
 #include <QString>
@@ -14,6 +16,7 @@
 namespace brenvaldo::metadata {
 
 /// Reads the metadata of photos: single values for other subsystems, and all of it for the user.
+/// Writes comment and IPTC values into them.
 class mMeta
 {
 public:
@@ -60,6 +63,29 @@ public:
 
     /// Width and height as the photo shows, as texts; empty for a file that is no image.
     [[nodiscard]] static QStringList hGetPixelFormat(const QString& path);
+
+    enum class Written {
+        Done,
+        Nothing, ///< the file could not be changed: the log tells why
+        NoImage
+    };
+
+    /// Writes the comment and the panel's IPTC values into the photo at `path`: the comment behind
+    /// the one that stands there, or in its place where the state is not 0.
+    Written writeExifData(const QString& path, const CommentSettings& settings);
+
+    /// The same; answers "Failed" for a file that is no image, and "OK" for any other.
+    QString hSetExifData(const QString& path, const QString& comment, int clearState);
+
+    /// Writes the panel's IPTC values into the photo at `path` when the flag is 1; answers "OK".
+    QString hAddIPTCdata(const QString& path, int writeFlag);
+
+    /// Writes into the one photo, shows what it holds now, and adds a row to the log; nothing for
+    /// an empty path.
+    void btApplyExifUserComment(const QString& activeFile);
+
+    /// The button was pressed for a file.
+    platform::Signal<const QString&, Written> commentApplied;
 
 private:
     void showComment(const platform::metadata::PropertyDictionary& properties);

@@ -30,6 +30,25 @@ struct ExifPanel : PanelView
     controls::TextField tfIPTCImageContactInfo{u"tfIPTCImageContactInfo"_s};
     controls::TextField tfIPTCEditorContactInfo{u"tfIPTCEditorContactInfo"_s};
     controls::TextField tfIPTCCreatorContactInfo{u"tfIPTCCreatorContactInfo"_s};
+
+    /// Writes into the selected photo alone.
+    controls::Button btnApplyExifUserComment{
+        u"btnApplyExifUserComment"_s,
+        u"Write into the selected photo"_s,
+        u"mMeta.btApplyExifUserComment"_s};
+
+    /// What the button has written, for as long as the process lives.
+    controls::ArrayController mymMetaLogTableViewController{
+        u"mymMetaLogTableViewController"_s,
+        {u"LogDate"_s,
+         u"LogProcess"_s,
+         u"LogAction"_s,
+         u"LogStatus"_s,
+         u"LogI"_s,
+         u"LogO"_s,
+         u"LogIpath"_s,
+         u"LogOpath"_s}};
+    controls::TableView themMetaLogTable{u"themMetaLogTable"_s, mymMetaLogTableViewController};
 };
 
 } // namespace brenvaldo::panels

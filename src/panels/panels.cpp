@@ -70,6 +70,7 @@ void Panels::addFileManagementPanels()
     add(vwFileManagementSorting);
     add(vwFileManagementSorting.theApplePhotosData);
     add(vwFileManagementEXIF);
+    add(vwFileManagementEXIF.mymMetaLogTableViewController);
     add(vwFileManagementRename);
     add(vwFileManagementConvert);
     add(vwQRBarCode);
