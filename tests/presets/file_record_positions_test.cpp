@@ -179,6 +179,58 @@ TEST(FileRecordPositions, HoldNumberingAndLeaveItsMatricesAlone)
     }
 }
 
+TEST(FileRecordPositions, HoldTheCommentAndIptc)
+{
+    RecordBench bench(u"batchExifUC"_s, u"addExif"_s, action);
+    const Positions kept{
+        {4, u"tfExifUserComment"_s, u"a4"_s, u"b4"_s},
+        {5, u"cbClearCurrentEUC"_s, u"1"_s, u"0"_s},
+        {6, u"tfIPTCTitle"_s, u"a6"_s, u"b6"_s},
+        {7, u"tfIPTCKeyWords"_s, u"a7"_s, u"b7"_s},
+        {8, u"tfIPTCCaption"_s, u"a8"_s, u"b8"_s},
+        {9, u"tfIPTCHeadline"_s, u"a9"_s, u"b9"_s},
+        {10, u"tfIPTCCopyRight"_s, u"a10"_s, u"b10"_s},
+        {11, u"tfIPTCCopyRightTerms"_s, u"a11"_s, u"b11"_s},
+        {12, u"tfIPTCCreator"_s, u"a12"_s, u"b12"_s},
+        {13, u"tfIPTCCreatorTitle"_s, u"a13"_s, u"b13"_s},
+        {14, u"tfIPTCSourceOwner"_s, u"a14"_s, u"b14"_s},
+    };
+    const QStringList contacts{
+        u"tfIPTCImageContactInfo"_s, u"tfIPTCEditorContactInfo"_s, u"tfIPTCCreatorContactInfo"_s};
+    for (const QString& contact : contacts)
+        bench.give(contact, u"stays"_s);
+
+    bench.expectKept(kept);
+
+    for (const QString& contact : contacts)
+        EXPECT_EQ(bench.read(contact), u"stays"_s);
+}
+
+TEST(FileRecordPositions, OfTheCommentCanNotHoldAnApostrophe)
+{
+    RecordBench bench(u"batchExifUC"_s, u"addExif"_s, action);
+    bench.give(u"tfIPTCKeyWords"_s, u"Jane's boat"_s);
+
+    bench.save(u"A"_s);
+
+    EXPECT_TRUE(bench.panels.wwPresetsWindow.thePresetsData.arrangedObjects().isEmpty());
+}
+
+TEST(FileRecordPositions, OfTheCommentClearTheSecondViewAndTheSimulation)
+{
+    RecordBench bench(u"batchExifUC"_s, u"addExif"_s, action);
+    bench.save(u"A"_s);
+    bench.give(u"cbWMSimulationMode"_s, u"1"_s);
+    bench.panels.wwPresetsWindow.my2ndView.setImage(
+        platform::graphics::Image::fromQImage(QImage(2, 2, QImage::Format_RGB32))
+    );
+
+    bench.apply(0);
+
+    EXPECT_EQ(bench.read(u"cbWMSimulationMode"_s), u"0"_s);
+    EXPECT_FALSE(bench.panels.wwPresetsWindow.my2ndView.image());
+}
+
 TEST(FileRecordPositions, LeaveTheSecondViewAndTheSimulationAlone)
 {
     for (const char* function :

@@ -7,6 +7,7 @@
 #include <platform/foundation/literals.h>
 #include <presets/code_record.h>
 #include <presets/gallery_record.h>
+#include <presets/exif_record.h>
 #include <presets/image_records.h>
 #include <presets/preset_manager.h>
 #include <presets/renaming_records.h>
@@ -31,6 +32,7 @@ inline QHash<QString, presets::PresetRecord> recordsOf(panels::Panels& panels)
         {u"filters"_s, presets::filterRecord(panels)},
         {u"batchQR"_s, presets::codeRecord(panels)},
         {u"htmlExport"_s, presets::galleryRecord(panels)},
+        {u"batchExifUC"_s, presets::exifRecord(panels)},
         {u"manSort"_s, presets::manSortRecord(panels)},
         {u"batchSort"_s, presets::batchSortRecord(panels)},
         {u"Strip"_s, presets::stripRecord(panels)},
