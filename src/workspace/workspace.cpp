@@ -164,6 +164,11 @@ struct Workspace::Parts
         , presetNotSaved(presetManager.presetNotSaved.connect([this](const QString& name) {
             recordLostPreset(name);
         }))
+        , commentApplied(meta.commentApplied.connect(
+              [this](const QString& path, metadata::mMeta::Written written) {
+                  recordComment(path, written);
+              }
+          ))
     {
     }
 
@@ -171,6 +176,7 @@ struct Workspace::Parts
     void showLoadedPreset();
     void recordLostPreset(const QString& name);
     [[nodiscard]] QStringList tickedPhotos() const;
+    void recordComment(const QString& path, metadata::mMeta::Written written);
     [[nodiscard]] static QString selectedFunction();
     [[nodiscard]] const Function* functionOfRun() const;
 
@@ -196,7 +202,8 @@ struct Workspace::Parts
         .watermark = watermark,
         .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
-        .toolBox = toolBox};
+        .toolBox = toolBox,
+        .meta = meta};
     Neighbours neighbours;
     PresetRecords presetRecords{functions, subsystems};
     cCollectionViewController collectionView;
@@ -215,6 +222,7 @@ struct Workspace::Parts
     DVFileSorterRoutine fileSorter;
     platform::Subscription presetApplied;
     platform::Subscription presetNotSaved;
+    platform::Subscription commentApplied;
     bool hasStarted = false;
     QStringList waitingFiles;
 };
@@ -232,6 +240,9 @@ void Workspace::Parts::registerActions()
     actionList.registerActions(actions);
     manualSort.registerActions(actions);
     fileSorter.registerActions(actions);
+    actions.add(u"mMeta"_s, u"btApplyExifUserComment"_s, [this](const controls::Sender&) {
+        meta.btApplyExifUserComment(collectionView.hGetActiveFileFilePath().value_or(QString()));
+    });
 }
 
 void Workspace::Parts::showLoadedPreset()
@@ -260,6 +271,18 @@ void Workspace::Parts::recordLostPreset(const QString& name)
          .source = {},
          .target = name,
          .word = imaging::ResultWord::Failed}
+    );
+}
+
+void Workspace::Parts::recordComment(const QString& path, metadata::mMeta::Written written)
+{
+    const bool isDone = written == metadata::mMeta::Written::Done;
+    journal.add(
+        {.time = QDateTime::currentDateTime(),
+         .function = u"btApplyExifUserComment"_s,
+         .source = path,
+         .target = path,
+         .word = isDone ? imaging::ResultWord::Ok : imaging::ResultWord::Failed}
     );
 }
 

@@ -9,6 +9,7 @@
 #include <files/tool_box.h>
 #include <gallery/responsive_design.h>
 #include <imaging/dv_image_handling.h>
+#include <metadata/mmeta.h>
 #include <platform/foundation/paths.h>
 #include <watermark/dv_watermark.h>
 
@@ -245,7 +246,8 @@ protected:
         .watermark = mark,
         .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
-        .toolBox = toolBox};
+        .toolBox = toolBox,
+        .meta = meta};
     workspace::Neighbours neighbours;
     platform::NotificationCenter notifications;
     platform::Signal<const QString&, const QString&> alertShown;

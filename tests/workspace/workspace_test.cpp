@@ -270,6 +270,51 @@ TEST_F(WorkspaceTest, DescribesNoPhotoThatIsGone)
     EXPECT_EQ(panels.vwFileManagementEXIF.tfExifUserComment.stringValue(), QString());
 }
 
+TEST_F(WorkspaceTest, WritesTheCommentIntoTheSelectedPhotoAndRecordsIt)
+{
+    program.start();
+    panels::ExifPanel& panel = program.panels().vwFileManagementEXIF;
+    const QString path = test::PhotoBuilder().write(folder.path(u"a.jpg"_s));
+    program.openFiles({path, test::PhotoBuilder().write(folder.path(u"b.jpg"_s))});
+    panel.tfExifUserComment.setStringValue(u"At sea"_s);
+
+    EXPECT_EQ(
+        program.actions().send(u"mMeta.btApplyExifUserComment"_s),
+        controls::ActionRegistry::Sent::Done
+    );
+
+    EXPECT_EQ(panel.tfExifUserComment.stringValue(), u"At sea"_s);
+    EXPECT_EQ(panel.mymMetaLogTableViewController.value(0, u"LogStatus"_s), u"OK"_s);
+    EXPECT_EQ(panel.mymMetaLogTableViewController.value(0, u"LogIpath"_s), path);
+    ASSERT_EQ(program.journal().records().size(), 1);
+    const workspace::RunRecord& record = program.journal().records().first();
+    EXPECT_EQ(record.function, u"btApplyExifUserComment"_s);
+    EXPECT_EQ(record.source, path);
+    EXPECT_EQ(record.target, path);
+    EXPECT_EQ(record.word, imaging::ResultWord::Ok);
+    EXPECT_TRUE(record.time.isValid());
+}
+
+TEST_F(WorkspaceTest, RecordsACommentThatCouldNotBeWritten)
+{
+    program.start();
+    program.openFiles({folder.write(u"a.jpg"_s, "no image")});
+
+    program.actions().send(u"btApplyExifUserComment"_s);
+
+    ASSERT_EQ(program.journal().records().size(), 1);
+    EXPECT_EQ(program.journal().records().first().word, imaging::ResultWord::Failed);
+}
+
+TEST_F(WorkspaceTest, WritesNoCommentWithoutASelectedPhoto)
+{
+    program.start();
+
+    program.actions().send(u"btApplyExifUserComment"_s);
+
+    EXPECT_TRUE(program.journal().records().isEmpty());
+}
+
 TEST_F(WorkspaceTest, AddsFilesThatAreOpenedBeforeTheWindowShows)
 {
     const QString path

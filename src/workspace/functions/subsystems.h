@@ -10,6 +10,9 @@ class cResponsiveDesign;
 namespace brenvaldo::imaging {
 class DVImageHandling;
 }
+namespace brenvaldo::metadata {
+class mMeta;
+}
 namespace brenvaldo::panels {
 class Panels;
 }
@@ -30,6 +33,7 @@ struct Subsystems
     gallery::cResponsiveDesign& gallery;
     PreviewPhotos& previewPhotos;
     const files::cToolBox& toolBox;
+    metadata::mMeta& meta;
 };
 
 } // namespace brenvaldo::workspace

@@ -8,6 +8,7 @@
 
 #include <gallery/responsive_design.h>
 #include <imaging/dv_image_handling.h>
+#include <metadata/mmeta.h>
 #include <panels/panels.h>
 #include <platform/foundation/paths.h>
 #include <watermark/dv_watermark.h>
@@ -133,6 +134,7 @@ TEST(Functions, OfThisVersionAreThese)
             u"filters"_s,
             u"resizePhotos"_s,
             u"cropPhotos"_s,
+            u"batchExifUC"_s,
             u"fileRenaming"_s,
             u"batchFileConvert"_s,
             u"htmlExport"_s
@@ -189,7 +191,8 @@ TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
         .watermark = mark,
         .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
-        .toolBox = tools.box};
+        .toolBox = tools.box,
+        .meta = meta};
     const workspace::PresetRecords records(rows(), subsystems);
 
     const std::map<QString, QString> expected{
@@ -205,6 +208,8 @@ TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
         {u"filters"_s, u"filters Edit"_s},
         {u"manSort"_s, u"manSort FileManagement"_s},
         {u"batchSort"_s, u"batchSort FileManagement"_s},
+        {u"batchExifUC"_s, u"addExif FileManagement"_s},
+        {u"htmlExport"_s, u"htmlExport photoGallery"_s},
         {u"faces"_s, u"none"_s},
         {u"batchFileConvert"_s, u"none"_s},
         {u"unknown"_s, u"none"_s},
@@ -264,7 +269,8 @@ TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)
         .watermark = mark,
         .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
-        .toolBox = tools.box};
+        .toolBox = tools.box,
+        .meta = meta};
     workspace::Functions functions({*rows().withId(u"fileRenaming"_s)});
     functions.begin()->presets
         = {{.make = make, .applies = isFirstTab},
