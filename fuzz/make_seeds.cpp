@@ -119,7 +119,7 @@ int main(int argc, char** argv)
     const QString top = QFile::decodeName(argv[1]);
     addPhotos(SeedFolder(top, u"image_source"_s));
     addLayers(SeedFolder(top, u"image_source"_s));
-    for (const QString& reader : {u"metadata_blocks"_s, u"metadata_splice"_s}) {
+    for (const QString& reader : {u"metadata_blocks"_s, u"metadata_edit"_s, u"metadata_splice"_s}) {
         addPhotos(SeedFolder(top, reader));
         addAnnotatedPhotos(SeedFolder(top, reader));
     }

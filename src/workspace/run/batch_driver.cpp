@@ -46,6 +46,16 @@ QString targetOf(const PhotoRun& run, const PhotoOutput& output)
                       : imaging::writtenPath(imaging::Writer::Batch, base, type);
 }
 
+void removeAbandonedFilesBeside(const QStringList& photos)
+{
+    QStringList folders;
+    for (const QString& path : photos)
+        folders.append(platform::deletingLastPathComponent(path));
+    folders.removeDuplicates();
+    for (const QString& folder : folders)
+        platform::storage::removeAbandonedFiles(folder);
+}
+
 const RenamingRun& renamingOf(const Functions& functions)
 {
     return std::get<RenamingRun>(functions.withId(functionId::fileRenaming)->run);
@@ -113,6 +123,8 @@ void BatchDriver::run(const Press& press, const InPlaceRun& inPlace)
     const QStringList photos = takenPhotos(Takes::PhotosOfTheFilter, m_links.photos, m_panels);
     if (photos.isEmpty())
         return;
+    if (inPlace.changesTheFile)
+        removeAbandonedFilesBeside(photos);
     PictureSaver saver(savingOf(press.function), photos.size());
     RunBar bar(m_panels.window.myProgressBar, photos.size());
     for (const QString& path : photos) {

@@ -5,6 +5,8 @@
 
 #include <support/exif_block.h>
 
+#include <tuple>
+
 using namespace brenvaldo;
 
 namespace {
@@ -99,4 +101,14 @@ TEST_F(ExifComment, FailsForWhatIsNoImageAndForWhatTakesNoneAndGoesOn)
     EXPECT_EQ(words(), (QStringList{u"Failed"_s, u"Failed"_s, u"OK"_s}));
     EXPECT_EQ(commentOf(path), u"old; new"_s);
     EXPECT_EQ(test::TemporaryFolder::read(folder.path(u"a.jpg"_s)), "no image");
+}
+
+TEST_F(ExifComment, RidsTheFolderOfThePhotosOfWhatAKilledRunLeft)
+{
+    std::ignore = add(u"a.jpg"_s, "old");
+    const QString abandoned = folder.write(u".brenvaldo-0123abcd"_s, "half a photo");
+
+    run();
+
+    EXPECT_FALSE(QFile::exists(abandoned));
 }
