@@ -230,6 +230,38 @@ std::optional<QByteArrayList> editedTiff(QByteArrayView bytes, const TiffEdit& e
     return Editor(bytes, file->order()).edited(file->firstOffset(), edit);
 }
 
+std::optional<QByteArray> tiffWithExifValue(const QByteArray& bytes, const TiffField& field)
+{
+    const auto file = TiffFile::open(bytes);
+    if (!file || file->isBig())
+        return std::nullopt;
+    const TiffDirectory root = file->firstDirectory();
+    const TiffDirectory exif = file->subDirectory(root, tiff::ExifDirectory);
+    const TiffField* former = fieldOf(exif, field.tag);
+    const qsizetype room = former ? former->value.size() : 0;
+    if (!former || former->type != field.type || field.value.size() > room
+        || field.value.size() <= inlineLength)
+        return std::nullopt;
+
+    QByteArray entry;
+    for (const qsizetype length : {room, field.value.size()}) {
+        appendUnsigned(entry, field.tag, 2, file->order());
+        appendUnsigned(entry, field.type, 2, file->order());
+        const auto count = static_cast<std::uint64_t>(length / tiffTypeWidth(field.type));
+        appendUnsigned(entry, count, 4, file->order());
+        appendUnsigned(entry, former->valueOffset, 4, file->order());
+    }
+    const QByteArrayView before = QByteArrayView(entry).first(entryLength);
+    const qsizetype place = bytes.indexOf(before);
+    if (place < 0 || bytes.indexOf(before, place + 1) >= 0)
+        return std::nullopt;
+    QByteArray result = bytes;
+    result.replace(place, entryLength, entry.sliced(entryLength));
+    return result.replace(
+        static_cast<qsizetype>(former->valueOffset), room, field.value.leftJustified(room, '\0')
+    );
+}
+
 QByteArray emptyTiff(ByteOrder order)
 {
     return tiffHeader(order, tiffHeaderLength) + QByteArray(6, '\0');

@@ -24,6 +24,11 @@ struct TiffEdit
 /// for a BigTIFF, a directory that is cut off, and a file beyond 4 GiB.
 [[nodiscard]] std::optional<QByteArrayList> editedTiff(QByteArrayView bytes, const TiffEdit& edit);
 
+/// The structure with the value of an EXIF field overwritten where the former one leaves as much
+/// room, so that it does not grow; nothing where it does not.
+[[nodiscard]] std::optional<QByteArray>
+tiffWithExifValue(const QByteArray& bytes, const TiffField& field);
+
 /// A structure with an empty directory.
 [[nodiscard]] QByteArray emptyTiff(ByteOrder order);
 

@@ -31,9 +31,17 @@ bool isWhole(const QByteArray& block, const QList<PhotoshopResource>& resources)
     return std::all_of(end, block.end(), [](char byte) { return byte == '\0'; });
 }
 
-QByteArray checksumOf(QByteArrayView iptc)
+QByteArray checksumOf(const QByteArray& iptc)
 {
-    return QCryptographicHash::hash(iptc.toByteArray(), QCryptographicHash::Md5);
+    return QCryptographicHash::hash(iptc, QCryptographicHash::Md5);
+}
+
+/// Resources stand at even places.
+void append(QByteArray& block, QByteArrayView resource)
+{
+    block.append(resource);
+    if (block.size() % 2 != 0)
+        block.append('\0');
 }
 
 std::optional<MetadataBlocks> withIptc(MetadataBlocks blocks, const QList<IptcChange>& changes)
@@ -57,27 +65,36 @@ std::optional<MetadataBlocks> withIptc(MetadataBlocks blocks, const QList<IptcCh
 
 std::optional<QByteArray> photoshopWith(const QByteArray& photoshop, const QByteArray& iptc)
 {
+    const QByteArray former
+        = containers::photoshopResourceData(photoshop, PhotoshopResourceId::Iptc);
+    const auto block = photoshopWithChecksum(photoshop, {.before = former, .after = iptc});
+    if (!block)
+        return std::nullopt;
+    const QByteArray resource = containers::photoshopResource(PhotoshopResourceId::Iptc, iptc);
+    QByteArray result;
+    bool isPlaced = false;
+    for (const PhotoshopResource& other : containers::photoshopResources(*block)) {
+        const bool isReplaced = isOf(other, PhotoshopResourceId::Iptc) && !isPlaced;
+        append(result, isReplaced ? resource : other.whole);
+        isPlaced = isPlaced || isReplaced;
+    }
+    return isPlaced ? result : result + resource;
+}
+
+std::optional<QByteArray> photoshopWithChecksum(const QByteArray& photoshop, const IptcBlocks& iptc)
+{
     const QList<PhotoshopResource> resources = containers::photoshopResources(photoshop);
     if (!isWhole(photoshop, resources))
         return std::nullopt;
-    const QByteArray former
-        = containers::photoshopResourceData(photoshop, PhotoshopResourceId::Iptc);
-    const QByteArray resource = containers::photoshopResource(PhotoshopResourceId::Iptc, iptc);
-    bool isPlaced = false;
+    const QByteArray resource
+        = containers::photoshopResource(PhotoshopResourceId::IptcChecksum, checksumOf(iptc.after));
     QByteArray result;
     for (const PhotoshopResource& other : resources) {
-        if (isOf(other, PhotoshopResourceId::Iptc))
-            result.append(std::exchange(isPlaced, true) ? QByteArray() : resource);
-        else if (isOf(other, PhotoshopResourceId::IptcChecksum) && other.data == checksumOf(former))
-            result.append(
-                containers::photoshopResource(PhotoshopResourceId::IptcChecksum, checksumOf(iptc))
-            );
-        else
-            result.append(other.whole);
-        if (result.size() % 2 != 0)
-            result.append('\0');
+        const bool isReplaced = isOf(other, PhotoshopResourceId::IptcChecksum)
+            && (iptc.before.isEmpty() || other.data == checksumOf(iptc.before));
+        append(result, isReplaced ? resource : other.whole);
     }
-    return isPlaced ? result : result + resource;
+    return result;
 }
 
 std::optional<MetadataBlocks> editedBlocks(const MetadataBlocks& blocks, const MetadataEdit& edit)

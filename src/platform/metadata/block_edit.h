@@ -12,9 +12,21 @@ namespace brenvaldo::platform::metadata {
 [[nodiscard]] std::optional<containers::MetadataBlocks>
 editedBlocks(const containers::MetadataBlocks& blocks, const MetadataEdit& edit);
 
-/// `photoshop` with `iptc` in the place of its IPTC resource, or as its last one. A checksum that
-/// was right for the former resource is right for the new one. Nothing when the block is damaged.
+/// `photoshop` with `iptc` in the place of its first IPTC resource, or as its last resource, and
+/// the checksum of that. Nothing when the block is damaged.
 [[nodiscard]] std::optional<QByteArray>
 photoshopWith(const QByteArray& photoshop, const QByteArray& iptc);
+
+/// IPTC before and after an edit.
+struct IptcBlocks
+{
+    QByteArray before;
+    QByteArray after;
+};
+
+/// A checksum of IPTC that was right, or of none, is right for the new one; a wrong one stays.
+/// Nothing when the block is damaged.
+[[nodiscard]] std::optional<QByteArray>
+photoshopWithChecksum(const QByteArray& photoshop, const IptcBlocks& iptc);
 
 } // namespace brenvaldo::platform::metadata

@@ -142,14 +142,11 @@ public:
         auto locations = readHeifLocations(isoBox(m_metaBoxes, "iloc"));
         if (!locations || !assignItems(payloads, *locations))
             return std::nullopt;
-        locations->items.removeIf([&payloads](const HeifLocation& item) {
-            return std::any_of(payloads.begin(), payloads.end(), [&item](const auto& payload) {
-                return payload.id == item.id;
-            });
-        });
+        const QList<HeifLocation> replaced = taken(locations->items, payloads);
         if (reachesInto(m_meta.whole, *locations))
             return std::nullopt;
-        if (isType(m_boxes.last(), "mdat") && !reachesInto(m_boxes.last().whole, *locations))
+        if (isType(m_boxes.last(), "mdat") && !reachesInto(m_boxes.last().whole, *locations)
+            && fill(m_boxes.last().payload, replaced))
             m_boxes.removeLast();
         const auto behind = withoutOpenEnd();
         if (!behind)
@@ -194,6 +191,34 @@ private:
             payload.id = payload.isNew ? ++last : known->id;
         }
         return last <= greatestId;
+    }
+
+    /// Takes the items of the payloads out of `items`.
+    static QList<HeifLocation> taken(QList<HeifLocation>& items, const QList<Payload>& payloads)
+    {
+        const auto first
+            = std::stable_partition(items.begin(), items.end(), [&](const HeifLocation& item) {
+                  return std::none_of(payloads.begin(), payloads.end(), [&](const auto& payload) {
+                      return payload.id == item.id;
+                  });
+              });
+        const QList<HeifLocation> result(first, items.end());
+        items.erase(first, items.end());
+        return result;
+    }
+
+    /// True when the items are all that stands in `part`.
+    [[nodiscard]] bool fill(QByteArrayView part, const QList<HeifLocation>& items) const
+    {
+        std::uint64_t length = 0;
+        for (const HeifLocation& item : items) {
+            for (const HeifExtent& extent : item.extents) {
+                const bool isInside = item.isInFile() && extent.offset >= placeOf(part.begin())
+                    && extent.offset < placeOf(part.end());
+                length += isInside ? extent.length : 0;
+            }
+        }
+        return length == static_cast<std::uint64_t>(part.size());
     }
 
     [[nodiscard]] bool reachesInto(QByteArrayView part, const HeifLocations& locations) const

@@ -5,6 +5,7 @@
 #include <platform/containers/photoshop_resources.h>
 
 #include <algorithm>
+#include <string_view>
 
 namespace brenvaldo::platform::metadata {
 
@@ -101,6 +102,22 @@ bool isText(int number)
     return number > recordVersion && number < firstPreview && number != rasterizedCaption;
 }
 
+/// ISO 8859-1 with the letters that Windows has in place of its control characters.
+QString oldText(QByteArrayView bytes)
+{
+    constexpr char16_t firstControl = 0x80;
+    constexpr std::u16string_view letters = u"\u20AC\u0081\u201A\u0192\u201E\u2026\u2020\u2021"
+                                            u"\u02C6\u2030\u0160\u2039\u0152\u008D\u017D\u008F"
+                                            u"\u0090\u2018\u2019\u201C\u201D\u2022\u2013\u2014"
+                                            u"\u02DC\u2122\u0161\u203A\u0153\u009D\u017E\u0178";
+    QString text = QString::fromLatin1(bytes);
+    for (QChar& unit : text) {
+        if (unit.unicode() >= firstControl && unit.unicode() < firstControl + letters.size())
+            unit = letters[unit.unicode() - firstControl];
+    }
+    return text;
+}
+
 bool saysUtf8(const QList<IptcDataSet>& sets)
 {
     return std::any_of(sets.begin(), sets.end(), [](const IptcDataSet& set) {
@@ -116,8 +133,7 @@ Entries entriesOf(const QList<IptcDataSet>& sets)
         const bool isConverted = !isUtf8 && isText(set.number) && !set.value.isValidUtf8();
         entries.append(
             {.number = set.number,
-             .value
-             = isConverted ? QString::fromLatin1(set.value).toUtf8() : set.value.toByteArray()}
+             .value = isConverted ? oldText(set.value).toUtf8() : set.value.toByteArray()}
         );
     }
     return entries;

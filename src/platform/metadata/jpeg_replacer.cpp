@@ -129,10 +129,13 @@ private:
     QList<Part> m_parts;
 };
 
-/// A packet that goes on in further segments can't grow beyond its own.
-bool fits(const MetadataBlocks& before, const QByteArrayList& xmp)
+/// A packet that goes on in further segments can't grow beyond its own; an EXIF block does not
+/// begin to: most programs read one segment.
+bool fits(const MetadataBlocks& before, const MetadataBlocks& after)
 {
-    return xmp.size() <= 1 || completeXmp(before) == before.xmp;
+    const bool xmpFits = xmpSegments(after.xmp).size() <= 1 || completeXmp(before) == before.xmp;
+    const auto exifLength = exifSegments(after.exif).size();
+    return xmpFits && (exifLength <= 1 || exifLength <= exifSegments(before.exif).size());
 }
 
 } // namespace
@@ -144,8 +147,7 @@ std::optional<QByteArrayList> editedJpeg(QByteArrayView file, const MetadataEdit
         return std::nullopt;
     const MetadataBlocks before = readJpegBlocks(file);
     const auto after = editedBlocks(before, edit);
-    const QByteArrayList xmp = after ? xmpSegments(after->xmp) : QByteArrayList();
-    if (!after || !fits(before, xmp))
+    if (!after || !fits(before, *after))
         return std::nullopt;
 
     const Parts former(file, *header);
@@ -153,7 +155,7 @@ std::optional<QByteArrayList> editedJpeg(QByteArrayView file, const MetadataEdit
     if (after->exif != before.exif)
         parts.replace(Kind::Exif, exifSegments(after->exif));
     if (after->xmp != before.xmp)
-        parts.replace(Kind::Xmp, xmp);
+        parts.replace(Kind::Xmp, xmpSegments(after->xmp));
     if (after->photoshop != before.photoshop)
         parts.replace(Kind::Photoshop, photoshopSegments(after->photoshop));
     return QByteArrayList{containers::viewed(file.first(startMarkerLength))}

@@ -80,6 +80,8 @@ std::optional<QByteArrayList> editedPng(QByteArrayView file, const MetadataEdit&
             pieces += further(replacements);
         pieces.append(replaced(chunk, replacements));
     }
+    // Picture data that are cut off are no whole chunk.
+    pieces += further(replacements);
     const char* const end = chunks->last().whole.end();
     return pieces + QByteArrayList{viewed({end, file.end()})};
 }

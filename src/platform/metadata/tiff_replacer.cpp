@@ -30,12 +30,14 @@ bool addIptc(TiffDirectory& fields, const TiffDirectory& root, const QList<IptcC
         return false;
     if (*iptc != tagged)
         setBlock(fields, tiff::Iptc, *iptc);
-    if (!resource.isEmpty() && *iptc != resource) {
-        const auto newPhotoshop = photoshopWith(photoshop, *iptc);
-        if (!newPhotoshop)
-            return false;
+    const QByteArray& former = tagged.isEmpty() ? resource : tagged;
+    const auto newPhotoshop = *iptc == former ? std::optional(photoshop)
+        : resource.isEmpty() ? photoshopWithChecksum(photoshop, {.before = former, .after = *iptc})
+                             : photoshopWith(photoshop, *iptc);
+    if (!newPhotoshop)
+        return false;
+    if (*newPhotoshop != photoshop)
         setBlock(fields, tiff::PhotoshopResources, *newPhotoshop);
-    }
     if (*newXmp != xmp)
         setBlock(fields, tiff::Xmp, *newXmp);
     return true;

@@ -43,6 +43,9 @@ std::optional<QByteArray> exifWithUserComment(const QByteArray& exif, const QStr
     const auto file = containers::TiffFile::open(block);
     if (!file)
         return std::nullopt;
+    if (const auto overwritten
+        = containers::tiffWithExifValue(block, userCommentField(comment, file->order())))
+        return overwritten;
     const auto pieces
         = containers::editedTiff(block, {.exif = {userCommentField(comment, file->order())}});
     return pieces ? std::optional(pieces->join()) : std::nullopt;

@@ -137,6 +137,22 @@ QByteArray newPacket(const QByteArray& description)
         + rdfSpace + "\">\n  " + description + "\n </rdf:RDF>\n</x:xmpmeta>\n<?xpacket end=\"w\"?>";
 }
 
+/// The document without what stands around it: instructions, padding, and what may have become of
+/// them.
+QByteArrayView documentIn(QByteArrayView packet)
+{
+    constexpr QByteArrayView endTag("</x:xmpmeta>");
+    const qsizetype start = packet.indexOf("<x:xmpmeta");
+    const qsizetype end = packet.lastIndexOf(endTag);
+    if (start >= 0 && end > start)
+        return packet.sliced(start, end + endTag.size() - start);
+    while (packet.endsWith('\0'))
+        packet.chop(1);
+    return packet;
+}
+
+bool holdsRdf(const QList<XmlElement>& elements) { return elements.first().name.endsWith("RDF"); }
+
 /// The packet that is changed: what is taken out of it, and where the new description goes.
 class Editor
 {
@@ -327,14 +343,17 @@ private:
 std::optional<QByteArray> xmpWith(const QByteArray& packet, const QList<IptcChange>& edits)
 {
     QList<Change> changes = changesOf(edits);
-    if (packet.isEmpty())
+    const QByteArrayView document = documentIn(packet);
+    const auto elements = xmlElements(document);
+    const bool isEmpty
+        = packet.isEmpty() || (elements && elements->size() == 1 && !holdsRdf(*elements));
+    if (isEmpty)
         return setsAny(changes) ? newPacket(descriptionOf(changes, {})) : packet;
-    QByteArrayView text = packet;
-    while (text.endsWith('\0'))
-        text.chop(1);
-    const auto elements = xmlElements(text);
-    const auto result = elements ? Editor(text, *elements).edited(changes) : std::nullopt;
-    return result && xmlElements(*result) ? result : std::nullopt;
+    const auto edited = elements ? Editor(document, *elements).edited(changes) : std::nullopt;
+    if (!edited || !xmlElements(*edited))
+        return std::nullopt;
+    QByteArray result = packet;
+    return result.replace(document.begin() - packet.begin(), document.size(), *edited);
 }
 
 } // namespace brenvaldo::platform::metadata

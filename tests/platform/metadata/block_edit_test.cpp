@@ -45,11 +45,11 @@ TEST(PhotoshopWith, ReplacesTheResourceWhereItStands)
     );
 }
 
-TEST(PhotoshopWith, LeavesOneResourceWhereThereWereSeveral)
+TEST(PhotoshopWith, ReplacesTheFirstOfSeveral)
 {
     EXPECT_EQ(
         photoshopWith(resource(0x0404, "old") + resource(0x0404, "older"), "new"),
-        resource(0x0404, "new")
+        resource(0x0404, "new") + resource(0x0404, "older")
     );
 }
 
@@ -68,6 +68,14 @@ TEST(PhotoshopWith, KeepsAChecksumRightThatWasRight)
     EXPECT_EQ(
         photoshopWith(resource(0x0404, "old") + resource(0x0425, "of long ago"), "new"),
         resource(0x0404, "new") + resource(0x0425, "of long ago")
+    );
+}
+
+TEST(PhotoshopWith, FillsAChecksumOfNone)
+{
+    EXPECT_EQ(
+        photoshopWith(resource(0x0425, QByteArray(16, '\0')), "new"),
+        resource(0x0425, checksum("new")) + resource(0x0404, "new")
     );
 }
 

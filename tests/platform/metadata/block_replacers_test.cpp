@@ -157,16 +157,36 @@ TEST(EditedJpeg, KeepsASecondPacketAndStrayBytes)
     EXPECT_EQ(headlineOf(readJpegBlocks(after)), u"News"_s);
 }
 
-TEST(EditedJpeg, SpreadsALongBlockOverSegments)
+TEST(EditedJpeg, RefusesABlockThatGrowsOutOfItsSegment)
 {
     const QByteArray exif = exifBlock({.makerNote = QByteArray(65000, 'x')});
     const MetadataEdit longComment{.userComment = QString(3000, u'y')};
 
-    const QByteArray after = edited(editedJpeg, bareJpeg({jfif(), exifSegment(exif)}), longComment);
+    EXPECT_FALSE(editedJpeg(bareJpeg({jfif(), exifSegment(exif)}), longComment));
+    EXPECT_TRUE(editedJpeg(bareJpeg({jfif(), exifSegment(exif)}), comment()));
+}
+
+TEST(EditedJpeg, KeepsABlockOfSeveralSegments)
+{
+    const QByteArray exif = exifBlock({.makerNote = QByteArray(70000, 'x')});
+    const QByteArray before
+        = bareJpeg({jfif(), exifSegment(exif.first(65000)), exifSegment(exif.sliced(65000))});
+
+    const QByteArray after = edited(editedJpeg, before, comment());
 
     EXPECT_EQ(headsOf(after), (QByteArrayList{"JFIF", "Exif", "Exif"}));
-    EXPECT_EQ(commentOf(readJpegBlocks(after)), QString(3000, u'y'));
-    EXPECT_EQ(commentOf(readJpegBlocks(edited(editedJpeg, after, comment()))), u"new"_s);
+    EXPECT_EQ(commentOf(readJpegBlocks(after)), u"new"_s);
+}
+
+TEST(EditedPng, WritesInFrontOfPictureDataThatAreCutOff)
+{
+    const QByteArray before = barePng({});
+    const QByteArray cut = before.first(before.indexOf("IDAT") + 6);
+
+    const QByteArray after = edited(editedPng, cut, comment());
+
+    EXPECT_EQ(commentOf(readPngBlocks(after)), u"new"_s);
+    EXPECT_TRUE(after.endsWith("IDATpi"));
 }
 
 TEST(EditedJpeg, RefusesAPacketThatGrowsOutOfItsSegmentAndHasFurtherOnes)

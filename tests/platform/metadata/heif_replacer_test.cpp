@@ -276,6 +276,13 @@ TEST(EditedHeifFile, KeepsDataOfOthersAtTheEnd)
     EXPECT_TRUE(after.contains(boxes.last().whole));
 }
 
+TEST(EditedHeifFile, KeepsDataThatNoItemPointsTo)
+{
+    const QByteArray unknown = box("mdat", "of an unknown program");
+
+    EXPECT_TRUE(edited(Picture{}.file() + unknown, both()).contains(unknown));
+}
+
 TEST(EditedHeifFile, IsRefusedWhereItIsNotUnderstood)
 {
     const auto refused = [](const QByteArray& file) { return !editedHeif(file, both()); };

@@ -104,6 +104,13 @@ TEST(IptcWith, ConvertsTheTextsOfOldPrograms)
     );
 }
 
+TEST(IptcWith, ConvertsTheLettersOfWindows)
+{
+    EXPECT_TRUE(changed(
+                    iptcDataSet(90, "a\x80\x92\x9F\xA0"), {{IptcKey::Headline, {u"x"_s}}}
+    ).contains(iptcDataSet(90, "a\xE2\x82\xAC\xE2\x80\x99\xC5\xB8\xC2\xA0")));
+}
+
 TEST(IptcWith, LeavesWhatIsSaidToBeUtf8)
 {
     const QByteArray cut = iptcDataSet(90, "Z\xC3");

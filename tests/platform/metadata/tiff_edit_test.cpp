@@ -200,3 +200,29 @@ TEST(EditedTiff, RefusesADirectoryThatHasNoRoomForMore)
 
     EXPECT_FALSE(editedTiff(littleTiff(entries), {.root = {textField(software, "new")}}));
 }
+
+TEST(TiffWithExifValue, OverwritesAValueThatLeavesTheRoom)
+{
+    const QByteArray before = exifBlock({.make = "Brand", .userComment = "a comment and its room"});
+
+    const auto after = tiffWithExifValue(before, comment("a new one"));
+
+    ASSERT_TRUE(after);
+    EXPECT_EQ(after->size(), before.size());
+    EXPECT_EQ(exifValue(*after, tiff::UserComment), "a new one");
+    EXPECT_EQ(rootValue(*after, make), rootValue(before, make));
+    EXPECT_FALSE(after->contains("room"));
+}
+
+TEST(TiffWithExifValue, IsNoneWithoutTheRoom)
+{
+    const QByteArray before = exifBlock({.make = "Brand", .userComment = "short"});
+
+    EXPECT_FALSE(tiffWithExifValue(before, comment("longer than before")));
+    EXPECT_FALSE(tiffWithExifValue(before, comment("four")));
+    EXPECT_FALSE(tiffWithExifValue(exifBlock({.make = "Brand"}), comment("a new one")));
+    EXPECT_FALSE(tiffWithExifValue("no TIFF structure", comment("a new one")));
+    EXPECT_FALSE(
+        tiffWithExifValue(before, {.tag = tiff::UserComment, .type = tiff::Ascii, .value = "other"})
+    );
+}

@@ -200,13 +200,34 @@ TEST(XmpWith, FillsAnEmptyList)
     EXPECT_EQ(valuesOf(after, "Xmp.photoshop.Headline"), QStringList{u"x"_s});
 }
 
-TEST(XmpWith, TakesZeroBytesBehindThePacketOff)
+TEST(XmpWith, LeavesWhatStandsAroundTheDocument)
 {
-    const QByteArray before = packetOf("") + QByteArray(2, '\0');
+    const QByteArray before = packetOf("").chopped(2) + QByteArray(2, '\0');
+
+    const QByteArray after = changed(before, {{IptcKey::Headline, {u"x"_s}}});
+
+    EXPECT_TRUE(after.endsWith("\n<?xpacket end='w'" + QByteArray(2, '\0')));
+    EXPECT_TRUE(after.contains("<photoshop:Headline>x<"));
+}
+
+TEST(XmpWith, FillsAPacketWithoutContents)
+{
+    const QByteArray before = "<x:xmpmeta xmlns:x='adobe:ns:meta/' />";
 
     EXPECT_EQ(
         valuesOf(changed(before, {{IptcKey::Headline, {u"x"_s}}}), "Xmp.photoshop.Headline"),
         QStringList{u"x"_s}
+    );
+    EXPECT_EQ(changed(before, {{IptcKey::Keywords, {}}}), before);
+}
+
+TEST(XmpWith, TakesZeroBytesForNoDamage)
+{
+    const QByteArray before
+        = "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'></rdf:RDF>"
+        + QByteArray(2, '\0');
+
+    EXPECT_TRUE(changed(before, {{IptcKey::Headline, {u"x"_s}}}).contains("<photoshop:Headline>x<")
     );
 }
 
@@ -223,7 +244,11 @@ TEST(XmpWith, RefusesADamagedPacket)
 
     EXPECT_FALSE(xmpWith("no packet", change));
     EXPECT_FALSE(xmpWith(packetOf("<rdf:Description>"), change));
-    EXPECT_FALSE(xmpWith("<x:xmpmeta xmlns:x='adobe:ns:meta/'/>", change));
+    EXPECT_FALSE(xmpWith("<x:xmpmeta xmlns:x='adobe:ns:meta/'><a/></x:xmpmeta>", change));
     EXPECT_FALSE(xmpWith(packetOf("<!-- \xFF -->"), change));
-    EXPECT_FALSE(xmpWith("<!DOCTYPE a [<!ENTITY b 'c'>]>" + packetOf(""), change));
+    EXPECT_FALSE(xmpWith(
+        "<!DOCTYPE a [<!ENTITY b 'c'>]>"
+        "<rdf:RDF xmlns:rdf='http://www.w3.org/1999/02/22-rdf-syntax-ns#'/>",
+        change
+    ));
 }
