@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "action_file.h"
 
+#include "action_fields.h"
 #include "rename_settings.h"
 
 #include <platform/foundation/literals.h>
@@ -10,48 +11,13 @@ namespace brenvaldo::files {
 
 namespace {
 
-QStringList stripFields(const panels::RenamePanel& panel)
+template <class Settings, class Fields>
+QStringList textsOf(const Settings& settings, const Fields& fields)
 {
-    const StripSettings strip = stripSettings(panel);
-    return {
-        strip.count,
-        strip.side,
-        strip.character,
-        strip.start,
-        strip.stop,
-        strip.fragment,
-        strip.removeMode,
-        strip.allowedMode,
-        strip.preserve};
-}
-
-QStringList replaceFields(const panels::RenamePanel& panel)
-{
-    const ReplaceSettings replace = replaceSettings(panel);
-    return {
-        replace.caseMode,
-        replace.start,
-        replace.stop,
-        replace.character,
-        replace.find,
-        replace.replacement};
-}
-
-QStringList prefixFields(const panels::RenamePanel& panel)
-{
-    const PrefixSettings prefix = prefixSettings(panel);
-    return {prefix.text, prefix.metadataKey, prefix.creationDate, prefix.modificationDate};
-}
-
-QStringList postfixFields(const panels::RenamePanel& panel)
-{
-    const PostfixSettings postfix = postfixSettings(panel);
-    return {
-        postfix.text,
-        postfix.metadataKey,
-        postfix.creationDate,
-        postfix.modificationDate,
-        postfix.beforeExtension};
+    QStringList texts;
+    for (const auto field : fields)
+        texts.append(settings.*field);
+    return texts;
 }
 
 QStringList numberingFields(const panels::RenamePanel& panel)
@@ -78,13 +44,13 @@ cToolBox::NewActionFile actionFile(const panels::RenamePanel& panel)
 {
     switch (selectedRenaming(panel)) {
     case Renaming::Strip:
-        return fileOf(u"Strip"_s, stripFields(panel));
+        return fileOf(u"Strip"_s, textsOf(stripSettings(panel), stripFields));
     case Renaming::Replace:
-        return fileOf(u"Replace"_s, replaceFields(panel));
+        return fileOf(u"Replace"_s, textsOf(replaceSettings(panel), replaceFields));
     case Renaming::Prefix:
-        return fileOf(u"Prefix"_s, prefixFields(panel));
+        return fileOf(u"Prefix"_s, textsOf(prefixSettings(panel), prefixFields));
     case Renaming::Postfix:
-        return fileOf(u"Postfix"_s, postfixFields(panel));
+        return fileOf(u"Postfix"_s, textsOf(postfixSettings(panel), postfixFields));
     case Renaming::Numbering:
         break;
     }

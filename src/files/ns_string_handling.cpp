@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ns_string_handling.h"
 
+#include "name_parts.h"
+
 #include <platform/foundation/exceptions.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/text.h>
@@ -107,7 +109,8 @@ cNSStringHandling::hConcatString(const QString& first, const QString& second, co
 
 bool cNSStringHandling::hStringContainsString(const QString& text, const QString& needle)
 {
-    return platform::containsText(text, needle);
+    return !needle.isEmpty()
+        && precomposed(text).contains(precomposed(needle), Qt::CaseInsensitive);
 }
 
 bool cNSStringHandling::hStringBeginsWith(const QString& text, const QString& prefix)
@@ -117,7 +120,7 @@ bool cNSStringHandling::hStringBeginsWith(const QString& text, const QString& pr
 
 bool cNSStringHandling::hStringEndWith(const QString& text, const QString& suffix)
 {
-    return platform::hasSuffix(text, suffix);
+    return platform::substringFrom(text, text.size() - suffix.size()) == suffix;
 }
 
 QString cNSStringHandling::hRemoveWhiteSpace(const QString& text)
@@ -161,8 +164,9 @@ QString cNSStringHandling::hConvertNSdToNSstr(const QByteArray& data)
 
 std::optional<QByteArray> cNSStringHandling::hConvertNSstrToNSd(const QString& text)
 {
+    constexpr qsizetype group = 4; // padding may not lack
     const auto ascii = hNSStringToNSData(text);
-    if (!ascii)
+    if (!ascii || ascii->size() % group != 0)
         return std::nullopt;
     const auto decoded
         = QByteArray::fromBase64Encoding(*ascii, QByteArray::AbortOnBase64DecodingErrors);

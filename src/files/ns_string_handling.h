@@ -112,8 +112,10 @@ public:
     static QString
     hReplaceStringInString(const QString& text, const QString& find, const QString& replacement);
     static QString hConcatString(const QString& first, const QString& second, const QString& third);
+    /// In any case of letters, whatever form their accents have; "" is in no text.
     static bool hStringContainsString(const QString& text, const QString& needle);
     static bool hStringBeginsWith(const QString& text, const QString& prefix);
+    /// A suffix that is longer than the text raises a range error.
     static bool hStringEndWith(const QString& text, const QString& suffix);
     /// Removes U+0020 and no other white space.
     static QString hRemoveWhiteSpace(const QString& text);

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo_attributes.h"
 
+#include "named_row.h"
+
 #include <platform/foundation/literals.h>
 #include <platform/metadata/image_properties.h>
 
 #include <QTimeZone>
 
-#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -174,10 +175,8 @@ constexpr std::array rows{
 
 std::optional<PropertyValue> photoAttribute(const QString& path, const QString& name)
 {
-    const auto row = std::find_if(rows.begin(), rows.end(), [&](const Row& candidate) {
-        return name == candidate.name;
-    });
-    if (row == rows.end())
+    const Row* row = rowNamed(rows, name);
+    if (!row)
         return std::nullopt;
     const auto photo = platform::metadata::imageProperties(path);
     return photo ? row->read(*photo) : std::nullopt;

@@ -2,6 +2,7 @@
 #include "search_attributes.h"
 
 #include "file_handling.h"
+#include "named_row.h"
 #include "ns_string_handling.h"
 #include "photo_attributes.h"
 
@@ -13,7 +14,6 @@
 #include <QFileInfo>
 #include <QMimeDatabase>
 
-#include <algorithm>
 #include <array>
 
 namespace brenvaldo::files {
@@ -77,7 +77,7 @@ Value zero(const QString& /*path*/) { return 0; }
 
 struct Kind
 {
-    QLatin1StringView type;
+    QLatin1StringView name; ///< type identifier
     QLatin1StringView text;
 };
 
@@ -103,11 +103,7 @@ Value kindOf(const QString& path)
 {
     if (platform::storage::isFolder(path))
         return u"Folder"_s;
-    const QString type = cNSFileHandling::hGetFileType(path);
-    const auto known = std::find_if(kinds.begin(), kinds.end(), [&](const Kind& kind) {
-        return type == kind.type;
-    });
-    if (known != kinds.end())
+    if (const Kind* known = rowNamed(kinds, cNSFileHandling::hGetFileType(path)))
         return QString(known->text);
     return QMimeDatabase().mimeTypeForFile(path).comment();
 }
@@ -150,12 +146,8 @@ std::optional<QString> searchAttribute(const QString& path, const QString& name)
 {
     if (!platform::storage::fileExists(path))
         return std::nullopt;
-    const auto row = std::find_if(
-        fileAttributes.begin(),
-        fileAttributes.end(),
-        [&](const FileAttribute& candidate) { return name == candidate.name; }
-    );
-    const Value value = row == fileAttributes.end() ? photoAttribute(path, name) : row->read(path);
+    const FileAttribute* row = rowNamed(fileAttributes, name);
+    const Value value = row ? row->read(path) : photoAttribute(path, name);
     return value ? std::optional(value->text()) : std::nullopt;
 }
 

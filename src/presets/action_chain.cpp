@@ -12,11 +12,14 @@ constexpr QChar rowSeparator(u'\r');
 constexpr int paddingField = 1;
 constexpr int loadedPadding = 46;
 
+/// The padding ends in a TAB even where no field follows it.
 QString withPadding(const QString& row, const QString& padding)
 {
     QStringList fields = row.split(fieldSeparator);
     if (fields.size() > paddingField)
         fields[paddingField] = padding;
+    if (fields.size() == paddingField + 1)
+        fields.append(QString());
     return fields.join(fieldSeparator);
 }
 

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "action_run.h"
 
-#include <files/ns_string_handling.h>
+#include <files/action_fields.h>
 #include <platform/foundation/exceptions.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
+
+#include <algorithm>
 
 namespace brenvaldo::presets {
 
@@ -12,12 +14,14 @@ namespace {
 
 using files::cNSStringHandling;
 
+constexpr qsizetype firstSetting = 4;
+
 /// The fields of a row: name, padding, action, mark, and what the action takes.
 class ActionFields
 {
 public:
-    explicit ActionFields(const QString& row)
-        : m_fields(row.split(u'\t'))
+    explicit ActionFields(QStringList fields)
+        : m_fields(std::move(fields))
     {
     }
 
@@ -32,79 +36,63 @@ public:
 
     [[nodiscard]] const QString& action() const { return at(2); }
 
+    [[nodiscard]] ActionFields without(qsizetype index) const
+    {
+        return ActionFields(
+            m_fields.first(std::min(index, m_fields.size())) + m_fields.mid(index + 1)
+        );
+    }
+
 private:
     QStringList m_fields;
 };
 
+template <class Settings, class Fields>
+Settings settingsOf(const ActionFields& row, const Fields& fields)
+{
+    Settings settings;
+    qsizetype index = firstSetting;
+    for (const auto field : fields)
+        settings.*field = row.at(index++);
+    return settings;
+}
+
 QString stripped(const QString& name, const ActionFields& fields)
 {
     return cNSStringHandling::hFileNameStripper(
-        name,
-        {.count = fields.at(4),
-         .side = fields.at(5),
-         .character = fields.at(6),
-         .start = fields.at(7),
-         .stop = fields.at(8),
-         .fragment = fields.at(9),
-         .removeMode = fields.at(10),
-         .allowedMode = fields.at(11),
-         .preserve = fields.at(12)}
+        name, settingsOf<files::StripSettings>(fields, files::stripFields)
     );
 }
 
 /// As `stripped`, with the separator of the list of texts as a field more behind these texts.
 QString strippedOfList(const QString& name, const ActionFields& fields)
 {
+    constexpr qsizetype separator = 7;
     return cNSStringHandling::hFileNameStripperV2(
         name,
-        {.count = fields.at(4),
-         .side = fields.at(5),
-         .character = fields.at(6),
-         .start = fields.at(8),
-         .stop = fields.at(9),
-         .fragment = fields.at(10),
-         .removeMode = fields.at(11),
-         .allowedMode = fields.at(12),
-         .preserve = fields.at(13)},
-        fields.at(7)
+        settingsOf<files::StripSettings>(fields.without(separator), files::stripFields),
+        fields.at(separator)
     );
 }
 
 QString replaced(const QString& name, const ActionFields& fields)
 {
     return cNSStringHandling::hReplaceText(
-        name,
-        {.caseMode = fields.at(4),
-         .start = fields.at(5),
-         .stop = fields.at(6),
-         .character = fields.at(7),
-         .find = fields.at(8),
-         .replacement = fields.at(9)}
+        name, settingsOf<files::ReplaceSettings>(fields, files::replaceFields)
     );
 }
 
 QString withPrefix(const QString& path, const QString& name, const ActionFields& fields)
 {
     return cNSStringHandling::hAddPrefix(
-        path,
-        name,
-        {.text = fields.at(4),
-         .metadataKey = fields.at(5),
-         .creationDate = fields.at(6),
-         .modificationDate = fields.at(7)}
+        path, name, settingsOf<files::PrefixSettings>(fields, files::prefixFields)
     );
 }
 
 QString withPostfix(const QString& path, const QString& name, const ActionFields& fields)
 {
     return cNSStringHandling::hAddPostfix(
-        path,
-        name,
-        {.text = fields.at(4),
-         .metadataKey = fields.at(5),
-         .creationDate = fields.at(6),
-         .modificationDate = fields.at(7),
-         .beforeExtension = fields.at(8)}
+        path, name, settingsOf<files::PostfixSettings>(fields, files::postfixFields)
     );
 }
 
@@ -119,6 +107,15 @@ QString numbered(const QString& name, const ActionFields& fields)
          .digits = platform::intValue(fields.at(7)),
          .position = fields.at(8)}
     );
+}
+
+/// Actions that multiply a text may not fill the memory before the name is cut to its length.
+QString ofBearableLength(const QString& name)
+{
+    constexpr qsizetype longest = 0x10000;
+    if (name.size() > longest)
+        throw platform::RangeError(u"name of %1 characters"_s.arg(name.size()));
+    return name;
 }
 
 QString renamed(const QString& path, const QString& name, const ActionFields& fields)
@@ -145,7 +142,7 @@ QString renamedByActions(const QString& path, const QString& name, const QList<Q
         return {};
     QString result = name;
     for (const QStringList& row : rows)
-        result = renamed(path, result, ActionFields(row.value(0)));
+        result = ofBearableLength(renamed(path, result, ActionFields(row.value(0).split(u'\t'))));
     return result;
 }
 

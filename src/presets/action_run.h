@@ -11,7 +11,8 @@ namespace brenvaldo::presets {
 /// no rows. `path` is where dates and metadata are looked up.
 ///
 /// Rows are those of the list of actions. One with fewer fields than its action needs raises a
-/// range error; one of an unknown action counts as numbering.
+/// range error, as does a name that grows beyond all measure; one of an unknown action counts as
+/// numbering.
 [[nodiscard]] QString
 renamedByActions(const QString& path, const QString& name, const QList<QStringList>& rows);
 

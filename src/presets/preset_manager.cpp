@@ -52,6 +52,8 @@ void cPresetManager::hLoadPreset()
     if (!record)
         return;
     m_panels.wwPresetsWindow.sheet.open();
+    if (record->process == u"Postfix")
+        platform::log(u"Post"_s);
     listPresetsOf(record->process);
 }
 

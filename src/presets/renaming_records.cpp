@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "renaming_records.h"
 
+#include "file_record_parts.h"
+
 #include <platform/foundation/literals.h>
 
 namespace brenvaldo::presets {
@@ -14,11 +16,7 @@ renamingRecord(const QString& process, panels::Panels& panels, std::vector<Recor
     fields.insert(
         fields.begin(), {3, FolderForm{&panels.vwMainDestination.tfImageDestinationFolder}}
     );
-    return {
-        .process = process,
-        .action = u"FileManagement"_s,
-        .before = PresetRecord::Before::Nothing,
-        .fields = std::move(fields)};
+    return fileRecord(process, std::move(fields));
 }
 
 } // namespace

@@ -1,29 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sorting_records.h"
 
+#include "file_record_parts.h"
 #include "load_effects.h"
 
 #include <platform/foundation/literals.h>
 
 namespace brenvaldo::presets {
 
-namespace {
-
-PresetRecord sortingRecord(const QString& process, std::vector<RecordField> fields)
-{
-    return {
-        .process = process,
-        .action = u"FileManagement"_s,
-        .before = PresetRecord::Before::Nothing,
-        .fields = std::move(fields)};
-}
-
-} // namespace
-
 PresetRecord manSortRecord(panels::Panels& panels)
 {
     auto& sort = panels.vwFileManagementSorting;
-    return sortingRecord(
+    return fileRecord(
         u"manSort"_s,
         {
             {3, FolderForm{&sort.tfSortDestination01}},
@@ -39,7 +27,7 @@ PresetRecord manSortRecord(panels::Panels& panels)
 PresetRecord batchSortRecord(panels::Panels& panels)
 {
     auto& sort = panels.vwFileManagementSorting;
-    return sortingRecord(
+    return fileRecord(
         u"batchSort"_s,
         {
             {3, FolderForm{&sort.tfBatchSortDestFolder}},

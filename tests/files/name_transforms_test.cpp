@@ -503,11 +503,18 @@ TEST(StringHelpers, DoWhatTheirNamesSay)
     EXPECT_EQ(Text::hReplaceStringInString(u"abab"_s, u"b"_s, u"c"_s), u"acac"_s);
     EXPECT_EQ(Text::hConcatString(u"a"_s, u"b"_s, u"c"_s), u"abc"_s);
     EXPECT_TRUE(Text::hStringContainsString(u"abc"_s, u"b"_s));
-    EXPECT_FALSE(Text::hStringContainsString(u"abc"_s, u"B"_s));
+    EXPECT_TRUE(Text::hStringContainsString(u"abc"_s, u"B"_s));
+    EXPECT_FALSE(Text::hStringContainsString(u"abc"_s, u"d"_s));
+    EXPECT_FALSE(Text::hStringContainsString(u"abc"_s, u""_s));
+    EXPECT_TRUE(Text::hStringContainsString(decomposed, composed));
+    EXPECT_TRUE(Text::hStringContainsString(composed, decomposed));
+    EXPECT_FALSE(Text::hStringBeginsWith(u"abc"_s, u""_s));
     EXPECT_TRUE(Text::hStringBeginsWith(u"abc"_s, u"ab"_s));
     EXPECT_FALSE(Text::hStringBeginsWith(u"abc"_s, u"bc"_s));
     EXPECT_TRUE(Text::hStringEndWith(u"abc"_s, u"bc"_s));
     EXPECT_FALSE(Text::hStringEndWith(u"abc"_s, u"ab"_s));
+    EXPECT_TRUE(Text::hStringEndWith(u"abc"_s, u""_s));
+    EXPECT_THROW(Text::hStringEndWith(u"abc"_s, u"_abc"_s), RangeError);
     EXPECT_EQ(Text::hRemoveWhiteSpace(u" a b\t\u00a0c "_s), u"ab\t\u00a0c"_s);
     EXPECT_EQ(Text::hReverseString(u"ab1"_s), u"1ba"_s);
 }
@@ -525,5 +532,7 @@ TEST(StringHelpers, TurnTextsIntoBytesAndBack)
     EXPECT_EQ(Text::hConvertNSdToNSstr("a\0b"), u"YQ=="_s);
     EXPECT_EQ(Text::hConvertNSdToNSstr(QByteArray("abc")), u"YWJj"_s);
     EXPECT_EQ(Text::hConvertNSstrToNSd(u"YWJj"_s), QByteArray("abc"));
+    EXPECT_EQ(Text::hConvertNSstrToNSd(u"YQ=="_s), QByteArray("a"));
+    EXPECT_EQ(Text::hConvertNSstrToNSd(u"YQ"_s), std::nullopt);
     EXPECT_EQ(Text::hConvertNSstrToNSd(u"!!!!"_s), std::nullopt);
 }

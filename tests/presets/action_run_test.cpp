@@ -119,6 +119,14 @@ TEST(ActionRun, RaisesWhereFieldsAreMissing)
     EXPECT_THROW(renamed(u"abc.jpg"_s, {u"only a name"_s}), RangeError);
 }
 
+TEST(ActionRun, RaisesWhereANameGrowsBeyondAllMeasure)
+{
+    const QString growing
+        = row(u"Replace"_s, {u"0"_s, u"0"_s, u"0"_s, u""_s, u"a"_s, QString(100, u'a')});
+    EXPECT_EQ(renamed(u"a.jpg"_s, {growing, growing}).size(), 10004);
+    EXPECT_THROW(renamed(u"a.jpg"_s, QStringList(12, growing)), RangeError);
+}
+
 TEST(ActionRun, MisreadsAFieldThatHoldsATab)
 {
     const QString strip = row(

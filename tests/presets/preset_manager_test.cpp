@@ -53,6 +53,19 @@ TEST(PresetManager, LogsTheFunctionWhoseSettingsItSaves)
     EXPECT_EQ(log.lines(), QStringList({u"myFunc: textWM"_s, u"myFunc: batchFileConvert"_s}));
 }
 
+TEST(PresetManager, LogsThatItOpensOnThePostfix)
+{
+    PresetsBench bench;
+    const test::LogLines log;
+
+    for (const QString& function : {u"Prefix"_s, u"Postfix"_s, u"Numbering"_s}) {
+        bench.function = function;
+        bench.press("hLoadPreset");
+    }
+
+    EXPECT_EQ(log.lines(), QStringList{u"Post"_s});
+}
+
 TEST(PresetManager, AnswersTheNameAsTyped)
 {
     PresetsBench bench;
