@@ -2,6 +2,7 @@
 // Adding photos to the list: the time for one must not grow with their number.
 
 #include "benchmark_main.h"
+#include "silent_surroundings.h"
 
 #include <examples/draw_photos/landscape.h>
 
@@ -16,18 +17,6 @@ using namespace brenvaldo;
 namespace {
 
 constexpr QSize photoSize(4240, 2832);
-
-struct SilentChooser : controls::FileChooser
-{
-    std::optional<QStringList> open(const controls::OpenPanel& /*panel*/) override { return {}; }
-    std::optional<QString> save(const controls::SavePanel& /*panel*/) override { return {}; }
-};
-
-struct SilentDesktop : platform::storage::Desktop
-{
-    void openUrl(const QUrl& /*url*/) override { }
-    void reveal(const QString& /*path*/) override { }
-};
 
 /// Names of `count` photos, all links to the same file.
 QStringList photosIn(const QTemporaryDir& folder, int count)
@@ -51,8 +40,8 @@ void addToList(benchmark::State& state)
     qputenv("XDG_DATA_HOME", folder.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", folder.path().toUtf8());
     const QStringList paths = photosIn(folder, static_cast<int>(state.range(0)));
-    SilentChooser chooser;
-    SilentDesktop desktop;
+    bench::SilentChooser chooser;
+    bench::SilentDesktop desktop;
     platform::UserDefaults defaults;
     for ([[maybe_unused]] auto round : state) {
         state.PauseTiming();
