@@ -48,8 +48,6 @@ void BatchSortControls::disableValues()
 Layout BatchSortControls::batchSortPage()
 {
     return {
-        {Note{u"Files that meet all ticked criteria go to the folder, or to the trash. With no "
-              u"criterion ticked, no file is touched."_s}},
         {Row{.fields = {{.control = &cbImagePropChoice}}}},
         {Row{
             .label = u"If the"_s,
@@ -73,10 +71,11 @@ Layout BatchSortControls::batchSortPage()
                {.control = &pubFileTag, .accessibleName = u"Label"_s}}}},
         {Heading{u"Then"_s}},
         {Row{.label = u"Do"_s, .fields = {{.control = &pubFileHandlingSelector}}}},
-        {textRow(u"Folder"_s, tfBatchSortDestFolder)},
         {Row{
+            .label = u"Folder"_s,
             .fields
-            = {{.control = &btnChooseDestFolder,
+            = {{.control = &tfBatchSortDestFolder},
+               {.control = &btnChooseDestFolder,
                 .accessibleName = u"Choose the folder of sorted files"_s},
                {.control = &btnShowBatchDestinationFolder,
                 .accessibleName = u"Show the folder of sorted files"_s}}}},

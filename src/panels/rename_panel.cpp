@@ -53,14 +53,17 @@ Layout RenamePanel::stripPage()
 {
     return {
         {Row{
-            .label = u"Characters"_s,
+            .label = u"Remove"_s,
             .fields
-            = {{.control = &tfStripNumberOfChar, .accessibleName = u"Number of characters"_s},
+            = {{.control = &tfStripNumberOfChar,
+                .unit = u"characters"_s,
+                .accessibleName = u"Number of characters"_s},
                {.control = &pubStripFromLeftRight, .accessibleName = u"Side of the name"_s}}}},
-        {textRow(u"Text"_s, tfStripChar)},
+        {textRow(u"Remove text"_s, tfStripChar)},
         {rangeRow(tfStripCharStart, tfStripCharStop)},
         {textRow(u"Fragment"_s, tfStripTextFrag)},
         {Row{
+            .label = u"At it"_s,
             .fields
             = {{.control = &pubStripRemPosition,
                 .accessibleName = u"What goes at the fragment"_s}}}},

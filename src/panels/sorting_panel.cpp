@@ -76,21 +76,26 @@ Layout SortingPanel::folderRows(int folder)
     };
     FolderButtons& buttons = sortFolderButtons.at(static_cast<std::size_t>(folder) - 1);
     return {
-        {textRow(numbered(u"Folder "_s, folder), *sortDestination(folder))},
+        {Row{
+            .label = numbered(u"Folder "_s, folder),
+            .fields
+            = {{.control = sortDestination(folder)},
+               named(buttons.choose, u"Choose folder "_s),
+               named(buttons.show, u"Show folder "_s)}}},
         {Row{
             .fields
             = {named(buttons.copy, u"Copy the photo to folder "_s),
                named(buttons.move, u"Move the photo to folder "_s),
-               named(buttons.alias, u"Make an alias of the photo in folder "_s),
-               named(buttons.choose, u"Choose folder "_s),
-               named(buttons.show, u"Show folder "_s)}}},
+               named(buttons.alias, u"Make an alias of the photo in folder "_s)}}},
     };
 }
 
 Layout SortingPanel::manualPage()
 {
     return joined(
-        {folderRows(1),
+        {{{Note{u"The keys 1 to 6 copy the selected photo into a folder, with Shift they move it. "
+                u"Shift+Del moves it to the trash."_s}}},
+         folderRows(1),
          folderRows(2),
          folderRows(3),
          folderRows(4),
