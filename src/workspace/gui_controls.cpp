@@ -40,6 +40,7 @@ cGUIcontrols::cGUIcontrols(const Links& links)
     , m_photos(links.photos)
     , m_chooser(links.chooser)
     , m_desktop(links.desktop)
+    , m_defaults(links.defaults)
     , m_notifications(links.notifications)
     , m_functions(links.functions)
     , m_subsystems(links.subsystems)
@@ -106,6 +107,8 @@ void cGUIcontrols::registerDriverActions(controls::ActionRegistry& actions)
     });
     add(u"hChooseScalingDestinationFolder"_s, &cGUIcontrols::hChooseScalingDestinationFolder);
     add(u"hShowDestinationFolderInFinder"_s, &cGUIcontrols::hShowDestinationFolderInFinder);
+    add(u"hImportTWMCActions"_s, &cGUIcontrols::hImportTWMCActions);
+    add(u"hRemoveTWMCActions"_s, &cGUIcontrols::hRemoveTWMCActions);
     add(u"closeApplicationAlertSheetObjC"_s, &cGUIcontrols::closeApplicationAlertSheetObjC);
 }
 

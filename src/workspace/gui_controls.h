@@ -4,6 +4,7 @@
 #include <workspace/list/collection_view_controller.h>
 
 #include <platform/foundation/notification_center.h>
+#include <platform/foundation/user_defaults.h>
 #include <platform/storage/desktop.h>
 #include <workspace/run/batch_driver.h>
 
@@ -21,6 +22,7 @@ public:
         RunJournal& journal;
         controls::FileChooser& chooser;
         platform::storage::Desktop& desktop;
+        const platform::UserDefaults& defaults;
         const platform::NotificationCenter& notifications;
         const Functions& functions;
         const Subsystems& subsystems;
@@ -58,6 +60,20 @@ public:
     void hShowDestinationFolderInFinder();
     /// Paths of all entries in the order of the list.
     [[nodiscard]] QStringList hGetPhotosFromArrayController() const;
+
+    // The chain of C-Actions
+
+    /// Asks for a file of an action and adds it to the list.
+    void hImportTWMCActions();
+    /// Removes the row that is selected.
+    void hRemoveTWMCActions();
+    /// The list as the text that a preset keeps.
+    [[nodiscard]] QString hGetTWMActionsToStore() const;
+    /// Adds the rows of such a text to the list.
+    void hLoadTWMActions(const QString& chain);
+    /// The name that the actions of `rows` make of `name`; "" for no rows.
+    [[nodiscard]] static QString
+    hRenameTWMFile(const QString& path, const QString& name, const QList<QStringList>& rows);
 
     // Alerts
 
@@ -100,6 +116,7 @@ private:
     PhotoList& m_photos;
     controls::FileChooser& m_chooser;
     platform::storage::Desktop& m_desktop;
+    const platform::UserDefaults& m_defaults;
     const platform::NotificationCenter& m_notifications;
     const Functions& m_functions;
     const Subsystems& m_subsystems;

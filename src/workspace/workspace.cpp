@@ -12,14 +12,12 @@
 #include <imaging/color_well_handling.h>
 #include <imaging/dv_image_handling.h>
 #include <metadata/mmeta.h>
-#include <presets/action_run.h>
 #include <presets/gallery_templates.h>
 #include <presets/preset_manager.h>
 #include <presets/sheet_control.h>
 #include <services/code_actions.h>
 #include <watermark/dv_watermark.h>
 #include <watermark/panel_actions.h>
-#include <workspace/functions/action_list.h>
 #include <workspace/functions/preset_records.h>
 #include <workspace/run/photos_of_run.h>
 #include <workspace/sorting/file_sorter.h>
@@ -59,7 +57,7 @@ Neighbours neighboursOf(
     neighbours.quickEdits = quickEditsOf(imageHandling);
     neighbours.hiDoNothing = [&](const QString& path) { meta.hiDoNothing(path); };
     neighbours.forgetPhoto = [&meta] { meta.forgetPhoto(); };
-    neighbours.hRenameTWMFile = presets::renamedByActions;
+    neighbours.hRenameTWMFile = cGUIcontrols::hRenameTWMFile;
     neighbours.hLoadTemplatePreset
         = [&panels](int index) { presets::applyGalleryTemplate(index, panels.vwHtmlExport); };
     neighbours.imageNamed = gallery::templatePicture;
@@ -102,6 +100,7 @@ struct Workspace::Parts
                .journal = journal,
                .chooser = surroundings.chooser,
                .desktop = surroundings.desktop,
+               .defaults = surroundings.defaults,
                .notifications = notifications,
                .functions = functions,
                .subsystems = subsystems,
@@ -144,7 +143,6 @@ struct Workspace::Parts
               [this] { return presetRecords.recordOf(selectedFunction()); }
           )
         , colorWells(panels)
-        , actionList(subsystems, surroundings.defaults)
         , manualSort(
               {.subsystems = subsystems,
                .desktop = surroundings.desktop,
@@ -217,7 +215,6 @@ struct Workspace::Parts
         panels.vwQRBarCode, [this](const QString& title, const QString& text) {
             guiControls.hAlertWindow(title, text);
         }};
-    ActionList actionList;
     ManualSort manualSort;
     DVFileSorterRoutine fileSorter;
     platform::Subscription presetApplied;
@@ -237,7 +234,6 @@ void Workspace::Parts::registerActions()
     colorWells.registerActions(actions);
     codeActions.registerActions(actions);
     responsiveDesign.registerActions(actions);
-    actionList.registerActions(actions);
     manualSort.registerActions(actions);
     fileSorter.registerActions(actions);
     actions.add(u"mMeta"_s, u"btApplyExifUserComment"_s, [this](const controls::Sender&) {

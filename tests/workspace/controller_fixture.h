@@ -271,6 +271,7 @@ protected:
          .journal = journal,
          .chooser = chooser,
          .desktop = desktop,
+         .defaults = defaults,
          .notifications = notifications,
          .functions = functions,
          .subsystems = subsystems,

@@ -20,7 +20,8 @@ using imaging::ResultWord;
 void saveAsActionFile(const Subsystems& subsystems)
 {
     const auto file = files::actionFile(subsystems.panels.vwFileManagementRename);
-    subsystems.toolBox.hSaveWriteDialogFile2(file);
+    const QString path = subsystems.toolBox.hSaveWriteDialogFile2(file);
+    cNSFileHandling::hAddIconToFile(path, QImage(u":/pictures/C-ACTION.png"_s));
 }
 
 ResultWord copied(const platform::storage::SourceAndTarget& paths)

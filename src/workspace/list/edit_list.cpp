@@ -61,11 +61,7 @@ void cCollectionViewController::sortByName(PhotoList::Order order)
 
 void cCollectionViewController::hUpdateCollectionViewItem(const QString& newName, int index)
 {
-    if (index < 0 || index >= m_photos.count())
-        return;
-    cCollectionViewItem entry = m_photos.entries().at(index);
-    entry.myNewName = newName;
-    m_photos.replaceAt(index, entry);
+    m_photos.setNewName(index, newName);
 }
 
 void cCollectionViewController::acceptDrop(const QList<int>& indexes, int proposedIndex)

@@ -155,6 +155,14 @@ void PhotoList::setTick(int index, int state)
     entriesChanged();
 }
 
+void PhotoList::setNewName(int index, const QString& newName)
+{
+    if (index < 0 || index >= count() || m_entries.at(index).myNewName == newName)
+        return;
+    m_entries[index].myNewName = newName;
+    newNameChanged(index);
+}
+
 void PhotoList::select(std::optional<int> index)
 {
     const bool inside = index && *index >= 0 && *index < count();

@@ -51,6 +51,8 @@ public:
     /// Ticks (1) or unticks (0) all entries.
     void setAllTicks(int state);
     void setTick(int index, int state);
+    /// Gives an entry the name that a dry run has made for it.
+    void setNewName(int index, const QString& newName);
 
     [[nodiscard]] std::optional<int> selectedIndex() const { return m_selected; }
     /// An index outside of the list selects nothing.
@@ -60,6 +62,8 @@ public:
 
     /// Also when entries, the selected one among them, have gone to other places.
     platform::Signal<> entriesChanged;
+    /// The entry at an index has another new name.
+    platform::Signal<int> newNameChanged;
     /// Another entry is selected, or none.
     platform::Signal<> selectionChanged;
 

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "file_sorter.h"
 
-#include "sort_criteria.h"
-
 #include <files/tool_box.h>
 #include <panels/panels.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
+#include <platform/storage/hidden_file.h>
 #include <workspace/functions/function_id.h>
 
 #include <QScopeGuard>
+
+#include <array>
 
 namespace brenvaldo::workspace {
 
@@ -22,6 +23,30 @@ void enable(std::initializer_list<controls::Control*> values, const controls::Ch
 {
     for (controls::Control* value : values)
         value->setEnabled(choice.isOn());
+}
+
+using Handling = FileResult (*)(const cNSFileHandling::SourceAndTarget& paths);
+
+constexpr int trash = 3;
+
+/// In the order of the pop-up; null for an index that it does not have.
+Handling handlingAt(int index)
+{
+    constexpr std::array<Handling, 4> handlings{
+        &cNSFileHandling::hCopyFileTo,
+        &cNSFileHandling::hMoveFileTo,
+        &cNSFileHandling::hAliasFileTo,
+        [](const auto& paths) { return cNSFileHandling::hTrashFile(paths.source); }};
+    const bool exists = index >= 0 && index < static_cast<int>(handlings.size());
+    return exists ? handlings.at(static_cast<std::size_t>(index)) : nullptr;
+}
+
+/// Looks at the first of several files only.
+bool lieIn(const QString& destination, const QStringList& paths)
+{
+    const QString source
+        = paths.size() > 1 ? platform::deletingLastPathComponent(paths.first()) : QString();
+    return source + u'/' == destination;
 }
 
 Message missingValuesMessage(const QString& values) { return {u"Missing values."_s, values}; }
@@ -55,9 +80,20 @@ void DVFileSorterRoutine::registerActions(controls::ActionRegistry& actions)
     add(u"closeCustomSheetAlertbSort"_s, &DVFileSorterRoutine::closeCustomSheetAlertbSort);
 }
 
+bool DVFileSorterRoutine::Settings::trashes() const { return handling == trash; }
+
+DVFileSorterRoutine::Settings DVFileSorterRoutine::settings() const
+{
+    return {
+        .criteria = readSettings(m_panel),
+        .handling = m_panel.pubFileHandlingSelector.indexOfSelectedItem(),
+        .destination = m_panel.tfBatchSortDestFolder.stringValue()};
+}
+
 void DVFileSorterRoutine::hSortFiles()
 {
-    if (const QString missing = missingValues(); !missing.isEmpty()) {
+    const Settings read = settings();
+    if (const QString missing = missingValues(read); !missing.isEmpty()) {
         m_links.alert(missingValuesMessage(missing));
         return;
     }
@@ -65,19 +101,26 @@ void DVFileSorterRoutine::hSortFiles()
         = m_links.subsystems.toolBox.hOpenDialogFilesOC(u"rename"_s).value_or(QStringList());
     if (paths.isEmpty())
         return;
-    if (liesInDestination(paths)) {
+    if (lieIn(read.destination, paths)) {
         m_links.alert(sameFolderMessage());
         return;
     }
-    sort(paths);
+    sort(paths, read);
+}
+
+void DVFileSorterRoutine::hBatchSortPhotos(const QString& path)
+{
+    const Settings read = settings();
+    if (read.criteria.picture.isChosen && meets(read.criteria, path))
+        handle(path, read);
 }
 
 /// One line a value that lacks.
-QString DVFileSorterRoutine::missingValues() const
+QString DVFileSorterRoutine::missingValues(const Settings& settings)
 {
-    const SortCriteria criteria = readSettings(m_panel);
+    const SortCriteria& criteria = settings.criteria;
     QString text;
-    if (handling() != Handling::Trash && destination().isEmpty())
+    if (!settings.trashes() && settings.destination.isEmpty())
         text = u"Folder path not defined or doesn't exist anymore."_s;
     if (criteria.picture.isChosen && criteria.picture.value.isEmpty())
         text += u"\rNo variable image parameter defined"_s;
@@ -86,64 +129,34 @@ QString DVFileSorterRoutine::missingValues() const
     return text;
 }
 
-/// Looks at the first of several files only.
-bool DVFileSorterRoutine::liesInDestination(const QStringList& paths) const
+void DVFileSorterRoutine::sort(const QStringList& paths, const Settings& settings)
 {
-    const QString source
-        = paths.size() > 1 ? platform::deletingLastPathComponent(paths.first()) : QString();
-    return source + u'/' == destination();
-}
-
-void DVFileSorterRoutine::sort(const QStringList& paths)
-{
-    const SortCriteria criteria = readSettings(m_panel);
+    platform::storage::removeAbandonedFiles(settings.destination);
     controls::ProgressIndicator& bar = m_panel.showSortProgress;
     bar.setMaximum(static_cast<double>(paths.size()));
     bar.setDoubleValue(0);
     const auto end = qScopeGuard([&bar] { bar.setDoubleValue(0); });
     for (const QString& path : paths) {
         bar.incrementBy(1);
-        if (meets(criteria, path))
-            handle(path);
+        if (meets(settings.criteria, path))
+            handle(path, settings);
     }
 }
 
-void DVFileSorterRoutine::handle(const QString& path)
+void DVFileSorterRoutine::handle(const QString& path, const Settings& settings)
 {
-    const QString target = destination() + platform::lastPathComponent(path);
-    const FileResult result = handled(path, target);
+    const Handling handling = handlingAt(settings.handling);
+    if (!handling)
+        return;
+    const QString target = settings.destination + platform::lastPathComponent(path);
+    const FileResult result = handling({.source = path, .target = target});
     m_links.journal.add(
         {.time = QDateTime::currentDateTime(),
          .function = functionId::batchSort,
          .source = path,
-         .target = handling() == Handling::Trash ? QString() : target,
+         .target = settings.trashes() ? QString() : target,
          .word = result == FileResult::Ok ? imaging::ResultWord::Ok : imaging::ResultWord::Failed}
     );
-}
-
-FileResult DVFileSorterRoutine::handled(const QString& path, const QString& target) const
-{
-    switch (handling()) {
-    case Handling::Copy:
-        return cNSFileHandling::hCopyFileTo({.source = path, .target = target});
-    case Handling::Move:
-        return cNSFileHandling::hMoveFileTo({.source = path, .target = target});
-    case Handling::Alias:
-        return cNSFileHandling::hAliasFileTo({.source = path, .target = target});
-    case Handling::Trash:
-        break;
-    }
-    return cNSFileHandling::hTrashFile(path);
-}
-
-DVFileSorterRoutine::Handling DVFileSorterRoutine::handling() const
-{
-    return static_cast<Handling>(m_panel.pubFileHandlingSelector.indexOfSelectedItem());
-}
-
-QString DVFileSorterRoutine::destination() const
-{
-    return m_panel.tfBatchSortDestFolder.stringValue();
 }
 
 void DVFileSorterRoutine::hFilePropEnabled()
@@ -177,8 +190,8 @@ void DVFileSorterRoutine::btnChooseDestFolder()
 
 void DVFileSorterRoutine::hShowBatchDestinationFolder()
 {
-    if (!destination().isEmpty())
-        cNSFileHandling::hShowInFinder(m_links.desktop, destination());
+    if (const QString folder = settings().destination; !folder.isEmpty())
+        cNSFileHandling::hShowInFinder(m_links.desktop, folder);
 }
 
 void DVFileSorterRoutine::closeCustomSheetAlertbSort()

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "sort_criteria.h"
+
 #include <controls/action_registry.h>
-#include <files/file_result.h>
 #include <panels/sorting_panel.h>
 #include <platform/storage/desktop.h>
 #include <workspace/functions/subsystems.h>
@@ -33,6 +34,8 @@ public:
 
     /// Asks for files and sorts them. A file at the target is replaced without a question.
     void hSortFiles();
+    /// Sorts one file. Unlike the run of the button it needs the criterion of the picture.
+    void hBatchSortPhotos(const QString& path);
 
     // The values of a criterion can be changed while its box is ticked.
     void hFilePropEnabled();
@@ -44,15 +47,20 @@ public:
     void closeCustomSheetAlertbSort();
 
 private:
-    enum class Handling { Copy, Move, Alias, Trash };
+    /// What a press of the button reads.
+    struct Settings
+    {
+        SortCriteria criteria;
+        int handling; ///< copy, move, alias, trash; nothing for any other number
+        QString destination;
 
-    [[nodiscard]] Handling handling() const;
-    [[nodiscard]] QString destination() const;
-    [[nodiscard]] QString missingValues() const;
-    [[nodiscard]] bool liesInDestination(const QStringList& paths) const;
-    void sort(const QStringList& paths);
-    void handle(const QString& path);
-    [[nodiscard]] files::FileResult handled(const QString& path, const QString& target) const;
+        [[nodiscard]] bool trashes() const;
+    };
+
+    [[nodiscard]] Settings settings() const;
+    [[nodiscard]] static QString missingValues(const Settings& settings);
+    void sort(const QStringList& paths, const Settings& settings);
+    void handle(const QString& path, const Settings& settings);
 
     Links m_links;
     panels::SortingPanel& m_panel;

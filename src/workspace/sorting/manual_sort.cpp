@@ -9,6 +9,7 @@
 #include <platform/containers/type_identifier.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
+#include <platform/storage/hidden_file.h>
 #include <platform/storage/trash.h>
 
 namespace brenvaldo::workspace {
@@ -84,9 +85,11 @@ std::optional<SourceAndTarget> ManualSort::activePhoto(int tag) const
     return SourceAndTarget{.source = *path, .target = folder + name};
 }
 
-bool ManualSort::hasFolder(int tag) const
+bool ManualSort::prepareFolder(int tag) const
 {
-    return platform::storage::fileExists(field(tag)->stringValue());
+    const QString folder = field(tag)->stringValue();
+    platform::storage::removeAbandonedFiles(folder);
+    return platform::storage::fileExists(folder);
 }
 
 bool ManualSort::keepsType() const
@@ -98,7 +101,7 @@ bool ManualSort::keepsType() const
 void ManualSort::hCopyFileToFolder(int tag)
 {
     const auto paths = activePhoto(tag);
-    if (!paths || !hasFolder(tag))
+    if (!paths || !prepareFolder(tag))
         return;
     const ResultWord word
         = keepsType() ? wordOf(*paths, platform::storage::copyItem) : converted(*paths);
@@ -126,7 +129,7 @@ ResultWord ManualSort::converted(const SourceAndTarget& paths) const
 void ManualSort::hMoveFileToFolder(int tag)
 {
     const auto paths = activePhoto(tag);
-    if (!paths || !hasFolder(tag))
+    if (!paths || !prepareFolder(tag))
         return;
     const ResultWord word = wordOf(*paths, platform::storage::moveItem);
     record(u"hMoveFileToFolder"_s, *paths, word);

@@ -15,7 +15,7 @@
 namespace brenvaldo::workspace {
 
 /// Sends the active photo into one of six folders, or to the trash. A tag from 1 to 6 picks the
-/// folder; any other does nothing. What stands at a target stays.
+/// folder; any other does nothing. What stands at a target stays, but for a copy of another type.
 class ManualSort
 {
 public:
@@ -48,7 +48,8 @@ private:
     [[nodiscard]] controls::TextField* field(int tag) const;
     [[nodiscard]] std::optional<SourceAndTarget> activePhoto(int tag) const;
     [[nodiscard]] imaging::ResultWord converted(const SourceAndTarget& paths) const;
-    [[nodiscard]] bool hasFolder(int tag) const;
+    /// Frees the folder from what killed processes have left there; false when there is none.
+    [[nodiscard]] bool prepareFolder(int tag) const;
     [[nodiscard]] bool keepsType() const;
     void
     record(const QString& action, const SourceAndTarget& paths, imaging::ResultWord word) const;

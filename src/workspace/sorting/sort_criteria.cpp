@@ -4,7 +4,6 @@
 #include <files/file_property.h>
 #include <files/ns_string_handling.h>
 #include <metadata/mmeta.h>
-#include <platform/foundation/exceptions.h>
 #include <platform/foundation/literals.h>
 
 #include <optional>
@@ -22,24 +21,15 @@ constexpr int beginsWithIt = 1;
 constexpr int endsWithIt = 2;
 constexpr int isIt = 3;
 
-bool endsWith(const QString& subject, const QString& value)
-{
-    if (value.size() > subject.size())
-        throw platform::RangeError(u"A text of %1 characters can't end with one of %2"_s
-                                       .arg(subject.size())
-                                       .arg(value.size()));
-    return cNSStringHandling::hStringEndWith(subject, value);
-}
-
 bool matches(const QString& subject, const SortCriteria::Comparison& comparison)
 {
     switch (comparison.selector) {
     case containsIt:
-        return subject.contains(comparison.value, Qt::CaseInsensitive);
+        return cNSStringHandling::hStringContainsString(subject, comparison.value);
     case beginsWithIt:
         return cNSStringHandling::hStringBeginsWith(subject, comparison.value);
     case endsWithIt:
-        return endsWith(subject, comparison.value);
+        return cNSStringHandling::hStringEndWith(subject, comparison.value);
     default:
         return subject == comparison.value;
     }

@@ -142,6 +142,15 @@ TEST_F(FileRenaming, KeepsWhatStandsAtTheNewName)
     EXPECT_THAT(words(), ElementsAre(u"EXISTS"_s));
 }
 
+TEST_F(FileRenaming, FreesTheDestinationFromWhatKilledProcessesLeft)
+{
+    const QString left = folder.write(u"out/.brenvaldo-0123abcd"_s, "half a copy");
+
+    run();
+
+    EXPECT_FALSE(QFile::exists(left));
+}
+
 TEST_F(FileRenaming, TellsOfAFileThatCouldNotBeCopied)
 {
     photos.append(entry(folder.path(u"missing.jpg"_s), u"S"_s));
@@ -216,6 +225,45 @@ TEST_F(FileRenaming, ShortensANameThatNoFolderCanHold)
 
     EXPECT_THAT(written(), ElementsAre(QString(250, u'c') + u".jpg"_s));
     EXPECT_THAT(words(), ElementsAre(u"OK"_s));
+}
+
+TEST_F(FileRenaming, TakesNamesAsLongAsAFolderHolds)
+{
+    const QString longest = QString(83, u'\u20ac') + u"a.jpg"_s;
+    ASSERT_EQ(longest.toUtf8().size(), 254);
+    addFile(longest + u'g');
+    panel.tfStripNumberOfChar.setStringValue(u"1"_s);
+    panel.pubReplaceCase.selectIndex(2);
+    panel.tfPrefixToAdd.setStringValue(u"pre"_s);
+    panel.tfPostfixToAdd.setStringValue(u"post"_s);
+    panel.mxNumberingPosition.selectRow(1);
+
+    for (const int tab : {strip, replace, prefix, postfix, numbering}) {
+        panel.tbvFileRenaming.selectIndex(tab);
+        run();
+    }
+
+    EXPECT_THAT(words(), ElementsAre(u"OK"_s, u"OK"_s, u"OK"_s, u"OK"_s, u"OK"_s));
+    EXPECT_TRUE(written().contains(u"pre"_s + QString(82, u'\u20ac') + u".jpgg"_s));
+}
+
+TEST_F(FileRenaming, LeavesTheFilesWhereTheDestinationTakesNone)
+{
+    addFile(u"a.jpg"_s, "A");
+    addFile(u"no folder"_s);
+    photos.removeAt(1);
+    panel.tbvFileRenaming.selectIndex(prefix);
+    panel.tfPrefixToAdd.setStringValue(u"x"_s);
+
+    for (const QString& destination :
+         {u"/proc/"_s, folder.path(u"missing/"_s), folder.path(u"no folder/"_s)}) {
+        panels.vwMainDestination.tfImageDestinationFolder.setStringValue(destination);
+        run();
+    }
+
+    EXPECT_THAT(words(), ElementsAre(u"Failed"_s, u"Failed"_s, u"Failed"_s));
+    EXPECT_EQ(contents(u"a.jpg"_s), "A");
+    EXPECT_FALSE(QFile::exists(folder.path(u"missing"_s)));
 }
 
 TEST_F(FileRenaming, FailsWhereNoNameIsLeft)

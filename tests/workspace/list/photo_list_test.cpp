@@ -212,3 +212,23 @@ TEST(PhotoList, IgnoresIndexesOutsideOfTheList)
 
     EXPECT_EQ(names(list), QStringList{u"a"_s});
 }
+
+TEST(PhotoList, TellsOfTheEntryThatGetsANewName)
+{
+    PhotoList list;
+    list.append(named(u"a"_s));
+    list.append(named(u"b"_s));
+    int rebuilds = 0;
+    QList<int> renamed;
+    const auto changes = list.entriesChanged.connect([&] { ++rebuilds; });
+    const auto names = list.newNameChanged.connect([&](int index) { renamed.append(index); });
+
+    list.setNewName(1, u"c"_s);
+    list.setNewName(1, u"c"_s);
+    list.setNewName(2, u"d"_s);
+    list.setNewName(-1, u"d"_s);
+
+    EXPECT_EQ(list.entries().at(1).myNewName, u"c"_s);
+    EXPECT_EQ(renamed, QList<int>{1});
+    EXPECT_EQ(rebuilds, 0);
+}

@@ -225,6 +225,33 @@ TEST_F(FileSorter, CopiesMovesLinksOrTrashes)
     EXPECT_EQ(journal.records().first().target, folder.path(u"out/a1.txt"_s));
 }
 
+TEST_F(FileSorter, TouchesNoFileWithoutAHandling)
+{
+    byName(0, 0, u"a"_s);
+    panel.pubFileHandlingSelector.selectIndex(-1);
+
+    sort({file(u"a.txt"_s)});
+
+    EXPECT_TRUE(QFile::exists(folder.path(u"a.txt"_s)));
+    EXPECT_TRUE(sorted().isEmpty());
+    EXPECT_TRUE(journal.records().isEmpty());
+}
+
+TEST_F(FileSorter, SortsOneFileByItselfOnlyByItsPicture)
+{
+    const QString path = test::PhotoBuilder().size(40, 20).write(folder.path(u"a.jpg"_s));
+    byName(0, 0, u"a"_s);
+
+    sorter.hBatchSortPhotos(path);
+    EXPECT_TRUE(sorted().isEmpty());
+    byPicture(1, 3, u"20"_s);
+    sorter.hBatchSortPhotos(path);
+    EXPECT_TRUE(sorted().isEmpty());
+    byPicture(1, 3, u"40"_s);
+    sorter.hBatchSortPhotos(path);
+    EXPECT_THAT(sorted(), ElementsAre(u"a.jpg"_s));
+}
+
 TEST_F(FileSorter, NeedsItsValues)
 {
     byName(0, 0, QString());
@@ -285,6 +312,22 @@ TEST_F(FileSorter, LosesASingleFileThatIsItsOwnTarget)
     EXPECT_EQ(journal.records().first().word, imaging::ResultWord::Failed);
 }
 
+TEST_F(FileSorter, LeavesTheFilesWhereTheFolderTakesNone)
+{
+    byName(0, 0, u"a"_s);
+    panel.tfBatchSortDestFolder.setStringValue(u"/proc/"_s);
+
+    for (const int handling : {0, 1, 2}) {
+        panel.pubFileHandlingSelector.selectIndex(handling);
+        sort({file(u"a.txt"_s)});
+    }
+
+    EXPECT_TRUE(QFile::exists(folder.path(u"a.txt"_s)));
+    ASSERT_EQ(journal.records().size(), 3);
+    for (const auto& record : journal.records())
+        EXPECT_EQ(record.word, imaging::ResultWord::Failed);
+}
+
 TEST_F(FileSorter, ReplacesWhatStandsAtTheTarget)
 {
     byName(0, 0, u"a"_s);
@@ -295,6 +338,15 @@ TEST_F(FileSorter, ReplacesWhatStandsAtTheTarget)
     QFile copied(folder.path(u"out/a.txt"_s));
     ASSERT_TRUE(copied.open(QIODevice::ReadOnly));
     EXPECT_EQ(copied.readAll(), "a.txt");
+}
+
+TEST_F(FileSorter, FreesItsFolderFromWhatKilledProcessesLeft)
+{
+    const QString left = folder.write(u"out/.brenvaldo-0123abcd"_s, "half a picture");
+
+    sort({file(u"a.txt"_s)});
+
+    EXPECT_FALSE(QFile::exists(left));
 }
 
 TEST_F(FileSorter, EnablesTheValuesOfATickedCriterion)

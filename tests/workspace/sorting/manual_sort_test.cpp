@@ -2,7 +2,6 @@
 #include "../controller_fixture.h"
 
 #include <files/keep_number.h>
-#include <presets/action_run.h>
 #include <support/pixel_probe.h>
 #include <support/surroundings.h>
 #include <workspace/sorting/manual_sort.h>
@@ -20,7 +19,7 @@ protected:
     ManualSort()
     {
         sort.registerActions(actions);
-        neighbours.hRenameTWMFile = presets::renamedByActions;
+        neighbours.hRenameTWMFile = workspace::cGUIcontrols::hRenameTWMFile;
         QDir().mkpath(folder.path(u"two"_s));
         panel.tfSortDestination02.setStringValue(folder.path(u"two/"_s));
         photos.append(entry(photo(u"a.jpg"_s), u"L"_s));
@@ -184,6 +183,34 @@ TEST_F(ManualSort, MovesNothingIntoALostFolder)
     EXPECT_TRUE(QFile::exists(folder.path(u"a.jpg"_s)));
     EXPECT_EQ(photos.entries().first().myPhotoDescription, folder.path(u"a.jpg"_s));
     EXPECT_TRUE(words().isEmpty());
+}
+
+TEST_F(ManualSort, FreesItsFolderFromWhatKilledProcessesLeft)
+{
+    for (const char* action : {"hCopyFileToFolder", "hMoveFileToFolder"}) {
+        const QString left = folder.write(u"two/.brenvaldo-0123abcd"_s, "half a picture");
+        send(action, 2);
+        EXPECT_FALSE(QFile::exists(left)) << action;
+    }
+}
+
+TEST_F(ManualSort, LeavesThePhotoWhereTheFolderTakesNone)
+{
+    panel.tfSortDestination02.setStringValue(u"/proc/"_s);
+
+    for (const char* action : {"hCopyFileToFolder", "hMoveFileToFolder", "hAliasFileToFolder"})
+        send(action, 2);
+
+    EXPECT_THAT(
+        words(),
+        ElementsAre(
+            u"hCopyFileToFolder Failed"_s,
+            u"hMoveFileToFolder Failed"_s,
+            u"hAliasFileToFolder Failed"_s
+        )
+    );
+    EXPECT_TRUE(QFile::exists(folder.path(u"a.jpg"_s)));
+    EXPECT_EQ(photos.entries().first().myPhotoDescription, folder.path(u"a.jpg"_s));
 }
 
 TEST_F(ManualSort, LinksToThePhoto)

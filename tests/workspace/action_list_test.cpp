@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "../controller_fixture.h"
+#include "controller_fixture.h"
 
 #include <files/keep_number.h>
 #include <platform/foundation/exceptions.h>
-#include <presets/action_run.h>
+#include <support/environment.h>
 #include <support/iptc_block.h>
-#include <workspace/functions/action_list.h>
 
 #include <QDir>
 
@@ -17,11 +16,7 @@ namespace {
 class ActionList : public test::ControllerTest
 {
 protected:
-    ActionList()
-    {
-        list.registerActions(actions);
-        neighbours.hRenameTWMFile = presets::renamedByActions;
-    }
+    ActionList() { neighbours.hRenameTWMFile = workspace::cGUIcontrols::hRenameTWMFile; }
 
     void import(const QString& name, const QByteArray& contents)
     {
@@ -48,7 +43,6 @@ protected:
     }
 
     controls::ArrayController& chain = panels.vwWatermark.cActionsTWMArrayController;
-    workspace::ActionList list{subsystems, defaults};
 };
 
 } // namespace
@@ -84,6 +78,24 @@ TEST_F(ActionList, LosesTheSelectedRowOnly)
     panels.vwWatermark.tvwTWMActions.selectRow(1);
     actions.send(u"cGUIcontrols.hRemoveTWMCActions"_s);
     EXPECT_THAT(rows(), ElementsAre(u"a"_s, u"c"_s));
+}
+
+TEST_F(ActionList, GoesIntoAPresetAndComesBack)
+{
+    EXPECT_EQ(guiControls.hGetTWMActionsToStore(), u"NO ACTIONS"_s);
+    import(u"a.c-action"_s, "Prefix\tBrenvaldo9\tx\t\t0\t0");
+
+    const QString chainText = guiControls.hGetTWMActionsToStore();
+    guiControls.hLoadTWMActions(chainText);
+
+    EXPECT_EQ(chainText, u"a\t\tPrefix\tBrenvaldo9\tx\t\t0\t0"_s);
+    EXPECT_THAT(
+        rows(),
+        ElementsAre(
+            u"a\t"_s + QString(65, u' ') + u"\tPrefix\tBrenvaldo9\tx\t\t0\t0"_s,
+            u"a\t"_s + QString(46, u' ') + u"\tPrefix\tBrenvaldo9\tx\t\t0\t0"_s
+        )
+    );
 }
 
 TEST_F(ActionList, NamesWhatARunWrites)
@@ -148,6 +160,25 @@ TEST_F(ActionList, LeavesThePlainNameWhereItLeavesNone)
     import(u"a.c-action"_s, "Strip\tBrenvaldo9\t\t0\ta.jpg\t\t\t\t0\t0\t0");
 
     EXPECT_EQ(outputName(u"/in/a.jpg"_s), u"a.jpg"_s);
+}
+
+TEST_F(ActionList, GivesTheFilesThatThePanelSavesAnIcon)
+{
+    const test::Environment data("XDG_DATA_HOME", folder.path(u"data"_s).toUtf8());
+    const test::Environment programs("PATH", folder.path().toUtf8());
+    QFile command(folder.write(u"gio"_s, "#!/bin/sh\n"));
+    command.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    restoreRun("fileRenaming");
+
+    actions.send(u"cGUIcontrols.hCalledCActionFunc"_s);
+    const QDir icons(folder.path(u"data/Brenvaldo/Icons"_s));
+    EXPECT_TRUE(icons.entryList(QDir::Files).isEmpty());
+
+    chooser.savePaths.append(folder.path(u"mine"_s));
+    actions.send(u"cGUIcontrols.hCalledCActionFunc"_s);
+    const QStringList kept = icons.entryList(QDir::Files);
+    ASSERT_EQ(kept.size(), 1);
+    EXPECT_EQ(QImage(icons.filePath(kept.first())).size(), QSize(256, 256));
 }
 
 TEST_F(ActionList, TakesTheFilesThatThePanelSaves)
