@@ -2,6 +2,7 @@
 #include "../controller_fixture.h"
 
 #include <support/environment.h>
+#include <support/log_lines.h>
 #include <workspace/sorting/file_sorter.h>
 #include <workspace/sorting/manual_sort.h>
 
@@ -336,6 +337,7 @@ protected:
 
 TEST_F(RandomPlans, LoseNoFile)
 {
+    const test::LogLines log;
     for (int plan = 0; plan < planCount(); ++plan) {
         random.seed(unsigned(plan));
         if (plan % 4 == 0)
