@@ -91,7 +91,7 @@ int planCount()
 {
     bool isSet = false;
     const int count = qEnvironmentVariableIntValue("BRENVALDO_PLANS", &isSet);
-    return isSet ? count : 600;
+    return isSet ? count : 300;
 }
 
 /// Names that clash with each other when they are changed.
