@@ -16,6 +16,13 @@ const QHash<QString, QString>& drawings()
 {
     static const QHash<QString, QString> drawings{
         {u"btnShowDestination"_s, u"reveal"_s},
+        {u"btnShowBatchDestinationFolder"_s, u"reveal"_s},
+        {u"btnShowSortDestination01"_s, u"reveal"_s},
+        {u"btnShowSortDestination02"_s, u"reveal"_s},
+        {u"btnShowSortDestination03"_s, u"reveal"_s},
+        {u"btnShowSortDestination04"_s, u"reveal"_s},
+        {u"btnShowSortDestination05"_s, u"reveal"_s},
+        {u"btnShowSortDestination06"_s, u"reveal"_s},
         {u"btnPresetsHelp"_s, u"help"_s},
     };
     return drawings;

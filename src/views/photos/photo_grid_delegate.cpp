@@ -23,6 +23,13 @@ constexpr int pictureTop = 10;
 constexpr int tickSide = 16;
 constexpr double smallScale = 0.86;
 
+/// Told apart from the accent by hue and lightness in both schemes.
+QColor clashColor()
+{
+    const bool isDark = colors().text.lightness() > colors().window.lightness();
+    return isDark ? QColor(0xff, 0x8a, 0x7a) : QColor(0xb8, 0x2a, 0x1f);
+}
+
 QRect pictureRoom(const QRect& cell)
 {
     const int side = PhotoGridDelegate::pictureSide;
@@ -58,6 +65,28 @@ void paintLine(QPainter& painter, const QRect& line, const QString& text, Qt::Te
     );
 }
 
+/// The new name below the old one; a clash and a name that stays can be told at a glance.
+void paintNewName(QPainter& painter, QRect line, const QModelIndex& index)
+{
+    using NewName = PhotoGridModel::NewName;
+    const QString newName = index.data(PhotoGridModel::NewNameRole).toString();
+    switch (static_cast<NewName>(index.data(PhotoGridModel::NewNameKindRole).toInt())) {
+    case NewName::Same:
+        painter.setPen(colors().muted);
+        return paintLine(painter, line, PhotoGridModel::tr("keeps its name"), Qt::ElideRight);
+    case NewName::Clash: {
+        const int side = line.height() - 1;
+        paintIcon(painter, u"alert"_s, QRect(line.topLeft(), QSize(side, side)), clashColor());
+        line.setLeft(line.left() + side + 2);
+        painter.setPen(clashColor());
+        return paintLine(painter, line, newName, Qt::ElideMiddle);
+    }
+    default:
+        painter.setPen(colors().accent);
+        paintLine(painter, line, u"\u2192 "_s + newName, Qt::ElideMiddle);
+    }
+}
+
 void paintTexts(
     QPainter& painter,
     const QStyleOptionViewItem& option,
@@ -65,7 +94,6 @@ void paintTexts(
     const QModelIndex& index
 )
 {
-    const QString newName = index.data(PhotoGridModel::NewNameRole).toString();
     const int height = option.fontMetrics.height();
     QRect line = cell.adjusted(textMargin, 0, -textMargin, 0);
     line.setTop(pictureRoom(cell).bottom() + 5);
@@ -77,11 +105,10 @@ void paintTexts(
     line.translate(0, height);
     line.adjust(-sizeReach, 0, sizeReach, 0);
     painter.setFont(scaledFont(option.font, smallScale));
-    const bool isRenamed = !newName.isEmpty();
-    painter.setPen(isRenamed ? colors().accent : colors().muted);
-    const QString below
-        = isRenamed ? u"\u2192 "_s + newName : index.data(PhotoGridModel::SizeRole).toString();
-    paintLine(painter, line, below, isRenamed ? Qt::ElideMiddle : Qt::ElideRight);
+    if (!index.data(PhotoGridModel::NewNameRole).toString().isEmpty())
+        return paintNewName(painter, line, index);
+    painter.setPen(colors().muted);
+    paintLine(painter, line, index.data(PhotoGridModel::SizeRole).toString(), Qt::ElideRight);
 }
 
 } // namespace

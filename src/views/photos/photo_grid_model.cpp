@@ -14,14 +14,26 @@ bool isDocument(const cCollectionViewItem& entry)
     return entry.myPhoto.kind == workspace::ListPicture::Kind::Generic;
 }
 
+QHash<QString, int> newNamesOf(const QList<cCollectionViewItem>& entries)
+{
+    QHash<QString, int> names;
+    for (const cCollectionViewItem& entry : entries) {
+        if (!entry.myNewName.isEmpty())
+            ++names[entry.myNewName];
+    }
+    return names;
+}
+
 } // namespace
 
 PhotoGridModel::PhotoGridModel(const workspace::PhotoList& photos, int pictureSide, QObject* parent)
     : QAbstractListModel(parent)
     , m_photos(photos)
     , m_entries(photos.entries())
+    , m_newNames(newNamesOf(m_entries))
     , m_pictures(pictureSide)
     , m_changes(photos.entriesChanged.connect([this] { takeEntries(); }))
+    , m_renamings(photos.newNameChanged.connect([this](int row) { takeNewName(row); }))
 {
     connect(&m_pictures, &ThumbnailStore::arrived, this, &PhotoGridModel::pictureArrived);
 }
@@ -51,6 +63,8 @@ QVariant PhotoGridModel::data(const QModelIndex& index, int role) const
         return entry.myPhotoPxSize;
     case NewNameRole:
         return entry.myNewName;
+    case NewNameKindRole:
+        return static_cast<int>(newNameOf(entry));
     case DocumentRole:
         return isDocument(entry) || m_pictures.isUnreadable(entry.myPhoto.path);
     default:
@@ -61,7 +75,27 @@ QVariant PhotoGridModel::data(const QModelIndex& index, int role) const
 QString PhotoGridModel::spokenText(const cCollectionViewItem& entry) const
 {
     const QString tick = entry.myPhotoSelect > 0 ? tr("ticked") : tr("not ticked");
-    return u"%1, %2, %3"_s.arg(entry.myPhotoName, entry.myPhotoPxSize, tick);
+    const QString text = u"%1, %2, %3"_s.arg(entry.myPhotoName, entry.myPhotoPxSize, tick);
+    switch (newNameOf(entry)) {
+    case NewName::None:
+        break;
+    case NewName::Other:
+        return text + tr(", new name %1").arg(entry.myNewName);
+    case NewName::Same:
+        return text + tr(", keeps its name");
+    case NewName::Clash:
+        return text + tr(", new name %1 clashes with another").arg(entry.myNewName);
+    }
+    return text;
+}
+
+PhotoGridModel::NewName PhotoGridModel::newNameOf(const cCollectionViewItem& entry) const
+{
+    if (entry.myNewName.isEmpty())
+        return NewName::None;
+    if (m_newNames.value(entry.myNewName) > 1)
+        return NewName::Clash;
+    return entry.myNewName == entry.myPhotoName ? NewName::Same : NewName::Other;
 }
 
 Qt::ItemFlags PhotoGridModel::flags(const QModelIndex& index) const
@@ -86,8 +120,21 @@ void PhotoGridModel::takeEntries()
     } else {
         m_entries = m_photos.entries();
     }
+    m_newNames = newNamesOf(m_entries);
     if (now > 0)
         Q_EMIT dataChanged(index(0), index(now - 1));
+}
+
+/// In a run over thousands of entries this is called for each of them.
+void PhotoGridModel::takeNewName(int row)
+{
+    const QString before
+        = std::exchange(m_entries[row].myNewName, m_photos.entries().at(row).myNewName);
+    const QString& now = m_entries.at(row).myNewName;
+    const bool endsClash = !before.isEmpty() && --m_newNames[before] == 1;
+    const bool beginsClash = !now.isEmpty() && ++m_newNames[now] == 2;
+    const bool changesOthers = endsClash || beginsClash;
+    Q_EMIT dataChanged(index(changesOthers ? 0 : row), index(changesOthers ? rowCount() - 1 : row));
 }
 
 void PhotoGridModel::pictureArrived(const QString& path)

@@ -7,6 +7,7 @@
 #include <platform/foundation/literals.h>
 #include <views/form/button_faces.h>
 #include <views/form/holder_view.h>
+#include <views/form/live_text.h>
 #include <views/form/pop_up.h>
 #include <views/form/subscriptions.h>
 #include <views/look/hairline.h>
@@ -14,6 +15,8 @@
 #include <views/look/style.h>
 #include <views/look/style_painting.h>
 #include <views/look/theme.h>
+#include <workspace/functions/name_example.h>
+#include <workspace/sorting/sort_sentence.h>
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -77,6 +80,7 @@ Inspector::Inspector(
     all->addWidget(new Hairline(Qt::Horizontal, this));
     all->addWidget(laterNotice());
     all->addWidget(settings(), 1);
+    all->addWidget(outlook());
     all->addWidget(new Hairline(Qt::Horizontal, this));
     all->addWidget(output());
     followRun();
@@ -207,6 +211,30 @@ QWidget* Inspector::laterNotice()
     );
     m_later->setObjectName(u"laterNotice"_s);
     return m_later;
+}
+
+/// What the settings would do, in words.
+QWidget* Inspector::outlook()
+{
+    auto* text = new LiveText([this] { return outlookText(); }, this);
+    text->setObjectName(u"outlook"_s);
+    text->follow({&m_panels.window.dvVCUiMainPropertyView});
+    text->follow(m_panels.vwFileManagementRename.controls());
+    text->follow(m_panels.vwFileManagementSorting.controls());
+    keepFor(*text, m_workspace.photos().entriesChanged.connect([text] { text->refreshSoon(); }));
+    return text;
+}
+
+QString Inspector::outlookText() const
+{
+    const QStringList& shown = m_panels.window.dvVCUiMainPropertyView.views();
+    const panels::RenamePanel& renaming = m_panels.vwFileManagementRename;
+    if (shown.contains(renaming.name()))
+        return workspace::nameExample(renaming, m_workspace.photos());
+    const panels::SortingPanel& sorting = m_panels.vwFileManagementSorting;
+    if (shown.contains(sorting.name()) && sorting.mySortTabView.selectedIdentifier() == u"2")
+        return workspace::sortSentence(sorting);
+    return {};
 }
 
 void Inspector::followRun()

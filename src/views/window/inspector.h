@@ -38,6 +38,8 @@ private:
     [[nodiscard]] QWidget* settings();
     [[nodiscard]] QWidget* output();
     [[nodiscard]] QWidget* laterNotice();
+    [[nodiscard]] QWidget* outlook();
+    [[nodiscard]] QString outlookText() const;
     void addProcessButton(QVBoxLayout& rows);
     void followRun();
     void showRun();

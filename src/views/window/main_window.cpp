@@ -9,6 +9,7 @@
 #include "journal_window.h"
 #include "panel_sheet.h"
 #include "photo_tool_bar.h"
+#include "sort_keys.h"
 
 #include <imaging/filter_sample.h>
 #include <platform/foundation/literals.h>
@@ -196,6 +197,7 @@ void MainWindow::connectOrders()
     });
     connect(m_preview, &PreviewView::zoomChanged, this, &MainWindow::showZoom);
     new FullScreen(*this, *m_orders.fullScreen);
+    new SortKeys(m_workspace, *this);
 }
 
 void MainWindow::makeSheets()

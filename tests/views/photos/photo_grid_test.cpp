@@ -198,3 +198,63 @@ TEST_F(PhotoGrid, SpeaksNameSizeAndTick)
     EXPECT_TRUE(text.startsWith(u"a.jpg"_s));
     EXPECT_TRUE(text.endsWith(u", ticked"_s));
 }
+
+TEST_F(PhotoGrid, TellsWhatADryRunMakesOfTheNames)
+{
+    using Kind = views::PhotoGridModel::NewName;
+    const auto kinds = [this] {
+        QList<Kind> found;
+        for (int row = 0; row < grid.model()->rowCount(); ++row)
+            found.append(static_cast<Kind>(
+                grid.model()->index(row, 0).data(views::PhotoGridModel::NewNameKindRole).toInt()
+            ));
+        return found;
+    };
+    add({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s, u"d.jpg"_s});
+
+    photos.setNewName(0, u"x.jpg"_s);
+    photos.setNewName(1, u"b.jpg"_s);
+    photos.setNewName(2, u"y.jpg"_s);
+    EXPECT_EQ(kinds(), (QList<Kind>{Kind::Other, Kind::Same, Kind::Other, Kind::None}));
+    photos.setNewName(3, u"x.jpg"_s);
+    EXPECT_EQ(kinds(), (QList<Kind>{Kind::Clash, Kind::Same, Kind::Other, Kind::Clash}));
+
+    // Also for entries that come at once.
+    photos.removeAt(1);
+    EXPECT_EQ(kinds(), (QList<Kind>{Kind::Clash, Kind::Other, Kind::Clash}));
+    photos.setNewName(0, QString());
+    EXPECT_EQ(kinds(), (QList<Kind>{Kind::None, Kind::Other, Kind::Other}));
+}
+
+TEST_F(PhotoGrid, SpeaksNewNames)
+{
+    const auto spoken = [this](int row) {
+        return grid.model()->index(row, 0).data(Qt::AccessibleTextRole).toString();
+    };
+    add({u"a.jpg"_s, u"b.jpg"_s});
+
+    photos.setNewName(0, u"x.jpg"_s);
+    photos.setNewName(1, u"b.jpg"_s);
+    EXPECT_TRUE(spoken(0).endsWith(u", ticked, new name x.jpg"_s)) << spoken(0).toStdString();
+    EXPECT_TRUE(spoken(1).endsWith(u", ticked, keeps its name"_s)) << spoken(1).toStdString();
+    photos.setNewName(1, u"x.jpg"_s);
+    EXPECT_TRUE(spoken(0).endsWith(u", new name x.jpg clashes with another"_s));
+}
+
+TEST_F(PhotoGrid, RedrawsTheOtherEntryOfAClash)
+{
+    add({u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s});
+    photos.setNewName(0, u"x.jpg"_s);
+    QSignalSpy redrawn(grid.model(), &QAbstractItemModel::dataChanged);
+    const auto lastRows = [&redrawn] {
+        const auto arguments = redrawn.takeLast();
+        return QPair(arguments.at(0).toModelIndex().row(), arguments.at(1).toModelIndex().row());
+    };
+
+    photos.setNewName(2, u"y.jpg"_s);
+    EXPECT_EQ(lastRows(), QPair(2, 2));
+    photos.setNewName(2, u"x.jpg"_s);
+    EXPECT_EQ(lastRows(), QPair(0, 2));
+    photos.setNewName(2, QString());
+    EXPECT_EQ(lastRows(), QPair(0, 2));
+}
