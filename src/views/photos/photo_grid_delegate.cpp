@@ -65,8 +65,26 @@ void paintLine(QPainter& painter, const QRect& line, const QString& text, Qt::Te
     );
 }
 
+/// The text with a mark before it, both in the middle of the line.
+void paintWarning(QPainter& painter, const QRect& line, const QString& text)
+{
+    const int side = line.height() - 1;
+    const int markRoom = side + 3;
+    const QString shown
+        = painter.fontMetrics().elidedText(text, Qt::ElideMiddle, line.width() - markRoom);
+    const int width = markRoom + painter.fontMetrics().horizontalAdvance(shown);
+    const int left = line.left() + (line.width() - width) / 2;
+    paintIcon(painter, u"alert"_s, QRect(left, line.top(), side, side), clashColor());
+    painter.setPen(clashColor());
+    painter.drawText(
+        QRect(left + markRoom, line.top(), width - markRoom + 1, line.height()),
+        Qt::AlignLeft | Qt::AlignVCenter,
+        shown
+    );
+}
+
 /// The new name below the old one; a clash and a name that stays can be told at a glance.
-void paintNewName(QPainter& painter, QRect line, const QModelIndex& index)
+void paintNewName(QPainter& painter, const QRect& line, const QModelIndex& index)
 {
     using NewName = PhotoGridModel::NewName;
     const QString newName = index.data(PhotoGridModel::NewNameRole).toString();
@@ -74,13 +92,8 @@ void paintNewName(QPainter& painter, QRect line, const QModelIndex& index)
     case NewName::Same:
         painter.setPen(colors().muted);
         return paintLine(painter, line, PhotoGridModel::tr("keeps its name"), Qt::ElideRight);
-    case NewName::Clash: {
-        const int side = line.height() - 1;
-        paintIcon(painter, u"alert"_s, QRect(line.topLeft(), QSize(side, side)), clashColor());
-        line.setLeft(line.left() + side + 2);
-        painter.setPen(clashColor());
-        return paintLine(painter, line, newName, Qt::ElideMiddle);
-    }
+    case NewName::Clash:
+        return paintWarning(painter, line, newName);
     default:
         painter.setPen(colors().accent);
         paintLine(painter, line, u"\u2192 "_s + newName, Qt::ElideMiddle);
