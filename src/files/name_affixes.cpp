@@ -33,8 +33,6 @@ QString modificationDateOf(const QString& path, const QString& flag)
 
 std::optional<QString> attributeOf(const QString& path, const QString& key)
 {
-    if (key.isEmpty())
-        return std::nullopt;
     const auto value = searchAttribute(path, key);
     return value ? std::optional(asNamePart(*value)) : std::nullopt;
 }

@@ -65,8 +65,6 @@ QString cNSStringHandling::hRemoveNonLetters(const QString& text, const QString&
 
 QString cNSStringHandling::hStripString(const QString& text, const QString& side, qsizetype count)
 {
-    if (text.isEmpty())
-        return text;
     return unlessOutOfRange(text, [&] {
         if (side == u"fRight")
             return platform::substringTo(text, text.size() - count);

@@ -239,12 +239,29 @@ INSTANTIATE_TEST_SUITE_P(
         FragmentCase{u"3", u"1", u"abcd.jpg", u"abcd.jpg"},
         FragmentCase{u"3", u"1", u"-cd.jpg", u"-cd.jpg"},
         FragmentCase{u"3", u"0", u"-cd.jpg", u""},
+        FragmentCase{u"0", u"0", u"abcd.jpg", u"abcd.jpg"},
+        FragmentCase{u"1", u"0", u"abcd.jpg", u"abcd.jpg"},
+        FragmentCase{u"2", u"0", u"ab-", u"ab-"},
         FragmentCase{u"0", u"0", u"ab-cd.jpg", u"-cd.jpg"},
         FragmentCase{u"1", u"0", u"ab-cd.jpg", u"ab-"},
         FragmentCase{u"2", u"0", u"ab-cd.jpg", u"cd.jpg"},
         FragmentCase{u"3", u"0", u"ab-cd.jpg", u"ab"}
     )
 );
+
+TEST(StripWithoutFragment, LeavesTheNameInEachMode)
+{
+    const LogLines log;
+    StripSettings settings = nothingToStrip();
+    for (const QString& preserve : {u"1"_s, u"0"_s}) {
+        settings.preserve = preserve;
+        for (const QString& mode : {u"0"_s, u"1"_s, u"2"_s, u"3"_s}) {
+            settings.removeMode = mode;
+            EXPECT_EQ(Text::hFileNameStripper(u"ab.jpg"_s, settings), u"ab.jpg"_s);
+        }
+    }
+    EXPECT_TRUE(log.lines().isEmpty());
+}
 
 TEST(StripFragmentLog, TellsThePieceWhereTheExtensionIsKept)
 {

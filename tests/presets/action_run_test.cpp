@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace Qt::StringLiterals;
 using brenvaldo::files::cKeepNumber;
 using brenvaldo::platform::RangeError;
@@ -117,6 +119,21 @@ TEST(ActionRun, RaisesWhereFieldsAreMissing)
             << needs.action.toStdString();
     }
     EXPECT_THROW(renamed(u"abc.jpg"_s, {u"only a name"_s}), RangeError);
+}
+
+TEST(ActionRun, TellsWhyItRaises)
+{
+    const auto reasonOf = [](const QStringList& rows) {
+        try {
+            std::ignore = renamed(u"a.jpg"_s, rows);
+        } catch (const RangeError& error) {
+            return error.reason();
+        }
+        return QString();
+    };
+    EXPECT_EQ(reasonOf({row(u"Prefix"_s, {u"x"_s})}), u"index 5 beyond bounds [0 .. 4]"_s);
+    const QString growing = row(u"Prefix"_s, {QString(70000, u'x'), u""_s, u"0"_s, u"0"_s});
+    EXPECT_EQ(reasonOf({growing}), u"name of 70005 characters"_s);
 }
 
 TEST(ActionRun, RaisesWhereANameGrowsBeyondAllMeasure)
