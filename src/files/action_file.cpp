@@ -57,4 +57,6 @@ cToolBox::NewActionFile actionFile(const panels::RenamePanel& panel)
     return fileOf(u"Numbering"_s, numberingFields(panel));
 }
 
+QImage actionFileIcon() { return QImage(u":/pictures/C-ACTION.png"_s); }
+
 } // namespace brenvaldo::files

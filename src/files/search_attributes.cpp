@@ -87,7 +87,6 @@ constexpr std::array kinds{
     Kind{QLatin1StringView("public.tiff"), QLatin1StringView("TIFF image")},
     Kind{QLatin1StringView("com.compuserve.gif"), QLatin1StringView("GIF image")},
     Kind{QLatin1StringView("com.microsoft.bmp"), QLatin1StringView("Windows BMP image")},
-    Kind{QLatin1StringView("public.jpeg-2000"), QLatin1StringView("JPEG 2000 image")},
     Kind{QLatin1StringView("public.jp2"), QLatin1StringView("JPEG 2000 image")},
     Kind{QLatin1StringView("public.heic"), QLatin1StringView("HEIF Image")},
     Kind{QLatin1StringView("public.heif"), QLatin1StringView("HEIF Image")},

@@ -10,6 +10,8 @@
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
+#include <QLocale>
 
 #include <gtest/gtest.h>
 
@@ -84,17 +86,18 @@ private:
 };
 
 /// A block with a first directory of two texts, and the camera's values in the second.
-QByteArray cameraBlock()
+QByteArray cameraBlock(const QByteArray& taken = "2020:03:04 05:06:07")
 {
     ExifWriter camera;
     camera.fraction(0x829A, 1, 50)
         .fraction(0x829D, 22, 10)
         .number(0x8827, 400)
         .undefined(0x9000, "0232")
-        .text(0x9003, "2020:03:04 05:06:07")
-        .text(0x9011, "+01:00")
+        .text(0x9003, taken)
+        .text(0x9011, "+05:30")
         .number(0x9209, 65)
         .fraction(0x920A, 85, 1)
+        .number(0xA001, 1)
         .number(0xA402, 1)
         .number(0xA403, 1);
     ExifWriter first;
@@ -146,7 +149,8 @@ TEST_F(SearchAttributes, TellWhatTheCameraWrote)
     EXPECT_EQ(of(photo, u"FlashOnOff"_s), u"1"_s);
     EXPECT_EQ(of(photo, u"RedEyeOnOff"_s), u"1"_s);
     EXPECT_EQ(of(photo, u"WhiteBalance"_s), u"1"_s);
-    EXPECT_EQ(of(photo, u"ContentCreationDate"_s), u"2020-03-04 04:06:07 +0000"_s);
+    EXPECT_EQ(of(photo, u"ContentCreationDate"_s), u"2020-03-03 23:36:07 +0000"_s);
+    EXPECT_EQ(of(photo, u"ProfileName"_s), u"sRGB IEC61966-2.1"_s);
 }
 
 TEST_F(SearchAttributes, TellThePicturesOwnValues)
@@ -163,6 +167,8 @@ TEST_F(SearchAttributes, TellThePicturesOwnValues)
     EXPECT_EQ(of(plain, u"ResolutionHeightDPI"_s).left(3), u"300"_s);
     EXPECT_EQ(of(plain, u"FNumber"_s), u"none"_s);
     EXPECT_EQ(of(plain, u"FlashOnOff"_s), u"none"_s);
+    EXPECT_EQ(of(plain, u"EXIFVersion"_s), u"none"_s);
+    EXPECT_EQ(of(plain, u"ISOSpeed"_s), u"none"_s);
 }
 
 TEST_F(SearchAttributes, TellSizesOfTheUprightPicture)
@@ -211,6 +217,41 @@ TEST_F(SearchAttributes, TellDatesInUniversalTime)
     EXPECT_EQ(of(plain, u"FSContentChangeDate"_s), u"2021-02-03 04:05:06 +0000"_s);
     EXPECT_EQ(of(plain, u"ContentCreationDate"_s), of(plain, u"FSCreationDate"_s));
     EXPECT_EQ(of(plain, u"FSCreationDate"_s).size(), 25);
+}
+
+TEST_F(SearchAttributes, TakeTheDateOfTheFileWhereThePictureTellsNone)
+{
+    const QString text = folder.write(u"t.txt"_s, "");
+    const QString undated = test::PhotoBuilder()
+                                .exif(cameraBlock("in the summer"))
+                                .write(folder.path(u"undated.jpg"_s));
+
+    EXPECT_EQ(of(text, u"ContentCreationDate"_s), of(text, u"FSCreationDate"_s));
+    EXPECT_EQ(of(undated, u"ContentCreationDate"_s), of(undated, u"FSCreationDate"_s));
+}
+
+TEST_F(SearchAttributes, TellKindsInEnglishWhateverTheUserSpeaks)
+{
+    const QHash<QString, QString> kinds{
+        {u"x.jpg"_s, u"JPEG image"_s},
+        {u"x.png"_s, u"PNG image"_s},
+        {u"x.tif"_s, u"TIFF image"_s},
+        {u"x.gif"_s, u"GIF image"_s},
+        {u"x.bmp"_s, u"Windows BMP image"_s},
+        {u"x.jp2"_s, u"JPEG 2000 image"_s},
+        {u"x.heic"_s, u"HEIF Image"_s},
+        {u"x.heif"_s, u"HEIF Image"_s},
+        {u"x.webp"_s, u"WebP Image"_s},
+        {u"x.psd"_s, u"Adobe Photoshop file"_s},
+        {u"x.pdf"_s, u"PDF Document"_s},
+        {u"x.svg"_s, u"SVG document"_s},
+        {u"x.txt"_s, u"Plain Text Document"_s},
+        {u"x.html"_s, u"HTML text"_s}};
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German));
+    for (auto kind = kinds.begin(); kind != kinds.end(); ++kind)
+        EXPECT_EQ(of(folder.write(kind.key(), "x"), u"Kind"_s), kind.value());
+    QLocale::setDefault(before);
 }
 
 TEST_F(SearchAttributes, TellOfFoldersAndHiddenFiles)

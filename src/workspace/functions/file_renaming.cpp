@@ -21,7 +21,7 @@ void saveAsActionFile(const Subsystems& subsystems)
 {
     const auto file = files::actionFile(subsystems.panels.vwFileManagementRename);
     const QString path = subsystems.toolBox.hSaveWriteDialogFile2(file);
-    cNSFileHandling::hAddIconToFile(path, QImage(u":/pictures/C-ACTION.png"_s));
+    cNSFileHandling::hAddIconToFile(path, files::actionFileIcon());
 }
 
 ResultWord copied(const platform::storage::SourceAndTarget& paths)
