@@ -133,6 +133,8 @@ TEST_F(FileSorter, ComparesWhatThePictureTells)
     EXPECT_THAT(taken(paths), ElementsAre(u"a.jpg"_s));
     byPicture(1, 3, u"20"_s);
     EXPECT_THAT(taken(paths), ElementsAre(u"b.jpg"_s));
+    byPicture(1, 3, u"2"_s);
+    EXPECT_TRUE(taken(paths).isEmpty());
     byPicture(2, 3, u"20"_s);
     EXPECT_THAT(taken(paths), ElementsAre(u"a.jpg"_s));
     byPicture(1, 1, u"4"_s);
@@ -250,6 +252,16 @@ TEST_F(FileSorter, SortsOneFileByItselfOnlyByItsPicture)
     byPicture(1, 3, u"40"_s);
     sorter.hBatchSortPhotos(path);
     EXPECT_THAT(sorted(), ElementsAre(u"a.jpg"_s));
+}
+
+TEST_F(FileSorter, LeavesItsBarAloneWithoutAnAnswer)
+{
+    panel.showSortProgress.setMaximum(7);
+
+    actions.send(u"DVFileSorterRoutine.hSortFiles"_s);
+
+    EXPECT_EQ(chooser.panels.size(), 1);
+    EXPECT_EQ(panel.showSortProgress.maximum(), 7);
 }
 
 TEST_F(FileSorter, NeedsItsValues)

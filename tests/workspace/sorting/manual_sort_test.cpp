@@ -148,6 +148,33 @@ TEST_F(ManualSort, WritesTheChosenType)
     EXPECT_EQ(test::storedPixels(folder.path(u"two/a.png"_s)).size(), QSize(47, 33));
 }
 
+TEST_F(ManualSort, WritesAtTheChosenQuality)
+{
+    controls::PopUpButton& types = panels.vwFileType.pubFileType;
+    controls::PopUpButton& levels = panels.vwFileType.pubJPEGCompressionLevel;
+    types.selectIndex(static_cast<int>(types.titles().indexOf(u"jpeg"_s)));
+    const auto sizeAt = [&](const QString& level) {
+        levels.selectIndex(static_cast<int>(levels.titles().indexOf(level)));
+        send("hCopyFileToFolder", 2);
+        return QFileInfo(folder.path(u"two/a.jpg"_s)).size();
+    };
+
+    const qint64 low = sizeAt(u"1"_s);
+
+    EXPECT_GT(low, 0);
+    EXPECT_LT(low, sizeAt(u"9"_s));
+}
+
+TEST_F(ManualSort, ReplacesAFileByACopyOfAnotherType)
+{
+    const QString old = folder.write(u"two/a.png"_s, "old");
+    panels.vwFileType.pubFileType.selectIndex(1);
+
+    send("hCopyFileToFolder", 2);
+
+    EXPECT_EQ(test::storedPixels(old).size(), QSize(47, 33));
+}
+
 TEST_F(ManualSort, FailsToWriteWhatIsNoPhoto)
 {
     photos.append(nonPhoto(folder.path(u"none.txt"_s)));
