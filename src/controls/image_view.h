@@ -5,11 +5,13 @@
 
 #include <platform/graphics/image.h>
 
+#include <QString>
+
 #include <optional>
 
 namespace brenvaldo::controls {
 
-/// Shows one picture, or nothing.
+/// Shows one picture, or nothing. One that has actions takes files that are dropped on it.
 class ImageView : public Control
 {
 public:
@@ -19,8 +21,14 @@ public:
     void setImage(std::optional<platform::graphics::Image> image);
     void clear() { setImage(std::nullopt); }
 
+    [[nodiscard]] bool takesFiles() const { return !actions().isEmpty(); }
+    /// Path of the file that was dropped last.
+    [[nodiscard]] const QString& droppedFile() const { return m_droppedFile; }
+    void setDroppedFile(const QString& path) { m_droppedFile = path; }
+
 private:
     std::optional<platform::graphics::Image> m_image;
+    QString m_droppedFile;
 };
 
 } // namespace brenvaldo::controls

@@ -5,11 +5,12 @@
 
 namespace brenvaldo::controls {
 
-Slider::Slider(const QString& name, double minimum, double maximum, double value)
+Slider::Slider(const QString& name, double minimum, double maximum, double value, Look look)
     : Control(name)
     , m_minimum(minimum)
     , m_maximum(maximum)
     , m_value(value)
+    , m_look(look)
 {
 }
 

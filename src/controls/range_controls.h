@@ -9,7 +9,16 @@ namespace brenvaldo::controls {
 class Slider : public Control
 {
 public:
-    Slider(const QString& name, double minimum, double maximum, double value);
+    enum class Look {
+        Plain,
+        FadeStrip ///< its groove shows what a fade over that part of a picture leaves
+    };
+
+    Slider(
+        const QString& name, double minimum, double maximum, double value, Look look = Look::Plain
+    );
+
+    [[nodiscard]] Look look() const { return m_look; }
 
     [[nodiscard]] double minimum() const { return m_minimum; }
     [[nodiscard]] double maximum() const { return m_maximum; }
@@ -21,6 +30,7 @@ private:
     double m_minimum;
     double m_maximum;
     double m_value;
+    Look m_look;
 };
 
 /// The bar of a run: hidden while nothing runs.

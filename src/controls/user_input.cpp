@@ -60,6 +60,12 @@ void UserInput::select(TableView& table, int row) const
 
 void UserInput::press(const Button& button) const { sendActions(button); }
 
+void UserInput::drop(ImageView& view, const QString& path) const
+{
+    view.setDroppedFile(path);
+    sendActions(view);
+}
+
 void UserInput::sendActions(const Control& control) const { send(control.actions(), control); }
 
 void UserInput::send(const QStringList& actions, const Control& control) const

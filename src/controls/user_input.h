@@ -5,6 +5,7 @@
 #include "choice_controls.h"
 #include "color_well.h"
 #include "containers.h"
+#include "image_view.h"
 #include "range_controls.h"
 #include "text_controls.h"
 
@@ -29,6 +30,8 @@ public:
     void drag(Slider& slider, double value) const;
     void select(TableView& table, int row) const;
     void press(const Button& button) const;
+    /// Lets go of a file above a picture.
+    void drop(ImageView& view, const QString& path) const;
 
 private:
     void sendActions(const Control& control) const;

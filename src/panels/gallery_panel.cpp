@@ -79,7 +79,8 @@ GalleryPanel::GalleryPanel()
          thumbnailRows(),
          thumbnailLookRows(),
          largePictureRows(),
-         boxRows()}
+         boxRows(),
+         patternImageRows()}
     ));
 }
 

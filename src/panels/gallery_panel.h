@@ -4,6 +4,7 @@
 #include "common_titles.h"
 #include "gallery_titles.h"
 #include "layout.h"
+#include "pattern_image_controls.h"
 
 #include <controls/color_well.h>
 #include <controls/range_controls.h>
@@ -13,7 +14,7 @@
 namespace brenvaldo::panels {
 
 /// Web galleries: pages, texts, thumbnails, large pictures and the box that shows them.
-struct GalleryPanel : PanelView
+struct GalleryPanel : PanelView, PatternImageControls
 {
     GalleryPanel();
 

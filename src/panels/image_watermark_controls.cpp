@@ -55,7 +55,8 @@ void ImageWatermarkControls::giveTags()
              &tfWatermarkFilterSize,
              &tfLineScreenAngle,
              &tfCenterCircularWidth,
-             &tfCenterCircularHeight}) {
+             &tfCenterCircularHeight,
+             &tfWaterMarkImageFilePath}) {
         field->setTag(tag++);
         field->addAction(endEditingAction());
     }
@@ -63,6 +64,7 @@ void ImageWatermarkControls::giveTags()
 
 void ImageWatermarkControls::giveActions()
 {
+    iwWaterMarkImage.addAction(u"DVWatermark.hDropWatermarkImage"_s);
     mxImageScaleProperty.addAction(u"DVWatermark.hImageWatermarkSizeEntred"_s);
     pubRenderMethod.addAction(u"DVWatermark.hOpacityRenderMethodSelector"_s);
     scImageWaterMarkPos.addAction(u"DVWatermark.hImageWatermarkPositionSelector"_s);
@@ -88,8 +90,14 @@ Layout ImageWatermarkControls::imageRows()
         {Row{
             .fields
             = {{.control = &iwWaterMarkImage, .accessibleName = u"The watermark image"_s}}}},
-        {Row{.label = u"Look in"_s, .fields = {{.control = &pubImageLookUp}}}},
+        {Row{
+            .label = u"Look in"_s,
+            .fields = {{.control = &pubImageLookUp}, {.control = &btnChooseWatermarkImage}}}},
         {Row{.fields = {{.control = &cbImageFromLib}}}},
+        {Row{
+            .label = u"Libraries"_s,
+            .fields
+            = {{.control = &btnImportWatermarkImages}, {.control = &btnImportPatternImages}}}},
     };
 }
 

@@ -3,6 +3,7 @@
 
 #include "common_titles.h"
 #include "layout.h"
+#include "pattern_image_controls.h"
 
 #include <controls/color_well.h>
 #include <controls/image_view.h>
@@ -19,8 +20,19 @@ struct ImageWatermarkControls
 
     controls::TextField tfWaterMarkImageFilePath{u"tfWaterMarkImageFilePath"_s};
     controls::ImageView iwWaterMarkImage{u"iwWaterMarkImage"_s};
-    controls::PopUpButton pubImageLookUp{
-        u"pubImageLookUp"_s, {u"Last folder"_s, u"Watermark library"_s, u"Pattern library"_s}};
+    controls::PopUpButton pubImageLookUp{u"pubImageLookUp"_s, imageLookUpTitles()};
+    controls::Button btnChooseWatermarkImage{
+        u"btnChooseWatermarkImage"_s,
+        u"Choose Image\u2026"_s,
+        u"DVWatermark.hChooseWatermarkImage"_s};
+    controls::Button btnImportWatermarkImages{
+        u"btnImportWatermarkImages"_s,
+        u"Add Images\u2026"_s,
+        u"DVWatermark.hImportWatermarkImages"_s};
+    controls::Button btnImportPatternImages{
+        u"btnImportPatternImages"_s,
+        u"Add Patterns\u2026"_s,
+        u"DVWatermark.hImportPatternImages"_s};
     controls::CheckBox cbImageFromLib{u"cbImageFromLib"_s, u"Image from the library"_s};
 
     controls::Matrix mxImageScaleProperty{
@@ -67,7 +79,8 @@ struct ImageWatermarkControls
 
     controls::CheckBox cbImageFadeOut{u"cbImageFadeOut"_s, u"Fade out"_s};
     controls::TextField tfImageFadeOutAngle{u"tfImageFadeOutAngle"_s, u"0"_s};
-    controls::Slider sliderFadeOutValue{u"sliderFadeOutValue"_s, 0.0, 1.0, 0.5};
+    controls::Slider sliderFadeOutValue{
+        u"sliderFadeOutValue"_s, 0.0, 1.0, 0.5, controls::Slider::Look::FadeStrip};
     controls::CheckBox cbCircularFadeOut{u"cbCircularFadeOut"_s, u"Circular"_s};
     controls::CheckBox cbCircularInvertFadeOut{u"cbCircularInvertFadeOut"_s, u"From the middle"_s};
 

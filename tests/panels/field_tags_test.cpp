@@ -148,7 +148,8 @@ INSTANTIATE_TEST_SUITE_P(
              u"tfWatermarkFilterSize"_s,
              u"tfLineScreenAngle"_s,
              u"tfCenterCircularWidth"_s,
-             u"tfCenterCircularHeight"_s}}
+             u"tfCenterCircularHeight"_s,
+             u"tfWaterMarkImageFilePath"_s}}
     ),
     test::CaseName{}
 );

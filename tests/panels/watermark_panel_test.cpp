@@ -31,7 +31,7 @@ TEST(WatermarkPanel, GivesEveryFieldATagOfItsFunction)
     const panels::Panels panels;
 
     EXPECT_EQ(countOfTags(panels, 200, 299), 11);
-    EXPECT_EQ(countOfTags(panels, 300, 399), 13);
+    EXPECT_EQ(countOfTags(panels, 300, 399), 14);
 }
 
 TEST(WatermarkPanel, KnowsItsControlsByTheirOtherNames)

@@ -287,11 +287,18 @@ void Binder::bind(QProgressBar& widget, const controls::ProgressIndicator& contr
     });
 }
 
-void Binder::bind(PictureView& widget, const controls::ImageView& control) const
+void Binder::bind(PictureView& widget, controls::ImageView& control) const
 {
     followControl(widget, control, [&widget, &control] {
         widget.setPicture(control.image() ? control.image()->toQImage() : QImage());
     });
+    widget.setAcceptDrops(control.takesFiles());
+    QObject::connect(
+        &widget,
+        &PictureView::fileDropped,
+        &widget,
+        [this, &control](const QString& path) { m_input.drop(control, path); }
+    );
 }
 
 } // namespace brenvaldo::views

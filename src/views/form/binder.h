@@ -52,7 +52,8 @@ public:
     void bindKeys(RowsTable& widget, const panels::Table& table) const;
     void bind(QAbstractButton& widget, controls::Button& control) const;
     void bind(QProgressBar& widget, const controls::ProgressIndicator& control) const;
-    void bind(PictureView& widget, const controls::ImageView& control) const;
+    /// A picture that takes files gets those that are dropped on it.
+    void bind(PictureView& widget, controls::ImageView& control) const;
 
     [[nodiscard]] const controls::UserInput& input() const { return m_input; }
 

@@ -3,6 +3,7 @@
 
 #include "button_faces.h"
 #include "color_well.h"
+#include "fade_slider.h"
 #include "form_rows.h"
 #include "holder_view.h"
 #include "picture_view.h"
@@ -175,7 +176,13 @@ QWidget* FormBuilder::makeField(const panels::Field& field, QWidget* parent) con
     if (auto* well = as<controls::ColorWell>(field))
         return bound(m_binder, new ColorWell(parent), *well);
     if (auto* slider = as<controls::Slider>(field))
-        return bound(m_binder, new QSlider(Qt::Horizontal, parent), *slider);
+        return bound(
+            m_binder,
+            slider->look() == controls::Slider::Look::FadeStrip
+                ? new FadeSlider(parent)
+                : new QSlider(Qt::Horizontal, parent),
+            *slider
+        );
     if (auto* table = as<controls::TableView>(field))
         return bound(m_binder, new RowsTable({}, parent), *table);
     if (auto* bar = as<controls::ProgressIndicator>(field))

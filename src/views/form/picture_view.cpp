@@ -3,10 +3,24 @@
 
 #include <views/look/style_painting.h>
 
+#include <QDropEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QStyle>
+#include <QUrl>
 
 namespace brenvaldo::views {
+
+namespace {
+
+/// The one local file that is dragged; empty for anything else.
+QString draggedFile(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.first().toLocalFile() : QString();
+}
+
+} // namespace
 
 PictureView::PictureView(QWidget* parent)
     : QWidget(parent)
@@ -23,7 +37,9 @@ void PictureView::setPicture(const QImage& picture)
 void PictureView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    paintFieldFrame(painter, rect(), fieldFrame(QStyle::State_Enabled));
+    FieldFrame frame = fieldFrame(QStyle::State_Enabled);
+    frame.focused = m_isTarget;
+    paintFieldFrame(painter, rect(), frame);
     if (m_picture.isNull())
         return;
     const QRect room = rect().adjusted(8, 8, -8, -8);
@@ -35,6 +51,29 @@ void PictureView::paintEvent(QPaintEvent*)
     QRectF target(QPointF(), fitted.deviceIndependentSize());
     target.moveCenter(QRectF(room).center());
     painter.drawImage(target, fitted);
+}
+
+void PictureView::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (draggedFile(*event->mimeData()).isEmpty())
+        return;
+    event->acceptProposedAction();
+    showsTarget(true);
+}
+
+void PictureView::dragLeaveEvent(QDragLeaveEvent* /*event*/) { showsTarget(false); }
+
+void PictureView::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    showsTarget(false);
+    emit fileDropped(draggedFile(*event->mimeData()));
+}
+
+void PictureView::showsTarget(bool isTarget)
+{
+    m_isTarget = isTarget;
+    update();
 }
 
 } // namespace brenvaldo::views

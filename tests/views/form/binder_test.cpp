@@ -6,6 +6,8 @@
 #include <support/text_printing.h>
 #include <views/form/binder.h>
 #include <views/form/color_well.h>
+#include <views/form/fade_slider.h>
+#include <views/form/picture_view.h>
 #include <views/form/pop_up.h>
 #include <views/form/radio_column.h>
 #include <views/form/rows_table.h>
@@ -16,6 +18,8 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSlider>
 #include <QTabBar>
@@ -263,6 +267,98 @@ TEST_F(Binder, DragsASliderByKey)
 
     EXPECT_GT(control.doubleValue(), 5);
     EXPECT_EQ(sent.names, QStringList{u"sr"_s});
+}
+
+namespace {
+
+/// Drags local files above a picture and lets go; false when it does not take them.
+bool dropOn(views::PictureView& picture, const QStringList& paths)
+{
+    QMimeData files;
+    QList<QUrl> urls;
+    for (const QString& path : paths)
+        urls.append(QUrl::fromLocalFile(path));
+    files.setUrls(urls);
+    QDragEnterEvent enter({4, 4}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(&picture, &enter);
+    if (!enter.isAccepted())
+        return false;
+    QDropEvent drop({4, 4}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&picture, &drop);
+    return drop.isAccepted();
+}
+
+} // namespace
+
+TEST_F(Binder, GivesAPictureTheFileThatIsDroppedOnIt)
+{
+    controls::ImageView control(u"iwImage"_s);
+    sent.watch(control);
+    auto* picture = new views::PictureView(&window);
+    binder.bind(*picture, control);
+    show(picture);
+
+    EXPECT_TRUE(dropOn(*picture, {u"/logo.png"_s}));
+
+    EXPECT_EQ(control.droppedFile(), u"/logo.png"_s);
+    EXPECT_EQ(sent.names, QStringList{u"iwImage"_s});
+    EXPECT_FALSE(dropOn(*picture, {u"/a.png"_s, u"/b.png"_s}));
+    EXPECT_FALSE(dropOn(*picture, {}));
+}
+
+TEST_F(Binder, DropsNothingOnAPictureWithoutActions)
+{
+    controls::ImageView control(u"iwImage"_s);
+    auto* picture = new views::PictureView(&window);
+
+    binder.bind(*picture, control);
+
+    EXPECT_FALSE(picture->acceptDrops());
+}
+
+TEST_F(Binder, ShowsAPictureAndThatAFileHoversAboveIt)
+{
+    controls::ImageView control(u"iwImage"_s);
+    sent.watch(control);
+    auto* picture = new views::PictureView(&window);
+    binder.bind(*picture, control);
+    show(picture);
+    const QImage empty = picture->grab().toImage();
+
+    QMimeData file;
+    file.setUrls({QUrl::fromLocalFile(u"/logo.png"_s)});
+    QDragEnterEvent enter({4, 4}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(picture, &enter);
+    EXPECT_NE(picture->grab().toImage(), empty);
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(picture, &leave);
+    EXPECT_EQ(picture->grab().toImage(), empty);
+
+    QImage image(20, 10, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    control.setImage(platform::graphics::Image::fromQImage(image));
+    EXPECT_NE(picture->grab().toImage(), empty);
+}
+
+TEST_F(Binder, ShowsWhatAFadeLeavesAboveItsSlider)
+{
+    controls::Slider control(u"slider"_s, 0, 1, 0.2, controls::Slider::Look::FadeStrip);
+    auto* slider = new views::FadeSlider(&window);
+    binder.bind(*slider, control);
+    show(slider);
+    const auto strip
+        = [slider] { return slider->grab(QRect(0, 0, slider->width(), 14)).toImage(); };
+    const QImage narrow = strip();
+
+    control.setDoubleValue(0.9);
+
+    const QImage wide = strip();
+    EXPECT_NE(wide, narrow);
+    EXPECT_GT(slider->sizeHint().height(), QSlider(Qt::Horizontal).sizeHint().height());
+    // The handle keeps below the strip.
+    control.setDoubleValue(1);
+    EXPECT_EQ(strip().pixelColor(slider->width() - 1, 7), wide.pixelColor(slider->width() - 1, 7));
 }
 
 TEST_F(Binder, SelectsATableRowAndFollowsItsRows)
