@@ -22,6 +22,7 @@ struct WatermarkPanel;
 
 namespace brenvaldo::watermark {
 
+class KeptMarks;
 class KeptProperties;
 
 /// What the batch driver gives to a watermark run.
@@ -31,8 +32,8 @@ struct WatermarkRun
     QString destination; ///< folder, ends in "/"
     QString outputType; ///< type identifier, or "original file type"
     QString compressionLevel;
-    QString fileNameText; ///< not used by the text watermark
-    int photoProperty = 0; ///< not used by the text watermark
+    QString fileNameText; ///< not used
+    int photoProperty = 0; ///< not used
 };
 
 /// Draws the watermarks of the panel on photos, for runs and for the preview.
@@ -63,14 +64,39 @@ public:
     [[nodiscard]] std::optional<platform::graphics::Image>
     setWatermarkTextPreview(const QString& path);
 
+    /// Marks every photo of the run with the image, for the destination; answers as the text does.
+    ///
+    /// No image, and one that can't be read, end the run with "IOFailure" for the photo. A photo
+    /// that can't be read fails, and the run goes on.
+    QString setWatermarkImage(const WatermarkRun& run, imaging::PictureSink& sink);
+
+    /// The photo at `path` with its mark; nothing without an image or a readable photo. No file is
+    /// written, and the mark is not laid before the first pixel is asked for.
+    [[nodiscard]] std::optional<platform::graphics::Image>
+    setWatermarkImagePreview(const QString& path);
+
 private:
     enum class Step { GoOn, EndRun };
     using MakeMark = std::function<platform::drawing::Stamp()>;
 
-    Step markPhoto(const WatermarkRun& run, const QString& path, imaging::PictureSink& sink);
+    using MarkPhoto
+        = Step (DVWatermark::*)(const WatermarkRun&, const QString&, imaging::PictureSink&);
+
+    /// The loop over the photos of a run.
+    QString
+    markPhotos(const WatermarkRun& run, imaging::PictureSink& sink, int stages, MarkPhoto mark);
+    Step
+    markPhotoWithText(const WatermarkRun& run, const QString& path, imaging::PictureSink& sink);
+    Step
+    markPhotoWithImage(const WatermarkRun& run, const QString& path, imaging::PictureSink& sink);
     void finishStages(int stages);
-    [[nodiscard]] std::optional<platform::graphics::Image>
-    openedForRun(const QString& path, TextEffect effect) const;
+    /// Hands a photo's picture over to be saved.
+    void save(
+        const WatermarkRun& run,
+        const QString& path,
+        const std::optional<platform::graphics::Image>& picture,
+        imaging::PictureSink& sink
+    ) const;
     /// Makes the mark of a photo from the settings as they are now, on any thread.
     [[nodiscard]] MakeMark markOf(
         const platform::graphics::Image& photo,
@@ -81,6 +107,7 @@ private:
     Surroundings m_surroundings;
     controls::Progress m_progress;
     std::shared_ptr<KeptProperties> m_properties; ///< shared with marks that are still to be drawn
+    std::shared_ptr<KeptMarks> m_marks; ///< shared with previews that are still to be drawn
     double m_step = 0;
     QString m_outputName;
 };

@@ -38,18 +38,6 @@ bool isRepeated(PixelSize cell)
         && std::max(cell.width, cell.height) <= longestDrawnSide;
 }
 
-/// `layer` at the strength of the drawing fraction.
-QImage faded(const QImage& layer, double fraction)
-{
-    QImage image = transparentImage(layer.size());
-    if (image.isNull())
-        return image;
-    QPainter painter(&image);
-    painter.setOpacity(fraction);
-    painter.drawImage(0, 0, layer);
-    return image;
-}
-
 Stamp stampOf(const PlacedLayer& piece)
 {
     return {.layer = piece.image, .topLeft = piece.topLeft, .repeat = Stamp::Repeat::Once};
@@ -79,7 +67,7 @@ Stamp stampOnce(const TextWatermarkSettings& settings, const TextOverlay& overla
         if (seen.isEmpty())
             return {};
         return {
-            .image = faded(overlay.rendered(seen), settings.opacity),
+            .image = atOpacity(overlay.rendered(seen), settings.opacity),
             .topLeft = topLeft + seen.topLeft()};
     };
     return stampOf(shownIn(rectOf(photo), settings, render));
@@ -190,7 +178,7 @@ Stamp stampTiled(const TextWatermarkSettings& settings, const TextOverlay& overl
     const auto render = [&](const QRect& area) -> PlacedLayer {
         const QRect drawn = area.intersected(tiled);
         return {
-            .image = faded(cellsOnPhoto(overlay, cell, corner, drawn), settings.opacity),
+            .image = atOpacity(cellsOnPhoto(overlay, cell, corner, drawn), settings.opacity),
             .topLeft = drawn.topLeft()};
     };
     return stampOf(shownIn(rectOf(photo), settings, render));

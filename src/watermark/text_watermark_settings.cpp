@@ -1,22 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text_watermark_settings.h"
 
-#include <panels/text_watermark_controls.h>
+#include "offset_field.h"
 
-#include <algorithm>
+#include <panels/text_watermark_controls.h>
 
 namespace brenvaldo::watermark {
 
 namespace {
 
 int orDefault(int value, int fallback) { return value == 0 ? fallback : value; }
-
-/// Offsets are limited: beyond this no layer touches a photo.
-int offsetOf(const controls::TextField& field)
-{
-    constexpr int farthest = 1 << 24;
-    return std::clamp(field.intValue(), -farthest, farthest);
-}
 
 platform::drawing::UnderlineStyle underlineOfIndex(int index)
 {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPainter>
 
 namespace brenvaldo::watermark {
 
@@ -10,6 +11,18 @@ namespace brenvaldo::watermark {
 {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
+    return image;
+}
+
+/// `layer` at the strength of a drawing fraction.
+[[nodiscard]] inline QImage atOpacity(const QImage& layer, double fraction)
+{
+    QImage image = transparentImage(layer.size());
+    if (image.isNull())
+        return image;
+    QPainter painter(&image);
+    painter.setOpacity(fraction);
+    painter.drawImage(0, 0, layer);
     return image;
 }
 
