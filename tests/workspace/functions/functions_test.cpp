@@ -126,6 +126,7 @@ TEST(Functions, OfThisVersionAreThese)
         idsOf([](const auto& row) { return workspace::hasOperation(row.run); }),
         UnorderedElementsAre(
             u"textWM"_s,
+            u"imageWM"_s,
             u"addTint"_s,
             u"framing"_s,
             u"roundings"_s,
@@ -144,6 +145,7 @@ TEST(Functions, OfThisVersionAreThese)
         idsOf([](const auto& row) { return static_cast<bool>(row.preview); }),
         UnorderedElementsAre(
             u"textWM"_s,
+            u"imageWM"_s,
             u"addTint"_s,
             u"framing"_s,
             u"roundings"_s,
