@@ -18,6 +18,7 @@
 #include <services/code_actions.h>
 #include <watermark/dv_watermark.h>
 #include <watermark/panel_actions.h>
+#include <workspace/functions/image_libraries.h>
 #include <workspace/functions/preset_records.h>
 #include <workspace/run/photos_of_run.h>
 #include <workspace/sorting/file_sorter.h>
@@ -143,6 +144,13 @@ struct Workspace::Parts
               [this] { return presetRecords.recordOf(selectedFunction()); }
           )
         , colorWells(panels)
+        , imageLibraries(
+              {.panels = panels,
+               .chooser = surroundings.chooser,
+               .defaults = surroundings.defaults,
+               .notifications = notifications,
+               .setLibraryDestination = [this] { sheetControl.setLibraryDestination(); }}
+          )
         , manualSort(
               {.subsystems = subsystems,
                .desktop = surroundings.desktop,
@@ -215,6 +223,7 @@ struct Workspace::Parts
         panels.vwQRBarCode, [this](const QString& title, const QString& text) {
             guiControls.hAlertWindow(title, text);
         }};
+    ImageLibraries imageLibraries;
     ManualSort manualSort;
     DVFileSorterRoutine fileSorter;
     platform::Subscription presetApplied;
@@ -234,6 +243,7 @@ void Workspace::Parts::registerActions()
     colorWells.registerActions(actions);
     codeActions.registerActions(actions);
     responsiveDesign.registerActions(actions);
+    imageLibraries.registerActions(actions);
     manualSort.registerActions(actions);
     fileSorter.registerActions(actions);
     actions.add(u"mMeta"_s, u"btApplyExifUserComment"_s, [this](const controls::Sender&) {
