@@ -125,6 +125,41 @@ TEST(ImageWatermarkRecord, LeavesTheStoredTextInTheFieldWhenTheImageIsGone)
     EXPECT_FALSE(image.tfWaterMarkImageFilePath.stringValue().isEmpty());
 }
 
+TEST(ImageWatermarkRecord, DoesNotFollowAnImageThatHasMoved)
+{
+    Bench bench(u"imageWM"_s);
+    auto& image = bench.panels.vwWatermark;
+    const test::TemporaryFolder& folder = bench.file.folder();
+    const QString logo = test::PhotoBuilder().size(31, 17).write(folder.path(u"logo.png"_s));
+    image.tfWaterMarkImageFilePath.setStringValue(logo);
+    bench.save(u"A"_s);
+    ASSERT_TRUE(QFile::rename(logo, folder.path(u"sign.png"_s)));
+
+    bench.apply(0);
+    EXPECT_EQ(image.tfWaterMarkImageFilePath.stringValue(), bench.stored(u"A"_s, 13));
+    EXPECT_FALSE(image.iwWaterMarkImage.image());
+
+    ASSERT_TRUE(QFile::rename(folder.path(u"sign.png"_s), logo));
+    bench.apply(0);
+    EXPECT_EQ(image.tfWaterMarkImageFilePath.stringValue(), logo);
+    EXPECT_TRUE(image.iwWaterMarkImage.image());
+}
+
+TEST(ImageWatermarkRecord, KeepsThePathOfAFileThatIsNoImageAnyMore)
+{
+    Bench bench(u"imageWM"_s);
+    auto& image = bench.panels.vwWatermark;
+    const QString logo = bench.file.folder().write(u"logo.png"_s, "no image");
+    image.tfWaterMarkImageFilePath.setStringValue(logo);
+    bench.save(u"A"_s);
+    image.tfWaterMarkImageFilePath.setStringValue(QString());
+
+    bench.apply(0);
+
+    EXPECT_EQ(image.tfWaterMarkImageFilePath.stringValue(), logo);
+    EXPECT_FALSE(image.iwWaterMarkImage.image());
+}
+
 TEST(ImageWatermarkRecord, NeverSwitchesTheSimulationOn)
 {
     Bench bench(u"imageWM"_s);
