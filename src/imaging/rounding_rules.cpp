@@ -21,10 +21,6 @@ Shape shapeAt(int index)
 /// A quarter of a circle, clockwise from an angle in degrees.
 void addQuarter(QPainterPath& path, QPointF centre, double radius, double from)
 {
-    if (radius <= 0) {
-        path.lineTo(centre);
-        return;
-    }
     // The painter's angles run the other way round in a drawing that is measured upward.
     path.arcTo(QRectF(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius), -from, 90);
 }
