@@ -244,7 +244,7 @@ TEST_P(ShapeLook, IsTheSameOnAScreenThatIsSmaller)
 
     EXPECT_TRUE(large.node() != screen.node());
     ASSERT_EQ(screen.pixelSize(), size);
-    EXPECT_LT(difference(onGrey(screen), onGrey(large.scaledTo(size))), 1.5);
+    EXPECT_LT(difference(onGrey(screen), onGrey(large.copiedToMemory()->scaledTo(size))), 1.5);
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, ShapeLook, testing::ValuesIn(lookCases), [](const auto& row) {
