@@ -3,6 +3,8 @@
 
 #include "region_kernel.h"
 
+#include <cstdint>
+
 namespace brenvaldo::platform::graphics {
 
 namespace {
@@ -22,6 +24,14 @@ Profile srgbGrayProfile()
     Profile profile(cmsCreateGrayProfile(&daylight, curve));
     cmsFreeToneCurve(curve);
     return profile;
+}
+
+/// The engine makes a table of colours for each transform, which takes as long as this many pixels
+/// do without one.
+cmsUInt32Number noTableForFew(const vips::VImage& pixels)
+{
+    constexpr std::int64_t many = 1 << 16;
+    return std::int64_t{pixels.width()} * pixels.height() < many ? cmsFLAGS_NOOPTIMIZE : 0U;
 }
 
 cmsUInt32Number sampleLayout(ColorModel model, bool hasAlpha, VipsBandFormat format)
@@ -125,7 +135,8 @@ vips::VImage transformed(
         from,
         to,
         // The one-pixel cache is not safe when several threads share a transform.
-        cmsFLAGS_NOCACHE | (compensates ? cmsFLAGS_BLACKPOINTCOMPENSATION : 0U)
+        cmsFLAGS_NOCACHE | noTableForFew(pixels)
+            | (compensates ? cmsFLAGS_BLACKPOINTCOMPENSATION : 0U)
             | (hasAlpha ? cmsFLAGS_COPY_ALPHA : 0U),
         rendering.intent
     );
