@@ -16,14 +16,10 @@ using platform::graphics::PixelSize;
 namespace {
 
 /// The filters of single pixels, and those of radii, which shrink with the photo.
-bool looksTheSameSmaller(int number)
+bool isTheSameSmaller(int number)
 {
-    constexpr int patterns[] = {3, 4, 5, 6, 7, 8, 9, 10, 14, 19, 20};
-    constexpr int canvases[] = {12, 13};
-    const auto isOneOf = [number](const auto& numbers) {
-        return std::find(std::begin(numbers), std::end(numbers), number) != std::end(numbers);
-    };
-    return !isOneOf(patterns) && !isOneOf(canvases);
+    constexpr int others[] = {3, 4, 5, 6, 7, 8, 9, 10, 12, 13, 14, 19, 20}; // patterns, canvases
+    return std::find(std::begin(others), std::end(others), number) == std::end(others);
 }
 
 FilterSettings shrunk(FilterSettings settings, float scale)
@@ -33,19 +29,27 @@ FilterSettings shrunk(FilterSettings settings, float scale)
     return settings;
 }
 
+Image smallerFilteredPhoto(const Image& photo, const FilterSettings& settings, PixelSize size)
+{
+    const Image small = scaledForScreen(photo, size);
+    const auto scale = static_cast<float>(size.width) / static_cast<float>(photo.width());
+    return filteredPhoto(small, shrunk(settings, scale)).value_or(small);
+}
+
 } // namespace
 
-Image quicklyLookedAt(const Image& filtered, const Image& photo, const FilterSettings& settings)
+Image previewOf(const Image& filtered, const Image& photo, const FilterSettings& settings)
 {
-    if (!looksTheSameSmaller(settings.number))
-        return filtered;
-    return platform::graphics::drawnSmallerBy(filtered, [photo, settings](PixelSize size) {
-        const Image small = scaledForScreen(photo, size);
-        const auto scale = static_cast<float>(size.width) / static_cast<float>(photo.width());
-        return platform::codecs::throughJpeg(
-            filteredPhoto(small, shrunk(settings, scale)).value_or(small)
-        );
-    });
+    using platform::codecs::throughJpeg;
+    return platform::graphics::drawnSmallerBy(
+        throughJpeg(filtered),
+        [filtered, photo, settings](PixelSize size) {
+            return throughJpeg(
+                isTheSameSmaller(settings.number) ? smallerFilteredPhoto(photo, settings, size)
+                                                  : scaledForScreen(filtered, size)
+            );
+        }
+    );
 }
 
 } // namespace brenvaldo::imaging

@@ -7,10 +7,10 @@
 
 namespace brenvaldo::imaging {
 
-/// `filtered`, which the filter of the settings has made of `photo`. A look at it on a screen takes
-/// the photo at that size first, where the filter makes the same of it: patterns of pixels are made
-/// at full size.
-[[nodiscard]] platform::graphics::Image quicklyLookedAt(
+/// `filtered`, which the filter of the settings has made of `photo`, as a run writes it. A look at
+/// it on a screen takes the photo at that size first, where the filter makes the same of it:
+/// patterns of pixels are made at full size.
+[[nodiscard]] platform::graphics::Image previewOf(
     const platform::graphics::Image& filtered,
     const platform::graphics::Image& photo,
     const FilterSettings& settings

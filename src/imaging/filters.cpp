@@ -68,9 +68,7 @@ std::optional<Image>
 DVColorConversions::hAddFilterPreview(const Image& photo, const FilterSettings& settings)
 {
     const auto result = filteredPhoto(photo, settings);
-    if (!result)
-        return std::nullopt;
-    return quicklyLookedAt(throughJpeg(*result), photo, settings);
+    return result ? std::optional(previewOf(*result, photo, settings)) : std::nullopt;
 }
 
 Image DVColorConversions::hCircularScreenFilter(const Image& image, const ScreenSettings& settings)

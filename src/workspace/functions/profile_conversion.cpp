@@ -4,6 +4,7 @@
 #include <imaging/dv_color_conversions.h>
 #include <imaging/profile_settings.h>
 #include <panels/panels.h>
+#include <platform/graphics/screen_scaling.h>
 #include <presets/image_records.h>
 #include <workspace/preview/photo_preview.h>
 
@@ -29,10 +30,33 @@ PhotoRun::Start runWith(const Conversions& conversions)
     };
 }
 
+using platform::graphics::Image;
+
+/// A look at the converted photo on a screen takes the photo at that size first. `conversions` is a
+/// copy: the look is made while the list may be filled anew.
+std::optional<Image> previewOf(
+    const imaging::DVColorConversions& conversions,
+    const std::optional<Image>& photo,
+    const imaging::ProfileSettings& settings
+)
+{
+    const auto converted = conversions.convertColorSpaceToPreview(photo, settings);
+    if (!converted)
+        return std::nullopt;
+    return withSmallerForm(
+        *converted,
+        [conversions, photo = *photo, settings](platform::graphics::PixelSize size) {
+            const Image small = scaledForScreen(photo, size);
+            return conversions.convertColorSpaceToPreview(small, settings).value_or(small);
+        }
+    );
+}
+
 Function::Preview previewWith(const Conversions& conversions)
 {
     return [conversions](const Subsystems& subsystems, const QString& path) {
-        return conversions->convertColorSpaceToPreview(
+        return previewOf(
+            *conversions,
             subsystems.previewPhotos.photo(path),
             imaging::readSettings(subsystems.panels.vwProfileConversion)
         );
