@@ -62,7 +62,7 @@ private:
             return -1;
         thread_local std::vector<float> strip;
         strip.resize(samplesOf(wide.width) * static_cast<std::size_t>(out->valid.height));
-        blurDownwards(input, out->valid, strip);
+        blurDownwards(input, inside, out->valid, strip);
         for (int y = 0; y < out->valid.height; ++y)
             blurSideways(&strip[samplesOf(wide.width) * static_cast<std::size_t>(y)], out, y);
         return 0;
@@ -80,19 +80,21 @@ private:
 
     /// Some columns at a time, which are put together first: rows of a large picture lie too far
     /// from each other for the processor's caches.
-    void blurDownwards(VipsRegion* input, const VipsRect& area, std::vector<float>& strip) const
+    void blurDownwards(
+        VipsRegion* input, const VipsRect& inside, const VipsRect& area, std::vector<float>& strip
+    ) const
     {
         constexpr std::size_t columns = 128;
         thread_local std::vector<float> block;
         const VipsRect wide = grown(area);
         block.resize(columns * static_cast<std::size_t>(wide.height));
-        float* first = strip.data() + samplesOf(input->valid.left - wide.left);
-        const std::size_t count = samplesOf(input->valid.width);
+        float* first = strip.data() + samplesOf(inside.left - wide.left);
+        const std::size_t count = samplesOf(inside.width);
         for (std::size_t done = 0; done < count; done += columns) {
             const std::size_t width = std::min(columns, count - done);
             for (int i = 0; i < wide.height; ++i)
                 std::copy_n(
-                    samples(input, input->valid.left, rowInside(wide.top + i)) + done,
+                    samples(input, inside.left, rowInside(wide.top + i)) + done,
                     width,
                     block.data() + columns * static_cast<std::size_t>(i)
                 );
