@@ -9,7 +9,7 @@ namespace brenvaldo::platform::containers {
 namespace {
 
 constexpr std::uint64_t entryLength = 12;
-constexpr qsizetype inlineLength = 4;
+constexpr qsizetype inlineBytes = 4;
 /// Far more than any honest directory has; there is room for some more.
 constexpr std::uint64_t mostEntries = 60000;
 
@@ -136,7 +136,7 @@ private:
         );
         const std::uint64_t length = width * numberAt(entry, 4, 4);
         const std::uint64_t start = numberAt(entry, 8, 4);
-        return length > inlineLength ? Extent{start, start + length} : Extent{};
+        return length > inlineBytes ? Extent{start, start + length} : Extent{};
     }
 
     /// The length of the file without the unused extents that stand at its end.
@@ -170,8 +170,8 @@ private:
         appendUnsigned(entry, field.tag, 2, m_order);
         appendUnsigned(entry, field.type, 2, m_order);
         appendUnsigned(entry, static_cast<std::uint64_t>(field.value.size() / width), 4, m_order);
-        if (field.value.size() <= inlineLength)
-            return entry + field.value.leftJustified(inlineLength, '\0');
+        if (field.value.size() <= inlineBytes)
+            return entry + field.value.leftJustified(inlineBytes, '\0');
         appendUnsigned(entry, nextOffset(), 4, m_order);
         m_tail.append(field.value);
         if (m_tail.size() % 2 != 0)
@@ -240,7 +240,7 @@ std::optional<QByteArray> tiffWithExifValue(const QByteArray& bytes, const TiffF
     const TiffField* former = fieldOf(exif, field.tag);
     const qsizetype room = former ? former->value.size() : 0;
     if (!former || former->type != field.type || field.value.size() > room
-        || field.value.size() <= inlineLength)
+        || field.value.size() <= inlineBytes)
         return std::nullopt;
 
     QByteArray entry;

@@ -43,7 +43,7 @@ std::optional<Image> previewOf(
     const auto converted = conversions.convertColorSpaceToPreview(photo, settings);
     if (!converted)
         return std::nullopt;
-    return withSmallerForm(
+    return drawnSmallerBy(
         *converted,
         [conversions, photo = *photo, settings](platform::graphics::PixelSize size) {
             const Image small = scaledForScreen(photo, size);
