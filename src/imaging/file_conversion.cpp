@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "file_conversion.h"
 
+#include "dv_image_handling.h"
 #include "failure_log.h"
-#include "source_photo.h"
 
 #include <platform/codecs/image_destination.h>
 #include <platform/foundation/literals.h>
@@ -18,8 +18,6 @@
 #include <tuple>
 
 namespace brenvaldo::imaging {
-
-using platform::codecs::SourceAccess;
 
 namespace {
 
@@ -38,11 +36,11 @@ bool isWhole(const platform::graphics::Image& photo)
 /// fails without a disk, too. A damaged photo is another matter.
 bool isRefused(const QString& path, platform::codecs::FileFormat format)
 {
-    const auto photo = storedPhoto(path, SourceAccess::OnePass);
+    const auto photo = DVImageHandling::hStringToCGImageRef(path);
     if (!photo)
         return true;
     return isWhole(*photo)
-        && !platform::codecs::canEncode(*storedPhoto(path, SourceAccess::OnePass), format, {});
+        && !platform::codecs::canEncode(*DVImageHandling::hStringToCGImageRef(path), format, {});
 }
 
 bool writeConverted(const PictureToSave& picture, const ConversionRule& rule)
@@ -111,7 +109,7 @@ std::optional<PictureToSave> converted(
 
 std::optional<platform::graphics::Image> photoOf(const FileConversion::Settings& settings)
 {
-    return storedPhoto(settings.source, SourceAccess::OnePass);
+    return DVImageHandling::hStringToCGImageRef(settings.source);
 }
 
 std::optional<PictureToSave> convertedByType(const FileConversion::Settings& settings)

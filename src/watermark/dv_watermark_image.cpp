@@ -14,13 +14,13 @@ namespace brenvaldo::watermark {
 namespace {
 
 // The bar's stages of one photo.
-constexpr int stagesOfNaming = 2;
-constexpr int stagesOfReadingSettings = 4;
-constexpr int stagesOfOpening = 3;
-constexpr int stagesOfDrawing = 5;
-constexpr int stagesOfWriting = 1;
-constexpr int stagesPerPhoto = stagesOfNaming + stagesOfReadingSettings + stagesOfOpening
-    + stagesOfDrawing + stagesOfWriting;
+constexpr int imageStagesOfNaming = 2;
+constexpr int imageStagesOfReadingSettings = 4;
+constexpr int imageStagesOfOpening = 3;
+constexpr int imageStagesOfDrawing = 5;
+constexpr int imageStagesOfWriting = 1;
+constexpr int imageStagesPerPhoto = imageStagesOfNaming + imageStagesOfReadingSettings
+    + imageStagesOfOpening + imageStagesOfDrawing + imageStagesOfWriting;
 
 ImageWatermarkSettings readImageSettings(panels::ImageWatermarkControls& controls)
 {
@@ -44,7 +44,8 @@ std::optional<platform::graphics::Image> openedForRun(const QString& path, bool 
 
 QString DVWatermark::setWatermarkImage(const WatermarkRun& run, imaging::PictureSink& sink)
 {
-    const QString name = markPhotos(run, sink, stagesPerPhoto, &DVWatermark::markPhotoWithImage);
+    const QString name
+        = markPhotos(run, sink, imageStagesPerPhoto, &DVWatermark::markPhotoWithImage);
     m_marks->clear();
     return name;
 }
@@ -54,24 +55,24 @@ DVWatermark::Step DVWatermark::markPhotoWithImage(
 )
 {
     m_outputName = m_surroundings.outputName(path);
-    finishStages(stagesOfNaming);
+    finishStages(imageStagesOfNaming);
     const ImageWatermarkSettings settings = readImageSettings(m_surroundings.panel);
     if (settings.path.isEmpty())
         return Step::EndRun;
-    finishStages(stagesOfReadingSettings);
+    finishStages(imageStagesOfReadingSettings);
     if (!m_marks->canRead(settings.path))
         return Step::EndRun;
     auto picture = openedForRun(path, settings.shadow.has_value());
-    finishStages(stagesOfOpening);
+    finishStages(imageStagesOfOpening);
     if (picture) {
         const auto mark = m_marks->mark(settings, markedSizeOf(*picture));
         if (!mark)
             return Step::EndRun;
         picture = laidOn(*picture, *mark).picture;
     }
-    finishStages(stagesOfDrawing);
+    finishStages(imageStagesOfDrawing);
     save(run, path, picture, sink);
-    finishStages(stagesOfWriting);
+    finishStages(imageStagesOfWriting);
     return Step::GoOn;
 }
 

@@ -16,13 +16,13 @@ namespace brenvaldo::watermark {
 namespace {
 
 // The bar's stages of one photo.
-constexpr int stagesOfNaming = 1;
-constexpr int stagesOfReadingSettings = 2;
-constexpr int stagesOfOpening = 3;
-constexpr int stagesOfDrawing = 4;
-constexpr int stagesOfWriting = 1;
-constexpr int stagesPerPhoto = stagesOfNaming + stagesOfReadingSettings + stagesOfOpening
-    + stagesOfDrawing + stagesOfWriting;
+constexpr int textStagesOfNaming = 1;
+constexpr int textStagesOfReadingSettings = 2;
+constexpr int textStagesOfOpening = 3;
+constexpr int textStagesOfDrawing = 4;
+constexpr int textStagesOfWriting = 1;
+constexpr int textStagesPerPhoto = textStagesOfNaming + textStagesOfReadingSettings
+    + textStagesOfOpening + textStagesOfDrawing + textStagesOfWriting;
 
 std::optional<platform::graphics::Image> openedForRun(const QString& path, TextEffect effect)
 {
@@ -36,11 +36,16 @@ std::optional<platform::graphics::Image> openedForRun(const QString& path, TextE
     );
 }
 
+TextWatermarkSettings readTextSettings(panels::TextWatermarkControls& controls)
+{
+    return readSettings(controls);
+}
+
 } // namespace
 
 QString DVWatermark::setWatermarkText(const WatermarkRun& run, imaging::PictureSink& sink)
 {
-    return markPhotos(run, sink, stagesPerPhoto, &DVWatermark::markPhotoWithText);
+    return markPhotos(run, sink, textStagesPerPhoto, &DVWatermark::markPhotoWithText);
 }
 
 DVWatermark::Step DVWatermark::markPhotoWithText(
@@ -48,21 +53,21 @@ DVWatermark::Step DVWatermark::markPhotoWithText(
 )
 {
     m_outputName = m_surroundings.outputName(path);
-    finishStages(stagesOfNaming);
-    const TextWatermarkSettings settings = readSettings(m_surroundings.panel);
+    finishStages(textStagesOfNaming);
+    const TextWatermarkSettings settings = readTextSettings(m_surroundings.panel);
     if (settings.text.isEmpty()) {
         platform::log(u"no watermark text"_s);
         return Step::EndRun;
     }
-    finishStages(stagesOfReadingSettings);
+    finishStages(textStagesOfReadingSettings);
     const std::optional<platform::graphics::Image> photo = openedForRun(path, settings.effect);
     if (!photo)
         return Step::EndRun;
-    finishStages(stagesOfOpening);
+    finishStages(textStagesOfOpening);
     const auto picture = platform::drawing::stamped(*photo, markOf(*photo, settings, path)());
-    finishStages(stagesOfDrawing);
+    finishStages(textStagesOfDrawing);
     save(run, path, picture, sink);
-    finishStages(stagesOfWriting);
+    finishStages(textStagesOfWriting);
     return Step::GoOn;
 }
 
@@ -82,7 +87,7 @@ DVWatermark::MakeMark DVWatermark::markOf(
 std::optional<platform::graphics::Image> DVWatermark::setWatermarkTextPreview(const QString& path)
 {
     m_outputName = m_surroundings.outputName(path);
-    const TextWatermarkSettings settings = readSettings(m_surroundings.panel);
+    const TextWatermarkSettings settings = readTextSettings(m_surroundings.panel);
     std::optional<platform::graphics::Image> result;
     if (!settings.text.isEmpty()) {
         if (const auto photo = m_surroundings.previewPhoto(path))
