@@ -67,7 +67,7 @@ void PictureView::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
     showsTarget(false);
-    emit fileDropped(draggedFile(*event->mimeData()));
+    Q_EMIT fileDropped(draggedFile(*event->mimeData()));
 }
 
 void PictureView::showsTarget(bool isTarget)

@@ -20,7 +20,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override { return {180, 140}; }
     [[nodiscard]] QSize minimumSizeHint() const override { return {80, 140}; }
 
-signals:
+Q_SIGNALS:
     void fileDropped(const QString& path);
 
 protected:
