@@ -40,8 +40,10 @@ void PictureView::paintEvent(QPaintEvent*)
     FieldFrame frame = fieldFrame(QStyle::State_Enabled);
     frame.focused = m_isTarget;
     paintFieldFrame(painter, rect(), frame);
-    if (m_picture.isNull())
+    if (m_picture.isNull()) {
+        paintHint(painter);
         return;
+    }
     const QRect room = rect().adjusted(8, 8, -8, -8);
     const double scale = devicePixelRatioF();
     QImage fitted = m_picture.scaled(
@@ -51,6 +53,14 @@ void PictureView::paintEvent(QPaintEvent*)
     QRectF target(QPointF(), fitted.deviceIndependentSize());
     target.moveCenter(QRectF(room).center());
     painter.drawImage(target, fitted);
+}
+
+void PictureView::paintHint(QPainter& painter) const
+{
+    if (!acceptDrops())
+        return;
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(rect(), Qt::AlignCenter, tr("Drop an image here"));
 }
 
 void PictureView::dragEnterEvent(QDragEnterEvent* event)

@@ -30,6 +30,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    void paintHint(QPainter& painter) const;
     void showsTarget(bool isTarget);
 
     QImage m_picture;

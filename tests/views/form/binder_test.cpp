@@ -315,6 +315,10 @@ TEST_F(Binder, DropsNothingOnAPictureWithoutActions)
     binder.bind(*picture, control);
 
     EXPECT_FALSE(picture->acceptDrops());
+    show(picture);
+    const QImage plain = picture->grab().toImage();
+    picture->setAcceptDrops(true);
+    EXPECT_NE(picture->grab().toImage(), plain); // says that a file can be dropped
 }
 
 TEST_F(Binder, ShowsAPictureAndThatAFileHoversAboveIt)

@@ -572,8 +572,8 @@ TEST_F(MainWindow, TellsThatAFunctionComesLaterAndOffersNoRun)
     EXPECT_TRUE(notice->isHidden());
 
     workspace.panels().vwWatermark.tbvWatermarkType.selectIndex(1);
-    EXPECT_FALSE(process->isEnabled());
-    EXPECT_TRUE(notice->isVisible());
+    EXPECT_TRUE(process->isEnabled());
+    EXPECT_TRUE(notice->isHidden());
 }
 
 TEST_F(MainWindow, RunsAFunctionThatComesLaterByItsActionAllTheSame)
