@@ -5,12 +5,9 @@
 
 #include <gtest/gtest.h>
 
+using namespace brenvaldo;
 using brenvaldo::platform::metadata::PropertyDictionary;
 using brenvaldo::platform::metadata::PropertyValue;
-
-namespace {
-
-} // namespace
 
 TEST(PropertyValue, PrintsIntegersPlain)
 {
