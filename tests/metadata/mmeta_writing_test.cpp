@@ -24,7 +24,7 @@ namespace {
 
 const QString unsupported = u"This file type is not supported."_s;
 
-PhotoBuilder photoWithComment(const QByteArray& comment)
+PhotoBuilder photoToComment(const QByteArray& comment)
 {
     return PhotoBuilder{}.exif(
         test::exifBlock({.userComment = QByteArray("ASCII\0\0\0", 8) + comment})
@@ -102,12 +102,12 @@ INSTANTIATE_TEST_SUITE_P(
     All,
     WrittenComment,
     testing::Values(
-        CommentCase{"Added", photoWithComment("old"), u"new"_s, 0, u"old; new"_s},
-        CommentCase{"InItsPlace", photoWithComment("old"), u"new"_s, 1, u"new"_s},
-        CommentCase{"InItsPlaceInAMixedState", photoWithComment("old"), u"new"_s, -1, u"new"_s},
-        CommentCase{"NothingAdded", photoWithComment("old"), {}, 0, u"old"_s},
-        CommentCase{"Cleared", photoWithComment("old"), {}, 1, {}},
-        CommentCase{"BehindAnEmptyOne", photoWithComment(""), u"new"_s, 0, u"; new"_s},
+        CommentCase{"Added", photoToComment("old"), u"new"_s, 0, u"old; new"_s},
+        CommentCase{"InItsPlace", photoToComment("old"), u"new"_s, 1, u"new"_s},
+        CommentCase{"InItsPlaceInAMixedState", photoToComment("old"), u"new"_s, -1, u"new"_s},
+        CommentCase{"NothingAdded", photoToComment("old"), {}, 0, u"old"_s},
+        CommentCase{"Cleared", photoToComment("old"), {}, 1, {}},
+        CommentCase{"BehindAnEmptyOne", photoToComment(""), u"new"_s, 0, u"; new"_s},
         CommentCase{"WithoutOne", photoWithoutComment(), u"new"_s, 0, u"new"_s},
         CommentCase{"WithoutOneToClear", photoWithoutComment(), u"new"_s, 1, u"new"_s},
         CommentCase{"EmptyWithoutOne", photoWithoutComment(), {}, 0, {}},
@@ -259,7 +259,7 @@ TEST_F(MetaWriting, WritesIptcForTheFlagAlone)
 
 TEST_F(MetaWriting, AppliesTheCommentShowsItAndNotesIt)
 {
-    const QString path = write(photoWithComment("old"));
+    const QString path = write(photoToComment("old"));
     m_panel.tfExifUserComment.setStringValue(u"new"_s);
 
     m_meta.btApplyExifUserComment(path);
@@ -292,7 +292,7 @@ TEST_F(MetaWriting, AppliesTheCommentShowsItAndNotesIt)
 
 TEST_F(MetaWriting, AppliesTheStateOfTheBox)
 {
-    const QString path = write(photoWithComment("old"));
+    const QString path = write(photoToComment("old"));
     m_panel.tfExifUserComment.setStringValue(u"new"_s);
     m_panel.cbClearBeforeAdd.setState(1);
 

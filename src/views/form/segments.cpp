@@ -14,7 +14,7 @@ namespace brenvaldo::views {
 namespace {
 
 constexpr int gridColumns = 3;
-constexpr QSize cellSize(26, 20);
+constexpr QSize gridCellSize(26, 20);
 
 /// One segment: a titled part of a row, or a bare cell of the grid.
 class SegmentButton : public QAbstractButton
@@ -36,7 +36,7 @@ public:
     [[nodiscard]] QSize sizeHint() const override
     {
         if (m_look == Segments::Look::Grid)
-            return cellSize;
+            return gridCellSize;
         return {fontMetrics().horizontalAdvance(text()) + 16, Metrics::fieldHeight - 6};
     }
     [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }

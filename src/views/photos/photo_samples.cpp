@@ -11,9 +11,9 @@ using platform::graphics::Image;
 using platform::graphics::PixelRect;
 using platform::graphics::PixelSize;
 
-constexpr int pictureScale = 2;
+constexpr int sampleScale = 2;
 constexpr PixelSize pixels
-    = {PhotoSamples::size.width() * pictureScale, PhotoSamples::size.height() * pictureScale};
+    = {PhotoSamples::size.width() * sampleScale, PhotoSamples::size.height() * sampleScale};
 
 /// The middle of the photo with the proportions of a sample.
 PixelRect middleOf(PixelSize photo)

@@ -33,7 +33,7 @@ const MetadataEdit& comment()
     return edit;
 }
 
-const MetadataEdit& headline()
+const MetadataEdit& newHeadline()
 {
     static const MetadataEdit edit{.iptc = {{IptcKey::Headline, {u"News"_s}}}};
     return edit;
@@ -41,7 +41,7 @@ const MetadataEdit& headline()
 
 const MetadataEdit& both()
 {
-    static const MetadataEdit edit{.userComment = u"new"_s, .iptc = headline().iptc};
+    static const MetadataEdit edit{.userComment = u"new"_s, .iptc = newHeadline().iptc};
     return edit;
 }
 
@@ -72,7 +72,7 @@ QByteArray app(int number, const QByteArray& contents)
     return jpegSegment(static_cast<std::uint8_t>(0xE0 + number), contents);
 }
 QByteArray jfif() { return app(0, QByteArray("JFIF\0\1\1\0\0\1\0\1\0\0", 14)); }
-QByteArray exifSegment(const QByteArray& block)
+QByteArray replacedExifSegment(const QByteArray& block)
 {
     return app(1, jpeg::exifHeader.toByteArray() + block);
 }
@@ -99,7 +99,11 @@ TEST(EditedJpeg, LeavesAllOtherSegmentsAndTheScan)
 {
     const QByteArray camera = app(5, "Camera");
     const QByteArray before = bareJpeg(
-        {jfif(), exifSegment(plainExif()), profile(), camera, jpegSegment(0xFE, "a comment")}
+        {jfif(),
+         replacedExifSegment(plainExif()),
+         profile(),
+         camera,
+         jpegSegment(0xFE, "a comment")}
     );
 
     const QByteArray after = edited(editedJpeg, before, both());
@@ -124,7 +128,7 @@ TEST(EditedJpeg, PutsWhatIsChangedWhereItStood)
          app(13, iptcSegmentContents(iptcDataSet(90, "Bern"))),
          xmpSegment(xmpPacket("A title")),
          app(7, "Other"),
-         exifSegment(plainExif())}
+         replacedExifSegment(plainExif())}
     );
 
     const QByteArray after = edited(editedJpeg, before, both());
@@ -136,13 +140,13 @@ TEST(EditedJpeg, PutsWhatIsChangedWhereItStood)
 TEST(EditedJpeg, LeavesSegmentsAloneThatTheEditDoesNotName)
 {
     const QByteArray before
-        = bareJpeg({jfif(), exifSegment(plainExif()), xmpSegment(xmpPacket("A title"))});
+        = bareJpeg({jfif(), replacedExifSegment(plainExif()), xmpSegment(xmpPacket("A title"))});
 
     const QByteArray commented = edited(editedJpeg, before, comment());
-    const QByteArray titled = edited(editedJpeg, before, headline());
+    const QByteArray titled = edited(editedJpeg, before, newHeadline());
 
     EXPECT_TRUE(commented.contains(xmpSegment(xmpPacket("A title"))));
-    EXPECT_TRUE(titled.contains(exifSegment(plainExif())));
+    EXPECT_TRUE(titled.contains(replacedExifSegment(plainExif())));
 }
 
 TEST(EditedJpeg, KeepsASecondPacketAndStrayBytes)
@@ -151,7 +155,7 @@ TEST(EditedJpeg, KeepsASecondPacketAndStrayBytes)
     const QByteArray before
         = bareJpeg({jfif(), "\xFF\xFF" + xmpSegment(xmpPacket("A title")), second});
 
-    const QByteArray after = edited(editedJpeg, before, headline());
+    const QByteArray after = edited(editedJpeg, before, newHeadline());
 
     EXPECT_TRUE(after.contains(second));
     EXPECT_EQ(headlineOf(readJpegBlocks(after)), u"News"_s);
@@ -162,15 +166,16 @@ TEST(EditedJpeg, RefusesABlockThatGrowsOutOfItsSegment)
     const QByteArray exif = exifBlock({.makerNote = QByteArray(65000, 'x')});
     const MetadataEdit longComment{.userComment = QString(3000, u'y')};
 
-    EXPECT_FALSE(editedJpeg(bareJpeg({jfif(), exifSegment(exif)}), longComment));
-    EXPECT_TRUE(editedJpeg(bareJpeg({jfif(), exifSegment(exif)}), comment()));
+    EXPECT_FALSE(editedJpeg(bareJpeg({jfif(), replacedExifSegment(exif)}), longComment));
+    EXPECT_TRUE(editedJpeg(bareJpeg({jfif(), replacedExifSegment(exif)}), comment()));
 }
 
 TEST(EditedJpeg, KeepsABlockOfSeveralSegments)
 {
     const QByteArray exif = exifBlock({.makerNote = QByteArray(70000, 'x')});
-    const QByteArray before
-        = bareJpeg({jfif(), exifSegment(exif.first(65000)), exifSegment(exif.sliced(65000))});
+    const QByteArray before = bareJpeg(
+        {jfif(), replacedExifSegment(exif.first(65000)), replacedExifSegment(exif.sliced(65000))}
+    );
 
     const QByteArray after = edited(editedJpeg, before, comment());
 
@@ -197,7 +202,7 @@ TEST(EditedJpeg, RefusesAPacketThatGrowsOutOfItsSegmentAndHasFurtherOnes)
     ASSERT_EQ(segments.size(), 3);
     const QByteArray before = bareJpeg(QByteArrayList{jfif()} + segments);
 
-    EXPECT_EQ(headlineOf(readJpegBlocks(edited(editedJpeg, before, headline()))), u"News"_s);
+    EXPECT_EQ(headlineOf(readJpegBlocks(edited(editedJpeg, before, newHeadline()))), u"News"_s);
     EXPECT_EQ(
         edited(editedJpeg, before, {.iptc = {{IptcKey::Headline, {QString(66000, u'x')}}}}),
         QByteArray()
@@ -222,7 +227,8 @@ TEST(EditedJpeg, TellsTheIndexOfFurtherPicturesWhereTheyAre)
         );
     };
     const auto file = [&](std::uint64_t size, std::uint64_t offset) {
-        return bareJpeg({jfif(), exifSegment(plainExif()), index(size, offset)}) + "picture";
+        return bareJpeg({jfif(), replacedExifSegment(plainExif()), index(size, offset)})
+            + "picture";
     };
     const QByteArray bare = file(0, 0);
     const auto placeOf = [](const QByteArray& bytes) {
@@ -233,7 +239,7 @@ TEST(EditedJpeg, TellsTheIndexOfFurtherPicturesWhereTheyAre)
     };
     const QByteArray before = file(placeOf(bare), placeOf(bare) - headerOf(bare));
 
-    for (const MetadataEdit& edit : {comment(), headline(), both()}) {
+    for (const MetadataEdit& edit : {comment(), newHeadline(), both()}) {
         const QByteArray after = edited(editedJpeg, before, edit);
         EXPECT_TRUE(after.contains(index(placeOf(after), placeOf(after) - headerOf(after))));
     }
@@ -321,7 +327,7 @@ TEST(EditedTiffFile, TakesIptcFromTheResourcesWhereItStandsThereAlone)
     const QByteArray before
         = tiffHeader(ByteOrder::Big, 8) + serializedDirectory(root, 8, ByteOrder::Big);
 
-    const MetadataBlocks after = readTiffBlocks(edited(editedTiffFile, before, headline()));
+    const MetadataBlocks after = readTiffBlocks(edited(editedTiffFile, before, newHeadline()));
 
     EXPECT_TRUE(after.iptc.contains(iptcDataSet(90, "Bern")));
     EXPECT_EQ(photoshopResourceData(after.photoshop, PhotoshopResourceId::Iptc), after.iptc);
@@ -347,9 +353,9 @@ TEST(EditedTiffFile, RefusesDamageAndBigTiff)
         = tiffHeader(ByteOrder::Big, 8) + serializedDirectory(root, 8, ByteOrder::Big);
 
     EXPECT_FALSE(editedTiffFile("no TIFF", comment()));
-    EXPECT_FALSE(editedTiffFile(damaged, headline()));
+    EXPECT_FALSE(editedTiffFile(damaged, newHeadline()));
     EXPECT_TRUE(editedTiffFile(damaged, comment()));
-    EXPECT_FALSE(editedTiffFile(damagedResources, headline()));
+    EXPECT_FALSE(editedTiffFile(damagedResources, newHeadline()));
 }
 
 TEST(EditedJpeg2000, LeavesAllOtherBoxes)

@@ -15,7 +15,7 @@ using namespace brenvaldo;
 namespace {
 
 constexpr int side = 94;
-constexpr int patience = 60'000; ///< ms; machines that test can be busy
+constexpr int storePatience = 60'000; ///< ms; machines that test can be busy
 
 class ThumbnailStore : public testing::Test
 {
@@ -27,7 +27,7 @@ protected:
             return !store.picture(workspace::ListPicture{.path = path}).isNull()
                 || store.isUnreadable(path);
         };
-        const bool came = QTest::qWaitFor(isThere, patience);
+        const bool came = QTest::qWaitFor(isThere, storePatience);
         EXPECT_TRUE(came);
         return store.picture(workspace::ListPicture{.path = path});
     }
@@ -82,7 +82,8 @@ TEST_F(ThumbnailStore, MakesANewPictureWhenTheFileHasChanged)
     store.checkFilesAgain();
 
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return store.picture(workspace::ListPicture{.path = path}).height() == 94; }, patience
+        [&] { return store.picture(workspace::ListPicture{.path = path}).height() == 94; },
+        storePatience
     ));
 }
 
@@ -103,7 +104,7 @@ TEST_F(ThumbnailStore, MakesThePictureOfAFileThatIsWrittenWhileItIsRead)
 
         const auto isReadable
             = [&] { return store.picture(workspace::ListPicture{.path = path}).height() == side; };
-        ASSERT_TRUE(QTest::qWaitFor(isReadable, patience)) << "in round " << round;
+        ASSERT_TRUE(QTest::qWaitFor(isReadable, storePatience)) << "in round " << round;
         QTest::qWait(2 * round);
         ASSERT_TRUE(isReadable()) << "in round " << round;
     }

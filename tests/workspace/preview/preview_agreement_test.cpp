@@ -41,7 +41,7 @@ struct Look
     void (*choose)(panels::WatermarkPanel& panel);
 };
 
-void shadowed(panels::WatermarkPanel& panel)
+void shadowedMark(panels::WatermarkPanel& panel)
 {
     panel.cbShadowCheck.setState(1);
     panel.tfTextShadowRadius.setStringValue(u"9"_s);
@@ -58,13 +58,13 @@ void tiled(panels::WatermarkPanel& panel)
 constexpr std::array looks{
     Look{"Plain", [](panels::WatermarkPanel&) {}},
     Look{"Tiled", tiled},
-    Look{"Shadowed", shadowed},
+    Look{"Shadowed", shadowedMark},
     Look{"Embossed", embossed},
     Look{
         "EmbossedAndTiledWithShadow",
         [](panels::WatermarkPanel& panel) {
             embossed(panel);
-            shadowed(panel);
+            shadowedMark(panel);
             tiled(panel);
         }},
     Look{"Turned", [](panels::WatermarkPanel& panel) { panel.tfWMAngle.setStringValue(u"33"_s); }},
@@ -102,25 +102,25 @@ constexpr std::array settings{
     Look{
         "ShadowedInAColour",
         [](panels::WatermarkPanel& panel) {
-            shadowed(panel);
+            shadowedMark(panel);
             panel.cwShadowColor.setColor({.red = 1, .green = 0, .blue = 0});
         }},
     Look{
         "ShadowedFromFar",
         [](panels::WatermarkPanel& panel) {
-            shadowed(panel);
+            shadowedMark(panel);
             panel.tfTextShadowXOffset.setStringValue(u"9"_s);
         }},
     Look{
         "ShadowedFromAbove",
         [](panels::WatermarkPanel& panel) {
-            shadowed(panel);
+            shadowedMark(panel);
             panel.tfTextShadowYOffset.setStringValue(u"-9"_s);
         }},
     Look{
         "ShadowedSharply",
         [](panels::WatermarkPanel& panel) {
-            shadowed(panel);
+            shadowedMark(panel);
             panel.tfTextShadowRadius.setStringValue(u"1"_s);
         }},
     Look{"Bold", [](panels::WatermarkPanel& panel) { panel.cbFontBold.setState(1); }},
