@@ -132,7 +132,7 @@ namespace {
 /// More pixels than are kept decoded.
 QImage vastImage()
 {
-    QImage image(5900, 5900, QImage::Format_Grayscale8);
+    QImage image(6000, 6000, QImage::Format_Grayscale8);
     image.fill(200);
     return image;
 }
