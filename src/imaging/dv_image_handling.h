@@ -18,6 +18,7 @@
 #include <QUrl>
 
 #include <optional>
+#include <vector>
 
 namespace brenvaldo::platform::drawing {
 class AttributedText;
@@ -26,6 +27,10 @@ class AttributedText;
 namespace brenvaldo::imaging {
 
 struct RotateSettings;
+
+/// Where faces are in an upright picture, in the order of their numbers.
+using FaceFinder
+    = std::vector<platform::graphics::PixelRect> (*)(const platform::graphics::Image& picture);
 
 /// The image operations: access to photos, sizes and resolutions, the writers, and the operations
 /// on single photos.
@@ -253,6 +258,17 @@ public:
     /// none.
     [[nodiscard]] std::optional<platform::graphics::Image>
     hAddRoundingsPreview(const platform::graphics::Image& photo, const RoundingSettings& settings);
+
+    /// Cuts out each face of a photo, for files "f1_" and the output name, "f2_" and so on.
+    ///
+    /// Faces are looked for in the upright picture and cut from the stored pixels: a photo that is
+    /// stored turned is cut elsewhere. The word is that of the last face; without a face nothing is
+    /// written and the word is that of the picture before.
+    [[nodiscard]] static Outcome
+    hGetListOfFaces(const SourceAndBase& photo, FaceFinder findFaces, const OutputTail& tail);
+
+    /// The path without extension that a face is written to; `number` counts from 1.
+    [[nodiscard]] static QString faceBase(const QString& destinationBase, int number);
 
     /// The text layer as a relief, lit by `texture` ("texture1" to "texture8"); as large and as
     /// opaque as the layer. "texture6" is the ball of `h3DcolorEffect` in `color`.

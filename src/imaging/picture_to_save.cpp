@@ -24,9 +24,9 @@ PictureToSave outputPicture(
 
 ResultWord save(const PictureToSave& picture)
 {
-    const ResultWord before = picture.before ? save(*picture.before) : ResultWord::Ok;
-    const ResultWord word = picture.writer(picture);
-    return word == ResultWord::Ok ? before : word;
+    if (picture.before)
+        save(*picture.before);
+    return picture.writer(picture);
 }
 
 } // namespace brenvaldo::imaging

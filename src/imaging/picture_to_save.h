@@ -32,7 +32,8 @@ struct PictureToSave
     QString compressionLevel = {}; ///< ignored by `hSaveToNewImageFile`
     Writer writer = nullptr;
     QString source = {}; ///< path of the photo; for a writer that looks at it once more
-    std::shared_ptr<const PictureToSave> before = {}; ///< of the same photo, written first
+    /// Of the same photo, written first; its word is told to no one.
+    std::shared_ptr<const PictureToSave> before = {};
 };
 
 /// Nothing can be made of the photo: its word is that of the picture that was saved before.
@@ -51,8 +52,8 @@ using Outcome = std::variant<ResultWord, WordOfPictureBefore, PictureToSave>;
     const OutputTail& tail
 );
 
-/// Makes the file by the picture's writer, after that of the picture before it; "OK" when both
-/// stand.
+/// Makes the file by the picture's writer, after that of the picture before it; the picture's own
+/// word.
 ResultWord save(const PictureToSave& picture);
 
 } // namespace brenvaldo::imaging

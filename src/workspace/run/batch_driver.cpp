@@ -113,8 +113,11 @@ void BatchDriver::run(const Press& press, const PhotoRun& photoRun)
         if (bar.isAskedToEnd())
             return;
         const PhotoOutput output = outputOf(path, press.destination, choice);
-        if (const auto outcome = operation(output))
-            saver.take({.source = path, .target = targetOf(photoRun, output), .outcome = *outcome});
+        if (const auto outcome = operation(output)) {
+            const bool writes = !std::holds_alternative<imaging::WordOfPictureBefore>(*outcome);
+            const QString target = writes ? targetOf(photoRun, output) : QString();
+            saver.take({.source = path, .target = target, .outcome = *outcome});
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "picture_saver.h"
 
+#include <imaging/writer_rules.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
 #include <platform/foundation/machine.h>
@@ -11,6 +12,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <iterator>
 
 namespace brenvaldo::workspace {
 
@@ -41,9 +43,23 @@ QString placeOf(const QString& path)
                               : existing;
 }
 
-bool isOrHolds(const QString& place, const QString& target)
+/// One of the targets is the place, or lies in it.
+bool isOrHolds(const QString& place, const QStringList& targets)
 {
-    return target == place || target.startsWith(place + u'/');
+    return std::any_of(targets.begin(), targets.end(), [&](const QString& target) {
+        return target == place || target.startsWith(place + u'/');
+    });
+}
+
+/// Paths of the files that belong to the photo; the last is that of the picture itself.
+QStringList targetsOf(const imaging::PhotoOutcome& photo, const imaging::PictureToSave& picture)
+{
+    QStringList targets;
+    for (const auto* before = picture.before.get(); before; before = before->before.get())
+        targets.append(imaging::writtenPath(
+            imaging::Writer::Batch, before->destination, before->typeIdentifier
+        ));
+    return targets << (photo.target.isEmpty() ? picture.destination : photo.target);
 }
 
 std::size_t spaceAround(const QString& path)
@@ -83,20 +99,23 @@ void PictureSaver::take(const imaging::PhotoOutcome& photo)
     if (picture)
         start(photo, *picture);
     else
-        m_waiting.push_back({.photo = photo, .place = placeOf(photo.target)});
+        m_waiting.push_back({.photo = photo, .places = {placeOf(photo.target)}});
     recordFinished();
 }
 
 void PictureSaver::start(const imaging::PhotoOutcome& photo, const imaging::PictureToSave& picture)
 {
-    const QString target = photo.target.isEmpty() ? picture.destination : photo.target;
-    platform::awaitFile(target);
+    const QStringList targets = targetsOf(photo, picture);
+    for (const QString& target : targets)
+        platform::awaitFile(target);
     m_writer.start(
         {.save = [picture] { return imaging::save(picture); },
          .memory = picture.image ? platform::graphics::memoryNeed(*picture.image) : 0,
-         .diskSpace = spaceAround(target)}
+         .diskSpace = spaceAround(targets.last())}
     );
-    m_waiting.push_back({.photo = withoutPixels(photo), .place = placeOf(target), .isMade = true});
+    Waiting waiting{.photo = withoutPixels(photo), .places = {}, .isMade = true};
+    std::transform(targets.begin(), targets.end(), std::back_inserter(waiting.places), placeOf);
+    m_waiting.push_back(waiting);
 }
 
 imaging::ResultWord PictureSaver::lastWord()
@@ -110,7 +129,7 @@ void PictureSaver::waitFor(const QString& path)
     if (m_waiting.empty())
         return;
     const QString place = placeOf(path);
-    const auto holds = [&place](const Waiting& each) { return isOrHolds(place, each.place); };
+    const auto holds = [&place](const Waiting& each) { return isOrHolds(place, each.places); };
     while (std::any_of(m_waiting.begin(), m_waiting.end(), holds))
         recordFirst();
 }

@@ -47,7 +47,7 @@ private:
     struct Waiting
     {
         imaging::PhotoOutcome photo; ///< without pixels
-        QString place; ///< of the target, however its path is written
+        QStringList places; ///< of the files, however their paths are written
         bool isMade = false; ///< by the writer
     };
 

@@ -131,6 +131,7 @@ TEST(Functions, OfThisVersionAreThese)
             u"framing"_s,
             u"roundings"_s,
             u"profileConversion"_s,
+            u"faces"_s,
             u"rotatePhotos"_s,
             u"filters"_s,
             u"resizePhotos"_s,
