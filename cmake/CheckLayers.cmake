@@ -19,7 +19,7 @@ set(libraries
     "lcms2\\.h"                 "platform/graphics"
     "exiv2/.*"                  "platform/metadata"
     "zlib\\.h"                  "platform/containers"
-    "sqlite3\\.h"               "presets"
+    "sqlite3\\.h"               "platform/storage"
     "dlib/.*|zint\\.h"          "platform/services"
     "(fcntl|unistd)\\.h|sys/.*" "platform/.*|app"
     "QtCore"                    ".*"

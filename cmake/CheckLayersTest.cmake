@@ -72,7 +72,7 @@ refuses(controls/a.cpp "#include HEADER" "" "it names no file")
 refuses(controls/control.cpp "#include <string>\n#include \"control.h\"" "" "its own header comes first")
 
 refuses(controls/a.cpp "#include <vips/vips8>" "" "only platform/(graphics|codecs|drawing|filters) may see it")
-refuses(controls/a.cpp "#include <sqlite3.h>" "" "only presets may see it")
+refuses(controls/a.cpp "#include <sqlite3.h>" "" "only platform/storage may see it")
 refuses(views/a.cpp "#include <jpeglib.h>" "" "may see it")
 refuses(controls/a.cpp "#include <sys/stat.h>" "" "may see it")
 refuses(controls/a.cpp "#include <QLabel>" "" "may see it")

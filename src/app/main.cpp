@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "application.h"
+#include "dialog_printer.h"
+#include "sharing_menu.h"
 #include "single_instance.h"
 
 #include <platform/foundation/library_notes.h>
@@ -59,7 +61,15 @@ int main(int argc, char** argv)
     platform::UserDefaults defaults;
     views::QtFileChooser chooser;
     views::QtDesktop desktop;
-    workspace::Workspace workspace({.chooser = chooser, .desktop = desktop, .defaults = defaults});
+    app::DialogPrinter printer;
+    app::SharingMenu sharing(desktop);
+    workspace::Workspace workspace(
+        {.chooser = chooser,
+         .desktop = desktop,
+         .defaults = defaults,
+         .printer = &printer,
+         .sharing = &sharing}
+    );
     workspace.start();
     views::MainWindow window(workspace, chooser);
     const auto laterFiles = instance.filesArrived.connect([&window](const QStringList& later) {

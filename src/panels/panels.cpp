@@ -53,6 +53,12 @@ void Panels::addSheets()
     add(wwPresetsWindow.my2ndView);
     add(wwPreferencesWindow);
     add(wwPreferencesWindow.sheet);
+    add(wwPhotosAlbumWindow);
+    add(wwPhotosAlbumWindow.sheet);
+    add(wwInfoWindow);
+    add(wwInfoWindow.sheet);
+    add(wwApplicationVersionWindow);
+    add(wwApplicationVersionWindow.sheet);
 }
 
 void Panels::addFilterViews()

@@ -7,9 +7,11 @@
 #include "filter_panel.h"
 #include "framing_panel.h"
 #include "gallery_panel.h"
+#include "info_sheet.h"
 #include "note_panel.h"
 #include "output_panels.h"
 #include "photo_info_panel.h"
+#include "photos_album_sheet.h"
 #include "preferences_sheet.h"
 #include "presets_sheet.h"
 #include "profile_panel.h"
@@ -63,6 +65,9 @@ public:
     PhotoInfoPanel vwPhotoInfo;
     PresetsSheet wwPresetsWindow;
     PreferencesSheet wwPreferencesWindow;
+    PhotosAlbumSheet wwPhotosAlbumWindow;
+    InfoSheet wwInfoWindow;
+    ApplicationVersionSheet wwApplicationVersionWindow;
 
     /// The control of that name or alias; null when there is none.
     [[nodiscard]] controls::Control* control(const QString& name) const;

@@ -111,11 +111,14 @@ Layout SortingPanel::uploadPage()
         {Table{
             .table = &myPhotosTableView,
             .columns = {{.key = u"photosAlbumName"_s, .title = u"Album"_s}},
-            .accessibleName = u"Albums of the photo library"_s}},
+            .accessibleName = u"Albums of the photo library"_s,
+            .emptyText = u"No albums are shown yet"_s}},
+        {Row{.fields = {{.control = &btnGetAllAlbums}, {.control = &btnMakeNewAlbum}}}},
         {textRow(u"Title"_s, tfAddTitle)},
         {textRow(u"Keywords"_s, tfAddKeyword)},
         {textRow(u"Description"_s, tfAddDescription)},
         {Row{.fields = {{.control = &cbAddToFavorite}}}},
+        {Row{.fields = {{.control = &cbWarnDuplicates}}}},
     };
 }
 

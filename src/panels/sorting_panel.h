@@ -60,6 +60,12 @@ struct SortingPanel : PanelView, BatchSortControls
     controls::TextField tfAddKeyword{u"tfAddKeyword"_s};
     controls::TextField tfAddDescription{u"tfAddDescription"_s};
     controls::CheckBox cbAddToFavorite{u"cbAddToFavorite"_s, u"Mark as favourite"_s};
+    /// Read by nobody.
+    controls::CheckBox cbWarnDuplicates{u"cbWarnDuplicates"_s, u"Warn of duplicates"_s};
+    controls::Button btnMakeNewAlbum{
+        u"btnMakeNewAlbum"_s, u"New album\u2026"_s, u"cPhotosLink.hMakeNewAlbums"_s};
+    controls::Button btnGetAllAlbums{
+        u"btnGetAllAlbums"_s, u"Show albums"_s, u"cPhotosLink.hGetAllAlbums"_s};
 
 private:
     [[nodiscard]] Layout folderRows(int folder);

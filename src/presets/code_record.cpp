@@ -5,11 +5,13 @@
 
 namespace brenvaldo::presets {
 
-PresetRecord codeRecord(panels::Panels& panels)
+namespace {
+
+PresetRecord recordOfCodes(const QString& process, panels::Panels& panels)
 {
     panels::CodePanel& codes = panels.vwQRBarCode;
     return {
-        .process = u"batchQR"_s,
+        .process = process,
         .action = u"FileManagement"_s,
         .before = PresetRecord::Before::ClearSecondViewAndSimulation,
         .fields = {
@@ -20,6 +22,15 @@ PresetRecord codeRecord(panels::Panels& panels)
             {7, TextForm{&codes.tfQRSize}},
             {8, IndexForm{&codes.pubCodeType}},
         }};
+}
+
+} // namespace
+
+PresetRecord codeRecord(panels::Panels& panels) { return recordOfCodes(u"batchQR"_s, panels); }
+
+PresetRecord archiveRecord(panels::Panels& panels)
+{
+    return recordOfCodes(u"batchArchive"_s, panels);
 }
 
 } // namespace brenvaldo::presets

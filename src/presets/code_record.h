@@ -10,4 +10,7 @@ namespace brenvaldo::presets {
 /// What a preset keeps of the code panel.
 [[nodiscard]] PresetRecord codeRecord(panels::Panels& panels);
 
+/// The same of the function "batchArchive", which no control selects.
+[[nodiscard]] PresetRecord archiveRecord(panels::Panels& panels);
+
 } // namespace brenvaldo::presets

@@ -16,6 +16,9 @@
 
 namespace brenvaldo::presets {
 
+using platform::storage::Connection;
+using platform::storage::Statement;
+
 namespace {
 
 /// Keeps a connection open until the process ends. It holds no lock.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "sqlite_connection.h"
+#include <platform/storage/sqlite_connection.h>
 
 #include <QHash>
 #include <QStringList>
@@ -100,7 +100,7 @@ private:
     [[nodiscard]] bool open();
     void openOrRaise();
 
-    std::optional<Connection> m_myDb;
+    std::optional<platform::storage::Connection> m_myDb;
     std::optional<QString> m_myPresetExist;
     std::optional<QStringList> m_myPresetsArrayToPass;
     QByteArray m_mySearchValue4;

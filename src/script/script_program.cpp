@@ -29,7 +29,15 @@ ScriptProgram::ScriptProgram(std::ostream& out)
     : m_printer(out)
     , m_chooser(m_printer)
     , m_desktop(m_printer)
-    , m_workspace({.chooser = m_chooser, .desktop = m_desktop, .defaults = m_defaults})
+    , m_paper(m_printer)
+    , m_sharing(m_printer)
+    , m_workspace(
+          {.chooser = m_chooser,
+           .desktop = m_desktop,
+           .defaults = m_defaults,
+           .printer = &m_paper,
+           .sharing = &m_sharing}
+      )
     , m_watcher(m_workspace, m_printer)
 {
     const ScriptContext context{

@@ -4,6 +4,7 @@
 #include "command_table.h"
 #include "event_watcher.h"
 #include "scripted_desktop.h"
+#include "scripted_services.h"
 
 #include <QByteArrayView>
 
@@ -43,6 +44,8 @@ private:
     ScriptedFileChooser m_chooser;
     ScriptedDesktop m_desktop;
     platform::UserDefaults m_defaults;
+    ScriptedPrinter m_paper;
+    ScriptedSharing m_sharing;
     workspace::Workspace m_workspace;
     EventWatcher m_watcher;
     CommandTable m_commands;

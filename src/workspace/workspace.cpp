@@ -7,15 +7,22 @@
 #include <workspace/start/app_delegate.h>
 
 #include <files/tool_box.h>
+#include <files/web_addresses.h>
 #include <gallery/gallery_icons.h>
 #include <gallery/responsive_design.h>
 #include <imaging/color_well_handling.h>
 #include <imaging/dv_image_handling.h>
 #include <metadata/mmeta.h>
+#include <platform/services/folder_library.h>
 #include <presets/gallery_templates.h>
 #include <presets/preset_manager.h>
 #include <presets/sheet_control.h>
+#include <services/app_updater.h>
 #include <services/code_actions.h>
+#include <services/help_sheets.h>
+#include <services/photo_services.h>
+#include <services/photos_link.h>
+#include <services/web_links.h>
 #include <watermark/dv_watermark.h>
 #include <watermark/panel_actions.h>
 #include <workspace/functions/image_libraries.h>
@@ -47,11 +54,26 @@ QuickEdits quickEditsOf(imaging::DVImageHandling& imageHandling)
           ) { return wordOf(imageHandling.hFlipVerticalPicture(path, folder)); }};
 }
 
+/// Empty without a printer.
+std::function<void(const QString&)> printServiceOf(platform::services::PicturePrinter* printer)
+{
+    if (!printer)
+        return {};
+    return [printer](const QString& path) { services::cPrint(*printer).printService(path); };
+}
+
+/// The user's own address where one is set.
+QUrl versionFileAddress(const platform::UserDefaults& defaults)
+{
+    const QString own = defaults.text(u"VersionFile"_s);
+    return QUrl(own.isEmpty() ? u"https://"_s + files::webAddress(u"versionFile"_s) : own);
+}
+
 Neighbours neighboursOf(
     imaging::DVImageHandling& imageHandling,
     metadata::mMeta& meta,
     panels::Panels& panels,
-    const platform::UserDefaults& defaults
+    const Surroundings& surroundings
 )
 {
     Neighbours neighbours;
@@ -62,6 +84,8 @@ Neighbours neighboursOf(
     neighbours.hLoadTemplatePreset
         = [&panels](int index) { presets::applyGalleryTemplate(index, panels.vwHtmlExport); };
     neighbours.imageNamed = gallery::templatePicture;
+    neighbours.printService = printServiceOf(surroundings.printer);
+    const platform::UserDefaults& defaults = surroundings.defaults;
     neighbours.photosAtATime = [&defaults] { return defaults.text(u"PhotosAtATime"_s).toInt(); };
     return neighbours;
 }
@@ -81,7 +105,15 @@ struct Workspace::Parts
                .desktop = surroundings.desktop,
                .defaults = surroundings.defaults}
           )
-        , neighbours(neighboursOf(imageHandling, meta, panels, surroundings.defaults))
+        , updater(
+              {.panels = panels,
+               .web = web,
+               .versionFile
+               = [&defaults = surroundings.defaults] { return versionFileAddress(defaults); }}
+          )
+        , desktop(surroundings.desktop)
+        , sharing(surroundings.sharing)
+        , neighbours(neighboursOf(imageHandling, meta, panels, surroundings))
         , collectionView(
               {.panels = panels,
                .photos = photos,
@@ -114,7 +146,8 @@ struct Workspace::Parts
                .notifications = notifications,
                .exceptionRaised = actions.exceptionRaised,
                .guiControls = guiControls,
-               .collectionView = collectionView}
+               .collectionView = collectionView,
+               .waitForUploads = [this] { photosLink.waitForAll(); }}
           )
         , sheetControl(
               panels,
@@ -181,6 +214,7 @@ struct Workspace::Parts
     void registerActions();
     void showLoadedPreset();
     void recordLostPreset(const QString& name);
+    void shareMyPhoto();
     [[nodiscard]] QStringList tickedPhotos() const;
     void recordComment(const QString& path, metadata::mMeta::Written written);
     [[nodiscard]] static QString selectedFunction();
@@ -202,6 +236,13 @@ struct Workspace::Parts
          = [this](const QString& path) { return guiControls.driver().outputName(path); },
          .previewPhoto = [this](const QString& path) { return previewPhotos.photo(path); }}};
     files::cToolBox toolBox;
+    platform::services::FolderLibrary photoLibrary{platform::services::folderOfLibrary()};
+    services::cPhotosLink photosLink{panels, photoLibrary};
+    services::HelpSheets helpSheets{panels};
+    platform::services::NetworkFetcher web;
+    services::cAppUpdater updater;
+    platform::storage::Desktop& desktop;
+    platform::services::SharingPicker* sharing;
     Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
@@ -209,7 +250,8 @@ struct Workspace::Parts
         .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
         .toolBox = toolBox,
-        .meta = meta};
+        .meta = meta,
+        .photosLink = photosLink};
     Neighbours neighbours;
     PresetRecords presetRecords{functions, subsystems};
     cCollectionViewController collectionView;
@@ -242,6 +284,11 @@ void Workspace::Parts::registerActions()
     watermark::registerPanelActions(actions, panels.vwWatermark, notifications);
     colorWells.registerActions(actions);
     codeActions.registerActions(actions);
+    photosLink.registerActions(actions);
+    helpSheets.registerActions(actions);
+    updater.registerActions(actions);
+    services::registerWebLinks(actions, desktop);
+    actions.add(u"cGUIcontrols"_s, u"hShareMyPhoto"_s, [this](const auto&) { shareMyPhoto(); });
     responsiveDesign.registerActions(actions);
     imageLibraries.registerActions(actions);
     manualSort.registerActions(actions);
@@ -267,6 +314,13 @@ QStringList Workspace::Parts::tickedPhotos() const
             paths.append(entry.myPhotoDescription);
     }
     return paths;
+}
+
+void Workspace::Parts::shareMyPhoto()
+{
+    const auto path = collectionView.hGetActiveFileFilePath();
+    if (path && sharing)
+        services::cSharing(*sharing).chooseFromSharingServicePicker(*path);
 }
 
 void Workspace::Parts::recordLostPreset(const QString& name)

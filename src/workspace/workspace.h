@@ -8,6 +8,8 @@
 #include <panels/panels.h>
 #include <platform/foundation/notification_center.h>
 #include <platform/foundation/user_defaults.h>
+#include <platform/services/picture_printer.h>
+#include <platform/services/sharing_picker.h>
 #include <platform/storage/desktop.h>
 #include <workspace/run/run_journal.h>
 #include <workspace/run/run_offer.h>
@@ -26,6 +28,8 @@ struct Surroundings
     controls::FileChooser& chooser;
     platform::storage::Desktop& desktop;
     platform::UserDefaults& defaults;
+    platform::services::PicturePrinter* printer = nullptr; ///< null: nothing is printed
+    platform::services::SharingPicker* sharing = nullptr; ///< null: nothing is shared
 };
 
 /// The whole program below its window: panels, actions, photo list, journal, and the controllers

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <platform/foundation/literals.h>
-#include <presets/sqlite_connection.h>
+#include <platform/storage/sqlite_connection.h>
 
 #include "support/environment.h"
 #include "support/temporary_folder.h"
@@ -51,17 +51,17 @@ public:
             : m_connection(std::move(connection))
         {
             sqlite3_exec(m_connection.get(), "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
-            presets::Connection::patience = std::chrono::milliseconds(20);
+            platform::storage::Connection::patience = std::chrono::milliseconds(20);
         }
         Lock(const Lock&) = delete;
         Lock& operator=(const Lock&) = delete;
         Lock(Lock&&) = delete;
         Lock& operator=(Lock&&) = delete;
-        ~Lock() { presets::Connection::patience = m_patience; }
+        ~Lock() { platform::storage::Connection::patience = m_patience; }
 
     private:
         Connection m_connection;
-        std::chrono::milliseconds m_patience = presets::Connection::patience;
+        std::chrono::milliseconds m_patience = platform::storage::Connection::patience;
     };
     [[nodiscard]] Lock locked() const { return Lock(open()); }
 

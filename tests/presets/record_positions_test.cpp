@@ -326,17 +326,33 @@ TEST(RecordPositions, HoldTheCropAndLoseItsCutOff)
     EXPECT_EQ(holder.views(), QStringList(u"dvVCUiCropMinusView"_s));
 }
 
-TEST(RecordPositions, HoldTheCodePanel)
+TEST(RecordPositions, HoldTheCodePanelForBothFunctionsThatKeepIt)
 {
-    RecordBench bench(u"batchQR"_s, u"batchQR"_s, u"FileManagement"_s);
+    for (const QString& function : {u"batchQR"_s, u"batchArchive"_s}) {
+        RecordBench bench(function, function, u"FileManagement"_s);
+        bench.expectKept(
+            {
+                bench.destination(),
+                {4, u"tfQRDestination"_s, u"/a4/"_s, u"/b4/"_s},
+                {5, u"tfQRtext"_s, u"a5"_s, u"b5"_s},
+                {6, u"tfQRName"_s, u"a6"_s, u"b6"_s},
+                {7, u"tfQRSize"_s, u"a7"_s, u"b7"_s},
+                {8, u"pubCodeType"_s, u"1"_s, u"0"_s},
+            },
+            {}
+        );
+    }
+}
+
+TEST(RecordPositions, HoldTheTextsOfTheUpload)
+{
+    RecordBench bench(u"batchUploadPhotos"_s, u"batchUploadPhotos"_s, u"FileManagement"_s);
     bench.expectKept(
         {
-            bench.destination(),
-            {4, u"tfQRDestination"_s, u"/a4/"_s, u"/b4/"_s},
-            {5, u"tfQRtext"_s, u"a5"_s, u"b5"_s},
-            {6, u"tfQRName"_s, u"a6"_s, u"b6"_s},
-            {7, u"tfQRSize"_s, u"a7"_s, u"b7"_s},
-            {8, u"pubCodeType"_s, u"1"_s, u"0"_s},
+            {4, u"tfAddKeyword"_s, u"a4"_s, u"b4"_s},
+            {5, u"tfAddTitle"_s, u"a5"_s, u"b5"_s},
+            {6, u"tfAddDescription"_s, u"a6"_s, u"b6"_s},
+            {7, u"cbAddToFavorite"_s, u"1"_s, u"0"_s},
         },
         {}
     );

@@ -11,6 +11,8 @@
 #include <imaging/dv_image_handling.h>
 #include <metadata/mmeta.h>
 #include <platform/foundation/paths.h>
+#include <platform/services/folder_library.h>
+#include <services/photos_link.h>
 #include <watermark/dv_watermark.h>
 
 #include <support/photo_builder.h>
@@ -240,6 +242,8 @@ protected:
          .closeAlert = [this] { guiControls.closeApplicationAlertSheetObjC(); },
          .showPicture
          = [this](const QString& name) { collectionView.callForHTMLTemplatePreview(name); }}};
+    platform::services::FolderLibrary photoLibrary{folder.path(u"library"_s)};
+    services::cPhotosLink photosLink{panels, photoLibrary};
     workspace::Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
@@ -247,7 +251,8 @@ protected:
         .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
         .toolBox = toolBox,
-        .meta = meta};
+        .meta = meta,
+        .photosLink = photosLink};
     workspace::Neighbours neighbours;
     platform::NotificationCenter notifications;
     platform::Signal<const QString&, const QString&> alertShown;

@@ -160,6 +160,66 @@ constexpr std::array rows{
         "",
         "",
         Needs::Nothing},
+    CommandRow{
+        "cSheetControl.myExifInfo",
+        QT_TRANSLATE_NOOP("Commands", "About &metadata"),
+        "",
+        "",
+        Needs::Nothing},
+    CommandRow{
+        "cSheetControl.myNumberingInfo",
+        QT_TRANSLATE_NOOP("Commands", "About &numbering"),
+        "",
+        "",
+        Needs::Nothing},
+    CommandRow{
+        "cSheetControl.myXportToOstrovelInfo",
+        QT_TRANSLATE_NOOP("Commands", "About e&xported chains"),
+        "",
+        "",
+        Needs::Nothing},
+    CommandRow{
+        "cSheetControl.hCallAppLibraryHelp",
+        QT_TRANSLATE_NOOP("Commands", "About the &support folder"),
+        "",
+        "",
+        Needs::Nothing},
+    CommandRow{
+        "cGUIcontrols.hGoToSupportPageURL",
+        QT_TRANSLATE_NOOP("Commands", "&Documentation"),
+        "",
+        "",
+        Needs::Nothing},
+    CommandRow{
+        "cGUIcontrols.hGoToFeedbackPageURL",
+        QT_TRANSLATE_NOOP("Commands", "Send feed&back"),
+        "",
+        "",
+        Needs::Nothing},
+    CommandRow{
+        "cGUIcontrols.hGoToWebPageURL",
+        QT_TRANSLATE_NOOP("Commands", "Home pa&ge"),
+        "",
+        "",
+        Needs::Nothing},
+    CommandRow{
+        "cGUIcontrols.goToProductPage",
+        QT_TRANSLATE_NOOP("Commands", "Other p&roducts"),
+        "",
+        "",
+        Needs::Nothing},
+    CommandRow{
+        "cGUIcontrols.hAskForReviewURL",
+        QT_TRANSLATE_NOOP("Commands", "&Write a review"),
+        "",
+        "",
+        Needs::Nothing},
+    CommandRow{
+        "cAppUpdater.getAppVersion",
+        QT_TRANSLATE_NOOP("Commands", "&Look for a newer version"),
+        "",
+        "",
+        Needs::Nothing},
 };
 
 QString bareName(const QString& action) { return action.section(QLatin1Char('.'), -1); }

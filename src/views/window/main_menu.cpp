@@ -148,7 +148,22 @@ void fillMenuBar(QMainWindow& window, const Commands& commands, const WindowOrde
     addCommands(
         help,
         commands,
-        {u"hCallPreviewHelp"_s, u"hCallCActionsHelp"_s, u"hCallExportHTMLHelp"_s, {}}
+        {u"hCallPreviewHelp"_s,
+         u"hCallCActionsHelp"_s,
+         u"hCallExportHTMLHelp"_s,
+         u"myExifInfo"_s,
+         u"myNumberingInfo"_s,
+         u"myXportToOstrovelInfo"_s,
+         u"hCallAppLibraryHelp"_s,
+         {},
+         u"hGoToSupportPageURL"_s,
+         u"hGoToFeedbackPageURL"_s,
+         u"hGoToWebPageURL"_s,
+         u"goToProductPage"_s,
+         u"hAskForReviewURL"_s,
+         {},
+         u"getAppVersion"_s,
+         {}}
     );
     help.addAction(orders.about);
 }

@@ -15,6 +15,7 @@ inline constexpr QLatin1String batchSort{"batchSort"};
 inline constexpr QLatin1String batchUploadPhotos{"batchUploadPhotos"};
 inline constexpr QLatin1String fileRenaming{"fileRenaming"};
 inline constexpr QLatin1String batchFileConvert{"batchFileConvert"};
+inline constexpr QLatin1String batchArchive{"batchArchive"};
 inline constexpr QLatin1String batchQR{"batchQR"};
 inline constexpr QLatin1String htmlExport{"htmlExport"};
 

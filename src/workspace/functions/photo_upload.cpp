@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "photo_upload.h"
-
-#include "function_id.h"
 #include "rows.h"
 
+#include "function_id.h"
+
 #include <panels/panels.h>
-#include <platform/foundation/literals.h>
+#include <presets/upload_record.h>
+#include <services/photos_link.h>
 
 namespace brenvaldo::workspace {
 
@@ -16,20 +16,16 @@ bool isTabSelected(const panels::Panels& panels)
     return panels.vwFileManagementSorting.mySortTabView.selectedIdentifier() == u"3";
 }
 
-} // namespace
-
-PhotoUpload readUpload(const panels::SortingPanel& panel, const QString& path)
+InPlaceRun::Operation read(const Subsystems& subsystems, const QString& path)
 {
-    return {
-        .path = path,
-        .album = panel.theApplePhotosData.value(
-            panel.myPhotosTableView.selectedRow(), u"photosAlbumName"_s
-        ),
-        .keyword = panel.tfAddKeyword.stringValue(),
-        .title = panel.tfAddTitle.stringValue(),
-        .description = panel.tfAddDescription.stringValue(),
-        .favourite = QString::number(panel.cbAddToFavorite.state())};
+    const auto& panel = subsystems.panels.vwFileManagementSorting;
+    return [&subsystems, upload = services::readUpload(panel, path)] {
+        subsystems.photosLink.uploadToPhotos(upload);
+        return imaging::ResultWord::None;
+    };
 }
+
+} // namespace
 
 Function photoUpload()
 {
@@ -43,7 +39,8 @@ Function photoUpload()
            .isTabSelected = isTabSelected,
            .onlyByItsTab = true},
         .holders = {QLatin1String("vwFileManagementSorting"), Empty, Empty, Empty, Empty},
-        .run = InPlaceRun{.changesTheFile = false},
+        .run = InPlaceRun{.read = read, .changesTheFile = false},
+        .presets = {{.make = presets::uploadRecord}},
     };
 }
 

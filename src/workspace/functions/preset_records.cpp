@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "preset_records.h"
 
+#include "function_id.h"
+
+#include <presets/code_record.h>
+
 #include <algorithm>
 
 namespace brenvaldo::workspace {
@@ -24,6 +28,10 @@ PresetRecords::PresetRecords(const Functions& functions, const Subsystems& subsy
         for (const PresetTable& table : function.presets)
             m_records[function.id].push_back({table.applies, recordOfTable(table, subsystems)});
     }
+    // No row of the catalogue has this id, but presets of it may be kept.
+    m_records[functionId::batchArchive].push_back(
+        {nullptr, presets::archiveRecord(subsystems.panels)}
+    );
 }
 
 const presets::PresetRecord* PresetRecords::recordOf(const QString& function) const

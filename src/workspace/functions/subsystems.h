@@ -16,6 +16,9 @@ class mMeta;
 namespace brenvaldo::panels {
 class Panels;
 }
+namespace brenvaldo::services {
+class cPhotosLink;
+}
 namespace brenvaldo::watermark {
 class DVWatermark;
 }
@@ -34,6 +37,7 @@ struct Subsystems
     PreviewPhotos& previewPhotos;
     const files::cToolBox& toolBox;
     metadata::mMeta& meta;
+    services::cPhotosLink& photosLink;
 };
 
 } // namespace brenvaldo::workspace

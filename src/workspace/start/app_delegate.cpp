@@ -32,6 +32,7 @@ AppDelegate::AppDelegate(const Links& links)
     , m_exceptionRaised(links.exceptionRaised)
     , m_guiControls(links.guiControls)
     , m_collectionView(links.collectionView)
+    , m_waitForUploads(links.waitForUploads)
 {
 }
 
@@ -103,15 +104,21 @@ bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed()
     controls::ProgressIndicator& bar = m_panels.window.myProgressBar;
     bar.askToEnd();
     if (!bar.isAnimating())
-        prepareTemp();
+        emptyTempAtTheEnd();
     else
         m_endOfRun = bar.changed.connect([this, &bar] {
             if (bar.isAnimating())
                 return;
-            prepareTemp();
+            emptyTempAtTheEnd();
             m_endOfRun = {};
         });
     return true;
+}
+
+void AppDelegate::emptyTempAtTheEnd() const
+{
+    m_waitForUploads();
+    prepareTemp();
 }
 
 void AppDelegate::callForWMPreview() { m_collectionView.callForPreview(); }

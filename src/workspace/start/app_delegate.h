@@ -6,6 +6,7 @@
 #include <platform/foundation/exceptions.h>
 #include <platform/foundation/notification_center.h>
 
+#include <functional>
 #include <vector>
 
 namespace brenvaldo::workspace {
@@ -21,6 +22,7 @@ public:
         const platform::Signal<const platform::Exception&>& exceptionRaised;
         cGUIcontrols& guiControls;
         cCollectionViewController& collectionView;
+        std::function<void()> waitForUploads; ///< they read files of `Temp`
     };
 
     explicit AppDelegate(const Links& links);
@@ -50,12 +52,14 @@ private:
     void makeFolders();
     void fillFonts();
     void observePreviewNotifications();
+    void emptyTempAtTheEnd() const;
 
     panels::Panels& m_panels;
     platform::NotificationCenter& m_notifications;
     const platform::Signal<const platform::Exception&>& m_exceptionRaised;
     cGUIcontrols& m_guiControls;
     cCollectionViewController& m_collectionView;
+    std::function<void()> m_waitForUploads;
     std::vector<platform::Subscription> m_previewNotifications;
     platform::Subscription m_endOfRun;
 };

@@ -11,6 +11,8 @@
 #include <metadata/mmeta.h>
 #include <panels/panels.h>
 #include <platform/foundation/paths.h>
+#include <platform/services/folder_library.h>
+#include <services/photos_link.h>
 #include <watermark/dv_watermark.h>
 
 #include <support/text_printing.h>
@@ -136,6 +138,7 @@ TEST(Functions, OfThisVersionAreThese)
             u"filters"_s,
             u"resizePhotos"_s,
             u"cropPhotos"_s,
+            u"batchUploadPhotos"_s,
             u"batchExifUC"_s,
             u"fileRenaming"_s,
             u"batchFileConvert"_s,
@@ -188,6 +191,8 @@ TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
          .hAlertWindow = {},
          .closeAlert = {},
          .showPicture = {}}};
+    platform::services::FolderLibrary photoLibrary(tools.folder.path(u"library"_s));
+    services::cPhotosLink photosLink(panels, photoLibrary);
     const workspace::Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
@@ -195,7 +200,8 @@ TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
         .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
         .toolBox = tools.box,
-        .meta = meta};
+        .meta = meta,
+        .photosLink = photosLink};
     const workspace::PresetRecords records(rows(), subsystems);
 
     const std::map<QString, QString> expected{
@@ -211,7 +217,9 @@ TEST(Functions, KeepTheirSettingsInTheirOwnRecord)
         {u"filters"_s, u"filters Edit"_s},
         {u"manSort"_s, u"manSort FileManagement"_s},
         {u"batchSort"_s, u"batchSort FileManagement"_s},
+        {u"batchUploadPhotos"_s, u"batchUploadPhotos FileManagement"_s},
         {u"batchExifUC"_s, u"addExif FileManagement"_s},
+        {u"batchArchive"_s, u"batchArchive FileManagement"_s},
         {u"htmlExport"_s, u"htmlExport photoGallery"_s},
         {u"faces"_s, u"none"_s},
         {u"batchFileConvert"_s, u"none"_s},
@@ -266,6 +274,8 @@ TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)
          .hAlertWindow = {},
          .closeAlert = {},
          .showPicture = {}}};
+    platform::services::FolderLibrary photoLibrary(tools.folder.path(u"library"_s));
+    services::cPhotosLink photosLink(panels, photoLibrary);
     const workspace::Subsystems subsystems{
         .panels = panels,
         .imageHandling = imageHandling,
@@ -273,7 +283,8 @@ TEST(PresetRecords, FollowTheTabOfAFunctionWithSeveral)
         .gallery = responsiveDesign,
         .previewPhotos = previewPhotos,
         .toolBox = tools.box,
-        .meta = meta};
+        .meta = meta,
+        .photosLink = photosLink};
     workspace::Functions functions({*rows().withId(u"fileRenaming"_s)});
     functions.begin()->presets
         = {{.make = make, .applies = isFirstTab},

@@ -2,13 +2,13 @@
 #include "../controller_fixture.h"
 
 #include <platform/foundation/literals.h>
-#include <workspace/functions/photo_upload.h>
 #include <workspace/functions/watermark_run.h>
 #include <workspace/run/batch_rules.h>
 
 #include <files/keep_number.h>
 #include <metadata/comment_settings.h>
 #include <platform/foundation/log.h>
+#include <services/photo_upload.h>
 
 #include <support/case_name.h>
 
@@ -600,9 +600,9 @@ TEST_F(BatchDriver, UploadsWithTheSelectedAlbum)
     panel.tfAddDescription.setStringValue(u"Description"_s);
     panel.cbAddToFavorite.setState(1);
     panel.theApplePhotosData.setObjects({{u"Holiday"_s}, {u"Work"_s}});
-    QList<workspace::PhotoUpload> uploads;
+    QList<services::PhotoUpload> uploads;
     reads("batchUploadPhotos", [&](const QString& path) {
-        return [&, upload = workspace::readUpload(panel, path)] { uploads.append(upload); };
+        return [&, upload = services::readUpload(panel, path)] { uploads.append(upload); };
     });
 
     run();
@@ -759,7 +759,7 @@ TEST_F(BatchDriver, ReadsTheArgumentsOfAChangeInPlaceBeforeTheBarGoesUp)
     QStringList read;
     reads("batchUploadPhotos", [&](const QString& path) {
         const auto& panel = panels.vwFileManagementSorting;
-        return [&read, upload = workspace::readUpload(panel, path)] { read.append(upload.title); };
+        return [&read, upload = services::readUpload(panel, path)] { read.append(upload.title); };
     });
     reads("batchExifUC", [&](const QString&) {
         const auto settings = metadata::readSettings(panels.vwFileManagementEXIF);

@@ -11,7 +11,7 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-namespace brenvaldo::presets {
+namespace brenvaldo::platform::storage {
 
 class Statement;
 
@@ -88,4 +88,4 @@ private:
     std::unique_ptr<sqlite3_stmt, Finalize> m_handle;
 };
 
-} // namespace brenvaldo::presets
+} // namespace brenvaldo::platform::storage

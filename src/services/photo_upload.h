@@ -7,14 +7,14 @@ namespace brenvaldo::panels {
 struct SortingPanel;
 }
 
-namespace brenvaldo::workspace {
+namespace brenvaldo::services {
 
 /// One photo for the photo library.
 struct PhotoUpload
 {
     QString path;
-    QString album; ///< of the selected row; "" without one
-    QString keyword;
+    QString album; ///< title of the selected row; "" without one
+    QString keyword; ///< several, parted by ";"
     QString title;
     QString description;
     QString favourite; ///< "1" or "0"
@@ -23,4 +23,4 @@ struct PhotoUpload
 /// Reads the controls for the photo at `path`.
 [[nodiscard]] PhotoUpload readUpload(const panels::SortingPanel& panel, const QString& path);
 
-} // namespace brenvaldo::workspace
+} // namespace brenvaldo::services

@@ -3,7 +3,7 @@
 
 #include <sqlite3.h>
 
-namespace brenvaldo::presets {
+namespace brenvaldo::platform::storage {
 
 void Connection::Close::operator()(sqlite3* handle) const { sqlite3_close(handle); }
 
@@ -104,4 +104,4 @@ void Statement::bind(int parameter, const QByteArray& value) const
     );
 }
 
-} // namespace brenvaldo::presets
+} // namespace brenvaldo::platform::storage
