@@ -12,6 +12,7 @@
 #include <presets/preset_manager.h>
 #include <presets/renaming_records.h>
 #include <presets/sorting_records.h>
+#include <presets/upload_record.h>
 #include <presets/watermark_records.h>
 
 namespace brenvaldo::test {
@@ -33,6 +34,8 @@ inline QHash<QString, presets::PresetRecord> recordsOf(panels::Panels& panels)
         {u"batchQR"_s, presets::codeRecord(panels)},
         {u"htmlExport"_s, presets::galleryRecord(panels)},
         {u"batchExifUC"_s, presets::exifRecord(panels)},
+        {u"batchArchive"_s, presets::archiveRecord(panels)},
+        {u"batchUploadPhotos"_s, presets::uploadRecord(panels)},
         {u"manSort"_s, presets::manSortRecord(panels)},
         {u"batchSort"_s, presets::batchSortRecord(panels)},
         {u"Strip"_s, presets::stripRecord(panels)},

@@ -27,7 +27,12 @@ int scaled(int side, double scale) { return std::max(qRound(side * scale), 1); }
 QImage grayPicture(const graphics::Image& picture, double scale)
 {
     const PixelSize size = {scaled(picture.width(), scale), scaled(picture.height(), scale)};
-    return picture.scaledTo(size).toQImage().convertToFormat(QImage::Format_Grayscale8);
+    if (scale < 1)
+        return picture.scaledTo(size).toQImage().convertToFormat(QImage::Format_Grayscale8);
+    // Enlarged without overshoot: sharpened edges look like faces.
+    return picture.toQImage()
+        .convertToFormat(QImage::Format_Grayscale8)
+        .scaled(size.width, size.height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 /// The detector's box begins at the brow: this one has the forehead, too.
