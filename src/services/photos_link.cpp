@@ -46,7 +46,7 @@ QStringList sortedTitles(const QList<PhotoAlbum>& albums)
     for (const PhotoAlbum& album : albums)
         titles.append(album.title);
     // Without a language of the user's there is no order but that of the bytes.
-    QCollator order(QLocale() == QLocale::c() ? QLocale(QLocale::English) : QLocale());
+    QCollator order(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
     order.setNumericMode(true);
     order.setCaseSensitivity(Qt::CaseInsensitive);
     std::stable_sort(titles.begin(), titles.end(), order);
