@@ -2,10 +2,12 @@
 #include "psd_file.h"
 
 #include <platform/containers/bytes.h>
+#include <platform/containers/photoshop_file.h>
 #include <platform/containers/photoshop_resources.h>
 
 #include <vips/vips8>
 
+#include <algorithm>
 #include <array>
 
 namespace brenvaldo::platform::codecs {
@@ -15,9 +17,6 @@ using containers::unsignedAt;
 
 namespace {
 
-constexpr std::uint64_t headerLength = 26;
-constexpr std::uint64_t largeVersion = 2;
-
 std::uint64_t field(QByteArrayView file, std::uint64_t offset, int width)
 {
     const auto value = unsignedAt(file, offset, width, ByteOrder::Big);
@@ -25,33 +24,6 @@ std::uint64_t field(QByteArrayView file, std::uint64_t offset, int width)
         throw vips::VError("the layered picture is truncated");
     return *value;
 }
-
-/// Reads sections that begin with their length.
-class SectionReader
-{
-public:
-    explicit SectionReader(QByteArrayView file)
-        : m_file(file)
-    {
-    }
-
-    QByteArrayView next(int widthOfLength)
-    {
-        const std::uint64_t length = field(m_file, m_offset, widthOfLength);
-        m_offset += static_cast<std::uint64_t>(widthOfLength);
-        const auto section = containers::sliceOf(m_file, m_offset, length);
-        if (!section)
-            throw vips::VError("the layered picture is truncated");
-        m_offset += length;
-        return *section;
-    }
-
-    [[nodiscard]] QByteArrayView rest() const { return containers::tailOf(m_file, m_offset); }
-
-private:
-    QByteArrayView m_file;
-    std::uint64_t m_offset = headerLength;
-};
 
 bool isKnownMode(std::uint64_t mode)
 {
@@ -80,7 +52,7 @@ bool hasDepthOfItsMode(const PsdFile& file)
 PsdFile readHeader(QByteArrayView bytes)
 {
     PsdFile file;
-    file.isLarge = field(bytes, 4, 2) == largeVersion;
+    file.isLarge = containers::isLargePhotoshopFile(bytes);
     file.channels = static_cast<int>(field(bytes, 12, 2));
     file.size.height = static_cast<int>(field(bytes, 14, 4));
     file.size.width = static_cast<int>(field(bytes, 18, 4));
@@ -128,15 +100,14 @@ int psdColorChannels(PsdMode mode)
 PsdFile readPsdFile(QByteArrayView bytes)
 {
     PsdFile file = readHeader(bytes);
-    SectionReader sections(bytes);
-    const QByteArrayView colorData = sections.next(4);
-    file.resources = sections.next(4);
-    const QByteArrayView layers = sections.next(file.isLarge ? 8 : 4);
-    const QByteArrayView picture = sections.rest();
+    const auto sections = containers::photoshopSections(bytes);
+    if (!sections || !sections->layers)
+        throw vips::VError("the layered picture is truncated");
+    file.resources = sections->resources;
 
     constexpr std::uint64_t paletteLength = 768; // 256 reds, greens and blues
     if (file.mode == PsdMode::Indexed) {
-        const auto palette = containers::sliceOf(colorData, 0, paletteLength);
+        const auto palette = containers::sliceOf(sections->colors, 0, paletteLength);
         if (!palette)
             throw vips::VError("the layered picture lacks its palette");
         file.palette = *palette;
@@ -145,12 +116,12 @@ PsdFile readPsdFile(QByteArrayView bytes)
         throw vips::VError("the layers were saved without a merged picture");
     file.firstMaskIsAlpha = file.mode != PsdMode::Bitmap
         && file.channels > psdColorChannels(file.mode)
-        && saysThatFirstMaskIsAlpha(layers, file.isLarge);
-    const std::uint64_t compression = field(picture, 0, 2);
+        && saysThatFirstMaskIsAlpha(*sections->layers, file.isLarge);
+    const std::uint64_t compression = field(sections->picture, 0, 2);
     if (compression > static_cast<std::uint64_t>(PsdCompression::RunLengths))
         throw vips::VError("the layered picture has an unknown compression");
     file.compression = static_cast<PsdCompression>(compression);
-    file.samples = picture.sliced(2);
+    file.samples = sections->picture.sliced(2);
     return file;
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "block_readers.h"
 
-#include <platform/containers/bytes.h>
+#include <platform/containers/photoshop_file.h>
 #include <platform/containers/photoshop_resources.h>
 
 namespace brenvaldo::platform::metadata {
@@ -10,8 +10,6 @@ using containers::photoshopResourceData;
 using containers::PhotoshopResourceId;
 
 namespace {
-
-constexpr std::uint64_t psdHeaderLength = 26;
 
 bool standsInBlockOfItsOwn(const containers::PhotoshopResource& resource)
 {
@@ -25,24 +23,18 @@ bool standsInBlockOfItsOwn(const containers::PhotoshopResource& resource)
 containers::MetadataBlocks readPsdBlocks(QByteArrayView file)
 {
     containers::MetadataBlocks blocks;
-    const auto colorLength
-        = containers::unsignedAt(file, psdHeaderLength, 4, containers::ByteOrder::Big);
-    if (!colorLength)
+    const auto sections = containers::photoshopSections(file);
+    if (!sections)
         return blocks;
-    const std::uint64_t offset = psdHeaderLength + 4 + *colorLength;
-    const auto length = containers::unsignedAt(file, offset, 4, containers::ByteOrder::Big);
-    const auto resources = containers::sliceOf(file, offset + 4, length.value_or(0));
-    if (!resources)
-        return blocks;
-
+    const QByteArrayView resources = sections->resources;
     for (const containers::PhotoshopResource& resource :
-         containers::photoshopResources(*resources)) {
+         containers::photoshopResources(resources)) {
         if (!standsInBlockOfItsOwn(resource))
             blocks.photoshop.append(resource.whole);
     }
-    blocks.exif = photoshopResourceData(*resources, PhotoshopResourceId::Exif);
-    blocks.xmp = photoshopResourceData(*resources, PhotoshopResourceId::Xmp);
-    blocks.iptc = photoshopResourceData(*resources, PhotoshopResourceId::Iptc);
+    blocks.exif = photoshopResourceData(resources, PhotoshopResourceId::Exif);
+    blocks.xmp = photoshopResourceData(resources, PhotoshopResourceId::Xmp);
+    blocks.iptc = photoshopResourceData(resources, PhotoshopResourceId::Iptc);
     return blocks;
 }
 
