@@ -2,9 +2,9 @@
 #include "claimed_size.h"
 #include "photo_decoder.h"
 
+#include <platform/containers/bitmap_header.h>
 #include <platform/containers/bytes.h>
 #include <platform/containers/mapped_file.h>
-#include <platform/foundation/inches.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/regular_file.h>
 #include <platform/graphics/color_profile.h>
@@ -13,27 +13,16 @@
 
 #include <QFile>
 #include <QImageReader>
-#include <QtEndian>
 
-#include <cmath>
+#include <algorithm>
 #include <cstdlib>
-#include <limits>
 
 namespace brenvaldo::platform::codecs {
 
 namespace {
 
-/// The fields of a bitmap file header that the reader behind it doesn't tell.
-struct BitmapFacts
-{
-    double dotsPerInch = 72;
-    bool isGray = false;
-    qint64 profileOffset = 0;
-    qint64 profileSize = 0; ///< 0 without an embedded profile
-    qint64 expectedSize = 0; ///< of the file; 0 when the pixels are compressed
-    quint32 runsOffset = 0;
-    int runsBits = 0; ///< of a pixel; 0 when the pixels are no run lengths
-};
+using containers::BitmapCompression;
+using containers::BitmapHeader;
 
 /// True when every colour of the palette is a grey.
 bool isGrayPalette(QByteArrayView palette, qsizetype entrySize)
@@ -45,78 +34,63 @@ bool isGrayPalette(QByteArrayView palette, qsizetype entrySize)
     return palette.size() >= entrySize;
 }
 
-/// Where the profile stands; the newest form of the header alone has one.
-void readProfilePlace(const QByteArray& head, qsizetype infoAt, BitmapFacts& facts)
+/// True when the file is indexed and its colours, up to the pixels at most, are greys.
+bool hasGrayPalette(QByteArrayView head, const BitmapHeader& header)
 {
-    constexpr quint32 newestHeaderSize = 124;
-    constexpr quint32 embedded = 0x4D424544; // "MBED"
-    constexpr qint64 longestProfile = qint64{64} << 20;
-    const char* info = head.constData() + infoAt;
-    if (head.size() < infoAt + qsizetype{newestHeaderSize}
-        || qFromLittleEndian<quint32>(info) < newestHeaderSize
-        || qFromLittleEndian<quint32>(info + 56) != embedded)
-        return;
-    const qint64 size = qFromLittleEndian<quint32>(info + 116);
-    facts.profileOffset = infoAt + qint64{qFromLittleEndian<quint32>(info + 112)};
-    facts.profileSize = size <= longestProfile ? size : 0;
+    if (header.bitsPerPixel > 8 || header.paletteAt >= header.pixelsAt)
+        return false;
+    const QByteArrayView palette = containers::tailOf(head, header.paletteAt);
+    const auto entrySize = static_cast<std::uint64_t>(header.paletteEntrySize);
+    const std::uint64_t length = std::min(
+        entrySize << static_cast<unsigned>(header.bitsPerPixel), header.pixelsAt - header.paletteAt
+    );
+    return isGrayPalette(
+        palette.first(std::min(palette.size(), static_cast<qsizetype>(length))),
+        header.paletteEntrySize
+    );
 }
 
-BitmapFacts readFacts(const QByteArray& head, graphics::PixelSize size)
+/// Bytes up to the last pixel; 0 when the pixels are compressed.
+qint64 expectedFileSize(const BitmapHeader& header, graphics::PixelSize size)
 {
-    constexpr qsizetype fileHeaderSize = 14;
-    constexpr quint32 oldHeaderSize = 12;
-    constexpr qsizetype headerSize = 54;
-    BitmapFacts facts;
-    if (head.size() < headerSize)
-        return facts;
-    const char* bytes = head.constData();
-    const auto pixelsAt = qFromLittleEndian<quint32>(bytes + 10);
-    const auto infoSize = qFromLittleEndian<quint32>(bytes + 14);
-    const bool isOld = infoSize == oldHeaderSize;
-    const int bits = qFromLittleEndian<quint16>(bytes + (isOld ? 24 : 28));
-    const quint32 compression = isOld ? 0 : qFromLittleEndian<quint32>(bytes + 30);
-    const auto perMetre = isOld ? 0 : qFromLittleEndian<qint32>(bytes + 38);
-    if (perMetre > 0)
-        facts.dotsPerInch = std::round(perMetre * metresPerInch);
-    readProfilePlace(head, fileHeaderSize, facts);
-    const qsizetype paletteAt = fileHeaderSize + static_cast<qsizetype>(infoSize);
-    if (bits <= 8 && paletteAt < static_cast<qsizetype>(pixelsAt)) {
-        const qsizetype colors = qsizetype{1} << bits;
-        const qsizetype entrySize = isOld ? 3 : 4;
-        const qsizetype length
-            = std::min(colors * entrySize, static_cast<qsizetype>(pixelsAt) - paletteAt);
-        facts.isGray = isGrayPalette(head.mid(paletteAt, length), entrySize);
-    }
-    constexpr quint32 runsOfEightBits = 1;
-    constexpr quint32 runsOfFourBits = 2;
-    if (compression == runsOfEightBits || compression == runsOfFourBits) {
-        facts.runsOffset = pixelsAt;
-        facts.runsBits = compression == runsOfEightBits ? 8 : 4;
-    }
-    constexpr quint32 bitFields = 3;
-    if (compression == 0 || compression == bitFields) {
-        const qint64 rowBytes = (qint64{size.width} * bits + 31) / 32 * 4;
-        facts.expectedSize = pixelsAt + rowBytes * size.height;
-    }
-    return facts;
+    if (header.compression != BitmapCompression::None
+        && header.compression != BitmapCompression::BitFields)
+        return 0;
+    const qint64 rowBytes = (qint64{size.width} * header.bitsPerPixel + 31) / 32 * 4;
+    return static_cast<qint64>(header.pixelsAt) + rowBytes * size.height;
 }
 
-QByteArray embeddedProfile(QFile& file, const BitmapFacts& facts)
+QByteArray embeddedProfile(QFile& file, const BitmapHeader& header)
 {
-    if (facts.profileSize == 0 || !file.seek(facts.profileOffset))
+    constexpr std::uint64_t longestProfile = std::uint64_t{64} << 20;
+    if (header.profileSize == 0 || header.profileSize > longestProfile
+        || !file.seek(static_cast<qint64>(header.profileAt)))
         return {};
-    const QByteArray profile = file.read(facts.profileSize);
-    return profile.size() == facts.profileSize ? profile : QByteArray();
+    const auto size = static_cast<qint64>(header.profileSize);
+    const QByteArray profile = file.read(size);
+    return profile.size() == size ? profile : QByteArray();
 }
 
-bool holdsWholeRuns(const QString& path, const BitmapFacts& facts, graphics::PixelSize size)
+/// Bits of a pixel in run lengths; 0 when the pixels are stored otherwise.
+int bitsOfRuns(const BitmapHeader& header)
 {
-    if (facts.runsBits == 0)
+    switch (header.compression) {
+    case BitmapCompression::RunsOfBytes:
+        return 8;
+    case BitmapCompression::RunsOfNibbles:
+        return 4;
+    default:
+        return 0;
+    }
+}
+
+bool holdsWholeRuns(const QString& path, const BitmapHeader& header, graphics::PixelSize size)
+{
+    const int bits = bitsOfRuns(header);
+    if (bits == 0)
         return true;
     const containers::MappedFile file(path);
-    return codecs::holdsWholeRuns(
-        containers::tailOf(file.bytes(), facts.runsOffset), facts.runsBits, size
-    );
+    return codecs::holdsWholeRuns(containers::tailOf(file.bytes(), header.pixelsAt), bits, size);
 }
 
 /// A bitmap file; decoded whole.
@@ -137,15 +111,19 @@ public:
         m_header.storedSize
             = {size.width(), std::abs(size.height())}; // negative: from the top down
         checkDecodedWhole(m_header.storedSize);
-        const BitmapFacts facts = readFacts(file.read(headLength), m_header.storedSize);
-        if (file.size() < facts.expectedSize || !holdsWholeRuns(m_path, facts, m_header.storedSize))
+        const QByteArray head = file.read(headLength);
+        const BitmapHeader bitmap = containers::readBitmapHeader(head);
+        if (file.size() < expectedFileSize(bitmap, m_header.storedSize)
+            || !holdsWholeRuns(m_path, bitmap, m_header.storedSize))
             throw vips::VError("the bitmap is truncated");
         m_header.uprightSize = m_header.storedSize;
         m_header.typeIdentifier = u"com.microsoft.bmp"_s;
-        m_header.colorModel = facts.isGray ? graphics::ColorModel::Gray : graphics::ColorModel::Rgb;
-        m_header.hasAlpha = hasAlpha && !facts.isGray;
-        m_header.dotsPerInch = facts.dotsPerInch;
-        m_iccProfile = graphics::usableProfile(embeddedProfile(file, facts), m_header.colorModel);
+        const bool isGray = hasGrayPalette(head, bitmap);
+        m_header.colorModel = isGray ? graphics::ColorModel::Gray : graphics::ColorModel::Rgb;
+        m_header.hasAlpha = hasAlpha && !isGray;
+        if (bitmap.resolution)
+            m_header.dotsPerInch = bitmap.resolution->horizontal;
+        m_iccProfile = graphics::usableProfile(embeddedProfile(file, bitmap), m_header.colorModel);
     }
 
     [[nodiscard]] const ImageHeader& header() const override { return m_header; }

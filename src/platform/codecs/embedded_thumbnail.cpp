@@ -14,13 +14,6 @@ namespace brenvaldo::platform::codecs {
 
 namespace {
 
-/// The header of a JPEG as far as the frame, without its pixels.
-struct JpegHead
-{
-    QByteArray exif; ///< TIFF structure; empty without one
-    QSize size; ///< stored pixels
-};
-
 bool isFrameHeader(uchar marker)
 {
     constexpr uchar huffmanTables = 0xC4;
@@ -40,20 +33,14 @@ QSize frameSize(QByteArrayView frame)
     return {static_cast<int>(*width), static_cast<int>(*height)};
 }
 
-JpegHead readJpegHead(QByteArrayView file)
+/// The size of the stored pixels; empty without a frame.
+QSize jpegSize(const containers::JpegHeader& header)
 {
-    JpegHead head;
-    const auto header = containers::readJpegHeader(file);
-    if (!header)
-        return head;
-    for (const containers::JpegSegment& segment : header->segments) {
-        if (isFrameHeader(segment.marker)) {
-            head.size = frameSize(segment.payload);
-            break;
-        }
-        head.exif.append(containers::exifPartOf(segment, head.exif).value_or(QByteArrayView()));
+    for (const containers::JpegSegment& segment : header.segments) {
+        if (isFrameHeader(segment.marker))
+            return frameSize(segment.payload);
     }
-    return head;
+    return {};
 }
 
 /// The middle of `thumbnail` with the proportions of the photo: cameras put black bars around it.
@@ -98,14 +85,16 @@ QTransform uprightTransform(int orientation)
 QImage jpegThumbnail(const QString& path)
 {
     const containers::MappedFile file(path);
-    const JpegHead head = readJpegHead(file.bytes());
-    const containers::ExifFacts facts = containers::readExifFacts(head.exif);
+    const auto header = containers::readJpegHeader(file.bytes());
+    if (!header)
+        return {};
+    const containers::ExifFacts facts = containers::readExifFacts(containers::jpegExif(*header));
     if (facts.thumbnail.isEmpty())
         return {};
     const QImage stored = QImage::fromData(facts.thumbnail, "jpeg");
     if (stored.isNull())
         return {};
-    return withoutBars(stored, head.size).transformed(uprightTransform(facts.orientation));
+    return withoutBars(stored, jpegSize(*header)).transformed(uprightTransform(facts.orientation));
 }
 
 } // namespace

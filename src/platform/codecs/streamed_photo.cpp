@@ -6,6 +6,8 @@
 #include "png_header.h"
 #include "tiff_claim.h"
 
+#include <platform/containers/exif_facts.h>
+#include <platform/containers/jpeg_segments.h>
 #include <platform/containers/mapped_file.h>
 #include <platform/graphics/color_profile.h>
 #include <platform/graphics/deferred_pixels.h>
@@ -71,10 +73,37 @@ int integerField(const vips::VImage& decoded, const char* name, int fallback)
     return decoded.get_typeof(name) == G_TYPE_INT ? decoded.get_int(name) : fallback;
 }
 
-int statedOrientation(const vips::VImage& decoded)
+QByteArray jpegExifOf(const QString& path)
 {
-    const int orientation = integerField(decoded, VIPS_META_ORIENTATION, 1);
-    return orientation >= 1 && orientation <= 8 ? orientation : 1;
+    const containers::MappedFile file(path);
+    const auto header = containers::readJpegHeader(file.bytes());
+    return header ? containers::jpegExif(*header) : QByteArray();
+}
+
+/// The EXIF block that the engine found in the file; empty without one.
+QByteArray engineExif(const vips::VImage& decoded)
+{
+    if (decoded.get_typeof(VIPS_META_EXIF_NAME) == 0)
+        return {};
+    std::size_t length = 0;
+    const auto* data = static_cast<const char*>(decoded.get_blob(VIPS_META_EXIF_NAME, &length));
+    const QByteArrayView block(data, static_cast<qsizetype>(length));
+    const QByteArrayView header = containers::jpeg::exifHeader;
+    return block.sliced(block.startsWith(header) ? header.size() : 0).toByteArray();
+}
+
+/// The engine doesn't know all types of number in which files state it, so it is not asked.
+int statedOrientation(
+    const QString& path, const QString& typeIdentifier, const vips::VImage& decoded
+)
+{
+    if (typeIdentifier == QLatin1String("public.jpeg"))
+        return containers::readExifFacts(jpegExifOf(path)).orientation;
+    if (typeIdentifier == QLatin1String("public.tiff"))
+        return containers::readExifFacts(containers::MappedFile(path).bytes()).orientation;
+    if (typeIdentifier == QLatin1String("public.jpeg-xl"))
+        return 1; // decoded upright
+    return containers::readExifFacts(engineExif(decoded)).orientation;
 }
 
 bool isProgressiveJpeg(const vips::VImage& decoded)
@@ -129,10 +158,10 @@ public:
         if (m_isJpeg && isProgressiveJpeg(decoded))
             m_decodingBytes = graphics::sizeOf(graphics::layoutOf(decoded))
                 * sizeof(short); // all its coefficients
-        m_header.storedSize = {decoded.width(), decoded.height()};
-        m_header.orientation = statedOrientation(decoded);
-        m_header.uprightSize = uprightSize(m_header.storedSize, m_header.orientation);
         m_header.typeIdentifier = QLatin1String(type.typeIdentifier);
+        m_header.storedSize = {decoded.width(), decoded.height()};
+        m_header.orientation = statedOrientation(m_path, m_header.typeIdentifier, decoded);
+        m_header.uprightSize = uprightSize(m_header.storedSize, m_header.orientation);
         m_header.bitsPerComponent = static_cast<int>(vips_format_sizeof(decoded.format())) * 8;
         const bool isLab = decoded.interpretation() == VIPS_INTERPRETATION_LAB
             || decoded.interpretation() == VIPS_INTERPRETATION_LABS;

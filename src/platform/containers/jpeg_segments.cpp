@@ -77,6 +77,14 @@ std::optional<QByteArrayView> exifPartOf(const JpegSegment& segment, QByteArrayV
     return data;
 }
 
+QByteArray jpegExif(const JpegHeader& header)
+{
+    QByteArray block;
+    for (const JpegSegment& segment : header.segments)
+        block.append(exifPartOf(segment, block).value_or(QByteArrayView()));
+    return block;
+}
+
 QByteArray jpegSegment(std::uint8_t marker, QByteArrayView payload)
 {
     QByteArray segment;

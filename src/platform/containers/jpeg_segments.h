@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 #include <QList>
 
@@ -49,6 +50,9 @@ struct JpegHeader
 /// it holds no part of that.
 [[nodiscard]] std::optional<QByteArrayView>
 exifPartOf(const JpegSegment& segment, QByteArrayView block);
+
+/// The EXIF block in front of the picture; empty without one.
+[[nodiscard]] QByteArray jpegExif(const JpegHeader& header);
 
 /// Makes a whole segment; `payload` is at most `jpeg::longestPayload` bytes long.
 [[nodiscard]] QByteArray jpegSegment(std::uint8_t marker, QByteArrayView payload);

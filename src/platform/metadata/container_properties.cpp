@@ -3,7 +3,9 @@
 
 #include "exif_properties.h"
 
+#include <platform/containers/bitmap_header.h>
 #include <platform/containers/bytes.h>
+#include <platform/containers/gif_blocks.h>
 #include <platform/containers/jpeg_segments.h>
 #include <platform/containers/png_chunks.h>
 #include <platform/containers/signatures.h>
@@ -198,50 +200,47 @@ void takeTiff(QByteArrayView file, ContainerProperties& properties)
     properties.isFloat = firstValue(sampleFormat) == floatingPoint;
 }
 
-/// The delay of the first frame, from its graphic control extension.
-void takeDelay(QByteArrayView extension, PropertyDictionary& gif)
+/// The delay of a frame, from its graphic control extension; that of the first one counts.
+void takeDelay(QByteArrayView control, PropertyDictionary& gif)
 {
     constexpr double hundredth = 0.01;
     constexpr double raisedDelay = 0.1;
-    const double delay = littleInteger(extension, 4, 2) * hundredth;
-    if (gif.contains(keyOf("DelayTime")))
+    if (gif.contains(keyOf("DelayTime")) || !control.startsWith('\x04'))
         return;
+    const double delay = littleInteger(control, 2, 2) * hundredth;
     gif.insert(keyOf("DelayTime"), delay <= hundredth ? raisedDelay : delay);
     gif.insert(keyOf("UnclampedDelayTime"), delay);
 }
 
+void takeLoopCount(QByteArrayView application, PropertyDictionary& gif)
+{
+    constexpr QByteArrayView looping("\x0BNETSCAPE2.0\x03\x01", 14);
+    if (!gif.contains(keyOf("LoopCount")) && application.startsWith(looping))
+        gif.insert(keyOf("LoopCount"), littleInteger(application, looping.size(), 2));
+}
+
 void takeGif(QByteArrayView file, ContainerProperties& properties)
 {
-    constexpr int hasPalette = 0x80;
     properties.isIndexed = true;
     properties.gif.insert(keyOf("CanvasPixelWidth"), littleInteger(file, 6, 2));
     properties.gif.insert(keyOf("CanvasPixelHeight"), littleInteger(file, 8, 2));
-    const int flags = littleInteger(file, 10, 1);
-    const qsizetype blocks = 13 + ((flags & hasPalette) == 0 ? 0 : 3 << ((flags & 7) + 1));
-    if ((flags & hasPalette) != 0)
+    if (containers::hasGlobalPalette(file))
         properties.gif.insert(keyOf("HasGlobalColorMap"), true);
-    const qsizetype loop = file.indexOf(QByteArrayView("\x21\xFF\x0BNETSCAPE2.0\x03\x01"), blocks);
-    if (loop >= 0)
-        properties.gif.insert(
-            keyOf("LoopCount"), littleInteger(file, static_cast<std::uint64_t>(loop) + 16, 2)
-        );
-    const qsizetype control = file.indexOf(QByteArrayView("\x21\xF9\x04"), blocks);
-    if (control >= 0)
-        takeDelay(file.sliced(control), properties.gif);
+    for (const containers::GifExtension& extension : containers::readGifExtensions(file)) {
+        if (extension.label == containers::gif::application)
+            takeLoopCount(extension.dataBlocks, properties.gif);
+        else if (extension.label == containers::gif::graphicControl)
+            takeDelay(extension.dataBlocks, properties.gif);
+    }
 }
 
 void takeBmp(QByteArrayView file, ContainerProperties& properties)
 {
-    constexpr int shortHeader = 12;
-    constexpr int longestPalette = 8;
-    const bool isShort = littleInteger(file, 14, 4) == shortHeader;
-    const int bits = littleInteger(file, isShort ? 24 : 28, 2);
-    properties.isIndexed = bits > 0 && bits <= longestPalette;
-    const int x = isShort ? 0 : littleInteger(file, 38, 4);
-    const int y = isShort ? 0 : littleInteger(file, 42, 4);
-    if (x > 0 && y > 0) {
-        properties.dpiWidth = std::round(x * metresPerInch);
-        properties.dpiHeight = std::round(y * metresPerInch);
+    const containers::BitmapHeader header = containers::readBitmapHeader(file);
+    properties.isIndexed = header.isIndexed();
+    if (header.resolution) {
+        properties.dpiWidth = header.resolution->horizontal;
+        properties.dpiHeight = header.resolution->vertical;
     }
 }
 

@@ -5,6 +5,7 @@
 #include <support/exif_block.h>
 #include <support/iptc_block.h>
 #include <support/photo_builder.h>
+#include <support/pixel_probe.h>
 #include <support/temporary_folder.h>
 #include <support/text_printing.h>
 
@@ -80,6 +81,51 @@ TEST(ImageProperties, ShowAResolutionOnlyWhereTheFileStatesOne)
     );
 }
 
+TEST(ImageProperties, AgreeWithThePictureAboutABitmapOfOneResolution)
+{
+    const TemporaryFolder folder;
+    QByteArray bitmap = PhotoBuilder{}.format(PhotoFormat::Bmp).bytes();
+    bitmap.replace(38, 8, QByteArray("\x23\x2E\0\0\0\0\0\0", 8)); // 11811 and 0 pixels a metre
+    const QString path = folder.write(u"photo.bmp"_s, bitmap);
+
+    const auto properties = imageProperties(path);
+
+    ASSERT_TRUE(properties);
+    EXPECT_EQ(properties->text(property::dpiWidth), std::nullopt);
+    EXPECT_EQ(properties->text(property::dpiHeight), std::nullopt);
+    EXPECT_EQ(openedPhoto(path).header().dotsPerInch, 72);
+}
+
+TEST(ImageProperties, AgreeWithThePictureAboutAnOddOrientation)
+{
+    const QByteArray undefinedSix("\x12\x01\x07\0\x01\0\0\0\x06\0\0\0", 12);
+    const QByteArray shortNine("\x12\x01\x03\0\x01\0\0\0\x09\0\0\0", 12);
+    for (const PhotoFormat format : {PhotoFormat::Jpeg, PhotoFormat::Png}) {
+        const TemporaryFolder folder;
+        const auto photoWith = [&](const QByteArray& field) {
+            const QByteArray exif
+                = QByteArray("II*\0\x08\0\0\0\x01\0", 10) + field + QByteArray(4, '\0');
+            return PhotoBuilder{}.size(60, 40).format(format).exif(exif).write(
+                folder.path(u"photo"_s)
+            );
+        };
+
+        const QString turned = photoWith(undefinedSix);
+        EXPECT_EQ(
+            openedPhoto(turned).header().uprightSize,
+            (brenvaldo::platform::graphics::PixelSize{40, 60})
+        );
+        EXPECT_EQ(imageProperties(turned)->text(property::orientation), u"6"_s);
+
+        const QString odd = photoWith(shortNine);
+        EXPECT_EQ(
+            openedPhoto(odd).header().uprightSize,
+            (brenvaldo::platform::graphics::PixelSize{60, 40})
+        );
+        EXPECT_EQ(imageProperties(odd)->text(property::orientation), std::nullopt);
+    }
+}
+
 TEST(ImageProperties, PreferTheResolutionOfExifToThatOfJfif)
 {
     const PropertyDictionary properties
@@ -136,6 +182,25 @@ TEST(ImageProperties, TellPngAndGifFromTheirStructure)
     EXPECT_EQ(nested(png, property::pngDictionary, u"XPixelsPerMeter"_s), u"5669"_s);
     EXPECT_EQ(nested(gif, property::gifDictionary, u"CanvasPixelWidth"_s), u"47"_s);
     EXPECT_EQ(gif.text(property::isIndexed), u"1"_s);
+}
+
+TEST(ImageProperties, TakeTheCommentOfAGifForNothingElse)
+{
+    const TemporaryFolder folder;
+    QByteArray gif = PhotoBuilder{}.format(PhotoFormat::Gif).bytes();
+    const QByteArray comment(
+        "\x21\xFE\x1B\x21\xFF\x0BNETSCAPE2.0\x03\x01\x05\0\0\x21\xF9\x04\0\x32\0\0\0", 31
+    );
+    const QByteArray loop("\x21\xFF\x0BNETSCAPE2.0\x03\x01\0\0\0", 19);
+    const QByteArray control("\x21\xF9\x04\0\x0A\0\0\0", 8);
+    const qsizetype blocks = 13 + (3 << ((gif[10] & 7) + 1));
+    gif.insert(blocks, comment + loop + control);
+
+    const auto properties = imageProperties(folder.write(u"photo.gif"_s, gif));
+
+    ASSERT_TRUE(properties);
+    EXPECT_EQ(nested(*properties, property::gifDictionary, u"LoopCount"_s), u"0"_s);
+    EXPECT_EQ(nested(*properties, property::gifDictionary, u"DelayTime"_s), u"0.1"_s);
 }
 
 TEST(ImageProperties, ReadAHeicWithItsExif)
