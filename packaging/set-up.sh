@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash
-# Sourced by run, test and .ci/run, from the top folder.
+# Sourced by run, test, .ci/tidy and bench/compare, from the top folder.
 
 # Installs the packages of packaging/debian-packages.txt that are missing; needs no network when none is.
 set_up()
