@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "image_source.h"
+#include "orientation.h"
 #include "photo_decoder.h"
 
 #include <platform/containers/bytes.h>
@@ -62,24 +63,9 @@ QImage withoutBars(const QImage& thumbnail, QSize photo)
 
 QTransform uprightTransform(int orientation)
 {
-    switch (orientation) {
-    case 2:
-        return QTransform::fromScale(-1, 1);
-    case 3:
-        return QTransform::fromScale(-1, -1);
-    case 4:
-        return QTransform::fromScale(1, -1);
-    case 5:
-        return {0, 1, 1, 0, 0, 0};
-    case 6:
-        return {0, 1, -1, 0, 0, 0};
-    case 7:
-        return {0, -1, -1, 0, 0, 0};
-    case 8:
-        return {0, -1, 1, 0, 0, 0};
-    default:
-        return {};
-    }
+    constexpr int quarter = 90;
+    const UprightTurn turn = uprightTurn(orientation);
+    return QTransform::fromScale(turn.isMirrored ? -1 : 1, 1).rotate(turn.quarters * quarter);
 }
 
 QImage jpegThumbnail(const QString& path)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "photo_decoder.h"
 
+#include "orientation.h"
+
 #include <platform/graphics/deferred_pixels.h>
 
 namespace brenvaldo::platform::codecs {
@@ -16,24 +18,12 @@ graphics::ImageNode PhotoDecoder::uprightPixels(int shrink) const
 
 vips::VImage turnedUpright(const vips::VImage& stored, int orientation)
 {
-    switch (orientation) {
-    case 2:
-        return stored.flip(VIPS_DIRECTION_HORIZONTAL);
-    case 3:
-        return randomAccess(stored).rot(VIPS_ANGLE_D180);
-    case 4:
-        return randomAccess(stored).flip(VIPS_DIRECTION_VERTICAL);
-    case 5:
-        return randomAccess(stored).rot(VIPS_ANGLE_D90).flip(VIPS_DIRECTION_HORIZONTAL);
-    case 6:
-        return randomAccess(stored).rot(VIPS_ANGLE_D90);
-    case 7:
-        return randomAccess(stored).rot(VIPS_ANGLE_D270).flip(VIPS_DIRECTION_HORIZONTAL);
-    case 8:
-        return randomAccess(stored).rot(VIPS_ANGLE_D270);
-    default:
-        return stored;
-    }
+    constexpr VipsAngle angles[]
+        = {VIPS_ANGLE_D0, VIPS_ANGLE_D90, VIPS_ANGLE_D180, VIPS_ANGLE_D270};
+    const UprightTurn turn = uprightTurn(orientation);
+    const vips::VImage turned
+        = turn.quarters == 0 ? stored : randomAccess(stored).rot(angles[turn.quarters]);
+    return turn.isMirrored ? turned.flip(VIPS_DIRECTION_HORIZONTAL) : turned;
 }
 
 void checkDecodedWhole(PixelSize size)
