@@ -117,7 +117,7 @@ QByteArray withHeaderFacts(const QByteArray& file, const HeaderFacts& facts)
     return file.first(start) + box("jp2h", contents) + file.sliced(start + header->whole.size());
 }
 
-HeaderFacts readHeaderFacts(QByteArrayView file)
+HeaderFacts readJpeg2000HeaderFacts(QByteArrayView file)
 {
     const QList<IsoBox> header = isoBoxes(isoBox(isoBoxes(file), "jp2h"));
     return {.iccProfile = embeddedProfile(header), .dotsPerInch = captureResolution(header)};

@@ -8,11 +8,11 @@
 
 namespace brenvaldo::platform::codecs {
 
-/// The file with these labels in its header box; unchanged where the file has no such box.
+/// The file with these facts in its header box; unchanged where the file has no such box.
 [[nodiscard]] QByteArray withHeaderFacts(const QByteArray& file, const HeaderFacts& facts);
 
-/// The labels in the header box of the file.
-[[nodiscard]] HeaderFacts readHeaderFacts(QByteArrayView file);
+/// The facts in the header box of the file.
+[[nodiscard]] HeaderFacts readJpeg2000HeaderFacts(QByteArrayView file);
 
 /// True when the code stream of the file reaches its end; false for a file that was cut off.
 [[nodiscard]] bool holdsWholeCodeStream(QByteArrayView file);

@@ -18,7 +18,7 @@ constexpr qint64 pngHeaderLength = 33;
 /// The whole chunk of a profile; empty for an empty one.
 [[nodiscard]] QByteArray pngProfileChunk(const QByteArray& profile);
 
-/// The labels of the PNG; those of damaged chunks are left out.
+/// The facts in the header of the PNG; those of damaged chunks are left out.
 [[nodiscard]] HeaderFacts readPngHeaderFacts(QByteArrayView file);
 
 } // namespace brenvaldo::platform::codecs

@@ -130,7 +130,7 @@ HeaderFacts jpeg2000HeaderFacts(QByteArrayView file)
     // The decoder fills what is missing and now and then forgets to say so.
     if (!holdsWholeCodeStream(file))
         throw vips::VError("the code stream is cut off");
-    return readHeaderFacts(file);
+    return readJpeg2000HeaderFacts(file);
 }
 
 /// What the engine doesn't read from the header of a file.
