@@ -10,8 +10,8 @@ RoundingSettings readSettings(const panels::RoundingsPanel& panel)
     return {
         .radius = panel.tfRCDiameter.integerValue(),
         .type = panel.pubRCType.indexOfSelectedItem(),
-        .borderColour = panel.cwRCBorderColor.color().withAlpha(1),
-        .backgroundColour = panel.cwRCBackgroundColor.color().withAlpha(1),
+        .borderColor = panel.cwRCBorderColor.color().withAlpha(1),
+        .backgroundColor = panel.cwRCBackgroundColor.color().withAlpha(1),
         .borderState = panel.cbRCBorderColor.state(),
         .borderWidth = panel.tfRCBorderWidth.integerValue(),
         .backgroundState = panel.cbRCBackgroundColor.state(),

@@ -16,8 +16,8 @@ struct RoundingSettings
 {
     std::int64_t radius = 0; ///< of the corners
     int type = 0; ///< index of `pubRCType`
-    platform::graphics::Color borderColour = {};
-    platform::graphics::Color backgroundColour = {};
+    platform::graphics::Color borderColor = {};
+    platform::graphics::Color backgroundColor = {};
     int borderState = 0;
     std::int64_t borderWidth = 0;
     int backgroundState = 0;

@@ -20,7 +20,7 @@ DrawnLine borderOf(const RoundingPlan& plan, const RoundingSettings& settings, d
     DrawnLine border
         = {.path = plan.border,
            .width = plan.borderWidth,
-           .color = settings.borderColour,
+           .color = settings.borderColor,
            .opacity = opacity,
            .mode = frameBlendAt(settings.blendIndex)};
     if (settings.gradientState == 1) {
@@ -49,7 +49,7 @@ std::optional<Image> rounded(const Image& photo, const RoundingSettings& setting
         if (grownBy(plan->canvas, settings.margin) == PixelSize{})
             return std::nullopt;
         clip.ground
-            = {.color = settings.backgroundColour, .margin = static_cast<int>(settings.margin)};
+            = {.color = settings.backgroundColor, .margin = static_cast<int>(settings.margin)};
     }
     return platform::drawing::clipped(photo, clip, topLeftOf(photo.pixelSize(), *plan));
 }

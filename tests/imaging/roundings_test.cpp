@@ -113,7 +113,7 @@ TEST_F(Roundings, HaveABorderAroundTheUnscaledPhoto)
                              .write(folder.path(u"a.png"_s));
     const RoundingSettings settings{
         .radius = 20,
-        .borderColour = plainRed,
+        .borderColor = plainRed,
         .borderState = 1,
         .borderWidth = 10,
         .borderPosition = around};
@@ -136,7 +136,7 @@ TEST_F(Roundings, HaveABorderOnThePhoto)
 {
     RoundingSettings settings{
         .type = ellipse,
-        .borderColour = plainRed,
+        .borderColor = plainRed,
         .borderState = 1,
         .borderWidth = 10,
         .opacity = 100};
@@ -151,7 +151,7 @@ TEST_F(Roundings, HaveABorderOnThePhoto)
 TEST_F(Roundings, DrawABorderWithoutOpacityAtFullStrength)
 {
     RoundingSettings settings{
-        .type = ellipse, .borderColour = plainRed, .borderState = 1, .borderWidth = 20};
+        .type = ellipse, .borderColor = plainRed, .borderState = 1, .borderWidth = 20};
     for (const auto& [opacity, share] :
          {std::pair(0, 1.0), std::pair(150, 1.0), std::pair(-1, 0.1), std::pair(40, 0.4)}) {
         settings.opacity = opacity;
@@ -163,7 +163,7 @@ TEST_F(Roundings, BlendAndFadeTheBorder)
 {
     RoundingSettings settings{
         .type = ellipse,
-        .borderColour = plainRed,
+        .borderColor = plainRed,
         .borderState = 1,
         .borderWidth = 20,
         .angleIndex = 1,
@@ -182,7 +182,7 @@ TEST_F(Roundings, BlendAndFadeTheBorder)
 TEST_F(Roundings, LieOnABackgroundWithAMargin)
 {
     RoundingSettings settings{
-        .radius = 50, .backgroundColour = plainGreen, .backgroundState = 1, .margin = 20};
+        .radius = 50, .backgroundColor = plainGreen, .backgroundState = 1, .margin = 20};
     const QImage picture = rounded(settings);
     ASSERT_EQ(picture.size(), QSize(440, 340));
     EXPECT_EQ(picture.pixelColor(0, 0), greenPixel);
@@ -230,8 +230,8 @@ TEST_F(Roundings, LookTheSameInThePreviewAndInTheFile)
 {
     const RoundingSettings settings{
         .radius = 60,
-        .borderColour = plainRed,
-        .backgroundColour = plainGreen,
+        .borderColor = plainRed,
+        .backgroundColor = plainGreen,
         .borderState = 1,
         .borderWidth = 15,
         .backgroundState = 1,

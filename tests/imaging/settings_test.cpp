@@ -113,8 +113,8 @@ TEST(RoundingSettings, AreReadFromTheirControls)
     imaging::RoundingSettings expected{
         .radius = 11,
         .type = 2,
-        .borderColour = {.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1},
-        .backgroundColour = {.red = 0.1, .green = 0.2, .blue = 0.3, .alpha = 1},
+        .borderColor = {.red = 0.25, .green = 0.5, .blue = 0.75, .alpha = 1},
+        .backgroundColor = {.red = 0.1, .green = 0.2, .blue = 0.3, .alpha = 1},
         .borderState = 1,
         .borderWidth = 12,
         .backgroundState = 0,

@@ -63,7 +63,7 @@ std::optional<Image> borderOnTheCorners(DVImageHandling& handling, const Image& 
 {
     return handling.hAddRoundingsPreview(
         photo,
-        {.radius = 24 * factor, .borderColour = orange, .borderState = 1, .borderWidth = 8 * factor}
+        {.radius = 24 * factor, .borderColor = orange, .borderState = 1, .borderWidth = 8 * factor}
     );
 }
 
@@ -72,7 +72,7 @@ std::optional<Image> smallRadius(DVImageHandling& handling, const Image& photo, 
     return handling.hAddRoundingsPreview(
         photo,
         {.radius = 6 * factor,
-         .borderColour = orange,
+         .borderColor = orange,
          .borderState = 1,
          .borderWidth = 20 * factor,
          .opacity = 60}
@@ -84,7 +84,7 @@ radiusBeyondTheMiddle(DVImageHandling& handling, const Image& photo, int factor)
 {
     return handling.hAddRoundingsPreview(
         photo,
-        {.radius = 56 * factor, .borderColour = orange, .borderState = 1, .borderWidth = 4 * factor}
+        {.radius = 56 * factor, .borderColor = orange, .borderState = 1, .borderWidth = 4 * factor}
     );
 }
 
@@ -93,8 +93,8 @@ std::optional<Image> circleOnAGround(DVImageHandling& handling, const Image& pho
     return handling.hAddRoundingsPreview(
         photo,
         {.type = circle,
-         .borderColour = orange,
-         .backgroundColour = navy,
+         .borderColor = orange,
+         .backgroundColor = navy,
          .borderState = 1,
          .borderWidth = 6 * factor,
          .backgroundState = 1,
@@ -108,7 +108,7 @@ std::optional<Image> fadedEllipse(DVImageHandling& handling, const Image& photo,
     return handling.hAddRoundingsPreview(
         photo,
         {.type = ellipse,
-         .borderColour = orange,
+         .borderColor = orange,
          .borderState = 1,
          .borderWidth = 12 * factor,
          .gradientState = 1,
