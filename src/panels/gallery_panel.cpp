@@ -6,6 +6,8 @@
 
 #include <platform/foundation/literals.h>
 
+#include <vector>
+
 namespace brenvaldo::panels {
 
 namespace {
@@ -63,6 +65,125 @@ Row formatRow(controls::PopUpButton& format, controls::PopUpButton& compression)
         = {{.control = &format}, {.control = &compression, .accessibleName = u"JPEG quality"_s}}};
 }
 
+// A hex field feeds the well of its tag, a well the field of its own; the two are numbered apart,
+// and three of the fields feed none.
+struct ColorPair
+{
+    controls::TextField& field;
+    QString fieldName;
+    int fieldTag;
+    controls::ColorWell& well;
+    QString wellName;
+    int wellTag;
+};
+
+using ColorPairs = std::vector<ColorPair>;
+
+constexpr int feedsNoWell = 3;
+
+ColorPairs pageColors(GalleryPanel& panel)
+{
+    return {
+        {panel.tfHTMLbackgroundColor,
+         u"tfNSColorWellObjBGCt"_s,
+         0,
+         panel.myPresetNSColorWellObjBGCt,
+         u"ascNSColorWellObjBGCt"_s,
+         0},
+        {panel.tfHTMLbackgroundColorCell,
+         u"tfNSColorWellObjBGCc"_s,
+         2,
+         panel.myPresetNSColorWellObjBGCc,
+         u"ascNSColorWellObjBGCc"_s,
+         1},
+        {panel.tfHTMLTitleColor,
+         u"tfNSColorWellObjTCt"_s,
+         1,
+         panel.myPresetNSColorWellObjTCt,
+         u"ascNSColorWellObjTCt"_s,
+         3},
+        {panel.tfHTMLPhotoNameColor,
+         u"tfNSColorWellObjPhotoNameCt"_s,
+         6,
+         panel.myPresetNSColorWellObjPhotoNameC,
+         u"ascNSColorWellObjPhotoNameCt"_s,
+         4},
+        {panel.tfHTMLUserExifCommentColor,
+         u"tfNSColorWellObjUserExifCommentCt"_s,
+         feedsNoWell,
+         panel.myPresetNSColorWellObjUserExifCommentC,
+         {},
+         5},
+    };
+}
+
+ColorPairs thumbnailColors(GalleryPanel& panel)
+{
+    return {
+        {panel.tfSmallFramingRGBvalue,
+         u"tfNSColorWellObjBsImage"_s,
+         4,
+         panel.cwNSColorWellObjBsImage,
+         u"ascNSColorWellObjBsImage"_s,
+         6},
+        {panel.tfThumbnailColorValue,
+         u"tfNSColorWellObjThumbnail"_s,
+         11,
+         panel.cwThumbnailColor,
+         u"ascNSColorWellObjThumbnail"_s,
+         7},
+        {panel.tfThumbnailShadowColorValue,
+         u"tfNSColorWellObjThumbnailShadow"_s,
+         12,
+         panel.cwThumbnailShadowColor,
+         u"ascNSColorWellObjThumbnailShadow"_s,
+         8},
+    };
+}
+
+ColorPairs largePictureColors(GalleryPanel& panel)
+{
+    return {
+        {panel.tfBigFramingRGBvalue,
+         u"tfNSColorWellObjBbImage"_s,
+         5,
+         panel.cwNSColorWellObjBbImage,
+         u"ascNSColorWellObjBbImage"_s,
+         9},
+        {panel.tfHTMLLightBoxColor,
+         u"tfNSColorWellObjLightBox"_s,
+         feedsNoWell,
+         panel.cwBoxColor,
+         {},
+         10},
+        {panel.tfHTMLLightBoxShadowColor,
+         u"tfNSColorWellObjLightBoxShadow"_s,
+         feedsNoWell,
+         panel.cwBoxShadowColor,
+         {},
+         11},
+        {panel.tfNSColorWellObjRDLightboxBgColor,
+         {},
+         20,
+         panel.ascNSColorWellObjRDLightboxBgColor,
+         {},
+         12},
+    };
+}
+
+void pairColors(const ColorPairs& pairs)
+{
+    for (const ColorPair& pair : pairs) {
+        makeHexField(pair.field, pair.fieldTag);
+        if (!pair.fieldName.isEmpty())
+            pair.field.addAlias(pair.fieldName);
+        pair.well.setTag(pair.wellTag);
+        pair.well.addAction(u"cColorWellHandling.hCallHEXfromColorwell"_s);
+        if (!pair.wellName.isEmpty())
+            pair.well.addAlias(pair.wellName);
+    }
+}
+
 } // namespace
 
 GalleryPanel::GalleryPanel()
@@ -112,93 +233,11 @@ void GalleryPanel::giveActions()
         field->addAction(u"cResponsiveDesign.controlTextDidEndEditing"_s);
 }
 
-// A hex field feeds the well of its tag, a well the field of its own; the two are numbered apart,
-// and three of the fields feed none.
 void GalleryPanel::pairColors()
 {
-    struct Pair
-    {
-        controls::TextField& field;
-        QString fieldName;
-        int fieldTag;
-        controls::ColorWell& well;
-        QString wellName;
-        int wellTag;
-    };
-    const int none = 3;
-    const Pair pairs[] = {
-        {tfHTMLbackgroundColor,
-         u"tfNSColorWellObjBGCt"_s,
-         0,
-         myPresetNSColorWellObjBGCt,
-         u"ascNSColorWellObjBGCt"_s,
-         0},
-        {tfHTMLbackgroundColorCell,
-         u"tfNSColorWellObjBGCc"_s,
-         2,
-         myPresetNSColorWellObjBGCc,
-         u"ascNSColorWellObjBGCc"_s,
-         1},
-        {tfHTMLTitleColor,
-         u"tfNSColorWellObjTCt"_s,
-         1,
-         myPresetNSColorWellObjTCt,
-         u"ascNSColorWellObjTCt"_s,
-         3},
-        {tfHTMLPhotoNameColor,
-         u"tfNSColorWellObjPhotoNameCt"_s,
-         6,
-         myPresetNSColorWellObjPhotoNameC,
-         u"ascNSColorWellObjPhotoNameCt"_s,
-         4},
-        {tfHTMLUserExifCommentColor,
-         u"tfNSColorWellObjUserExifCommentCt"_s,
-         none,
-         myPresetNSColorWellObjUserExifCommentC,
-         {},
-         5},
-        {tfSmallFramingRGBvalue,
-         u"tfNSColorWellObjBsImage"_s,
-         4,
-         cwNSColorWellObjBsImage,
-         u"ascNSColorWellObjBsImage"_s,
-         6},
-        {tfThumbnailColorValue,
-         u"tfNSColorWellObjThumbnail"_s,
-         11,
-         cwThumbnailColor,
-         u"ascNSColorWellObjThumbnail"_s,
-         7},
-        {tfThumbnailShadowColorValue,
-         u"tfNSColorWellObjThumbnailShadow"_s,
-         12,
-         cwThumbnailShadowColor,
-         u"ascNSColorWellObjThumbnailShadow"_s,
-         8},
-        {tfBigFramingRGBvalue,
-         u"tfNSColorWellObjBbImage"_s,
-         5,
-         cwNSColorWellObjBbImage,
-         u"ascNSColorWellObjBbImage"_s,
-         9},
-        {tfHTMLLightBoxColor, u"tfNSColorWellObjLightBox"_s, none, cwBoxColor, {}, 10},
-        {tfHTMLLightBoxShadowColor,
-         u"tfNSColorWellObjLightBoxShadow"_s,
-         none,
-         cwBoxShadowColor,
-         {},
-         11},
-        {tfNSColorWellObjRDLightboxBgColor, {}, 20, ascNSColorWellObjRDLightboxBgColor, {}, 12},
-    };
-    for (const Pair& pair : pairs) {
-        makeHexField(pair.field, pair.fieldTag);
-        if (!pair.fieldName.isEmpty())
-            pair.field.addAlias(pair.fieldName);
-        pair.well.setTag(pair.wellTag);
-        pair.well.addAction(u"cColorWellHandling.hCallHEXfromColorwell"_s);
-        if (!pair.wellName.isEmpty())
-            pair.well.addAlias(pair.wellName);
-    }
+    for (const ColorPairs& pairs :
+         {pageColors(*this), thumbnailColors(*this), largePictureColors(*this)})
+        panels::pairColors(pairs);
 }
 
 Layout GalleryPanel::pageRows()
