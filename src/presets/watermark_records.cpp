@@ -4,6 +4,7 @@
 #include "action_chain.h"
 #include "load_effects.h"
 
+#include <panels/text_effect.h>
 #include <platform/foundation/literals.h>
 
 namespace brenvaldo::presets {
@@ -31,7 +32,7 @@ OtherForm actionChainForm(controls::ArrayController& actions)
 
 PresetRecord textWatermarkRecord(panels::Panels& panels)
 {
-    constexpr int coloredRelief = 6;
+    constexpr int coloredRelief = static_cast<int>(panels::TextEffect::ColoredRelief);
 
     auto& text = panels.vwWatermark;
     auto& files = panels.vwFileType;

@@ -1,23 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <panels/text_effect.h>
+
 #include <QString>
 
 namespace brenvaldo::watermark {
 
-/// The looks of a text watermark, in the order of the pop-up.
-enum class TextEffect {
-    Plain,
-    Relief1,
-    Relief2,
-    Relief3,
-    Relief4,
-    Relief5,
-    ColoredRelief,
-    Photo,
-    NoirPhoto,
-    Relief8
-};
+using panels::TextEffect;
 
 /// The effect of the pop-up's index; every index behind the last is the last relief.
 [[nodiscard]] TextEffect textEffectOfIndex(int index);
