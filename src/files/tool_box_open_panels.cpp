@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tool_box.h"
 
+#include <platform/foundation/file_name.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 #include <platform/storage/text_file.h>
@@ -61,7 +62,7 @@ QString cToolBox::hReadNSDataInFile(const QString& folder) const
         return {};
     const QString path = chosen->last();
     const QString contents = platform::storage::readTextFile(path).value_or(QString());
-    const QString name = platform::deletingPathExtension(platform::lastPathComponent(path));
+    const QString name = platform::nameWithoutExtension(path);
     constexpr int blanks = 65;
     return name + u'\t' + QString(blanks, u' ') + u'\t' + contents;
 }

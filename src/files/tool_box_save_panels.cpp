@@ -2,10 +2,10 @@
 #include "photo_copy.h"
 #include "tool_box.h"
 
+#include <platform/foundation/file_name.h>
 #include <platform/foundation/folders.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
-#include <platform/foundation/paths.h>
 #include <platform/storage/atomic_file.h>
 #include <platform/storage/file_tags.h>
 
@@ -77,7 +77,7 @@ QList<controls::Accessory> cToolBox::formatAccessories()
 void cToolBox::hSaveDialogFile(const QString& source)
 {
     m_panel
-        = {.suggestedName = platform::deletingPathExtension(platform::lastPathComponent(source)),
+        = {.suggestedName = platform::nameWithoutExtension(source),
            .allowsOtherTypes = false,
            .startFolder = platform::desktopFolder(),
            .accessories = formatAccessories()};

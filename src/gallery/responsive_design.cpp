@@ -8,6 +8,7 @@
 
 #include <files/file_handling.h>
 #include <files/web_addresses.h>
+#include <platform/foundation/file_name.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/numbers.h>
 #include <platform/foundation/paths.h>
@@ -22,11 +23,6 @@ namespace {
 
 constexpr double stage = 0.2; // of the bar
 constexpr int shareOfPhotos = 98;
-
-QString nameOf(const QString& path)
-{
-    return platform::deletingPathExtension(platform::lastPathComponent(path));
-}
 
 void writePage(const QString& text, const QString& path)
 {
@@ -68,30 +64,41 @@ void cResponsiveDesign::hCreateResponsiveHTML(
     hCreateFolderStructure(destination);
     progress.advance(stage);
 
-    QList<GalleryPicture> pictures;
-    const int step = shareOfPhotos / static_cast<int>(photos.size());
-    for (const QString& path : photos) {
-        if (progress.isAskedToEnd())
-            return;
-        pictures.append({nameOf(path), captionOf(settings, path)});
-        sink.take(
-            {.source = path,
-             .target = settings.large.folder + nameOf(path) + u'.' + settings.large.format,
-             .outcome = imaging::galleryPictures(
-                 m_surroundings.imageHandling, path, settings.thumbnail, settings.large
-             )}
-        );
-        progress.advance(step);
-    }
+    const auto pictures = takePictures(photos, settings, {.sink = sink, .progress = progress});
+    if (!pictures)
+        return;
     writeStylesheet(settings, destination);
     progress.advance(stage);
-    writePages(settings, pictures, destination);
+    writePages(settings, *pictures, destination);
     progress.advance(stage);
     hCreateIndexRedirectHTML(settings.page.baseName, destination);
     std::ignore = sink.lastWord(); // a page shows pictures that stand
     m_surroundings.desktop.openUrl(
         QUrl::fromLocalFile(destination + pageName(settings.page.baseName, 1))
     );
+}
+
+std::optional<QList<GalleryPicture>> cResponsiveDesign::takePictures(
+    const QStringList& photos, const GallerySettings& settings, const Run& run
+) const
+{
+    QList<GalleryPicture> pictures;
+    const int step = shareOfPhotos / static_cast<int>(photos.size());
+    for (const QString& path : photos) {
+        if (run.progress.isAskedToEnd())
+            return std::nullopt;
+        const QString name = platform::nameWithoutExtension(path);
+        pictures.append({name, captionOf(settings, path)});
+        run.sink.take(
+            {.source = path,
+             .target = settings.large.folder + name + u'.' + settings.large.format,
+             .outcome = imaging::galleryPictures(
+                 m_surroundings.imageHandling, path, settings.thumbnail, settings.large
+             )}
+        );
+        run.progress.advance(step);
+    }
+    return pictures;
 }
 
 GallerySettings cResponsiveDesign::settingsFor(const QString& destination) const

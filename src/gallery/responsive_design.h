@@ -12,6 +12,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 namespace brenvaldo::gallery {
 
@@ -58,7 +59,16 @@ public:
     void registerActions(controls::ActionRegistry& actions);
 
 private:
+    struct Run
+    {
+        imaging::PictureSink& sink;
+        controls::RunningProgress& progress;
+    };
+
     [[nodiscard]] GallerySettings settingsFor(const QString& destination) const;
+    /// Hands the pictures of each photo to the sink; nothing when the run is asked to end.
+    [[nodiscard]] std::optional<QList<GalleryPicture>>
+    takePictures(const QStringList& photos, const GallerySettings& settings, const Run& run) const;
     void warnOfSmallPictures(const GallerySettings& settings) const;
     [[nodiscard]] QString captionOf(const GallerySettings& settings, const QString& path) const;
     void writePages(

@@ -5,9 +5,9 @@
 #include "failure_log.h"
 
 #include <platform/codecs/image_destination.h>
+#include <platform/foundation/file_name.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/log.h>
-#include <platform/foundation/paths.h>
 #include <platform/metadata/image_file_writer.h>
 #include <platform/metadata/metadata_reader.h>
 #include <platform/storage/atomic_file.h>
@@ -20,11 +20,6 @@
 namespace brenvaldo::imaging {
 
 namespace {
-
-QString nameWithoutExtension(const QString& path)
-{
-    return platform::deletingPathExtension(platform::lastPathComponent(path));
-}
 
 /// True when every pixel of the photo can be computed.
 bool isWhole(const platform::graphics::Image& photo)
@@ -122,7 +117,7 @@ std::optional<PictureToSave> convertedByType(const FileConversion::Settings& set
 /// With the whole path of the file.
 FileConversion::Settings inFolder(FileConversion::Settings settings)
 {
-    settings.destination += nameWithoutExtension(settings.source) + u'.' + settings.type;
+    settings.destination += platform::nameWithoutExtension(settings.source) + u'.' + settings.type;
     return settings;
 }
 
@@ -132,7 +127,7 @@ saved(const FileConversion::Settings& settings, const std::optional<PictureToSav
     return {
         .saveURL = QUrl::fromLocalFile(settings.destination),
         .type = settings.type,
-        .name = nameWithoutExtension(settings.source),
+        .name = platform::nameWithoutExtension(settings.source),
         .word = picture ? save(*picture) : failsForType(settings.destination, settings.type),
     };
 }

@@ -13,19 +13,13 @@ float titleOf(const controls::PopUpButton& popUp)
     return platform::floatValue(popUp.titleOfSelectedItem());
 }
 
-float percentOf(const controls::TextField& field)
-{
-    constexpr float middle = 50;
-    return field.stringValue().isEmpty() ? middle : field.floatValue();
-}
-
 ScreenSettings screenSettings(const panels::FilterScreenView& view)
 {
     return {
         .width = view.tfFilterColorConvWidth.floatValue(),
         .angle = view.tfFilterLineScreenAngle.floatValue(),
-        .centreX = percentOf(view.tfFilterCenterCircularWidth),
-        .centreY = percentOf(view.tfFilterCenterCircularHeight),
+        .centreX = centrePercent(view.tfFilterCenterCircularWidth),
+        .centreY = centrePercent(view.tfFilterCenterCircularHeight),
         .isMask = view.cbFilterColorConvMask.isOn(),
         .isInverted = view.cbFilterColorConvInvert.isOn(),
         .sharpness = titleOf(view.pubFilterColorConvSharpness)};
@@ -45,6 +39,12 @@ FilterSettings readSettings(const panels::FilterPanel& panel)
         .sepiaIntensity = titleOf(panel.vwFiltersSepiaView.pubFilterColorConvIntensity),
         .unsharpRadius = panel.vwFiltersUnsharpView.tfFilterUnsharpMaskRadius.floatValue(),
         .unsharpIntensity = titleOf(panel.vwFiltersUnsharpView.pubFilterUnsharpMaskIntensity)};
+}
+
+float centrePercent(const controls::TextField& field)
+{
+    constexpr float middle = 50;
+    return field.stringValue().isEmpty() ? middle : field.floatValue();
 }
 
 } // namespace brenvaldo::imaging

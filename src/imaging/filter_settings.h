@@ -3,6 +3,10 @@
 
 #include <platform/graphics/color.h>
 
+namespace brenvaldo::controls {
+class TextField;
+}
+
 namespace brenvaldo::panels {
 struct FilterPanel;
 }
@@ -41,5 +45,8 @@ struct FilterSettings
 
 /// Reads the controls; an empty centre is the middle.
 [[nodiscard]] FilterSettings readSettings(const panels::FilterPanel& panel);
+
+/// The percentage in a field of a centre; an empty one means the middle.
+[[nodiscard]] float centrePercent(const controls::TextField& field);
 
 } // namespace brenvaldo::imaging

@@ -2,6 +2,7 @@
 #include "gallery_templates.h"
 
 #include "gallery_dependents.h"
+#include "load_effects.h"
 
 #include <platform/foundation/literals.h>
 
@@ -114,12 +115,6 @@ QString headingOf(int index)
     }
 }
 
-void setAll(const ControlList& controls, bool enabled)
-{
-    for (controls::Control* control : controls)
-        control->setEnabled(enabled);
-}
-
 void applyCheckBoxes(panels::GalleryPanel& gallery)
 {
     for (controls::CheckBox* box :
@@ -131,11 +126,13 @@ void applyCheckBoxes(panels::GalleryPanel& gallery)
         box->setState(1);
     gallery.cbCaptionStatus.setState(0);
 
-    setAll({&gallery.tfPageTitle}, true);
-    setAll(headingDependents(gallery), true);
-    setAll(fileNameDependents(gallery), true);
-    setAll(captionDependents(gallery), true);
-    setAll({&gallery.tfHTMLPhotoNameColor, &gallery.myPresetNSColorWellObjPhotoNameC}, false);
+    setAllEnabled({&gallery.tfPageTitle}, true);
+    setAllEnabled(headingDependents(gallery), true);
+    setAllEnabled(fileNameDependents(gallery), true);
+    setAllEnabled(captionDependents(gallery), true);
+    setAllEnabled(
+        {&gallery.tfHTMLPhotoNameColor, &gallery.myPresetNSColorWellObjPhotoNameC}, false
+    );
 }
 
 void applyCommonValues(panels::GalleryPanel& gallery)

@@ -7,29 +7,25 @@
 
 namespace brenvaldo::presets {
 
-namespace {
-
-void enable(const ControlList& controls, bool enabled)
+void setAllEnabled(const ControlList& controls, bool enabled)
 {
     for (controls::Control* control : controls)
         control->setEnabled(enabled);
 }
-
-} // namespace
 
 LoadEffect enablesUnlessZero(ControlList controls) { return disablesWhen(0, std::move(controls)); }
 
 LoadEffect enablesWhen(int value, ControlList controls)
 {
     return [value, controls = std::move(controls)](const QString& text) {
-        enable(controls, platform::intValue(text) == value);
+        setAllEnabled(controls, platform::intValue(text) == value);
     };
 }
 
 LoadEffect disablesWhen(int value, ControlList controls)
 {
     return [value, controls = std::move(controls)](const QString& text) {
-        enable(controls, platform::intValue(text) != value);
+        setAllEnabled(controls, platform::intValue(text) != value);
     };
 }
 

@@ -15,6 +15,8 @@ namespace brenvaldo::presets {
 using LoadEffect = std::function<void(const QString& text)>;
 using ControlList = std::vector<controls::Control*>;
 
+void setAllEnabled(const ControlList& controls, bool enabled);
+
 /// Enables the controls when the number is not 0 and disables them otherwise.
 [[nodiscard]] LoadEffect enablesUnlessZero(ControlList controls);
 

@@ -148,16 +148,6 @@ void cPresetManager::hLoadToPDMTable(
     list.addObject({name, process, remainder});
 }
 
-QString cPresetManager::hGetTWMActionsToStore() const
-{
-    return chainText(m_panels.vwWatermark.cActionsTWMArrayController);
-}
-
-void cPresetManager::hLoadTWMActions(const QString& chain)
-{
-    loadChain(chain, m_panels.vwWatermark.cActionsTWMArrayController);
-}
-
 void cPresetManager::hAlertWindow(const QString&, const QString&, const QString&) const { }
 
 } // namespace brenvaldo::presets

@@ -54,9 +54,6 @@ public:
     /// The settings could not be kept under that name.
     platform::Signal<const QString&> presetNotSaved;
 
-    [[nodiscard]] QString hGetTWMActionsToStore() const;
-    void hLoadTWMActions(const QString& chain);
-
 private:
     void listPresetsOf(const QString& process);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "arguments.h"
 
+#include <platform/foundation/digits.h>
+
 #include <QDir>
 
 #include <algorithm>
@@ -9,11 +11,9 @@ namespace brenvaldo::script {
 
 namespace {
 
-bool isDigit(QChar character) { return character >= u'0' && character <= u'9'; }
-
 bool isNumber(const QString& word)
 {
-    return !word.isEmpty() && std::all_of(word.cbegin(), word.cend(), isDigit);
+    return !word.isEmpty() && std::all_of(word.cbegin(), word.cend(), platform::isAsciiDigit);
 }
 
 } // namespace

@@ -18,12 +18,6 @@ MarkFilter filterOfIndex(int index)
     return isFilter ? static_cast<MarkFilter>(index) : MarkFilter::None;
 }
 
-float percentOf(const controls::TextField& field)
-{
-    constexpr float middle = 50;
-    return field.stringValue().isEmpty() ? middle : field.floatValue();
-}
-
 FadeShape readFadeShape(const panels::ImageWatermarkControls& controls)
 {
     if (!controls.cbCircularFadeOut.isOn())
@@ -54,8 +48,8 @@ imaging::ScreenSettings readScreen(const panels::ImageWatermarkControls& control
     return {
         .width = controls.tfWatermarkFilterSize.floatValue(),
         .angle = controls.tfLineScreenAngle.floatValue(),
-        .centreX = percentOf(controls.tfCenterCircularWidth),
-        .centreY = percentOf(controls.tfCenterCircularHeight),
+        .centreX = imaging::centrePercent(controls.tfCenterCircularWidth),
+        .centreY = imaging::centrePercent(controls.tfCenterCircularHeight),
         .sharpness
         = static_cast<float>(controls.pubWatermarkFilterSharpness.indexOfSelectedItem())};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "numbers.h"
 
+#include "digits.h"
 #include "literals.h"
 
 #include <QLocale>
@@ -12,8 +13,6 @@
 namespace brenvaldo::platform {
 
 namespace {
-
-bool isAsciiDigit(QChar character) { return character >= u'0' && character <= u'9'; }
 
 qsizetype skipWhiteSpace(const QString& text, qsizetype position)
 {
