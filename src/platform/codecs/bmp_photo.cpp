@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "claimed_size.h"
+#include "opened_photo.h"
 #include "photo_decoder.h"
 
 #include <platform/containers/bitmap_header.h>
@@ -97,10 +98,10 @@ bool holdsWholeRuns(const QString& path, const BitmapHeader& header, graphics::P
 class BitmapPhoto : public PhotoDecoder
 {
 public:
-    explicit BitmapPhoto(QString path)
-        : m_path(std::move(path))
+    explicit BitmapPhoto(const QString& path)
+        : m_file(std::make_shared<OpenedPhoto>(path))
     {
-        QFile file(m_path);
+        QFile file(m_file->path());
         QImageReader reader(&file, "bmp");
         if (!openRegularFile(file) || !reader.canRead())
             throw vips::VError("no bitmap header");
@@ -114,7 +115,7 @@ public:
         const QByteArray head = file.read(headLength);
         const BitmapHeader bitmap = containers::readBitmapHeader(head);
         if (file.size() < expectedFileSize(bitmap, m_header.storedSize)
-            || !holdsWholeRuns(m_path, bitmap, m_header.storedSize))
+            || !holdsWholeRuns(file.fileName(), bitmap, m_header.storedSize))
             throw vips::VError("the bitmap is truncated");
         m_header.uprightSize = m_header.storedSize;
         m_header.typeIdentifier = u"com.microsoft.bmp"_s;
@@ -143,8 +144,8 @@ public:
             .interpretation = graphics::interpretationOf(node.colorModel, VIPS_FORMAT_UCHAR),
         };
         node.decodingBytes = graphics::sizeOf(layout);
-        node.pixels = graphics::deferredPixels(layout, [path = m_path, layout] {
-            QImageReader reader(path, "bmp");
+        node.pixels = graphics::deferredPixels(layout, [file = m_file, layout] {
+            QImageReader reader(file->path(), "bmp");
             const QImage image = reader.read();
             if (image.isNull())
                 throw vips::VError("the bitmap is damaged");
@@ -154,7 +155,7 @@ public:
     }
 
 private:
-    QString m_path;
+    SharedPhoto m_file;
     ImageHeader m_header;
     QByteArray m_iccProfile;
 };

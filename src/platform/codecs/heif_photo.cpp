@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "claimed_size.h"
 #include "heif_handles.h"
+#include "opened_photo.h"
 #include "photo_decoder.h"
 
 #include <platform/containers/bytes.h>
@@ -142,7 +143,9 @@ vips::VImage pixelsOf(const heif_image* decoded, const graphics::PixelLayout& la
     const uint8_t* plane
         = heif_image_get_plane_readonly(decoded, heif_channel_interleaved, &stride);
     if (plane == nullptr || sizeOf(decoded) != PixelSize{layout.width, layout.height})
-        throw vips::VError("the decoded picture has another size than its header says");
+        throw vips::VError(
+            "the file has changed, or its picture has another size than its header says"
+        );
     const vips::VImage pixels = graphics::newMemoryPixels(layout);
     const auto samples
         = static_cast<std::size_t>(layout.width) * static_cast<std::size_t>(layout.bands);
@@ -163,16 +166,16 @@ vips::VImage pixelsOf(const heif_image* decoded, const graphics::PixelLayout& la
 class HeifPhoto : public PhotoDecoder
 {
 public:
-    HeifPhoto(QString path, const QString& typeIdentifier)
-        : m_path(std::move(path))
+    HeifPhoto(const QString& path, const QString& typeIdentifier)
+        : m_file(std::make_shared<OpenedPhoto>(path))
     {
-        const OpenedHeif file = openHeif(m_path);
+        const OpenedHeif file = openHeif(m_file->path());
         const heif_image_handle* handle = file.primary.get();
         m_header.uprightSize
             = {heif_image_handle_get_width(handle), heif_image_handle_get_height(handle)};
         checkDecodedWhole(m_header.uprightSize);
-        checkClaimedSize(m_path, typeIdentifier, m_header.uprightSize);
-        m_header.storedSize = codedSize(m_path, handle, m_header.uprightSize);
+        checkClaimedSize(m_file->path(), typeIdentifier, m_header.uprightSize);
+        m_header.storedSize = codedSize(m_file->path(), handle, m_header.uprightSize);
         m_header.typeIdentifier = typeIdentifier;
         m_header.bitsPerComponent = heif_image_handle_get_luma_bits_per_pixel(handle) > 8 ? 16 : 8;
         m_header.hasAlpha = heif_image_handle_has_alpha_channel(handle) != 0;
@@ -212,15 +215,15 @@ private:
         node.iccProfile = m_iccProfile;
         node.dotsPerInch = m_header.dotsPerInch;
         node.decodingBytes = sizeOf(layout);
-        node.pixels = graphics::deferredPixels(layout, [path = m_path, layout, chroma, geometry] {
-            const OpenedHeif file = openHeif(path);
+        node.pixels = graphics::deferredPixels(layout, [photo = m_file, layout, chroma, geometry] {
+            const OpenedHeif file = openHeif(photo->path());
             const HeifImage decoded = decodedImage(file.primary.get(), chroma, geometry);
             return pixelsOf(decoded.get(), layout);
         });
         return node;
     }
 
-    QString m_path;
+    SharedPhoto m_file;
     ImageHeader m_header;
     QByteArray m_iccProfile;
 };

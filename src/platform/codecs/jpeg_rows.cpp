@@ -15,8 +15,8 @@ namespace {
 class JpegRows
 {
 public:
-    JpegRows(QString path, int shrink)
-        : m_path(std::move(path))
+    JpegRows(SharedPhoto file, int shrink)
+        : m_file(std::move(file))
         , m_shrink(shrink)
     {
     }
@@ -73,7 +73,7 @@ private:
     bool start(const VipsImage& image)
     {
         m_next = 0;
-        m_reader = std::make_unique<JpegReader>(m_path);
+        m_reader = std::make_unique<JpegReader>(m_file->path());
         if (!m_reader->readHeader() || !m_reader->start(m_shrink))
             return false;
         const jpeg_decompress_struct& facts = m_reader->facts();
@@ -89,7 +89,7 @@ private:
         return fits;
     }
 
-    QString m_path;
+    SharedPhoto m_file;
     int m_shrink;
     int m_next = 0;
     std::unique_ptr<JpegReader> m_reader;
@@ -98,11 +98,11 @@ private:
 
 } // namespace
 
-vips::VImage jpegRows(const QString& path, int shrink, const vips::VImage& header)
+vips::VImage jpegRows(const SharedPhoto& file, int shrink, const vips::VImage& header)
 {
     const vips::VImage out(vips_image_new());
     VipsImage* image = out.get_image();
-    JpegRows* rows = std::make_unique<JpegRows>(path, shrink).release();
+    JpegRows* rows = std::make_unique<JpegRows>(file, shrink).release();
     g_signal_connect(image, "close", G_CALLBACK(&JpegRows::release), rows);
     if (vips_image_pipelinev(image, VIPS_DEMAND_STYLE_THINSTRIP, header.get_image(), nullptr) != 0
         || vips_image_generate(image, nullptr, &JpegRows::generate, nullptr, rows, nullptr) != 0)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "opened_photo.h"
 #include "photo_decoder.h"
 #include "psd_samples.h"
 
@@ -171,10 +172,10 @@ vips::VImage colorsOf(const PsdFile& file, const vips::VImage& stored)
 class PsdPhoto : public PhotoDecoder
 {
 public:
-    PsdPhoto(QString path, const QString& typeIdentifier)
-        : m_path(std::move(path))
+    PsdPhoto(const QString& path, const QString& typeIdentifier)
+        : m_photo(std::make_shared<OpenedPhoto>(path))
     {
-        const containers::MappedFile mapped(m_path);
+        const containers::MappedFile mapped(m_photo->path());
         const PsdFile file = readPsdFile(mapped.bytes());
         checkDecodedWhole(file.size);
         static_cast<void>(PsdRows(file)); // too short a file shows here
@@ -215,8 +216,8 @@ public:
         node.iccProfile = m_profile;
         node.dotsPerInch = m_header.dotsPerInch;
         node.decodingBytes = graphics::sizeOf(layout);
-        node.pixels = graphics::deferredPixels(layout, [path = m_path, format] {
-            const containers::MappedFile mapped(path);
+        node.pixels = graphics::deferredPixels(layout, [photo = m_photo, format] {
+            const containers::MappedFile mapped(photo->path());
             const PsdFile file = readPsdFile(mapped.bytes());
             return graphics::copiedToMemory(colorsOf(file, storedSamples(file)).cast(format));
         });
@@ -224,7 +225,7 @@ public:
     }
 
 private:
-    QString m_path;
+    SharedPhoto m_photo;
     ImageHeader m_header;
     QByteArray m_profile;
 };

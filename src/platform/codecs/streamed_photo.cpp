@@ -2,6 +2,7 @@
 #include "claimed_size.h"
 #include "jpeg2000_boxes.h"
 #include "jpeg_rows.h"
+#include "opened_photo.h"
 #include "photo_decoder.h"
 #include "png_header.h"
 #include "tiff_claim.h"
@@ -12,8 +13,6 @@
 #include <platform/graphics/color_profile.h>
 #include <platform/graphics/deferred_pixels.h>
 #include <platform/graphics/engine.h>
-
-#include <QFile>
 
 #include <array>
 
@@ -31,15 +30,15 @@ struct StreamedType
 };
 
 constexpr std::array streamedTypes = {
-    StreamedType{"public.jpeg", "jpegload"},
-    StreamedType{"public.png", "pngload"},
-    StreamedType{"public.tiff", "tiffload"},
+    StreamedType{"public.jpeg", "jpegload_source"},
+    StreamedType{"public.png", "pngload_source"},
+    StreamedType{"public.tiff", "tiffload_source"},
     // Blocks that make no sense show that those before them ended early.
-    StreamedType{"com.compuserve.gif", "gifload", VIPS_FAIL_ON_WARNING},
-    StreamedType{"public.jp2", "jp2kload"},
-    StreamedType{"org.webmproject.webp", "webpload"},
-    StreamedType{"public.jpeg-xl", "jxlload"},
-    StreamedType{"public.pbm", "ppmload"},
+    StreamedType{"com.compuserve.gif", "gifload_source", VIPS_FAIL_ON_WARNING},
+    StreamedType{"public.jp2", "jp2kload_source"},
+    StreamedType{"org.webmproject.webp", "webpload_source"},
+    StreamedType{"public.jpeg-xl", "jxlload_source"},
+    StreamedType{"public.pbm", "ppmload_source"},
 };
 
 const StreamedType* streamedType(const QString& typeIdentifier)
@@ -51,11 +50,11 @@ const StreamedType* streamedType(const QString& typeIdentifier)
     return nullptr;
 }
 
-vips::VImage load(const StreamedType& type, const QString& path, int shrink)
+vips::VImage load(const StreamedType& type, const SharedPhoto& file, int shrink)
 {
     vips::VImage out;
     vips::VOption* options = vips::VImage::option()
-                                 ->set("filename", QFile::encodeName(path).constData())
+                                 ->set("source", readingSource(file))
                                  ->set("out", &out)
                                  ->set("access", VIPS_ACCESS_SEQUENTIAL)
                                  ->set("fail_on", type.failOn);
@@ -147,12 +146,12 @@ HeaderFacts headerFacts(const QString& path, const QString& typeIdentifier)
 class StreamedPhoto : public PhotoDecoder
 {
 public:
-    StreamedPhoto(QString path, const StreamedType& type)
-        : m_path(std::move(path))
+    StreamedPhoto(const QString& path, const StreamedType& type)
+        : m_file(std::make_shared<OpenedPhoto>(path))
         , m_type(type)
-        , m_isJpeg(QLatin1String(type.loader) == QLatin1String("jpegload"))
+        , m_isJpeg(QLatin1String(type.loader) == QLatin1String("jpegload_source"))
     {
-        const vips::VImage decoded = load(m_type, m_path, 1);
+        const vips::VImage decoded = load(m_type, m_file, 1);
         checkSize(decoded, m_isJpeg);
         const ImageNode node = graphics::nodeOfDecodedPixels(decoded);
         if (m_isJpeg && isProgressiveJpeg(decoded))
@@ -167,7 +166,7 @@ public:
             || decoded.interpretation() == VIPS_INTERPRETATION_LABS;
         m_header.colorModel = isLab ? graphics::ColorModel::Lab : node.colorModel;
         m_header.hasAlpha = node.hasAlpha;
-        m_facts = headerFacts(m_path, m_header.typeIdentifier);
+        m_facts = headerFacts(m_file->path(), m_header.typeIdentifier);
         checkBytes();
         m_header.dotsPerInch = m_facts.dotsPerInch.value_or(node.dotsPerInch);
     }
@@ -181,9 +180,9 @@ public:
 
     [[nodiscard]] ImageNode storedPixels(int shrink) const override
     {
-        const vips::VImage loaded = load(m_type, m_path, shrink);
+        const vips::VImage loaded = load(m_type, m_file, shrink);
         ImageNode node
-            = graphics::nodeOfDecodedPixels(m_isJpeg ? jpegRows(m_path, shrink, loaded) : loaded);
+            = graphics::nodeOfDecodedPixels(m_isJpeg ? jpegRows(m_file, shrink, loaded) : loaded);
         node.dotsPerInch = m_header.dotsPerInch;
         node.decodingBytes = m_decodingBytes;
         if (!m_facts.iccProfile.isEmpty())
@@ -196,14 +195,14 @@ private:
     void checkBytes() const
     {
         if (m_isJpeg)
-            checkJpegSize(m_path);
+            checkJpegSize(m_file->path());
         else if (m_header.typeIdentifier == QLatin1String("public.tiff"))
-            checkTiffSize(m_path);
+            checkTiffSize(m_file->path());
         else
-            checkClaimedSize(m_path, m_header.typeIdentifier, m_header.storedSize);
+            checkClaimedSize(m_file->path(), m_header.typeIdentifier, m_header.storedSize);
     }
 
-    QString m_path;
+    SharedPhoto m_file;
     const StreamedType& m_type;
     bool m_isJpeg;
     ImageHeader m_header;

@@ -68,6 +68,8 @@ QImage evaluatedQImage(const ImageNode& node)
 
 vips::VImage pixelsOf(const QImage& image, const PixelLayout& layout)
 {
+    if (image.size() != QSize(layout.width, layout.height))
+        throw vips::VError("the file has changed");
     constexpr std::array formats = {
         QImage::Format_Grayscale8,
         QImage::Format_Invalid,
