@@ -115,7 +115,7 @@ public:
         const QByteArray head = file.read(headLength);
         const BitmapHeader bitmap = containers::readBitmapHeader(head);
         if (file.size() < expectedFileSize(bitmap, m_header.storedSize)
-            || !holdsWholeRuns(file.fileName(), bitmap, m_header.storedSize))
+            || !holdsWholeRuns(m_file->path(), bitmap, m_header.storedSize))
             throw vips::VError("the bitmap is truncated");
         m_header.uprightSize = m_header.storedSize;
         m_header.typeIdentifier = u"com.microsoft.bmp"_s;
