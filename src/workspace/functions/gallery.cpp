@@ -27,7 +27,7 @@ Function gallery()
         .title = QT_TRANSLATE_NOOP("FunctionTitle", "Web gallery"),
         .choice = {.section = Section::Gallery},
         .holders = {QLatin1String("vwHtmlExport"), Empty, Fill, Empty, Fill},
-        .run = ListRun{.work = makeGallery},
+        .run = ListRun{.work = makeGallery, .takes = Takes::AllTicked},
         .presets = {{.make = presets::galleryRecord}},
         .whenPresetLoaded = showTemplate,
     };

@@ -93,6 +93,8 @@ struct ListRun
     };
 
     std::function<void(const Photos& photos)> work = {};
+    /// What `work` takes; the run doesn't start without a photo of the filter, whatever it is.
+    Takes takes = Takes::PhotosOfTheFilter;
 };
 
 /// One file of a renaming run, or one press of "add to the chain".

@@ -15,6 +15,16 @@ bool passes(const QString& filter, const cCollectionViewItem& entry)
     return entry.myRenameSelect <= 0 && (filter == u"ALL" || filter == entry.myPhotoOrientation);
 }
 
+Takes takenBy(const KindOfRun& run)
+{
+    if (std::holds_alternative<RenamingRun>(run))
+        return Takes::AllTicked;
+    if (const auto* loop = std::get_if<PhotoRun>(&run))
+        return loop->takes;
+    const auto* list = std::get_if<ListRun>(&run);
+    return list ? list->takes : Takes::PhotosOfTheFilter;
+}
+
 } // namespace
 
 const Function*
@@ -46,10 +56,7 @@ QStringList photosOfRun(const KindOfRun& run, const PhotoList& photos, const pan
 {
     if (std::holds_alternative<OwnButton>(run))
         return {};
-    const auto* loop = std::get_if<PhotoRun>(&run);
-    const bool takesAll
-        = std::holds_alternative<RenamingRun>(run) || (loop && loop->takes == Takes::AllTicked);
-    return takenPhotos(takesAll ? Takes::AllTicked : Takes::PhotosOfTheFilter, photos, panels);
+    return takenPhotos(takenBy(run), photos, panels);
 }
 
 } // namespace brenvaldo::workspace

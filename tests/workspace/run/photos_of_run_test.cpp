@@ -68,7 +68,7 @@ INSTANTIATE_TEST_SUITE_P(
         TakenPhotos{"resizePhotos", {u"wide"_s}},
         TakenPhotos{"batchUploadPhotos", {u"wide"_s}},
         TakenPhotos{"batchExifUC", {u"wide"_s}},
-        TakenPhotos{"htmlExport", {u"wide"_s}},
+        TakenPhotos{"htmlExport", {u"wide"_s, u"tall"_s, u"square"_s, u"text"_s}},
         TakenPhotos{"fileRenaming", {u"wide"_s, u"tall"_s, u"square"_s, u"text"_s}},
         TakenPhotos{"batchFileConvert", {u"wide"_s, u"tall"_s, u"square"_s, u"text"_s}},
         TakenPhotos{"manSort", {}},
