@@ -123,9 +123,7 @@ struct Workspace::Parts
                .functions = functions,
                .subsystems = subsystems,
                .neighbours = neighbours,
-               .hAlertWindow = [this](
-                                   const QString& title, const QString& text
-                               ) { guiControls.hAlertWindow(title, text); }}
+               .hAlertWindow = alertWindow()}
           )
         , guiControls(
               {.panels = panels,
@@ -149,14 +147,7 @@ struct Workspace::Parts
                .collectionView = collectionView,
                .waitForUploads = [this] { photosLink.waitForAll(); }}
           )
-        , sheetControl(
-              panels,
-              surroundings.chooser,
-              surroundings.defaults,
-              [this](const QString& title, const QString& text) {
-                  guiControls.hAlertWindow(title, text);
-              }
-          )
+        , sheetControl(panels, surroundings.chooser, surroundings.defaults, alertWindow())
         , responsiveDesign(
               {.panel = panels.vwHtmlExport,
                .bar = panels.window.myProgressBar,
@@ -164,9 +155,7 @@ struct Workspace::Parts
                .meta = meta,
                .desktop = surroundings.desktop,
                .tickedPhotos = [this] { return tickedPhotos(); },
-               .hAlertWindow = [this](
-                                   const QString& title, const QString& text
-                               ) { guiControls.hAlertWindow(title, text); },
+               .hAlertWindow = alertWindow(),
                .closeAlert = [this] { guiControls.closeApplicationAlertSheetObjC(); },
                .showPicture
                = [this](const QString& name) { collectionView.callForHTMLTemplatePreview(name); }}
@@ -213,6 +202,13 @@ struct Workspace::Parts
 
     void registerActions();
     void showLoadedPreset();
+    /// Shows a message in the alert window.
+    [[nodiscard]] std::function<void(const QString& title, const QString& text)> alertWindow()
+    {
+        return [this](const QString& title, const QString& text) {
+            guiControls.hAlertWindow(title, text);
+        };
+    }
     void recordLostPreset(const QString& name);
     void shareMyPhoto();
     [[nodiscard]] QStringList tickedPhotos() const;
@@ -261,10 +257,7 @@ struct Workspace::Parts
     gallery::cResponsiveDesign responsiveDesign;
     presets::cPresetManager presetManager;
     imaging::cColorWellHandling colorWells;
-    services::CodeActions codeActions{
-        panels.vwQRBarCode, [this](const QString& title, const QString& text) {
-            guiControls.hAlertWindow(title, text);
-        }};
+    services::CodeActions codeActions{panels.vwQRBarCode, alertWindow()};
     ImageLibraries imageLibraries;
     ManualSort manualSort;
     DVFileSorterRoutine fileSorter;
@@ -326,8 +319,7 @@ void Workspace::Parts::shareMyPhoto()
 void Workspace::Parts::recordLostPreset(const QString& name)
 {
     journal.add(
-        {.time = QDateTime::currentDateTime(),
-         .function = selectedFunction(),
+        {.function = selectedFunction(),
          .source = {},
          .target = name,
          .word = imaging::ResultWord::Failed}
@@ -338,8 +330,7 @@ void Workspace::Parts::recordComment(const QString& path, metadata::mMeta::Writt
 {
     const bool isDone = written == metadata::mMeta::Written::Done;
     journal.add(
-        {.time = QDateTime::currentDateTime(),
-         .function = u"btApplyExifUserComment"_s,
+        {.function = u"btApplyExifUserComment"_s,
          .source = path,
          .target = path,
          .word = isDone ? imaging::ResultWord::Ok : imaging::ResultWord::Failed}

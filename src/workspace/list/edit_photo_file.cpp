@@ -49,13 +49,7 @@ void cCollectionViewController::editSelected(const QString& action, const QuickE
         return;
     const QString path = m_photos.selectedEntry()->myPhotoDescription;
     const imaging::ResultWord word = edit(path, folderOf(path));
-    m_journal.add(
-        {.time = QDateTime::currentDateTime(),
-         .function = action,
-         .source = path,
-         .target = path,
-         .word = word}
-    );
+    m_journal.add({.function = action, .source = path, .target = path, .word = word});
     m_photos.replaceAt(*index, editedEntry(path));
     showFile(path);
     layWatermarkOver();

@@ -177,8 +177,7 @@ void PictureSaver::record(const imaging::PhotoOutcome& photo, imaging::ResultWor
 {
     m_lastWord = m_links.imageHandling.finish(photo.outcome, saved);
     m_links.journal.add(
-        {.time = QDateTime::currentDateTime(),
-         .function = m_links.function,
+        {.function = m_links.function,
          .source = photo.source,
          .target = photo.target,
          .word = m_lastWord}

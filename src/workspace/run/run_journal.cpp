@@ -3,8 +3,10 @@
 
 namespace brenvaldo::workspace {
 
-void RunJournal::add(const RunRecord& record)
+void RunJournal::add(RunRecord record)
 {
+    if (record.time.isNull())
+        record.time = QDateTime::currentDateTime();
     m_records.append(record);
     recorded(record);
 }

@@ -13,7 +13,7 @@ namespace brenvaldo::workspace {
 /// What a run did with one photo.
 struct RunRecord
 {
-    QDateTime time;
+    QDateTime time = {}; ///< set by the journal where it isn't
     QString function; ///< function id, or the action that edited the photo's own file
     QString source; ///< path of the photo; empty for a preset
     /// Path of the file, or name of the preset, that was to be written; empty when there is none.
@@ -25,7 +25,7 @@ struct RunRecord
 class RunJournal
 {
 public:
-    void add(const RunRecord& record);
+    void add(RunRecord record);
     void clear();
     [[nodiscard]] const QList<RunRecord>& records() const { return m_records; }
 

@@ -151,8 +151,7 @@ void DVFileSorterRoutine::handle(const QString& path, const Settings& settings)
     const QString target = settings.destination + platform::lastPathComponent(path);
     const FileResult result = handling({.source = path, .target = target});
     m_links.journal.add(
-        {.time = QDateTime::currentDateTime(),
-         .function = functionId::batchSort,
+        {.function = functionId::batchSort,
          .source = path,
          .target = settings.trashes() ? QString() : target,
          .word = result == FileResult::Ok ? imaging::ResultWord::Ok : imaging::ResultWord::Failed}

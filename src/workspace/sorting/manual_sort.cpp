@@ -170,11 +170,7 @@ void ManualSort::hShowSortDestinationInFinder(int tag)
 void ManualSort::record(const QString& action, const SourceAndTarget& paths, ResultWord word) const
 {
     m_links.journal.add(
-        {.time = QDateTime::currentDateTime(),
-         .function = action,
-         .source = paths.source,
-         .target = paths.target,
-         .word = word}
+        {.function = action, .source = paths.source, .target = paths.target, .word = word}
     );
 }
 

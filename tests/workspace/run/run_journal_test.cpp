@@ -37,6 +37,17 @@ TEST(RunJournal, TellsWhatItRecords)
     EXPECT_EQ(journal.records().size(), 2);
 }
 
+TEST(RunJournal, KnowsWhenARecordWasAdded)
+{
+    workspace::RunJournal journal;
+    const QDateTime before = QDateTime::currentDateTime();
+
+    journal.add({.function = u"resizePhotos"_s, .source = {}, .target = {}});
+
+    EXPECT_GE(journal.records().first().time, before);
+    EXPECT_LE(journal.records().first().time, QDateTime::currentDateTime());
+}
+
 TEST(RunJournal, GivesOneLineARecord)
 {
     workspace::RunJournal journal;
