@@ -32,6 +32,16 @@ QStringList previewActions()
     };
 }
 
+/// Registers an operation of `guiControls` as an action of its name.
+auto adderTo(controls::ActionRegistry& actions, cGUIcontrols& guiControls)
+{
+    return [&actions, &guiControls](const QString& name, void (cGUIcontrols::*action)()) {
+        actions.add(guiControlsClass, name, [&guiControls, action](const auto&) {
+            (guiControls.*action)();
+        });
+    };
+}
+
 } // namespace
 
 cGUIcontrols::cGUIcontrols(const Links& links)
@@ -80,9 +90,7 @@ void cGUIcontrols::registerActions(controls::ActionRegistry& actions)
 
 void cGUIcontrols::registerFunctionActions(controls::ActionRegistry& actions)
 {
-    const auto add = [&](const QString& name, void (cGUIcontrols::*action)()) {
-        actions.add(guiControlsClass, name, [this, action](const auto&) { (this->*action)(); });
-    };
+    const auto add = adderTo(actions, *this);
     add(u"hEditPhotoClicked"_s, &cGUIcontrols::hEditPhotoClicked);
     add(u"hFileManagementClicked"_s, &cGUIcontrols::hFileManagementClicked);
     add(u"hExportHTMLClicked"_s, &cGUIcontrols::hExportHTMLClicked);
@@ -96,9 +104,7 @@ void cGUIcontrols::registerFunctionActions(controls::ActionRegistry& actions)
 
 void cGUIcontrols::registerDriverActions(controls::ActionRegistry& actions)
 {
-    const auto add = [&](const QString& name, void (cGUIcontrols::*action)()) {
-        actions.add(guiControlsClass, name, [this, action](const auto&) { (this->*action)(); });
-    };
+    const auto add = adderTo(actions, *this);
     actions.add(guiControlsClass, u"hLoadImages"_s, [this](const auto&) {
         m_driver.hLoadImages();
     });
@@ -114,9 +120,7 @@ void cGUIcontrols::registerDriverActions(controls::ActionRegistry& actions)
 
 void cGUIcontrols::registerPanelActions(controls::ActionRegistry& actions)
 {
-    const auto add = [&](const QString& name, void (cGUIcontrols::*action)()) {
-        actions.add(guiControlsClass, name, [this, action](const auto&) { (this->*action)(); });
-    };
+    const auto add = adderTo(actions, *this);
     for (const QString& name : previewActions()) {
         actions.add(guiControlsClass, name, [this](const controls::Sender&) {
             m_collectionView.callForPreview();
