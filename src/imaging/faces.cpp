@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dv_image_handling.h"
 
-#include "source_photo.h"
-
+#include <platform/codecs/image_source.h>
 #include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
 
@@ -43,6 +42,14 @@ private:
     int m_count = 0;
 };
 
+/// Several parts are taken of the stored pixels, so they are decoded once for all.
+std::optional<Image> storedOnce(const QString& path)
+{
+    using platform::codecs::ImageSource;
+    const auto source = ImageSource::open(path);
+    return source ? source->image({.access = ImageSource::Access::Random}) : std::nullopt;
+}
+
 } // namespace
 
 QString DVImageHandling::faceBase(const QString& destinationBase, int number)
@@ -57,10 +64,7 @@ Outcome DVImageHandling::hGetListOfFaces(
 {
     const auto upright = hNSURLtoCIImage(QUrl::fromLocalFile(photo.source));
     const auto faces = upright ? findFaces(*upright) : std::vector<platform::graphics::PixelRect>();
-    // Several parts are taken of it, so it is decoded once for all.
-    const auto stored = faces.empty()
-        ? std::nullopt
-        : storedPhoto(photo.source, platform::codecs::SourceAccess::Random);
+    const auto stored = faces.empty() ? std::nullopt : storedOnce(photo.source);
     FaceChain chain(photo, tail);
     for (const auto& face : faces)
         chain.append(stored ? stored->croppedTo(face) : std::nullopt);

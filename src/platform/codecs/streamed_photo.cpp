@@ -159,7 +159,7 @@ public:
                 * sizeof(short); // all its coefficients
         m_header.typeIdentifier = QLatin1String(type.typeIdentifier);
         m_header.storedSize = {decoded.width(), decoded.height()};
-        m_header.orientation = statedOrientation(m_path, m_header.typeIdentifier, decoded);
+        m_header.orientation = statedOrientation(m_file->path(), m_header.typeIdentifier, decoded);
         m_header.uprightSize = uprightSize(m_header.storedSize, m_header.orientation);
         m_header.bitsPerComponent = static_cast<int>(vips_format_sizeof(decoded.format())) * 8;
         const bool isLab = decoded.interpretation() == VIPS_INTERPRETATION_LAB
