@@ -143,6 +143,8 @@ const QList<PropertyNode>& mMeta::hiDoNothing(const QString& path)
 
 void mMeta::forgetPhoto()
 {
+    if (m_panels.vwPhotoInfo.tfActiveFilePath.stringValue().isEmpty())
+        return; // a comment that stands there is not that of a photo
     m_tree.clear();
     m_panels.vwPhotoInfo.tfActiveFilePath.setStringValue({});
     m_panels.vwFileManagementEXIF.tfExifUserComment.setStringValue({});

@@ -139,6 +139,15 @@ TEST_F(Meta, ShowsAnEmptyCommentAsItIs)
     EXPECT_EQ(shownComment(), QString());
 }
 
+TEST_F(Meta, ForgetsNoCommentThatIsNotOfAPhoto)
+{
+    m_panels.vwFileManagementEXIF.tfExifUserComment.setStringValue(u"of a preset"_s);
+
+    m_meta.forgetPhoto();
+
+    EXPECT_EQ(shownComment(), u"of a preset"_s);
+}
+
 TEST_F(Meta, ShowsThatAFileWhichIsNoImageIsNotSupportedAndClearsTheTree)
 {
     m_meta.hiDoNothing(jpeg(photoWithComment("hello")));
