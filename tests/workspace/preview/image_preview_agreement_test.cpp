@@ -50,7 +50,7 @@ struct LookOfImage
     void (*choose)(panels::WatermarkPanel& panel);
 };
 
-void shadowed(panels::WatermarkPanel& panel)
+void shadowedImage(panels::WatermarkPanel& panel)
 {
     panel.cbImageShadowCheck.setState(1);
     panel.tfImageShadowXOffset.setStringValue(u"6"_s);
@@ -77,7 +77,7 @@ constexpr std::array looksOfImages{
         "Larger",
         [](panels::WatermarkPanel& panel) { panel.tfImageScalePC.setStringValue(u"170"_s); }},
     LookOfImage{"Turned", turned},
-    LookOfImage{"Shadowed", shadowed},
+    LookOfImage{"Shadowed", shadowedImage},
     LookOfImage{"Faded", faded},
     LookOfImage{
         "FadedRoundItsMiddle",
@@ -102,7 +102,7 @@ constexpr std::array looksOfImages{
         "RepeatedFadedAndShadowed",
         [](panels::WatermarkPanel& panel) {
             repeated(panel);
-            shadowed(panel);
+            shadowedImage(panel);
             faded(panel);
         }},
 };
