@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dv_image_handling.h"
 
+#include "stored_photo.h"
 #include "tint_rules.h"
 
 #include <platform/drawing/paint.h>
@@ -63,11 +64,13 @@ Outcome DVImageHandling::addTintToImage2(
     const SourceAndBase& photo, const TintSettings& settings, const OutputTail& tail
 )
 {
-    const auto stored = hStringToCGImageRef(photo.source);
-    if (!stored) {
+    if (!isReadableFile(photo.source)) {
         platform::log(u"no imageRef"_s);
-        return outputPicture(std::nullopt, photo, tail);
+        return ResultWord::Failed;
     }
+    const auto stored = hStringToCGImageRef(photo.source);
+    if (!stored)
+        return outputPicture(std::nullopt, photo, tail);
     return outputPicture(tinted(*stored, settings), photo, tail);
 }
 

@@ -29,6 +29,7 @@ protected:
         .color = {.red = 1, .green = 0, .blue = 0}, .sizeMode = u"W x H"_s, .originalSizeState = 1};
     DVImageHandling handling;
     TemporaryFolder folder;
+    QString type = u"public.png"_s;
 
     ResultWord tint(const QString& source)
     {
@@ -40,7 +41,7 @@ protected:
              .fileExtension = u"png"_s,
              .fileExtensionNSStr = {},
              .fileUTI = u"public.png"_s,
-             .myFileType = u"public.png"_s}
+             .myFileType = type}
         ));
     }
 
@@ -221,6 +222,23 @@ TEST_F(AddTint, FailsForAPhotoThatCannotBeRead)
 
     EXPECT_TRUE(log.lines().contains(u"no imageRef"_s));
     EXPECT_FALSE(QFileInfo::exists(folder.path(u"tinted.png"_s)));
+}
+
+TEST_F(AddTint, FailsWithoutAFileWhateverTheType)
+{
+    type = u"com.adobe.pdf"_s;
+
+    EXPECT_EQ(tint(folder.path(u"none.pdf"_s)), ResultWord::Failed);
+    EXPECT_EQ(tint(folder.write(u"text.pdf"_s, "text")), ResultWord::NotSupported);
+}
+
+TEST_F(AddTint, SaysNothingOfAFileThatHoldsNoPhoto)
+{
+    const LogLines log;
+
+    EXPECT_EQ(tint(folder.write(u"text.png"_s, "text")), ResultWord::Failed);
+
+    EXPECT_FALSE(log.lines().contains(u"no imageRef"_s));
 }
 
 TEST_F(AddTint, ShowsInThePreviewWhatIsWritten)
