@@ -198,7 +198,7 @@ constexpr std::array rows{
         Needs::Nothing},
     CommandRow{
         "cGUIcontrols.hGoToWebPageURL",
-        QT_TRANSLATE_NOOP("Commands", "Home pa&ge"),
+        QT_TRANSLATE_NOOP("Commands", "H&ome page"),
         "",
         "",
         Needs::Nothing},

@@ -32,8 +32,8 @@ PhotoToolBar::PhotoToolBar(
     : QWidget(parent)
 {
     auto* line = new QHBoxLayout(this);
-    line->setContentsMargins(12, 6, 12, 6);
-    line->setSpacing(2);
+    line->setContentsMargins(8, 6, 8, 6);
+    line->setSpacing(1);
     addTitled(*line, *commands.command(u"hChoosePhotos"_s));
     addTitled(*line, *commands.command(u"hInsertPhotos"_s));
     const QList<QStringList> groups{
@@ -91,11 +91,11 @@ void PhotoToolBar::addDrawn(QHBoxLayout& line, QAction& command)
 
 void PhotoToolBar::addGap(QHBoxLayout& line)
 {
-    line.addSpacing(4);
+    line.addSpacing(3);
     auto* mark = new Hairline(Qt::Vertical, this);
     mark->setFixedHeight(20);
     line.addWidget(mark);
-    line.addSpacing(4);
+    line.addSpacing(3);
 }
 
 void PhotoToolBar::addCounter(

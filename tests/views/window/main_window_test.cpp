@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/foundation/literals.h>
+#include <workspace/functions/functions.h>
 #include <platform/foundation/user_defaults.h>
 #include <support/environment.h>
 #include <support/photo_builder.h>
@@ -34,6 +35,17 @@ using namespace brenvaldo;
 namespace {
 
 /// The whole program with its window, in folders of its own.
+/// The functions, as if the one that cuts out faces came with a later version.
+workspace::Functions functionsButFaces()
+{
+    workspace::Functions functions(workspace::functions());
+    for (workspace::Function& function : functions) {
+        if (function.id == QLatin1String("faces"))
+            function.run = workspace::PhotoRun{};
+    }
+    return functions;
+}
+
 class MainWindow : public testing::Test
 {
 protected:
@@ -118,7 +130,8 @@ protected:
     platform::UserDefaults defaults{folder.path(u"defaults.conf"_s)};
     views::QtFileChooser chooser;
     views::QtDesktop desktop;
-    workspace::Workspace workspace{{.chooser = chooser, .desktop = desktop, .defaults = defaults}};
+    workspace::Workspace workspace{
+        {.chooser = chooser, .desktop = desktop, .defaults = defaults}, functionsButFaces()};
     std::unique_ptr<views::MainWindow> window;
 };
 
@@ -428,7 +441,9 @@ TEST_F(MainWindow, ReachesEveryWidgetByTabInBothDirections)
         for (const QWidget* widget : expected)
             EXPECT_TRUE(reached.contains(widget))
                 << widget->metaObject()->className() << ' ' << widget->objectName().toStdString()
-                << " at function " << index;
+                << " at function " << index << ", " << widget->width() << " x " << widget->height()
+                << " of " << widget->minimumSizeHint().width() << " x "
+                << widget->minimumSizeHint().height();
     }
 }
 
@@ -544,7 +559,9 @@ TEST_F(MainWindow, CutsNoWidgetAtTheSmallestSize)
                 continue;
             EXPECT_FALSE(isCut(*widget))
                 << widget->metaObject()->className() << ' ' << widget->objectName().toStdString()
-                << " at function " << index;
+                << " at function " << index << ", " << widget->width() << " x " << widget->height()
+                << " of " << widget->minimumSizeHint().width() << " x "
+                << widget->minimumSizeHint().height();
         }
     }
 }

@@ -3,6 +3,7 @@
 
 #include <platform/codecs/image_source.h>
 #include <platform/foundation/literals.h>
+#include <workspace/functions/function_id.h>
 #include <workspace/functions/functions.h>
 
 #include <QDir>
@@ -202,7 +203,9 @@ std::vector<std::string> functionsThatRun()
 {
     std::vector<std::string> ids;
     for (const workspace::Function& function : workspace::functions()) {
-        if (std::visit(HasOperation{}, function.run))
+        // Uploads go on by themselves beside any run, and keep dates.
+        if (function.id != workspace::functionId::batchUploadPhotos
+            && std::visit(HasOperation{}, function.run))
             ids.emplace_back(function.id.data());
     }
     return ids;
