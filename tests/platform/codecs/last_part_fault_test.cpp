@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/codecs/image_destination.h>
 #include <platform/foundation/literals.h>
+#include <platform/graphics/deferred_pixels.h>
+#include <platform/graphics/evaluation.h>
+#include <platform/graphics/image_node.h>
 #include <platform/graphics/screen_scaling.h>
 
 #include <support/case_name.h>
@@ -42,6 +45,28 @@ QByteArray cutOff(PhotoFormat format, QSize size, int percent)
     return whole.first(whole.size() * percent / 100);
 }
 
+QByteArray cutOffDeep(PhotoFormat format, int percent)
+{
+    const QByteArray whole = PhotoBuilder().size(120, 90).depth(16).format(format).bytes();
+    return whole.first(whole.size() * percent / 100);
+}
+
+/// Types that the engine alone writes.
+QByteArray cutOffByEngine(const char* suffix)
+{
+    const vips::VImage noise = vips::VImage::gaussnoise(120, 90).cast(VIPS_FORMAT_UCHAR);
+    void* bytes = nullptr;
+    std::size_t size = 0;
+    const vips::VImage colors = noise.bandjoin(noise).bandjoin(noise).copy(
+        vips::VImage::option()->set("interpretation", VIPS_INTERPRETATION_sRGB)
+    );
+    colors.write_to_buffer(suffix, &bytes, &size);
+    const std::unique_ptr<void, decltype(&g_free)> owned(bytes, &g_free);
+    return {static_cast<const char*>(bytes), static_cast<qsizetype>(size) * 97 / 100};
+}
+
+QByteArray cutOffAnymap() { return "P6 120 90 255\n" + QByteArray(120 * 90 * 3 - 100, 'x'); }
+
 QByteArray layersWithABadLastRun()
 {
     const QByteArray channel(64 * 48, '\x20');
@@ -80,6 +105,15 @@ constexpr DamagedPhoto damagedPhotos[] = {
      [] {
          return cutOff(PhotoFormat::Heic, {128, 64}, 97);
      }},
+    {"Bitmap",
+     [] {
+         return cutOff(PhotoFormat::Bmp, {120, 90}, 97);
+     }},
+    {"DeepPng", [] { return cutOffDeep(PhotoFormat::Png, 90); }},
+    {"DeepTiff", [] { return cutOffDeep(PhotoFormat::Tiff, 97); }},
+    {"LosslessWebP", [] { return cutOffByEngine(".webp[lossless]"); }},
+    {"JpegXl", [] { return cutOffByEngine(".jxl"); }},
+    {"Anymap", cutOffAnymap},
     {"Psd", layersWithABadLastRun},
 };
 
@@ -113,6 +147,16 @@ bool copies(const Image& image, const QString& /*path*/)
     return image.copiedToMemory().has_value();
 }
 
+bool walks(const Image& image, const QString& /*path*/)
+{
+    try {
+        forEachRow(image.node()->pixels, [](const unsigned char*, int) {});
+        return true;
+    } catch (const vips::VError&) {
+        return false;
+    }
+}
+
 constexpr Sink sinks[] = {
     {"Png", encodes<FileFormat::Png>},
     {"Tiff", encodes<FileFormat::Tiff>},
@@ -126,6 +170,7 @@ constexpr Sink sinks[] = {
     {"SmallScreen", showsSmall},
     {"TurnedScreen", showsTurned},
     {"Memory", copies},
+    {"Rows", walks},
 };
 
 struct LastPartCase

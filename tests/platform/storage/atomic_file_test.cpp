@@ -17,6 +17,7 @@
 #include <csignal>
 
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 using namespace Qt::StringLiterals;
 using namespace brenvaldo::platform::storage;
@@ -238,6 +239,27 @@ TEST(AtomicFile, RefusesTheNameOfASocket)
     ASSERT_EQ(::mknod(QFile::encodeName(path).constData(), S_IFSOCK | 0600, 0), 0);
 
     expectRefused(path);
+}
+
+TEST(AtomicFile, RefusesTheNameOfADevice)
+{
+    const TemporaryFolder folder;
+    QString device = folder.path(u"device.png"_s);
+    const QString link = folder.path(u"link.png"_s);
+    // Who may not make a device may not replace that of the machine either.
+    if (::mknod(QFile::encodeName(device).constData(), S_IFCHR | 0600, makedev(1, 3)) != 0)
+        device = u"/dev/null"_s;
+    ASSERT_TRUE(QFile::link(device, link));
+    const QStringList before = allEntries(folder);
+
+    for (const QString& path : {device, link}) {
+        EXPECT_FALSE(writeFileAtomically(path, "new"));
+        EXPECT_EQ(AtomicFile(path).fault(), u"something else than a plain file stands there"_s);
+    }
+
+    EXPECT_TRUE(S_ISCHR(statusOf(device).st_mode));
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(allEntries(folder), before);
 }
 
 TEST(AtomicFile, TakesTheNameOfABrokenLink)
