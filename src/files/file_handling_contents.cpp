@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "file_handling.h"
 
+#include <platform/foundation/regular_file.h>
 #include <platform/foundation/text.h>
 #include <platform/storage/atomic_file.h>
 #include <platform/storage/property_list.h>
@@ -50,7 +51,7 @@ void cNSFileHandling::writeNSDataToFile(const QByteArray& contents, const QStrin
 std::optional<QByteArray> cNSFileHandling::readNSDataFromFile(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!platform::openRegularFile(file))
         return std::nullopt;
     return file.readAll();
 }

@@ -112,3 +112,12 @@ TEST(NSData, GoesToAFileAndBack)
     EXPECT_EQ(cNSFileHandling::readNSDataFromFile(path), bytes);
     EXPECT_EQ(cNSFileHandling::readNSDataFromFile(folder.path(u"missing"_s)), std::nullopt);
 }
+
+TEST(NSData, IsNothingWhereAPipeStands)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.path(u"a"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+
+    EXPECT_EQ(cNSFileHandling::readNSDataFromFile(path), std::nullopt);
+}

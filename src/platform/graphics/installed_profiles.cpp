@@ -2,6 +2,7 @@
 #include "installed_profiles.h"
 
 #include <platform/foundation/literals.h>
+#include <platform/foundation/regular_file.h>
 
 #include <QDir>
 #include <QDirIterator>
@@ -35,7 +36,7 @@ QStringList filesBelow(const QString& folder)
 QByteArray bytesOf(const QString& path)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return openRegularFile(file) ? file.readAll() : QByteArray();
 }
 
 std::vector<ColorSpace> spacesOf(const QStringList& folders)

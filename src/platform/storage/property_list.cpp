@@ -4,6 +4,7 @@
 #include "atomic_file.h"
 
 #include <platform/foundation/literals.h>
+#include <platform/foundation/regular_file.h>
 
 #include <QDateTime>
 #include <QFile>
@@ -193,7 +194,7 @@ private:
 std::optional<QVariantMap> readPropertyList(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!openRegularFile(file))
         return std::nullopt;
     return Reader(file).dictionary();
 }

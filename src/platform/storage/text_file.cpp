@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "text_file.h"
 
+#include <platform/foundation/regular_file.h>
+
 #include <QFile>
 #include <QStringDecoder>
 
@@ -9,7 +11,7 @@ namespace brenvaldo::platform::storage {
 std::optional<QString> readTextFile(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (!openRegularFile(file))
         return std::nullopt;
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = decoder(file.readAll());

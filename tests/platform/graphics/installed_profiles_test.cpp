@@ -12,6 +12,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <sys/stat.h>
+
 using namespace brenvaldo;
 using platform::graphics::ColorModel;
 using platform::graphics::ColorSpace;
@@ -63,6 +65,14 @@ TEST_F(InstalledProfiles, AreFoundInFoldersBelowAndThroughLinks)
     QFile::link(folder.path(), folder.path(u"vendor/loop"_s));
 
     EXPECT_EQ(found().size(), 1U);
+}
+
+TEST_F(InstalledProfiles, AreNoPipes)
+{
+    const QString path = folder.path(u"a.icc"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+
+    EXPECT_TRUE(found().empty());
 }
 
 TEST_F(InstalledProfiles, CountOnceHoweverOftenTheyAreInstalled)

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 using brenvaldo::platform::storage::readTextFile;
 using brenvaldo::test::TemporaryFolder;
@@ -40,4 +42,13 @@ TEST(TextFile, IsNothingWhenItIsNoText)
     EXPECT_EQ(readTextFile(folder.write(u"b"_s, "cut \xC3")), std::nullopt);
     EXPECT_EQ(readTextFile(folder.path(u"missing"_s)), std::nullopt);
     EXPECT_EQ(readTextFile(folder.path()), std::nullopt);
+}
+
+TEST(TextFile, IsNothingWhereAPipeStands)
+{
+    const TemporaryFolder folder;
+    const QString path = folder.path(u"a.c-action"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+
+    EXPECT_EQ(readTextFile(path), std::nullopt);
 }
