@@ -10,6 +10,7 @@
 #include <platform/foundation/paths.h>
 
 #include <algorithm>
+#include <limits>
 
 namespace brenvaldo::presets {
 
@@ -94,7 +95,8 @@ void cSheetControl::chooseLibraryDestination()
 void cSheetControl::hSetPhotosAtATime()
 {
     controls::TextField& field = m_panels.wwPreferencesWindow.tfPhotosAtATime;
-    const auto photos = std::max(static_cast<int>(field.integerValue()), 0);
+    constexpr std::int64_t most = std::numeric_limits<int>::max();
+    const auto photos = static_cast<int>(std::clamp<std::int64_t>(field.integerValue(), 0, most));
     field.setStringValue(QString::number(photos));
     remember(photosAtATimeKey(), photos);
 }

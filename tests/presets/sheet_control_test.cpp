@@ -274,6 +274,10 @@ TEST_F(SheetControl, KeepsHowManyPhotosARunWorksOnAtATime)
     actions.send(u"hCallPreferencesWw"_s);
     EXPECT_EQ(field.stringValue(), u"3"_s);
 
+    field.setStringValue(u"4294967297"_s);
+    actions.send(u"hSetPhotosAtATime"_s);
+    EXPECT_EQ(defaults.text(u"PhotosAtATime"_s), u"2147483647"_s);
+
     field.setStringValue(u"-2"_s);
     actions.send(u"hSetPhotosAtATime"_s);
     EXPECT_EQ(field.stringValue(), u"0"_s);
