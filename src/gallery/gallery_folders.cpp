@@ -5,6 +5,7 @@
 
 #include <files/file_handling.h>
 #include <platform/foundation/literals.h>
+#include <platform/storage/hidden_file.h>
 
 #include <QFile>
 
@@ -17,6 +18,7 @@ using files::cNSFileHandling;
 void createFolder(const QString& path)
 {
     cNSFileHandling::hCreateDirectory(path);
+    platform::storage::removeAbandonedFiles(path);
     cNSFileHandling::hAddIconToFile(path, icon(u"Brenvaldo_folderIcon2"_s));
 }
 

@@ -4,6 +4,7 @@
 
 #include <platform/foundation/literals.h>
 #include <platform/foundation/paths.h>
+#include <platform/storage/hidden_file.h>
 
 namespace brenvaldo::workspace {
 
@@ -48,6 +49,7 @@ void cCollectionViewController::editSelected(const QString& action, const QuickE
     if (!edit || !index || selectsNonPhoto())
         return;
     const QString path = m_photos.selectedEntry()->myPhotoDescription;
+    platform::storage::removeAbandonedFiles(folderOf(path));
     const imaging::ResultWord word = edit(path, folderOf(path));
     m_journal.add({.function = action, .source = path, .target = path, .word = word});
     m_photos.replaceAt(*index, editedEntry(path));

@@ -102,6 +102,21 @@ TEST_F(Gallery, MakesItsFoldersPagesAndPictures)
     EXPECT_EQ(desktop.opened, QStringList{u"file://"_s + folder.path(u"out/trip.html"_s)});
 }
 
+TEST_F(Gallery, RemovesWhatAKilledProgramLeftInItsFolders)
+{
+    addPhotos(1);
+    QStringList abandoned;
+    for (const QString& name : {u"DVimages_b"_s, u"DVimages_s"_s, u"DVcss"_s, u"DVpglightbox"_s}) {
+        QDir().mkpath(folder.path(u"out/"_s + name));
+        abandoned += folder.write(u"out/"_s + name + u"/.brenvaldo-0123abcd"_s, "half a picture");
+    }
+
+    run();
+
+    for (const QString& path : abandoned)
+        EXPECT_FALSE(QFileInfo::exists(path)) << path.toStdString();
+}
+
 TEST_F(Gallery, NamesPagesWithoutANameMyIndex)
 {
     addPhotos(1);

@@ -439,6 +439,18 @@ TEST_F(EditList, TurnsTheSelectedFileInItsFolder)
     );
 }
 
+TEST_F(EditList, RemovesWhatAKilledProgramLeftBesideTheSelectedFile)
+{
+    collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
+    neighbours.quickEdits.hFlipVerticalPicture
+        = [](const QString&, const QString&) { return imaging::ResultWord::Ok; };
+    const QString abandoned = folder.write(u".brenvaldo-0123abcd"_s, "half a photo");
+
+    actions.send(u"hFlipVertical"_s);
+
+    EXPECT_FALSE(QFileInfo::exists(abandoned));
+}
+
 TEST_F(EditList, MirrorsTheSelectedFile)
 {
     collectionView.hDroppedPhotos({photo(u"a.jpg"_s)});
