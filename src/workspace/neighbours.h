@@ -45,6 +45,7 @@ struct Neighbours
     std::function<std::optional<platform::graphics::Image>(const QString& name)> imageNamed = {};
     /// How many photos of a run may be in the making; 0: as many as there are cores.
     std::function<int()> photosAtATime = {};
+    int cores = 0; ///< to share out; 0: those of the machine
 };
 
 } // namespace brenvaldo::workspace

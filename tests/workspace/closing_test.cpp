@@ -80,6 +80,7 @@ TEST_F(ClosingWhilePhotosAreMade, WaitsForNothingButWhatIsPutInPlace)
     for (const QString& name : {u"a.jpg"_s, u"b.jpg"_s, u"c.jpg"_s, u"d.jpg"_s})
         photos.append(entry(u"/in/"_s + name, u"L"_s));
     neighbours.photosAtATime = [] { return 4; };
+    neighbours.cores = 4;
     panels.window.pubEditPhoto.selectIndex(2);
     select("framing");
     runs("framing", [&](const workspace::PhotoOutput& output) -> imaging::Outcome {

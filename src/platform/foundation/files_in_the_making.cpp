@@ -35,6 +35,13 @@ void awaitFile(const QString& path)
         files->waitFor(path);
 }
 
+void awaitUsesOfFile(const QString& path)
+{
+    const All all = filesOfThread();
+    for (FilesInTheMaking* files : all)
+        files->waitForUsesOf(path);
+}
+
 void awaitAllFiles()
 {
     const All all = filesOfThread();

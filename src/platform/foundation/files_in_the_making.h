@@ -21,12 +21,18 @@ public:
 
     /// Returns when no file in the making comes to stand at `path`.
     virtual void waitFor(const QString& path) = 0;
+    /// Returns when no file in the making is made of the one at `path`, or comes to stand there.
+    virtual void waitForUsesOf(const QString& path) = 0;
     /// Returns when no file is in the making.
     virtual void waitForAll() = 0;
 };
 
-/// To be called before a file is opened, copied, renamed or written by its path.
+/// To be called before a file is opened or copied by its path.
 void awaitFile(const QString& path);
+
+/// To be called before a file is written anew, moved or removed by its path: also waits for those
+/// that are made of it.
+void awaitUsesOfFile(const QString& path);
 
 void awaitAllFiles();
 

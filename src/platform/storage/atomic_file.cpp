@@ -62,7 +62,7 @@ void keepModeAndOwner(const QString& target, int replacement)
 
 AtomicFile::AtomicFile(const QString& target)
 {
-    awaitFile(target);
+    awaitUsesOfFile(target);
     m_target = resolvedTarget(target);
     if (!isPlainFileOrFree(m_target)) {
         m_fault = u"something else than a plain file stands there"_s;

@@ -173,7 +173,7 @@ bool copyItem(const SourceAndTarget& paths)
 
 bool moveItem(const SourceAndTarget& paths)
 {
-    awaitFile(paths.source);
+    awaitUsesOfFile(paths.source);
     awaitFile(paths.target);
     if (paths.target.isEmpty() || isTaken(paths.target))
         return false;
@@ -193,7 +193,7 @@ bool createSymbolicLink(const SourceAndTarget& paths)
 
 bool removeItem(const QString& path)
 {
-    awaitFile(path);
+    awaitUsesOfFile(path);
     // A trailing slash would lead through a link to the folder behind it.
     const QString item = appendingPathComponent(path, {});
     if (!isTaken(item))

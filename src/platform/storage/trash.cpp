@@ -72,7 +72,7 @@ bool moveLinkToTrash(const QString& link)
 
 bool moveToTrash(const QString& path)
 {
-    awaitFile(path);
+    awaitUsesOfFile(path);
     // Without its data folder Qt moves the file into the current folder and calls it success.
     if (path.isEmpty() || !createFolder(applicationSupportFolder()))
         return false;

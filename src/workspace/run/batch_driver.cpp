@@ -255,7 +255,8 @@ PictureSaver::Links BatchDriver::savingOf(const QLatin1String& function) const
         .imageHandling = m_links.subsystems.imageHandling,
         .journal = m_links.journal,
         .bar = m_panels.window.myProgressBar,
-        .photosAtATime = photosAtATime ? photosAtATime() : 0};
+        .photosAtATime = photosAtATime ? photosAtATime() : 0,
+        .cores = m_links.neighbours.cores};
 }
 
 OutputChoice BatchDriver::outputChoice() const

@@ -18,17 +18,22 @@ namespace brenvaldo::workspace {
 
 namespace {
 
-int photosAtATime(int wanted, qsizetype photos)
+int coresOf(const PictureSaver::Links& links)
 {
-    const int most = wanted > 0 ? wanted : QThread::idealThreadCount();
+    return links.cores > 0 ? links.cores : QThread::idealThreadCount();
+}
+
+int photosAtATime(int wanted, int cores, qsizetype photos)
+{
+    const int most = wanted > 0 ? std::min(wanted, cores) : cores;
     return static_cast<int>(std::clamp<qsizetype>(photos, 1, most));
 }
 
-BackgroundWriter::Limits limitsOf(int photos)
+BackgroundWriter::Limits limitsOf(int photos, int cores)
 {
     return {
         .files = photos,
-        .engineThreads = std::max(QThread::idealThreadCount() / photos, 1),
+        .engineThreads = std::max(cores / photos, 1),
         .memory = platform::memoryOfMachine() / 4};
 }
 
@@ -84,8 +89,9 @@ imaging::PhotoOutcome withoutPixels(const imaging::PhotoOutcome& photo)
 
 PictureSaver::PictureSaver(Links links, qsizetype photos)
     : m_links(std::move(links))
-    , m_photosAtATime(workspace::photosAtATime(m_links.photosAtATime, photos))
-    , m_writer(limitsOf(m_photosAtATime))
+    , m_cores(coresOf(m_links))
+    , m_photosAtATime(workspace::photosAtATime(m_links.photosAtATime, m_cores, photos))
+    , m_writer(limitsOf(m_photosAtATime, m_cores))
 {
 }
 
@@ -99,7 +105,8 @@ void PictureSaver::take(const imaging::PhotoOutcome& photo)
     if (picture)
         start(photo, *picture);
     else
-        m_waiting.push_back({.photo = photo, .places = {placeOf(photo.target)}});
+        m_waiting.push_back({.photo = photo, .places = {placeOf(photo.target)}, .placeOfSource = {}}
+        );
     recordFinished();
 }
 
@@ -113,7 +120,11 @@ void PictureSaver::start(const imaging::PhotoOutcome& photo, const imaging::Pict
          .memory = picture.image ? platform::graphics::memoryNeed(*picture.image) : 0,
          .diskSpace = spaceAround(targets.last())}
     );
-    Waiting waiting{.photo = withoutPixels(photo), .places = {}, .isMade = true};
+    Waiting waiting{
+        .photo = withoutPixels(photo),
+        .places = {},
+        .placeOfSource = placeOf(photo.source),
+        .isMade = true};
     std::transform(targets.begin(), targets.end(), std::back_inserter(waiting.places), placeOf);
     m_waiting.push_back(waiting);
 }
@@ -129,8 +140,23 @@ void PictureSaver::waitFor(const QString& path)
     if (m_waiting.empty())
         return;
     const QString place = placeOf(path);
-    const auto holds = [&place](const Waiting& each) { return isOrHolds(place, each.places); };
-    while (std::any_of(m_waiting.begin(), m_waiting.end(), holds))
+    recordUntilNone([&place](const Waiting& each) { return isOrHolds(place, each.places); });
+}
+
+void PictureSaver::waitForUsesOf(const QString& path)
+{
+    if (m_waiting.empty())
+        return;
+    const QString place = placeOf(path);
+    recordUntilNone([&place](const Waiting& each) {
+        return isOrHolds(place, each.places + QStringList{each.placeOfSource});
+    });
+}
+
+template <class IsMeant>
+void PictureSaver::recordUntilNone(const IsMeant& isMeant)
+{
+    while (std::any_of(m_waiting.begin(), m_waiting.end(), isMeant))
         recordFirst();
 }
 

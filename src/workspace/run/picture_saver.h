@@ -29,7 +29,8 @@ public:
         imaging::DVImageHandling& imageHandling;
         RunJournal& journal;
         const controls::ProgressIndicator& bar; ///< knows whether the program ends
-        int photosAtATime = 0; ///< 0: as many as there are cores
+        int photosAtATime = 0; ///< 0: as many as there are cores, which is also the most
+        int cores = 0; ///< 0: those of the machine
     };
 
     PictureSaver(Links links, qsizetype photos);
@@ -48,18 +49,23 @@ private:
     {
         imaging::PhotoOutcome photo; ///< without pixels
         QStringList places; ///< of the files, however their paths are written
+        QString placeOfSource;
         bool isMade = false; ///< by the writer
     };
 
     void waitFor(const QString& path) override;
+    void waitForUsesOf(const QString& path) override;
     void waitForAll() override;
     void start(const imaging::PhotoOutcome& photo, const imaging::PictureToSave& picture);
+    template <class IsMeant>
+    void recordUntilNone(const IsMeant& isMeant);
     void recordFinished();
     void recordFirst();
     void record(const imaging::PhotoOutcome& photo, imaging::ResultWord saved);
     void recordWhatStands();
 
     Links m_links;
+    int m_cores;
     int m_photosAtATime;
     BackgroundWriter m_writer;
     std::deque<Waiting> m_waiting; ///< in the order of the photos

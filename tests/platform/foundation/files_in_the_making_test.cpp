@@ -24,6 +24,10 @@ public:
     {
     }
     void waitFor(const QString& path) override { m_waits.append(m_name + u' ' + path); }
+    void waitForUsesOf(const QString& path) override
+    {
+        m_waits.append(m_name + u" uses of "_s + path);
+    }
     void waitForAll() override { m_waits.append(m_name); }
 
 private:
@@ -40,15 +44,26 @@ TEST(FilesInTheMaking, AreWaitedForOnTheirThreadAlone)
         const Files outer(u"outer"_s, waits);
         const Files inner(u"inner"_s, waits);
         platform::awaitFile(u"/a.jpg"_s);
+        platform::awaitUsesOfFile(u"/d.jpg"_s);
         platform::awaitAllFiles();
         std::thread([] {
             platform::awaitFile(u"/b.jpg"_s);
+            platform::awaitUsesOfFile(u"/b.jpg"_s);
             platform::awaitAllFiles();
         }).join();
     }
     platform::awaitFile(u"/c.jpg"_s);
 
-    EXPECT_EQ(waits, (QStringList{u"outer /a.jpg"_s, u"inner /a.jpg"_s, u"outer"_s, u"inner"_s}));
+    EXPECT_EQ(
+        waits,
+        (QStringList{
+            u"outer /a.jpg"_s,
+            u"inner /a.jpg"_s,
+            u"outer uses of /d.jpg"_s,
+            u"inner uses of /d.jpg"_s,
+            u"outer"_s,
+            u"inner"_s})
+    );
 }
 
 TEST(CommitTurn, IsWaitedForWhileItLives)

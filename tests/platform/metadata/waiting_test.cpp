@@ -18,9 +18,11 @@ class NotedPaths : public FilesInTheMaking
 {
 public:
     void waitFor(const QString& path) override { paths.append(path); }
+    void waitForUsesOf(const QString& path) override { used.append(path); }
     void waitForAll() override { }
 
     QStringList paths;
+    QStringList used;
 };
 
 } // namespace
@@ -33,4 +35,5 @@ TEST(ReadingAPhoto, WaitsForItToBeMade)
     EXPECT_FALSE(metadata::readMetadataBlocks(u"/nowhere/b.jpg"_s));
 
     EXPECT_EQ(files.paths, (QStringList{u"/nowhere/a.jpg"_s, u"/nowhere/b.jpg"_s}));
+    EXPECT_EQ(files.used, QStringList());
 }

@@ -30,9 +30,15 @@ public:
         if (!paths.contains(path))
             paths.append(path);
     }
+    void waitForUsesOf(const QString& path) override
+    {
+        waitFor(path);
+        used.append(path);
+    }
     void waitForAll() override { }
 
     QStringList paths;
+    QStringList used; ///< of which others may be made
 };
 
 struct Way
@@ -40,6 +46,7 @@ struct Way
     const char* name;
     std::function<void(const QString& path, const QString& other)> touch;
     bool touchesBoth = false;
+    bool changes = false; ///< the first one
 
     friend void PrintTo(const Way& way, std::ostream* out) { *out << way.name; }
 };
@@ -59,6 +66,7 @@ TEST_P(WayToAFile, WaitsForIt)
     GetParam().touch(path, other);
 
     EXPECT_EQ(files.paths, GetParam().touchesBoth ? (QStringList{path, other}) : QStringList{path});
+    EXPECT_EQ(files.used, GetParam().changes ? QStringList{path} : QStringList());
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -69,10 +77,16 @@ INSTANTIATE_TEST_SUITE_P(
             [](const auto& path, const auto&) { std::ignore = storage::fileExists(path); }},
         Way{"Attributes",
             [](const auto& path, const auto&) { std::ignore = storage::fileAttributes(path); }},
-        Way{"Removal", [](const auto& path, const auto&) { storage::removeItem(path); }},
-        Way{"Trash",
-            [](const auto& path, const auto&) { std::ignore = storage::moveToTrash(path); }},
-        Way{"Writing", [](const auto& path, const auto&) { const storage::AtomicFile file(path); }},
+        Way{.name = "Removal",
+            .touch = [](const auto& path, const auto&) { storage::removeItem(path); },
+            .changes = true},
+        Way{.name = "Trash",
+            .touch
+            = [](const auto& path, const auto&) { std::ignore = storage::moveToTrash(path); },
+            .changes = true},
+        Way{.name = "Writing",
+            .touch = [](const auto& path, const auto&) { const storage::AtomicFile file(path); },
+            .changes = true},
         Way{"Listing",
             [](const auto& path, const auto&) { std::ignore = storage::folderEntries(path); }},
         Way{"Link",
@@ -88,6 +102,7 @@ INSTANTIATE_TEST_SUITE_P(
             [](const auto& path, const auto& other) {
                 storage::moveItem({.source = path, .target = other});
             },
+            true,
             true}
     ),
     test::CaseName{}

@@ -6,9 +6,14 @@
 
 #include <platform/foundation/literals.h>
 #include <platform/storage/atomic_file.h>
+#include <platform/storage/file_system.h>
+#include <platform/storage/trash.h>
+
+#include <support/environment.h>
 
 #include <QDir>
 
+#include <atomic>
 #include <chrono>
 #include <thread>
 
@@ -32,12 +37,26 @@ ResultWord writeOverWhatIsThere(const PictureToSave& picture)
     return QFile::exists(picture.destination) ? writeLate(picture) : ResultWord::Exists;
 }
 
+std::atomic<int> writingNow = 0;
+std::atomic<int> mostWritingAtOnce = 0;
+
+ResultWord countWriting(const PictureToSave& /*picture*/)
+{
+    const int now = ++writingNow;
+    for (int most = mostWritingAtOnce;
+         most < now && !mostWritingAtOnce.compare_exchange_weak(most, now);) { }
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    --writingNow;
+    return ResultWord::Ok;
+}
+
 class FilesOfARun : public test::ControllerTest
 {
 protected:
     FilesOfARun()
     {
         neighbours.photosAtATime = [] { return 4; };
+        neighbours.cores = 4;
         panels.vwMainDestination.tfImageDestinationFolder.setStringValue(folder.path());
         panels.window.pubEditPhoto.selectIndex(2);
         select("framing");
@@ -156,6 +175,61 @@ TEST_F(FilesOfARun, StandBeforeAPhotoOfThatNameIsNamed)
     run();
 
     EXPECT_EQ(found, (QList<bool>{false, true}));
+}
+
+TEST_F(FilesOfARun, StandBeforeWhatTheyAreMadeOfIsChanged)
+{
+    using namespace platform::storage;
+    const QString source = folder.path(u"in/a.jpg"_s);
+    const QString other = folder.path(u"b.jpg"_s);
+    const test::Environment data("XDG_DATA_HOME", folder.path(u"data"_s).toUtf8());
+    const std::vector<std::function<void()>> changes{
+        [&] { EXPECT_TRUE(writeFileAtomically(source, "another")); },
+        [&] { EXPECT_TRUE(moveItem({.source = source, .target = other})); },
+        [&] { EXPECT_TRUE(removeItem(source)); },
+        [&] { EXPECT_TRUE(removeItem(folder.path(u"in"_s))); },
+        [&] { EXPECT_TRUE(moveToTrash(source)); }};
+    addPhotos({source, u"/in/b.jpg"_s});
+    for (const auto& change : changes) {
+        QDir().mkpath(folder.path(u"in"_s));
+        static_cast<void>(folder.write(u"in/a.jpg"_s, "a photo"));
+        const qsizetype before = recorded();
+        qsizetype recordedAtLook = 0;
+        qsizetype recordedAtChange = 0;
+        runs("framing", [&](const PhotoOutput& output) -> imaging::Outcome {
+            if (output.photo.source == source)
+                return latePicture(output);
+            EXPECT_TRUE(fileExists(source));
+            recordedAtLook = recorded() - before;
+            change();
+            recordedAtChange = recorded() - before;
+            return ResultWord::Ok;
+        });
+
+        run();
+
+        EXPECT_EQ(recordedAtLook, 0);
+        EXPECT_EQ(recordedAtChange, 1);
+        QFile::remove(folder.path(u"a.jpg"_s));
+    }
+}
+
+TEST_F(FilesOfARun, AreNoMoreAtOnceThanThereAreCores)
+{
+    neighbours.photosAtATime = [] { return 1'000'000; };
+    neighbours.cores = 2;
+    for (int photo = 0; photo < 12; ++photo)
+        addPhotos({u"/in/%1.jpg"_s.arg(photo)});
+    mostWritingAtOnce = 0;
+    runs("framing", [](const PhotoOutput& output) {
+        PictureToSave picture = latePicture(output);
+        picture.writer = countWriting;
+        return picture;
+    });
+
+    run();
+
+    EXPECT_EQ(mostWritingAtOnce, 2);
 }
 
 TEST_F(FilesOfARun, HaveTheirWordsWhereTheLastOneIsAskedFor)
