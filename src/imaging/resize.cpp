@@ -4,11 +4,11 @@
 #include "failure_log.h"
 #include "resize_rules.h"
 #include "resolution_rules.h"
-#include "rotate_rules.h"
 #include "writer_rules.h"
 
 #include <platform/codecs/image_source.h>
 #include <platform/foundation/literals.h>
+#include <platform/foundation/numbers.h>
 
 #include <cmath>
 
@@ -86,7 +86,9 @@ std::optional<Image> DVImageHandling::hScalePictureBase(const Image& image, floa
 {
     const double scale = std::abs(static_cast<double>(factor));
     const QSizeF points = exactPoints(image.pixelSize(), image.dotsPerInch());
-    const PixelSize canvas = canvasOfPoints(points * scale);
+    const PixelSize canvas
+        = {platform::truncated(std::round(points.width() * scale)),
+           platform::truncated(std::round(points.height() * scale))};
     if (!givesContext(canvas))
         return std::nullopt;
     const Image scaled = image.scaledTo(canvas).withDotsPerInch(pointsPerInch);

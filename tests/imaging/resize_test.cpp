@@ -492,6 +492,14 @@ TEST(ScalePictureBase, TurnsThePictureAtANegativeFactor)
     EXPECT_EQ(cornerColors(turned->toQImage()), "WBGR");
 }
 
+TEST(ScalePictureBase, ScalesToTheNearestPixel)
+{
+    const TemporaryFolder folder;
+    const auto scaled = DVImageHandling::hScalePictureBase(pictureOfDensity(folder, 72), 0.505F);
+    ASSERT_TRUE(scaled);
+    EXPECT_EQ(scaled->pixelSize(), (PixelSize{61, 30})); // of 60.6 and 30.3
+}
+
 TEST(ScalePictureBase, GivesNothingWhereNoPixelIsLeft)
 {
     const TemporaryFolder folder;
