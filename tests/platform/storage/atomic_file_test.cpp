@@ -250,7 +250,7 @@ TEST(AtomicFile, RefusesTheNameOfADevice)
     if (::mknod(QFile::encodeName(device).constData(), S_IFCHR | 0600, makedev(1, 3)) != 0)
         device = u"/dev/null"_s;
     ASSERT_TRUE(QFile::link(device, link));
-    const QStringList before = allEntries(folder);
+    const QStringList before = allEntries(folder.path());
 
     for (const QString& path : {device, link}) {
         EXPECT_FALSE(writeFileAtomically(path, "new"));
@@ -259,7 +259,7 @@ TEST(AtomicFile, RefusesTheNameOfADevice)
 
     EXPECT_TRUE(S_ISCHR(statusOf(device).st_mode));
     EXPECT_TRUE(QFileInfo(link).isSymLink());
-    EXPECT_EQ(allEntries(folder), before);
+    EXPECT_EQ(allEntries(folder.path()), before);
 }
 
 TEST(AtomicFile, TakesTheNameOfABrokenLink)
