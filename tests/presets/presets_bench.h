@@ -6,8 +6,8 @@
 #include <controls/action_registry.h>
 #include <platform/foundation/literals.h>
 #include <presets/code_record.h>
-#include <presets/gallery_record.h>
 #include <presets/exif_record.h>
+#include <presets/gallery_record.h>
 #include <presets/image_records.h>
 #include <presets/preset_manager.h>
 #include <presets/renaming_records.h>

@@ -43,7 +43,7 @@ QByteArray jpegOf(const JpegKind& kind)
         encoder.num_scans = static_cast<int>(scans.size());
     }
     jpeg_start_compress(&encoder, TRUE);
-    std::array<JSAMPLE, width * 3> row = {};
+    std::array<JSAMPLE, width* 3> row = {};
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width * 3; ++x)
             row[static_cast<std::size_t>(x)] = static_cast<JSAMPLE>((x * 7919 + y * 104729) >> 3);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <platform/foundation/literals.h>
-#include <workspace/functions/functions.h>
 #include <platform/foundation/user_defaults.h>
 #include <support/environment.h>
 #include <support/photo_builder.h>
@@ -11,6 +10,7 @@
 #include <views/photos/photo_grid.h>
 #include <views/window/main_window.h>
 #include <views/window/qt_desktop.h>
+#include <workspace/functions/functions.h>
 
 #include <gtest/gtest.h>
 
