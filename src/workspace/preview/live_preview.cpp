@@ -48,6 +48,7 @@ void cCollectionViewController::callForDefaultImage()
 void cCollectionViewController::showNoPhoto()
 {
     callForDefaultImage();
+    m_window.tfOriginalPictureStrRef.setStringValue({});
     if (m_neighbours.forgetPhoto)
         m_neighbours.forgetPhoto();
 }
@@ -68,6 +69,7 @@ void cCollectionViewController::selectionChanged()
         platform::log(u"no picture selected"_s);
         return;
     }
+    m_window.tfOriginalPictureStrRef.setStringValue(*path); // what is printed
     callForPreview();
     if (m_neighbours.hiDoNothing)
         m_neighbours.hiDoNothing(*path);

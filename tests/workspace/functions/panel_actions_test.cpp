@@ -276,6 +276,7 @@ TEST_F(PanelActions, PrintThePhotoThatIsNamed)
     QStringList printed;
     neighbours.printService = [&](const QString& path) { printed.append(path); };
 
+    panels.window.tfOriginalPictureStrRef.setStringValue({});
     actions.send(u"hPrintOrigPicture"_s);
     panels.window.tfOriginalPictureStrRef.setStringValue(u"/in/a.jpg"_s);
     actions.send(u"hPrintOrigPicture"_s);

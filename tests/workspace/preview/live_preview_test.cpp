@@ -209,6 +209,18 @@ TEST_F(LivePreview, LogsThatNothingIsSelected)
     EXPECT_FALSE(showsOverlay());
 }
 
+TEST_F(LivePreview, NamesTheSelectedPhotoAsTheOneToPrint)
+{
+    const controls::TextField& toPrint = panels.window.tfOriginalPictureStrRef;
+    photos.append(entry(photo(u"a.jpg"_s), u"L"_s));
+    photos.select(0);
+    EXPECT_EQ(toPrint.stringValue(), folder.path(u"a.jpg"_s));
+
+    photos.clear();
+    collectionView.callForPreview();
+    EXPECT_EQ(toPrint.stringValue(), QString());
+}
+
 TEST_F(LivePreview, ShowsThePictureOfEachGalleryTemplate)
 {
     QStringList shown;
