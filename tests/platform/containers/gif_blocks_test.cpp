@@ -15,7 +15,8 @@ const QByteArray picture("\x2C\0\0\0\0\x01\0\x01\0\0\x02\x02\x21\xFE\0", 15);
 
 TEST(GifBlocks, AreWalkedOverPicturesAndTheirData)
 {
-    const auto extensions = readGifExtensions(header + picture + comment + ';');
+    const QByteArray file = header + picture + comment + ';';
+    const auto extensions = readGifExtensions(file);
 
     ASSERT_EQ(extensions.size(), 1);
     EXPECT_EQ(extensions[0].label, 0xFE);
