@@ -61,8 +61,8 @@ TEST(PhotoshopSections, OfALargeFileCountLayersInEightBytes)
 
 TEST(PhotoshopSections, TellResourcesThoughTheLayersAreCutOff)
 {
-    const auto sections
-        = photoshopSections(headerOfVersion(1) + colors + resources + QByteArray("\0\0\0\x09l", 5));
+    const QByteArray file = headerOfVersion(1) + colors + resources + QByteArray("\0\0\0\x09l", 5);
+    const auto sections = photoshopSections(file);
 
     ASSERT_TRUE(sections);
     EXPECT_EQ(sections->resources, "rrr");
